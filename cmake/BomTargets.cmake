@@ -1,0 +1,70 @@
+# SPDX-FileCopyrightText: 2026 The BOM developers
+# SPDX-License-Identifier: MIT
+# One library per folder, one test program per library: a test program links its own library and what that may use.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+add_compile_options(-Wall -Wextra -Werror)
+add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
+                        QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(BOM_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# bom_sources(OUT): every source and header below the current folder, folders with a list file of their own left out.
+function(bom_sources out)
+  file(GLOB_RECURSE found CONFIGURE_DEPENDS *.cpp *.h *.ui *.qrc)
+  set(${out} ${found} PARENT_SCOPE)
+endfunction()
+
+# bom_library(NAME [SHARED] LINKS targets...): the library of the current folder.
+function(bom_library name)
+  cmake_parse_arguments(arg "SHARED" "" "LINKS;SOURCES" ${ARGN})
+  set(kind STATIC)
+  if(arg_SHARED)
+    set(kind SHARED)
+  endif()
+  if(NOT arg_SOURCES)
+    bom_sources(arg_SOURCES)
+  endif()
+  add_library(${name} ${kind} ${arg_SOURCES})
+  target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
+  target_link_libraries(${name} PUBLIC ${arg_LINKS})
+endfunction()
+
+# bom_test(FOLDER LINKS targets...): the test program of one folder, run under two hash seeds so that an order that
+# comes from hashing shows as a failure.
+function(bom_test folder)
+  cmake_parse_arguments(arg "" "" "LINKS" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${folder}/*.cpp
+                                              ${CMAKE_SOURCE_DIR}/tests/${folder}/*.h)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(${folder}_test ${sources})
+  target_include_directories(${folder}_test PRIVATE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(${folder}_test PRIVATE ${arg_LINKS} GTest::gtest GTest::gmock)
+  target_compile_definitions(${folder}_test PRIVATE BOM_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
+                                                    BOM_BINARY_DIR="${CMAKE_BINARY_DIR}")
+  foreach(seed 0 20261)
+    add_test(NAME ${folder}_seed${seed} COMMAND ${folder}_test)
+    set_tests_properties(${folder}_seed${seed} PROPERTIES ENVIRONMENT
+      "QT_HASH_SEED=${seed};QT_QPA_PLATFORM=offscreen;TZ=UTC;LC_ALL=C.UTF-8")
+  endforeach()
+endfunction()
