@@ -1,0 +1,125 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "designs/component.h"
+#include "designs/problem.h"
+#include "designs/textarena.h"
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+namespace designs {
+
+/// What a design says about itself. Empty texts where it says nothing.
+struct DesignInfo
+{
+    QString title;
+    QString author;
+    QString documentNumber;
+    QString revision;
+    QString created;
+    QString variant;
+    /// Absolute path of the file that was opened or, for a project, of its root sheet.
+    QString file;
+    QDateTime modified;
+};
+
+/// One use of a sheet in the hierarchy. The root is the first.
+struct SheetUse
+{
+    /// Path of sheet names for people, "/" for the root, "/Power/Input" below.
+    QString path;
+    quint32 file = 0;
+};
+
+/// Symbols that are no components or went into one, for the account of where every symbol stayed.
+struct SymbolCount
+{
+    /// Symbols as drawn, times the uses of their sheet.
+    qsizetype placed = 0;
+    /// Power symbols and others whose reference begins with "#".
+    qsizetype power = 0;
+    /// Further units of a part that stands for all of them.
+    qsizetype mergedUnits = 0;
+};
+
+/// Side of the board on which a part is placed.
+enum class Side
+{
+    NotPlaced,
+    Top,
+    Bottom
+};
+
+/// A design as read from its files: components in the order of the hierarchy and files.
+class Design
+{
+public:
+    Design();
+    Design(const Design &) = delete;
+    Design &operator=(const Design &) = delete;
+    virtual ~Design();
+
+    [[nodiscard]] const std::vector<Component> &components() const { return m_components; }
+    [[nodiscard]] const PropertyNames &names() const { return m_names; }
+    [[nodiscard]] const DesignInfo &info() const { return m_info; }
+    [[nodiscard]] const QStringList &files() const { return m_files; }
+    [[nodiscard]] const std::vector<SheetUse> &sheets() const { return m_sheets; }
+    [[nodiscard]] const SymbolCount &symbols() const { return m_symbols; }
+    /// The variants that the design defines, sorted.
+    [[nodiscard]] const QStringList &variants() const { return m_variants; }
+    /// What the reader noticed and went on from: units that differ, symbols missing in the library cache.
+    [[nodiscard]] const std::vector<Problem> &warnings() const { return m_warnings; }
+
+    /// Where a reference is placed; the board file is read at the first question.
+    [[nodiscard]] virtual Side placement(std::string_view reference) const;
+
+    /// Counts the drawn symbols anew from the files' text, independently of the records above; `error` tells
+    /// when a file cannot be read any more. The default counts components.
+    [[nodiscard]] virtual SymbolCount recount(Problem *error) const;
+
+    /// The name numbers of the reference, the value and the footprint as the format stores them.
+    [[nodiscard]] NameId referenceName() const { return m_referenceName; }
+    [[nodiscard]] NameId valueName() const { return m_valueName; }
+
+    /// The value of a component's property under its stored name; knows the value and the reference too.
+    [[nodiscard]] std::optional<std::string_view> stored(const Component &component, NameId id) const;
+
+protected:
+    TextArena m_arena;
+    PropertyNames m_names;
+    std::vector<Component> m_components;
+    DesignInfo m_info;
+    QStringList m_files;
+    std::vector<SheetUse> m_sheets;
+    SymbolCount m_symbols;
+    QStringList m_variants;
+    std::vector<Problem> m_warnings;
+    NameId m_referenceName = 0;
+    NameId m_valueName = 0;
+};
+
+/// How to read a design.
+struct ReadOptions
+{
+    /// The variant to apply; empty for the design as drawn.
+    QString variant;
+};
+
+/// A design, or why there is none.
+struct ReadResult
+{
+    std::unique_ptr<Design> design;
+    Problem error;
+};
+
+/// Reads a design file: a KiCad schematic (.kicad_sch) or project (.kicad_pro), or a CSV part list (any other
+/// name).
+[[nodiscard]] ReadResult readDesign(const QString &path, const ReadOptions &options = {});
+
+} // namespace designs

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace designs {
+
+/// Something wrong with a design file: where, and what. `line` counts from 1; 0 when the whole file is meant.
+struct Problem
+{
+    QString file;
+    int line = 0;
+    QString text;
+
+    /// "FILE:LINE: text", without the line when there is none.
+    [[nodiscard]] QString message() const
+    {
+        return line > 0 ? file + u':' + QString::number(line) + QStringLiteral(": ") + text
+                        : file + QStringLiteral(": ") + text;
+    }
+
+    bool operator==(const Problem &) const = default;
+};
+
+} // namespace designs

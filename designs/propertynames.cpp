@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/propertynames.h"
+
+#include <QString>
+
+namespace designs {
+
+namespace {
+
+QString folded(std::string_view name)
+{
+    return QString::fromUtf8(name.data(), qsizetype(name.size())).toCaseFolded();
+}
+
+} // namespace
+
+NameId PropertyNames::intern(std::string_view name)
+{
+    const auto found = m_ids.find(name);
+    if (found != m_ids.end()) {
+        return found->second;
+    }
+    const QByteArray &kept = m_storage.emplace_back(name.data(), qsizetype(name.size()));
+    const std::string_view view(kept.constData(), std::size_t(kept.size()));
+    const auto id = NameId(m_names.size());
+    m_names.push_back(view);
+    m_ids.emplace(view, id);
+    return id;
+}
+
+void PropertyNames::setAlias(std::string_view alias, NameId id)
+{
+    const QByteArray &kept = m_storage.emplace_back(alias.data(), qsizetype(alias.size()));
+    m_aliases[{kept.constData(), std::size_t(kept.size())}] = id;
+}
+
+std::vector<NameId> PropertyNames::candidates(std::string_view name) const
+{
+    std::vector<NameId> ids;
+    const auto add = [&ids](NameId id) {
+        if (std::find(ids.begin(), ids.end(), id) == ids.end()) {
+            ids.push_back(id);
+        }
+    };
+    if (const auto exact = m_ids.find(name); exact != m_ids.end()) {
+        add(exact->second);
+    }
+    if (const auto alias = m_aliases.find(name); alias != m_aliases.end()) {
+        add(alias->second);
+    }
+    const QString wanted = folded(name);
+    for (NameId id = 0; id < m_names.size(); ++id) {
+        if (folded(m_names[id]) == wanted) {
+            add(id);
+        }
+    }
+    return ids;
+}
+
+} // namespace designs

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class APPLNDOCUMENT;
+class IMODULE;
+
+/// The kinds of document that a process is asked for.
+constexpr int DOCUMENT_KIND_DESIGN = 2;
+
+/// The application that hosts the modules. A program makes exactly one and installs it with
+/// setapplnprocess().
+class APPLNPROCESS
+{
+public:
+    APPLNPROCESS() = default;
+    APPLNPROCESS(const APPLNPROCESS &) = delete;
+    APPLNPROCESS &operator=(const APPLNPROCESS &) = delete;
+    virtual ~APPLNPROCESS() = default;
+
+    /// The current document of that kind; a null name takes whichever is open. Null when none is.
+    [[nodiscard]] virtual APPLNDOCUMENT *currentdocument(int kind, const char *name) const = 0;
+
+    /// The folder of the program, as the process was started (it may be relative).
+    [[nodiscard]] virtual QString getbinpath() const = 0;
+
+    /// The folder in which the process keeps the user's files for an application such as "BOM".
+    [[nodiscard]] virtual QString getdatapath(const char *application) const = 0;
+
+    /// An interface of another application or module; null when there is none.
+    [[nodiscard]] virtual IMODULE *getmoduleinterface(const char *application, unsigned id) = 0;
+};
+
+/// The installed process, null before a program has installed one.
+[[nodiscard]] APPLNPROCESS *getapplnprocess();
+
+/// Installs the process; it stays owned by the caller. Null takes it away.
+void setapplnprocess(APPLNPROCESS *process);

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/framework/imodule.h"
+#include "host/netlist/netlist.h"
+
+class NETCACHE;
+
+/// Who wants to know that the design behind a cache has changed.
+class INETCLIENT : public IMODULE
+{
+public:
+    [[nodiscard]] virtual bool isvisible() = 0;
+
+    /// The design changed; `reload` tells whether the cache holds the new one already.
+    virtual void designChanged(bool reload) = 0;
+
+protected:
+    ~INETCLIENT() = default;
+};
+
+/// An application that owns a design and fills caches with its netlist.
+class INETSERVER : public IMODULE
+{
+public:
+    /// Fills the cache's netlist; false leaves it as it is.
+    virtual bool sendnetlist(NETCACHE &cache, int context, int detail) = 0;
+    virtual void addcache(NETCACHE *cache) = 0;
+    virtual void removecache(NETCACHE *cache) = 0;
+
+protected:
+    ~INETSERVER() = default;
+};
+
+/// A module's copy of the design's netlist, kept up to date on demand: the server invalidates it, the module
+/// validates it when the host gives it time.
+class NETCACHE final : public NETLIST
+{
+public:
+    NETCACHE() = default;
+    NETCACHE(const NETCACHE &) = delete;
+    NETCACHE &operator=(const NETCACHE &) = delete;
+    ~NETCACHE();
+
+    /// The client that hears of changes; not owned.
+    void attach(INETCLIENT *client) { m_client = client; }
+
+    /// The server to read from; null detaches. Not owned.
+    void setsource(INETSERVER *server);
+    void setcontext(int context, int detail);
+
+    /// Reads the netlist again when it is stale and tells the client, in that order. With `wait` 0 a stale
+    /// cache only tells the client that the design changed.
+    void validate(int wait);
+
+    /// Marks the content stale.
+    void invalidate() { m_stale = true; }
+    [[nodiscard]] bool isstale() const { return m_stale; }
+
+private:
+    INETCLIENT *m_client = nullptr;
+    INETSERVER *m_server = nullptr;
+    int m_context = 0;
+    int m_detail = 0;
+    bool m_stale = true;
+};

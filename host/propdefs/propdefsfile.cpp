@@ -1,0 +1,185 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "host/propdefs/propdefsfile.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QSaveFile>
+
+#include <optional>
+
+namespace {
+
+constexpr auto shippedDefinitions = "[PROPDEFS]\n"
+                                    "\"PACKAGE\",STRING\n"
+                                    "\"CODE\",STRING,\"Stock Code\"\n"
+                                    "\"COST\",FLOAT,\"Unit Cost\"\n"
+                                    "\"DNP\",YESNO,\"Do not populate\"\n";
+
+QString theFile;
+
+const QString &sectionName()
+{
+    static const QString name = QStringLiteral("PROPDEFS");
+    return name;
+}
+
+bool isHeading(const QString &line, const QString &section)
+{
+    return line.trimmed().compare(u'[' + section + u']', Qt::CaseInsensitive) == 0;
+}
+
+bool isAnyHeading(const QString &line)
+{
+    const QString text = line.trimmed();
+    return text.startsWith(u'[') && text.endsWith(u']');
+}
+
+bool isComment(const QString &line)
+{
+    const QString text = line.trimmed();
+    return text.isEmpty() || text.startsWith(u';') || text.startsWith(u'#');
+}
+
+std::optional<PropType> typeOfKeyword(const QString &keyword)
+{
+    for (int number = 1; number <= 8; ++number) {
+        const auto type = static_cast<PropType>(number);
+        const QString name = propTypeKeyword(type);
+        if (!name.isEmpty() && name.compare(keyword, Qt::CaseInsensitive) == 0) {
+            return type;
+        }
+    }
+    return std::nullopt;
+}
+
+/// Fills `definition`, or returns what is wrong with the line.
+QString parseLine(const QString &line, PROPDEF *definition)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("^\\s*\"([^\"]*)\"\\s*,\\s*([A-Za-z]+)\\s*(?:,\\s*\"(.*)\"\\s*)?$"));
+    const QRegularExpressionMatch match = pattern.match(line);
+    if (!match.hasMatch() || match.capturedView(1).isEmpty()) {
+        return QStringLiteral("expected \"NAME\",TYPE or \"NAME\",TYPE,\"description\"");
+    }
+    const auto type = typeOfKeyword(match.captured(2));
+    if (!type) {
+        return QStringLiteral("unknown property type \"") + match.captured(2) +
+               QStringLiteral("\" (YESNO, HIGHLOW, TRUEFALSE, STRING, INT, FLOAT)");
+    }
+    *definition = PROPDEF{match.captured(1), *type, match.captured(3)};
+    return {};
+}
+
+} // namespace
+
+void PROPTEXT::add(const QString &section, const QString &line)
+{
+    qsizetype at = 0;
+    while (at < m_lines.size() && !isHeading(m_lines.at(at), section)) {
+        ++at;
+    }
+    if (at == m_lines.size()) {
+        m_lines << u'[' + section + u']' << line;
+        return;
+    }
+    qsizetype end = at + 1;
+    for (qsizetype i = at + 1; i < m_lines.size() && !isAnyHeading(m_lines.at(i)); ++i) {
+        if (!m_lines.at(i).trimmed().isEmpty()) {
+            end = i + 1;
+        }
+    }
+    m_lines.insert(end, line);
+}
+
+DIDX PROPTEXT::definitions(QStringList *problems) const
+{
+    DIDX index;
+    bool inside = false;
+    for (qsizetype i = 0; i < m_lines.size(); ++i) {
+        const QString &line = m_lines.at(i);
+        if (isAnyHeading(line)) {
+            inside = isHeading(line, sectionName());
+            continue;
+        }
+        if (!inside || isComment(line)) {
+            continue;
+        }
+        PROPDEF definition;
+        QString wrong = parseLine(line, &definition);
+        if (wrong.isEmpty() && !index.add(definition)) {
+            wrong =
+                u'"' + definition.name + QStringLiteral("\" is defined twice; the first definition counts");
+        }
+        if (!wrong.isEmpty() && problems) {
+            problems->append(QString::number(i + 1) + QStringLiteral(": ") + wrong);
+        }
+    }
+    return index;
+}
+
+void setpropdefsfile(const QString &path)
+{
+    theFile = path;
+}
+
+QString propdefsfile()
+{
+    return theFile;
+}
+
+bool load_defaultdefs(DIDX *index, PROPTEXT *text, QStringList *problems)
+{
+    QString content = QString::fromLatin1(shippedDefinitions);
+    QFile file(theFile);
+    if (!theFile.isEmpty() && file.exists()) {
+        if (!file.open(QIODevice::ReadOnly)) {
+            if (problems) {
+                problems->append(theFile + QStringLiteral(": ") + file.errorString());
+            }
+            return false;
+        }
+        content = QString::fromUtf8(file.readAll());
+        content.remove(u'\r');
+    }
+    if (content.endsWith(u'\n')) {
+        content.chop(1);
+    }
+    const PROPTEXT read(content.split(u'\n'));
+    QStringList found;
+    const DIDX definitions = read.definitions(&found);
+    if (problems) {
+        for (const QString &problem : std::as_const(found)) {
+            problems->append(theFile + u':' + problem);
+        }
+    }
+    if (index) {
+        *index = definitions;
+    }
+    if (text) {
+        *text = read;
+    }
+    return true;
+}
+
+bool save_defaultdefs(const PROPTEXT &text)
+{
+    QSaveFile file(theFile);
+    if (theFile.isEmpty() || !file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    const QByteArray bytes = text.lines().join(u'\n').toUtf8() + '\n';
+    if (file.write(bytes) != bytes.size()) {
+        file.cancelWriting();
+    }
+    return file.commit();
+}
+
+QString format_propdefs(const PROPDEF &definition)
+{
+    QString line = u'"' + definition.name + QStringLiteral("\",") + propTypeKeyword(definition.type);
+    if (!definition.description.isEmpty()) {
+        line += QStringLiteral(",\"") + definition.description + u'"';
+    }
+    return line;
+}

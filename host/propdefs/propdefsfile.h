@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/propdefs/propdef.h"
+
+#include <QString>
+#include <QStringList>
+
+/// The text of a definitions file, line by line, so that comments and order survive a change.
+/// A definition is a line `"NAME",KEYWORD` or `"NAME",KEYWORD,"description"` in the section [PROPDEFS]; blank
+/// lines and lines that begin with ";" or "#" are comments; other sections are kept and not looked at.
+class PROPTEXT
+{
+public:
+    PROPTEXT() = default;
+    explicit PROPTEXT(QStringList lines)
+        : m_lines(std::move(lines))
+    {
+    }
+
+    /// Adds a line at the end of a section, which is made when it is missing.
+    void add(const QString &section, const QString &line);
+    [[nodiscard]] const QStringList &lines() const { return m_lines; }
+
+    /// Reads the definitions; each line that is none gives a message "line N: ...".
+    [[nodiscard]] DIDX definitions(QStringList *problems = nullptr) const;
+
+private:
+    QStringList m_lines;
+};
+
+/// The file that load_defaultdefs() reads and save_defaultdefs() writes; empty means the shipped definitions
+/// only.
+void setpropdefsfile(const QString &path);
+[[nodiscard]] QString propdefsfile();
+
+/// Reads the definitions of the file, or the shipped ones when there is no such file. False when the file
+/// cannot be read; `problems` takes one message "FILE:LINE: ..." per bad line.
+bool load_defaultdefs(DIDX *index, PROPTEXT *text, QStringList *problems = nullptr);
+
+/// Replaces the file; the old one stays when that fails. False on failure or without a file.
+[[nodiscard]] bool save_defaultdefs(const PROPTEXT &text);
+
+/// One line of the section [PROPDEFS].
+[[nodiscard]] QString format_propdefs(const PROPDEF &definition);

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/framework/hostui.h"
+
+/// The seam of a desktop program: Qt's own boxes and dialogs, the desktop's handlers, the system's clock and
+/// locale.
+class QtHostUi : public HostUi
+{
+public:
+    void information(QWidget *parent, const QString &title, const QString &text) override;
+    void warning(QWidget *parent, const QString &title, const QString &text) override;
+    bool question(QWidget *parent, const QString &title, const QString &text, bool defaultYes) override;
+    QString saveFileName(QWidget *parent, const QString &caption, const QString &path,
+                         const QString &filter) override;
+    QString openFileName(QWidget *parent, const QString &caption, const QString &path,
+                         const QString &filter) override;
+    bool openUrl(const QUrl &url) override;
+    QDateTime now() const override;
+    QLocale locale() const override;
+};
