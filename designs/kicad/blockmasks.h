@@ -103,4 +103,34 @@ struct BlockMasks
     return -1;
 }
 
+/// What a quoted text of up to 16 bytes holds, as bit masks.
+struct TextMasks
+{
+    /// Quote, backslash or line feed.
+    unsigned stop = 0;
+    unsigned brace = 0;
+    unsigned notAscii = 0;
+};
+
+[[nodiscard]] inline TextMasks textMasks(const char *at)
+{
+    TextMasks masks;
+#if defined(__SSE2__)
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i *>(at));
+    const auto equal = [bytes](char c) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c)); };
+    const __m128i stop = _mm_or_si128(_mm_or_si128(equal('"'), equal('\\')), equal('\n'));
+    masks.stop = unsigned(_mm_movemask_epi8(stop));
+    masks.brace = unsigned(_mm_movemask_epi8(equal('{')));
+    masks.notAscii = unsigned(_mm_movemask_epi8(bytes));
+#else
+    for (unsigned i = 0; i < 16; ++i) {
+        const char c = at[i];
+        masks.stop |= unsigned(c == '"' || c == '\\' || c == '\n') << i;
+        masks.brace |= unsigned(c == '{') << i;
+        masks.notAscii |= unsigned((c & 0x80) != 0) << i;
+    }
+#endif
+    return masks;
+}
+
 } // namespace designs::kicad

@@ -116,19 +116,42 @@ SexprScanner::Token SexprScanner::readAtom()
     m_text = {start, std::size_t(m_at - start)};
     m_quoted = false;
     m_escaped = false;
+    m_brace = true;
+    m_ascii = false;
     return Token::Text;
+}
+
+/// Goes to the next quote, backslash or line feed, or to the end.
+void SexprScanner::findTextStop()
+{
+    while (m_end - m_at >= 16) {
+        const TextMasks masks = textMasks(m_at);
+        const unsigned before = masks.stop ? (masks.stop & -masks.stop) - 1 : ~0U;
+        m_brace |= (masks.brace & before) != 0;
+        m_ascii &= (masks.notAscii & before) == 0;
+        if (masks.stop) {
+            m_at += std::countr_zero(masks.stop);
+            return;
+        }
+        m_at += 16;
+    }
+    for (; m_at < m_end && *m_at != '"' && *m_at != '\\' && *m_at != '\n'; ++m_at) {
+        m_brace |= *m_at == '{';
+        m_ascii &= (*m_at & 0x80) == 0;
+    }
 }
 
 SexprScanner::Token SexprScanner::readQuoted()
 {
     const char *start = m_at++;
     m_escaped = false;
-    while (m_at < m_end && *m_at != '"' && *m_at != '\n') {
-        if (*m_at == '\\') {
-            m_escaped = true;
-            ++m_at;
-        }
-        ++m_at;
+    m_brace = false;
+    m_ascii = true;
+    for (findTextStop(); m_at < m_end && *m_at == '\\'; findTextStop()) {
+        m_escaped = true;
+        m_ascii = false;
+        m_brace = true;
+        m_at += 2;
     }
     if (m_at >= m_end || *m_at != '"') {
         return fail(QStringLiteral("the text that begins here is not closed on its line"), start);

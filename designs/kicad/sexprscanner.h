@@ -38,6 +38,10 @@ public:
     [[nodiscard]] std::string_view raw() const { return m_text; }
     /// Whether the text token was quoted.
     [[nodiscard]] bool isQuoted() const { return m_quoted; }
+    /// False when the text token cannot hold a "{".
+    [[nodiscard]] bool mayHoldBrace() const { return m_brace; }
+    /// True when the text token holds nothing but ASCII.
+    [[nodiscard]] bool isAscii() const { return m_ascii; }
     /// The text token with the escapes resolved; a text with escapes stays valid until the next call.
     [[nodiscard]] std::string_view text();
 
@@ -61,6 +65,7 @@ private:
     Token fail(const QString &text, const char *at);
     bool skipBlanks();
     bool atLineStart(const char *at) const;
+    void findTextStop();
     Token readQuoted();
     Token readAtom();
     bool skipByteWise(const char *stop, int *depth);
@@ -76,6 +81,8 @@ private:
     std::string_view m_text;
     bool m_quoted = false;
     bool m_escaped = false;
+    bool m_brace = false;
+    bool m_ascii = false;
     std::string m_unescaped;
     QString m_error;
     const char *m_errorAt = nullptr;

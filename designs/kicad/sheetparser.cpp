@@ -244,12 +244,12 @@ void SheetParser::addSymbolProperty(PlacedSymbol *symbol, std::vector<Property> 
     }
     if (name == "Value") {
         symbol->value = takeValue();
-        symbol->hasVariables |= holdsVariable(symbol->value);
+        symbol->hasVariables |= m_scanner.mayHoldBrace() && holdsVariable(symbol->value);
         return;
     }
     const NameId id = m_names->intern(name);
     const std::string_view value = takeValue();
-    symbol->hasVariables |= holdsVariable(value);
+    symbol->hasVariables |= m_scanner.mayHoldBrace() && holdsVariable(value);
     const auto same = std::find_if(properties->begin(), properties->end(),
                                    [id](const Property &other) { return other.name == id; });
     if (same != properties->end()) {
@@ -470,12 +470,16 @@ std::string_view SheetParser::takeValue()
     return tilde ? std::string_view() : keep(text);
 }
 
+/// Keeps the scanner's text.
 std::string_view SheetParser::keep(std::string_view text)
 {
-    if (!isUtf8(text)) {
+    if (!m_scanner.isAscii() && !isUtf8(text)) {
         m_badTexts.push_back(m_scanner.tokenOffset());
     }
-    return m_arena->copy(mayHaveBraceEscape(text) ? std::string_view(resolveBraceEscapes(text)) : text);
+    if (m_scanner.mayHoldBrace() && mayHaveBraceEscape(text)) {
+        return m_arena->copy(std::string_view(resolveBraceEscapes(text)));
+    }
+    return m_arena->copy(text);
 }
 
 int SheetParser::takeInt(int otherwise)
