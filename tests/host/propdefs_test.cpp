@@ -92,7 +92,8 @@ TEST(Definitions, AreWrittenAsTheyAreRead)
     };
     for (const PROPDEF &definition : definitions) {
         const PROPTEXT text({QStringLiteral("[PROPDEFS]"), format_propdefs(definition)});
-        const PROPDEF *read = text.definitions().find(definition.name);
+        const DIDX index = text.definitions();
+        const PROPDEF *read = index.find(definition.name);
         ASSERT_TRUE(read) << qPrintable(text.lines().last());
         EXPECT_EQ(*read, definition);
     }
