@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "standalone/loadeddesign.h"
+
+namespace {
+
+/// The stamp of the design above, the number of the component, counted from 1, below: a record that outlived
+/// its design is not taken for one of the next.
+constexpr int indexBits = 32;
+
+QByteArrayView view(std::string_view text)
+{
+    return {text.data(), qsizetype(text.size())};
+}
+
+} // namespace
+
+LoadedDesign::Record::Record(const PropertyTable &table, const designs::Component &component,
+                             quint64 identifier)
+    : m_published{view(component.reference), view(component.value), view(component.name), identifier, nullptr}
+    , m_table(&table)
+    , m_component(&component)
+{
+}
+
+const COMPONENT *LoadedDesign::Record::publish()
+{
+    m_published.properties = this;
+    return &m_published;
+}
+
+std::optional<QByteArrayView> LoadedDesign::Record::find(const PROPNAME &name) const
+{
+    return m_table->find(*m_component, name);
+}
+
+QByteArrayList LoadedDesign::Record::names() const
+{
+    return m_table->names(*m_component);
+}
+
+LoadedDesign::LoadedDesign(std::unique_ptr<const designs::Design> design, DnpChoice choice)
+    : m_design(std::move(design))
+    , m_properties(*m_design)
+{
+    m_properties.setDnpChoice(choice);
+    const auto &components = m_design->components();
+    m_records.reserve(components.size());
+    quint64 identifier = m_properties.stamp() << indexBits;
+    for (const designs::Component &component : components) {
+        m_records.emplace_back(m_properties, component, ++identifier);
+    }
+    m_components.reserve(components.size());
+    for (Record &record : m_records) {
+        m_components.push_back(record.publish());
+    }
+}
+
+const designs::Component *LoadedDesign::component(quint64 identifier) const
+{
+    const quint64 number = identifier & ((quint64(1) << indexBits) - 1);
+    if (identifier >> indexBits != m_properties.stamp() || number == 0 || number > m_records.size()) {
+        return nullptr;
+    }
+    return &m_design->components()[number - 1];
+}

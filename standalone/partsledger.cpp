@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "standalone/partsledger.h"
+
+#include "standalone/loadeddesign.h"
+
+#include <QHash>
+
+#include <unordered_map>
+
+namespace {
+
+using designs::Component;
+using designs::MarkedBy;
+
+QString text(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
+}
+
+bool isSkippedByMark(const LoadedDesign &design, const Component &component)
+{
+    return component.notInBom != MarkedBy::Nothing || design.properties().hasStoredSkip(component);
+}
+
+} // namespace
+
+PartsLedger::PartsLedger(const LoadedDesign &design)
+    : m_design(design)
+{
+}
+
+qsizetype PartsLedger::components() const
+{
+    return qsizetype(m_design.components().size());
+}
+
+QString PartsLedger::reference(qsizetype index) const
+{
+    return text(at(index).reference);
+}
+
+bool PartsLedger::isListed(qsizetype index) const
+{
+    return !isSkippedByMark(m_design, at(index)) && !m_design.properties().isLeftOutByChoice(at(index));
+}
+
+bool PartsLedger::isFitted(qsizetype index) const
+{
+    return at(index).notFitted == MarkedBy::Nothing;
+}
+
+QString PartsLedger::skipReason(qsizetype index) const
+{
+    const Component &component = at(index);
+    if (m_design.properties().hasStoredSkip(component)) {
+        return QStringLiteral("BOMSKIP property");
+    }
+    switch (component.notInBom) {
+    case MarkedBy::Sheet:
+        return QStringLiteral("in_bom no on sheet ") + sheetPath(component.notInBomSheet);
+    case MarkedBy::RuleArea:
+        return QStringLiteral("rule area");
+    case MarkedBy::Symbol:
+    case MarkedBy::Property:
+        return QStringLiteral("in_bom no on the symbol");
+    case MarkedBy::Nothing:
+        break;
+    }
+    if (!m_design.properties().isLeftOutByChoice(component)) {
+        return {};
+    }
+    return isFitted(index) ? QStringLiteral("fitted") : notFittedText(component);
+}
+
+qsizetype PartsLedger::leftOutByChoice() const
+{
+    qsizetype count = 0;
+    for (const Component &component : m_design.design().components()) {
+        if (m_design.properties().isLeftOutByChoice(component) && !isSkippedByMark(m_design, component)) {
+            ++count;
+        }
+    }
+    return count;
+}
+
+qsizetype PartsLedger::listed() const
+{
+    qsizetype count = 0;
+    for (qsizetype i = 0; i < components(); ++i) {
+        count += isListed(i) ? 1 : 0;
+    }
+    return count;
+}
+
+QStringList PartsLedger::listedNotFitted() const
+{
+    QStringList references;
+    for (qsizetype i = 0; i < components(); ++i) {
+        if (!isFitted(i) && isListed(i)) {
+            references.append(reference(i));
+        }
+    }
+    return references;
+}
+
+std::vector<SkippedParts> PartsLedger::skipped() const
+{
+    std::vector<SkippedParts> groups;
+    QHash<QString, std::size_t> groupOfReason;
+    for (qsizetype i = 0; i < components(); ++i) {
+        if (isListed(i)) {
+            continue;
+        }
+        const QString reason = skipReason(i);
+        const auto known = groupOfReason.constFind(reason);
+        const std::size_t group = known == groupOfReason.constEnd() ? groups.size() : *known;
+        if (group == groups.size()) {
+            groupOfReason.insert(reason, group);
+            groups.push_back({reason, {}});
+        }
+        groups[group].references.append(reference(i));
+    }
+    return groups;
+}
+
+std::vector<RepeatedReference> PartsLedger::repeated() const
+{
+    std::unordered_map<std::string_view, quint32> count;
+    count.reserve(m_design.components().size());
+    for (const Component &component : m_design.design().components()) {
+        ++count[component.reference];
+    }
+    std::vector<RepeatedReference> found;
+    if (count.size() == m_design.components().size()) {
+        return found;
+    }
+    std::unordered_map<std::string_view, std::size_t> place;
+    for (const Component &component : m_design.design().components()) {
+        if (count[component.reference] < 2) {
+            continue;
+        }
+        const auto [at, isNew] = place.emplace(component.reference, found.size());
+        if (isNew) {
+            found.push_back({text(component.reference), {}});
+        }
+        found[at->second].places.append(this->place(component));
+    }
+    return found;
+}
+
+const Component &PartsLedger::at(qsizetype index) const
+{
+    return m_design.design().components()[std::size_t(index)];
+}
+
+QString PartsLedger::notFittedText(const Component &component) const
+{
+    QString mark;
+    switch (component.notFitted) {
+    case MarkedBy::Sheet:
+        mark = QStringLiteral("sheet ") + sheetPath(component.notFittedSheet);
+        break;
+    case MarkedBy::RuleArea:
+        mark = QStringLiteral("rule area");
+        break;
+    case MarkedBy::Property:
+        mark = QStringLiteral("property");
+        for (const designs::NameId id : m_design.design().names().candidates("DNP")) {
+            if (const auto value = m_design.design().stored(component, id)) {
+                mark += u' ' + text(m_design.design().names().name(id)) + u'=' + text(*value);
+                break;
+            }
+        }
+        break;
+    case MarkedBy::Symbol:
+    case MarkedBy::Nothing:
+        mark = QStringLiteral("symbol");
+        break;
+    }
+    return QStringLiteral("not fitted (") + mark + u')';
+}
+
+QString PartsLedger::sheetPath(quint32 sheet) const
+{
+    const auto &sheets = m_design.design().sheets();
+    return sheet < sheets.size() ? sheets[sheet].path : QString();
+}
+
+QString PartsLedger::place(const Component &component) const
+{
+    const QString file = m_design.design().files().value(qsizetype(component.file));
+    return component.line > 0 ? file + u':' + QString::number(component.line) : file;
+}

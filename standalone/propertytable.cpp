@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "standalone/propertytable.h"
+
+#include <algorithm>
+#include <atomic>
+
+namespace {
+
+constexpr char skipName[] = "BOMSKIP";
+constexpr char notFittedName[] = "DNP";
+constexpr char flagText[] = "1";
+
+quint64 nextStamp()
+{
+    // 0 is what a name remembers before it has met any table.
+    static std::atomic<quint64> last = 0;
+    return ++last;
+}
+
+QByteArrayView view(std::string_view text)
+{
+    return {text.data(), qsizetype(text.size())};
+}
+
+QByteArray bytes(std::string_view text)
+{
+    return {text.data(), qsizetype(text.size())};
+}
+
+bool contains(const std::vector<designs::NameId> &ids, designs::NameId id)
+{
+    return std::find(ids.begin(), ids.end(), id) != ids.end();
+}
+
+} // namespace
+
+PropertyTable::PropertyTable(const designs::Design &design)
+    : m_design(design)
+    , m_stamp(nextStamp())
+    , m_skip(&lookup(QByteArray(skipName)))
+    , m_notFitted(&lookup(QByteArray(notFittedName)))
+{
+}
+
+std::optional<QByteArrayView> PropertyTable::find(const designs::Component &component,
+                                                  const PROPNAME &name) const
+{
+    const Lookup &asked = lookup(name);
+    if (asked.meaning == Meaning::NotFitted) {
+        return component.notFitted == designs::MarkedBy::Nothing ? std::nullopt
+                                                                 : std::optional<QByteArrayView>(flagText);
+    }
+    const auto found = stored(component, asked);
+    if (!found && asked.meaning == Meaning::Skip &&
+        (component.notInBom != designs::MarkedBy::Nothing || isLeftOutByChoice(component))) {
+        return QByteArrayView(flagText);
+    }
+    return found;
+}
+
+QByteArrayList PropertyTable::names(const designs::Component &component) const
+{
+    QByteArrayList names;
+    const bool isNotFitted = component.notFitted != designs::MarkedBy::Nothing;
+    bool namesNotFitted = false;
+    for (const designs::Property &property : component.properties) {
+        if (contains(m_notFitted->candidates, property.name)) {
+            if (!isNotFitted || namesNotFitted) {
+                continue;
+            }
+            namesNotFitted = true;
+        }
+        names.append(bytes(m_design.names().name(property.name)));
+    }
+    if (isNotFitted && !namesNotFitted) {
+        names.append(notFittedName);
+    }
+    if (component.notInBom != designs::MarkedBy::Nothing && !hasStoredSkip(component)) {
+        names.append(skipName);
+    }
+    return names;
+}
+
+QByteArrayList PropertyTable::allNames() const
+{
+    QByteArrayList names;
+    for (designs::NameId id = 0; id < m_design.names().size(); ++id) {
+        if (id != m_design.referenceName() && id != m_design.valueName()) {
+            names.append(bytes(m_design.names().name(id)));
+        }
+    }
+    const auto &components = m_design.components();
+    const auto isMarked = [&components](designs::MarkedBy designs::Component::*mark) {
+        return std::any_of(components.begin(), components.end(), [mark](const designs::Component &component) {
+            return component.*mark != designs::MarkedBy::Nothing;
+        });
+    };
+    if (m_notFitted->candidates.empty() && isMarked(&designs::Component::notFitted)) {
+        names.append(notFittedName);
+    }
+    if (m_skip->candidates.empty() && isMarked(&designs::Component::notInBom)) {
+        names.append(skipName);
+    }
+    return names;
+}
+
+bool PropertyTable::isLeftOutByChoice(const designs::Component &component) const
+{
+    const bool isNotFitted = component.notFitted != designs::MarkedBy::Nothing;
+    switch (m_dnpChoice) {
+    case DnpChoice::Exclude:
+        return isNotFitted;
+    case DnpChoice::Only:
+        return !isNotFitted;
+    case DnpChoice::Include:
+        break;
+    }
+    return false;
+}
+
+bool PropertyTable::hasStoredSkip(const designs::Component &component) const
+{
+    return stored(component, *m_skip).has_value();
+}
+
+const PropertyTable::Lookup &PropertyTable::lookup(const PROPNAME &name) const
+{
+    if (const void *known = name.remembered(m_stamp)) {
+        return *static_cast<const Lookup *>(known);
+    }
+    const Lookup &found = lookup(name.name());
+    name.remember(m_stamp, &found);
+    return found;
+}
+
+const PropertyTable::Lookup &PropertyTable::lookup(const QByteArray &name) const
+{
+    const std::string key = name.toStdString();
+    if (const auto known = m_lookups.find(key); known != m_lookups.end()) {
+        return known->second;
+    }
+    Lookup made;
+    made.candidates = m_design.names().candidates(key);
+    if (name.compare(skipName, Qt::CaseInsensitive) == 0) {
+        made.meaning = Meaning::Skip;
+    } else if (name.compare(notFittedName, Qt::CaseInsensitive) == 0) {
+        made.meaning = Meaning::NotFitted;
+    }
+    return m_lookups.emplace(key, std::move(made)).first->second;
+}
+
+std::optional<QByteArrayView> PropertyTable::stored(const designs::Component &component,
+                                                    const Lookup &lookup) const
+{
+    for (const designs::NameId id : lookup.candidates) {
+        if (const auto value = m_design.stored(component, id)) {
+            return view(*value);
+        }
+    }
+    return std::nullopt;
+}

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/framework/applndocument.h"
+
+#include <memory>
+
+class LoadedDesign;
+
+/// The design that is open in the standalone host, as a document.
+class StandaloneDocument final : public APPLNDOCUMENT
+{
+    Q_OBJECT
+
+public:
+    using APPLNDOCUMENT::APPLNDOCUMENT;
+
+    void setDesign(std::shared_ptr<const LoadedDesign> design);
+
+    /// WL_MDATE is the newest modification as "yyyy-MM-dd HH:mm" in local time; with SOURCE_DATE_EPOCH set in
+    /// UTC, and at most that moment.
+    [[nodiscard]] QString getinfo(const char *key) const override;
+    [[nodiscard]] QByteArray getproperty(const char *name) const override;
+    [[nodiscard]] char kindcode() const override;
+    [[nodiscard]] bool isdoctype(const char *type) const override;
+    /// BOMNOTES.TXT is read at every call from the file notesFile(); line ends become "\n".
+    [[nodiscard]] QString readattachment(const char *name) const override;
+
+    /// "<design base name>.bomnotes.txt" beside the design; empty without a design.
+    [[nodiscard]] QString notesFile() const;
+    /// "FILE: why" when there is a notes file and it cannot be read as text.
+    [[nodiscard]] QString notesProblem() const;
+
+private:
+    std::shared_ptr<const LoadedDesign> m_design;
+};

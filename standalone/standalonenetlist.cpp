@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "standalone/standalonenetlist.h"
+
+#include "standalone/loadeddesign.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr quint32 usable = 1;
+
+void clear(NETCACHE &cache)
+{
+    cache.validMask = 0;
+    cache.components = {};
+    cache.propertyNames.clear();
+}
+
+} // namespace
+
+StandaloneNetlist::~StandaloneNetlist()
+{
+    while (!m_clients.empty()) {
+        m_clients.back().cache->setsource(nullptr);
+    }
+}
+
+void StandaloneNetlist::setDesign(std::shared_ptr<const LoadedDesign> design)
+{
+    m_design = std::move(design);
+    invalidateCaches();
+}
+
+void StandaloneNetlist::invalidateCaches()
+{
+    for (const Client &client : m_clients) {
+        client.cache->invalidate();
+    }
+}
+
+IMODULE *StandaloneNetlist::queryinterface(unsigned id)
+{
+    return id == INTERFACE_NETSERVER ? this : nullptr;
+}
+
+bool StandaloneNetlist::sendnetlist(NETCACHE &cache, int, int)
+{
+    const auto client = std::find_if(m_clients.begin(), m_clients.end(),
+                                     [&cache](const Client &known) { return known.cache == &cache; });
+    if (!m_design || client == m_clients.end()) {
+        return false;
+    }
+    cache.validMask = usable;
+    cache.wantedMask = usable;
+    cache.components = m_design->components();
+    cache.propertyNames = m_design->properties().allNames();
+    client->sent = m_design;
+    return true;
+}
+
+void StandaloneNetlist::addcache(NETCACHE *cache)
+{
+    m_clients.push_back({cache, nullptr});
+}
+
+void StandaloneNetlist::removecache(NETCACHE *cache)
+{
+    clear(*cache);
+    std::erase_if(m_clients, [cache](const Client &client) { return client.cache == cache; });
+}

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/netlist/netcache.h"
+
+#include <memory>
+#include <vector>
+
+class LoadedDesign;
+
+/// The number under which the application "ORIN" offers its netlist.
+constexpr unsigned INTERFACE_NETSERVER = 7;
+
+/// The netlist server of the standalone host: sends the records of the open design to the caches.
+class StandaloneNetlist final : public INETSERVER
+{
+public:
+    StandaloneNetlist() = default;
+    StandaloneNetlist(const StandaloneNetlist &) = delete;
+    StandaloneNetlist &operator=(const StandaloneNetlist &) = delete;
+    /// Empties and detaches the caches that are still attached.
+    ~StandaloneNetlist();
+
+    /// Takes a design, or none, and marks the caches stale. What a cache holds stays alive until it is filled
+    /// again.
+    void setDesign(std::shared_ptr<const LoadedDesign> design);
+    void invalidateCaches();
+
+    IMODULE *queryinterface(unsigned id) override;
+    bool sendnetlist(NETCACHE &cache, int context, int detail) override;
+    void addcache(NETCACHE *cache) override;
+    void removecache(NETCACHE *cache) override;
+
+private:
+    struct Client
+    {
+        NETCACHE *cache = nullptr;
+        std::shared_ptr<const LoadedDesign> sent;
+    };
+
+    std::shared_ptr<const LoadedDesign> m_design;
+    std::vector<Client> m_clients;
+};

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "standalone/standaloneprocess.h"
+
+#include "host/framework/hosttext.h"
+#include "standalone/environment.h"
+#include "standalone/standalonedocument.h"
+#include "standalone/standalonenetlist.h"
+
+#include <QCoreApplication>
+
+#include <cstring>
+
+StandaloneProcess::StandaloneProcess(StandaloneDocument &document, StandaloneNetlist &netlist)
+    : m_document(document)
+    , m_netlist(netlist)
+{
+}
+
+APPLNDOCUMENT *StandaloneProcess::currentdocument(int kind, const char *name) const
+{
+    if (!m_isOpen || kind != DOCUMENT_KIND_DESIGN) {
+        return nullptr;
+    }
+    if (name && fromHostText(name) != m_document.getinfo("FILENAME")) {
+        return nullptr;
+    }
+    return &m_document;
+}
+
+QString StandaloneProcess::getbinpath() const
+{
+    return QCoreApplication::applicationDirPath();
+}
+
+QString StandaloneProcess::getdatapath(const char *application) const
+{
+    return userDataFolder(fromHostText(application));
+}
+
+IMODULE *StandaloneProcess::getmoduleinterface(const char *application, unsigned id)
+{
+    if (!application || std::strcmp(application, "ORIN") != 0) {
+        return nullptr;
+    }
+    return m_netlist.queryinterface(id);
+}
