@@ -4,6 +4,7 @@
 
 #include "designs/kicad/symbolrecount.h"
 #include "designs/kicad/textvariables.h"
+#include "designs/notfitted.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -63,6 +64,7 @@ bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem 
     m_warnings.insert(m_warnings.end(), builder.warnings.begin(), builder.warnings.end());
     TextVariables(*m_hierarchy, m_project, m_names, m_info.variant)
         .resolve(&m_components, m_symbolUses, &m_arena);
+    markNotFittedByProperty(&m_components, m_names);
     fillInfo();
     return true;
 }
