@@ -31,6 +31,9 @@ bool FileBuffer::read(const QString &path, std::string_view start, Problem *prob
     if (info.isDir()) {
         return refuse(QStringLiteral("this is a folder, not a file"));
     }
+    if (info.exists() && !info.isFile()) {
+        return refuse(QStringLiteral("this is a device or pipe, not a file"));
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return refuse(QStringLiteral("cannot be read: ") + file.errorString());

@@ -37,6 +37,9 @@ char escapedCharacter(std::string_view name)
     return 0;
 }
 
+/// Longer than any name above with its braces, so that a text of many "{" is not searched to its end for each.
+constexpr std::size_t longestEscape = 12;
+
 bool startsMarkup(char before)
 {
     return std::string_view("$@~^_").find(before) != std::string_view::npos;
@@ -49,14 +52,15 @@ std::string resolveBraceEscapes(std::string_view text)
     std::string result;
     result.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::size_t close = text[i] == '{' ? text.find('}', i) : std::string_view::npos;
+        const std::size_t length =
+            text[i] == '{' ? text.substr(i, longestEscape).find('}') : std::string_view::npos;
         const bool markup = i > 0 && startsMarkup(text[i - 1]);
-        const char character = close == std::string_view::npos || markup
+        const char character = length == std::string_view::npos || markup
                                    ? '\0'
-                                   : escapedCharacter(text.substr(i + 1, close - i - 1));
+                                   : escapedCharacter(text.substr(i + 1, length - 1));
         if (character != '\0') {
             result += character;
-            i = close;
+            i += length;
         } else {
             result += text[i];
         }

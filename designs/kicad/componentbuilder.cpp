@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/componentbuilder.h"
 
-#include "designs/notfitted.h"
-
 #include <algorithm>
 
 namespace designs::kicad {
@@ -69,7 +67,6 @@ void ComponentBuilder::build()
         addUse(use);
     }
     finishGroups();
-    markNotFittedByProperty(&components, *m_names);
 }
 
 const VariantRecord *ComponentBuilder::variantOf(const InstanceRecord *record) const
@@ -274,20 +271,25 @@ bool ComponentBuilder::joinGroup(const Component &component, const SymbolUse &pl
     if (component.reference.empty() || component.reference.ends_with('?')) {
         return false;
     }
-    std::vector<quint32> &candidates = m_groupsByReference[component.reference];
-    for (const quint32 number : candidates) {
-        Group &group = m_groups[number];
-        const bool unitTaken =
-            std::any_of(group.members.begin(), group.members.end(),
-                        [&](const auto &member) { return member.first.unit == place.unit; });
-        if (group.libId == libId && !unitTaken) {
-            group.members.emplace_back(place, component);
-            ++count.mergedUnits;
-            return true;
-        }
+    m_key.assign(component.reference);
+    m_key += '\n';
+    m_key += libId;
+    std::vector<quint32> &candidates = m_groupsBySymbol[m_key];
+    const auto unitOf = [&place](quint32 group) { return quint64(group) << 32 | quint32(place.unit); };
+    // Each unit fills the groups from the first on, so those that have it stand before those that lack it.
+    const auto free = std::partition_point(candidates.begin(), candidates.end(), [&](quint32 group) {
+        return m_takenUnits.count(unitOf(group)) != 0;
+    });
+    if (free != candidates.end()) {
+        m_takenUnits.insert(unitOf(*free));
+        m_groups[*free].members.emplace_back(place, component);
+        ++count.mergedUnits;
+        return true;
     }
-    candidates.push_back(quint32(m_groups.size()));
-    m_groups.push_back({libId, quint32(components.size()), {{place, component}}});
+    const auto number = quint32(m_groups.size());
+    candidates.push_back(number);
+    m_takenUnits.insert(unitOf(number));
+    m_groups.push_back({quint32(components.size()), {{place, component}}});
     return false;
 }
 
@@ -322,7 +324,7 @@ void ComponentBuilder::finishGroup(Group *group)
         }
     }
     joinProperties(*group, &joined);
-    warnAboutUnits(*group);
+    warnAboutUnits(*group, joined);
     components[group->component] = joined;
 }
 
@@ -345,20 +347,19 @@ void ComponentBuilder::joinProperties(const Group &group, Component *joined)
     joined->properties = m_arena->copy(std::span<const Property>(m_scratch));
 }
 
-void ComponentBuilder::warnAboutUnits(const Group &group)
+void ComponentBuilder::warnAboutUnits(const Group &group, const Component &joined)
 {
     const Component &first = group.members.front().second;
     QStringList differing;
     for (const auto &[place, unit] : group.members) {
-        if (unit.value != first.value) {
+        if (unit.value != joined.value) {
             differing << QStringLiteral("Value");
         }
         if (unit.notInBom != first.notInBom || unit.notFitted != first.notFitted) {
             differing << QStringLiteral("the flags for BOM and population");
         }
         for (const Property &property : unit.properties) {
-            const auto other = first.stored(property.name);
-            if (other && *other != property.value) {
+            if (joined.stored(property.name) != property.value) {
                 differing << toText(m_names->name(property.name));
             }
         }

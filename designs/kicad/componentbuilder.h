@@ -7,6 +7,7 @@
 
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace designs::kicad {
@@ -47,7 +48,6 @@ private:
     /// A part that is drawn in several units, while they are collected.
     struct Group
     {
-        std::string_view libId;
         quint32 component = 0;
         /// Each unit as a component of its own, with its symbol.
         std::vector<std::pair<SymbolUse, Component>> members;
@@ -78,7 +78,7 @@ private:
     void finishGroups();
     void finishGroup(Group *group);
     void joinProperties(const Group &group, Component *joined);
-    void warnAboutUnits(const Group &group);
+    void warnAboutUnits(const Group &group, const Component &joined);
     void warn(const Component &component, const QString &text);
 
     const Hierarchy &m_hierarchy;
@@ -90,7 +90,10 @@ private:
     std::vector<SheetMarks> m_sheetMarks;
     std::unordered_map<quint32, InstanceTable> m_tables;
     std::string m_key;
-    std::unordered_map<std::string_view, std::vector<quint32>> m_groupsByReference;
+    /// By reference and library symbol.
+    std::unordered_map<std::string, std::vector<quint32>> m_groupsBySymbol;
+    /// Group and unit in one number.
+    std::unordered_set<quint64> m_takenUnits;
     std::vector<Group> m_groups;
     std::vector<Property> m_scratch;
 };

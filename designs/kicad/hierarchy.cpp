@@ -94,6 +94,12 @@ bool Hierarchy::addUse(HierarchyUse use, int depth, Problem *problem)
                     QStringLiteral("the hierarchy uses sheets more than %1 times").arg(maximumUses)};
         return false;
     }
+    m_symbolUses += m_files[use.file].symbols.size();
+    if (m_symbolUses > maximumSymbols) {
+        *problem = {m_files[use.file].path, 0,
+                    QStringLiteral("the hierarchy holds more than %1 symbols").arg(maximumSymbols)};
+        return false;
+    }
     use.instance = instanceOf(use);
     const auto number = quint32(m_uses.size());
     const quint32 file = use.file;
@@ -147,13 +153,14 @@ QString Hierarchy::childPath(const SheetFile &parent, const SheetSymbol &sheet) 
 }
 
 /// True, with the chain of files as the problem, when `file` stands above the sheet already.
-bool Hierarchy::refuseLoop(quint32 parent, const SheetSymbol &sheet, quint32 file, Problem *problem) const
+bool Hierarchy::refuseLoop(quint32 parent, const SheetSymbol &sheet, quint32 file, Problem *problem)
 {
     QStringList chain{QFileInfo(m_files[file].path).fileName()};
     for (quint32 use = parent;; use = m_uses[use].parent) {
         chain.prepend(QFileInfo(m_files[m_uses[use].file].path).fileName());
         if (m_uses[use].file == file) {
-            *problem = {m_files[m_uses[parent].file].path, 0,
+            const QString &path = m_files[m_uses[parent].file].path;
+            *problem = {path, lineOf(path, sheet.offset),
                         QStringLiteral("sheet \"") + toText(sheet.name) +
                             QStringLiteral("\" makes the sheets contain themselves: ") +
                             chain.join(QStringLiteral(" > "))};

@@ -38,6 +38,8 @@ class Hierarchy
 public:
     static constexpr int maximumDepth = 100;
     static constexpr std::size_t maximumUses = 100'000;
+    /// Symbols times the uses of their file.
+    static constexpr std::size_t maximumSymbols = 10'000'000;
 
     /// `arena` and `names` take the texts and must outlive the hierarchy.
     Hierarchy(TextArena *arena, PropertyNames *names);
@@ -59,7 +61,7 @@ private:
     bool addUse(HierarchyUse use, int depth, Problem *problem);
     bool addChild(quint32 parent, const SheetSymbol &sheet, int depth, Problem *problem);
     QString childPath(const SheetFile &parent, const SheetSymbol &sheet) const;
-    bool refuseLoop(quint32 parent, const SheetSymbol &sheet, quint32 file, Problem *problem) const;
+    bool refuseLoop(quint32 parent, const SheetSymbol &sheet, quint32 file, Problem *problem);
     int lineOf(const QString &path, quint32 offset);
     const InstanceRecord *instanceOf(const HierarchyUse &use) const;
 
@@ -69,6 +71,7 @@ private:
     std::deque<SheetFile> m_files;
     QHash<QString, quint32> m_fileNumbers;
     std::vector<HierarchyUse> m_uses;
+    std::size_t m_symbolUses = 0;
     std::vector<Problem> m_warnings;
     QString m_projectFolder;
 };

@@ -4,6 +4,7 @@
 
 #include "designs/kicad/symbolrecount.h"
 #include "designs/kicad/textvariables.h"
+#include "designs/notfitted.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -61,8 +62,13 @@ bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem 
     m_symbols = builder.count;
     m_warnings.insert(m_warnings.end(), m_hierarchy->warnings().begin(), m_hierarchy->warnings().end());
     m_warnings.insert(m_warnings.end(), builder.warnings.begin(), builder.warnings.end());
-    TextVariables(*m_hierarchy, m_project, m_names, m_info.variant)
-        .resolve(&m_components, m_symbolUses, &m_arena);
+    TextVariables variables(*m_hierarchy, m_project, m_names, m_info.variant);
+    variables.resolve(&m_components, m_symbolUses, &m_arena);
+    if (variables.ranOut()) {
+        m_warnings.push_back({m_roots.front().first, 0,
+                              QStringLiteral("the text variables name each other too often; some stay as they stand")});
+    }
+    markNotFittedByProperty(&m_components, m_names);
     fillInfo();
     return true;
 }

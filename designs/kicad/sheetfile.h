@@ -43,7 +43,7 @@ struct VariantRecord
 struct InstanceRecord
 {
     quint32 path = 0;
-    qint32 unit = 0;
+    qint32 unit = 1;
     std::string_view reference;
     std::span<const VariantRecord> variants;
     std::string_view page;

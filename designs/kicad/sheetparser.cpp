@@ -193,6 +193,7 @@ bool SheetParser::readSymbol()
     PlacedSymbol symbol;
     symbol.offset = quint32(m_scanner.tokenOffset());
     m_properties.clear();
+    m_variantHasVariables = false;
     const bool complete = readChildren([this, &symbol](std::string_view keyword) {
         if (keyword == "property") {
             addSymbolProperty(&symbol, &m_properties);
@@ -217,6 +218,7 @@ bool SheetParser::readSymbol()
         }
         return false;
     });
+    symbol.hasVariables |= m_variantHasVariables;
     symbol.properties = m_arena->copy(std::span<const Property>(m_properties));
     m_sheet->symbols.push_back(symbol);
     return complete;
@@ -445,9 +447,10 @@ bool SheetParser::readVariantField(std::vector<Property> *fields)
     Property field;
     const bool complete = readChildren([this, &field](std::string_view keyword) {
         if (keyword == "name") {
-            field.name = m_names->intern(takeKept());
+            field.name = m_names->intern(m_scanner.takeText() ? m_scanner.text() : std::string_view());
         } else if (keyword == "value") {
             field.value = takeValue();
+            m_variantHasVariables |= holdsVariable(field.value);
         }
         return false;
     });

@@ -75,6 +75,7 @@ private:
     std::vector<InstanceRecord> m_instances;
     std::string_view m_lastPath;
     quint32 m_lastPathNumber = 0;
+    bool m_variantHasVariables = false;
 };
 
 } // namespace designs::kicad

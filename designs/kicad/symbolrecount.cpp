@@ -109,12 +109,14 @@ private:
         const qsizetype depth = m_open.size();
         if (depth == 1 && word == "symbol") {
             ++m_tally.symbols;
-            m_tally.power += m_powerSymbol || m_powerIds.contains(m_libId) ? 1 : 0;
+            m_tally.power += m_powerSymbol || m_powerIds.contains(m_libName.isEmpty() ? m_libId : m_libName);
             m_powerSymbol = false;
+            m_libId.clear();
+            m_libName.clear();
         } else if (depth == 2 && outer(1) == "symbol" && word == "lib_id") {
             m_libId = list.words.value(1);
         } else if (depth == 2 && outer(1) == "symbol" && word == "lib_name") {
-            m_libId = list.words.value(1);
+            m_libName = list.words.value(1);
         } else if (depth == 2 && outer(1) == "symbol" && word == "property") {
             m_powerSymbol |= list.words.value(1) == "Reference" && list.words.value(2).startsWith('#');
         } else if (depth == 3 && outer(2) == "lib_symbols" && word == "power") {
@@ -141,6 +143,7 @@ private:
     bool m_lineHasText = false;
     QList<List> m_open;
     QByteArray m_libId;
+    QByteArray m_libName;
     QByteArray m_propertyId;
     bool m_powerSymbol = false;
     QSet<QByteArray> m_powerIds;

@@ -40,17 +40,20 @@ std::string unitLetters(int unit)
     return letters;
 }
 
-/// The end of the variable whose "{" stands at `open`, by matching braces.
-std::size_t closingBrace(std::string_view text, std::size_t open)
+/// For each "{" the offset of the "}" that closes it, npos where none does.
+std::vector<std::size_t> closingBraces(std::string_view text)
 {
-    int depth = 0;
-    for (std::size_t i = open; i < text.size(); ++i) {
-        depth += text[i] == '{' ? 1 : text[i] == '}' ? -1 : 0;
-        if (depth == 0) {
-            return i;
+    std::vector<std::size_t> closing(text.size(), std::string_view::npos);
+    std::vector<std::size_t> open;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '{') {
+            open.push_back(i);
+        } else if (text[i] == '}' && !open.empty()) {
+            closing[open.back()] = i;
+            open.pop_back();
         }
     }
-    return std::string_view::npos;
+    return closing;
 }
 
 } // namespace
@@ -84,8 +87,10 @@ void TextVariables::resolve(std::vector<Component> *components, const std::vecto
                 return true;
             }
         }
-        return false;
+        // Values of version 6's table of instances are no texts of the symbol.
+        return component.value.find("${") != std::string_view::npos;
     };
+    m_budget = workPerDesign + workPerComponent * components->size();
     std::vector<std::pair<Component *, Component>> resolved;
     for (Component &component : *components) {
         if (!hasVariables(component)) {
@@ -114,12 +119,16 @@ std::string TextVariables::titleText(std::string_view text) const
 
 std::string TextVariables::expand(std::string_view text, const Context &context, int depth) const
 {
+    if (text.find("${") == std::string_view::npos) {
+        return std::string(text);
+    }
+    const std::vector<std::size_t> closing = closingBraces(text);
     std::string result;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const bool escaped = text[i] == '\\' && text.substr(i + 1).starts_with("${");
         const std::size_t open = escaped ? i + 2 : i + 1;
         const bool variableStart = escaped || text.substr(i).starts_with("${");
-        const std::size_t close = variableStart ? closingBrace(text, open) : std::string_view::npos;
+        const std::size_t close = variableStart ? closing[open] : std::string_view::npos;
         if (close == std::string_view::npos) {
             result += text[i];
             continue;
@@ -127,7 +136,7 @@ std::string TextVariables::expand(std::string_view text, const Context &context,
         const std::string_view whole = text.substr(open - 1, close - open + 2);
         std::string inner(text.substr(open + 1, close - open - 1));
         Answer answer;
-        if (!escaped && depth < maximumDepth && result.size() < maximumLength) {
+        if (!escaped && depth < maximumDepth && result.size() < maximumLength && spend(whole.size())) {
             if (inner.find("${") != std::string::npos) {
                 inner = expand(inner, context, depth + 1);
             }
@@ -139,8 +148,19 @@ std::string TextVariables::expand(std::string_view text, const Context &context,
     return result;
 }
 
+bool TextVariables::spend(std::size_t work) const
+{
+    work += workPerVariable;
+    m_ranOut = m_ranOut || work > m_budget;
+    m_budget -= m_ranOut ? 0 : work;
+    return !m_ranOut;
+}
+
 TextVariables::Answer TextVariables::variable(std::string_view name, const Context &context, int depth) const
 {
+    if (!spend(context.component ? workPerProperty * context.component->properties.size() : 0)) {
+        return std::nullopt;
+    }
     const QString key = toText(name);
     Answer answer;
     if (context.component) {

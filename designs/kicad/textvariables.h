@@ -20,12 +20,18 @@ class TextVariables
 public:
     static constexpr int maximumDepth = 10;
     static constexpr std::size_t maximumLength = 1 << 20;
+    /// Variables that name each other can ask for any amount of work; what a design may ask for, in bytes looked at.
+    static constexpr std::size_t workPerDesign = std::size_t(1) << 26;
+    static constexpr std::size_t workPerComponent = std::size_t(1) << 12;
 
     TextVariables(const Hierarchy &hierarchy, const ProjectFile &project, const PropertyNames &names,
                   QString variant);
 
     /// Replaces the variables in the values of all components that have any; the new texts go into the arena.
     void resolve(std::vector<Component> *components, const std::vector<SymbolUse> &symbols, TextArena *arena);
+
+    /// Whether there was more work than allowed, so that some variables were left as they stand.
+    [[nodiscard]] bool ranOut() const { return m_ranOut; }
 
     /// The text with the variables of a root's title block and the project resolved.
     [[nodiscard]] std::string titleText(std::string_view text) const;
@@ -39,8 +45,11 @@ private:
         int unit = 0;
     };
     using Answer = std::optional<std::string>;
+    static constexpr std::size_t workPerVariable = 64;
+    static constexpr std::size_t workPerProperty = 16;
 
     [[nodiscard]] std::string expand(std::string_view text, const Context &context, int depth) const;
+    [[nodiscard]] bool spend(std::size_t work) const;
     [[nodiscard]] Answer variable(std::string_view name, const Context &context, int depth) const;
     [[nodiscard]] Answer ofComponent(const QString &name, const Context &context, int depth) const;
     [[nodiscard]] Answer ofSymbol(const QString &name, const Context &context) const;
@@ -58,6 +67,8 @@ private:
     const std::vector<Component> *m_components = nullptr;
     const std::vector<SymbolUse> *m_symbols = nullptr;
     mutable std::unordered_map<std::string_view, quint32> m_byReference;
+    mutable std::size_t m_budget = workPerDesign;
+    mutable bool m_ranOut = false;
 };
 
 } // namespace designs::kicad

@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/designfolder.h"
+#include "designs/kicad/sheetparser.h"
+#include "designs/kicadtext.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+using namespace kicadtext;
+
+namespace {
+
+const QString root = QStringLiteral("root.kicad_sch");
+
+struct BadInput
+{
+    std::string name;
+    std::string text;
+    int line = 0;
+    std::string says;
+};
+
+std::vector<BadInput> badInputs()
+{
+    const std::string good = schematic(v9, "top", symbol(v9, {.reference = "R1"}));
+    const std::size_t inText = good.find("Reference\" \"R1") + 12;
+    const int lineOfText = int(std::count(good.begin(), good.begin() + std::ptrdiff_t(inText), '\n')) + 1;
+    const int lines = int(std::count(good.begin(), good.end(), '\n'));
+    return {
+        {"empty", "", 0, "is empty"},
+        {"blanks only", "  \n\n ", 1, "does not begin"},
+        {"picture", "\x89PNG\r\n\x1A\n(kicad_sch (version 20250114))", 1, "does not begin"},
+        {"another kind of file", "(kicad_pcb (version 20250114))", 1, "does not begin"},
+        {"longer first word", "(kicad_schematic (version 20250114))", 1, "no KiCad schematic"},
+        {"comment, then nothing", "# (kicad_sch)\n", 2, "no KiCad schematic"},
+        {"comment, then another kind", "# note\n\n(kicad_pcb)", 3, "no KiCad schematic"},
+        {"version 5", "EESchema Schematic File Version 4\n", 1, "does not begin"},
+        {"dummy", "dummy", 1, "does not begin"},
+        {"cut in a text", good.substr(0, inText), lineOfText, "not closed on its line"},
+        {"cut behind a text", good.substr(0, inText + 3), lineOfText, "cut off"},
+        {"last parenthesis missing", good.substr(0, good.size() - 2), lines, "cut off"},
+        {"only the first word", "(kicad_sch", 1, "cut off"},
+        {"version missing", "(kicad_sch\n (generator x)\n)", 3, "no version"},
+        {"version is no number", "(kicad_sch (version abc))", 1, "no version"},
+        {"version too large", "(kicad_sch (version 99999999999999999999))", 1, "no version"},
+        {"text behind the end", good + "\n\n(more)", lines + 3, "behind the end"},
+        {"word behind the end", good + ")", lines + 1, "behind the end"},
+        {"nested without end", "(kicad_sch (version 20250114)\n" + std::string(100'000, '('), 2, "nested deeper"},
+        {"nested in a symbol", "(kicad_sch (version 20250114)\n(symbol (property \"A\" " + std::string(100'000, '(') +
+             std::string(100'000, ')') + ")))", 2, "nested deeper"},
+        {"text over two lines", "(kicad_sch (version 20250114)\n(title_block (title \"a\nb\")))", 2, "not closed"},
+        {"text over two lines in a skipped list", "(kicad_sch (version 20250114)\n\n(wire \"a\nb\"))", 3, "not closed"},
+        {"null bytes", std::string("(kicad_sch (version 20250114)\n\0\0", 32), 2, "cut off"},
+    };
+}
+
+} // namespace
+
+TEST(KicadBadInput, IsRefusedWithFileAndLine)
+{
+    for (const BadInput &input : badInputs()) {
+        const DesignFolder folder;
+        const QString path = folder.write(root, input.text);
+        const auto result = folder.read(root);
+        EXPECT_FALSE(result.design) << input.name;
+        EXPECT_EQ(result.error.file, path) << input.name;
+        EXPECT_EQ(result.error.line, input.line) << input.name;
+        EXPECT_NE(result.error.text.toStdString().find(input.says), std::string::npos)
+            << input.name << ": " << result.error.message().toStdString();
+    }
+}
+
+TEST(KicadBadInput, BelowTheRootNamesTheFileBelow)
+{
+    for (const BadInput &input : badInputs()) {
+        const DesignFolder folder;
+        folder.write(root, schematic(v9, "top", sheet(v9, {})));
+        const QString path = folder.write(QStringLiteral("sub.kicad_sch"), input.text);
+        const auto result = folder.read(root);
+        EXPECT_FALSE(result.design) << input.name;
+        EXPECT_EQ(result.error.file, path) << input.name;
+        EXPECT_EQ(result.error.line, input.line) << input.name;
+    }
+}
+
+TEST(KicadBadInput, ThatIsNoFile)
+{
+    const DesignFolder folder;
+    QDir().mkpath(folder.path(QStringLiteral("folder.kicad_sch")));
+    ASSERT_EQ(mkfifo(folder.path(QStringLiteral("pipe.kicad_sch")).toLocal8Bit().constData(), 0600), 0);
+    const std::vector<std::pair<QString, std::string>> cases{
+        {QStringLiteral("folder.kicad_sch"), "folder"},
+        {QStringLiteral("pipe.kicad_sch"), "pipe"},
+        {QStringLiteral("absent.kicad_sch"), "cannot be read"},
+    };
+    for (const auto &[name, says] : cases) {
+        const auto result = folder.read(name);
+        EXPECT_FALSE(result.design);
+        EXPECT_EQ(result.error.file, folder.path(name));
+        EXPECT_NE(result.error.text.toStdString().find(says), std::string::npos) << result.error.text.toStdString();
+    }
+}
+
+TEST(KicadBadInput, EveryCutOfASmallDesignIsRefused)
+{
+    const std::string good =
+        schematic(v10, "top",
+                  "(title_block (title \"T\") (comment 1 \"c\"))" +
+                      symbol(v10, {.fields = {{"A\\\"", "b\\"}},
+                                   .uses = {{.path = "/top", .reference = "R1", .more = "(variant (name \"A\"))"}}}) +
+                      sheet(v10, {}) + "(rule_area (dnp yes) (polyline (pts (xy 0 0) (xy 1 1) (xy 1 0))))");
+    const auto problemOf = [](const std::string &text) {
+        // Exactly as long as the text, so that reading behind its end shows.
+        const std::vector<char> bytes(text.begin(), text.end());
+        designs::TextArena arena;
+        designs::PropertyNames names;
+        designs::kicad::SheetFile file;
+        designs::kicad::SheetParser parser({bytes.data(), bytes.size()}, &file, &arena, &names);
+        return parser.parse() ? designs::Problem() : parser.problem();
+    };
+    const std::size_t whole = good.rfind(')') + 1;
+    EXPECT_EQ(problemOf(good.substr(0, whole)), designs::Problem());
+    for (std::size_t length = 0; length < whole; ++length) {
+        const designs::Problem problem = problemOf(good.substr(0, length));
+        EXPECT_FALSE(problem.text.isEmpty()) << "cut at " << length;
+        EXPECT_GT(problem.line, 0) << "cut at " << length;
+    }
+}
+
+TEST(KicadBadInput, OddButReadable)
+{
+    const std::string oddSymbol = "(symbol)(symbol (property))(symbol (property \"Reference\"))(symbol (lib_id) (at) "
+                                  "(unit x) (uuid) (instances (project (path)) (path)))";
+    const DesignFolder folder;
+    folder.write(root, schematic(v10, "top", oddSymbol + "(symbol_instances (path))(rule_area)(title_block)"));
+    EXPECT_EQ(folder.load()->components().size(), 4u);
+    folder.write(root, "(kicad_sch (version 20250114))");
+    EXPECT_EQ(folder.load()->components().size(), 0u);
+}
