@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "core/bompart.h"
+
+#include "core/bompartsdatabase.h"
+#include "core/propertyquery.h"
+
+BOMPart::BOMPart(const BOMPartsDatabase *database, const QString &reference, const QString &value,
+                 const QString &parentReference, const QMap<QString, QString> &properties)
+    : Part(nullptr, database, reference, value)
+    , m_parentReference(parentReference)
+{
+    for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
+        m_properties.insert(it.key().toUpper(), it.value());
+    }
+}
+
+bool BOMPart::isBOMPart() const
+{
+    return true;
+}
+
+QString BOMPart::property(const QString &name) const
+{
+    if (name == valueProperty()) {
+        return value();
+    }
+    if (name == placedProperty() && database()) {
+        const Part *parent = database()->part(m_parentReference);
+        return parent && !parent->isBOMPart() ? parent->property(name) : QString();
+    }
+    return m_properties.value(name.toUpper());
+}

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/part.h"
+
+#include <QMap>
+#include <QString>
+
+/// A part that is not in the design and belongs to a placed part: a screw, a heatsink, a label.
+class BOMPart final : public Part
+{
+public:
+    /// Names of properties are turned into upper case.
+    BOMPart(const BOMPartsDatabase *database, const QString &reference, const QString &value,
+            const QString &parentReference, const QMap<QString, QString> &properties = {});
+
+    [[nodiscard]] bool isBOMPart() const override;
+
+    /// As people entered it; names are compared ignoring case. ".Placed" is where the parent stands, empty
+    /// when the database holds no placed part of that reference.
+    [[nodiscard]] QString property(const QString &name) const override;
+
+    [[nodiscard]] const QString &parentReference() const { return m_parentReference; }
+
+    /// The own properties by upper-case name, without the value.
+    [[nodiscard]] const QMap<QString, QString> &properties() const { return m_properties; }
+
+private:
+    QMap<QString, QString> m_properties;
+    QString m_parentReference;
+};

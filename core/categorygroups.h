@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/groupedlines.h"
+
+#include <QStringList>
+
+#include <span>
+#include <vector>
+
+class BOMPartsDatabase;
+class Part;
+
+/// The parts of one category, and the lines they make. Lines are made at the first read after a change.
+class CategoryGroups final
+{
+public:
+    CategoryGroups() = default;
+    CategoryGroups(const BOMPartsDatabase *database, const QStringList &prefixes)
+        : m_database(database)
+        , m_prefixes(prefixes)
+    {
+    }
+
+    /// The reference prefixes that select the parts.
+    [[nodiscard]] const QStringList &prefixes() const { return m_prefixes; }
+
+    /// Puts a part in, unless it is here already.
+    void add(Part &part);
+    void clear();
+
+    /// Groups the parts anew. Without a database that cannot be done: a debug line says so and the lines
+    /// stay.
+    void regroup();
+
+    /// The parts in the order in which they were put in.
+    [[nodiscard]] std::span<Part *const> parts() const { return m_parts; }
+    [[nodiscard]] const GroupedLines &lines() const;
+
+private:
+    const BOMPartsDatabase *m_database = nullptr;
+    QStringList m_prefixes;
+    std::vector<Part *> m_parts;
+    mutable GroupedLines m_lines;
+    mutable bool m_isGrouped = false;
+};

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// What the current design document of the host says. Without a document everything is empty.
+
+/// A value of the information block; "<NONE>" counts as empty.
+[[nodiscard]] QString designInfo(const char *key);
+/// The title, or the document's file name without folder and last extension.
+[[nodiscard]] QString designTitle();
+/// The assembly variant; a board has none.
+[[nodiscard]] QString designVariant();
+/// The text of the attachment with the notes on the bill of materials.
+[[nodiscard]] QString designNotes();
+
+/// The absolute path proposed for a report of the design, `extension` with its dot. The folder is the working
+/// folder, or the user's when the program was started from where it stands; it is made when it is missing.
+[[nodiscard]] QString designOutputPath(const QString &extension);

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "core/groupedlines.h"
+
+#include "core/linebuilder.h"
+
+#include <algorithm>
+
+size_t GroupedLines::indexOf(const BomString &value) const
+{
+    const auto found =
+        std::lower_bound(m_values.begin(), m_values.end(), value,
+                         [](const Value &entry, const BomString &text) { return entry.text < text; });
+    const bool isThere = found != m_values.end() && found->text == value;
+    return isThere ? size_t(found - m_values.begin()) : m_values.size();
+}
+
+BomString groupingKey(const Part &part, const GroupingRule &rule)
+{
+    QString key;
+    for (const PropertyQuery &property : rule.properties) {
+        key += property.text(part);
+        key += u',';
+    }
+    return BomString(key, rule.caseRule);
+}
+
+GroupedLines makeLines(std::span<Part *const> parts, const PartStore &store, const GroupingRule &rule)
+{
+    return LineBuilder(parts, store, rule).build();
+}

@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "core/linebuilder.h"
+
+#include "core/part.h"
+#include "core/partstore.h"
+#include "host/framework/hosttext.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+LineBuilder::LineBuilder(std::span<Part *const> parts, const PartStore &store, const GroupingRule &rule)
+    : m_parts(parts)
+    , m_store(store)
+    , m_rule(rule)
+    , m_texts(rule.properties.size())
+{
+}
+
+GroupedLines LineBuilder::build()
+{
+    GroupedLines lines;
+    findValues();
+    findDrafts();
+    numberLines(lines);
+    fillLines(lines);
+    return lines;
+}
+
+void LineBuilder::findValues()
+{
+    HashIndex index;
+    m_valueOf.reserve(m_parts.size());
+    for (quint32 i = 0; i < m_parts.size(); ++i) {
+        const Part &part = *m_parts[i];
+        // Equal texts have equal numbers; the others are equal only where letter case does not count.
+        const bool byNumber = m_rule.caseRule == Qt::CaseSensitive;
+        const quint64 hash =
+            byNumber ? hashNumber(part.key().value) : hashText(part.value(), Qt::CaseInsensitive);
+        quint32 value = index.find(hash, [&](quint32 known) {
+            const Part &first = *m_parts[m_values[known].firstPart];
+            return first.key().value == part.key().value ||
+                   (!byNumber && first.value().compare(part.value(), Qt::CaseInsensitive) == 0);
+        });
+        if (value == HashIndex::None) {
+            value = quint32(m_values.size());
+            index.insert(hash, value);
+            m_values.push_back({i, 0, {}});
+        }
+        ++m_values[value].count;
+        m_valueOf.push_back(value);
+    }
+}
+
+void LineBuilder::findDrafts()
+{
+    m_draftOf.resize(m_parts.size());
+    for (quint32 i = 0; i < m_parts.size(); ++i) {
+        if (m_values[m_valueOf[i]].count < 2) {
+            makeSingleDraft(i);
+        } else {
+            putIntoDraft(i);
+        }
+    }
+}
+
+void LineBuilder::makeSingleDraft(quint32 part)
+{
+    const auto draft = quint32(m_drafts.size());
+    m_drafts.push_back({part, m_valueOf[part], 0});
+    m_values[m_valueOf[part]].drafts.push_back(draft);
+    m_draftTexts.resize(m_drafts.size() * m_texts.size());
+    m_draftOf[part] = draft;
+}
+
+void LineBuilder::putIntoDraft(quint32 part)
+{
+    readHostTexts(*m_parts[part]);
+    quint64 hash = hashNumber(m_valueOf[part], m_parts[part]->isBOMPart() ? 1 : 0);
+    for (const QByteArrayView text : m_texts) {
+        hash = hashBytes(text.data(), size_t(text.size()), hash);
+    }
+    quint32 draft = m_draftIndex.find(hash, [&](quint32 known) { return isSameDraft(known, part); });
+    if (draft == HashIndex::None) {
+        draft = quint32(m_drafts.size());
+        m_draftIndex.insert(hash, draft);
+        m_drafts.push_back({part, m_valueOf[part], 0});
+        m_values[m_valueOf[part]].drafts.push_back(draft);
+        m_draftTexts.insert(m_draftTexts.end(), m_texts.begin(), m_texts.end());
+    }
+    m_draftOf[part] = draft;
+}
+
+void LineBuilder::readHostTexts(const Part &part)
+{
+    for (size_t i = 0; i < m_texts.size(); ++i) {
+        const PropertyQuery &property = m_rule.properties[i];
+        m_texts[i] = part.isBOMPart()
+                         ? QByteArrayView(m_ownTexts.emplace_back(toHostText(property.text(part))))
+                         : property.hostText(part);
+    }
+}
+
+bool LineBuilder::isSameDraft(quint32 draft, quint32 part) const
+{
+    const Draft &known = m_drafts[draft];
+    // A text of a BOM-only part is shown as it stands, one of a component may be converted.
+    if (known.value != m_valueOf[part] ||
+        m_parts[known.firstPart]->isBOMPart() != m_parts[part]->isBOMPart()) {
+        return false;
+    }
+    const auto texts = m_draftTexts.begin() + qsizetype(draft * m_texts.size());
+    return std::equal(m_texts.begin(), m_texts.end(), texts);
+}
+
+void LineBuilder::numberLines(GroupedLines &lines)
+{
+    std::vector<std::pair<BomString, quint32>> order;
+    order.reserve(m_values.size());
+    for (quint32 value = 0; value < m_values.size(); ++value) {
+        order.emplace_back(BomString(m_parts[m_values[value].firstPart]->value(), m_rule.caseRule), value);
+    }
+    std::sort(order.begin(), order.end(),
+              [](const auto &left, const auto &right) { return left.first < right.first; });
+    lines.m_values.reserve(order.size());
+    for (const auto &[text, value] : order) {
+        lines.m_values.push_back({text, m_lineCount});
+        numberLines(m_values[value]);
+    }
+}
+
+void LineBuilder::numberLines(const ValueDraft &value)
+{
+    if (value.drafts.size() == 1) {
+        m_drafts[value.drafts.front()].line = m_lineCount++;
+        return;
+    }
+    std::vector<std::pair<BomString, quint32>> order;
+    order.reserve(value.drafts.size());
+    for (const quint32 draft : value.drafts) {
+        order.emplace_back(groupingKey(*m_parts[m_drafts[draft].firstPart], m_rule), draft);
+    }
+    std::sort(order.begin(), order.end(),
+              [](const auto &left, const auto &right) { return left.first < right.first; });
+    const BomString *previous = nullptr;
+    for (const auto &[key, draft] : order) {
+        if (!previous || *previous != key) {
+            ++m_lineCount;
+        }
+        m_drafts[draft].line = m_lineCount - 1;
+        previous = &key;
+    }
+}
+
+void LineBuilder::fillLines(GroupedLines &lines) const
+{
+    lines.m_starts.assign(m_lineCount + 1, 0);
+    for (const quint32 draft : m_draftOf) {
+        ++lines.m_starts[m_drafts[draft].line + 1];
+    }
+    std::partial_sum(lines.m_starts.begin(), lines.m_starts.end(), lines.m_starts.begin());
+    std::vector<quint32> next(lines.m_starts.begin(), lines.m_starts.end() - 1);
+    lines.m_parts.resize(m_parts.size());
+    for (size_t i = 0; i < m_parts.size(); ++i) {
+        lines.m_parts[next[m_drafts[m_draftOf[i]].line]++] = m_parts[i];
+    }
+    for (size_t line = 0; line < m_lineCount; ++line) {
+        sortLine(std::span(lines.m_parts)
+                     .subspan(lines.m_starts[line], lines.m_starts[line + 1] - lines.m_starts[line]));
+    }
+}
+
+void LineBuilder::sortLine(std::span<Part *> line) const
+{
+    const auto isLess = [this](const Part *left, const Part *right) {
+        return m_store.orderKey(*left) < m_store.orderKey(*right);
+    };
+    if (!std::is_sorted(line.begin(), line.end(), isLess)) {
+        std::stable_sort(line.begin(), line.end(), isLess);
+    }
+}

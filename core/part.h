@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class BOMPartsDatabase;
+class CategoryGroups;
+struct COMPONENT;
+
+/// What the parts database works out once about a part, so that ordering and grouping compare numbers.
+struct PartKey
+{
+    /// Number of the reference's prefix and of the value among those of the database.
+    quint32 prefix = 0;
+    quint32 value = 0;
+    /// Number at the end of the reference, 0 when it has none.
+    int number = 0;
+};
+
+/// A component of the design as the bill of materials sees it.
+class Part
+{
+public:
+    /// `component` belongs to the netlist and may be null; `database` may be null, stored values are then not
+    /// converted for display.
+    Part(const COMPONENT *component, const BOMPartsDatabase *database, const QString &reference,
+         const QString &value);
+    Part(const Part &) = delete;
+    Part &operator=(const Part &) = delete;
+    virtual ~Part();
+
+    /// Whether the part exists in the bill of materials only.
+    [[nodiscard]] virtual bool isBOMPart() const;
+
+    /// The value of a property as people see it, empty when the part does not have it. "VALUE" is the value,
+    /// ".Placed" the side of the board or "Not placed", ".Name" the component's own name.
+    [[nodiscard]] virtual QString property(const QString &name) const;
+
+    [[nodiscard]] const COMPONENT *component() const { return m_component; }
+    [[nodiscard]] const BOMPartsDatabase *database() const { return m_database; }
+    [[nodiscard]] const QString &reference() const { return m_reference; }
+    [[nodiscard]] const QString &value() const { return m_value; }
+    [[nodiscard]] const PartKey &key() const { return m_key; }
+
+protected:
+    void setValueText(const QString &value) { m_value = value; }
+
+private:
+    friend class PartStore;
+    friend class CategoryGroups;
+
+    const COMPONENT *m_component = nullptr;
+    const BOMPartsDatabase *m_database = nullptr;
+    QString m_reference;
+    QString m_value;
+    PartKey m_key;
+    /// The store that holds the part; it is the proof of membership.
+    const CategoryGroups *m_category = nullptr;
+};

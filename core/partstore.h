@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/bompart.h"
+#include "core/hashindex.h"
+#include "core/part.h"
+#include "core/texttable.h"
+
+#include <QStringView>
+
+#include <deque>
+#include <memory>
+#include <span>
+#include <vector>
+
+/// The parts of a database, each reference once, found by reference and known in the order in which they
+/// came.
+class PartStore final
+{
+public:
+    explicit PartStore(const BOMPartsDatabase *database)
+        : m_database(database)
+    {
+    }
+
+    /// Makes room for that many more parts.
+    void reserve(size_t count);
+
+    /// Makes a part of a component; null when its reference is held already.
+    Part *add(const COMPONENT &component, const QString &reference);
+    /// Takes a part; null, and the part is gone, when its reference is held already.
+    BOMPart *add(std::unique_ptr<BOMPart> part);
+
+    /// The bytes of the components' values are not looked at any more.
+    void endLoading() { m_values.forgetHostTexts(); }
+    void clear();
+
+    [[nodiscard]] Part *find(QStringView reference) const;
+    [[nodiscard]] std::span<Part *const> parts() const { return m_parts; }
+
+    /// References order as these numbers do. A further part may change them.
+    [[nodiscard]] quint64 orderKey(const Part &part) const
+    {
+        return quint64(prefixRanks()[part.key().prefix]) << 32 | quint32(part.key().number);
+    }
+
+    /// The prefixes of the references, by the numbers in the keys of the parts.
+    [[nodiscard]] const TextTable &prefixes() const { return m_prefixes; }
+
+private:
+    [[nodiscard]] quint32 indexOf(quint64 hash, QStringView reference) const;
+    [[nodiscard]] const std::vector<quint32> &prefixRanks() const;
+    void insert(quint64 hash, Part *part, quint32 value);
+    [[nodiscard]] quint32 prefixNumber(QStringView prefix);
+
+    const BOMPartsDatabase *m_database;
+    std::deque<Part> m_placed;
+    std::vector<std::unique_ptr<BOMPart>> m_unplaced;
+    std::vector<Part *> m_parts;
+    HashIndex m_index;
+    TextTable m_prefixes;
+    TextTable m_values;
+    quint32 m_lastPrefix = 0;
+    mutable std::vector<quint32> m_prefixRanks;
+};
