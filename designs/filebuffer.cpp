@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/filebuffer.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace designs {
+
+namespace {
+
+bool startsWith(std::string_view text, std::string_view start)
+{
+    if (text.starts_with("\xEF\xBB\xBF")) {
+        text.remove_prefix(3);
+    }
+    const std::size_t first = text.find_first_not_of(" \t\r\n");
+    // A comment may stand first; what follows it is the reader's business.
+    return first != std::string_view::npos && (text.substr(first).starts_with(start) || text[first] == '#');
+}
+
+} // namespace
+
+bool FileBuffer::read(const QString &path, std::string_view start, Problem *problem)
+{
+    const auto refuse = [&](const QString &text) {
+        *problem = {path, 0, text};
+        return false;
+    };
+    const QFileInfo info(path);
+    if (info.isDir()) {
+        return refuse(QStringLiteral("this is a folder, not a file"));
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return refuse(QStringLiteral("cannot be read: ") + file.errorString());
+    }
+    const qint64 size = file.size();
+    if (size == 0) {
+        return refuse(QStringLiteral("the file is empty"));
+    }
+    if (size > maximumSize) {
+        return refuse(QStringLiteral("the file is larger than 2 GiB"));
+    }
+    if (!startsWith(std::string_view(file.peek(4096).toStdString()), start)) {
+        *problem = {path, 1,
+                    QStringLiteral("this is no file of this kind: it does not begin with \"") +
+                        QString::fromUtf8(start.data(), qsizetype(start.size())) + u'"'};
+        return false;
+    }
+    if (std::size_t(size) > m_capacity) {
+        m_bytes.reset();
+        m_capacity = std::size_t(size);
+        m_bytes = std::make_unique_for_overwrite<char[]>(m_capacity);
+    }
+    m_size = 0;
+    while (m_size < std::size_t(size)) {
+        const qint64 got = file.read(m_bytes.get() + m_size, size - qint64(m_size));
+        if (got <= 0) {
+            return refuse(QStringLiteral("cannot be read to its end: ") + file.errorString());
+        }
+        m_size += std::size_t(got);
+    }
+    return true;
+}
+
+} // namespace designs

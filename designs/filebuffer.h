@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "designs/problem.h"
+
+#include <memory>
+#include <string_view>
+
+namespace designs {
+
+/// One buffer that files are read into one after the other, so that a design of many sheets takes the memory
+/// of its largest file once.
+class FileBuffer
+{
+public:
+    /// Files larger than this are refused.
+    static constexpr qint64 maximumSize = qint64(2) * 1024 * 1024 * 1024;
+
+    /// Reads the whole file; the text stays valid until the next call. A file whose first bytes (behind
+    /// blanks and a byte-order mark) are not `start` is refused without being read. False fills `problem`.
+    bool read(const QString &path, std::string_view start, Problem *problem);
+
+    [[nodiscard]] std::string_view text() const { return {m_bytes.get(), m_size}; }
+
+private:
+    std::unique_ptr<char[]> m_bytes;
+    std::size_t m_size = 0;
+    std::size_t m_capacity = 0;
+};
+
+} // namespace designs

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/kicad/braceescapes.h"
+
+#include <array>
+#include <utility>
+
+namespace designs::kicad {
+
+namespace {
+
+constexpr std::array<std::pair<std::string_view, char>, 14> escapes{{
+    {"slash", '/'},
+    {"backslash", '\\'},
+    {"lt", '<'},
+    {"gt", '>'},
+    {"colon", ':'},
+    {"dblquote", '"'},
+    {"quote", '\''},
+    {"bar", '|'},
+    {"comma", ','},
+    {"space", ' '},
+    {"dollar", '$'},
+    {"tab", '\t'},
+    {"return", '\n'},
+    {"brace", '{'},
+}};
+
+/// The character that a name in braces stands for, 0 for an unknown name.
+char escapedCharacter(std::string_view name)
+{
+    for (const auto &[known, character] : escapes) {
+        if (known == name) {
+            return character;
+        }
+    }
+    return 0;
+}
+
+bool startsMarkup(char before)
+{
+    return std::string_view("$@~^_").find(before) != std::string_view::npos;
+}
+
+} // namespace
+
+std::string resolveBraceEscapes(std::string_view text)
+{
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::size_t close = text[i] == '{' ? text.find('}', i) : std::string_view::npos;
+        const bool markup = i > 0 && startsMarkup(text[i - 1]);
+        const char character = close == std::string_view::npos || markup
+                                   ? '\0'
+                                   : escapedCharacter(text.substr(i + 1, close - i - 1));
+        if (character != '\0') {
+            result += character;
+            i = close;
+        } else {
+            result += text[i];
+        }
+    }
+    return result;
+}
+
+} // namespace designs::kicad

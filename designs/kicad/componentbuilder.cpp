@@ -1,0 +1,379 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/kicad/componentbuilder.h"
+
+#include "designs/notfitted.h"
+
+#include <algorithm>
+
+namespace designs::kicad {
+
+namespace {
+
+QString toText(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), qsizetype(text.size()));
+}
+
+std::string_view nameOfLibId(std::string_view libId)
+{
+    const std::size_t colon = libId.find(':');
+    return colon == std::string_view::npos ? libId : libId.substr(colon + 1);
+}
+
+/// Even-odd rule; a point on the outline may fall on either side.
+bool contains(const std::vector<Point> &outline, Point point)
+{
+    bool inside = false;
+    for (std::size_t i = 0, before = outline.size() - 1; i < outline.size(); before = i++) {
+        const Point &a = outline[i];
+        const Point &b = outline[before];
+        if ((a.y > point.y) != (b.y > point.y) &&
+            point.x < (b.x - a.x) * (point.y - a.y) / (b.y - a.y) + a.x) {
+            inside = !inside;
+        }
+    }
+    return inside;
+}
+
+void replaceOrAdd(std::vector<Property> *properties, const Property &property)
+{
+    const auto same = std::find_if(properties->begin(), properties->end(),
+                                   [&](const Property &other) { return other.name == property.name; });
+    if (same == properties->end()) {
+        properties->push_back(property);
+    } else {
+        same->value = property.value;
+    }
+}
+
+} // namespace
+
+ComponentBuilder::ComponentBuilder(const Hierarchy &hierarchy, std::string variant, TextArena *arena,
+                                   PropertyNames *names)
+    : m_hierarchy(hierarchy)
+    , m_variant(std::move(variant))
+    , m_arena(arena)
+    , m_names(names)
+    , m_footprint(names->intern("Footprint"))
+    , m_valueName(names->intern("Value"))
+{
+}
+
+void ComponentBuilder::build()
+{
+    collectSheetMarks();
+    collectTables();
+    reserve();
+    for (quint32 use = 0; use < m_hierarchy.uses().size(); ++use) {
+        addUse(use);
+    }
+    finishGroups();
+    markNotFittedByProperty(&components, *m_names);
+}
+
+const VariantRecord *ComponentBuilder::variantOf(const InstanceRecord *record) const
+{
+    if (!record || m_variant.empty()) {
+        return nullptr;
+    }
+    const auto found =
+        std::find_if(record->variants.begin(), record->variants.end(),
+                     [this](const VariantRecord &variant) { return variant.name == m_variant; });
+    return found == record->variants.end() ? nullptr : &*found;
+}
+
+void ComponentBuilder::collectSheetMarks()
+{
+    const auto &uses = m_hierarchy.uses();
+    m_sheetMarks.resize(uses.size());
+    for (quint32 number = 0; number < uses.size(); ++number) {
+        const HierarchyUse &use = uses[number];
+        if (!use.symbol) {
+            continue;
+        }
+        SheetMarks marks = m_sheetMarks[use.parent];
+        const VariantRecord *variant = variantOf(use.instance);
+        if (!marks.notInBom && !(variant ? variant->inBom.value_or(use.symbol->inBom) : use.symbol->inBom)) {
+            marks.notInBom = true;
+            marks.notInBomSheet = number;
+        }
+        if (!marks.notFitted && (variant ? variant->dnp.value_or(use.symbol->dnp) : use.symbol->dnp)) {
+            marks.notFitted = true;
+            marks.notFittedSheet = number;
+        }
+        m_sheetMarks[number] = marks;
+    }
+}
+
+/// Version 6 keeps the instances in a table of the root.
+void ComponentBuilder::collectTables()
+{
+    const auto &uses = m_hierarchy.uses();
+    for (quint32 number = 0; number < uses.size(); ++number) {
+        const auto &entries = m_hierarchy.files()[uses[number].file].instanceTable;
+        if (uses[number].symbol || entries.empty()) {
+            continue;
+        }
+        InstanceTable &table = m_tables[number];
+        table.reserve(entries.size());
+        for (const TableInstance &entry : entries) {
+            table.emplace(entry.path, &entry);
+        }
+    }
+}
+
+void ComponentBuilder::reserve()
+{
+    std::size_t total = 0;
+    for (const HierarchyUse &use : m_hierarchy.uses()) {
+        total += m_hierarchy.files()[use.file].symbols.size();
+    }
+    components.reserve(total);
+    symbols.reserve(total);
+}
+
+void ComponentBuilder::addUse(quint32 use)
+{
+    const HierarchyUse &sheet = m_hierarchy.uses()[use];
+    const SheetFile &file = m_hierarchy.files()[sheet.file];
+    const std::optional<quint32> path = file.pathNumber(sheet.uuidPath);
+    count.placed += qsizetype(file.symbols.size());
+    for (quint32 symbol = 0; symbol < file.symbols.size(); ++symbol) {
+        addSymbol(use, symbol, path);
+    }
+}
+
+const TableInstance *ComponentBuilder::tableEntry(quint32 use, const PlacedSymbol &symbol)
+{
+    if (m_tables.empty()) {
+        return nullptr;
+    }
+    const quint32 root = m_hierarchy.rootOf(use);
+    const auto table = m_tables.find(root);
+    if (table == m_tables.end()) {
+        return nullptr;
+    }
+    const std::size_t rootLength = m_hierarchy.uses()[root].uuidPath.size();
+    m_key.assign(m_hierarchy.uses()[use].uuidPath, rootLength);
+    m_key += '/';
+    m_key += symbol.uuid;
+    const auto entry = table->second.find(m_key);
+    return entry == table->second.end() ? nullptr : entry->second;
+}
+
+/// Where nothing is said of this use of the sheet, the symbol's own Reference counts.
+ComponentBuilder::Instance ComponentBuilder::instanceOf(quint32 use, const PlacedSymbol &symbol,
+                                                        std::optional<quint32> path)
+{
+    const InstanceRecord *record = path ? findInstance(symbol.instances, *path) : nullptr;
+    if (record) {
+        return {record->reference, {}, {}, record->unit, variantOf(record)};
+    }
+    if (const TableInstance *entry = tableEntry(use, symbol)) {
+        return {entry->reference, entry->value, entry->footprint, entry->unit, nullptr};
+    }
+    return {symbol.reference, {}, {}, symbol.unit, nullptr};
+}
+
+void ComponentBuilder::addSymbol(quint32 use, quint32 symbol, std::optional<quint32> path)
+{
+    const SheetFile &file = m_hierarchy.files()[m_hierarchy.uses()[use].file];
+    const PlacedSymbol &placed = file.symbols[symbol];
+    const Instance instance = instanceOf(use, placed, path);
+    const LibrarySymbol *library = file.librarySymbol(placed);
+    if (instance.reference.starts_with('#') || (library && library->power)) {
+        ++count.power;
+        return;
+    }
+    const Component component = makeComponent(use, placed, instance);
+    if (!library) {
+        warn(component,
+             QStringLiteral("the symbol ") + toText(placed.libId) +
+                 QStringLiteral(" is missing in the sheet's library cache; KiCad leaves the part out "
+                                "of its own lists, here it counts"));
+    }
+    const SymbolUse place{use, symbol, instance.unit};
+    const bool severalUnits = !library || library->units > 1;
+    if (severalUnits && joinGroup(component, place, placed.libId)) {
+        return;
+    }
+    components.push_back(component);
+    components.back().origin = quint32(symbols.size());
+    symbols.push_back(place);
+}
+
+Component ComponentBuilder::makeComponent(quint32 use, const PlacedSymbol &symbol, const Instance &instance)
+{
+    Component component;
+    component.reference = instance.reference;
+    component.value = instance.value.empty() ? symbol.value : instance.value;
+    component.name = nameOfLibId(symbol.libId);
+    component.properties = symbol.properties;
+    component.file = m_hierarchy.uses()[use].file;
+    component.sheet = use;
+    applyMarks(&component, symbol, instance);
+    if (!instance.footprint.empty() || (instance.variant && !instance.variant->fields.empty())) {
+        applyOverrides(&component, instance);
+    }
+    return component;
+}
+
+void ComponentBuilder::applyMarks(Component *component, const PlacedSymbol &symbol, const Instance &instance)
+{
+    const VariantRecord *variant = instance.variant;
+    const SheetMarks &marks = m_sheetMarks[component->sheet];
+    if (!(variant ? variant->inBom.value_or(symbol.inBom) : symbol.inBom)) {
+        component->notInBom = MarkedBy::Symbol;
+    } else if (marks.notInBom) {
+        component->notInBom = MarkedBy::Sheet;
+        component->notInBomSheet = marks.notInBomSheet;
+    }
+    if (variant ? variant->dnp.value_or(symbol.dnp) : symbol.dnp) {
+        component->notFitted = MarkedBy::Symbol;
+    } else if (marks.notFitted) {
+        component->notFitted = MarkedBy::Sheet;
+        component->notFittedSheet = marks.notFittedSheet;
+    }
+    for (const RuleArea &area : m_hierarchy.files()[component->file].ruleAreas) {
+        if (!contains(area.outline, symbol.at)) {
+            continue;
+        }
+        if (!area.inBom && component->notInBom == MarkedBy::Nothing) {
+            component->notInBom = MarkedBy::RuleArea;
+        }
+        if (area.dnp && component->notFitted == MarkedBy::Nothing) {
+            component->notFitted = MarkedBy::RuleArea;
+        }
+    }
+}
+
+void ComponentBuilder::applyOverrides(Component *component, const Instance &instance)
+{
+    m_scratch.assign(component->properties.begin(), component->properties.end());
+    if (!instance.footprint.empty()) {
+        replaceOrAdd(&m_scratch, {m_footprint, instance.footprint});
+    }
+    if (instance.variant) {
+        for (const Property &field : instance.variant->fields) {
+            if (field.name == m_valueName) {
+                component->value = field.value;
+            } else {
+                replaceOrAdd(&m_scratch, field);
+            }
+        }
+    }
+    component->properties = m_arena->copy(std::span<const Property>(m_scratch));
+}
+
+/// Parts drawn in several units are collected here; true when this is a further unit of one seen before. A
+/// unit that stands there twice, or another symbol under the same reference, begins a part of its own: a
+/// duplicate.
+bool ComponentBuilder::joinGroup(const Component &component, const SymbolUse &place, std::string_view libId)
+{
+    if (component.reference.empty() || component.reference.ends_with('?')) {
+        return false;
+    }
+    std::vector<quint32> &candidates = m_groupsByReference[component.reference];
+    for (const quint32 number : candidates) {
+        Group &group = m_groups[number];
+        const bool unitTaken =
+            std::any_of(group.members.begin(), group.members.end(),
+                        [&](const auto &member) { return member.first.unit == place.unit; });
+        if (group.libId == libId && !unitTaken) {
+            group.members.emplace_back(place, component);
+            ++count.mergedUnits;
+            return true;
+        }
+    }
+    candidates.push_back(quint32(m_groups.size()));
+    m_groups.push_back({libId, quint32(components.size()), {{place, component}}});
+    return false;
+}
+
+void ComponentBuilder::finishGroups()
+{
+    for (Group &group : m_groups) {
+        if (group.members.size() > 1) {
+            finishGroup(&group);
+        }
+    }
+}
+
+void ComponentBuilder::finishGroup(Group *group)
+{
+    std::stable_sort(group->members.begin(), group->members.end(),
+                     [](const auto &a, const auto &b) { return a.first.unit < b.first.unit; });
+    Component joined = group->members.front().second;
+    joined.units = quint32(group->members.size());
+    joined.origin = quint32(symbols.size());
+    for (const auto &[place, unit] : group->members) {
+        symbols.push_back(place);
+        if (joined.notInBom == MarkedBy::Nothing) {
+            joined.notInBom = unit.notInBom;
+            joined.notInBomSheet = unit.notInBomSheet;
+        }
+        if (joined.notFitted == MarkedBy::Nothing) {
+            joined.notFitted = unit.notFitted;
+            joined.notFittedSheet = unit.notFittedSheet;
+        }
+        if (joined.value.empty()) {
+            joined.value = unit.value;
+        }
+    }
+    joinProperties(*group, &joined);
+    warnAboutUnits(*group);
+    components[group->component] = joined;
+}
+
+/// A property is what the lowest unit says of it that does not leave it empty.
+void ComponentBuilder::joinProperties(const Group &group, Component *joined)
+{
+    m_scratch.assign(joined->properties.begin(), joined->properties.end());
+    for (const auto &[place, unit] : group.members) {
+        for (const Property &property : unit.properties) {
+            const auto same = std::find_if(m_scratch.begin(), m_scratch.end(), [&](const Property &other) {
+                return other.name == property.name;
+            });
+            if (same == m_scratch.end()) {
+                m_scratch.push_back(property);
+            } else if (same->value.empty()) {
+                same->value = property.value;
+            }
+        }
+    }
+    joined->properties = m_arena->copy(std::span<const Property>(m_scratch));
+}
+
+void ComponentBuilder::warnAboutUnits(const Group &group)
+{
+    const Component &first = group.members.front().second;
+    QStringList differing;
+    for (const auto &[place, unit] : group.members) {
+        if (unit.value != first.value) {
+            differing << QStringLiteral("Value");
+        }
+        if (unit.notInBom != first.notInBom || unit.notFitted != first.notFitted) {
+            differing << QStringLiteral("the flags for BOM and population");
+        }
+        for (const Property &property : unit.properties) {
+            const auto other = first.stored(property.name);
+            if (other && *other != property.value) {
+                differing << toText(m_names->name(property.name));
+            }
+        }
+    }
+    differing.removeDuplicates();
+    if (!differing.isEmpty()) {
+        warn(first, QStringLiteral("its units differ in ") + differing.join(QStringLiteral(", ")) +
+                        QStringLiteral("; the lowest unit that says something counts"));
+    }
+}
+
+void ComponentBuilder::warn(const Component &component, const QString &text)
+{
+    const QString &file = m_hierarchy.files()[component.file].path;
+    warnings.push_back({file, 0, toText(component.reference) + QStringLiteral(": ") + text});
+}
+
+} // namespace designs::kicad

@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "designs/design.h"
+#include "designs/kicad/hierarchy.h"
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace designs::kicad {
+
+/// One symbol of the drawing in one use of its sheet.
+struct SymbolUse
+{
+    quint32 use = 0;
+    quint32 symbol = 0;
+    qint32 unit = 1;
+};
+
+/// Makes one component per part out of the symbols of a hierarchy: references by instance, the units of a
+/// part joined, flags of sheets, rule areas and the variant applied.
+class ComponentBuilder
+{
+public:
+    ComponentBuilder(const Hierarchy &hierarchy, std::string variant, TextArena *arena, PropertyNames *names);
+
+    void build();
+
+    std::vector<Component> components;
+    /// The symbols of each component: `units` entries from `origin` on, the lowest unit first.
+    std::vector<SymbolUse> symbols;
+    SymbolCount count;
+    std::vector<Problem> warnings;
+
+private:
+    /// What an instance says of a symbol.
+    struct Instance
+    {
+        std::string_view reference;
+        std::string_view value;
+        std::string_view footprint;
+        int unit = 1;
+        const VariantRecord *variant = nullptr;
+    };
+    /// A part that is drawn in several units, while they are collected.
+    struct Group
+    {
+        std::string_view libId;
+        quint32 component = 0;
+        /// Each unit as a component of its own, with its symbol.
+        std::vector<std::pair<SymbolUse, Component>> members;
+    };
+    /// Marks that come from the sheets above.
+    struct SheetMarks
+    {
+        bool notInBom = false;
+        bool notFitted = false;
+        quint32 notInBomSheet = 0;
+        quint32 notFittedSheet = 0;
+    };
+
+    using InstanceTable = std::unordered_map<std::string_view, const TableInstance *>;
+
+    void collectSheetMarks();
+    void collectTables();
+    void reserve();
+    void addUse(quint32 use);
+    void addSymbol(quint32 use, quint32 symbol, std::optional<quint32> path);
+    [[nodiscard]] Instance instanceOf(quint32 use, const PlacedSymbol &symbol, std::optional<quint32> path);
+    [[nodiscard]] const TableInstance *tableEntry(quint32 use, const PlacedSymbol &symbol);
+    [[nodiscard]] const VariantRecord *variantOf(const InstanceRecord *record) const;
+    [[nodiscard]] Component makeComponent(quint32 use, const PlacedSymbol &symbol, const Instance &instance);
+    void applyMarks(Component *component, const PlacedSymbol &symbol, const Instance &instance);
+    void applyOverrides(Component *component, const Instance &instance);
+    bool joinGroup(const Component &component, const SymbolUse &place, std::string_view libId);
+    void finishGroups();
+    void finishGroup(Group *group);
+    void joinProperties(const Group &group, Component *joined);
+    void warnAboutUnits(const Group &group);
+    void warn(const Component &component, const QString &text);
+
+    const Hierarchy &m_hierarchy;
+    std::string m_variant;
+    TextArena *m_arena;
+    PropertyNames *m_names;
+    NameId m_footprint = 0;
+    NameId m_valueName = 0;
+    std::vector<SheetMarks> m_sheetMarks;
+    std::unordered_map<quint32, InstanceTable> m_tables;
+    std::string m_key;
+    std::unordered_map<std::string_view, std::vector<quint32>> m_groupsByReference;
+    std::vector<Group> m_groups;
+    std::vector<Property> m_scratch;
+};
+
+} // namespace designs::kicad

@@ -1,0 +1,208 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/kicad/kicaddesign.h"
+
+#include "designs/kicad/symbolrecount.h"
+#include "designs/kicad/textvariables.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace designs::kicad {
+
+namespace {
+
+QString toText(const std::string &text)
+{
+    return QString::fromStdString(text);
+}
+
+QString siblingPath(const QString &path, QLatin1String extension)
+{
+    const QFileInfo info(path);
+    return info.absoluteDir().absoluteFilePath(info.completeBaseName() + extension);
+}
+
+void addNames(std::span<const InstanceRecord> records, QStringList *names)
+{
+    for (const InstanceRecord &record : records) {
+        for (const VariantRecord &variant : record.variants) {
+            names->append(QString::fromUtf8(variant.name.data(), qsizetype(variant.name.size())));
+        }
+    }
+}
+
+} // namespace
+
+KicadDesign::KicadDesign()
+{
+    m_referenceName = m_names.intern("Reference");
+    m_valueName = m_names.intern("Value");
+    m_names.setAlias("VALUE", m_valueName);
+    m_names.setAlias("PACKAGE", m_names.intern("Footprint"));
+}
+
+bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem *problem)
+{
+    if (!findProject(QFileInfo(path).absoluteFilePath(), problem) || !readSheets(problem)) {
+        return false;
+    }
+    collectVariants();
+    if (!chooseVariant(options.variant, problem)) {
+        return false;
+    }
+    collectSheets();
+    ComponentBuilder builder(*m_hierarchy, options.variant.toStdString(), &m_arena, &m_names);
+    builder.build();
+    m_components = std::move(builder.components);
+    m_symbolUses = std::move(builder.symbols);
+    m_symbols = builder.count;
+    m_warnings.insert(m_warnings.end(), m_hierarchy->warnings().begin(), m_hierarchy->warnings().end());
+    m_warnings.insert(m_warnings.end(), builder.warnings.begin(), builder.warnings.end());
+    TextVariables(*m_hierarchy, m_project, m_names, m_info.variant)
+        .resolve(&m_components, m_symbolUses, &m_arena);
+    fillInfo();
+    return true;
+}
+
+/// The project gives variables, variants and, from version 10 on, several roots; a schematic does without
+/// one.
+bool KicadDesign::findProject(const QString &path, Problem *problem)
+{
+    const bool isProject = path.endsWith(QLatin1String(".kicad_pro"), Qt::CaseInsensitive);
+    const QString projectPath = isProject ? path : siblingPath(path, QLatin1String(".kicad_pro"));
+    const QString rootPath = isProject ? siblingPath(path, QLatin1String(".kicad_sch")) : path;
+    if (isProject || QFileInfo::exists(projectPath)) {
+        Problem broken;
+        if (!readProjectFile(projectPath, &m_project, &broken)) {
+            if (isProject) {
+                *problem = broken;
+                return false;
+            }
+            m_warnings.push_back(broken);
+        }
+    }
+    for (const auto &sheet : m_project.topLevelSheets) {
+        const QString file = QFileInfo(projectPath).absoluteDir().absoluteFilePath(sheet.fileName);
+        m_roots.emplace_back(QDir::cleanPath(file), sheet.uuid);
+    }
+    const bool listed = std::any_of(m_roots.begin(), m_roots.end(), [&](const auto &root) {
+        return isProject || QFileInfo(root.first) == QFileInfo(rootPath);
+    });
+    if (!listed) {
+        m_roots = {{rootPath, QString()}};
+    }
+    return true;
+}
+
+bool KicadDesign::readSheets(Problem *problem)
+{
+    m_hierarchy = std::make_unique<Hierarchy>(&m_arena, &m_names);
+    return std::all_of(m_roots.begin(), m_roots.end(), [&](const auto &root) {
+        return m_hierarchy->addRoot(root.first, root.second, problem);
+    });
+}
+
+void KicadDesign::collectVariants()
+{
+    m_variants = m_project.variants;
+    for (const SheetFile &file : m_hierarchy->files()) {
+        for (const PlacedSymbol &symbol : file.symbols) {
+            addNames(symbol.instances, &m_variants);
+        }
+        for (const SheetSymbol &sheet : file.sheets) {
+            addNames(sheet.instances, &m_variants);
+        }
+    }
+    m_variants.removeDuplicates();
+    m_variants.sort();
+}
+
+bool KicadDesign::chooseVariant(const QString &wanted, Problem *problem)
+{
+    m_info.variant = wanted.isEmpty() ? m_project.textVariables.value(QStringLiteral("VARIANT")) : wanted;
+    if (wanted.isEmpty() || m_variants.contains(wanted)) {
+        return true;
+    }
+    *problem = {m_roots.front().first, 0,
+                QStringLiteral("the design has no variant \"") + wanted + u'"' +
+                    (m_variants.isEmpty()
+                         ? QStringLiteral("; it has none")
+                         : QStringLiteral("; it has ") + m_variants.join(QStringLiteral(", ")))};
+    return false;
+}
+
+void KicadDesign::collectSheets()
+{
+    for (const SheetFile &file : m_hierarchy->files()) {
+        m_files << file.path;
+    }
+    for (const HierarchyUse &use : m_hierarchy->uses()) {
+        m_sheets.push_back({use.namePath, use.file});
+    }
+}
+
+void KicadDesign::fillInfo()
+{
+    const SheetFile &root = m_hierarchy->files().front();
+    const TextVariables variables(*m_hierarchy, m_project, m_names, m_info.variant);
+    const auto resolved = [&](std::string_view text) { return toText(variables.titleText(text)); };
+    const auto fromProject = [this](QLatin1String name, const QString &otherwise) {
+        const QString text = m_project.textVariables.value(name);
+        return text.isEmpty() ? otherwise : text;
+    };
+    m_info.file = root.path;
+    m_info.title = resolved(root.title.title);
+    m_info.revision = resolved(root.title.revision);
+    m_info.created = resolved(root.title.date);
+    m_info.author = fromProject(QLatin1String("AUTHOR"), resolved(root.title.company));
+    m_info.documentNumber = fromProject(QLatin1String("DOCNO"), resolved(root.title.comments[0]));
+    for (const SheetFile &file : m_hierarchy->files()) {
+        if (!m_info.modified.isValid() || file.modified > m_info.modified) {
+            m_info.modified = file.modified;
+        }
+    }
+}
+
+Side KicadDesign::placement(std::string_view reference) const
+{
+    if (!m_boardRead) {
+        m_boardRead = true;
+        const QString board = siblingPath(m_info.file, QLatin1String(".kicad_pcb"));
+        Problem problem;
+        if (QFileInfo::exists(board) && !readBoardSides(board, &m_sides, &problem)) {
+            m_sides.clear();
+            m_warnings.push_back(problem);
+        }
+    }
+    const auto found = m_sides.find(std::string(reference));
+    return found == m_sides.end() ? Side::NotPlaced : found->second;
+}
+
+SymbolCount KicadDesign::recount(Problem *error) const
+{
+    QStringList roots;
+    for (const auto &root : m_roots) {
+        roots << root.first;
+    }
+    SymbolCount count;
+    Problem problem;
+    if (!recountSymbols(roots, &count, &problem) && error) {
+        *error = problem;
+    }
+    return count;
+}
+
+ReadResult readKicadDesign(const QString &path, const ReadOptions &options)
+{
+    auto design = std::make_unique<KicadDesign>();
+    ReadResult result;
+    if (design->read(path, options, &result.error)) {
+        result.design = std::move(design);
+    }
+    return result;
+}
+
+} // namespace designs::kicad

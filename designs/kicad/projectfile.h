@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "designs/problem.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace designs::kicad {
+
+/// What a KiCad project file (.kicad_pro, JSON) says that concerns a bill of materials.
+struct ProjectFile
+{
+    struct TopLevelSheet
+    {
+        QString fileName;
+        QString uuid;
+        QString name;
+    };
+
+    QString path;
+    QHash<QString, QString> textVariables;
+    QStringList variants;
+    /// Version 10 and later; empty for a project with the one root that is named as itself.
+    std::vector<TopLevelSheet> topLevelSheets;
+};
+
+/// Reads a project file; false fills `problem`. A missing file is a problem too.
+[[nodiscard]] bool readProjectFile(const QString &path, ProjectFile *project, Problem *problem);
+
+} // namespace designs::kicad

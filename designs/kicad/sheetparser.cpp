@@ -1,0 +1,526 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/kicad/sheetparser.h"
+
+#include "designs/kicad/braceescapes.h"
+#include "designs/utf8.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace designs::kicad {
+
+namespace {
+
+bool holdsVariable(std::string_view text)
+{
+    for (std::size_t at = text.find('{'); at != std::string_view::npos; at = text.find('{', at + 1)) {
+        if (at > 0 && (text[at - 1] == '$' || text[at - 1] == '@')) {
+            return true;
+        }
+    }
+    return false;
+}
+
+int leadingInt(std::string_view text, int otherwise)
+{
+    int number = otherwise;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+/// The unit of a library symbol's part "NAME_UNIT_STYLE"; 0 for what all units share.
+int unitOfPart(std::string_view name)
+{
+    const std::size_t style = name.rfind('_');
+    const std::size_t unit =
+        style == std::string_view::npos || style == 0 ? style : name.rfind('_', style - 1);
+    return unit == std::string_view::npos ? 0 : leadingInt(name.substr(unit + 1, style - unit - 1), 0);
+}
+
+} // namespace
+
+SheetParser::SheetParser(std::string_view bytes, SheetFile *sheet, TextArena *arena, PropertyNames *names)
+    : m_scanner(bytes)
+    , m_sheet(sheet)
+    , m_arena(arena)
+    , m_names(names)
+    , m_bytes(bytes)
+{
+}
+
+Problem SheetParser::problem() const
+{
+    if (!m_refusal.isEmpty()) {
+        const auto before = m_bytes.substr(0, m_refusalOffset);
+        return {m_sheet->path, 1 + int(std::count(before.begin(), before.end(), '\n')), m_refusal};
+    }
+    return {m_sheet->path, m_scanner.errorLine(), m_scanner.error()};
+}
+
+bool SheetParser::refuse(const QString &text)
+{
+    m_refusal = text;
+    m_refusalOffset = m_scanner.tokenOffset();
+    return false;
+}
+
+/// Calls `onList` for each list inside the current one, to its end. `onList` returns true when it has read
+/// its list to the end; otherwise the rest of that list is skipped.
+template<class OnList>
+bool SheetParser::readChildren(OnList &&onList)
+{
+    for (;;) {
+        switch (m_scanner.next()) {
+        case SexprScanner::Token::Open:
+            if (!onList(m_scanner.keyword()) && !m_scanner.skipList()) {
+                return false;
+            }
+            if (m_scanner.failed() || !m_refusal.isEmpty()) {
+                return false;
+            }
+            break;
+        case SexprScanner::Token::Text:
+            break;
+        case SexprScanner::Token::Close:
+            return true;
+        case SexprScanner::Token::End:
+            return refuse(QStringLiteral("the file ends inside a list: it is cut off or a \")\" is missing"));
+        case SexprScanner::Token::Error:
+            return false;
+        }
+    }
+}
+
+bool SheetParser::parse()
+{
+    if (m_scanner.next() != SexprScanner::Token::Open || m_scanner.keyword() != "kicad_sch") {
+        return refuse(QStringLiteral("this is no KiCad schematic: it does not begin with \"(kicad_sch\""));
+    }
+    if (!readChildren([this](std::string_view keyword) { return readTopLevel(keyword); })) {
+        return false;
+    }
+    if (m_sheet->formatVersion == 0) {
+        return refuse(QStringLiteral("the schematic has no version"));
+    }
+    if (m_scanner.next() != SexprScanner::Token::End) {
+        return refuse(QStringLiteral("there is text behind the end of the schematic"));
+    }
+    return true;
+}
+
+bool SheetParser::readTopLevel(std::string_view keyword)
+{
+    if (keyword == "symbol") {
+        return readSymbol();
+    }
+    if (keyword == "sheet") {
+        return readSheet();
+    }
+    if (keyword == "lib_symbols") {
+        return readLibrary();
+    }
+    if (keyword == "symbol_instances") {
+        return readInstanceTable();
+    }
+    if (keyword == "rule_area") {
+        return readRuleArea();
+    }
+    if (keyword == "title_block") {
+        return readTitleBlock();
+    }
+    if (keyword == "version") {
+        m_sheet->formatVersion = takeInt(0);
+    } else if (keyword == "uuid") {
+        m_sheet->uuid = takeKept();
+    }
+    return false;
+}
+
+bool SheetParser::readTitleBlock()
+{
+    return readChildren([this](std::string_view keyword) {
+        TitleBlock &title = m_sheet->title;
+        if (keyword == "title") {
+            title.title = takeValue();
+        } else if (keyword == "date") {
+            title.date = takeValue();
+        } else if (keyword == "rev") {
+            title.revision = takeValue();
+        } else if (keyword == "company") {
+            title.company = takeValue();
+        } else if (keyword == "comment") {
+            const int number = takeInt(0);
+            if (number >= 1 && number <= 9) {
+                title.comments[number - 1] = takeValue();
+            }
+        }
+        return false;
+    });
+}
+
+bool SheetParser::readLibrary()
+{
+    return readChildren(
+        [this](std::string_view keyword) { return keyword == "symbol" && readLibrarySymbol(); });
+}
+
+bool SheetParser::readLibrarySymbol()
+{
+    const std::string_view name = takeKept();
+    LibrarySymbol symbol;
+    const bool complete = readChildren([this, &symbol](std::string_view keyword) {
+        if (keyword == "power") {
+            symbol.power = true;
+        } else if (keyword == "symbol") {
+            symbol.units = std::max(symbol.units, m_scanner.takeText() ? unitOfPart(m_scanner.raw()) : 0);
+        } else if (keyword == "property" && m_scanner.takeText()) {
+            const std::string_view property = m_scanner.raw();
+            if (property == "ki_description" || property == "Description") {
+                symbol.description = takeValue();
+            } else if (property == "ki_keywords") {
+                symbol.keywords = takeValue();
+            }
+        }
+        return false;
+    });
+    m_sheet->library.emplace(name, symbol);
+    return complete;
+}
+
+bool SheetParser::readSymbol()
+{
+    PlacedSymbol symbol;
+    symbol.offset = quint32(m_scanner.tokenOffset());
+    m_properties.clear();
+    const bool complete = readChildren([this, &symbol](std::string_view keyword) {
+        if (keyword == "property") {
+            addSymbolProperty(&symbol, &m_properties);
+        } else if (keyword == "pin") {
+            return false;
+        } else if (keyword == "instances") {
+            return readInstances(&symbol.instances);
+        } else if (keyword == "lib_id") {
+            symbol.libId = takeKept();
+        } else if (keyword == "uuid") {
+            symbol.uuid = takeKept();
+        } else if (keyword == "at") {
+            symbol.at = takePoint();
+        } else if (keyword == "unit") {
+            symbol.unit = takeInt(1);
+        } else if (keyword == "in_bom") {
+            symbol.inBom = takeFlag();
+        } else if (keyword == "dnp") {
+            symbol.dnp = takeFlag();
+        } else if (keyword == "lib_name") {
+            symbol.libName = takeKept();
+        }
+        return false;
+    });
+    symbol.properties = m_arena->copy(std::span<const Property>(m_properties));
+    m_sheet->symbols.push_back(symbol);
+    return complete;
+}
+
+SheetParser::PropertyText SheetParser::readProperty()
+{
+    PropertyText property;
+    if (!m_scanner.takeText()) {
+        return property;
+    }
+    if (!m_scanner.isQuoted() && m_scanner.raw() == "private" && !m_scanner.takeText()) {
+        return property;
+    }
+    property.name = m_scanner.text();
+    return property;
+}
+
+void SheetParser::addSymbolProperty(PlacedSymbol *symbol, std::vector<Property> *properties)
+{
+    const std::string_view name = readProperty().name;
+    if (name == "Reference") {
+        symbol->reference = takeValue();
+        return;
+    }
+    if (name == "Value") {
+        symbol->value = takeValue();
+        symbol->hasVariables |= m_scanner.mayHoldBrace() && holdsVariable(symbol->value);
+        return;
+    }
+    const NameId id = m_names->intern(name);
+    const std::string_view value = takeValue();
+    symbol->hasVariables |= m_scanner.mayHoldBrace() && holdsVariable(value);
+    const auto same = std::find_if(properties->begin(), properties->end(),
+                                   [id](const Property &other) { return other.name == id; });
+    if (same != properties->end()) {
+        same->value = value;
+    } else {
+        properties->push_back({id, value});
+    }
+}
+
+bool SheetParser::readSheet()
+{
+    SheetSymbol sheet;
+    sheet.offset = quint32(m_scanner.tokenOffset());
+    std::vector<PropertyText> texts;
+    const bool complete = readChildren([this, &sheet, &texts](std::string_view keyword) {
+        if (keyword == "property") {
+            PropertyText property;
+            property.name = keep(readProperty().name);
+            property.value = takeValue();
+            texts.push_back(property);
+            return readChildren([this, &texts](std::string_view inner) {
+                if (inner == "id") {
+                    texts.back().id = takeInt(-1);
+                }
+                return false;
+            });
+        }
+        if (keyword == "instances") {
+            return readInstances(&sheet.instances);
+        }
+        if (keyword == "uuid") {
+            sheet.uuid = takeKept();
+        } else if (keyword == "at") {
+            sheet.at = takePoint();
+        } else if (keyword == "in_bom") {
+            sheet.inBom = takeFlag();
+        } else if (keyword == "dnp") {
+            sheet.dnp = takeFlag();
+        }
+        return false;
+    });
+    nameSheet(&sheet, texts);
+    m_sheet->sheets.push_back(sheet);
+    return complete;
+}
+
+/// Version 6 writes the names of these two properties in the user's language; there their ids tell which they
+/// are.
+void SheetParser::nameSheet(SheetSymbol *sheet, const std::vector<PropertyText> &texts)
+{
+    std::vector<Property> others;
+    for (const PropertyText &text : texts) {
+        const bool isName =
+            text.id == 0 || (text.id < 0 && (text.name == "Sheetname" || text.name == "Sheet name"));
+        const bool isFile =
+            text.id == 1 || (text.id < 0 && (text.name == "Sheetfile" || text.name == "Sheet file"));
+        if (isName) {
+            sheet->name = text.value;
+        } else if (isFile) {
+            sheet->file = text.value;
+        } else {
+            others.push_back({m_names->intern(text.name), text.value});
+        }
+    }
+    sheet->properties = m_arena->copy(std::span<const Property>(others));
+}
+
+bool SheetParser::readRuleArea()
+{
+    RuleArea area;
+    const bool complete = readChildren([this, &area](std::string_view keyword) {
+        if (keyword == "in_bom") {
+            area.inBom = takeFlag();
+        } else if (keyword == "dnp") {
+            area.dnp = takeFlag();
+        } else if (keyword == "polyline") {
+            return readOutline(&area.outline);
+        }
+        return false;
+    });
+    if (!area.inBom || area.dnp) {
+        m_sheet->ruleAreas.push_back(std::move(area));
+    }
+    return complete;
+}
+
+bool SheetParser::readOutline(std::vector<Point> *outline)
+{
+    return readChildren([this, outline](std::string_view keyword) {
+        return keyword == "pts" && readChildren([this, outline](std::string_view point) {
+                   if (point == "xy") {
+                       outline->push_back(takePoint());
+                   }
+                   return false;
+               });
+    });
+}
+
+bool SheetParser::readInstanceTable()
+{
+    return readChildren([this](std::string_view keyword) {
+        if (keyword != "path") {
+            return false;
+        }
+        TableInstance entry;
+        entry.path = takeKept();
+        const bool complete = readChildren([this, &entry](std::string_view inner) {
+            if (inner == "reference") {
+                entry.reference = takeValue();
+            } else if (inner == "unit") {
+                entry.unit = takeInt(1);
+            } else if (inner == "value") {
+                entry.value = takeValue();
+            } else if (inner == "footprint") {
+                entry.footprint = takeValue();
+            }
+            return false;
+        });
+        m_sheet->instanceTable.push_back(entry);
+        return complete;
+    });
+}
+
+bool SheetParser::readInstances(std::span<const InstanceRecord> *records)
+{
+    m_instances.clear();
+    const bool complete = readChildren(
+        [this](std::string_view keyword) { return keyword == "project" && readProject(&m_instances); });
+    // Sorted, so that one is found quickly; of several for the same path the first counts.
+    std::stable_sort(m_instances.begin(), m_instances.end(),
+                     [](const InstanceRecord &a, const InstanceRecord &b) { return a.path < b.path; });
+    *records = m_arena->copy(std::span<const InstanceRecord>(m_instances));
+    return complete;
+}
+
+bool SheetParser::readProject(std::vector<InstanceRecord> *records)
+{
+    return readChildren([this, records](std::string_view keyword) {
+        if (keyword != "path") {
+            return false;
+        }
+        InstanceRecord record;
+        const bool complete = readInstance(&record);
+        records->push_back(record);
+        return complete;
+    });
+}
+
+bool SheetParser::readInstance(InstanceRecord *record)
+{
+    record->path = m_scanner.takeText() ? pathNumber(m_scanner.text()) : pathNumber({});
+    std::vector<VariantRecord> variants;
+    const bool complete = readChildren([this, record, &variants](std::string_view keyword) {
+        if (keyword == "reference") {
+            record->reference = takeValue();
+        } else if (keyword == "unit") {
+            record->unit = takeInt(1);
+        } else if (keyword == "page") {
+            record->page = takeKept();
+        } else if (keyword == "variant") {
+            return readVariant(&variants);
+        }
+        return false;
+    });
+    record->variants = m_arena->copy(std::span<const VariantRecord>(variants));
+    return complete;
+}
+
+bool SheetParser::readVariant(std::vector<VariantRecord> *variants)
+{
+    VariantRecord variant;
+    std::vector<Property> fields;
+    const bool complete = readChildren([this, &variant, &fields](std::string_view keyword) {
+        if (keyword == "name") {
+            variant.name = takeKept();
+        } else if (keyword == "dnp") {
+            variant.dnp = takeFlag();
+        } else if (keyword == "in_bom") {
+            const bool flag = takeFlag();
+            variant.inBom = m_sheet->formatVersion < version::variantInBomCorrected ? !flag : flag;
+        } else if (keyword == "field") {
+            return readVariantField(&fields);
+        }
+        return false;
+    });
+    variant.fields = m_arena->copy(std::span<const Property>(fields));
+    variants->push_back(variant);
+    return complete;
+}
+
+bool SheetParser::readVariantField(std::vector<Property> *fields)
+{
+    Property field;
+    const bool complete = readChildren([this, &field](std::string_view keyword) {
+        if (keyword == "name") {
+            field.name = m_names->intern(takeKept());
+        } else if (keyword == "value") {
+            field.value = takeValue();
+        }
+        return false;
+    });
+    fields->push_back(field);
+    return complete;
+}
+
+std::string_view SheetParser::takeKept()
+{
+    return m_scanner.takeText() ? keep(m_scanner.text()) : std::string_view();
+}
+
+std::string_view SheetParser::takeValue()
+{
+    if (!m_scanner.takeText()) {
+        return {};
+    }
+    const std::string_view text = m_scanner.text();
+    const bool tilde = text == "~" && m_sheet->formatVersion < version::tildeIsText;
+    return tilde ? std::string_view() : keep(text);
+}
+
+/// Keeps the scanner's text.
+std::string_view SheetParser::keep(std::string_view text)
+{
+    if (!m_scanner.isAscii() && !isUtf8(text)) {
+        m_badTexts.push_back(m_scanner.tokenOffset());
+    }
+    if (m_scanner.mayHoldBrace() && mayHaveBraceEscape(text)) {
+        return m_arena->copy(std::string_view(resolveBraceEscapes(text)));
+    }
+    return m_arena->copy(text);
+}
+
+int SheetParser::takeInt(int otherwise)
+{
+    return m_scanner.takeText() ? leadingInt(m_scanner.raw(), otherwise) : otherwise;
+}
+
+/// A flag without a word counts as set.
+bool SheetParser::takeFlag()
+{
+    return !m_scanner.takeText() || m_scanner.raw() == "yes" || m_scanner.raw() == "true";
+}
+
+/// Only rule areas, which came late, need positions.
+Point SheetParser::takePoint()
+{
+    Point point;
+    if (m_sheet->formatVersion < version::ruleAreaFlags) {
+        return point;
+    }
+    for (double *coordinate : {&point.x, &point.y}) {
+        if (m_scanner.takeText()) {
+            const std::string_view text = m_scanner.raw();
+            std::from_chars(text.data(), text.data() + text.size(), *coordinate);
+        }
+    }
+    return point;
+}
+
+quint32 SheetParser::pathNumber(std::string_view path)
+{
+    if (path == m_lastPath && !m_sheet->paths.empty()) {
+        return m_lastPathNumber;
+    }
+    auto found = m_sheet->paths.find(path);
+    if (found == m_sheet->paths.end()) {
+        found = m_sheet->paths.emplace(m_arena->copy(path), quint32(m_sheet->paths.size())).first;
+    }
+    m_lastPath = found->first;
+    m_lastPathNumber = found->second;
+    return found->second;
+}
+
+} // namespace designs::kicad
