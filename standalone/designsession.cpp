@@ -51,6 +51,11 @@ QStringList DesignSession::warnings() const
     return texts;
 }
 
+QStringList DesignSession::files() const
+{
+    return m_design ? m_design->design().files() : QStringList();
+}
+
 QStringList DesignSession::variants() const
 {
     return m_design ? m_design->design().variants() : QStringList();

@@ -38,6 +38,8 @@ public:
 
     /// What the reader noticed and went on from, one "FILE:LINE: text" each.
     [[nodiscard]] QStringList warnings() const;
+    /// The files that make up the design, absolute.
+    [[nodiscard]] QStringList files() const;
     /// The variants that the design defines, sorted.
     [[nodiscard]] QStringList variants() const;
 

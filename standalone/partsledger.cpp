@@ -6,6 +6,7 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <unordered_map>
 
 namespace {
@@ -24,6 +25,18 @@ bool isSkippedByMark(const LoadedDesign &design, const Component &component)
 }
 
 } // namespace
+
+QString RepeatedReference::message() const
+{
+    constexpr qsizetype mostPlaces = 5;
+    QStringList others = places.mid(1, mostPlaces);
+    if (places.size() > mostPlaces + 1) {
+        others.append(QStringLiteral("..."));
+    }
+    return places.value(0) + QStringLiteral(": ") + reference + QStringLiteral(" occurs ") +
+           QString::number(places.size()) + QStringLiteral(" times, also at ") +
+           others.join(QStringLiteral(", "));
+}
 
 PartsLedger::PartsLedger(const LoadedDesign &design)
     : m_design(design)
@@ -93,6 +106,13 @@ qsizetype PartsLedger::listed() const
     return count;
 }
 
+qsizetype PartsLedger::notFitted() const
+{
+    const auto &components = m_design.design().components();
+    return std::count_if(components.begin(), components.end(),
+                         [](const Component &component) { return component.notFitted != MarkedBy::Nothing; });
+}
+
 QStringList PartsLedger::listedNotFitted() const
 {
     QStringList references;
@@ -135,16 +155,18 @@ std::vector<RepeatedReference> PartsLedger::repeated() const
     if (count.size() == m_design.components().size()) {
         return found;
     }
-    std::unordered_map<std::string_view, std::size_t> place;
-    for (const Component &component : m_design.design().components()) {
+    std::unordered_map<std::string_view, std::size_t> entry;
+    for (qsizetype i = 0; i < components(); ++i) {
+        const Component &component = at(i);
         if (count[component.reference] < 2) {
             continue;
         }
-        const auto [at, isNew] = place.emplace(component.reference, found.size());
+        const auto [known, isNew] = entry.emplace(component.reference, found.size());
         if (isNew) {
-            found.push_back({text(component.reference), {}});
+            found.push_back({text(component.reference), {}, 0});
         }
-        found[at->second].places.append(this->place(component));
+        found[known->second].places.append(place(component));
+        found[known->second].listed += isListed(i) ? 1 : 0;
     }
     return found;
 }

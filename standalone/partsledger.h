@@ -20,11 +20,17 @@ struct SkippedParts
     QStringList references;
 };
 
-/// A reference that several components have, with their places "FILE:LINE" in design order.
+/// A reference that several components have.
 struct RepeatedReference
 {
     QString reference;
+    /// Where they stand, "FILE:LINE", in design order.
     QStringList places;
+    /// How many of them are in the bill.
+    qsizetype listed = 0;
+
+    /// "FILE:LINE: R1 occurs 3 times, also at FILE:LINE, FILE:LINE"; of many places only the first are named.
+    [[nodiscard]] QString message() const;
 };
 
 /// Where every component of a design stays: in the bill of materials, or why not. Components are counted as
@@ -44,6 +50,7 @@ public:
     /// How many components would be listed if the not-fitted choice did not leave them out.
     [[nodiscard]] qsizetype leftOutByChoice() const;
     [[nodiscard]] qsizetype listed() const;
+    [[nodiscard]] qsizetype notFitted() const;
     /// The references of listed components that are not fitted.
     [[nodiscard]] QStringList listedNotFitted() const;
     /// The skipped components by reason, reasons in the order of their first component.

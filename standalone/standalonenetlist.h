@@ -20,7 +20,7 @@ public:
     StandaloneNetlist(const StandaloneNetlist &) = delete;
     StandaloneNetlist &operator=(const StandaloneNetlist &) = delete;
     /// Empties and detaches the caches that are still attached.
-    ~StandaloneNetlist();
+    virtual ~StandaloneNetlist();
 
     /// Takes a design, or none, and marks the caches stale. What a cache holds stays alive until it is filled
     /// again.

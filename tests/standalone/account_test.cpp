@@ -101,7 +101,11 @@ TEST(Ledger, FindsRepeatedReferencesWithTheirPlaces)
     EXPECT_EQ(repeated[0].places,
               (QStringList{QStringLiteral("/d/amp.kicad_sch:10"), QStringLiteral("/d/power.kicad_sch:30"),
                            QStringLiteral("/d/amp.kicad_sch")}));
+    EXPECT_EQ(repeated[0].listed, 3);
+    EXPECT_EQ(repeated[0].message(), QStringLiteral("/d/amp.kicad_sch:10: R1 occurs 3 times, also at "
+                                                    "/d/power.kicad_sch:30, /d/amp.kicad_sch"));
     EXPECT_EQ(repeated[1].reference, QStringLiteral("C1"));
+    EXPECT_EQ(repeated[1].listed, 1);
 }
 
 struct TallyCase
