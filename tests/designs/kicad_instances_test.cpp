@@ -127,11 +127,12 @@ TEST(KicadInstances, PowerSymbolsAreNoComponents)
                                      symbol(v10, {.reference = "#FLG01", .lib = "Flag:F"}) +
                                      symbol(v10, {.reference = "V1", .lib = "power:VCC", .libName = "power:VCC_1"}) +
                                      symbol(v10, {.reference = "V2", .lib = "power:VCC"}) +
+                                     symbol(v10, {.lib = "Flag:F", .uses = {{.path = "/top", .reference = "#F1"}}}) +
                                      symbol(v10, {.reference = "R1"}),
                                  cache));
     const auto design = folder.load();
     EXPECT_EQ(references(*design), "V2 R1");
-    EXPECT_EQ(design->symbols().power, 3);
+    EXPECT_EQ(design->symbols().power, 4);
 }
 
 TEST(KicadInstances, ASymbolMissingInTheCacheCountsWithAWarning)
