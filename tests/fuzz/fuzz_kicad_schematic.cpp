@@ -35,7 +35,8 @@ bool walkList(SexprScanner *scanner, int *deepest)
     return true;
 }
 
-/// Skipping a list and reading it must end at the same place; `lists` are looked at, the first ones of the text.
+/// Skipping a list and reading it must end at the same place; `lists` are looked at, the first ones of the
+/// text.
 void compareSkipping(std::string_view text, int lists)
 {
     SexprScanner scanner(text);
@@ -52,7 +53,8 @@ void compareSkipping(std::string_view text, int lists)
         const bool walked = walkList(&walking, &deepest);
         if (deepest < SexprScanner::maximumDepth) {
             promise(skipped == walked, "skipping and reading a list fail together");
-            promise(!skipped || skipping.offset() == walking.offset(), "skipping and reading end at the same place");
+            promise(!skipped || skipping.offset() == walking.offset(),
+                    "skipping and reading end at the same place");
         }
         promise(skipped || skipping.errorLine() > 0, "a failure has a line");
     }
@@ -65,7 +67,8 @@ void parse(std::string_view text)
     designs::kicad::SheetFile file;
     designs::kicad::SheetParser parser(text, &file, &arena, &names);
     if (!parser.parse()) {
-        promise(!parser.problem().text.isEmpty() && parser.problem().line > 0, "a refusal has a text and a line");
+        promise(!parser.problem().text.isEmpty() && parser.problem().line > 0,
+                "a refusal has a text and a line");
         return;
     }
     promise(file.formatVersion > 0, "a schematic that was read has a version");
@@ -95,25 +98,50 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 
 std::vector<std::string> fuzzSeeds()
 {
-    const std::vector<Use> uses{{.path = "/top", .reference = "R1", .more = "(variant (name \"A\") (dnp yes)"
-                                                                            " (field (name \"Value\") (value \"1k\")))"}};
+    const std::vector<Use> uses{{.path = "/top",
+                                 .reference = "R1",
+                                 .more = "(variant (name \"A\") (dnp yes)"
+                                         " (field (name \"Value\") (value \"1k\")))"}};
     const Fields fields{{"Footprint", "R:0402"}, {"Note", "a \"quoted\" C:\\path {slash} ${VALUE}"}};
     const std::string title = "(title_block (title \"T\") (date \"2026-01-01\") (comment 1 \"one\"))";
     const std::string area = "(rule_area (in_bom no) (polyline (pts (xy 0 0) (xy 10 0) (xy 10 10))))";
     std::vector<std::string> seeds;
     for (const int version : {v6, v7, v8, v9, v10}) {
-        seeds.push_back(schematic(version, "top",
-                                  title + "\n# a comment (\n" +
-                                      symbol(version, {.libName = "R_1", .dnp = "no", .fields = fields, .uses = uses}) +
-                                      sheet(version, {.fields = fields, .uses = uses}) + area +
-                                      instanceTable({{"/sym", "R2", "2k", "R:0603"}})));
+        seeds.push_back(
+            schematic(version, "top",
+                      title + "\n# a comment (\n" +
+                          symbol(version, {.libName = "R_1", .dnp = "no", .fields = fields, .uses = uses}) +
+                          sheet(version, {.fields = fields, .uses = uses}) + area +
+                          instanceTable({{"/sym", "R2", "2k", "R:0603"}})));
     }
     return seeds;
 }
 
 std::vector<std::string> fuzzWords()
 {
-    return {"(",        ")",        "\"",       "\\",        "\n",     "#",       "\n#",       "\\\"",     "\\x",
-            "(symbol ", "(property", "(instances", "(path \"/top\"", "(dnp yes)", "(id 1)", "\"~\"", "${", "{slash}",
-            "\xFF",     "\xEF\xBB\xBF", " ",     "(version 20260101)", "private ", "(at nan 1e999)", std::string(1, '\0')};
+    return {"(",
+            ")",
+            "\"",
+            "\\",
+            "\n",
+            "#",
+            "\n#",
+            "\\\"",
+            "\\x",
+            "(symbol ",
+            "(property",
+            "(instances",
+            "(path \"/top\"",
+            "(dnp yes)",
+            "(id 1)",
+            "\"~\"",
+            "${",
+            "{slash}",
+            "\xFF",
+            "\xEF\xBB\xBF",
+            " ",
+            "(version 20260101)",
+            "private ",
+            "(at nan 1e999)",
+            std::string(1, '\0')};
 }
