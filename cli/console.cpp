@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/console.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+QString printable(const QString &text)
+{
+    QString shown;
+    shown.reserve(text.size());
+    for (const QChar c : text) {
+        if (c == u'\n') {
+            shown += QStringLiteral("\\n");
+        } else if (c == u'\t') {
+            shown += QStringLiteral("\\t");
+        } else if (c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
+                   c == QChar::ParagraphSeparator) {
+            shown += QChar::ReplacementCharacter;
+        } else {
+            shown += c;
+        }
+    }
+    return shown;
+}
+
+QString counted(qsizetype count, const QString &singular, const QString &plural)
+{
+    return QString::number(count) + u' ' + (count == 1 ? singular : plural);
+}
+
+namespace console {
+
+void message(const QString &text)
+{
+    const QByteArray line = "bom: " + printable(text).toUtf8() + '\n';
+    std::fwrite(line.constData(), 1, std::size_t(line.size()), stderr);
+}
+
+bool write(QByteArrayView bytes)
+{
+    errno = 0;
+    const std::size_t size = std::size_t(bytes.size());
+    if (std::fwrite(bytes.data(), 1, size, stdout) == size && std::fflush(stdout) == 0) {
+        return true;
+    }
+    message(QStringLiteral("standard output: ") + QString::fromLocal8Bit(std::strerror(errno)));
+    return false;
+}
+
+} // namespace console

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/designarguments.h"
+
+#include <CLI/Validators.hpp>
+
+void DesignArguments::addTo(CLI::App &command)
+{
+    command.add_option("DESIGN", design, "KiCad schematic or project, or CSV part list")->required();
+    command.add_option("--variant", variant, "Apply the design's variant of this name")->type_name("V");
+    command.add_option("--dnp", dnp, "Leave out, list, or list only the parts that are not fitted")
+        ->type_name("exclude|include|only")
+        ->check(CLI::IsMember({"exclude", "include", "only"}).description(""))
+        ->default_str("exclude");
+    command.add_option("--propdefs", propdefs, "Property definitions instead of the user's PROPDEFS.INI")
+        ->type_name("F");
+}
+
+DnpChoice DesignArguments::dnpChoice() const
+{
+    if (dnp == "include") {
+        return DnpChoice::Include;
+    }
+    return dnp == "only" ? DnpChoice::Only : DnpChoice::Exclude;
+}

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "standalone/dnpchoice.h"
+
+#include <CLI/App.hpp>
+
+#include <QString>
+
+#include <string>
+
+/// The part of a command line that says which design is read, and how.
+struct DesignArguments
+{
+    std::string design;
+    std::string variant;
+    std::string dnp = "exclude";
+    std::string propdefs;
+
+    /// Adds DESIGN and its options to a command.
+    void addTo(CLI::App &command);
+
+    [[nodiscard]] QString path() const { return QString::fromStdString(design); }
+    [[nodiscard]] DnpChoice dnpChoice() const;
+};

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/jsonwriter.h"
+
+#include <cstdio>
+
+void JsonWriter::key(QStringView name)
+{
+    separate();
+    append(name);
+    m_bytes += ':';
+    m_needsComma = false;
+}
+
+void JsonWriter::text(QStringView value)
+{
+    separate();
+    append(value);
+    m_needsComma = true;
+}
+
+void JsonWriter::entry(QStringView name, QStringView value)
+{
+    key(name);
+    text(value);
+}
+
+void JsonWriter::separate()
+{
+    if (m_needsComma) {
+        m_bytes += ',';
+    }
+    if (m_wantsLine) {
+        m_bytes += '\n';
+        m_wantsLine = false;
+    }
+}
+
+void JsonWriter::open(char bracket)
+{
+    separate();
+    m_bytes += bracket;
+    m_needsComma = false;
+}
+
+void JsonWriter::close(char bracket)
+{
+    if (m_wantsLine) {
+        m_bytes += '\n';
+        m_wantsLine = false;
+    }
+    m_bytes += bracket;
+    m_needsComma = true;
+}
+
+void JsonWriter::append(QStringView text)
+{
+    m_bytes += '"';
+    const QByteArray utf8 = text.toUtf8();
+    for (const char c : utf8) {
+        if (c == '"' || c == '\\') {
+            m_bytes += '\\';
+            m_bytes += c;
+        } else if (uchar(c) < 0x20 || c == 0x7f) {
+            char escape[7];
+            std::snprintf(escape, sizeof escape, "\\u%04x", unsigned(uchar(c)));
+            m_bytes += escape;
+        } else {
+            m_bytes += c;
+        }
+    }
+    m_bytes += '"';
+}

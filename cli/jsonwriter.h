@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// Writes JSON text in the order in which it is told, without building the document first. Keys and texts are
+/// escaped; numbers and layout are the caller's.
+class JsonWriter final
+{
+public:
+    void beginObject() { open('{'); }
+    void endObject() { close('}'); }
+    void beginArray() { open('['); }
+    void endArray() { close(']'); }
+    void key(QStringView name);
+    void text(QStringView value);
+    /// A key with its text.
+    void entry(QStringView name, QStringView value);
+    /// Begins a new line before what comes next.
+    void newLine() { m_wantsLine = true; }
+
+    [[nodiscard]] const QByteArray &bytes() const { return m_bytes; }
+
+private:
+    void separate();
+    void open(char bracket);
+    void close(char bracket);
+    void append(QStringView text);
+
+    QByteArray m_bytes;
+    bool m_needsComma = false;
+    bool m_wantsLine = false;
+};

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/opendesign.h"
+
+#include "cli/console.h"
+#include "host/netlist/netlist.h"
+#include "host/propdefs/propdefsfile.h"
+#include "standalone/environment.h"
+#include "templates/bomtemplate.h"
+
+#include <QFileInfo>
+
+ExitStatus OpenDesign::open(const DesignArguments &arguments, bool tellWarnings)
+{
+    if (!loadDefinitions(QString::fromStdString(arguments.propdefs))) {
+        return ExitStatus::UnreadableInput;
+    }
+    m_session.setDnpChoice(arguments.dnpChoice());
+    if (!m_session.open(arguments.path(), QString::fromStdString(arguments.variant))) {
+        console::message(m_session.error());
+        return ExitStatus::UnreadableInput;
+    }
+    if (tellWarnings) {
+        for (const QString &warning : m_session.warnings()) {
+            console::message(warning);
+        }
+    }
+    fillDatabase();
+    return ExitStatus::Done;
+}
+
+bool OpenDesign::loadDefinitions(const QString &path)
+{
+    setpropdefsfile(path.isEmpty() ? userDefinitionsFile() : path);
+    if (!path.isEmpty() && !QFileInfo::exists(path)) {
+        console::message(path + QStringLiteral(": there is no such file"));
+        return false;
+    }
+    QStringList problems;
+    const bool isLoaded = load_defaultdefs(nullptr, nullptr, &problems);
+    for (const QString &problem : std::as_const(problems)) {
+        console::message(problem);
+    }
+    return isLoaded;
+}
+
+void OpenDesign::fillDatabase()
+{
+    m_cache.setsource(&m_session.netlist());
+    m_cache.validate(1);
+    m_database.setNetlist(&m_cache);
+    m_database.setCurrentTemplate(BOMTemplate());
+    m_database.reload();
+}

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/cliui.h"
+#include "cli/designarguments.h"
+#include "cli/exitstatus.h"
+#include "core/bompartsdatabase.h"
+#include "host/netlist/netcache.h"
+#include "standalone/designsession.h"
+#include "standalone/partsledger.h"
+
+/// A design that was opened for a command, with its parts database under the default template.
+class OpenDesign final
+{
+public:
+    explicit OpenDesign(const QLocale &locale = QLocale::c())
+        : m_ui(locale)
+    {
+    }
+
+    /// Opens it; says on standard error what is wrong, and what the reader noticed when `tellWarnings` is
+    /// set.
+    [[nodiscard]] ExitStatus open(const DesignArguments &arguments, bool tellWarnings);
+
+    [[nodiscard]] DesignSession &session() { return m_session; }
+    [[nodiscard]] const LoadedDesign &design() const { return *m_session.design(); }
+    [[nodiscard]] PartsLedger ledger() const { return PartsLedger(design()); }
+    [[nodiscard]] BOMPartsDatabase &database() { return m_database; }
+
+private:
+    [[nodiscard]] bool loadDefinitions(const QString &path);
+    void fillDatabase();
+
+    // In this order: the cache leaves the session's server, the database reads from the cache.
+    CliUi m_ui;
+    DesignSession m_session;
+    NETCACHE m_cache;
+    BOMPartsDatabase m_database;
+};

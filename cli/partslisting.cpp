@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/partslisting.h"
+
+#include "cli/opendesign.h"
+#include "core/bompart.h"
+#include "core/propertyquery.h"
+#include "core/reference.h"
+#include "host/framework/hosttext.h"
+#include "host/netlist/cdbcore.h"
+#include "host/netlist/proplist.h"
+#include "standalone/loadeddesign.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+QString placement(const COMPONENT &component)
+{
+    const CDBPART *part = getcdb()->getpart(component.identifier);
+    return part && part->layout() ? fromHostText(part->layout()->name()) : QStringLiteral("Not placed");
+}
+
+ListedPart listed(const COMPONENT &component, const BOMPartsDatabase &database)
+{
+    ListedPart part;
+    part.reference = fromHostText(component.reference);
+    part.value = fromHostText(component.value);
+    part.name = fromHostText(component.name);
+    part.placed = placement(component);
+    part.category = database.categoryOf(part.reference);
+    for (const QByteArray &name : component.properties->names()) {
+        const auto value = component.properties->find(PROPNAME(name));
+        part.properties.append({fromHostText(name), fromHostText(value.value_or(QByteArrayView()))});
+    }
+    return part;
+}
+
+ListedPart listed(const BOMPart &bomPart, const QString &category)
+{
+    ListedPart part;
+    part.reference = bomPart.reference();
+    part.value = bomPart.value();
+    part.placed = bomPart.property(placedProperty());
+    part.category = category;
+    part.bomPartOf = bomPart.parentReference();
+    for (auto it = bomPart.properties().cbegin(); it != bomPart.properties().cend(); ++it) {
+        part.properties.append({it.key(), it.value()});
+    }
+    return part;
+}
+
+void addBomParts(const BOMPartsDatabase &database, QList<ListedPart> *parts)
+{
+    for (const Part *part : database.parts()) {
+        if (part->isBOMPart()) {
+            parts->append(
+                listed(*static_cast<const BOMPart *>(part), database.categoryOf(part->reference())));
+        }
+    }
+}
+
+void sortByReference(QList<ListedPart> *parts)
+{
+    std::stable_sort(parts->begin(), parts->end(), [](const ListedPart &a, const ListedPart &b) {
+        return compareReferences(a.reference, b.reference) < 0;
+    });
+}
+
+} // namespace
+
+PartsListing listParts(OpenDesign &design)
+{
+    PartsListing listing;
+    const PartsLedger ledger = design.ledger();
+    QSet<QString> held;
+    qsizetype index = 0;
+    for (const COMPONENT *component : design.design().components()) {
+        ListedPart part = listed(*component, design.database());
+        part.reason = ledger.skipReason(index++);
+        if (!part.reason.isEmpty()) {
+            listing.skipped.append(part);
+        } else if (held.contains(part.reference)) {
+            listing.duplicates.append(part);
+        } else {
+            held.insert(part.reference);
+            listing.parts.append(part);
+        }
+    }
+    addBomParts(design.database(), &listing.parts);
+    for (QList<ListedPart> *parts : {&listing.parts, &listing.skipped, &listing.duplicates}) {
+        sortByReference(parts);
+    }
+    return listing;
+}

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/program.h"
+
+#include "cli/checkcommand.h"
+#include "cli/console.h"
+#include "cli/partscommand.h"
+#include "cli/reportcommand.h"
+
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+
+#include <QApplication>
+
+#include <array>
+#include <optional>
+#include <span>
+#include <sstream>
+
+namespace {
+
+/// Help and version go to standard output; what is wrong goes, as one line, to standard error.
+ExitStatus tellParseResult(const CLI::App &program, const CLI::ParseError &result)
+{
+    if (result.get_exit_code() == int(CLI::ExitCodes::Success)) {
+        std::ostringstream text;
+        std::ostringstream none;
+        (void)program.exit(result, text, none);
+        return console::write(QByteArray::fromStdString(text.str())) ? ExitStatus::Done
+                                                                     : ExitStatus::UnwritableOutput;
+    }
+    console::message(QString::fromStdString(result.what()) + QStringLiteral(" (bom --help tells more)"));
+    return ExitStatus::WrongUsage;
+}
+
+/// Nothing when the command line is well formed.
+std::optional<ExitStatus> parse(CLI::App &program, int argc, char *argv[])
+{
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::ParseError &result) {
+        return tellParseResult(program, result);
+    }
+    return std::nullopt;
+}
+
+/// The libraries' own remarks are no messages of this program; BOM_DEBUG shows them.
+void handleLibraryMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    static const bool isShown = !qEnvironmentVariableIsEmpty("BOM_DEBUG");
+    if (isShown || type == QtCriticalMsg || type == QtFatalMsg) {
+        console::message(text);
+    }
+}
+
+ExitStatus runChosen(std::span<Command *const> commands)
+{
+    for (Command *command : commands) {
+        if (command->isChosen()) {
+            return command->run();
+        }
+    }
+    return ExitStatus::WrongUsage;
+}
+
+} // namespace
+
+int runProgram(int argc, char *argv[])
+{
+    ReportCommand report;
+    PartsCommand parts;
+    CheckCommand check;
+    const std::array<Command *, 3> commands{&report, &parts, &check};
+
+    CLI::App program("Bills of materials from KiCad designs and CSV part lists.", "bom");
+    program.set_version_flag("--version", "bom " BOM_VERSION);
+    program.require_subcommand(1);
+    for (Command *command : commands) {
+        command->addTo(program);
+    }
+    if (const auto status = parse(program, argc, argv)) {
+        return int(*status);
+    }
+
+    // The views are widgets, but nothing is shown; the program's own options are none of Qt's.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    qInstallMessageHandler(handleLibraryMessage);
+    int qtArgc = 1;
+    const QApplication application(qtArgc, argv);
+    return int(runChosen(commands));
+}

@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/reportcommand.h"
+
+#include "cli/console.h"
+#include "cli/opendesign.h"
+#include "cli/outputfile.h"
+#include "cli/reportnotices.h"
+#include "views/bomcsvview.h"
+
+#include <QLocale>
+
+#include <optional>
+
+namespace {
+
+/// Nothing for a name that is no locale.
+std::optional<QLocale> localeOf(const QString &name)
+{
+    const QLocale locale(name);
+    if (name.isEmpty() || name == QStringLiteral("C") || name == QStringLiteral("POSIX")) {
+        return QLocale::c();
+    }
+    return locale.language() == QLocale::C ? std::nullopt : std::optional(locale);
+}
+
+void tell(const QStringList &notices)
+{
+    for (const QString &notice : notices) {
+        console::message(notice);
+    }
+}
+
+} // namespace
+
+void ReportCommand::addTo(CLI::App &program)
+{
+    m_app = program.add_subcommand("report", "Write the bill of materials; the CSV goes to standard output "
+                                             "when no output is named");
+    m_design.addTo(*m_app);
+    m_app->add_option("--csv", m_csv, "Write one row per line of the bill; - is standard output")
+        ->type_name("F");
+    m_app->add_option("--full-csv", m_fullCsv, "Write one row per part; - is standard output")
+        ->type_name("F");
+    m_app->add_flag("--allow-duplicates", m_allowDuplicates,
+                    "Write the report although references occur more than once");
+    m_app->add_option("--locale", m_locale, "Format numbers as in this locale, such as de_DE; C without it")
+        ->type_name("NAME");
+}
+
+ExitStatus ReportCommand::run()
+{
+    const auto locale = localeOf(QString::fromStdString(m_locale));
+    if (!locale) {
+        console::message(QStringLiteral("unknown locale \"") + QString::fromStdString(m_locale) + u'"');
+        return ExitStatus::WrongUsage;
+    }
+    const QList<Output> outputs = this->outputs();
+    if (!areDistinct(outputs)) {
+        return ExitStatus::WrongUsage;
+    }
+    OpenDesign design(*locale);
+    if (const ExitStatus status = design.open(m_design, true); status != ExitStatus::Done) {
+        return status;
+    }
+    if (!spareTheDesign(design, outputs)) {
+        return ExitStatus::WrongUsage;
+    }
+    if (!mayGoOn(design)) {
+        return ExitStatus::DesignProblem;
+    }
+    tell(notFittedNotices(design));
+    for (const Output &output : outputs) {
+        tell(replacedLineNotices(design, !output.isFull));
+    }
+    return write(design, outputs);
+}
+
+QList<ReportCommand::Output> ReportCommand::outputs() const
+{
+    QList<Output> outputs;
+    if (m_app->count("--csv") > 0) {
+        outputs.append({QString::fromStdString(m_csv), false});
+    }
+    if (m_app->count("--full-csv") > 0) {
+        outputs.append({QString::fromStdString(m_fullCsv), true});
+    }
+    if (outputs.isEmpty()) {
+        outputs.append({QStringLiteral("-"), false});
+    }
+    return outputs;
+}
+
+bool ReportCommand::areDistinct(const QList<Output> &outputs)
+{
+    QStringList taken;
+    for (const Output &output : outputs) {
+        if (output.path.isEmpty()) {
+            console::message(QStringLiteral("an output needs a file name"));
+            return false;
+        }
+        for (const QString &path : std::as_const(taken)) {
+            if (isSameFile(output.path, path)) {
+                console::message(output.path + QStringLiteral(": two outputs cannot go to the same file"));
+                return false;
+            }
+        }
+        taken.append(output.path);
+    }
+    return true;
+}
+
+bool ReportCommand::spareTheDesign(OpenDesign &design, const QList<Output> &outputs) const
+{
+    QStringList inputs = design.session().files();
+    inputs << m_design.path() << design.session().document().notesFile();
+    for (const Output &output : outputs) {
+        for (const QString &input : std::as_const(inputs)) {
+            if (isSameFile(output.path, input)) {
+                console::message(output.path +
+                                 QStringLiteral(": belongs to the design and is not overwritten"));
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+bool ReportCommand::mayGoOn(OpenDesign &design) const
+{
+    if (design.database().duplicateReferences().isEmpty()) {
+        return true;
+    }
+    qsizetype count = 0;
+    for (const RepeatedReference &repeated : design.ledger().repeated()) {
+        if (repeated.listed > 1) {
+            ++count;
+            console::message(repeated.message());
+        }
+    }
+    if (m_allowDuplicates) {
+        return true;
+    }
+    console::message(QStringLiteral("nothing was written: ") +
+                     counted(count, QStringLiteral("reference occurs"), QStringLiteral("references occur")) +
+                     QStringLiteral(" more than once (--allow-duplicates lists the first of each)"));
+    return false;
+}
+
+ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs) const
+{
+    ExitStatus status = ExitStatus::Done;
+    for (const Output &output : outputs) {
+        BOMCsvView view(nullptr, output.isFull);
+        view.setPartsDatabase(&design.database());
+        if (!writeOutput(output.path, view.csv())) {
+            status = ExitStatus::UnwritableOutput;
+        }
+    }
+    return status;
+}

@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "tests/cli/programtest.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::HasSubstr;
+
+using Report = ProgramTest;
+
+const char *const heading = "Category,Quantity,References,Value,Stock Code,Unit Cost\n";
+
+TEST_F(Report, OfAPartListGroupsItsParts)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value,CODE,COST\n"
+                                      "R1,10k,S-10k,0.1\n"
+                                      "R2,10k,S-10k,0.1\n"
+                                      "R10,10k,S-10k,0.1\n"
+                                      "C1,\"1,5u\",,\n"
+                                      "X1,5%1,,2\n");
+    const ProgramRun result = run("report list.csv");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.err, "");
+    EXPECT_EQ(result.out, std::string(heading) + "Capacitors,1,C1,\"1,5u\",,\n"
+                                                 "Resistors,3,\"R1-R2,R10\",10k,S-10k,0.10\n"
+                                                 "Miscellaneous,1,X1,5%1,,2.00\n");
+}
+
+TEST_F(Report, WritesEachOutputToItsFileAndNothingElse)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\nR2,10k\n");
+    const ProgramRun result = run("report list.csv --csv lines.csv --full-csv parts.csv");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(read(QStringLiteral("lines.csv")), std::string(heading) + "Resistors,2,R1-R2,10k,,\n");
+    EXPECT_EQ(read(QStringLiteral("parts.csv")), "Category,References,Value,Stock Code,Unit Cost\n"
+                                                 "Resistors,R1,10k,,\n"
+                                                 "Resistors,R2,10k,,\n");
+    EXPECT_EQ(run("report list.csv --full-csv - --csv lines.csv").out, read(QStringLiteral("parts.csv")));
+}
+
+TEST_F(Report, WritesNumbersInTheLocaleThatIsAskedFor)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value,COST\nR1,10k,1234.5\n");
+    EXPECT_THAT(run("report list.csv").out, HasSubstr("10k,,1234.50\n"));
+    EXPECT_THAT(run("report list.csv --locale C").out, HasSubstr("10k,,1234.50\n"));
+    const ProgramRun german = run("report list.csv --locale de_DE");
+    EXPECT_EQ(german.status, 0);
+    EXPECT_THAT(german.out, HasSubstr(",50\""));
+}
+
+TEST_F(Report, FollowsThePropertyDefinitionsThatAreNamed)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value,COST\nR1,10k,1.5\n");
+    write(QStringLiteral("text.ini"), "[PROPDEFS]\n\"COST\",STRING\nnonsense\n");
+    const ProgramRun result = run("report list.csv --propdefs text.ini");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.out, HasSubstr("10k,,1.5\n"));
+    EXPECT_THAT(result.err, HasSubstr("bom: text.ini:3: "));
+}
+
+TEST_F(Report, RefusesRepeatedReferencesUnlessTheyAreAllowed)
+{
+    write(QStringLiteral("amp.kicad_sch"), kicadSchematic({{"R1", "10k"}, {"R2", "1k"}, {"R1", "47k"}}));
+    const ProgramRun refused = run("report amp.kicad_sch --csv out.csv");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.out, "");
+    EXPECT_THAT(refused.err, HasSubstr(": R1 occurs 2 times, also at DIR/amp.kicad_sch"));
+    EXPECT_THAT(refused.err, HasSubstr("bom: nothing was written: 1 reference occurs more than once"));
+    EXPECT_EQ(read(QStringLiteral("out.csv")), "no file");
+
+    const ProgramRun allowed = run("report amp.kicad_sch --allow-duplicates");
+    EXPECT_EQ(allowed.status, 0);
+    EXPECT_EQ(allowed.out, std::string(heading) + "Resistors,1,R1,10k,,\nResistors,1,R2,1k,,\n");
+    EXPECT_THAT(allowed.err, HasSubstr(": R1 occurs 2 times"));
+}
+
+/// R1 and R3 are fitted, R2, C1 and H1 are not, H1 is no part of the bill either.
+QByteArray unfitted()
+{
+    const QByteArray dnp = "(in_bom yes) (on_board yes) (dnp yes)";
+    return kicadSchematic({{"R1", "10k"},
+                           {"R2", "10k", {}, dnp},
+                           {"R3", "10k"},
+                           {"C1", "1u", {}, dnp},
+                           {"H1", "hole", {}, "(in_bom no) (on_board yes) (dnp yes)"}});
+}
+
+TEST_F(Report, SaysHowManyPartsAreNotFitted)
+{
+    write(QStringLiteral("amp.kicad_sch"), unfitted());
+    const ProgramRun excluded = run("report amp.kicad_sch");
+    EXPECT_EQ(excluded.status, 0);
+    EXPECT_EQ(excluded.err, "bom: 2 parts are not fitted and left out (--dnp include lists them)\n");
+    EXPECT_EQ(excluded.out, std::string(heading) + "Resistors,2,\"R1,R3\",10k,,\n");
+
+    const ProgramRun included = run("report amp.kicad_sch --dnp include");
+    EXPECT_EQ(included.status, 0);
+    EXPECT_EQ(included.err, "bom: the line R1-R3 mixes fitted and not fitted parts; not fitted: R2\n");
+    EXPECT_EQ(included.out, std::string(heading) + "Capacitors,1,C1,1u,,\nResistors,3,R1-R3,10k,,\n");
+
+    const ProgramRun only = run("report amp.kicad_sch --dnp only");
+    EXPECT_EQ(only.status, 0);
+    EXPECT_EQ(only.err, "bom: 2 fitted parts are left out (--dnp only)\n");
+    EXPECT_EQ(only.out, std::string(heading) + "Capacitors,1,C1,1u,,\nResistors,1,R2,10k,,\n");
+}
+
+TEST_F(Report, WarnsOfALineThatAnotherReplaces)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\nR01,47k\n");
+    const ProgramRun result = run("report list.csv");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.err, HasSubstr("R01"));
+    EXPECT_THAT(result.err, HasSubstr("R1"));
+}
+
+TEST_F(Report, GivesEqualBytesTwice)
+{
+    QByteArray list = "Reference,Value,MPN\n";
+    for (int i = 1; i <= 500; ++i) {
+        list += 'R' + QByteArray::number(i) + ',' + QByteArray::number(i % 37) + "k,M" +
+                QByteArray::number(i % 11) + '\n';
+    }
+    write(QStringLiteral("list.csv"), list);
+    setEnvironment(QStringLiteral("QT_HASH_SEED"), QStringLiteral("0"));
+    const ProgramRun first = run("report list.csv");
+    const ProgramRun firstParts = run("parts list.csv --json");
+    setEnvironment(QStringLiteral("QT_HASH_SEED"), QString());
+    EXPECT_EQ(run("report list.csv").out, first.out);
+    EXPECT_EQ(run("parts list.csv --json").out, firstParts.out);
+    EXPECT_EQ(first.status, 0);
+}
+
+} // namespace

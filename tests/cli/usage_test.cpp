@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "tests/cli/programtest.h"
+
+#include <QDir>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+using Usage = ProgramTest;
+
+bool isOneMessage(const std::string &err)
+{
+    return err.starts_with("bom: ") && err.find('\n') == err.size() - 1;
+}
+
+TEST_F(Usage, HelpAndVersionGoToStandardOutput)
+{
+    const std::pair<const char *, const char *> cases[] = {{"--help", "report"},
+                                                           {"--version", "bom "},
+                                                           {"report --help", "--full-csv"},
+                                                           {"parts --help", "--json"},
+                                                           {"check --help", "--require"}};
+    for (const auto &[arguments, expected] : cases) {
+        const ProgramRun result = run(arguments);
+        EXPECT_EQ(result.status, 0) << arguments;
+        EXPECT_THAT(result.out, HasSubstr(expected)) << arguments;
+        EXPECT_EQ(result.err, "") << arguments;
+    }
+}
+
+TEST_F(Usage, WhatIsWrongIsOneLineAndStatusTwo)
+{
+    write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
+    const char *const cases[] = {
+        "",
+        "frobnicate",
+        "report",
+        "report a.csv b.csv",
+        "report a.csv --dnp maybe",
+        "report a.csv --csv",
+        "report a.csv --colour",
+        "report a.csv --locale xx_klingon",
+        "report a.csv --csv= --full-csv b",
+        "report a.csv --csv out.csv --full-csv ./out.csv",
+        "report a.csv --csv - --full-csv -",
+        "report a.csv --csv a.csv",
+        "report a.csv --full-csv ./a.csv",
+        "report a.csv --csv a.bomnotes.txt",
+        "parts",
+        "parts a.csv --require X",
+        "check a.csv --require",
+        "check a.csv --json",
+    };
+    for (const char *arguments : cases) {
+        const ProgramRun result = run(arguments);
+        EXPECT_EQ(result.status, 2) << "bom " << arguments << '\n' << result.err;
+        EXPECT_TRUE(isOneMessage(result.err)) << "bom " << arguments << '\n' << result.err;
+        EXPECT_EQ(result.out, "") << "bom " << arguments;
+    }
+    EXPECT_EQ(read(QStringLiteral("a.csv")), "Reference,Value\nR1,10k\n");
+    EXPECT_EQ(read(QStringLiteral("out.csv")), "no file");
+}
+
+TEST_F(Usage, AnInputThatCannotBeReadIsNamedAndStatusThree)
+{
+    ASSERT_TRUE(QDir(path(QString())).mkdir(QStringLiteral("folder.kicad_sch")));
+    write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
+    write(QStringLiteral("half.kicad_sch"), "(kicad_sch\n\t(version 20231120)\n\t(symbol");
+    write(QStringLiteral("empty.kicad_sch"), "");
+    write(QStringLiteral("norefs.csv"), "Reference,Value\nR1,10k\n,47k\n");
+    const std::pair<const char *, const char *> cases[] = {
+        {"missing.kicad_sch", "missing.kicad_sch: "},
+        {"missing.csv", "missing.csv: "},
+        {"folder.kicad_sch", "folder.kicad_sch: "},
+        {"half.kicad_sch", "half.kicad_sch:"},
+        {"empty.kicad_sch", "empty.kicad_sch"},
+        {"norefs.csv", "norefs.csv:3: "},
+        {"a.csv --variant Lite", "Lite"},
+        {"a.csv --propdefs missing.ini", "missing.ini: "},
+    };
+    for (const auto &[arguments, expected] : cases) {
+        for (const char *command : {"report", "parts", "check"}) {
+            const ProgramRun result = run((std::string(command) + ' ' + arguments).c_str());
+            EXPECT_EQ(result.status, 3) << command << ' ' << arguments;
+            EXPECT_TRUE(isOneMessage(result.err)) << result.err;
+            EXPECT_THAT(result.err, HasSubstr(expected)) << command;
+            EXPECT_EQ(result.out, "") << command << ' ' << arguments;
+        }
+    }
+}
+
+TEST_F(Usage, AnOutputThatCannotBeWrittenIsNamedAndStatusFour)
+{
+    write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
+    ASSERT_TRUE(QDir(path(QString())).mkdir(QStringLiteral("folder")));
+    for (const char *output : {"/nonexistent/x.csv", "/dev/full", "folder"}) {
+        for (const char *option : {"--csv", "--full-csv"}) {
+            const std::string arguments = std::string("report a.csv ") + option + ' ' + output;
+            const ProgramRun result = run(arguments.c_str());
+            EXPECT_EQ(result.status, 4) << arguments;
+            EXPECT_TRUE(isOneMessage(result.err)) << result.err;
+            EXPECT_THAT(result.err, StartsWith(std::string("bom: ") + output + ": cannot be written: "));
+        }
+    }
+}
+
+TEST_F(Usage, AFullStandardOutputIsNoticed)
+{
+    write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
+    for (const char *command :
+         {"report a.csv", "parts a.csv", "parts a.csv --json", "check a.csv", "--help"}) {
+        const ProgramRun result = run(command, QStringLiteral("/dev/full"));
+        EXPECT_EQ(result.status, 4) << command;
+        EXPECT_THAT(result.err, StartsWith("bom: standard output: ")) << command;
+    }
+}
+
+TEST_F(Usage, OneOutputThatFailsDoesNotStopTheOther)
+{
+    write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
+    const ProgramRun result = run("report a.csv --csv /nonexistent/x.csv --full-csv full.csv");
+    EXPECT_EQ(result.status, 4);
+    EXPECT_THAT(read(QStringLiteral("full.csv")), HasSubstr("Resistors,R1,10k"));
+}
+
+} // namespace
