@@ -83,7 +83,7 @@ private:
     QByteArray bare()
     {
         const qsizetype start = m_at;
-        while (m_at < m_bytes.size() && !strchr(" \t\r\n()\"", m_bytes.at(m_at))) {
+        while (m_at < m_bytes.size() && !QByteArrayView(" \t\r\n()\"").contains(m_bytes.at(m_at))) {
             ++m_at;
         }
         return m_bytes.mid(start, m_at - start);

@@ -11,6 +11,7 @@
 #include <sys/stat.h>
 
 using namespace kicadtext;
+using namespace std::string_literals;
 
 namespace {
 
@@ -81,7 +82,7 @@ std::vector<BadInput> badInputs()
          "(kicad_sch (version 20260306)\n(rule_area (dnp yes) (polyline (pts" + repeated("(xy 1 %)", 10'001) +
              "))))",
          2, "10000 corners"},
-        {"null bytes", std::string("(kicad_sch (version 20250114)\n\0\0", 32), 2, "cut off"},
+        {"null bytes", "(kicad_sch (version 20250114)\n\0\0"s, 2, "cut off"},
     };
 }
 
@@ -168,6 +169,8 @@ TEST(KicadBadInput, OddButReadable)
     folder.write(root,
                  schematic(v10, "top", oddSymbol + "(symbol_instances (path))(rule_area)(title_block)"));
     EXPECT_EQ(folder.load()->components().size(), 4u);
+    folder.write(root, "(kicad_sch (version 20250114) \0 (wire \0\0) \"\0\")"s);
+    EXPECT_EQ(folder.load()->components().size(), 0u);
     folder.write(root, "(kicad_sch (version 20250114))");
     EXPECT_EQ(folder.load()->components().size(), 0u);
 }
