@@ -10,6 +10,8 @@
 #include "host/framework/hosttext.h"
 #include "host/netlist/netcache.h"
 
+#include <QSet>
+
 #include <memory>
 #include <utility>
 
@@ -276,8 +278,7 @@ void BOMPartsDatabase::applyFields(const BOMFields &fields)
 void BOMPartsDatabase::applyCategories(const QList<BOMCategory> &categories)
 {
     const BulkChange change(this);
-    const QList<BOMCategory> wanted = categories; // may be the template's own list
-    m_template.setCategories(wanted);
+    m_template.setCategories(categories);
     for (auto &[heading, groups] : m_categories) {
         groups.clear();
     }
@@ -285,13 +286,18 @@ void BOMPartsDatabase::applyCategories(const QList<BOMCategory> &categories)
     m_headingOfPrefix.clear();
     m_storeOfPrefix.clear();
     m_categoryOrder.clear();
-    for (const BOMCategory &category : wanted) {
+    for (const BOMCategory &category : categories) {
         if (category.isMiscCategory) {
             m_miscCategoryName = category.heading;
         }
     }
     miscCategory();
-    for (const BOMCategory &category : wanted) {
+    QSet<QString> headings;
+    for (const BOMCategory &category : categories) {
+        if (!headings.contains(category.heading)) {
+            headings.insert(category.heading);
+            m_categoryOrder.append(category.heading);
+        }
         addCategory(category);
     }
     putPartsIntoCategories();
@@ -300,9 +306,6 @@ void BOMPartsDatabase::applyCategories(const QList<BOMCategory> &categories)
 
 void BOMPartsDatabase::addCategory(const BOMCategory &category)
 {
-    if (!m_categoryOrder.contains(category.heading)) {
-        m_categoryOrder.append(category.heading);
-    }
     if (category.isMiscCategory || m_categories.contains(category.heading)) {
         return;
     }

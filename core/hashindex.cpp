@@ -11,26 +11,41 @@
 
 namespace {
 
-constexpr quint64 multiplier = 0x9fb21c651e98df25;
 constexpr size_t smallestTable = 16;
 
-quint64 processSeed()
+/// Both halves of the product count, so that no change of a factor goes unnoticed in a predictable way: a
+/// design cannot be made to collide on purpose.
+quint64 multiplied(quint64 left, quint64 right)
 {
-    static const quint64 seed = quint64(size_t(QHashSeed::globalSeed())) * multiplier;
-    return seed;
+    __extension__ using Wide = unsigned __int128;
+    const Wide product = Wide(left) * right;
+    return quint64(product) ^ quint64(product >> 64);
+}
+
+struct Secrets
+{
+    quint64 text = 0;
+    quint64 state = 0;
+};
+
+const Secrets &secrets()
+{
+    static const Secrets made = [] {
+        const auto seed = quint64(size_t(QHashSeed::globalSeed()));
+        const quint64 text = multiplied(seed ^ 0x2d358dccaa6c78a5, 0x8bb84b93962eacc9);
+        return Secrets{text, multiplied(text ^ 0x4b33a62ed433d4a3, seed ^ 0x4d5a2da51de1aa47)};
+    }();
+    return made;
 }
 
 quint64 mixed(quint64 hash, quint64 word)
 {
-    hash = (hash ^ word) * multiplier;
-    return hash ^ (hash >> 32);
+    return multiplied(word ^ secrets().text, hash ^ secrets().state);
 }
 
 quint64 finished(quint64 hash)
 {
-    hash *= multiplier;
-    hash ^= hash >> 29;
-    return hash * multiplier;
+    return multiplied(hash ^ secrets().text, 0x9fb21c651e98df25);
 }
 
 /// What a text is compared by when letter case does not count; pairs of surrogates are one character.
@@ -96,7 +111,7 @@ void HashIndex::place(Slot slot)
 quint64 hashBytes(const void *data, size_t size, quint64 seed)
 {
     const char *at = static_cast<const char *>(data);
-    quint64 hash = mixed(processSeed() ^ seed, size);
+    quint64 hash = mixed(seed, size);
     quint64 word = 0;
     for (; size >= sizeof word; size -= sizeof word, at += sizeof word) {
         std::memcpy(&word, at, sizeof word);
@@ -112,7 +127,7 @@ quint64 hashBytes(const void *data, size_t size, quint64 seed)
 
 quint64 hashNumber(quint64 number, quint64 seed)
 {
-    return finished(mixed(processSeed() ^ seed, number));
+    return finished(mixed(seed, number));
 }
 
 quint64 hashText(QStringView text, Qt::CaseSensitivity caseRule)
@@ -120,7 +135,7 @@ quint64 hashText(QStringView text, Qt::CaseSensitivity caseRule)
     if (caseRule == Qt::CaseSensitive) {
         return hashBytes(text.utf16(), size_t(text.size()) * sizeof(char16_t));
     }
-    quint64 hash = processSeed();
+    quint64 hash = mixed(0, quint64(text.size()));
     for (qsizetype at = 0; at < text.size(); ++at) {
         hash = mixed(hash, folded(text, at));
     }

@@ -6,8 +6,10 @@
 #include "templates/bomtemplate.h"
 
 #include <QCoreApplication>
+#include <QSet>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -58,12 +60,13 @@ bool hasMiscCategory(const QList<BOMCategory> &categories)
 void addMiscCategory(BOMTemplate &settings)
 {
     QList<BOMCategory> categories = settings.categories();
-    const auto isTaken = [&categories](const QString &name) {
-        return std::any_of(categories.cbegin(), categories.cend(),
-                           [&name](const BOMCategory &category) { return category.heading == name; });
-    };
+    QSet<QString> headings;
+    for (const BOMCategory &category : std::as_const(categories)) {
+        headings.insert(category.heading);
+    }
     BOMCategory misc;
-    misc.heading = freeName(translated("Miscellaneous"), isTaken);
+    misc.heading = freeName(translated("Miscellaneous"),
+                            [&headings](const QString &name) { return headings.contains(name); });
     misc.references = QStringList{QStringLiteral("*")};
     misc.isMiscCategory = true;
     categories.append(misc);

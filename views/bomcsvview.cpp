@@ -7,6 +7,7 @@
 #include "views/csvtext.h"
 #include "views/reportfile.h"
 
+#include <QFileInfo>
 #include <QUrl>
 
 BOMCsvView::BOMCsvView(QWidget *parent, bool full)
@@ -34,7 +35,7 @@ void BOMCsvView::writeOutput()
         ui.warning(this, tr("Output Failed"), reportFileMessage(result, path, reason));
         return;
     }
-    ui.openUrl(QUrl::fromLocalFile(path));
+    ui.openUrl(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
 }
 
 bool BOMCsvView::writeFile(const QString &path, QString *reason)
