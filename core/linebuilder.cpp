@@ -8,13 +8,13 @@
 
 #include <algorithm>
 #include <numeric>
+#include <string_view>
 #include <utility>
 
 LineBuilder::LineBuilder(std::span<Part *const> parts, const PartStore &store, const GroupingRule &rule)
     : m_parts(parts)
     , m_store(store)
     , m_rule(rule)
-    , m_texts(rule.properties.size())
 {
 }
 
@@ -55,63 +55,62 @@ void LineBuilder::findValues()
 
 void LineBuilder::findDrafts()
 {
-    m_draftOf.resize(m_parts.size());
+    m_draftOf.reserve(m_parts.size());
     for (quint32 i = 0; i < m_parts.size(); ++i) {
-        if (m_values[m_valueOf[i]].count < 2) {
-            makeSingleDraft(i);
+        m_draftOf.push_back(m_values[m_valueOf[i]].count < 2 ? addDraft(i) : draftOf(i));
+    }
+}
+
+quint32 LineBuilder::addDraft(quint32 part)
+{
+    const auto draft = quint32(m_drafts.size());
+    m_drafts.push_back({part, m_valueOf[part], 0, 0, 0});
+    m_values[m_valueOf[part]].drafts.push_back(draft);
+    return draft;
+}
+
+quint32 LineBuilder::draftOf(quint32 part)
+{
+    describe(part);
+    const quint64 hash = hashBytes(m_description.data(), m_description.size());
+    quint32 draft = m_draftIndex.find(hash, [this](quint32 known) { return isDescribed(known); });
+    if (draft == HashIndex::None) {
+        draft = addDraft(part);
+        m_drafts[draft].description = m_descriptions.size();
+        m_drafts[draft].descriptionSize = quint32(m_description.size());
+        m_descriptions += m_description;
+        m_draftIndex.insert(hash, draft);
+    }
+    return draft;
+}
+
+void LineBuilder::describe(quint32 part)
+{
+    const Part &described = *m_parts[part];
+    // A text of a BOM-only part is shown as it stands, one of a component may be converted.
+    const bool isBOMPart = described.isBOMPart();
+    const quint32 head[] = {m_valueOf[part], isBOMPart ? 1U : 0U};
+    m_description.assign(reinterpret_cast<const char *>(head), sizeof head);
+    for (const PropertyQuery &property : m_rule.properties) {
+        if (isBOMPart) {
+            describe(toHostText(property.text(described)));
         } else {
-            putIntoDraft(i);
+            describe(property.hostText(described));
         }
     }
 }
 
-void LineBuilder::makeSingleDraft(quint32 part)
+void LineBuilder::describe(QByteArrayView text)
 {
-    const auto draft = quint32(m_drafts.size());
-    m_drafts.push_back({part, m_valueOf[part], 0});
-    m_values[m_valueOf[part]].drafts.push_back(draft);
-    m_draftTexts.resize(m_drafts.size() * m_texts.size());
-    m_draftOf[part] = draft;
+    const auto size = quint32(text.size());
+    m_description.append(reinterpret_cast<const char *>(&size), sizeof size);
+    m_description.append(text.data(), size);
 }
 
-void LineBuilder::putIntoDraft(quint32 part)
-{
-    readHostTexts(*m_parts[part]);
-    quint64 hash = hashNumber(m_valueOf[part], m_parts[part]->isBOMPart() ? 1 : 0);
-    for (const QByteArrayView text : m_texts) {
-        hash = hashBytes(text.data(), size_t(text.size()), hash);
-    }
-    quint32 draft = m_draftIndex.find(hash, [&](quint32 known) { return isSameDraft(known, part); });
-    if (draft == HashIndex::None) {
-        draft = quint32(m_drafts.size());
-        m_draftIndex.insert(hash, draft);
-        m_drafts.push_back({part, m_valueOf[part], 0});
-        m_values[m_valueOf[part]].drafts.push_back(draft);
-        m_draftTexts.insert(m_draftTexts.end(), m_texts.begin(), m_texts.end());
-    }
-    m_draftOf[part] = draft;
-}
-
-void LineBuilder::readHostTexts(const Part &part)
-{
-    for (size_t i = 0; i < m_texts.size(); ++i) {
-        const PropertyQuery &property = m_rule.properties[i];
-        m_texts[i] = part.isBOMPart()
-                         ? QByteArrayView(m_ownTexts.emplace_back(toHostText(property.text(part))))
-                         : property.hostText(part);
-    }
-}
-
-bool LineBuilder::isSameDraft(quint32 draft, quint32 part) const
+bool LineBuilder::isDescribed(quint32 draft) const
 {
     const Draft &known = m_drafts[draft];
-    // A text of a BOM-only part is shown as it stands, one of a component may be converted.
-    if (known.value != m_valueOf[part] ||
-        m_parts[known.firstPart]->isBOMPart() != m_parts[part]->isBOMPart()) {
-        return false;
-    }
-    const auto texts = m_draftTexts.begin() + qsizetype(draft * m_texts.size());
-    return std::equal(m_texts.begin(), m_texts.end(), texts);
+    return std::string_view(m_descriptions).substr(known.description, known.descriptionSize) == m_description;
 }
 
 void LineBuilder::numberLines(GroupedLines &lines)

@@ -5,10 +5,9 @@
 #include "core/groupedlines.h"
 #include "core/hashindex.h"
 
-#include <QByteArray>
 #include <QByteArrayView>
 
-#include <deque>
+#include <string>
 #include <vector>
 
 /// Groups the parts of one category. Parts are first put into drafts by hash, on host text, so that most
@@ -33,14 +32,18 @@ private:
         quint32 firstPart = 0;
         quint32 value = 0;
         quint32 line = 0;
+        /// Where its description stands; there is none where the value has one part only.
+        quint32 descriptionSize = 0;
+        size_t description = 0;
     };
 
     void findValues();
     void findDrafts();
-    void makeSingleDraft(quint32 part);
-    void putIntoDraft(quint32 part);
-    void readHostTexts(const Part &part);
-    [[nodiscard]] bool isSameDraft(quint32 draft, quint32 part) const;
+    [[nodiscard]] quint32 addDraft(quint32 part);
+    [[nodiscard]] quint32 draftOf(quint32 part);
+    void describe(quint32 part);
+    void describe(QByteArrayView text);
+    [[nodiscard]] bool isDescribed(quint32 draft) const;
     void numberLines(GroupedLines &lines);
     void numberLines(const ValueDraft &value);
     void fillLines(GroupedLines &lines) const;
@@ -56,10 +59,9 @@ private:
     std::vector<quint32> m_valueOf;
     std::vector<quint32> m_draftOf;
     HashIndex m_draftIndex;
-    /// The host texts of the grouping properties: of the part at hand, and of the first part of each draft.
-    std::vector<QByteArrayView> m_texts;
-    std::vector<QByteArrayView> m_draftTexts;
-    /// Texts of parts that have none in the host.
-    std::deque<QByteArray> m_ownTexts;
+    /// Value and host texts of the grouping properties of the part at hand, and those of the first parts of
+    /// all drafts: parts with equal descriptions have equal keys.
+    std::string m_description;
+    std::string m_descriptions;
     quint32 m_lineCount = 0;
 };

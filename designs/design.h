@@ -73,8 +73,8 @@ public:
     [[nodiscard]] const SymbolCount &symbols() const { return m_symbols; }
     /// The variants that the design defines, sorted.
     [[nodiscard]] const QStringList &variants() const { return m_variants; }
-    /// What the reader noticed and went on from: units that differ, symbols missing in the library cache. A board file
-    /// that cannot be read is added when placement() first asks for it.
+    /// What the reader noticed and went on from: units that differ, symbols missing in the library cache. A
+    /// board file that cannot be read is added when placement() first asks for it.
     [[nodiscard]] const std::vector<Problem> &warnings() const { return m_warnings; }
 
     /// Where a reference is placed; the board file is read at the first question.

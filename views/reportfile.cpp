@@ -35,7 +35,7 @@ ReportFileResult write(File &file, const QByteArray &bytes, QString *reason, Fin
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
         return failed(ReportFileResult::NotOpened, file, reason);
     }
-    if (file.write(bytes) < 0 || !finish(file)) {
+    if (file.write(bytes) != bytes.size() || !finish(file)) {
         return failed(ReportFileResult::NotWritten, file, reason);
     }
     return ReportFileResult::Written;

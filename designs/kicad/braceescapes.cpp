@@ -37,7 +37,8 @@ char escapedCharacter(std::string_view name)
     return 0;
 }
 
-/// Longer than any name above with its braces, so that a text of many "{" is not searched to its end for each.
+/// Longer than any name above with its braces, so that a text of many "{" is not searched to its end for
+/// each.
 constexpr std::size_t longestEscape = 12;
 
 bool startsMarkup(char before)

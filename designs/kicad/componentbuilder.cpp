@@ -323,45 +323,47 @@ void ComponentBuilder::finishGroup(Group *group)
             joined.value = unit.value;
         }
     }
-    joinProperties(*group, &joined);
-    warnAboutUnits(*group, joined);
+    warnAboutUnits(*group, joined, joinProperties(*group, &joined));
     components[group->component] = joined;
 }
 
-/// A property is what the lowest unit says of it that does not leave it empty.
-void ComponentBuilder::joinProperties(const Group &group, Component *joined)
+/// A property is what the lowest unit says of it that does not leave it empty. Gives the names of those in
+/// which the units differ.
+QStringList ComponentBuilder::joinProperties(const Group &group, Component *joined)
 {
-    m_scratch.assign(joined->properties.begin(), joined->properties.end());
+    std::unordered_map<NameId, std::size_t> places;
+    m_scratch.clear();
     for (const auto &[place, unit] : group.members) {
         for (const Property &property : unit.properties) {
-            const auto same = std::find_if(m_scratch.begin(), m_scratch.end(), [&](const Property &other) {
-                return other.name == property.name;
-            });
-            if (same == m_scratch.end()) {
+            const auto [at, isNew] = places.emplace(property.name, m_scratch.size());
+            if (isNew) {
                 m_scratch.push_back(property);
-            } else if (same->value.empty()) {
-                same->value = property.value;
+            } else if (m_scratch[at->second].value.empty()) {
+                m_scratch[at->second].value = property.value;
             }
         }
     }
     joined->properties = m_arena->copy(std::span<const Property>(m_scratch));
+    QStringList differing;
+    for (const auto &[place, unit] : group.members) {
+        for (const Property &property : unit.properties) {
+            if (m_scratch[places.at(property.name)].value != property.value) {
+                differing << toText(m_names->name(property.name));
+            }
+        }
+    }
+    return differing;
 }
 
-void ComponentBuilder::warnAboutUnits(const Group &group, const Component &joined)
+void ComponentBuilder::warnAboutUnits(const Group &group, const Component &joined, QStringList differing)
 {
     const Component &first = group.members.front().second;
-    QStringList differing;
     for (const auto &[place, unit] : group.members) {
         if (unit.value != joined.value) {
             differing << QStringLiteral("Value");
         }
         if (unit.notInBom != first.notInBom || unit.notFitted != first.notFitted) {
             differing << QStringLiteral("the flags for BOM and population");
-        }
-        for (const Property &property : unit.properties) {
-            if (joined.stored(property.name) != property.value) {
-                differing << toText(m_names->name(property.name));
-            }
         }
     }
     differing.removeDuplicates();

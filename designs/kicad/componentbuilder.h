@@ -5,6 +5,8 @@
 #include "designs/design.h"
 #include "designs/kicad/hierarchy.h"
 
+#include <QStringList>
+
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -77,8 +79,8 @@ private:
     bool joinGroup(const Component &component, const SymbolUse &place, std::string_view libId);
     void finishGroups();
     void finishGroup(Group *group);
-    void joinProperties(const Group &group, Component *joined);
-    void warnAboutUnits(const Group &group, const Component &joined);
+    [[nodiscard]] QStringList joinProperties(const Group &group, Component *joined);
+    void warnAboutUnits(const Group &group, const Component &joined, QStringList differing);
     void warn(const Component &component, const QString &text);
 
     const Hierarchy &m_hierarchy;

@@ -155,21 +155,25 @@ QString Hierarchy::childPath(const SheetFile &parent, const SheetSymbol &sheet) 
 /// True, with the chain of files as the problem, when `file` stands above the sheet already.
 bool Hierarchy::refuseLoop(quint32 parent, const SheetSymbol &sheet, quint32 file, Problem *problem)
 {
-    QStringList chain{QFileInfo(m_files[file].path).fileName()};
-    for (quint32 use = parent;; use = m_uses[use].parent) {
-        chain.prepend(QFileInfo(m_files[m_uses[use].file].path).fileName());
-        if (m_uses[use].file == file) {
-            const QString &path = m_files[m_uses[parent].file].path;
-            *problem = {path, lineOf(path, sheet.offset),
-                        QStringLiteral("sheet \"") + toText(sheet.name) +
-                            QStringLiteral("\" makes the sheets contain themselves: ") +
-                            chain.join(QStringLiteral(" > "))};
-            return true;
-        }
-        if (!m_uses[use].symbol) {
-            return false;
-        }
+    quint32 above = parent;
+    while (m_uses[above].file != file && m_uses[above].symbol) {
+        above = m_uses[above].parent;
     }
+    if (m_uses[above].file != file) {
+        return false;
+    }
+    const auto nameOf = [this](quint32 number) { return QFileInfo(m_files[number].path).fileName(); };
+    QStringList chain{nameOf(file)};
+    for (quint32 use = parent; use != above; use = m_uses[use].parent) {
+        chain.prepend(nameOf(m_uses[use].file));
+    }
+    chain.prepend(nameOf(file));
+    const QString &path = m_files[m_uses[parent].file].path;
+    *problem = {path, lineOf(path, sheet.offset),
+                QStringLiteral("sheet \"") + toText(sheet.name) +
+                    QStringLiteral("\" makes the sheets contain themselves: ") +
+                    chain.join(QStringLiteral(" > "))};
+    return true;
 }
 
 int Hierarchy::lineOf(const QString &path, quint32 offset)

@@ -65,8 +65,9 @@ bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem 
     TextVariables variables(*m_hierarchy, m_project, m_names, m_info.variant);
     variables.resolve(&m_components, m_symbolUses, &m_arena);
     if (variables.ranOut()) {
-        m_warnings.push_back({m_roots.front().first, 0,
-                              QStringLiteral("the text variables name each other too often; some stay as they stand")});
+        m_warnings.push_back(
+            {m_roots.front().first, 0,
+             QStringLiteral("the text variables name each other too often; some stay as they stand")});
     }
     markNotFittedByProperty(&m_components, m_names);
     fillInfo();

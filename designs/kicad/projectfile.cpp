@@ -15,7 +15,7 @@ namespace {
 QStringList variantNames(const QJsonArray &variants)
 {
     QStringList names;
-    for (const QJsonValue &variant : variants) {
+    for (const auto variant : variants) {
         names << (variant.isObject() ? variant.toObject().value(QLatin1String("name")).toString()
                                      : variant.toString());
     }
@@ -55,7 +55,7 @@ bool readProjectFile(const QString &path, ProjectFile *project, Problem *problem
     const QJsonObject schematic = root.value(QLatin1String("schematic")).toObject();
     project->variants = variantNames(schematic.value(QLatin1String("variants")).toArray());
     const QJsonArray sheets = schematic.value(QLatin1String("top_level_sheets")).toArray();
-    for (const QJsonValue &entry : sheets) {
+    for (const auto entry : sheets) {
         const QJsonObject sheet = entry.toObject();
         project->topLevelSheets.push_back({sheet.value(QLatin1String("filename")).toString(),
                                            sheet.value(QLatin1String("uuid")).toString(),

@@ -65,6 +65,12 @@ bool SheetParser::refuse(const QString &text)
     return false;
 }
 
+bool SheetParser::limitProperties(std::size_t count)
+{
+    return count <= maximumProperties ||
+           refuse(QStringLiteral("a symbol has more than %1 properties").arg(maximumProperties));
+}
+
 /// Calls `onList` for each list inside the current one, to its end. `onList` returns true when it has read
 /// its list to the end; otherwise the rest of that list is skipped.
 template<class OnList>
@@ -258,6 +264,7 @@ void SheetParser::addSymbolProperty(PlacedSymbol *symbol, std::vector<Property> 
         same->value = value;
     } else {
         properties->push_back({id, value});
+        limitProperties(properties->size());
     }
 }
 
@@ -333,6 +340,10 @@ bool SheetParser::readRuleArea()
         return false;
     });
     if (!area.inBom || area.dnp) {
+        m_corners += area.outline.size();
+        if (m_corners > maximumCorners) {
+            return refuse(QStringLiteral("the rule areas have more than %1 corners").arg(maximumCorners));
+        }
         m_sheet->ruleAreas.push_back(std::move(area));
     }
     return complete;
@@ -455,7 +466,7 @@ bool SheetParser::readVariantField(std::vector<Property> *fields)
         return false;
     });
     fields->push_back(field);
-    return complete;
+    return complete && limitProperties(fields->size());
 }
 
 std::string_view SheetParser::takeKept()

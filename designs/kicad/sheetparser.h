@@ -15,6 +15,11 @@ namespace designs::kicad {
 class SheetParser
 {
 public:
+    /// A symbol, or a variant of it, with more properties is refused.
+    static constexpr std::size_t maximumProperties = 1000;
+    /// A file whose rule areas with flags have more corners is refused.
+    static constexpr std::size_t maximumCorners = 10'000;
+
     /// `arena` and `names` take the texts and must outlive the sheet.
     SheetParser(std::string_view bytes, SheetFile *sheet, TextArena *arena, PropertyNames *names);
 
@@ -36,6 +41,7 @@ private:
     template<class OnList>
     bool readChildren(OnList &&onList);
     bool refuse(const QString &text);
+    bool limitProperties(std::size_t count);
 
     bool readTopLevel(std::string_view keyword);
     bool readTitleBlock();
@@ -76,6 +82,7 @@ private:
     std::string_view m_lastPath;
     quint32 m_lastPathNumber = 0;
     bool m_variantHasVariables = false;
+    std::size_t m_corners = 0;
 };
 
 } // namespace designs::kicad

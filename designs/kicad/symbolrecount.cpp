@@ -83,7 +83,7 @@ private:
     QByteArray bare()
     {
         const qsizetype start = m_at;
-        while (m_at < m_bytes.size() && !strchr(" \t\r\n()\"", m_bytes.at(m_at))) {
+        while (m_at < m_bytes.size() && !QByteArrayView(" \t\r\n()\"").contains(m_bytes.at(m_at))) {
             ++m_at;
         }
         return m_bytes.mid(start, m_at - start);
@@ -119,6 +119,8 @@ private:
             m_libName = list.words.value(1);
         } else if (depth == 2 && outer(1) == "symbol" && word == "property") {
             m_powerSymbol |= list.words.value(1) == "Reference" && list.words.value(2).startsWith('#');
+        } else if (depth == 5 && outer(4) == "symbol" && outer(3) == "instances" && word == "reference") {
+            m_powerSymbol |= list.words.value(1).startsWith('#');
         } else if (depth == 3 && outer(2) == "lib_symbols" && word == "power") {
             m_powerIds.insert(m_open.last().words.value(1));
         } else if (depth == 3 && outer(2) == "sheet" && word == "id") {

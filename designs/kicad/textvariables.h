@@ -20,7 +20,8 @@ class TextVariables
 public:
     static constexpr int maximumDepth = 10;
     static constexpr std::size_t maximumLength = 1 << 20;
-    /// Variables that name each other can ask for any amount of work; what a design may ask for, in bytes looked at.
+    /// Variables that name each other can ask for any amount of work; what a design may ask for, in bytes
+    /// looked at.
     static constexpr std::size_t workPerDesign = std::size_t(1) << 26;
     static constexpr std::size_t workPerComponent = std::size_t(1) << 12;
 

@@ -61,7 +61,8 @@ designs::Component part(const designs::Design &design, std::string_view referenc
     return {};
 }
 
-std::optional<std::string> property(const designs::Design &design, std::string_view reference, std::string_view name)
+std::optional<std::string> property(const designs::Design &design, std::string_view reference,
+                                    std::string_view name)
 {
     const designs::Component component = part(design, reference);
     for (designs::NameId id = 0; id < design.names().size(); ++id) {

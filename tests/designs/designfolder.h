@@ -21,10 +21,10 @@ public:
 
     [[nodiscard]] designs::ReadResult read(const QString &name, const QString &variant = {}) const;
 
-    /// Reads a design that must be readable, and checks that the independent count of its symbols agrees. Never
-    /// null: an empty design stands in after a failure.
-    [[nodiscard]] std::unique_ptr<designs::Design> load(const QString &name = QStringLiteral("root.kicad_sch"),
-                                                        const QString &variant = {}) const;
+    /// Reads a design that must be readable, and checks that the independent count of its symbols agrees.
+    /// Never null: an empty design stands in after a failure.
+    [[nodiscard]] std::unique_ptr<designs::Design>
+    load(const QString &name = QStringLiteral("root.kicad_sch"), const QString &variant = {}) const;
 
 private:
     QTemporaryDir m_folder;

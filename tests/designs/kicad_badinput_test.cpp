@@ -11,6 +11,7 @@
 #include <sys/stat.h>
 
 using namespace kicadtext;
+using namespace std::string_literals;
 
 namespace {
 
@@ -23,6 +24,17 @@ struct BadInput
     int line = 0;
     std::string says;
 };
+
+/// The text `count` times, with the number in the place of "%".
+std::string repeated(const std::string &text, int count)
+{
+    std::string result;
+    for (int i = 0; i < count; ++i) {
+        std::string one = text;
+        result += one.replace(one.find('%'), 1, std::to_string(i));
+    }
+    return result;
+}
 
 std::vector<BadInput> badInputs()
 {
@@ -49,12 +61,28 @@ std::vector<BadInput> badInputs()
         {"version too large", "(kicad_sch (version 99999999999999999999))", 1, "no version"},
         {"text behind the end", good + "\n\n(more)", lines + 3, "behind the end"},
         {"word behind the end", good + ")", lines + 1, "behind the end"},
-        {"nested without end", "(kicad_sch (version 20250114)\n" + std::string(100'000, '('), 2, "nested deeper"},
-        {"nested in a symbol", "(kicad_sch (version 20250114)\n(symbol (property \"A\" " + std::string(100'000, '(') +
-             std::string(100'000, ')') + ")))", 2, "nested deeper"},
-        {"text over two lines", "(kicad_sch (version 20250114)\n(title_block (title \"a\nb\")))", 2, "not closed"},
-        {"text over two lines in a skipped list", "(kicad_sch (version 20250114)\n\n(wire \"a\nb\"))", 3, "not closed"},
-        {"null bytes", std::string("(kicad_sch (version 20250114)\n\0\0", 32), 2, "cut off"},
+        {"nested without end", "(kicad_sch (version 20250114)\n" + std::string(100'000, '('), 2,
+         "nested deeper"},
+        {"nested in a symbol",
+         "(kicad_sch (version 20250114)\n(symbol (property \"A\" " + std::string(100'000, '(') +
+             std::string(100'000, ')') + ")))",
+         2, "nested deeper"},
+        {"text over two lines", "(kicad_sch (version 20250114)\n(title_block (title \"a\nb\")))", 2,
+         "not closed"},
+        {"text over two lines in a skipped list", "(kicad_sch (version 20250114)\n\n(wire \"a\nb\"))", 3,
+         "not closed"},
+        {"too many properties",
+         "(kicad_sch (version 20250114)\n(symbol\n" + repeated("(property \"P%\" \"\")", 1001) + "))", 3,
+         "1000 properties"},
+        {"too many fields of a variant",
+         "(kicad_sch (version 20260306)\n(symbol (instances (project (path (variant" +
+             repeated("(field (name \"P%\"))", 1001) + "))))))",
+         2, "1000 properties"},
+        {"too many corners",
+         "(kicad_sch (version 20260306)\n(rule_area (dnp yes) (polyline (pts" + repeated("(xy 1 %)", 10'001) +
+             "))))",
+         2, "10000 corners"},
+        {"null bytes", "(kicad_sch (version 20250114)\n\0\0"s, 2, "cut off"},
     };
 }
 
@@ -101,18 +129,19 @@ TEST(KicadBadInput, ThatIsNoFile)
         const auto result = folder.read(name);
         EXPECT_FALSE(result.design);
         EXPECT_EQ(result.error.file, folder.path(name));
-        EXPECT_NE(result.error.text.toStdString().find(says), std::string::npos) << result.error.text.toStdString();
+        EXPECT_NE(result.error.text.toStdString().find(says), std::string::npos)
+            << result.error.text.toStdString();
     }
 }
 
 TEST(KicadBadInput, EveryCutOfASmallDesignIsRefused)
 {
-    const std::string good =
-        schematic(v10, "top",
-                  "(title_block (title \"T\") (comment 1 \"c\"))" +
-                      symbol(v10, {.fields = {{"A\\\"", "b\\"}},
-                                   .uses = {{.path = "/top", .reference = "R1", .more = "(variant (name \"A\"))"}}}) +
-                      sheet(v10, {}) + "(rule_area (dnp yes) (polyline (pts (xy 0 0) (xy 1 1) (xy 1 0))))");
+    const std::string good = schematic(
+        v10, "top",
+        "(title_block (title \"T\") (comment 1 \"c\"))" +
+            symbol(v10, {.fields = {{"A\\\"", "b\\"}},
+                         .uses = {{.path = "/top", .reference = "R1", .more = "(variant (name \"A\"))"}}}) +
+            sheet(v10, {}) + "(rule_area (dnp yes) (polyline (pts (xy 0 0) (xy 1 1) (xy 1 0))))");
     const auto problemOf = [](const std::string &text) {
         // Exactly as long as the text, so that reading behind its end shows.
         const std::vector<char> bytes(text.begin(), text.end());
@@ -133,11 +162,15 @@ TEST(KicadBadInput, EveryCutOfASmallDesignIsRefused)
 
 TEST(KicadBadInput, OddButReadable)
 {
-    const std::string oddSymbol = "(symbol)(symbol (property))(symbol (property \"Reference\"))(symbol (lib_id) (at) "
-                                  "(unit x) (uuid) (instances (project (path)) (path)))";
+    const std::string oddSymbol =
+        "(symbol)(symbol (property))(symbol (property \"Reference\"))(symbol (lib_id) (at) "
+        "(unit x) (uuid) (instances (project (path)) (path)))";
     const DesignFolder folder;
-    folder.write(root, schematic(v10, "top", oddSymbol + "(symbol_instances (path))(rule_area)(title_block)"));
+    folder.write(root,
+                 schematic(v10, "top", oddSymbol + "(symbol_instances (path))(rule_area)(title_block)"));
     EXPECT_EQ(folder.load()->components().size(), 4u);
+    folder.write(root, "(kicad_sch (version 20250114) \0 (wire \0\0) \"\0\")"s);
+    EXPECT_EQ(folder.load()->components().size(), 0u);
     folder.write(root, "(kicad_sch (version 20250114))");
     EXPECT_EQ(folder.load()->components().size(), 0u);
 }

@@ -26,12 +26,12 @@ std::string area(std::string_view flags, std::string_view points)
 TEST(KicadFlags, OfTheSymbol)
 {
     const DesignFolder folder;
-    folder.write(root, schematic(v8, "top",
-                                 symbol(v8, {.reference = "R1"}) +
-                                     symbol(v8, {.reference = "R2", .inBom = "no"}) +
-                                     symbol(v8, {.reference = "R3", .dnp = "yes"}) +
-                                     symbol(v8, {.reference = "R4", .inBom = "no", .dnp = "yes"}) +
-                                     symbol(v8, {.reference = "R5", .inBom = "", .dnp = "no"})));
+    folder.write(root,
+                 schematic(v8, "top",
+                           symbol(v8, {.reference = "R1"}) + symbol(v8, {.reference = "R2", .inBom = "no"}) +
+                               symbol(v8, {.reference = "R3", .dnp = "yes"}) +
+                               symbol(v8, {.reference = "R4", .inBom = "no", .dnp = "yes"}) +
+                               symbol(v8, {.reference = "R5", .inBom = "", .dnp = "no"})));
     const auto design = folder.load();
     const std::vector<std::tuple<std::string, MarkedBy, MarkedBy>> expected{
         {"R1", MarkedBy::Nothing, MarkedBy::Nothing}, {"R2", MarkedBy::Symbol, MarkedBy::Nothing},
@@ -56,9 +56,11 @@ TEST(KicadFlags, OfTheSheetsAbove)
                                 {.path = "/top/h2" + tail, .reference = "R2" + number},
                                 {.path = "/top/h3" + tail, .reference = "R3" + number}};
     };
-    folder.write(sub, schematic(v9, "s",
-                                symbol(v9, {.uses = uses("", "1")}) + symbol(v9, {.dnp = "yes", .uses = uses("", "2")}) +
-                                    sheet(v9, {.name = "Deep", .file = "deep.kicad_sch", .uuid = "d", .dnp = "yes"})));
+    folder.write(
+        sub,
+        schematic(v9, "s",
+                  symbol(v9, {.uses = uses("", "1")}) + symbol(v9, {.dnp = "yes", .uses = uses("", "2")}) +
+                      sheet(v9, {.name = "Deep", .file = "deep.kicad_sch", .uuid = "d", .dnp = "yes"})));
     folder.write(deep, schematic(v9, "d", symbol(v9, {.uses = uses("/d", "3")})));
     const auto design = folder.load();
     ASSERT_EQ(references(*design), "R11 R12 R13 R21 R22 R23 R31 R32 R33");
@@ -78,13 +80,13 @@ TEST(KicadFlags, OfRuleAreas)
 {
     const std::string square = "(xy 0 0) (xy 10 0) (xy 10 10) (xy 0 10)";
     const std::string hook = "(xy 20 0) (xy 40 0) (xy 40 40) (xy 30 40) (xy 30 10) (xy 20 10) (xy 20 0)";
-    const std::string body = symbol(v10, {.reference = "R1", .at = "5 5 0"}) +
-                             symbol(v10, {.reference = "R2", .at = "11 5 90"}) +
-                             symbol(v10, {.reference = "R3", .at = "35.5 30 0"}) +
-                             symbol(v10, {.reference = "R4", .at = "25 30 0"}) +
-                             symbol(v10, {.reference = "R5", .dnp = "yes", .at = "5 5 0"}) +
-                             area("(exclude_from_sim no) (in_bom yes) (on_board yes) (dnp yes)", square) +
-                             area("(in_bom no) (dnp no)", hook) + area("(dnp yes)", "") + area("(dnp yes)", "(xy 5 5)");
+    const std::string body =
+        symbol(v10, {.reference = "R1", .at = "5 5 0"}) + symbol(v10, {.reference = "R2", .at = "11 5 90"}) +
+        symbol(v10, {.reference = "R3", .at = "35.5 30 0"}) +
+        symbol(v10, {.reference = "R4", .at = "25 30 0"}) +
+        symbol(v10, {.reference = "R5", .dnp = "yes", .at = "5 5 0"}) +
+        area("(exclude_from_sim no) (in_bom yes) (on_board yes) (dnp yes)", square) +
+        area("(in_bom no) (dnp no)", hook) + area("(dnp yes)", "") + area("(dnp yes)", "(xy 5 5)");
     const DesignFolder folder;
     folder.write(root, schematic(v10, "top", body));
     const auto design = folder.load();
@@ -117,7 +119,8 @@ TEST(KicadFlags, APropertyDnpInAnyCase)
 TEST(KicadFlags, APropertyDnpMayComeFromAVariable)
 {
     const DesignFolder folder;
-    folder.write(QStringLiteral("root.kicad_pro"), "{\"text_variables\": {\"LITE\": \"0\", \"FULL\": \"1\"}}");
+    folder.write(QStringLiteral("root.kicad_pro"),
+                 "{\"text_variables\": {\"LITE\": \"0\", \"FULL\": \"1\"}}");
     folder.write(root, schematic(v8, "top",
                                  symbol(v8, {.reference = "R1", .fields = {{"DNP", "${LITE}"}}}) +
                                      symbol(v8, {.reference = "R2", .fields = {{"DNP", "${FULL}"}}})));
@@ -129,7 +132,8 @@ TEST(KicadFlags, APropertyDnpMayComeFromAVariable)
 TEST(KicadFlags, TheFlagWinsOverTheProperty)
 {
     const DesignFolder folder;
-    folder.write(root, schematic(v9, "top", symbol(v9, {.reference = "R1", .dnp = "yes", .fields = {{"DNP", "0"}}})));
+    folder.write(
+        root, schematic(v9, "top", symbol(v9, {.reference = "R1", .dnp = "yes", .fields = {{"DNP", "0"}}})));
     EXPECT_EQ(part(*folder.load(), "R1").notFitted, MarkedBy::Symbol);
 }
 

@@ -53,8 +53,9 @@ TEST(KicadHierarchy, NestedSheetsFollowTheirSheetSymbols)
                                      sheet(v9, {.name = "Logic", .file = "logic.kicad_sch", .uuid = "h2"}) +
                                      symbol(v9, {.reference = "R1"})));
     folder.write(QStringLiteral("power.kicad_sch"),
-                 schematic(v9, "p", symbol(v9, {.uuid = "s", .uses = {{.path = "/top/h1", .reference = "R2"}}}) +
-                                        sheet(v9, {.name = "Input", .file = "input.kicad_sch", .uuid = "h3"})));
+                 schematic(v9, "p",
+                           symbol(v9, {.uuid = "s", .uses = {{.path = "/top/h1", .reference = "R2"}}}) +
+                               sheet(v9, {.name = "Input", .file = "input.kicad_sch", .uuid = "h3"})));
     folder.write(QStringLiteral("input.kicad_sch"),
                  schematic(v9, "i", symbol(v9, {.uses = {{.path = "/top/h1/h3", .reference = "R3"}}})));
     folder.write(QStringLiteral("logic.kicad_sch"), leaf("R4"));
@@ -89,13 +90,16 @@ TEST(KicadHierarchy, ASymbolicLinkIsItsTarget)
                                  sheet(v9, {.file = "link.kicad_sch", .uuid = "h1"}) +
                                      sheet(v9, {.file = "shared/real.kicad_sch", .uuid = "h2"})));
     folder.write(QStringLiteral("shared/real.kicad_sch"), leaf("R1"));
-    ASSERT_TRUE(QFile::link(QStringLiteral("shared/real.kicad_sch"), folder.path(QStringLiteral("link.kicad_sch"))));
+    ASSERT_TRUE(
+        QFile::link(QStringLiteral("shared/real.kicad_sch"), folder.path(QStringLiteral("link.kicad_sch"))));
     const auto design = folder.load();
     EXPECT_EQ(references(*design), "R1 R1");
     EXPECT_EQ(design->files().size(), 2);
 
-    folder.write(QStringLiteral("self/root.kicad_sch"), schematic(v9, "top", sheet(v9, {.file = "again.kicad_sch"})));
-    ASSERT_TRUE(QFile::link(QStringLiteral("root.kicad_sch"), folder.path(QStringLiteral("self/again.kicad_sch"))));
+    folder.write(QStringLiteral("self/root.kicad_sch"),
+                 schematic(v9, "top", sheet(v9, {.file = "again.kicad_sch"})));
+    ASSERT_TRUE(
+        QFile::link(QStringLiteral("root.kicad_sch"), folder.path(QStringLiteral("self/again.kicad_sch"))));
     EXPECT_FALSE(folder.read(QStringLiteral("self/root.kicad_sch")).design);
 }
 
@@ -103,8 +107,10 @@ TEST(KicadHierarchy, LoopsNameTheirChain)
 {
     const DesignFolder folder;
     folder.write(root, schematic(v9, "top", "\n" + sheet(v9, {.name = "A", .file = "a.kicad_sch"})));
-    folder.write(QStringLiteral("a.kicad_sch"), schematic(v9, "a", sheet(v9, {.name = "B", .file = "b.kicad_sch"})));
-    folder.write(QStringLiteral("b.kicad_sch"), schematic(v9, "b", sheet(v9, {.name = "Back", .file = "a.kicad_sch"})));
+    folder.write(QStringLiteral("a.kicad_sch"),
+                 schematic(v9, "a", sheet(v9, {.name = "B", .file = "b.kicad_sch"})));
+    folder.write(QStringLiteral("b.kicad_sch"),
+                 schematic(v9, "b", sheet(v9, {.name = "Back", .file = "a.kicad_sch"})));
     const auto result = folder.read(root);
     EXPECT_FALSE(result.design);
     EXPECT_EQ(result.error.file, folder.path(QStringLiteral("b.kicad_sch")));
@@ -117,7 +123,8 @@ TEST(KicadHierarchy, LoopsNameTheirChain)
 TEST(KicadHierarchy, AMissingFileNamesSheetAndPath)
 {
     const DesignFolder folder;
-    folder.write(root, schematic(v9, "top", "\n\n" + sheet(v9, {.name = "Gone", .file = "no/such.kicad_sch"})));
+    folder.write(root,
+                 schematic(v9, "top", "\n\n" + sheet(v9, {.name = "Gone", .file = "no/such.kicad_sch"})));
     const auto result = folder.read(root);
     EXPECT_FALSE(result.design);
     EXPECT_EQ(result.error.file, folder.path(root));
@@ -149,7 +156,8 @@ TEST(KicadHierarchy, DepthIsLimited)
     writeTower(deeper, 101, 1);
     const auto result = deeper.read(root);
     EXPECT_FALSE(result.design);
-    EXPECT_TRUE(result.error.text.contains(QLatin1String("100 sheets deep"))) << result.error.text.toStdString();
+    EXPECT_TRUE(result.error.text.contains(QLatin1String("100 sheets deep")))
+        << result.error.text.toStdString();
 }
 
 TEST(KicadHierarchy, TheNumberOfUsesIsLimited)

@@ -20,12 +20,14 @@ std::unique_ptr<designs::Design> smallDesign(int version)
     const auto uses = [table](const std::string &path, const std::string &reference) {
         return std::vector<Use>(table ? 0 : 1, Use{.path = path, .reference = reference});
     };
-    std::string body = symbol(version, {.uuid = "s1", .uses = uses("/top", "R1")}) + sheet(version, {.uuid = "h1"});
+    std::string body =
+        symbol(version, {.uuid = "s1", .uses = uses("/top", "R1")}) + sheet(version, {.uuid = "h1"});
     if (table) {
         body += instanceTable({{"/s1", "R1", "", ""}, {"/h1/s2", "R2", "", ""}});
     }
     folder.write(root, schematic(version, "top", body));
-    folder.write(sub, schematic(version, "ignored", symbol(version, {.uuid = "s2", .uses = uses("/top/h1", "R2")})));
+    folder.write(
+        sub, schematic(version, "ignored", symbol(version, {.uuid = "s2", .uses = uses("/top/h1", "R2")})));
     return folder.load();
 }
 
@@ -66,7 +68,8 @@ TEST(KicadInstances, Version6TableOverridesValueAndFootprint)
 TEST(KicadInstances, Version6TableCountsInTheRootOnly)
 {
     const DesignFolder folder;
-    folder.write(root, schematic(v6, "top", sheet(v6, {.uuid = "h1"}) + instanceTable({{"/h1/s1", "R7", "", ""}})));
+    folder.write(root,
+                 schematic(v6, "top", sheet(v6, {.uuid = "h1"}) + instanceTable({{"/h1/s1", "R7", "", ""}})));
     folder.write(sub, schematic(v6, "other",
                                 symbol(v6, {.reference = "R3", .uuid = "s1"}) +
                                     instanceTable({{"/s1", "R9", "stale", ""}})));
@@ -90,8 +93,8 @@ TEST(KicadInstances, WithoutAnInstanceTheReferencePropertyCounts)
     const DesignFolder folder;
     const std::vector<Use> other{{.path = "/elsewhere", .reference = "R50", .unit = 2}};
     folder.write(root, schematic(v9, "top",
-                                 symbol(v9, {.reference = "R5", .uses = other}) + symbol(v9, {.reference = "R6"}) +
-                                     sheet(v9, {.uuid = "h1"})));
+                                 symbol(v9, {.reference = "R5", .uses = other}) +
+                                     symbol(v9, {.reference = "R6"}) + sheet(v9, {.uuid = "h1"})));
     folder.write(sub, schematic(v6, "old", symbol(v6, {.reference = "R7"})));
     EXPECT_EQ(references(*folder.load()), "R5 R6 R7");
 }
@@ -106,8 +109,9 @@ TEST(KicadInstances, ASheetUsedSeveralTimes)
         uses.push_back({.path = std::string("/top/h") + number, .reference = std::string("R10") + number});
     }
     folder.write(root, schematic(v8, "top", sheets));
-    folder.write(sub, schematic(v8, "x", symbol(v8, {.value = "4k7", .uses = uses}) +
-                                             symbol(v8, {.reference = "#PWR01", .lib = "power:GND"})));
+    folder.write(sub, schematic(v8, "x",
+                                symbol(v8, {.value = "4k7", .uses = uses}) +
+                                    symbol(v8, {.reference = "#PWR01", .lib = "power:GND"})));
     const auto design = folder.load();
     EXPECT_EQ(references(*design), "R103 R101 R102");
     EXPECT_EQ(design->symbols().placed, 6);
@@ -122,16 +126,18 @@ TEST(KicadInstances, PowerSymbolsAreNoComponents)
     const std::string cache = "\n  (lib_symbols" + librarySymbol("power:GND", 1, " (power)") +
                               librarySymbol("power:VCC_1", 1, " (power local)") + librarySymbol("power:VCC") +
                               librarySymbol("Device:R") + librarySymbol("Flag:F") + "\n  )";
-    folder.write(root, schematic(v10, "top",
-                                 symbol(v10, {.reference = "GND1", .lib = "power:GND"}) +
-                                     symbol(v10, {.reference = "#FLG01", .lib = "Flag:F"}) +
-                                     symbol(v10, {.reference = "V1", .lib = "power:VCC", .libName = "power:VCC_1"}) +
-                                     symbol(v10, {.reference = "V2", .lib = "power:VCC"}) +
-                                     symbol(v10, {.reference = "R1"}),
-                                 cache));
+    folder.write(
+        root, schematic(v10, "top",
+                        symbol(v10, {.reference = "GND1", .lib = "power:GND"}) +
+                            symbol(v10, {.reference = "#FLG01", .lib = "Flag:F"}) +
+                            symbol(v10, {.reference = "V1", .lib = "power:VCC", .libName = "power:VCC_1"}) +
+                            symbol(v10, {.reference = "V2", .lib = "power:VCC"}) +
+                            symbol(v10, {.lib = "Flag:F", .uses = {{.path = "/top", .reference = "#F1"}}}) +
+                            symbol(v10, {.reference = "R1"}),
+                        cache));
     const auto design = folder.load();
     EXPECT_EQ(references(*design), "V2 R1");
-    EXPECT_EQ(design->symbols().power, 3);
+    EXPECT_EQ(design->symbols().power, 4);
 }
 
 TEST(KicadInstances, ASymbolMissingInTheCacheCountsWithAWarning)

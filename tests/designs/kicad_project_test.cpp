@@ -35,7 +35,8 @@ TEST(KicadProject, OpensItsSchematic)
 {
     const DesignFolder folder;
     folder.write(project, R"({"text_variables": {"X": "1", "VARIANT": "blue", "ODD": 5}, "schematic": {}})");
-    const QString path = folder.write(root, schematic(v9, "top", symbol(v9, {.reference = "R1", .value = "${X}k"})));
+    const QString path =
+        folder.write(root, schematic(v9, "top", symbol(v9, {.reference = "R1", .value = "${X}k"})));
     for (const QString &name : {project, root}) {
         const auto design = folder.load(name);
         EXPECT_EQ(part(*design, "R1").value, "1k");
@@ -94,13 +95,14 @@ TEST(KicadBoard, TellsTheSides)
 {
     const DesignFolder folder;
     folder.write(root, schematic(v9, "top", ""));
-    folder.write(board, "(kicad_pcb (version 20221018) (generator pcbnew)\n"
-                        " (footprint \"R:0402\" (layer \"F.Cu\") (at 1 2) (fp_text reference \"R1\" (at 0 0) (layer "
-                        "\"B.SilkS\")) (fp_text user \"${REFERENCE}\" (layer \"F.Fab\")))\n"
-                        " (footprint \"R:0402\" (layer \"B.Cu\") (property \"Reference\" \"R2\" (layer \"F.SilkS\"))"
-                        " (property \"Value\" \"10k\"))\n"
-                        " (module R:0402 (layer B.Cu) (fp_text reference R3 (at 0 0)))\n"
-                        " (gr_text \"(\\\"\" (layer \"F.Cu\")))\n");
+    folder.write(board,
+                 "(kicad_pcb (version 20221018) (generator pcbnew)\n"
+                 " (footprint \"R:0402\" (layer \"F.Cu\") (at 1 2) (fp_text reference \"R1\" (at 0 0) (layer "
+                 "\"B.SilkS\")) (fp_text user \"${REFERENCE}\" (layer \"F.Fab\")))\n"
+                 " (footprint \"R:0402\" (layer \"B.Cu\") (property \"Reference\" \"R2\" (layer \"F.SilkS\"))"
+                 " (property \"Value\" \"10k\"))\n"
+                 " (module R:0402 (layer B.Cu) (fp_text reference R3 (at 0 0)))\n"
+                 " (gr_text \"(\\\"\" (layer \"F.Cu\")))\n");
     const auto design = folder.load();
     EXPECT_EQ(design->placement("R1"), Side::Top);
     EXPECT_EQ(design->placement("R2"), Side::Bottom);
@@ -111,7 +113,8 @@ TEST(KicadBoard, TellsTheSides)
 
 TEST(KicadBoard, BrokenIsAWarning)
 {
-    for (const char *text : {"", "(kicad_pcb (footprint \"R\" (layer \"F.Cu\") (fp_text reference R1)", "(kicad_sch)"}) {
+    for (const char *text :
+         {"", "(kicad_pcb (footprint \"R\" (layer \"F.Cu\") (fp_text reference R1)", "(kicad_sch)"}) {
         const DesignFolder folder;
         folder.write(root, schematic(v9, "top", ""));
         folder.write(board, text);

@@ -27,7 +27,8 @@ std::string tokens(std::string_view text)
             result += ") ";
             break;
         case Token::Text:
-            result += scanner.isQuoted() ? "'" + std::string(scanner.text()) + "' " : std::string(scanner.text()) + " ";
+            result += scanner.isQuoted() ? "'" + std::string(scanner.text()) + "' "
+                                         : std::string(scanner.text()) + " ";
             break;
         case Token::End:
             return result + "END";
@@ -83,10 +84,32 @@ std::size_t skippedTo(std::string_view text, std::size_t prefix)
 
 std::string randomLists(std::mt19937 *random)
 {
-    static const std::vector<std::string> pieces{
-        "(",      ")",       "(a ",      ") ",     "word",     " ",         "\n",          "  # note ) \" (\n",
-        "\"t\"",  "\"(\"",   "\")\"",    "\"\\\"\"", "\"\\\\\"", "\"#\"",     "x#y",         "\r\n#(((\r\n",
-        "\t",     "\"\"",    "\n \t#\n", "\"\\\\\\\")\"", "\xC3\xA9", "\"\xC3\xA9\"", "(b \"c d\" e)", "(c",  "(d ", "\"                    \""};
+    static const std::vector<std::string> pieces{"(",
+                                                 ")",
+                                                 "(a ",
+                                                 ") ",
+                                                 "word",
+                                                 " ",
+                                                 "\n",
+                                                 "  # note ) \" (\n",
+                                                 "\"t\"",
+                                                 "\"(\"",
+                                                 "\")\"",
+                                                 "\"\\\"\"",
+                                                 "\"\\\\\"",
+                                                 "\"#\"",
+                                                 "x#y",
+                                                 "\r\n#(((\r\n",
+                                                 "\t",
+                                                 "\"\"",
+                                                 "\n \t#\n",
+                                                 "\"\\\\\\\")\"",
+                                                 "\xC3\xA9",
+                                                 "\"\xC3\xA9\"",
+                                                 "(b \"c d\" e)",
+                                                 "(c",
+                                                 "(d ",
+                                                 "\"                    \""};
     std::string text;
     const int count = int((*random)() % 80);
     for (int i = 0; i < count; ++i) {
@@ -187,7 +210,8 @@ TEST(KicadScanner, SkipsAListWhereverItLiesInItsBlock)
     };
     for (const std::string &list : lists) {
         for (std::size_t shift = 0; shift < 130; ++shift) {
-            const std::string text = std::string(shift, ' ') + list + "(next \"" + std::string(80, ')') + "\")";
+            const std::string text =
+                std::string(shift, ' ') + list + "(next \"" + std::string(80, ')') + "\")";
             EXPECT_EQ(skippedTo(text, shift), shift + list.size()) << "shifted by " << shift << ": " << list;
         }
     }
@@ -212,7 +236,8 @@ TEST(KicadScanner, SaysWhereSkippingFailed)
         ASSERT_EQ(open.next(), Token::Open);
         EXPECT_FALSE(open.skipList());
         EXPECT_EQ(open.errorLine(), 3);
-        const std::string unclosed = start + "\"text" + std::string(shift, ' ') + "\n)" + std::string(100, ' ');
+        const std::string unclosed =
+            start + "\"text" + std::string(shift, ' ') + "\n)" + std::string(100, ' ');
         SexprScanner quoted(unclosed);
         ASSERT_EQ(quoted.next(), Token::Open);
         EXPECT_FALSE(quoted.skipList());
@@ -224,7 +249,8 @@ TEST(KicadScanner, SaysWhereSkippingFailed)
 TEST(KicadScanner, RefusesBottomlessNesting)
 {
     const auto skips = [](int depth) {
-        const std::string text = "(s " + std::string(std::size_t(depth), '(') + std::string(std::size_t(depth), ')') + ")";
+        const std::string text =
+            "(s " + std::string(std::size_t(depth), '(') + std::string(std::size_t(depth), ')') + ")";
         SexprScanner scanner(text);
         return scanner.next() == Token::Open && scanner.skipList();
     };

@@ -92,7 +92,8 @@ TEST(KicadSheet, LocalizedSheetPropertiesOfVersion6)
 TEST(KicadSheet, ATildeMeantEmptyOnce)
 {
     for (const int version : {v6, v9, 20250317, 20250318, v10}) {
-        const Parsed parsed(schematic(version, "top", symbol(version, {.value = "~", .fields = {{"Datasheet", "~"}}})));
+        const Parsed parsed(
+            schematic(version, "top", symbol(version, {.value = "~", .fields = {{"Datasheet", "~"}}})));
         ASSERT_TRUE(parsed.ok);
         const auto &symbol = parsed.file.symbols.front();
         const std::string expected = version < 20250318 ? "" : "~";
@@ -132,15 +133,17 @@ TEST(KicadSheet, PrivateAndBarePropertyNames)
 
 TEST(KicadSheet, UnknownTokensAreSkipped)
 {
-    const std::string unknown = "\n(novelty yes \"(\" (deep (deeper \")\")) \"\\\"\") bare \"text\" (in_pos_files yes)"
-                                "\n# a comment (with \" parentheses\n";
-    const Parsed parsed(schematic(v10, "top",
-                                  unknown +
-                                      symbol(v10, {.reference = "R1", .more = unknown, .uses = {{.path = "/top",
-                                                                                               .reference = "R2",
-                                                                                               .more = unknown}}}) +
-                                      sheet(v10, {.uses = {{.path = "/top", .more = unknown}}}) + unknown,
-                                  "\n  (lib_symbols" + unknown + librarySymbol("Device:R", 1, unknown) + ")"));
+    const std::string unknown =
+        "\n(novelty yes \"(\" (deep (deeper \")\")) \"\\\"\") bare \"text\" (in_pos_files yes)"
+        "\n# a comment (with \" parentheses\n";
+    const Parsed parsed(
+        schematic(v10, "top",
+                  unknown +
+                      symbol(v10, {.reference = "R1",
+                                   .more = unknown,
+                                   .uses = {{.path = "/top", .reference = "R2", .more = unknown}}}) +
+                      sheet(v10, {.uses = {{.path = "/top", .more = unknown}}}) + unknown,
+                  "\n  (lib_symbols" + unknown + librarySymbol("Device:R", 1, unknown) + ")"));
     ASSERT_TRUE(parsed.ok) << parsed.parser.problem().message().toStdString();
     ASSERT_EQ(parsed.file.symbols.size(), 1u);
     EXPECT_EQ(parsed.file.symbols[0].instances[0].reference, "R2");
@@ -150,14 +153,16 @@ TEST(KicadSheet, UnknownTokensAreSkipped)
 
 TEST(KicadSheet, LayoutDoesNotMatter)
 {
-    const std::string text = schematic(v7, "top", symbol(v7, {.reference = "R1", .value = "a  b"}) + sheet(v7, {}));
+    const std::string text =
+        schematic(v7, "top", symbol(v7, {.reference = "R1", .value = "a  b"}) + sheet(v7, {}));
     std::string oneLine = text;
     std::string tabs;
     for (char &c : oneLine) {
         tabs += c == ' ' ? std::string(" ") : c == '(' ? std::string("\n\t\t(") : std::string{c};
         c = c == '\n' ? ' ' : c;
     }
-    for (const std::string &layout : {text, crlf(text), oneLine, tabs, text.substr(0, text.size() - 1), "\xEF\xBB\xBF" + text}) {
+    for (const std::string &layout :
+         {text, crlf(text), oneLine, tabs, text.substr(0, text.size() - 1), "\xEF\xBB\xBF" + text}) {
         const Parsed parsed(layout);
         ASSERT_TRUE(parsed.ok) << parsed.parser.problem().message().toStdString() << layout;
         EXPECT_EQ(parsed.file.symbols.at(0).value, "a  b");
@@ -168,7 +173,8 @@ TEST(KicadSheet, LayoutDoesNotMatter)
 TEST(KicadSheet, TextsLoseTheirEscapes)
 {
     const Parsed parsed(schematic(
-        v9, "top", symbol(v9, {.value = "1{slash}2 ${A}{dblquote}", .fields = {{"N", "C:\\x\ny\"\tÄ{unknown}"}}})));
+        v9, "top",
+        symbol(v9, {.value = "1{slash}2 ${A}{dblquote}", .fields = {{"N", "C:\\x\ny\"\tÄ{unknown}"}}})));
     ASSERT_TRUE(parsed.ok);
     EXPECT_EQ(parsed.file.symbols[0].value, "1/2 ${A}\"");
     EXPECT_EQ(parsed.file.symbols[0].properties[0].value, "C:\\x\ny\"\tÄ{unknown}");
@@ -177,10 +183,11 @@ TEST(KicadSheet, TextsLoseTheirEscapes)
 
 TEST(KicadSheet, EmbeddedFilesAreSkipped)
 {
-    const Parsed parsed(schematic(v9, "top",
-                                  "\n  (embedded_fonts no)\n  (embedded_files (file (name \"a.pdf\") (type datasheet)\n"
-                                  "    (data |KLUv/WD\n      AAAA+//=\n    |)\n (checksum \"AB\")))" +
-                                      symbol(v9, {.reference = "R1"})));
+    const Parsed parsed(
+        schematic(v9, "top",
+                  "\n  (embedded_fonts no)\n  (embedded_files (file (name \"a.pdf\") (type datasheet)\n"
+                  "    (data |KLUv/WD\n      AAAA+//=\n    |)\n (checksum \"AB\")))" +
+                      symbol(v9, {.reference = "R1"})));
     ASSERT_TRUE(parsed.ok);
     EXPECT_EQ(parsed.file.symbols.size(), 1u);
 }
@@ -188,7 +195,8 @@ TEST(KicadSheet, EmbeddedFilesAreSkipped)
 TEST(KicadSheet, TextThatIsNotUtf8IsReadWithAWarning)
 {
     const DesignFolder folder;
-    folder.write(root, schematic(v9, "top", symbol(v9, {.reference = "R1", .value = "10\xB5 F", .uses = {}})));
+    folder.write(root,
+                 schematic(v9, "top", symbol(v9, {.reference = "R1", .value = "10\xB5 F", .uses = {}})));
     const auto design = folder.load();
     EXPECT_EQ(references(*design), "R1");
     EXPECT_NE(warnings(*design).find("not UTF-8"), std::string::npos);
@@ -199,9 +207,11 @@ TEST(KicadSheet, TitleBlock)
 {
     const DesignFolder folder;
     const QString path = folder.write(
-        root, schematic(v8, "top",
-                        "\n(title_block (title \"Amp\") (date \"2026-01-02\") (rev \"B\") (company \"Us {slash} Co\")"
-                        " (comment 1 \"DOC-7\") (comment 9 \"last\") (comment 12 \"no such\"))"));
+        root,
+        schematic(
+            v8, "top",
+            "\n(title_block (title \"Amp\") (date \"2026-01-02\") (rev \"B\") (company \"Us {slash} Co\")"
+            " (comment 1 \"DOC-7\") (comment 9 \"last\") (comment 12 \"no such\"))"));
     const auto design = folder.load();
     EXPECT_EQ(design->info().title, QStringLiteral("Amp"));
     EXPECT_EQ(design->info().created, QStringLiteral("2026-01-02"));

@@ -15,8 +15,9 @@ const QString root = QStringLiteral("root.kicad_sch");
 std::string shown(const std::string &text)
 {
     const DesignFolder folder;
-    folder.write(QStringLiteral("root.kicad_pro"),
-                 R"({"text_variables": {"REV": "7", "Mixed": "case", "DEEP": "<${REV}>", "TITLE": "not this"}})");
+    folder.write(
+        QStringLiteral("root.kicad_pro"),
+        R"({"text_variables": {"REV": "7", "Mixed": "case", "DEEP": "<${REV}>", "TITLE": "not this"}})");
     folder.write(root, schematic(v9, "top",
                                  "(title_block (title \"Demo ${REV}\") (rev \"B\") (comment 3 \"third\"))" +
                                      symbol(v9, {.reference = "C9",
@@ -27,11 +28,11 @@ std::string shown(const std::string &text)
                                                 .file = "outer.kicad_sch",
                                                 .uuid = "h1",
                                                 .fields = {{"Channel", "outer"}, {"Rail", "+5V"}}})));
-    folder.write(QStringLiteral("outer.kicad_sch"),
-                 schematic(v9, "o", sheet(v9, {.name = "Inner",
-                                               .file = "inner.kicad_sch",
-                                               .uuid = "h2",
-                                               .fields = {{"channel", "inner"}}})));
+    folder.write(QStringLiteral("outer.kicad_sch"), schematic(v9, "o",
+                                                              sheet(v9, {.name = "Inner",
+                                                                         .file = "inner.kicad_sch",
+                                                                         .uuid = "h2",
+                                                                         .fields = {{"channel", "inner"}}})));
     const Fields fields{{"Footprint", "R_SMD:R_0402"},
                         {"Tol", "1%"},
                         {"Nested", "${Tol}/${VALUE}"},
@@ -120,9 +121,10 @@ TEST(KicadTextVariables, AreResolvedPerInstance)
                                  sheet(v9, {.name = "Left", .uuid = "h1", .fields = {{"Gain", "10"}}}) +
                                      sheet(v9, {.name = "Right", .uuid = "h2", .fields = {{"Gain", "20"}}})));
     folder.write(QStringLiteral("sub.kicad_sch"),
-                 schematic(v9, "s", symbol(v9, {.value = "${GAIN}k ${SHEETNAME} ${REFERENCE}",
-                                                .uses = {{.path = "/top/h1", .reference = "R1"},
-                                                         {.path = "/top/h2", .reference = "R2"}}})));
+                 schematic(v9, "s",
+                           symbol(v9, {.value = "${GAIN}k ${SHEETNAME} ${REFERENCE}",
+                                       .uses = {{.path = "/top/h1", .reference = "R1"},
+                                                {.path = "/top/h2", .reference = "R2"}}})));
     const auto design = folder.load();
     EXPECT_EQ(part(*design, "R1").value, "10k Left R1");
     EXPECT_EQ(part(*design, "R2").value, "20k Right R2");
@@ -141,9 +143,10 @@ TEST(KicadTextVariables, OfTheTitleBlock)
 {
     const DesignFolder folder;
     folder.write(QStringLiteral("root.kicad_pro"), R"({"text_variables": {"NO": "42", "AUTHOR": "Ann"}})");
-    folder.write(root, schematic(v9, "top",
-                                 "(title_block (title \"${PROJECTNAME} ${NO} ${REVISION} ${VALUE}\") (rev \"C\")"
-                                 " (company \"Us\") (comment 1 \"D-${NO}\"))"));
+    folder.write(root,
+                 schematic(v9, "top",
+                           "(title_block (title \"${PROJECTNAME} ${NO} ${REVISION} ${VALUE}\") (rev \"C\")"
+                           " (company \"Us\") (comment 1 \"D-${NO}\"))"));
     const auto design = folder.load();
     EXPECT_EQ(design->info().title, QStringLiteral("root 42 C ${VALUE}"));
     EXPECT_EQ(design->info().author, QStringLiteral("Ann"));

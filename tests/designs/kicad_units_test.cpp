@@ -36,7 +36,8 @@ std::unique_ptr<designs::Design> design(const std::vector<Part> &parts)
 
 TEST(KicadUnits, OfOneReferenceAreOnePart)
 {
-    const auto read = design({amplifier("U1", 2), amplifier("U2", 1), amplifier("U1", 1), amplifier("U1", 3)});
+    const auto read =
+        design({amplifier("U1", 2), amplifier("U2", 1), amplifier("U1", 1), amplifier("U1", 3)});
     EXPECT_EQ(references(*read), "U1 U2");
     EXPECT_EQ(part(*read, "U1").units, 3u);
     EXPECT_EQ(part(*read, "U2").units, 1u);
@@ -50,7 +51,8 @@ TEST(KicadUnits, AreJoinedAcrossSheets)
     Part part1 = amplifier("U?", 1);
     part1.uses = {{.path = "/top", .reference = "U1", .unit = 3}};
     Part part2 = amplifier("U?", 1);
-    part2.uses = {{.path = "/top/a", .reference = "U1", .unit = 1}, {.path = "/top/b", .reference = "U2", .unit = 1}};
+    part2.uses = {{.path = "/top/a", .reference = "U1", .unit = 1},
+                  {.path = "/top/b", .reference = "U2", .unit = 1}};
     folder.write(root, schematic(v9, "top",
                                  symbol(v9, part1) + sheet(v9, {.name = "A", .uuid = "a"}) +
                                      sheet(v9, {.name = "B", .uuid = "b"})));
@@ -64,7 +66,8 @@ TEST(KicadUnits, AreJoinedAcrossSheets)
 TEST(KicadUnits, TheSameUnitTwiceIsADuplicate)
 {
     EXPECT_EQ(references(*design({amplifier("U1", 1), amplifier("U1", 1)})), "U1 U1");
-    const auto read = design({amplifier("U1", 1), amplifier("U1", 1), amplifier("U1", 2), amplifier("U1", 2)});
+    const auto read =
+        design({amplifier("U1", 1), amplifier("U1", 1), amplifier("U1", 2), amplifier("U1", 2)});
     EXPECT_EQ(references(*read), "U1 U1");
     EXPECT_EQ(read->symbols().mergedUnits, 2);
     EXPECT_EQ(references(*design({{.reference = "R1", .unit = 1}, {.reference = "R1", .unit = 2}})), "R1 R1")
@@ -93,9 +96,9 @@ TEST(KicadUnits, PartsWithoutNumberAreNeverJoined)
 
 TEST(KicadUnits, ThePropertiesOfTheLowestUnitThatSaysSomething)
 {
-    const auto read = design({amplifier("U1", 3, {{"Order", "c"}, {"Note", "c"}, {"Only", "c"}}),
-                              amplifier("U1", 2, {{"Note", ""}, {"Order", "b"}}),
-                              amplifier("U1", 1, {{"Order", ""}})});
+    const auto read =
+        design({amplifier("U1", 3, {{"Order", "c"}, {"Note", "c"}, {"Only", "c"}}),
+                amplifier("U1", 2, {{"Note", ""}, {"Order", "b"}}), amplifier("U1", 1, {{"Order", ""}})});
     EXPECT_EQ(property(*read, "U1", "Order"), "b");
     EXPECT_EQ(property(*read, "U1", "Note"), "c");
     EXPECT_EQ(property(*read, "U1", "Only"), "c");

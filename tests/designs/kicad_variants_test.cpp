@@ -36,13 +36,14 @@ TEST(KicadVariants, ChangeFieldsAndFlags)
     Part unfitted = resistor("R3", variant("Lite", "(dnp no)") + variant("Full", ""));
     unfitted.dnp = "yes";
     const DesignFolder folder;
-    folder.write(root, schematic(v10, "top",
-                                 symbol(v10, resistor("R1", variant("Full", field("Value", "99k")) +
-                                                                variant("Lite", field("Value", "22k") +
-                                                                                    field("Footprint", "R:0603") +
-                                                                                    field("Maker", "Us")))) +
-                                     symbol(v10, resistor("R2", variant("Lite", "(dnp yes)"))) +
-                                     symbol(v10, unfitted)));
+    folder.write(root,
+                 schematic(v10, "top",
+                           symbol(v10, resistor("R1", variant("Full", field("Value", "99k")) +
+                                                          variant("Lite", field("Value", "22k") +
+                                                                              field("Footprint", "R:0603") +
+                                                                              field("Maker", "Us")))) +
+                               symbol(v10, resistor("R2", variant("Lite", "(dnp yes)"))) +
+                               symbol(v10, unfitted)));
     const auto plain = folder.load();
     EXPECT_EQ(plain->variants(), QStringList({QStringLiteral("Full"), QStringLiteral("Lite")}));
     EXPECT_EQ(property(*plain, "R1", "Value"), "10k");
@@ -79,17 +80,21 @@ TEST(KicadVariants, InBomWasWrittenTheWrongWayRoundOnce)
 TEST(KicadVariants, OfSheets)
 {
     const DesignFolder folder;
-    folder.write(root, schematic(v10, "top",
-                                 sheet(v10, {.name = "Radio",
-                                             .uuid = "h1",
-                                             .dnp = "no",
-                                             .uses = {{.path = "/top",
-                                                       .more = variant("Lite", "(dnp yes) (in_bom no)")}}}) +
-                                     sheet(v10, {.name = "Spare", .uuid = "h2", .dnp = "yes",
-                                                 .uses = {{.path = "/top", .more = variant("Lite", "(dnp no)")}}})));
+    folder.write(
+        root,
+        schematic(v10, "top",
+                  sheet(v10, {.name = "Radio",
+                              .uuid = "h1",
+                              .dnp = "no",
+                              .uses = {{.path = "/top", .more = variant("Lite", "(dnp yes) (in_bom no)")}}}) +
+                      sheet(v10, {.name = "Spare",
+                                  .uuid = "h2",
+                                  .dnp = "yes",
+                                  .uses = {{.path = "/top", .more = variant("Lite", "(dnp no)")}}})));
     folder.write(QStringLiteral("sub.kicad_sch"),
-                 schematic(v10, "s", symbol(v10, {.uses = {{.path = "/top/h1", .reference = "R1"},
-                                                           {.path = "/top/h2", .reference = "R2"}}})));
+                 schematic(v10, "s",
+                           symbol(v10, {.uses = {{.path = "/top/h1", .reference = "R1"},
+                                                 {.path = "/top/h2", .reference = "R2"}}})));
     const auto plain = folder.load();
     EXPECT_EQ(part(*plain, "R1").notFitted, MarkedBy::Nothing);
     EXPECT_EQ(part(*plain, "R2").notFitted, MarkedBy::Sheet);
@@ -117,12 +122,13 @@ TEST(KicadVariants, ApplyToOneUseOfASheetOnly)
 TEST(KicadVariants, FieldsMayHoldVariablesAndBraces)
 {
     const DesignFolder folder;
-    folder.write(root, schematic(v10, "top",
-                                 symbol(v10, {.fields = {{"In{slash}Out", "1"}},
-                                              .uses = {{.path = "/top",
-                                                        .reference = "R1",
-                                                        .more = variant("A", field("Value", "${REFERENCE}{slash}x") +
-                                                                                 field("In{slash}Out", "2"))}}})));
+    folder.write(
+        root, schematic(v10, "top",
+                        symbol(v10, {.fields = {{"In{slash}Out", "1"}},
+                                     .uses = {{.path = "/top",
+                                               .reference = "R1",
+                                               .more = variant("A", field("Value", "${REFERENCE}{slash}x") +
+                                                                        field("In{slash}Out", "2"))}}})));
     const auto design = folder.load(root, QStringLiteral("A"));
     EXPECT_EQ(part(*design, "R1").value, "R1/x");
     EXPECT_EQ(part(*design, "R1").properties.size(), 1u) << "the field is the symbol's own";
@@ -132,12 +138,14 @@ TEST(KicadVariants, FieldsMayHoldVariablesAndBraces)
 TEST(KicadVariants, AnUnknownOneIsRefusedNamingTheOthers)
 {
     const DesignFolder folder;
-    folder.write(QStringLiteral("root.kicad_pro"), R"({"schematic": {"variants": ["Zulu", {"name": "Beta"}, {}]}})");
+    folder.write(QStringLiteral("root.kicad_pro"),
+                 R"({"schematic": {"variants": ["Zulu", {"name": "Beta"}, {}]}})");
     folder.write(root, schematic(v10, "top", symbol(v10, resistor("R1", variant("Alpha", "")))));
     const auto result = folder.read(root, QStringLiteral("alpha"));
     EXPECT_FALSE(result.design);
     EXPECT_TRUE(result.error.text.contains(QLatin1String("\"alpha\""))) << result.error.text.toStdString();
-    EXPECT_TRUE(result.error.text.endsWith(QLatin1String("Alpha, Beta, Zulu"))) << result.error.text.toStdString();
+    EXPECT_TRUE(result.error.text.endsWith(QLatin1String("Alpha, Beta, Zulu")))
+        << result.error.text.toStdString();
     EXPECT_EQ(references(*folder.load(root, QStringLiteral("Zulu"))), "R1");
 
     const DesignFolder none;

@@ -21,7 +21,9 @@ inline std::string inQuotes(std::string_view text)
 {
     std::string result = "\"";
     for (const char c : text) {
-        result += c == '"' || c == '\\' ? std::string{'\\', c} : c == '\n' ? std::string("\\n") : std::string{c};
+        result += c == '"' || c == '\\' ? std::string{'\\', c}
+                  : c == '\n'           ? std::string("\\n")
+                                        : std::string{c};
     }
     return result + '"';
 }
@@ -76,8 +78,9 @@ inline std::string uses(const std::vector<Use> &list)
     }
     std::string text = "\n    (instances";
     for (const Use &use : list) {
-        text += "\n      (project " + inQuotes(use.project) + "\n        (path " + inQuotes(use.path) + " (reference " +
-                inQuotes(use.reference) + ") (unit " + std::to_string(use.unit) + ")" + use.more + ")\n      )";
+        text += "\n      (project " + inQuotes(use.project) + "\n        (path " + inQuotes(use.path) +
+                " (reference " + inQuotes(use.reference) + ") (unit " + std::to_string(use.unit) + ")" +
+                use.more + ")\n      )";
     }
     return text + "\n    )";
 }
@@ -86,7 +89,8 @@ inline std::string symbol(int version, const Part &part)
 {
     std::string text = "\n  (symbol";
     text += part.libName.empty() ? "" : " (lib_name " + inQuotes(part.libName) + ")";
-    text += " (lib_id " + inQuotes(part.lib) + ") (at " + part.at + ") (unit " + std::to_string(part.unit) + ")\n   ";
+    text += " (lib_id " + inQuotes(part.lib) + ") (at " + part.at + ") (unit " + std::to_string(part.unit) +
+            ")\n   ";
     text += part.inBom.empty() ? "" : " (in_bom " + part.inBom + ")";
     text += " (on_board yes)";
     text += part.dnp.empty() ? "" : " (dnp " + part.dnp + ")";
@@ -122,9 +126,15 @@ inline std::string sheet(int version, const Sheet &sheet)
     text += sheet.inBom.empty() ? "" : " (in_bom " + sheet.inBom + ")";
     text += sheet.dnp.empty() ? "" : " (dnp " + sheet.dnp + ")";
     text += "\n    " + uuid(version, sheet.uuid);
-    text += property(version, !sheet.nameProperty.empty() ? sheet.nameProperty : old ? "Sheet name" : "Sheetname",
+    text += property(version,
+                     !sheet.nameProperty.empty() ? sheet.nameProperty
+                     : old                       ? "Sheet name"
+                                                 : "Sheetname",
                      sheet.name, 0);
-    text += property(version, !sheet.fileProperty.empty() ? sheet.fileProperty : old ? "Sheet file" : "Sheetfile",
+    text += property(version,
+                     !sheet.fileProperty.empty() ? sheet.fileProperty
+                     : old                       ? "Sheet file"
+                                                 : "Sheetfile",
                      sheet.file, 1);
     int id = 2;
     for (const auto &[name, value] : sheet.fields) {
@@ -140,7 +150,8 @@ inline std::string librarySymbol(std::string_view id, int units = 1, std::string
                        " (in_bom yes)\n      (property \"Reference\" \"U\" (at 0 0 0))";
     const std::string name(id.substr(id.find(':') + 1));
     for (int unit = 0; unit <= units; ++unit) {
-        text += "\n      (symbol " + inQuotes(name + "_" + std::to_string(unit) + "_1") + " (polyline (pts (xy 0 0))))";
+        text += "\n      (symbol " + inQuotes(name + "_" + std::to_string(unit) + "_1") +
+                " (polyline (pts (xy 0 0))))";
     }
     return text + "\n    )";
 }
@@ -149,7 +160,8 @@ inline std::string librarySymbol(std::string_view id, int units = 1, std::string
 inline std::string library()
 {
     return "\n  (lib_symbols" + librarySymbol("Device:R") + librarySymbol("Amp:TL074", 3) +
-           librarySymbol("power:GND", 1, " (power)") + librarySymbol("power:+5V", 1, " (power global)") + "\n  )";
+           librarySymbol("power:GND", 1, " (power)") + librarySymbol("power:+5V", 1, " (power global)") +
+           "\n  )";
 }
 
 inline std::string schematic(int version, std::string_view id, std::string_view body,
@@ -175,9 +187,9 @@ inline std::string instanceTable(const std::vector<Row> &rows)
 {
     std::string text = "\n  (symbol_instances";
     for (const Row &row : rows) {
-        text += "\n    (path " + inQuotes(row.path) + "\n      (reference " + inQuotes(row.reference) + ") (unit " +
-                std::to_string(row.unit) + ") (value " + inQuotes(row.value) + ") (footprint " + inQuotes(row.footprint) +
-                ")\n    )";
+        text += "\n    (path " + inQuotes(row.path) + "\n      (reference " + inQuotes(row.reference) +
+                ") (unit " + std::to_string(row.unit) + ") (value " + inQuotes(row.value) + ") (footprint " +
+                inQuotes(row.footprint) + ")\n    )";
     }
     return text + "\n  )";
 }

@@ -87,7 +87,8 @@ TEST(Utf8, WellFormedOnly)
     for (const char *text : {"", "ascii", "Größe", "\xE2\x82\xAC", "\xF0\x9F\x94\x8C"}) {
         EXPECT_TRUE(designs::isUtf8(text)) << text;
     }
-    for (const char *text : {"\xB5", "a\xC3", "\xC0\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\x80", "\xE2\x82"}) {
+    for (const char *text :
+         {"\xB5", "a\xC3", "\xC0\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\x80", "\xE2\x82"}) {
         EXPECT_FALSE(designs::isUtf8(text)) << text;
     }
 }

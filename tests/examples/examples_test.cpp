@@ -26,14 +26,14 @@ constexpr Example examples[] = {
     {"contract-manufacturer", "partlist.csv"},
 };
 
-struct Run
+struct Outcome
 {
     int status = -1;
     QByteArray out;
     QByteArray err;
 };
 
-Run runBom(const QStringList &arguments)
+Outcome runBom(const QStringList &arguments)
 {
     QProcess process;
     process.start(QStringLiteral(BOM_BINARY_DIR "/bin/bom"), arguments);
@@ -86,7 +86,7 @@ protected:
     }
     QJsonObject parts(const QString &dnp) const
     {
-        const Run run = runBom(
+        const Outcome run = runBom(
             {QStringLiteral("parts"), design(), QStringLiteral("--json"), QStringLiteral("--dnp"), dnp});
         EXPECT_EQ(run.status, 0) << run.err.constData();
         return QJsonDocument::fromJson(run.out).object();
@@ -102,7 +102,7 @@ TEST_P(Examples, ReportsAreTheStoredOnes)
     QTemporaryDir folder;
     const QString csv = folder.filePath(QStringLiteral("report.csv"));
     const QString full = folder.filePath(QStringLiteral("report-full.csv"));
-    const Run run = runBom({QStringLiteral("report"), design(), QStringLiteral("--csv"), csv,
+    const Outcome run = runBom({QStringLiteral("report"), design(), QStringLiteral("--csv"), csv,
                             QStringLiteral("--full-csv"), full});
     ASSERT_EQ(run.status, 0) << run.err.constData();
     EXPECT_EQ(contentOf(csv), contentOf(expected("report.csv")));
@@ -127,7 +127,7 @@ TEST_P(Examples, EveryReferenceOfTheLedgerIsListedOrSkipped)
 
 TEST_P(Examples, CheckFindsTheSymbolsOfTheLedger)
 {
-    const Run run = runBom({QStringLiteral("check"), design()});
+    const Outcome run = runBom({QStringLiteral("check"), design()});
     EXPECT_EQ(run.status, 0) << run.out.constData() << run.err.constData();
     EXPECT_EQ(run.out, contentOf(expected("check.txt")));
 }

@@ -81,7 +81,8 @@ private:
             text->insert(at, std::string(below(3000), pick(m_words).front()));
             break;
         case 5:
-            text->replace(at, length, pick(m_seeds).substr(below(2000) % (m_seeds.front().size() + 1), length));
+            text->replace(at, length,
+                          pick(m_seeds).substr(below(2000) % (m_seeds.front().size() + 1), length));
             break;
         case 6:
             if (at < text->size()) {

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-/// Feeds one input to the reader under test and aborts when the reader breaks one of its promises; the signature
-/// is that of https://llvm.org/docs/LibFuzzer.html
+/// Feeds one input to the reader under test and aborts when the reader breaks one of its promises; the
+/// signature is that of https://llvm.org/docs/LibFuzzer.html
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
 /// Inputs that the reader accepts, to begin the mutations with.

@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/csv/partlist.h"
+
+#include "designs/csv/csvfile.h"
+
+#include <QRegularExpression>
+
+namespace designs {
+
+namespace {
+
+/// Walks the file byte by byte and collects the cells of one column.
+class ColumnWalker
+{
+public:
+    ColumnWalker(char delimiter, std::size_t column)
+        : m_delimiter(delimiter)
+        , m_column(column)
+    {
+    }
+
+    template<class Visit>
+    void walk(std::string_view bytes, const Visit &visit)
+    {
+        char before = 0;
+        for (const char c : bytes) {
+            const bool pairEnd = c == '\n' && before == '\r';
+            if (m_quoted) {
+                m_quoted = c != '"';
+                collect(c, m_quoted);
+            } else if (c == '\r' || (c == '\n' && !pairEnd)) {
+                visit(m_row++, m_text);
+                startRow();
+            } else if (c == m_delimiter) {
+                ++m_at;
+                startCell();
+            } else if (c == '"' && (m_atStart || (m_cellQuoted && before == '"'))) {
+                m_quoted = true;
+                m_cellQuoted = true;
+                m_atStart = false;
+            } else if (!pairEnd) {
+                m_atStart = m_atStart && c == ' ';
+                collect(c, true);
+            }
+            before = c;
+        }
+        visit(m_row, m_text);
+    }
+
+private:
+    void collect(char c, bool wanted)
+    {
+        if (wanted && m_at == m_column) {
+            m_text += c;
+        }
+    }
+
+    void startRow()
+    {
+        m_text.clear();
+        m_at = 0;
+        startCell();
+    }
+
+    void startCell()
+    {
+        m_atStart = true;
+        m_cellQuoted = false;
+    }
+
+    char m_delimiter;
+    std::size_t m_column;
+    std::size_t m_row = 0;
+    std::size_t m_at = 0;
+    bool m_atStart = true;
+    bool m_quoted = false;
+    bool m_cellQuoted = false;
+    std::string m_text;
+};
+
+/// Counts the references of a cell by patterns: nothing is expanded.
+class ReferenceCounter
+{
+public:
+    [[nodiscard]] qsizetype count(QString cell) const
+    {
+        cell.replace(m_blanks, QStringLiteral(" "));
+        cell.replace(m_dashes, QStringLiteral("-"));
+        cell.replace(m_spacedDash, QStringLiteral("-"));
+        qsizetype sum = 0;
+        QString prefix;
+        const QStringList tokens = cell.split(m_separators, Qt::SkipEmptyParts);
+        for (const QString &token : tokens) {
+            sum += ofToken(token, &prefix);
+        }
+        return sum;
+    }
+
+private:
+    [[nodiscard]] qsizetype ofToken(const QString &token, QString *prefix) const
+    {
+        qsizetype sum = 0;
+        QString common = *prefix;
+        const QStringList pieces = token.split(u'/');
+        for (const QString &piece : pieces) {
+            const QRegularExpressionMatch match = m_piece.match(piece);
+            const QString own = match.captured(1);
+            const bool fits = match.hasMatch() && (!own.isEmpty() || !common.isEmpty()) &&
+                              (sum == 0 || own.isEmpty() || own == common);
+            if (!fits) {
+                prefix->clear();
+                return 1;
+            }
+            common = isName(match) ? QString() : own.isEmpty() ? common : own;
+            sum += isName(match) ? 1 : numbersIn(match);
+        }
+        *prefix = common;
+        return sum;
+    }
+
+    /// "J4-1" and "X1-02" are names, no ranges.
+    static bool isName(const QRegularExpressionMatch &match)
+    {
+        const QString last = match.captured(4);
+        const bool oddZeros = last.startsWith(u'0') && last.size() != match.captured(2).size();
+        return !last.isEmpty() && match.captured(3).isEmpty() && (numbersIn(match) < 2 || oddZeros);
+    }
+
+    static qsizetype numbersIn(const QRegularExpressionMatch &match)
+    {
+        return match.hasCaptured(4)
+                   ? qsizetype(match.captured(4).toLongLong() - match.captured(2).toLongLong()) + 1
+                   : 1;
+    }
+
+    const QRegularExpression m_blanks{QStringLiteral(R"([\t\r\n\x{00A0}\x{200B}\x{202F}\x{3000}\x{FEFF}])")};
+    const QRegularExpression m_dashes{QStringLiteral(R"([\x{2010}\x{2011}\x{2013}\x{2014}\x{2212}])")};
+    const QRegularExpression m_spacedDash{QStringLiteral("(?<=[0-9])(?: +- *|- +)")};
+    const QRegularExpression m_separators{QStringLiteral(R"([ ,;\x{FF0C}\x{3001}]+)")};
+    /// Prefix and number, perhaps a dash and another of the same prefix.
+    const QRegularExpression m_piece{QStringLiteral(
+        R"(\A((?=[^-./]*(?:[A-Za-z]|[^\x00-\x7F]))[^-./]*[^-./0-9])?([0-9]++)(?:-(\1)?([0-9]++))?\z)")};
+};
+
+} // namespace
+
+SymbolCount PartList::recount(Problem *error) const
+{
+    SymbolCount count;
+    const std::optional<QByteArray> bytes = CsvFile::load(m_info.file, error);
+    if (!bytes) {
+        return count;
+    }
+    std::string_view text(bytes->constData(), std::size_t(bytes->size()));
+    text.remove_prefix(m_dialect.byteOrderMark && text.starts_with(utf8Mark) ? utf8Mark.size() : 0);
+    const bool recode = m_dialect.encoding == CsvDialect::Encoding::Windows1252;
+    const ReferenceCounter counter;
+    ColumnWalker(m_dialect.delimiter, m_columns.reference)
+        .walk(text, [&](std::size_t row, const std::string &cell) {
+            if (row > m_columns.headingRow) {
+                count.placed +=
+                    counter.count(QString::fromStdString(recode ? utf8FromWindows1252(cell) : cell));
+            }
+        });
+    return count;
+}
+
+} // namespace designs

@@ -1,0 +1,316 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/csv/partlistreader.h"
+
+#include "designs/csv/messagetext.h"
+#include "designs/csv/partlist.h"
+#include "designs/csv/referencecell.h"
+
+#include <QByteArray>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+namespace designs {
+
+namespace {
+
+constexpr std::size_t mostComponents = 2'000'000;
+
+/// More than so many equal warnings are summed up in one.
+constexpr int mostWarnings = 20;
+
+std::string_view trimmed(std::string_view text)
+{
+    const std::size_t first = text.find_first_not_of(" \t\r\n");
+    return first == std::string_view::npos ? std::string_view()
+                                           : text.substr(first, text.find_last_not_of(" \t\r\n") + 1 - first);
+}
+
+bool equalIgnoringCase(std::string_view text, std::string_view other)
+{
+    return QByteArrayView(text.data(), qsizetype(text.size()))
+               .compare(QByteArrayView(other.data(), qsizetype(other.size())), Qt::CaseInsensitive) == 0;
+}
+
+/// Whether the text of a property DNP says that the part is not fitted.
+bool saysNotFitted(std::string_view text)
+{
+    static constexpr std::array<std::string_view, 6> fitted = {"", "0", "no", "n", "false", "~"};
+    const std::string_view said = trimmed(text);
+    return std::ranges::none_of(fitted,
+                                [said](std::string_view word) { return equalIgnoringCase(said, word); });
+}
+
+/// The number of a quantity cell; "3.0" and "3,00" are 3.
+std::optional<quint64> quantityOf(std::string_view text)
+{
+    quint64 quantity = 0;
+    const char *end = text.data() + text.size();
+    const auto [rest, failure] = std::from_chars(text.data(), end, quantity);
+    const bool fraction = rest != end && (*rest == '.' || *rest == ',');
+    const bool whole =
+        rest == end || (fraction && std::all_of(rest + 1, end, [](char c) { return c == '0'; }));
+    return failure == std::errc() && whole ? std::optional(quantity) : std::nullopt;
+}
+
+/// Warnings of one kind, of which only the first are told one by one.
+struct WarningKind
+{
+    QString summary;
+    int count = 0;
+    int lastLine = 0;
+};
+
+} // namespace
+
+class PartListReader
+{
+public:
+    PartListReader(const QString &path, CsvFile file)
+        : m_path(path)
+        , m_file(std::move(file))
+        , m_list(std::make_unique<PartList>())
+        , m_cell(m_list->m_arena)
+    {
+    }
+
+    ReadResult run()
+    {
+        std::optional<PartListColumns> columns = findPartListColumns(m_file, &m_error, &m_list->m_warnings);
+        if (!columns) {
+            return failed();
+        }
+        m_list->m_columns = std::move(*columns);
+        describe();
+        nameProperties();
+        if (!readRows()) {
+            return failed();
+        }
+        finish();
+        return {std::move(m_list), {}};
+    }
+
+private:
+    ReadResult failed()
+    {
+        m_error.file = m_path;
+        return {nullptr, m_error};
+    }
+
+    bool fail(const CsvRow &row, const QString &text)
+    {
+        m_error = {m_path, int(row.line), text};
+        return false;
+    }
+
+    void describe()
+    {
+        const QFileInfo info(m_path);
+        m_list->m_bytes = m_file.bytes();
+        m_list->m_dialect = m_file.dialect();
+        m_list->m_info.file = info.absoluteFilePath();
+        m_list->m_info.modified = info.lastModified();
+        m_list->m_files = QStringList{info.absoluteFilePath()};
+        m_list->m_sheets = {SheetUse{QStringLiteral("/"), 0}};
+    }
+
+    void nameProperties()
+    {
+        const PartListColumns &columns = m_list->m_columns;
+        PropertyNames &names = m_list->m_names;
+        m_list->m_referenceName = names.intern(columns.names[columns.reference]);
+        m_list->m_valueName = names.intern(columns.value ? columns.names[*columns.value] : "Value");
+        names.setAlias("VALUE", m_list->m_valueName);
+        for (std::size_t column = 0; column < columns.names.size(); ++column) {
+            if (columns.isProperty(column)) {
+                m_columns.push_back({column, equalIgnoringCase(columns.names[column], "DNP")});
+                m_properties.push_back({names.intern(columns.names[column]), {}});
+            }
+        }
+        if (columns.footprint) {
+            names.setAlias("PACKAGE", names.intern(columns.names[*columns.footprint]));
+        }
+    }
+
+    bool readRows()
+    {
+        const std::vector<CsvRow> &rows = m_file.rows();
+        for (std::size_t row = m_list->m_columns.headingRow + 1; row < rows.size(); ++row) {
+            if (!readRow(quint32(row))) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    bool readRow(quint32 index)
+    {
+        const CsvRow &row = m_file.rows()[index];
+        if (!checkLength(row)) {
+            return false;
+        }
+        if (!m_cell.read(textAt(row, m_list->m_columns.reference))) {
+            return fail(row, m_cell.error());
+        }
+        if (m_cell.references().empty()) {
+            return m_file.isBlank(row) || fail(row, withoutReference(row));
+        }
+        if (m_list->m_components.size() + m_cell.references().size() > mostComponents) {
+            return fail(row, QStringLiteral("the list has more than %1 parts").arg(mostComponents));
+        }
+        checkQuantity(row);
+        addComponents(index);
+        return true;
+    }
+
+    bool checkLength(const CsvRow &row)
+    {
+        const std::size_t expected = m_list->m_columns.names.size();
+        const std::span<const CsvCell> cells = m_file.cells(row);
+        for (std::size_t column = expected; column < cells.size(); ++column) {
+            if (!m_file.isBlank(cells[column])) {
+                return fail(
+                    row, QStringLiteral("the row has %1 cells, but there are %2 headings: put a cell with a "
+                                        "delimiter in it into quotes, or give column %3 a heading")
+                             .arg(cells.size())
+                             .arg(expected)
+                             .arg(column + 1));
+            }
+        }
+        if (cells.size() < expected && !m_file.isBlank(row)) {
+            warn(row, &m_short,
+                 QStringLiteral("the row has only %1 of %2 cells: the others are read as empty")
+                     .arg(cells.size())
+                     .arg(expected));
+        }
+        return true;
+    }
+
+    QString withoutReference(const CsvRow &row)
+    {
+        const auto cells = m_file.cells(row);
+        const auto said =
+            std::ranges::find_if(cells, [this](const CsvCell &c) { return !m_file.isBlank(c); });
+        return QStringLiteral("the row (") + inMessage(m_file.text(*said, m_list->m_arena)) +
+               QStringLiteral(" …) has no reference: give it one, or delete the row if it is no part");
+    }
+
+    void checkQuantity(const CsvRow &row)
+    {
+        const std::optional<std::size_t> column = m_list->m_columns.quantity;
+        const std::string_view text = column ? trimmed(textAt(row, *column)) : std::string_view();
+        if (text.empty()) {
+            return;
+        }
+        const std::optional<quint64> quantity = quantityOf(text);
+        const std::size_t named = m_cell.references().size();
+        if (quantity != named) {
+            warn(row, &m_quantity,
+                 QStringLiteral("the quantity is ") + inMessage(text) +
+                     QStringLiteral(", but the row names %1 reference(s): the references count").arg(named));
+        }
+    }
+
+    void addComponents(quint32 index)
+    {
+        const CsvRow &row = m_file.rows()[index];
+        const std::optional<std::size_t> value = m_list->m_columns.value;
+        Component component;
+        component.value = value ? textAt(row, *value) : std::string_view();
+        component.line = row.line;
+        component.origin = index;
+        for (std::size_t i = 0; i < m_columns.size(); ++i) {
+            m_properties[i].value = textAt(row, m_columns[i].column);
+            if (m_columns[i].marksNotFitted && saysNotFitted(m_properties[i].value)) {
+                component.notFitted = MarkedBy::Property;
+            }
+        }
+        component.properties = m_list->m_arena.copy(std::span<const Property>(m_properties));
+        for (const std::string_view reference : m_cell.references()) {
+            component.reference = reference;
+            m_list->m_components.push_back(component);
+        }
+    }
+
+    void finish()
+    {
+        m_list->m_symbols.placed = qsizetype(m_list->m_components.size());
+        if (m_list->m_components.empty()) {
+            const CsvRow &headings = m_file.rows()[m_list->m_columns.headingRow];
+            m_list->m_warnings.push_back(
+                {{}, int(headings.line), QStringLiteral("no part follows the headings")});
+        }
+        if (m_file.dialect().encoding == CsvDialect::Encoding::Windows1252) {
+            m_list->m_warnings.push_back({{},
+                                          0,
+                                          QStringLiteral("the file is not in UTF-8 and was read as "
+                                                         "Windows-1252: save it in UTF-8 if letters are "
+                                                         "wrong")});
+        }
+        for (const WarningKind &kind : {m_short, m_quantity}) {
+            if (kind.count > mostWarnings) {
+                m_list->m_warnings.push_back(
+                    {{}, kind.lastLine, kind.summary.arg(kind.count - mostWarnings)});
+            }
+        }
+        for (Problem &warning : m_list->m_warnings) {
+            warning.file = m_path;
+        }
+    }
+
+    void warn(const CsvRow &row, WarningKind *kind, const QString &text)
+    {
+        if (++kind->count <= mostWarnings) {
+            m_list->m_warnings.push_back({{}, int(row.line), text});
+        }
+        kind->lastLine = int(row.line);
+    }
+
+    std::string_view textAt(const CsvRow &row, std::size_t column)
+    {
+        const std::span<const CsvCell> cells = m_file.cells(row);
+        return column < cells.size() ? m_file.text(cells[column], m_list->m_arena) : std::string_view();
+    }
+
+    struct PropertyColumn
+    {
+        std::size_t column = 0;
+        bool marksNotFitted = false;
+    };
+
+    QString m_path;
+    CsvFile m_file;
+    std::unique_ptr<PartList> m_list;
+    ReferenceCell m_cell;
+    Problem m_error;
+    std::vector<PropertyColumn> m_columns;
+    std::vector<Property> m_properties;
+    WarningKind m_short{
+        QStringLiteral("%1 more rows, the last one here, have fewer cells than there are headings")};
+    WarningKind m_quantity{
+        QStringLiteral("%1 more rows, the last one here, have a quantity that differs from the "
+                       "number of their references")};
+};
+
+ReadResult readPartList(const QString &path, const ReadOptions &options, const CsvLimits &limits)
+{
+    if (!options.variant.isEmpty()) {
+        return {nullptr,
+                {path, 0,
+                 QStringLiteral("a part list has no variants: leave out the variant ") +
+                     inMessage(options.variant.toStdString())}};
+    }
+    Problem error;
+    std::optional<QByteArray> bytes = CsvFile::load(path, &error, limits);
+    std::optional<CsvFile> file = bytes ? CsvFile::parse(std::move(*bytes), &error, limits) : std::nullopt;
+    if (!file) {
+        error.file = path;
+        return {nullptr, error};
+    }
+    return PartListReader(path, std::move(*file)).run();
+}
+
+} // namespace designs

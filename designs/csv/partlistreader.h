@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "designs/csv/csvfile.h"
+#include "designs/design.h"
+
+namespace designs {
+
+/// Reads a part list: delimited cells, a row of headings, a row per part or group of equal parts. The design
+/// is a PartList.
+///
+/// Each reference becomes a component; a reference that stands in several rows becomes several. The
+/// properties are the cells of all columns but reference, value and quantity under their headings, empty
+/// cells included; the footprint can be asked for as PACKAGE, the value as VALUE. A column DNP (any letter
+/// case) marks the parts that are not fitted, by any text but 0, no, n, false and ~.
+///
+/// Errors are what would lose a part or a text: a row that says something but names no reference, texts
+/// behind the last column, references that cannot be understood, more than 2,000,000 components, and what the
+/// file itself refuses. Warnings are rows with too few cells, quantities that differ from the number of
+/// references, and headings that had to be settled by choice.
+[[nodiscard]] ReadResult readPartList(const QString &path, const ReadOptions &options = {},
+                                      const CsvLimits &limits = {});
+
+} // namespace designs

@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "templates/bomtemplate.h"
+
+#include "templates/bomtemplatefile.h"
+#include "templates/defaultstylesheet.h"
+#include "templates/templatemessages.h"
+#include "templates/templatepaths.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QSettings>
+
+#include <limits>
+
+namespace {
+/// A member under its key, and the first document version that has it.
+template<typename T>
+struct Entry
+{
+    QLatin1String key;
+    T BOMTemplateRecord::*member;
+    qint32 since;
+};
+
+using Record = BOMTemplateRecord;
+constexpr qint32 Always = std::numeric_limits<qint32>::min();
+
+constexpr Entry<bool> BoolEntries[] = {
+    {QLatin1String("suppressEmptyCategories"), &Record::suppressEmptyCategories, Always},
+    {QLatin1String("groupReferences"), &Record::groupReferences, Always},
+    {QLatin1String("fullTextOuputs"), &Record::fullTextOuputs, Always},
+    {QLatin1String("AppendNotes"), &Record::AppendNotes, Always},
+    {QLatin1String("ManualPrettyLayout"), &Record::ManualPrettyLayout, 3},
+    {QLatin1String("AlwaysQuoteRefs"), &Record::AlwaysQuoteRefs, 4},
+    {QLatin1String("ExcludeValueField"), &Record::ExcludeValueField, 4},
+    {QLatin1String("CaseSensitiveGrouping"), &Record::CaseSensitiveGrouping, 5},
+};
+
+constexpr Entry<int> IntEntries[] = {
+    {QLatin1String("AsciiQuantityWidth"), &Record::AsciiQuantityWidth, 3},
+    {QLatin1String("AsciiRefWidth"), &Record::AsciiRefWidth, 3},
+    {QLatin1String("PrettyQuantityWidth"), &Record::PrettyQuantityWidth, 3},
+    {QLatin1String("PrettyRefWidth"), &Record::PrettyRefWidth, 3},
+};
+
+constexpr Entry<QString> TextEntries[] = {
+    {QLatin1String("CSS"), &Record::CSS, Always},
+    {QLatin1String("DocumentHeader"), &Record::DocumentHeader, Always},
+    {QLatin1String("DocumentFooter"), &Record::DocumentFooter, Always},
+    {QLatin1String("PageHeader"), &Record::PageHeader, Always},
+    {QLatin1String("PageFooter"), &Record::PageFooter, Always},
+};
+
+template<typename T, std::size_t count>
+void write(const Entry<T> (&entries)[count], const Record &record, QVariantMap &map)
+{
+    for (const Entry<T> &entry : entries)
+        map.insert(entry.key, QVariant::fromValue(record.*entry.member));
+}
+
+template<typename T, std::size_t count>
+void read(const Entry<T> (&entries)[count], const QVariantMap &map, Record &record)
+{
+    for (const Entry<T> &entry : entries) {
+        if (record.version >= entry.since)
+            record.*entry.member = map.value(entry.key).template value<T>();
+    }
+}
+
+template<typename List>
+QVariantList toVariantList(const List &items)
+{
+    QVariantList list;
+    for (const auto &item : items)
+        list.append(item.toVariantMap());
+    return list;
+}
+
+QList<BOMCategory> categoriesFrom(const QVariantList &list)
+{
+    QList<BOMCategory> categories;
+    for (const QVariant &item : list)
+        categories.append(BOMCategory::fromVariantMap(item.toMap()));
+    return categories;
+}
+
+BOMFields fieldsFrom(const QVariantList &list)
+{
+    BOMFields fields;
+    for (const QVariant &item : list)
+        fields.add(BOMField::fromVariantMap(item.toMap()));
+    return fields;
+}
+
+QString inPrimaryFolder(const QString &fileName)
+{
+    return fileName.isEmpty() ? QString() : QDir(primaryTemplateFolder()).absoluteFilePath(fileName);
+}
+} // namespace
+
+BOMTemplate::BOMTemplate()
+{
+    setDefaults();
+}
+
+BOMTemplate::BOMTemplate(const QString &name, const QString &filePath)
+{
+    setDefaults();
+    m_record.name = name;
+    m_record.filePath = filePath;
+    load();
+}
+
+BOMTemplate::BOMTemplate(const QString &name, QSettings *legacySettings)
+{
+    setDefaults();
+    m_record.legacySettings = legacySettings;
+    m_record.version = 1;
+    setName(name);
+    load();
+}
+
+void BOMTemplate::setDefaults()
+{
+    Record defaults;
+    defaults.fields.setDefaults();
+    defaults.categories = BOMCategory::defaults();
+    defaults.CSS = defaultStyleSheet();
+    defaults.name = m_record.name;
+    defaults.filePath = m_record.filePath;
+    defaults.legacySettings = m_record.legacySettings;
+    m_record = std::move(defaults);
+}
+
+void BOMTemplate::setName(const QString &name)
+{
+    m_record.name = name;
+    m_record.filePath = templateFilePath(name);
+}
+
+bool BOMTemplate::load()
+{
+    if (m_record.version == 0)
+        return true;
+    if (m_record.version != 1)
+        return loadFromFile();
+    loadFromLegacySettings();
+    return true;
+}
+
+bool BOMTemplate::loadFromFile()
+{
+    BOMTemplateFile file(m_record.filePath);
+    QVariantMap map;
+    if (file.readXmlFile(map)) {
+        m_record.version = file.version();
+        fromVariantMap(map);
+        return true;
+    }
+    const QString text = tr("The BOM template '%1' could not be loaded.  Default settings loaded.");
+    showTemplateMessage({tr("BOM Template Load Failed"), text.arg(m_record.filePath), file.errorString()});
+    setDefaults();
+    return false;
+}
+
+void BOMTemplate::loadFromLegacySettings()
+{
+    const QString fallback = QStringLiteral("Default");
+    const QSettings *settings = m_record.legacySettings;
+    if (settings && !m_record.name.isEmpty() && settings->contains(m_record.name)) {
+        fromVariantMap(settings->value(m_record.name).toMap());
+    } else if (settings && settings->contains(fallback)) {
+        fromVariantMap(settings->value(fallback).toMap());
+    } else {
+        setDefaults();
+    }
+    m_record.CSS = defaultStyleSheet(); // such entries have no style sheet
+}
+
+bool BOMTemplate::save()
+{
+    if (m_record.version != CurrentVersion) {
+        qDebug().noquote().nospace()
+            << "BOM template error. An attempt to save a BOM template that is an old "
+               "version was made. Version:"
+            << m_record.version << " Requires: " << CurrentVersion;
+        return false;
+    }
+    BOMTemplateFile file(m_record.filePath);
+    file.setVersion(m_record.version);
+    if (!file.writeXmlFile(toVariantMap())) {
+        const QString text = tr("The BOM template '%1' was not saved.  An unknown error occurred.");
+        showTemplateMessage({tr("BOM Template Save Failed"), text.arg(m_record.name), file.errorString()});
+        return false;
+    }
+    // Removing the empty key would remove every entry of the group.
+    if (m_record.legacySettings && !m_record.name.isEmpty())
+        m_record.legacySettings->remove(m_record.name);
+    return true;
+}
+
+QVariantMap BOMTemplate::toVariantMap() const
+{
+    QVariantMap map;
+    write(BoolEntries, m_record, map);
+    write(IntEntries, m_record, map);
+    write(TextEntries, m_record, map);
+    map.insert(QStringLiteral("categories"), toVariantList(m_record.categories));
+    map.insert(QStringLiteral("fields"), toVariantList(m_record.fields.fields()));
+    return map;
+}
+
+void BOMTemplate::fromVariantMap(const QVariantMap &map)
+{
+    read(BoolEntries, map, m_record);
+    read(IntEntries, map, m_record);
+    read(TextEntries, map, m_record);
+    m_record.categories = categoriesFrom(map.value(QStringLiteral("categories")).toList());
+    m_record.fields = fieldsFrom(map.value(QStringLiteral("fields")).toList());
+    m_record.htmlTemplateFileName =
+        inPrimaryFolder(map.value(QStringLiteral("htmlTemplateFileName")).toString());
+    m_record.version = CurrentVersion;
+}

@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "core/bompartsdatabase.h"
+#include "core/bomstring.h"
+#include "core/reference.h"
+#include "support/fakenetlist.h"
+#include "support/printtext.h"
+
+#include <gtest/gtest.h>
+
+#include <QMap>
+
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Grouping as plainly as it can be said: ordered maps, everything looked up by name.
+using Lines = QMap<BomString, QMap<BomString, QStringList>>;
+
+Lines plainLines(const BOMPartsDatabase &database, const QString &category)
+{
+    const auto rule =
+        database.currentTemplate().caseSensitiveGrouping() ? Qt::CaseSensitive : Qt::CaseInsensitive;
+    QMap<BomString, QStringList> byValue;
+    for (const Part *part : database.parts()) {
+        if (database.categoryOf(part->reference()) == category) {
+            byValue[BomString(part->value(), rule)] << part->reference();
+        }
+    }
+    Lines lines;
+    for (auto it = byValue.cbegin(); it != byValue.cend(); ++it) {
+        for (const QString &reference : it.value()) {
+            const QString key = it.value().size() > 1 ? database.groupingKey(reference) : QString();
+            QStringList &line = lines[it.key()][BomString(key, rule)];
+            line << reference;
+            sortReferences(line);
+        }
+    }
+    return lines;
+}
+
+void expectPlainLines(const BOMPartsDatabase &database, const QString &category)
+{
+    const Lines lines = plainLines(database, category);
+    QStringList values;
+    QList<QPair<QString, int>> summaries;
+    for (auto value = lines.cbegin(); value != lines.cend(); ++value) {
+        values << value.key();
+        EXPECT_EQ(database.groupLines(category, value.key()), value.value().values());
+        for (const QStringList &line : value.value()) {
+            summaries.append({line.first(), int(line.size())});
+        }
+    }
+    EXPECT_EQ(database.categoryValues(category), values);
+    EXPECT_EQ(database.lineSummaries(category), summaries);
+    EXPECT_EQ(database.lineCount(category), int(summaries.size()));
+}
+
+/// Small sets of texts make collisions of every sort likely.
+FakeProperties randomProperties(std::mt19937 &random)
+{
+    static const QByteArrayList texts{"",  "a", "A",        "a,b",      "b", ",",
+                                      "1", "0", "\xc3\xa4", "\xc3\x84", "k", "\xff"};
+    FakeProperties properties;
+    for (const char *name : {"CODE", "COST", "DNP"}) {
+        if (random() % 4 != 0) {
+            properties.append({name, texts.at(int(random() % unsigned(texts.size())))});
+        }
+    }
+    return properties;
+}
+
+void fill(FakeNetlist &netlist, std::mt19937 &random)
+{
+    static const QByteArrayList prefixes{"R", "C", "RN", "r", "U1A", "X", "\xc3\x84"};
+    static const QByteArrayList values{"1k", "1K", "10k", "", "\xc3\xa4", "\xc3\x84", "\xfe", "\xff"};
+    const auto count = unsigned(random() % 200);
+    for (unsigned i = 0; i < count; ++i) {
+        const QByteArray prefix = prefixes.at(int(random() % unsigned(prefixes.size())));
+        netlist.add(prefix + QByteArray::number(uint(random() % 150)),
+                    values.at(int(random() % unsigned(values.size()))), randomProperties(random));
+    }
+}
+
+TEST(GroupingModel, agreesWithThePlainOneOnRandomDesigns)
+{
+    std::mt19937 random(20261);
+    for (int round = 0; round < 60; ++round) {
+        FakeNetlist netlist;
+        fill(netlist, random);
+        BOMTemplate settings;
+        settings.setCaseSensitiveGrouping(round % 2 == 0);
+        BOMFields fields = settings.fields();
+        BOMField fitted;
+        fitted.fieldName = fitted.propertyName = u"DNP"_s;
+        fields.add(fitted);
+        settings.setFields(fields);
+        BOMPartsDatabase database;
+        database.setCurrentTemplate(settings);
+        database.setNetlist(netlist.cache());
+        database.load();
+        qsizetype held = 0;
+        for (const QString &category : database.categoryNames()) {
+            expectPlainLines(database, category);
+            held += database.partCount(category);
+        }
+        EXPECT_EQ(held, qsizetype(database.parts().size()));
+        EXPECT_EQ(held + database.duplicateReferences().size(),
+                  qsizetype(netlist.cache()->components.size()));
+    }
+}
+
+} // namespace

@@ -1,0 +1,267 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/csv/partlist.h"
+#include "designs/csv/partlistreader.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+using designs::Component;
+using designs::MarkedBy;
+using designs::Problem;
+using designs::ReadResult;
+using testing::ElementsAre;
+
+namespace {
+
+class PartListTest : public testing::Test
+{
+protected:
+    QString write(std::string_view bytes)
+    {
+        const QString path = m_folder.filePath(QStringLiteral("list.csv"));
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes.data(), qint64(bytes.size()));
+        return path;
+    }
+
+    ReadResult read(std::string_view bytes) { return designs::readPartList(write(bytes)); }
+
+    static ReadResult readData(const char *name)
+    {
+        return designs::readPartList(QStringLiteral(BOM_SOURCE_DIR "/tests/designs/data/csv/") +
+                                     QLatin1String(name));
+    }
+
+    /// "R1=10k@5 MPN:x Package:y" of every component.
+    static std::vector<std::string> described(const designs::Design &design)
+    {
+        std::vector<std::string> parts;
+        for (const Component &component : design.components()) {
+            std::string text = std::string(component.reference) + '=' + std::string(component.value) + '@' +
+                               std::to_string(component.line);
+            for (const designs::Property &property : component.properties) {
+                text +=
+                    ' ' + std::string(design.names().name(property.name)) + ':' + std::string(property.value);
+            }
+            parts.push_back(text + (component.notFitted == MarkedBy::Property ? " not fitted" : ""));
+        }
+        return parts;
+    }
+
+    static std::vector<std::string> warningsOf(const designs::Design &design)
+    {
+        std::vector<std::string> texts;
+        for (const Problem &warning : design.warnings()) {
+            texts.push_back(std::to_string(warning.line) + ": " + warning.text.toStdString());
+        }
+        return texts;
+    }
+
+    QTemporaryDir m_folder;
+};
+
+TEST_F(PartListTest, ReadsTitleHeadingsAndGroupedRows)
+{
+    const ReadResult result = readData("collated.csv");
+    ASSERT_TRUE(result.design) << result.error.message().toStdString();
+    const std::string rest = " Item:1 Footprint:Capacitor_SMD:C_0603 Description:Ceramic, \"X7R\"\n50 V dnp:";
+    EXPECT_THAT(described(*result.design),
+                ElementsAre("C1=100n@6" + rest, "C2=100n@6" + rest, "C7=100n@6" + rest,
+                            "R1=10k@8 Item:2 Footprint:Resistor_SMD:R_0603 Description: dnp:",
+                            "R2=10k@8 Item:2 Footprint:Resistor_SMD:R_0603 Description: dnp:",
+                            "J1-A=Header@10 Item:3 Footprint: Description: dnp:x not fitted"));
+    EXPECT_THAT(warningsOf(*result.design), ElementsAre());
+}
+
+TEST_F(PartListTest, ReadsWindowsLettersAndSaysSo)
+{
+    const ReadResult result = readData("windows.csv");
+    ASSERT_TRUE(result.design) << result.error.message().toStdString();
+    const std::string rest = " Description:Widerstand; d\u00FCnn Footprint:0603";
+    EXPECT_THAT(described(*result.design), ElementsAre("R1=10k\u00B5@2" + rest, "R2=10k\u00B5@2" + rest));
+    EXPECT_THAT(warningsOf(*result.design), ElementsAre(testing::HasSubstr("Windows-1252")));
+}
+
+TEST_F(PartListTest, TellsAboutTheDesign)
+{
+    const ReadResult result = read("Designator,Comment,Pattern\nR1,10k,0603\n");
+    ASSERT_TRUE(result.design);
+    const designs::Design &design = *result.design;
+    const QFileInfo file(m_folder.filePath(QStringLiteral("list.csv")));
+    EXPECT_EQ(design.info().file, file.absoluteFilePath());
+    EXPECT_EQ(design.info().modified, file.lastModified());
+    EXPECT_EQ(design.files(), QStringList{file.absoluteFilePath()});
+    ASSERT_EQ(design.sheets().size(), 1U);
+    EXPECT_EQ(design.sheets()[0].path, QStringLiteral("/"));
+    EXPECT_EQ(design.names().name(design.names().candidates("PACKAGE").at(0)), "Pattern");
+    EXPECT_EQ(design.names().candidates("VALUE").at(0), design.valueName());
+    EXPECT_EQ(design.stored(design.components()[0], design.valueName()), "10k");
+    EXPECT_EQ(design.stored(design.components()[0], design.referenceName()), "R1");
+}
+
+TEST_F(PartListTest, ChoosesColumnsByTheirHeadings)
+{
+    const struct
+    {
+        std::string_view headings;
+        const char *part;
+    } cases[] = {
+        {"Ref,b,c,d", "R1=@2 b:R2 c:R3 d:R4"},
+        {"b,c,d, ref. des. ", "R4=@2 b:R1 c:R2 d:R3"},
+        {"PART-REFS,Val,QTY,d", "R1=R2@2 d:R4"},
+        {"Comment,Value,Reference Designator(s),Count", "R3=R2@2 Comment:R1"},
+        {"Reference,Designator,b,c", "R2=@2 Reference:R1 b:R3 c:R4"},
+        {"Refs,MPN,mpn,MPN", "R1=@2 MPN:R2 mpn:R3 MPN (2):R4"},
+        {"Refs,MPN,MPN,MPN (2)", "R1=@2 MPN:R2 MPN (3):R3 MPN (2):R4"},
+        {"Refs,,b,", "R1=@2 Column 2:R2 b:R3 Column 4:R4"},
+    };
+    for (const auto &c : cases) {
+        const ReadResult result = read(std::string(c.headings) + "\nR1,R2,R3,R4\n");
+        ASSERT_TRUE(result.design) << c.headings << result.error.message().toStdString();
+        EXPECT_THAT(described(*result.design), ElementsAre(c.part)) << c.headings;
+    }
+}
+
+TEST_F(PartListTest, MarksPartsThatAreNotFitted)
+{
+    const ReadResult result =
+        read("Ref,Dnp\nR1,\nR2,0\nR3,No\nR4, n \nR5,FALSE\nR6,~\nR7,1\nR8,DNP\nR9,yes\nR10\n");
+    ASSERT_TRUE(result.design);
+    std::vector<std::string_view> notFitted;
+    for (const Component &component : result.design->components()) {
+        if (component.notFitted == MarkedBy::Property) {
+            notFitted.push_back(component.reference);
+        }
+    }
+    EXPECT_THAT(notFitted, ElementsAre("R7", "R8", "R9"));
+}
+
+TEST_F(PartListTest, KeepsRepeatedReferencesApart)
+{
+    const ReadResult result = read("Ref,Value\nR1,1k\nR1,2k\n\n  ,\nR2,3k\n");
+    ASSERT_TRUE(result.design);
+    EXPECT_THAT(described(*result.design), ElementsAre("R1=1k@2", "R1=2k@3", "R2=3k@6"));
+    EXPECT_EQ(result.design->symbols().placed, 3);
+}
+
+TEST_F(PartListTest, RefusesWhatWouldLoseSomething)
+{
+    const struct
+    {
+        std::string_view bytes;
+        int line;
+        const char *says;
+    } cases[] = {
+        {"", 0, "file is empty"},
+        {" \n,,\n", 0, "file is empty"},
+        {"\nMPN,Price\nx,1\n", 2,
+         "no reference column: call one Reference, Designator or RefDes (the headings here are "
+         "\"MPN\", \"Price\")"},
+        {"Ref,Value\nR1,1k\n,2k\n", 3, "the row (\"2k\" …) has no reference"},
+        {"Ref,Value\nR1,1k\nTotal: 5\n - ,2\n", 4, "is no reference"},
+        {"Ref,Value\nR1,1k\nR2,\"a\nb\"\nR3,1,5\n", 5, "3 cells, but there are 2 headings"},
+        {"Ref,Value\nR5-R2,1k\n", 2, "runs backwards"},
+        {"Ref,Value\n\"R1,1k\n", 2, "never closed"},
+        {"Ref,Value,VALUE\nR1,1,2\n", 1, "2 \"Value\" and 3 \"VALUE\" have the same meaning"},
+        {"Ref,Value,ref\nR1,1,2\n", 1, "have the same meaning"},
+    };
+    for (const auto &c : cases) {
+        const ReadResult result = read(c.bytes);
+        EXPECT_FALSE(result.design) << c.bytes;
+        EXPECT_EQ(result.error.line, c.line) << c.bytes;
+        EXPECT_EQ(result.error.file, m_folder.filePath(QStringLiteral("list.csv")));
+        EXPECT_TRUE(result.error.text.contains(QString::fromUtf8(c.says))) << result.error.text.toStdString();
+    }
+}
+
+TEST_F(PartListTest, RefusesVariantsAndTooManyParts)
+{
+    const QString path = write("Ref,Value\nR1,1k\n");
+    const ReadResult variant = designs::readPartList(path, {QStringLiteral("lite")});
+    EXPECT_FALSE(variant.design);
+    EXPECT_TRUE(variant.error.text.contains(QStringLiteral("no variants")))
+        << variant.error.text.toStdString();
+
+    std::string many = "Ref,Value\n";
+    for (int row = 0; row < 21; ++row) {
+        many += "R1-R100000,1k\n";
+    }
+    const ReadResult large = read(many);
+    EXPECT_FALSE(large.design);
+    EXPECT_EQ(large.error.line, 22);
+}
+
+TEST_F(PartListTest, WarnsAndGoesOn)
+{
+    const ReadResult result = read("Ref,Qty,Value\nR1-R2,3,1k\nR3\nR4,1.0,,,\nR5,two,x\nR6,\"1\n\",x\n");
+    ASSERT_TRUE(result.design) << result.error.message().toStdString();
+    EXPECT_THAT(
+        warningsOf(*result.design),
+        ElementsAre("2: the quantity is \"3\", but the row names 2 reference(s): the references count",
+                    "3: the row has only 1 of 3 cells: the others are read as empty",
+                    "5: the quantity is \"two\", but the row names 1 reference(s): the references count"));
+    EXPECT_EQ(result.design->warnings()[0].file, m_folder.filePath(QStringLiteral("list.csv")));
+}
+
+TEST_F(PartListTest, SumsUpEqualWarnings)
+{
+    std::string bytes = "Ref,Value\n";
+    for (int row = 1; row <= 50; ++row) {
+        bytes += 'R' + std::to_string(row) + '\n';
+    }
+    const ReadResult result = read(bytes);
+    ASSERT_TRUE(result.design);
+    ASSERT_EQ(result.design->warnings().size(), 21U);
+    EXPECT_EQ(warningsOf(*result.design).back().substr(0, 16), "51: 30 more rows");
+}
+
+TEST_F(PartListTest, WarnsWhenNoPartFollowsOrTwoColumnsNameReferences)
+{
+    const ReadResult result = read("Ref,Designator\n");
+    ASSERT_TRUE(result.design);
+    EXPECT_THAT(warningsOf(*result.design), ElementsAre(testing::HasSubstr("2 \"Designator\" and 1 \"Ref\""),
+                                                        testing::HasSubstr("no part follows")));
+}
+
+TEST_F(PartListTest, CountsReferencesAnew)
+{
+    const std::string_view lists[] = {
+        "Ref,Value\nR1,1k\n",
+        "Title\n\n Ref ;Value\r\n\"R1,R2\r\nR3\";\"a;\"\"b\"\"\"\r\nR4-R9;5\"\" x\r\n\r\nR10;\"\"\r\n",
+        "\xEF\xBB\xBF\"Value\",\"Refs\"\r\"x\",\"C17/18/19 C20/C21, D1/3-5\"\r",
+        "Ref;V\nR1 - R3, R5- R6 R8 -9;\nR1,2,5-7;\nR08-R11, "
+        "R7-R7;\nU1A2-U1A4;\nX1-2;\nR1\u2013R3\u3001R5\u00A0R6;\n",
+        "Ref|V\nJ1-A TP-1 TP-1-2|\nJ4-1, 5-8|\nX1-02 J1-1|\nU1/A CH1/R5 R? J?-2|\n12, 1-4 1.5-2|\nR1.5-8 +5V "
+        "V- #PWR01|\n",
+        "Ref\tV\nR1\x96R4\t\n C2\xA0 C3 \t\n",
+        "Value,Ref\n5\"\" cable,W1\n \"x\" , \"W2 W3\" \n",
+    };
+    for (const std::string_view bytes : lists) {
+        const ReadResult result = read(bytes);
+        ASSERT_TRUE(result.design) << bytes << result.error.message().toStdString();
+        Problem error;
+        EXPECT_EQ(result.design->recount(&error).placed, qsizetype(result.design->components().size()))
+            << bytes;
+        EXPECT_TRUE(error.text.isEmpty());
+    }
+}
+
+TEST_F(PartListTest, CountsTheFileAsItIsNow)
+{
+    const ReadResult result = read("Ref,Value\nR1,1k\n");
+    ASSERT_TRUE(result.design);
+    Problem error;
+    write("Ref,Value\nR1-R500000000,1k\n");
+    EXPECT_EQ(result.design->recount(&error).placed, 500000000);
+    QFile::remove(m_folder.filePath(QStringLiteral("list.csv")));
+    EXPECT_EQ(result.design->recount(&error).placed, 0);
+    EXPECT_FALSE(error.text.isEmpty());
+}
+
+} // namespace

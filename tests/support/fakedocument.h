@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/framework/applndocument.h"
+
+#include <QHash>
+
+/// A document with what a test puts into it.
+class FakeDocument final : public APPLNDOCUMENT
+{
+public:
+    QHash<QByteArray, QString> info;
+    QHash<QByteArray, QByteArray> properties;
+    QHash<QByteArray, QString> attachments;
+    char kind = 's';
+    QByteArray type = "DSN";
+
+    QString getinfo(const char *key) const override { return info.value(key); }
+    QByteArray getproperty(const char *name) const override { return properties.value(name); }
+    char kindcode() const override { return kind; }
+    bool isdoctype(const char *asked) const override { return type == asked; }
+    QString readattachment(const char *name) const override { return attachments.value(name); }
+};

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/framework/applnprocess.h"
+#include "support/fakedocument.h"
+
+/// A host process, installed while it lives, with one design document unless `hasDesign` is cleared.
+class FakeProcess final : public APPLNPROCESS
+{
+public:
+    FakeProcess() { setapplnprocess(this); }
+    ~FakeProcess() override { setapplnprocess(nullptr); }
+
+    mutable FakeDocument design;
+    bool hasDesign = true;
+    QString binPath = QStringLiteral("/opt/host/bin");
+    QString dataPath;
+
+    APPLNDOCUMENT *currentdocument(int kind, const char *name) const override
+    {
+        return hasDesign && kind == DOCUMENT_KIND_DESIGN && !name ? &design : nullptr;
+    }
+    QString getbinpath() const override { return binPath; }
+    QString getdatapath(const char *application) const override
+    {
+        return QByteArrayView(application) == "BOM" ? dataPath : QString();
+    }
+    IMODULE *getmoduleinterface(const char *, unsigned) override { return nullptr; }
+};

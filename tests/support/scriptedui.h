@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/framework/hostui.h"
+
+#include <QList>
+#include <QStringList>
+#include <QUrl>
+
+/// Installed while it lives: answers as the test says and records what it was asked.
+class ScriptedUi final : public HostUi
+{
+public:
+    struct Message
+    {
+        QString title;
+        QString text;
+
+        bool operator==(const Message &) const = default;
+    };
+    struct FileRequest
+    {
+        QString caption;
+        QString path;
+        QString filter;
+
+        bool operator==(const FileRequest &) const = default;
+    };
+
+    ScriptedUi() { install(this); }
+    ~ScriptedUi() override { install(nullptr); }
+
+    /// The answers; an empty file name is a cancelled dialog.
+    bool answer = false;
+    QString fileName;
+    bool opensUrls = true;
+    QDateTime clock = QDateTime(QDate(2026, 1, 2), QTime(3, 4, 5), Qt::UTC);
+    QLocale numberFormat = QLocale::c();
+
+    /// What was asked.
+    QList<Message> informations;
+    QList<Message> warnings;
+    QList<Message> questions;
+    QList<FileRequest> fileRequests;
+    QList<QUrl> openedUrls;
+
+    void information(QWidget *, const QString &title, const QString &text) override
+    {
+        informations.append({title, text});
+    }
+    void warning(QWidget *, const QString &title, const QString &text) override
+    {
+        warnings.append({title, text});
+    }
+    bool question(QWidget *, const QString &title, const QString &text, bool) override
+    {
+        questions.append({title, text});
+        return answer;
+    }
+    QString saveFileName(QWidget *, const QString &caption, const QString &path,
+                         const QString &filter) override
+    {
+        fileRequests.append({caption, path, filter});
+        return fileName;
+    }
+    QString openFileName(QWidget *, const QString &caption, const QString &path,
+                         const QString &filter) override
+    {
+        fileRequests.append({caption, path, filter});
+        return fileName;
+    }
+    bool openUrl(const QUrl &url) override
+    {
+        openedUrls.append(url);
+        return opensUrls;
+    }
+    QDateTime now() const override { return clock; }
+    QLocale locale() const override { return numberFormat; }
+};
