@@ -14,6 +14,8 @@
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -64,9 +66,24 @@ void addBomParts(const BOMPartsDatabase &database, QList<ListedPart> *parts)
 
 void sortByReference(QList<ListedPart> *parts)
 {
-    std::stable_sort(parts->begin(), parts->end(), [](const ListedPart &a, const ListedPart &b) {
-        return compareReferences(a.reference, b.reference) < 0;
-    });
+    struct Entry
+    {
+        SplitReference key;
+        qsizetype index = 0;
+    };
+    std::vector<Entry> order;
+    order.reserve(std::size_t(parts->size()));
+    for (const ListedPart &part : std::as_const(*parts)) {
+        order.push_back({splitReference(part.reference), qsizetype(order.size())});
+    }
+    std::stable_sort(order.begin(), order.end(),
+                     [](const Entry &a, const Entry &b) { return compareReferences(a.key, b.key) < 0; });
+    QList<ListedPart> sorted;
+    sorted.reserve(parts->size());
+    for (const Entry &entry : order) {
+        sorted.append(std::move((*parts)[entry.index]));
+    }
+    *parts = std::move(sorted);
 }
 
 } // namespace
@@ -81,12 +98,12 @@ PartsListing listParts(OpenDesign &design)
         ListedPart part = listed(*component, design.database());
         part.reason = ledger.skipReason(index++);
         if (!part.reason.isEmpty()) {
-            listing.skipped.append(part);
+            listing.skipped.append(std::move(part));
         } else if (held.contains(part.reference)) {
-            listing.duplicates.append(part);
+            listing.duplicates.append(std::move(part));
         } else {
             held.insert(part.reference);
-            listing.parts.append(part);
+            listing.parts.append(std::move(part));
         }
     }
     addBomParts(design.database(), &listing.parts);

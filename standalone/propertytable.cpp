@@ -142,6 +142,8 @@ const PropertyTable::Lookup &PropertyTable::lookup(const QByteArray &name) const
     }
     Lookup made;
     made.candidates = m_design.names().candidates(key);
+    made.isPlain = !contains(made.candidates, m_design.valueName()) &&
+                   !contains(made.candidates, m_design.referenceName());
     if (name.compare(skipName, Qt::CaseInsensitive) == 0) {
         made.meaning = Meaning::Skip;
     } else if (name.compare(notFittedName, Qt::CaseInsensitive) == 0) {
@@ -154,7 +156,9 @@ std::optional<QByteArrayView> PropertyTable::stored(const designs::Component &co
                                                     const Lookup &lookup) const
 {
     for (const designs::NameId id : lookup.candidates) {
-        if (const auto value = m_design.stored(component, id)) {
+        // The value and the reference stand beside the properties, not among them.
+        const auto value = lookup.isPlain ? component.stored(id) : m_design.stored(component, id);
+        if (value) {
             return view(*value);
         }
     }

@@ -51,6 +51,8 @@ private:
     {
         std::vector<designs::NameId> candidates;
         Meaning meaning = Meaning::Stored;
+        /// None of the candidates is the reference or the value.
+        bool isPlain = true;
     };
 
     [[nodiscard]] const Lookup &lookup(const PROPNAME &name) const;
