@@ -36,8 +36,9 @@ struct Component
     std::string_view name;
     /// All properties but the reference and the value, in file order; names occur once.
     std::span<const Property> properties;
-    /// The file it stands in and the line of its symbol or row, for messages: index into Design::files().
+    /// The file it stands in: index into Design::files().
     quint32 file = 0;
+    /// The line of its row, where the reader counts lines; Design::lineOf() tells it for every format.
     quint32 line = 0;
     /// The sheet instance that holds it: index into Design::sheets(); 0 is the root.
     quint32 sheet = 0;

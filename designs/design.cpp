@@ -19,6 +19,11 @@ SymbolCount Design::recount(Problem *) const
     return count;
 }
 
+int Design::lineOf(const Component &component) const
+{
+    return int(component.line);
+}
+
 std::optional<std::string_view> Design::stored(const Component &component, NameId id) const
 {
     if (id == m_valueName) {

@@ -84,6 +84,10 @@ public:
     /// when a file cannot be read any more. The default counts components.
     [[nodiscard]] virtual SymbolCount recount(Problem *error) const;
 
+    /// The line of a component's symbol or row in its file, counted from 1; 0 when it cannot be told any
+    /// more.
+    [[nodiscard]] virtual int lineOf(const Component &component) const;
+
     /// The name numbers of the reference, the value and the footprint as the format stores them.
     [[nodiscard]] NameId referenceName() const { return m_referenceName; }
     [[nodiscard]] NameId valueName() const { return m_valueName; }

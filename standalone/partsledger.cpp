@@ -212,5 +212,6 @@ QString PartsLedger::sheetPath(quint32 sheet) const
 QString PartsLedger::place(const Component &component) const
 {
     const QString file = m_design.design().files().value(qsizetype(component.file));
-    return component.line > 0 ? file + u':' + QString::number(component.line) : file;
+    const int line = m_design.design().lineOf(component);
+    return line > 0 ? file + u':' + QString::number(line) : file;
 }

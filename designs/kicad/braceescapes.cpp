@@ -48,6 +48,16 @@ bool startsMarkup(char before)
 
 } // namespace
 
+bool holdsVariable(std::string_view text)
+{
+    for (std::size_t at = text.find('{'); at != std::string_view::npos; at = text.find('{', at + 1)) {
+        if (at > 0 && (text[at - 1] == '$' || text[at - 1] == '@')) {
+            return true;
+        }
+    }
+    return false;
+}
+
 std::string resolveBraceEscapes(std::string_view text)
 {
     std::string result;

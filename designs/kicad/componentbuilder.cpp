@@ -48,8 +48,9 @@ void replaceOrAdd(std::vector<Property> *properties, const Property &property)
 } // namespace
 
 ComponentBuilder::ComponentBuilder(const Hierarchy &hierarchy, std::string variant, TextArena *arena,
-                                   PropertyNames *names)
+                                   PropertyNames *names, LineNumbers *lines)
     : m_hierarchy(hierarchy)
+    , m_lines(lines)
     , m_variant(std::move(variant))
     , m_arena(arena)
     , m_names(names)
@@ -67,6 +68,7 @@ void ComponentBuilder::build()
         addUse(use);
     }
     finishGroups();
+    warnAboutLibraries();
 }
 
 const VariantRecord *ComponentBuilder::variantOf(const InstanceRecord *record) const
@@ -136,8 +138,18 @@ void ComponentBuilder::addUse(quint32 use)
     const SheetFile &file = m_hierarchy.files()[sheet.file];
     const std::optional<quint32> path = file.pathNumber(sheet.uuidPath);
     count.placed += qsizetype(file.symbols.size());
+    quint32 first = 0;
+    qsizetype without = 0;
     for (quint32 symbol = 0; symbol < file.symbols.size(); ++symbol) {
+        m_hasInstance = true;
+        const qsizetype power = count.power;
         addSymbol(use, symbol, path);
+        if (!m_hasInstance && power == count.power && without++ == 0) {
+            first = symbol;
+        }
+    }
+    if (without > 0) {
+        warnAboutInstances(use, first, without);
     }
 }
 
@@ -170,6 +182,7 @@ ComponentBuilder::Instance ComponentBuilder::instanceOf(quint32 use, const Place
     if (const TableInstance *entry = tableEntry(use, symbol)) {
         return {entry->reference, entry->value, entry->footprint, entry->unit, nullptr};
     }
+    m_hasInstance = false;
     return {symbol.reference, {}, {}, symbol.unit, nullptr};
 }
 
@@ -184,13 +197,10 @@ void ComponentBuilder::addSymbol(quint32 use, quint32 symbol, std::optional<quin
         return;
     }
     const Component component = makeComponent(use, placed, instance);
-    if (!library) {
-        warn(component,
-             QStringLiteral("the symbol ") + toText(placed.libId) +
-                 QStringLiteral(" is missing in the sheet's library cache; KiCad leaves the part out "
-                                "of its own lists, here it counts"));
-    }
     const SymbolUse place{use, symbol, instance.unit};
+    if (!library) {
+        noteMissingLibrary(component, place, placed.libId);
+    }
     const bool severalUnits = !library || library->units > 1;
     if (severalUnits && joinGroup(component, place, placed.libId)) {
         return;
@@ -368,15 +378,49 @@ void ComponentBuilder::warnAboutUnits(const Group &group, const Component &joine
     }
     differing.removeDuplicates();
     if (!differing.isEmpty()) {
-        warn(first, QStringLiteral("its units differ in ") + differing.join(QStringLiteral(", ")) +
-                        QStringLiteral("; the lowest unit that says something counts"));
+        warn(group.members.front().first, toText(first.reference) + QStringLiteral(": its units differ in ") +
+                                              differing.join(QStringLiteral(", ")) +
+                                              QStringLiteral("; the lowest unit that says something counts"));
     }
 }
 
-void ComponentBuilder::warn(const Component &component, const QString &text)
+void ComponentBuilder::noteMissingLibrary(const Component &component, const SymbolUse &place,
+                                          std::string_view libId)
 {
-    const QString &file = m_hierarchy.files()[component.file].path;
-    warnings.push_back({file, 0, toText(component.reference) + QStringLiteral(": ") + text});
+    MissingLibrary &missing = m_missing[{component.file, libId}];
+    if (missing.count++ == 0) {
+        missing.first = place;
+        missing.libId = libId;
+        missing.reference = component.reference;
+    }
+}
+
+void ComponentBuilder::warnAboutLibraries()
+{
+    for (const auto &[key, missing] : m_missing) {
+        const QString others =
+            missing.count > 1 ? QStringLiteral(" and %1 more").arg(missing.count - 1) : QString();
+        warn(missing.first,
+             toText(missing.reference) + others + QStringLiteral(": the symbol ") + toText(missing.libId) +
+                 QStringLiteral(" is missing in the sheet's library cache; KiCad leaves such parts "
+                                "out of its own lists, here they count"));
+    }
+}
+
+void ComponentBuilder::warnAboutInstances(quint32 use, quint32 first, qsizetype count)
+{
+    warn({use, first, 1},
+         QStringLiteral("sheet ") + m_hierarchy.uses()[use].namePath +
+             QStringLiteral(
+                 ": %1 of its symbols have no record for this use of the sheet; the references stored in "
+                 "the symbols themselves count")
+                 .arg(count));
+}
+
+void ComponentBuilder::warn(const SymbolUse &place, const QString &text)
+{
+    const SheetFile &file = m_hierarchy.files()[m_hierarchy.uses()[place.use].file];
+    warnings.push_back({file.path, m_lines->line(file.path, file.symbols[place.symbol].offset), text});
 }
 
 } // namespace designs::kicad

@@ -4,9 +4,11 @@
 
 #include "designs/design.h"
 #include "designs/kicad/hierarchy.h"
+#include "designs/linenumbers.h"
 
 #include <QStringList>
 
+#include <map>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -27,7 +29,8 @@ struct SymbolUse
 class ComponentBuilder
 {
 public:
-    ComponentBuilder(const Hierarchy &hierarchy, std::string variant, TextArena *arena, PropertyNames *names);
+    ComponentBuilder(const Hierarchy &hierarchy, std::string variant, TextArena *arena, PropertyNames *names,
+                     LineNumbers *lines);
 
     void build();
 
@@ -81,9 +84,24 @@ private:
     void finishGroup(Group *group);
     [[nodiscard]] QStringList joinProperties(const Group &group, Component *joined);
     void warnAboutUnits(const Group &group, const Component &joined, QStringList differing);
-    void warn(const Component &component, const QString &text);
+    void noteMissingLibrary(const Component &component, const SymbolUse &place, std::string_view libId);
+    void warnAboutLibraries();
+    void warnAboutInstances(quint32 use, quint32 first, qsizetype count);
+    void warn(const SymbolUse &place, const QString &text);
+
+    /// Parts whose symbol is missing in a file's library cache.
+    struct MissingLibrary
+    {
+        SymbolUse first;
+        std::string_view libId;
+        std::string_view reference;
+        qsizetype count = 0;
+    };
 
     const Hierarchy &m_hierarchy;
+    LineNumbers *m_lines;
+    std::map<std::pair<quint32, std::string_view>, MissingLibrary> m_missing;
+    bool m_hasInstance = true;
     std::string m_variant;
     TextArena *m_arena;
     PropertyNames *m_names;

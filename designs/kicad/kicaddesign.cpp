@@ -55,7 +55,7 @@ bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem 
         return false;
     }
     collectSheets();
-    ComponentBuilder builder(*m_hierarchy, options.variant.toStdString(), &m_arena, &m_names);
+    ComponentBuilder builder(*m_hierarchy, options.variant.toStdString(), &m_arena, &m_names, &m_lines);
     builder.build();
     m_components = std::move(builder.components);
     m_symbolUses = std::move(builder.symbols);
@@ -93,7 +93,10 @@ bool KicadDesign::findProject(const QString &path, Problem *problem)
     }
     for (const auto &sheet : m_project.topLevelSheets) {
         const QString file = QFileInfo(projectPath).absoluteDir().absoluteFilePath(sheet.fileName);
-        m_roots.emplace_back(QDir::cleanPath(file), sheet.uuid);
+        const std::pair root(QDir::cleanPath(file), sheet.uuid);
+        if (std::find(m_roots.begin(), m_roots.end(), root) == m_roots.end()) {
+            m_roots.push_back(root);
+        }
     }
     const bool listed = std::any_of(m_roots.begin(), m_roots.end(), [&](const auto &root) {
         return isProject || QFileInfo(root.first) == QFileInfo(rootPath);
@@ -186,6 +189,13 @@ Side KicadDesign::placement(std::string_view reference) const
     }
     const auto found = m_sides.find(std::string(reference));
     return found == m_sides.end() ? Side::NotPlaced : found->second;
+}
+
+int KicadDesign::lineOf(const Component &component) const
+{
+    const SymbolUse &place = m_symbolUses[component.origin];
+    const SheetFile &file = m_hierarchy->files()[m_hierarchy->uses()[place.use].file];
+    return m_lines.line(file.path, file.symbols[place.symbol].offset);
 }
 
 SymbolCount KicadDesign::recount(Problem *error) const

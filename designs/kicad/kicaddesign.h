@@ -7,6 +7,7 @@
 #include "designs/kicad/componentbuilder.h"
 #include "designs/kicad/hierarchy.h"
 #include "designs/kicad/projectfile.h"
+#include "designs/linenumbers.h"
 
 #include <memory>
 
@@ -23,6 +24,7 @@ public:
 
     [[nodiscard]] Side placement(std::string_view reference) const override;
     [[nodiscard]] SymbolCount recount(Problem *error) const override;
+    [[nodiscard]] int lineOf(const Component &component) const override;
 
 private:
     bool findProject(const QString &path, Problem *problem);
@@ -37,6 +39,7 @@ private:
     std::vector<std::pair<QString, QString>> m_roots;
     std::unique_ptr<Hierarchy> m_hierarchy;
     std::vector<SymbolUse> m_symbolUses;
+    mutable LineNumbers m_lines{"(kicad_sch"};
     mutable bool m_boardRead = false;
     mutable BoardSides m_sides;
 };

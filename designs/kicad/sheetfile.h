@@ -17,9 +17,8 @@ namespace designs::kicad {
 
 /// Format versions (dates) at which something changed in schematic files.
 namespace version {
-constexpr int instancesInSymbols = 20221002;
-constexpr int dnpFlag = 20220914;
 constexpr int tildeIsText = 20250318;
+constexpr int variableEscape = 20260101;
 constexpr int ruleAreaFlags = 20250610;
 constexpr int variantInBomCorrected = 20260306;
 } // namespace version

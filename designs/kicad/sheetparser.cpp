@@ -6,27 +6,34 @@
 #include "designs/utf8.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 
 namespace designs::kicad {
 
 namespace {
 
-bool holdsVariable(std::string_view text)
-{
-    for (std::size_t at = text.find('{'); at != std::string_view::npos; at = text.find('{', at + 1)) {
-        if (at > 0 && (text[at - 1] == '$' || text[at - 1] == '@')) {
-            return true;
-        }
-    }
-    return false;
-}
-
 int leadingInt(std::string_view text, int otherwise)
 {
     int number = otherwise;
     std::from_chars(text.data(), text.data() + text.size(), number);
     return number;
+}
+
+bool sameAscii(std::string_view a, std::string_view b)
+{
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c; };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [&lower](char x, char y) { return lower(x) == lower(y); });
+}
+
+/// The fields that every symbol has are known whatever their letter case.
+std::string_view mandatoryName(std::string_view name)
+{
+    static constexpr std::array<std::string_view, 4> known{"Reference", "Value", "Footprint", "Datasheet"};
+    const auto found = std::find_if(known.begin(), known.end(),
+                                    [name](std::string_view other) { return sameAscii(name, other); });
+    return found == known.end() ? name : *found;
 }
 
 /// The unit of a library symbol's part "NAME_UNIT_STYLE"; 0 for what all units share.
@@ -69,33 +76,6 @@ bool SheetParser::limitProperties(std::size_t count)
 {
     return count <= maximumProperties ||
            refuse(QStringLiteral("a symbol has more than %1 properties").arg(maximumProperties));
-}
-
-/// Calls `onList` for each list inside the current one, to its end. `onList` returns true when it has read
-/// its list to the end; otherwise the rest of that list is skipped.
-template<class OnList>
-bool SheetParser::readChildren(OnList &&onList)
-{
-    for (;;) {
-        switch (m_scanner.next()) {
-        case SexprScanner::Token::Open:
-            if (!onList(m_scanner.keyword()) && !m_scanner.skipList()) {
-                return false;
-            }
-            if (m_scanner.failed() || !m_refusal.isEmpty()) {
-                return false;
-            }
-            break;
-        case SexprScanner::Token::Text:
-            break;
-        case SexprScanner::Token::Close:
-            return true;
-        case SexprScanner::Token::End:
-            return refuse(QStringLiteral("the file ends inside a list: it is cut off or a \")\" is missing"));
-        case SexprScanner::Token::Error:
-            return false;
-        }
-    }
 }
 
 bool SheetParser::parse()
@@ -245,7 +225,7 @@ SheetParser::PropertyText SheetParser::readProperty()
 
 void SheetParser::addSymbolProperty(PlacedSymbol *symbol, std::vector<Property> *properties)
 {
-    const std::string_view name = readProperty().name;
+    const std::string_view name = mandatoryName(readProperty().name);
     if (name == "Reference") {
         symbol->reference = takeValue();
         return;
@@ -361,114 +341,6 @@ bool SheetParser::readOutline(std::vector<Point> *outline)
     });
 }
 
-bool SheetParser::readInstanceTable()
-{
-    return readChildren([this](std::string_view keyword) {
-        if (keyword != "path") {
-            return false;
-        }
-        TableInstance entry;
-        entry.path = takeKept();
-        const bool complete = readChildren([this, &entry](std::string_view inner) {
-            if (inner == "reference") {
-                entry.reference = takeValue();
-            } else if (inner == "unit") {
-                entry.unit = takeInt(1);
-            } else if (inner == "value") {
-                entry.value = takeValue();
-            } else if (inner == "footprint") {
-                entry.footprint = takeValue();
-            }
-            return false;
-        });
-        m_sheet->instanceTable.push_back(entry);
-        return complete;
-    });
-}
-
-bool SheetParser::readInstances(std::span<const InstanceRecord> *records)
-{
-    m_instances.clear();
-    const bool complete = readChildren(
-        [this](std::string_view keyword) { return keyword == "project" && readProject(&m_instances); });
-    // Sorted, so that one is found quickly; of several for the same path the first counts.
-    std::stable_sort(m_instances.begin(), m_instances.end(),
-                     [](const InstanceRecord &a, const InstanceRecord &b) { return a.path < b.path; });
-    *records = m_arena->copy(std::span<const InstanceRecord>(m_instances));
-    return complete;
-}
-
-bool SheetParser::readProject(std::vector<InstanceRecord> *records)
-{
-    return readChildren([this, records](std::string_view keyword) {
-        if (keyword != "path") {
-            return false;
-        }
-        InstanceRecord record;
-        const bool complete = readInstance(&record);
-        records->push_back(record);
-        return complete;
-    });
-}
-
-bool SheetParser::readInstance(InstanceRecord *record)
-{
-    record->path = m_scanner.takeText() ? pathNumber(m_scanner.text()) : pathNumber({});
-    std::vector<VariantRecord> variants;
-    const bool complete = readChildren([this, record, &variants](std::string_view keyword) {
-        if (keyword == "reference") {
-            record->reference = takeValue();
-        } else if (keyword == "unit") {
-            record->unit = takeInt(1);
-        } else if (keyword == "page") {
-            record->page = takeKept();
-        } else if (keyword == "variant") {
-            return readVariant(&variants);
-        }
-        return false;
-    });
-    record->variants = m_arena->copy(std::span<const VariantRecord>(variants));
-    return complete;
-}
-
-bool SheetParser::readVariant(std::vector<VariantRecord> *variants)
-{
-    VariantRecord variant;
-    std::vector<Property> fields;
-    const bool complete = readChildren([this, &variant, &fields](std::string_view keyword) {
-        if (keyword == "name") {
-            variant.name = takeKept();
-        } else if (keyword == "dnp") {
-            variant.dnp = takeFlag();
-        } else if (keyword == "in_bom") {
-            const bool flag = takeFlag();
-            variant.inBom = m_sheet->formatVersion < version::variantInBomCorrected ? !flag : flag;
-        } else if (keyword == "field") {
-            return readVariantField(&fields);
-        }
-        return false;
-    });
-    variant.fields = m_arena->copy(std::span<const Property>(fields));
-    variants->push_back(variant);
-    return complete;
-}
-
-bool SheetParser::readVariantField(std::vector<Property> *fields)
-{
-    Property field;
-    const bool complete = readChildren([this, &field](std::string_view keyword) {
-        if (keyword == "name") {
-            field.name = m_names->intern(m_scanner.takeText() ? m_scanner.text() : std::string_view());
-        } else if (keyword == "value") {
-            field.value = takeValue();
-            m_variantHasVariables |= holdsVariable(field.value);
-        }
-        return false;
-    });
-    fields->push_back(field);
-    return complete && limitProperties(fields->size());
-}
-
 std::string_view SheetParser::takeKept()
 {
     return m_scanner.takeText() ? keep(m_scanner.text()) : std::string_view();
@@ -521,20 +393,6 @@ Point SheetParser::takePoint()
         }
     }
     return point;
-}
-
-quint32 SheetParser::pathNumber(std::string_view path)
-{
-    if (path == m_lastPath && !m_sheet->paths.empty()) {
-        return m_lastPathNumber;
-    }
-    auto found = m_sheet->paths.find(path);
-    if (found == m_sheet->paths.end()) {
-        found = m_sheet->paths.emplace(m_arena->copy(path), quint32(m_sheet->paths.size())).first;
-    }
-    m_lastPath = found->first;
-    m_lastPathNumber = found->second;
-    return found->second;
 }
 
 } // namespace designs::kicad

@@ -85,4 +85,31 @@ private:
     std::size_t m_corners = 0;
 };
 
+/// Calls `onList` for each list inside the current one, to its end. `onList` returns true when it has read
+/// its list to the end; otherwise the rest of that list is skipped.
+template<class OnList>
+bool SheetParser::readChildren(OnList &&onList)
+{
+    for (;;) {
+        switch (m_scanner.next()) {
+        case SexprScanner::Token::Open:
+            if (!onList(m_scanner.keyword()) && !m_scanner.skipList()) {
+                return false;
+            }
+            if (m_scanner.failed() || !m_refusal.isEmpty()) {
+                return false;
+            }
+            break;
+        case SexprScanner::Token::Text:
+            break;
+        case SexprScanner::Token::Close:
+            return true;
+        case SexprScanner::Token::End:
+            return refuse(QStringLiteral("the file ends inside a list: it is cut off or a \")\" is missing"));
+        case SexprScanner::Token::Error:
+            return false;
+        }
+    }
+}
+
 } // namespace designs::kicad

@@ -123,9 +123,11 @@ std::string TextVariables::expand(std::string_view text, const Context &context,
         return std::string(text);
     }
     const std::vector<std::size_t> closing = closingBraces(text);
+    const quint32 file = m_hierarchy.uses()[context.component ? context.use : 0].file;
+    const bool knowsEscape = m_hierarchy.files()[file].formatVersion >= version::variableEscape;
     std::string result;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool escaped = text[i] == '\\' && text.substr(i + 1).starts_with("${");
+        const bool escaped = knowsEscape && text[i] == '\\' && text.substr(i + 1).starts_with("${");
         const std::size_t open = escaped ? i + 2 : i + 1;
         const bool variableStart = escaped || text.substr(i).starts_with("${");
         const std::size_t close = variableStart ? closing[open] : std::string_view::npos;

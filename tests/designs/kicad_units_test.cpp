@@ -42,7 +42,7 @@ TEST(KicadUnits, OfOneReferenceAreOnePart)
     EXPECT_EQ(part(*read, "U1").units, 3u);
     EXPECT_EQ(part(*read, "U2").units, 1u);
     EXPECT_EQ(read->symbols().mergedUnits, 2);
-    EXPECT_EQ(warnings(*read), "");
+    EXPECT_FALSE(QString::fromStdString(warnings(*read)).contains(QLatin1String("differ")));
 }
 
 TEST(KicadUnits, AreJoinedAcrossSheets)

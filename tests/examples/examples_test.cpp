@@ -103,7 +103,7 @@ TEST_P(Examples, ReportsAreTheStoredOnes)
     const QString csv = folder.filePath(QStringLiteral("report.csv"));
     const QString full = folder.filePath(QStringLiteral("report-full.csv"));
     const Outcome run = runBom({QStringLiteral("report"), design(), QStringLiteral("--csv"), csv,
-                            QStringLiteral("--full-csv"), full});
+                                QStringLiteral("--full-csv"), full});
     ASSERT_EQ(run.status, 0) << run.err.constData();
     EXPECT_EQ(contentOf(csv), contentOf(expected("report.csv")));
     EXPECT_EQ(contentOf(full), contentOf(expected("report-full.csv")));
