@@ -36,6 +36,7 @@ public:
                 ++m_at;
                 startCell();
             } else if (c == '"' && (m_atStart || (m_cellQuoted && before == '"'))) {
+                collect(c, m_cellQuoted);
                 m_quoted = true;
                 m_cellQuoted = true;
                 m_atStart = false;
@@ -106,13 +107,16 @@ private:
         for (const QString &piece : pieces) {
             const QRegularExpressionMatch match = m_piece.match(piece);
             const QString own = match.captured(1);
-            const bool fits = match.hasMatch() && (!own.isEmpty() || !common.isEmpty()) &&
-                              (sum == 0 || own.isEmpty() || own == common);
+            const QString first = own.isEmpty() ? common : own;
+            const QString last = match.captured(3);
+            const bool fits = match.hasMatch() && !first.isEmpty() &&
+                              (sum == 0 || own.isEmpty() || own == common) &&
+                              (last.isEmpty() || last == first);
             if (!fits) {
                 prefix->clear();
                 return 1;
             }
-            common = isName(match) ? QString() : own.isEmpty() ? common : own;
+            common = isName(match) ? QString() : first;
             sum += isName(match) ? 1 : numbersIn(match);
         }
         *prefix = common;
@@ -127,20 +131,21 @@ private:
         return !last.isEmpty() && match.captured(3).isEmpty() && (numbersIn(match) < 2 || oddZeros);
     }
 
+    /// At most a billion and one, so that no sum of them overflows.
     static qsizetype numbersIn(const QRegularExpressionMatch &match)
     {
-        return match.hasCaptured(4)
-                   ? qsizetype(match.captured(4).toLongLong() - match.captured(2).toLongLong()) + 1
-                   : 1;
+        const qlonglong steps = match.captured(4).toLongLong() - match.captured(2).toLongLong();
+        return match.hasCaptured(4) ? qsizetype(qMin(steps, qlonglong(1'000'000'000))) + 1 : 1;
     }
 
     const QRegularExpression m_blanks{QStringLiteral(R"([\t\r\n\x{00A0}\x{200B}\x{202F}\x{3000}\x{FEFF}])")};
     const QRegularExpression m_dashes{QStringLiteral(R"([\x{2010}\x{2011}\x{2013}\x{2014}\x{2212}])")};
     const QRegularExpression m_spacedDash{QStringLiteral("(?<=[0-9])(?: +- *|- +)")};
     const QRegularExpression m_separators{QStringLiteral(R"([ ,;\x{FF0C}\x{3001}]+)")};
-    /// Prefix and number, perhaps a dash and another of the same prefix.
-    const QRegularExpression m_piece{QStringLiteral(
-        R"(\A((?=[^-./]*(?:[A-Za-z]|[^\x00-\x7F]))[^-./]*[^-./0-9])?([0-9]++)(?:-(\1)?([0-9]++))?\z)")};
+    /// Prefix and number, perhaps a dash and the same again.
+    const QRegularExpression m_piece{
+        QStringLiteral(R"(\A((?=[^-./]*(?:[A-Za-z]|[^\x00-\x7F]))[^-./]*[^-./0-9])?([0-9]++))"
+                       R"((?:-((?=[^-./]*(?:[A-Za-z]|[^\x00-\x7F]))[^-./]*[^-./0-9])?([0-9]++))?\z)")};
 };
 
 } // namespace
@@ -158,7 +163,7 @@ SymbolCount PartList::recount(Problem *error) const
     const ReferenceCounter counter;
     ColumnWalker(m_dialect.delimiter, m_columns.reference)
         .walk(text, [&](std::size_t row, const std::string &cell) {
-            if (row > m_columns.headingRow) {
+            if (row > m_columns.headingRow && !cell.empty()) {
                 count.placed +=
                     counter.count(QString::fromStdString(recode ? utf8FromWindows1252(cell) : cell));
             }

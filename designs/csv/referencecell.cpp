@@ -104,19 +104,27 @@ bool ReferenceCell::read(std::string_view cell)
     m_at = 0;
     m_cell = std::ranges::any_of(cell, isHigh) ? m_arena.copy(std::string_view(withPlainMarks(cell))) : cell;
     for (std::string_view token = takeToken(); !token.empty(); token = takeToken()) {
-        std::size_t next = m_at;
-        while (next < m_cell.size() && isBlank(m_cell[next])) {
-            ++next;
-        }
-        const bool dashFollows = next > m_at && m_cell.substr(next).starts_with('-');
         const bool dashEnds = token.ends_with('-') && endsInDigit(token.substr(0, token.size() - 1));
-        const bool spaced = dashEnds || (dashFollows && endsInDigit(token));
+        const bool spaced = dashEnds || (endsInDigit(token) && isDashNext());
         if (!(spaced ? takeSpacedRange(token) : addToken(token))) {
             m_references.clear();
             return false;
         }
     }
     return true;
+}
+
+void ReferenceCell::skipBlanks()
+{
+    while (m_at < m_cell.size() && isBlank(m_cell[m_at])) {
+        ++m_at;
+    }
+}
+
+bool ReferenceCell::isDashNext() const
+{
+    const std::size_t next = m_cell.find_first_not_of(" \t\r\n", m_at);
+    return next != std::string_view::npos && m_cell[next] == '-';
 }
 
 std::string_view ReferenceCell::takeToken()
@@ -135,11 +143,6 @@ std::string_view ReferenceCell::takeToken()
 bool ReferenceCell::takeSpacedRange(std::string_view first)
 {
     std::string glued(first);
-    const auto skipBlanks = [this] {
-        while (m_at < m_cell.size() && isBlank(m_cell[m_at])) {
-            ++m_at;
-        }
-    };
     skipBlanks();
     if (!first.ends_with('-')) {
         glued += '-';
@@ -153,6 +156,9 @@ bool ReferenceCell::takeSpacedRange(std::string_view first)
     const std::string_view token = m_arena.copy(std::string_view(glued));
     if (token.ends_with('-')) {
         return fail(token, QStringLiteral("is a range without an end"));
+    }
+    if (endsInDigit(token) && isDashNext()) {
+        return fail(token, QStringLiteral("is followed by another dash: write its references one by one"));
     }
     if (!addToken(token)) {
         return false;

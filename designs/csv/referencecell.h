@@ -68,6 +68,8 @@ private:
     [[nodiscard]] static std::optional<Numbered> numbered(std::string_view text);
     [[nodiscard]] std::optional<Numbered> numberedOrBare(std::string_view text) const;
 
+    void skipBlanks();
+    [[nodiscard]] bool isDashNext() const;
     [[nodiscard]] std::string_view takeToken();
     [[nodiscard]] bool takeSpacedRange(std::string_view first);
     [[nodiscard]] bool addToken(std::string_view token);

@@ -235,11 +235,12 @@ TEST_F(PartListTest, CountsReferencesAnew)
         "Ref,Value\nR1,1k\n",
         "Title\n\n Ref ;Value\r\n\"R1,R2\r\nR3\";\"a;\"\"b\"\"\"\r\nR4-R9;5\"\" x\r\n\r\nR10;\"\"\r\n",
         "\xEF\xBB\xBF\"Value\",\"Refs\"\r\"x\",\"C17/18/19 C20/C21, D1/3-5\"\r",
-        "Ref;V\nR1 - R3, R5- R6 R8 -9;\nR1,2,5-7;\nR08-R11, "
+        "Ref;V\nR1 - R3, R5- R6 R8 -9;\nR1,2,5-7,9-R11;\nR08-R11, "
         "R7-R7;\nU1A2-U1A4;\nX1-2;\nR1\u2013R3\u3001R5\u00A0R6;\n",
         "Ref|V\nJ1-A TP-1 TP-1-2|\nJ4-1, 5-8|\nX1-02 J1-1|\nU1/A CH1/R5 R? J?-2|\n12, 1-4 1.5-2|\nR1.5-8 +5V "
         "V- #PWR01|\n",
         "Ref\tV\nR1\x96R4\t\n C2\xA0 C3 \t\n",
+        "Ref\n\"R1\n\"\"-J\"\n",
         "Value,Ref\n5\"\" cable,W1\n \"x\" , \"W2 W3\" \n",
     };
     for (const std::string_view bytes : lists) {

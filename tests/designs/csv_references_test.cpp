@@ -80,6 +80,8 @@ TEST(ReferenceCell, RefusesUnclearRanges)
         {"12 - 14", "is no range"},
         {"R1-", "without an end"},
         {"R1 - , R4", "without an end"},
+        {"R1 -5 -R9", "another dash"},
+        {"R1-5 -R9", "is no range"},
         {"R1-R04", "differ in their zeros"},
         {"R5,8-6", "runs backwards"},
         {"C7-4/8", "several ways"},
