@@ -9,7 +9,7 @@
 /// Whether the name stands for standard output.
 [[nodiscard]] inline bool isStandardOutput(const QString &path)
 {
-    return path == QStringLiteral("-");
+    return path == QStringLiteral("-") || path == QStringLiteral("/dev/stdout");
 }
 
 /// Writes a whole output: to standard output, into a device or pipe, or as a file that replaces the old one

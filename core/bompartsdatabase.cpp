@@ -314,7 +314,7 @@ void BOMPartsDatabase::addCategory(const BOMCategory &category)
             return;
         }
     }
-    m_categories.emplace(category.heading, CategoryGroups(this, category.references));
+    m_categories.try_emplace(category.heading, this);
     for (const QString &prefix : category.references) {
         m_headingOfPrefix.insert(prefix, category.heading);
     }
@@ -322,7 +322,7 @@ void BOMPartsDatabase::addCategory(const BOMCategory &category)
 
 CategoryGroups &BOMPartsDatabase::miscCategory()
 {
-    return m_categories.try_emplace(m_miscCategoryName, this, QStringList()).first->second;
+    return m_categories.try_emplace(m_miscCategoryName, this).first->second;
 }
 
 const CategoryGroups *BOMPartsDatabase::category(const QString &heading) const

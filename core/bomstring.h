@@ -33,11 +33,6 @@ public:
     friend bool operator==(const BomString &left, const BomString &right) { return left.order(right) == 0; }
     friend bool operator!=(const BomString &left, const BomString &right) { return left.order(right) != 0; }
 
-    /// Equal keys have equal hashes.
-    friend size_t qHash(const BomString &key, size_t seed) { return key.hash(seed); }
-
 private:
-    [[nodiscard]] size_t hash(size_t seed) const;
-
     Qt::CaseSensitivity m_caseRule = Qt::CaseSensitive;
 };

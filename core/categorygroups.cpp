@@ -30,7 +30,7 @@ void CategoryGroups::clear()
 void CategoryGroups::regroup()
 {
     if (!m_database) {
-        qWarning("BOM: Use of bad CatParts with null database");
+        qDebug("BOM: Use of bad CatParts with null database");
         return;
     }
     m_isGrouped = false;

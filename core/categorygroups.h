@@ -16,15 +16,14 @@ class Part;
 class CategoryGroups final
 {
 public:
-    CategoryGroups() = default;
-    CategoryGroups(const BOMPartsDatabase *database, const QStringList &prefixes)
+    /// `database` is not owned and may be null. A part remembers the address of its groups: they stay where
+    /// they are.
+    explicit CategoryGroups(const BOMPartsDatabase *database)
         : m_database(database)
-        , m_prefixes(prefixes)
     {
     }
-
-    /// The reference prefixes that select the parts.
-    [[nodiscard]] const QStringList &prefixes() const { return m_prefixes; }
+    CategoryGroups(const CategoryGroups &) = delete;
+    CategoryGroups &operator=(const CategoryGroups &) = delete;
 
     /// Puts a part in, unless it is here already.
     void add(Part &part);
@@ -39,8 +38,7 @@ public:
     [[nodiscard]] const GroupedLines &lines() const;
 
 private:
-    const BOMPartsDatabase *m_database = nullptr;
-    QStringList m_prefixes;
+    const BOMPartsDatabase *m_database;
     std::vector<Part *> m_parts;
     mutable GroupedLines m_lines;
     mutable bool m_isGrouped = false;

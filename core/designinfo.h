@@ -16,5 +16,6 @@
 [[nodiscard]] QString designNotes();
 
 /// The absolute path proposed for a report of the design, `extension` with its dot. The folder is the working
-/// folder, or the user's when the program was started from where it stands; it is made when it is missing.
+/// folder, or the user's when the program's own folder is that one or is known by a relative path only; it is
+/// made when it is missing.
 [[nodiscard]] QString designOutputPath(const QString &extension);

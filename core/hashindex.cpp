@@ -13,8 +13,7 @@ namespace {
 
 constexpr size_t smallestTable = 16;
 
-/// Both halves of the product count, so that no change of a factor goes unnoticed in a predictable way: a
-/// design cannot be made to collide on purpose.
+/// Both halves of the product count, so that what collides is not predictable from run to run.
 quint64 multiplied(quint64 left, quint64 right)
 {
     __extension__ using Wide = unsigned __int128;

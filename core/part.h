@@ -43,9 +43,6 @@ public:
     [[nodiscard]] const QString &value() const { return m_value; }
     [[nodiscard]] const PartKey &key() const { return m_key; }
 
-protected:
-    void setValueText(const QString &value) { m_value = value; }
-
 private:
     friend class PartStore;
     friend class CategoryGroups;

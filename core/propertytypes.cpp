@@ -24,7 +24,7 @@ void PropertyTypes::load()
     m_definitions.clear();
     QStringList problems;
     if (!load_defaultdefs(&m_definitions, nullptr, &problems)) {
-        qWarning().noquote() << "PropertyTypes::load" << problems.join(QLatin1String("; "));
+        qDebug().noquote() << "PropertyTypes::load" << problems.join(QLatin1String("; "));
     }
 }
 

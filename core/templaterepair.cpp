@@ -13,11 +13,6 @@
 
 namespace {
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("BOMPartsDatabase", text);
-}
-
 /// `wanted`, or with a number behind it when that name is taken.
 template<typename IsTaken>
 QString freeName(const QString &wanted, IsTaken isTaken)
@@ -40,8 +35,8 @@ void addValueField(BOMTemplate &settings)
 {
     const BOMFields old = settings.fields();
     BOMField value;
-    value.fieldName =
-        freeName(translated("Value"), [&old](const QString &name) { return old.contains(name); });
+    value.fieldName = freeName(QCoreApplication::translate("BOMPartsDatabase", "Value"),
+                               [&old](const QString &name) { return old.contains(name); });
     value.propertyName = valueProperty();
     BOMFields fields;
     fields.add(value);
@@ -65,7 +60,7 @@ void addMiscCategory(BOMTemplate &settings)
         headings.insert(category.heading);
     }
     BOMCategory misc;
-    misc.heading = freeName(translated("Miscellaneous"),
+    misc.heading = freeName(QCoreApplication::translate("BOMPartsDatabase", "Miscellaneous"),
                             [&headings](const QString &name) { return headings.contains(name); });
     misc.references = QStringList{QStringLiteral("*")};
     misc.isMiscCategory = true;
@@ -80,11 +75,13 @@ QStringList repairTemplate(BOMTemplate &settings)
     QStringList repairs;
     if (!hasValueField(settings.fields())) {
         addValueField(settings);
-        repairs << translated("The template has no field for VALUE; one was added as the first column.");
+        repairs << QCoreApplication::translate(
+            "BOMPartsDatabase", "The template has no field for VALUE; one was added as the first column.");
     }
     if (!hasMiscCategory(settings.categories())) {
         addMiscCategory(settings);
-        repairs << translated("The template has no miscellaneous category; one was added as the last.");
+        repairs << QCoreApplication::translate(
+            "BOMPartsDatabase", "The template has no miscellaneous category; one was added as the last.");
     }
     return repairs;
 }

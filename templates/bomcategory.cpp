@@ -24,14 +24,13 @@ BOMCategory BOMCategory::fromVariantMap(const QVariantMap &map)
 
 QList<BOMCategory> BOMCategory::defaults()
 {
-    const auto tr = [](const char *heading) { return QCoreApplication::translate("BOMCategory", heading); };
     return {
-        {tr(QT_TRANSLATE_NOOP("BOMCategory", "Modules")), {QStringLiteral("M")}, false},
-        {tr(QT_TRANSLATE_NOOP("BOMCategory", "Capacitors")), {QStringLiteral("C")}, false},
-        {tr(QT_TRANSLATE_NOOP("BOMCategory", "Resistors")), {QStringLiteral("R")}, false},
-        {tr(QT_TRANSLATE_NOOP("BOMCategory", "Integrated Circuits")), {QStringLiteral("U")}, false},
-        {tr(QT_TRANSLATE_NOOP("BOMCategory", "Transistors")), {QStringLiteral("Q")}, false},
-        {tr(QT_TRANSLATE_NOOP("BOMCategory", "Diodes")), {QStringLiteral("D")}, false},
-        {tr(QT_TRANSLATE_NOOP("BOMCategory", "Miscellaneous")), {QStringLiteral("*")}, true},
+        {QCoreApplication::translate("BOMCategory", "Modules"), {QStringLiteral("M")}, false},
+        {QCoreApplication::translate("BOMCategory", "Capacitors"), {QStringLiteral("C")}, false},
+        {QCoreApplication::translate("BOMCategory", "Resistors"), {QStringLiteral("R")}, false},
+        {QCoreApplication::translate("BOMCategory", "Integrated Circuits"), {QStringLiteral("U")}, false},
+        {QCoreApplication::translate("BOMCategory", "Transistors"), {QStringLiteral("Q")}, false},
+        {QCoreApplication::translate("BOMCategory", "Diodes"), {QStringLiteral("D")}, false},
+        {QCoreApplication::translate("BOMCategory", "Miscellaneous"), {QStringLiteral("*")}, true},
     };
 }

@@ -20,14 +20,14 @@ struct BOMField
     QString suffix;
     /// Prefix and suffix also stand around an empty value.
     bool applyToEmpty = false;
-    /// The column is numeric and has sub-totals and totals.
+    /// The column has sub-totals and totals.
     bool generateTotals = false;
     bool enableLinks = false;
-    /// Decimal places of totals.
+    /// Decimal places of totals and of the values of numeric properties.
     int precision = 0;
     /// Most characters of a value, 0 for no limit.
     int fieldWidth = 0;
-    /// Most lines of a value, 0 for no limit.
+    /// Kept with the field; reports do not look at it.
     int fieldLines = 0;
     int asciiWidth = DefaultAsciiWidth;
     int manualWidth = DefaultManualWidth;

@@ -20,9 +20,10 @@ void BOMFields::set(const BOMField &field)
 
 void BOMFields::remove(const QString &name)
 {
+    // `name` may be an element of the order: the order goes last.
+    m_records.remove(name);
     if (m_ordered.remove(name))
         m_order.removeOne(name);
-    m_records.remove(name);
 }
 
 void BOMFields::setOrder(const QStringList &names)

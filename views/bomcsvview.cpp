@@ -38,11 +38,6 @@ void BOMCsvView::writeOutput()
     ui.openUrl(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
 }
 
-bool BOMCsvView::writeFile(const QString &path, QString *reason)
-{
-    return isValid() && writeReportFile(path, csv(), reason) == ReportFileResult::Written;
-}
-
 QByteArray BOMCsvView::csv()
 {
     if (!isValid()) {

@@ -16,11 +16,9 @@ public:
     /// `full`: a row per part without quantity, else a row per line.
     BOMCsvView(QWidget *parent, bool full);
 
-    /// Asks for a file, writes it and opens it. The user is told when that fails.
+    /// Asks for a file, writes it and hands it to the desktop. The user is told when it cannot be written;
+    /// the old file then stays.
     void writeOutput();
-
-    /// Writes a named file. On failure the old file stays, and `reason` takes the cause.
-    [[nodiscard]] bool writeFile(const QString &path, QString *reason);
 
     /// The whole text in UTF-8; empty without a database.
     [[nodiscard]] QByteArray csv();

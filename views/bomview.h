@@ -53,9 +53,10 @@ public:
     /// A cell by names, for the reader of single cells. Empty for a field that the report does not have. The
     /// text is that of cellText().
     [[nodiscard]] virtual QString fieldValue(const QString &reference, const QString &fieldName,
-                                             bool formatted) const;
+                                             bool formatted) const final;
     /// The text of formatCell(), or the value as it is when the report does not have the field.
-    [[nodiscard]] virtual QString formatFieldValue(const QString &value, const QString &fieldName) const;
+    [[nodiscard]] virtual QString formatFieldValue(const QString &value,
+                                                   const QString &fieldName) const final;
 
     /// Takes the VALUE column out of the report where the template says so.
     void removeValueField();
@@ -79,7 +80,6 @@ protected:
     [[nodiscard]] bool isValid() const { return m_isValid; }
     [[nodiscard]] BOMPartsDatabase *database() const { return m_database; }
     [[nodiscard]] const BOMFields &fields() const { return m_fields; }
-    [[nodiscard]] const QLocale &numberFormat() const { return m_locale; }
 
     /// The fields in column order.
     [[nodiscard]] const std::vector<ReportColumn> &columns() const;

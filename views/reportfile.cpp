@@ -6,17 +6,23 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QStringList>
+
+#include <algorithm>
 
 namespace {
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("BOMView", text);
-}
-
-/// A device or a pipe: there is nothing to keep, and replacing it would put a file in its place.
+/// A device, a pipe or a name for an open file of this process: there is nothing to keep, and replacing it
+/// would put a file in its place.
 bool isSpecialFile(const QString &path)
 {
+    static const QStringList openFiles{QStringLiteral("/dev/std"), QStringLiteral("/dev/fd/"),
+                                       QStringLiteral("/proc/")};
+    const bool isOpenFile = std::any_of(openFiles.begin(), openFiles.end(),
+                                        [&path](const QString &start) { return path.startsWith(start); });
+    if (isOpenFile) {
+        return true;
+    }
     const QFileInfo info(path);
     return info.exists() && !info.isFile() && !info.isDir();
 }
@@ -30,9 +36,10 @@ ReportFileResult failed(ReportFileResult result, const QFileDevice &file, QStrin
 }
 
 template<typename File, typename Finish>
-ReportFileResult write(File &file, const QByteArray &bytes, QString *reason, Finish finish)
+ReportFileResult write(File &file, QIODevice::OpenMode mode, const QByteArray &bytes, QString *reason,
+                       Finish finish)
 {
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+    if (!file.open(mode | QIODevice::Text)) {
         return failed(ReportFileResult::NotOpened, file, reason);
     }
     if (file.write(bytes) != bytes.size() || !finish(file)) {
@@ -47,19 +54,19 @@ ReportFileResult writeReportFile(const QString &path, const QByteArray &bytes, Q
 {
     if (isSpecialFile(path)) {
         QFile device(path);
-        return write(device, bytes, reason, [](QFile &file) { return file.flush(); });
+        return write(device, QIODevice::Append, bytes, reason, [](QFile &file) { return file.flush(); });
     }
     QSaveFile file(path);
-    return write(file, bytes, reason, [](QSaveFile &saved) { return saved.commit(); });
+    return write(file, QIODevice::WriteOnly, bytes, reason, [](QSaveFile &saved) { return saved.commit(); });
 }
 
 QString reportFileMessage(ReportFileResult result, const QString &path, const QString &reason)
 {
     switch (result) {
     case ReportFileResult::NotOpened:
-        return translated("Could not open file '%1' for writing").arg(path);
+        return QCoreApplication::translate("BOMView", "Could not open file '%1' for writing").arg(path);
     case ReportFileResult::NotWritten:
-        return translated("Could not write file '%1': %2").arg(path, reason);
+        return QCoreApplication::translate("BOMView", "Could not write file '%1': %2").arg(path, reason);
     case ReportFileResult::Written:
         break;
     }

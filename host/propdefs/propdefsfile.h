@@ -23,7 +23,7 @@ public:
     void add(const QString &section, const QString &line);
     [[nodiscard]] const QStringList &lines() const { return m_lines; }
 
-    /// Reads the definitions; each line that is none gives a message "line N: ...".
+    /// Reads the definitions; each line that is none gives a message "N: ...", N being its line.
     [[nodiscard]] DIDX definitions(QStringList *problems = nullptr) const;
 
 private:

@@ -285,7 +285,7 @@ TEST_F(Grouping, namesTheLinesThatAReportLeavesOut)
 
 TEST(CategoryGroups, withoutDatabaseKeepsItsLines)
 {
-    CategoryGroups groups;
+    CategoryGroups groups(nullptr);
     Part part(nullptr, nullptr, u"R1"_s, u"1k"_s);
     groups.add(part);
     groups.add(part);

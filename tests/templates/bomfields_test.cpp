@@ -23,6 +23,19 @@ BOMFields fields(const QStringList &names)
     return made;
 }
 
+TEST(BomFields, ANameOfItsOwnOrderCanBeRemoved)
+{
+    for (qsizetype at = 0; at < 3; ++at) {
+        BOMFields made = fields({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+        QStringList expected = made.names();
+        expected.removeAt(at);
+        made.remove(made.names().at(at));
+        EXPECT_EQ(made.names(), expected);
+        for (const QString &name : expected)
+            EXPECT_EQ(made.get(name).propertyName, name.toUpper());
+    }
+}
+
 TEST(BomFields, DefaultsReplaceWhatWasThere)
 {
     BOMFields made = fields({QStringLiteral("a"), QStringLiteral("Value")});

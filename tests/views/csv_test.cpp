@@ -151,12 +151,6 @@ TEST_F(Csv, tellsThatAFileCannotBeOpened)
                   {u"Output Failed"_s, u"Could not open file '"_s + ui.fileName + u"' for writing"_s}}));
     EXPECT_TRUE(ui.openedUrls.isEmpty());
     EXPECT_FALSE(QFileInfo::exists(ui.fileName));
-
-    BOMCsvView view(nullptr, false);
-    view.setPartsDatabase(&database);
-    QString reason;
-    EXPECT_FALSE(view.writeFile(ui.fileName, &reason));
-    EXPECT_FALSE(reason.isEmpty());
 }
 
 TEST_F(Csv, aFullDeviceIsToldAndStaysADevice)
