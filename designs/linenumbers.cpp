@@ -19,7 +19,8 @@ int LineNumbers::line(const QString &path, quint64 offset)
         for (std::size_t at = text.find('\n'); at != std::string_view::npos; at = text.find('\n', at + 1)) {
             ends.push_back(at);
         }
-        known = m_lineEnds.insert(path, std::move(ends));
+        known = m_lineEnds.insert(path, {});
+        known->swap(ends);
     }
     return 1 + int(std::lower_bound(known->begin(), known->end(), offset) - known->begin());
 }
