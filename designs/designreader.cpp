@@ -15,7 +15,9 @@ namespace {
 QByteArray beginning(const QString &path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.read(64).trimmed() : QByteArray();
+    // A pipe would block.
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(64).trimmed()
+                                                                      : QByteArray();
 }
 
 bool isKicad(const QString &suffix, const QByteArray &start)
@@ -32,6 +34,9 @@ QString refusal(const QFileInfo &info, const QByteArray &start)
     }
     if (info.isDir()) {
         return QStringLiteral("this is a folder; give the .kicad_sch, .kicad_pro or .csv file in it");
+    }
+    if (!info.isFile()) {
+        return QStringLiteral("this is a device or pipe, not a file");
     }
     if (start.startsWith("EESchema Schematic")) {
         return QStringLiteral(

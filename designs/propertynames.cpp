@@ -4,13 +4,15 @@
 
 #include <QString>
 
+#include <algorithm>
+
 namespace designs {
 
 namespace {
 
-QString folded(std::string_view name)
+std::string folded(std::string_view name)
 {
-    return QString::fromUtf8(name.data(), qsizetype(name.size())).toCaseFolded();
+    return QString::fromUtf8(name.data(), qsizetype(name.size())).toCaseFolded().toStdString();
 }
 
 } // namespace
@@ -26,6 +28,7 @@ NameId PropertyNames::intern(std::string_view name)
     const auto id = NameId(m_names.size());
     m_names.push_back(view);
     m_ids.emplace(view, id);
+    m_folded[folded(view)].push_back(id);
     return id;
 }
 
@@ -49,11 +52,8 @@ std::vector<NameId> PropertyNames::candidates(std::string_view name) const
     if (const auto alias = m_aliases.find(name); alias != m_aliases.end()) {
         add(alias->second);
     }
-    const QString wanted = folded(name);
-    for (NameId id = 0; id < m_names.size(); ++id) {
-        if (folded(m_names[id]) == wanted) {
-            add(id);
-        }
+    if (const auto twins = m_folded.find(folded(name)); twins != m_folded.end()) {
+        std::for_each(twins->second.begin(), twins->second.end(), add);
     }
     return ids;
 }

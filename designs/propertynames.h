@@ -7,6 +7,7 @@
 #include <QByteArrayView>
 
 #include <deque>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -37,6 +38,8 @@ private:
     std::vector<std::string_view> m_names;
     std::unordered_map<std::string_view, NameId> m_ids;
     std::unordered_map<std::string_view, NameId> m_aliases;
+    /// By the folded name, the names that share it in the order of their first sight.
+    std::unordered_map<std::string, std::vector<NameId>> m_folded;
 };
 
 } // namespace designs

@@ -64,10 +64,11 @@ bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem 
     m_warnings.insert(m_warnings.end(), builder.warnings.begin(), builder.warnings.end());
     TextVariables variables(*m_hierarchy, m_project, m_names, m_info.variant);
     variables.resolve(&m_components, m_symbolUses, &m_arena);
-    if (variables.ranOut()) {
+    if (variables.leftSome()) {
         m_warnings.push_back(
             {m_roots.front().first, 0,
-             QStringLiteral("the text variables name each other too often; some stay as they stand")});
+             QStringLiteral(
+                 "text variables name each other in a circle or too often; some stay as they stand")});
     }
     markNotFittedByProperty(&m_components, m_names);
     fillInfo();

@@ -17,6 +17,8 @@ namespace designs::kicad {
 
 /// Format versions (dates) at which something changed in schematic files.
 namespace version {
+/// The first that KiCad 6 wrote on the way to its release.
+constexpr int oldest = 20210000;
 constexpr int tildeIsText = 20250318;
 constexpr int variableEscape = 20260101;
 constexpr int ruleAreaFlags = 20250610;

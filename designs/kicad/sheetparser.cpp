@@ -87,7 +87,13 @@ bool SheetParser::parse()
         return false;
     }
     if (m_sheet->formatVersion == 0) {
-        return refuse(QStringLiteral("the schematic has no version"));
+        return refuse(QStringLiteral("the schematic has no version, or none that can be read"));
+    }
+    if (m_sheet->formatVersion < version::oldest) {
+        return refuse(
+            QStringLiteral("the schematic is of version %1, before KiCad 6; open it in KiCad 6 or later and "
+                           "save it")
+                .arg(m_sheet->formatVersion));
     }
     if (m_scanner.next() != SexprScanner::Token::End) {
         return refuse(QStringLiteral("there is text behind the end of the schematic"));

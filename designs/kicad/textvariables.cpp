@@ -138,7 +138,9 @@ std::string TextVariables::expand(std::string_view text, const Context &context,
         const std::string_view whole = text.substr(open - 1, close - open + 2);
         std::string inner(text.substr(open + 1, close - open - 1));
         Answer answer;
-        if (!escaped && depth < maximumDepth && result.size() < maximumLength && spend(whole.size())) {
+        const bool withinLimits = depth < maximumDepth && result.size() < maximumLength;
+        m_leftSome |= !escaped && !withinLimits;
+        if (!escaped && withinLimits && spend(whole.size())) {
             if (inner.find("${") != std::string::npos) {
                 inner = expand(inner, context, depth + 1);
             }
@@ -245,12 +247,15 @@ QString TextVariables::pageOf(quint32 use) const
 TextVariables::Answer TextVariables::ofSheets(const QString &name, const Context &context, int depth) const
 {
     const HierarchyUse *use = &m_hierarchy.uses()[context.use];
-    const SheetFile &file = m_hierarchy.files()[use->file];
+    const SheetFile &root = m_hierarchy.files()[m_hierarchy.uses()[m_hierarchy.rootOf(context.use)].file];
     if (same(name, QLatin1String("SHEETNAME"))) {
         return use->symbol ? std::string(use->symbol->name) : std::string();
     }
-    if (same(name, QLatin1String("SHEETFILE")) || same(name, QLatin1String("FILENAME"))) {
-        return QFileInfo(file.path).fileName().toStdString();
+    if (same(name, QLatin1String("SHEETFILE"))) {
+        return QFileInfo(m_hierarchy.files()[use->file].path).fileName().toStdString();
+    }
+    if (same(name, QLatin1String("FILENAME"))) {
+        return QFileInfo(root.path).fileName().toStdString();
     }
     if (same(name, QLatin1String("SHEETPATH"))) {
         return use->namePath.toStdString() + (use->symbol ? "/" : "");

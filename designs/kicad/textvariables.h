@@ -19,7 +19,7 @@ class TextVariables
 {
 public:
     static constexpr int maximumDepth = 10;
-    static constexpr std::size_t maximumLength = 1 << 20;
+    static constexpr std::size_t maximumLength = 1 << 16;
     /// Variables that name each other can ask for any amount of work; what a design may ask for, in bytes
     /// looked at.
     static constexpr std::size_t workPerDesign = std::size_t(1) << 26;
@@ -31,8 +31,9 @@ public:
     /// Replaces the variables in the values of all components that have any; the new texts go into the arena.
     void resolve(std::vector<Component> *components, const std::vector<SymbolUse> &symbols, TextArena *arena);
 
-    /// Whether there was more work than allowed, so that some variables were left as they stand.
-    [[nodiscard]] bool ranOut() const { return m_ranOut; }
+    /// Whether variables were left as they stand because there was more work than allowed, a text grew too
+    /// long or variables name each other in a circle.
+    [[nodiscard]] bool leftSome() const { return m_ranOut || m_leftSome; }
 
     /// The text with the variables of a root's title block and the project resolved.
     [[nodiscard]] std::string titleText(std::string_view text) const;
@@ -70,6 +71,7 @@ private:
     mutable std::unordered_map<std::string_view, quint32> m_byReference;
     mutable std::size_t m_budget = workPerDesign;
     mutable bool m_ranOut = false;
+    mutable bool m_leftSome = false;
 };
 
 } // namespace designs::kicad

@@ -59,6 +59,7 @@ std::vector<BadInput> badInputs()
         {"version missing", "(kicad_sch\n (generator x)\n)", 3, "no version"},
         {"version is no number", "(kicad_sch (version abc))", 1, "no version"},
         {"version too large", "(kicad_sch (version 99999999999999999999))", 1, "no version"},
+        {"version before KiCad 6", "(kicad_sch (version 20200310))", 1, "before KiCad 6"},
         {"text behind the end", good + "\n\n(more)", lines + 3, "behind the end"},
         {"word behind the end", good + ")", lines + 1, "behind the end"},
         {"nested without end", "(kicad_sch (version 20250114)\n" + std::string(100'000, '('), 2,
