@@ -54,7 +54,7 @@ bool FileBuffer::read(const QString &path, std::string_view start, Problem *prob
     if (std::size_t(size) > m_capacity) {
         m_bytes.reset();
         m_capacity = std::size_t(size);
-        m_bytes = std::make_unique_for_overwrite<char[]>(m_capacity);
+        m_bytes = allocateMemory(m_capacity);
     }
     m_size = 0;
     while (m_size < std::size_t(size)) {

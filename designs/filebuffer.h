@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "designs/largememory.h"
 #include "designs/problem.h"
 
-#include <memory>
 #include <string_view>
 
 namespace designs {
@@ -24,7 +24,7 @@ public:
     [[nodiscard]] std::string_view text() const { return {m_bytes.get(), m_size}; }
 
 private:
-    std::unique_ptr<char[]> m_bytes;
+    LargeMemory m_bytes;
     std::size_t m_size = 0;
     std::size_t m_capacity = 0;
 };

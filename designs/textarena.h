@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "designs/largememory.h"
+
 #include <cstddef>
 #include <cstring>
-#include <memory>
-#include <new>
 #include <span>
 #include <string_view>
 #include <type_traits>
@@ -43,21 +43,25 @@ public:
     }
 
 private:
-    static constexpr std::size_t blockSize = 256 * 1024;
+    /// Small designs take small blocks.
+    static constexpr std::size_t smallBlock = 256 * 1024;
+    static constexpr std::size_t largeBlock = std::size_t(2) << 20;
+    static constexpr std::size_t smallBlocks = 8;
 
     void *take(std::size_t size, std::size_t alignment)
     {
         std::size_t start = (m_used + alignment - 1) & ~(alignment - 1);
         if (m_blocks.empty() || start + size > m_capacity) {
-            m_capacity = size > blockSize / 4 ? size : blockSize;
-            m_blocks.push_back(std::make_unique_for_overwrite<char[]>(m_capacity));
+            const std::size_t block = m_blocks.size() < smallBlocks ? smallBlock : largeBlock;
+            m_capacity = size > block ? size : block;
+            m_blocks.push_back(allocateMemory(m_capacity));
             start = 0;
         }
         m_used = start + size;
         return m_blocks.back().get() + start;
     }
 
-    std::vector<std::unique_ptr<char[]>> m_blocks;
+    std::vector<LargeMemory> m_blocks;
     std::size_t m_capacity = 0;
     std::size_t m_used = 0;
 };

@@ -114,11 +114,7 @@ void ComponentBuilder::collectTables()
         if (uses[number].symbol || entries.empty()) {
             continue;
         }
-        InstanceTable &table = m_tables[number];
-        table.reserve(entries.size());
-        for (const TableInstance &entry : entries) {
-            table.emplace(entry.path, &entry);
-        }
+        m_tables.emplace(number, entries);
     }
 }
 
@@ -167,8 +163,7 @@ const TableInstance *ComponentBuilder::tableEntry(quint32 use, const PlacedSymbo
     m_key.assign(m_hierarchy.uses()[use].uuidPath, rootLength);
     m_key += '/';
     m_key += symbol.uuid;
-    const auto entry = table->second.find(m_key);
-    return entry == table->second.end() ? nullptr : entry->second;
+    return table->second.find(m_key);
 }
 
 /// Where nothing is said of this use of the sheet, the symbol's own Reference counts.

@@ -4,6 +4,7 @@
 
 #include "designs/design.h"
 #include "designs/kicad/hierarchy.h"
+#include "designs/kicad/instancetable.h"
 #include "designs/linenumbers.h"
 
 #include <QStringList>
@@ -65,8 +66,6 @@ private:
         quint32 notInBomSheet = 0;
         quint32 notFittedSheet = 0;
     };
-
-    using InstanceTable = std::unordered_map<std::string_view, const TableInstance *>;
 
     void collectSheetMarks();
     void collectTables();
