@@ -6,10 +6,13 @@
 #include "cli/opendesign.h"
 #include "cli/outputfile.h"
 #include "cli/reportnotices.h"
+#include "host/propdefs/propdefsfile.h"
 #include "views/bomcsvview.h"
 
+#include <QFileInfo>
 #include <QLocale>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -22,6 +25,15 @@ std::optional<QLocale> localeOf(const QString &name)
         return QLocale::c();
     }
     return locale.language() == QLocale::C ? std::nullopt : std::optional(locale);
+}
+
+/// Whether there is a file of KiCad's of that name: a board or project beside the sheets is read as well.
+bool isKicadFile(const QString &path)
+{
+    const QFileInfo file(path);
+    const QFileInfo target(file.canonicalFilePath());
+    const QLatin1String suffix("kicad_");
+    return file.exists() && (file.suffix().startsWith(suffix) || target.suffix().startsWith(suffix));
 }
 
 void tell(const QStringList &notices)
@@ -113,14 +125,14 @@ bool ReportCommand::areDistinct(const QList<Output> &outputs)
 bool ReportCommand::spareTheDesign(OpenDesign &design, const QList<Output> &outputs) const
 {
     QStringList inputs = design.session().files();
-    inputs << m_design.path() << design.session().document().notesFile();
+    inputs << m_design.path() << design.session().document().notesFile() << propdefsfile();
     for (const Output &output : outputs) {
-        for (const QString &input : std::as_const(inputs)) {
-            if (isSameFile(output.path, input)) {
-                console::message(output.path +
-                                 QStringLiteral(": belongs to the design and is not overwritten"));
-                return false;
-            }
+        const bool isInput = std::any_of(inputs.cbegin(), inputs.cend(), [&output](const QString &input) {
+            return isSameFile(output.path, input);
+        });
+        if (isInput || isKicadFile(output.path)) {
+            console::message(output.path + QStringLiteral(": belongs to the design and is not overwritten"));
+            return false;
         }
     }
     return true;

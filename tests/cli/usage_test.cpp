@@ -36,6 +36,9 @@ TEST_F(Usage, HelpAndVersionGoToStandardOutput)
 TEST_F(Usage, WhatIsWrongIsOneLineAndStatusTwo)
 {
     write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
+    write(QStringLiteral("a.kicad_pro"), "{}");
+    write(QStringLiteral("a.kicad_pcb"), "(kicad_pcb)");
+    write(QStringLiteral("defs.ini"), "[PROPDEFS]\n");
     const char *const cases[] = {
         "",
         "frobnicate",
@@ -51,6 +54,9 @@ TEST_F(Usage, WhatIsWrongIsOneLineAndStatusTwo)
         "report a.csv --csv a.csv",
         "report a.csv --full-csv ./a.csv",
         "report a.csv --csv a.bomnotes.txt",
+        "report a.csv --csv a.kicad_pcb",
+        "report a.csv --full-csv ./a.kicad_pro",
+        "report a.csv --propdefs defs.ini --csv defs.ini",
         "parts",
         "parts a.csv --require X",
         "check a.csv --require",
