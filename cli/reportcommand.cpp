@@ -64,7 +64,9 @@ ExitStatus ReportCommand::run()
 {
     const auto locale = localeOf(QString::fromStdString(m_locale));
     if (!locale) {
-        console::message(QStringLiteral("unknown locale \"") + QString::fromStdString(m_locale) + u'"');
+        constexpr qsizetype longestName = 40;
+        console::message(QStringLiteral("unknown locale \"") +
+                         QString::fromStdString(m_locale).left(longestName) + u'"');
         return ExitStatus::WrongUsage;
     }
     const QList<Output> outputs = this->outputs();
@@ -81,6 +83,7 @@ ExitStatus ReportCommand::run()
     if (!mayGoOn(design)) {
         return ExitStatus::DesignProblem;
     }
+    tell(markNotices(design));
     tell(notFittedNotices(design));
     for (const Output &output : outputs) {
         tell(replacedLineNotices(design, !output.isFull));
@@ -140,17 +143,14 @@ bool ReportCommand::spareTheDesign(OpenDesign &design, const QList<Output> &outp
 
 bool ReportCommand::mayGoOn(OpenDesign &design) const
 {
-    if (design.database().duplicateReferences().isEmpty()) {
-        return true;
-    }
     qsizetype count = 0;
     for (const RepeatedReference &repeated : design.ledger().repeated()) {
-        if (repeated.listed > 1) {
-            ++count;
+        count += repeated.listed > 1 ? 1 : 0;
+        if (repeated.isDoubtful()) {
             console::message(repeated.message());
         }
     }
-    if (m_allowDuplicates) {
+    if (m_allowDuplicates || design.database().duplicateReferences().isEmpty()) {
         return true;
     }
     console::message(QStringLiteral("nothing was written: ") +

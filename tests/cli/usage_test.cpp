@@ -61,6 +61,8 @@ TEST_F(Usage, WhatIsWrongIsOneLineAndStatusTwo)
         "parts a.csv --require X",
         "check a.csv --require",
         "check a.csv --json",
+        R"(report "")",
+        R"(check a.csv --require "")",
     };
     for (const char *arguments : cases) {
         const ProgramRun result = run(arguments);
@@ -70,6 +72,18 @@ TEST_F(Usage, WhatIsWrongIsOneLineAndStatusTwo)
     }
     EXPECT_EQ(read(QStringLiteral("a.csv")), "Reference,Value\nR1,10k\n");
     EXPECT_EQ(read(QStringLiteral("out.csv")), "no file");
+}
+
+TEST_F(Usage, WhatIsUnknownIsNamed)
+{
+    const std::string longName(100, 'x');
+    const std::pair<std::string, std::string> cases[] = {
+        {"frob", "no command \"frob\" "},
+        {"--frob", "no option \"--frob\" "},
+        {"report a.csv --locale " + longName, "unknown locale \"" + longName.substr(0, 40) + "\"\n"}};
+    for (const auto &[arguments, expected] : cases) {
+        EXPECT_THAT(run(arguments.c_str()).err, HasSubstr(expected)) << arguments;
+    }
 }
 
 TEST_F(Usage, AnInputThatCannotBeReadIsNamedAndStatusThree)
