@@ -6,6 +6,8 @@
 #include "cli/designcheck.h"
 #include "cli/opendesign.h"
 
+#include <CLI/Validators.hpp>
+
 void CheckCommand::addTo(CLI::App &program)
 {
     m_app =
@@ -13,6 +15,7 @@ void CheckCommand::addTo(CLI::App &program)
     m_design.addTo(*m_app);
     m_app->add_option("--require", m_required, "Find the parts on which this property is empty or missing")
         ->type_name("NAME")
+        ->check(CLI::Validator(isGiven, ""))
         ->allow_extra_args(false);
 }
 

@@ -4,9 +4,16 @@
 
 #include <CLI/Validators.hpp>
 
+std::string isGiven(const std::string &text)
+{
+    return text.empty() ? "the text must not be empty" : "";
+}
+
 void DesignArguments::addTo(CLI::App &command)
 {
-    command.add_option("DESIGN", design, "KiCad schematic or project, or CSV part list")->required();
+    command.add_option("DESIGN", design, "KiCad schematic or project, or CSV part list")
+        ->required()
+        ->check(CLI::Validator(isGiven, ""));
     command.add_option("--variant", variant, "Apply the design's variant of this name")->type_name("V");
     command.add_option("--dnp", dnp, "Leave out, list, or list only the parts that are not fitted")
         ->type_name("exclude|include|only")

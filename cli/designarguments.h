@@ -10,6 +10,9 @@
 
 #include <string>
 
+/// For checking an option: empty for a text, what is wrong with an empty one.
+[[nodiscard]] std::string isGiven(const std::string &text);
+
 /// The part of a command line that says which design is read, and how.
 struct DesignArguments
 {

@@ -8,30 +8,48 @@
 #include "cli/reportnotices.h"
 #include "core/propertyquery.h"
 #include "standalone/designtally.h"
+#include "standalone/loadeddesign.h"
 #include "standalone/propertytwins.h"
 
 #include <algorithm>
 
 namespace {
 
-/// References of the parts that make up the bill, and the number of its lines.
+/// What the rows of a report hold, and what it lacks because of equal references.
 struct Bill
 {
-    QStringList references;
     qsizetype lines = 0;
+    qsizetype parts = 0;
     qsizetype bomParts = 0;
+    QStringList replaced;
 };
+
+/// The references of placed parts; BOM-only parts are no components.
+QStringList placedOf(const BOMPartsDatabase &database, QStringList references)
+{
+    references.removeIf([&database](const QString &reference) {
+        const Part *part = database.part(reference);
+        return part && part->isBOMPart();
+    });
+    return references;
+}
 
 Bill billOf(const BOMPartsDatabase &database)
 {
     Bill bill;
     for (const QString &category : database.categoryNames()) {
-        bill.references += database.categoryReferences(category);
-        bill.lines += database.lineCount(category);
+        const ReportLines report = database.reportLines(category, true);
+        bill.lines += qsizetype(report.lines.size());
+        for (const BomLine line : report.lines) {
+            const auto bomParts =
+                std::count_if(line.begin(), line.end(), [](const Part *part) { return part->isBOMPart(); });
+            bill.bomParts += bomParts;
+            bill.parts += qsizetype(line.size()) - bomParts;
+        }
+        for (const ReplacedLine &replaced : report.replaced) {
+            bill.replaced += placedOf(database, replaced.references);
+        }
     }
-    const auto parts = database.parts();
-    bill.bomParts =
-        std::count_if(parts.begin(), parts.end(), [](const Part *part) { return part->isBOMPart(); });
     return bill;
 }
 
@@ -63,26 +81,41 @@ public:
 
     void countParts()
     {
-        const qsizetype parts = m_bill.references.size() - m_bill.bomParts;
         const qsizetype repeated = m_design.database().duplicateReferences().size();
         const qsizetype skipped = m_ledger.components() - m_ledger.listed();
         m_check.account.append({QStringLiteral("in the bill"),
-                                QString::number(parts) + QStringLiteral(" in ") +
+                                QString::number(m_bill.parts) + QStringLiteral(" in ") +
                                     counted(m_bill.lines, QStringLiteral("line"), QStringLiteral("lines"))});
         if (m_bill.bomParts > 0) {
             add(QStringLiteral("BOM-only parts"), m_bill.bomParts);
         }
+        if (!m_bill.replaced.isEmpty()) {
+            add(QStringLiteral("left out for an equal reference"), m_bill.replaced);
+        }
         if (repeated > 0) {
             add(QStringLiteral("repeated references"), repeated);
         }
-        add(QStringLiteral("skipped"), skipped);
-        addReasons();
-        add(QStringLiteral("not fitted"), m_ledger.notFitted());
-        if (const qsizetype sum = parts + repeated + skipped; sum != m_ledger.components()) {
+        add(QStringLiteral("not in the bill"), skipped);
+        for (const SkippedParts &group : m_ledger.skipped()) {
+            add(QStringLiteral("  ") + group.reason, group.references);
+        }
+        if (const qsizetype sum = m_bill.parts + m_bill.replaced.size() + repeated + skipped;
+            sum != m_ledger.components()) {
             m_disagreements << QStringLiteral("the design has ") + QString::number(m_ledger.components()) +
                                    QStringLiteral(" components, the bill accounts for ") +
                                    QString::number(sum);
         }
+    }
+
+    void countNotFitted()
+    {
+        const qsizetype excluded = m_ledger.excludedNotFitted();
+        m_check.account.append(
+            {QStringLiteral("of all components, not fitted"),
+             QString::number(m_ledger.notFitted()) +
+                 (excluded == 0 ? QString()
+                                : QStringLiteral(" (") + QString::number(excluded) +
+                                      QStringLiteral(" of them excluded from the BOM as well)"))});
     }
 
     void conclude()
@@ -96,16 +129,44 @@ public:
     void findRepeated()
     {
         for (const RepeatedReference &repeated : m_ledger.repeated()) {
-            (repeated.listed > 1 ? m_check.findings : m_check.notices) << repeated.message();
+            if (!isNotAnnotated(repeated.reference)) {
+                (repeated.isDoubtful() ? m_check.findings : m_check.notices) << repeated.message();
+            }
         }
     }
 
     void findReplacedLines()
     {
-        m_check.findings << replacedLineNotices(m_design, true) << replacedLineNotices(m_design, false);
+        m_check.findings << replacedLineNotices(m_design, true);
+        for (const ReplacedLine &replaced : m_design.database().replacedLines(false)) {
+            if (!m_bill.replaced.contains(replaced.references.value(0))) {
+                m_check.findings << replacedLineNotice(replaced, false);
+            }
+        }
     }
 
-    void findWarnings() { m_check.findings << m_design.session().warnings(); }
+    void findNotAnnotated() { m_check.findings << m_ledger.notAnnotated(); }
+
+    void findWarnings()
+    {
+        // A board file that cannot be read is noticed when the first part is looked up.
+        (void)m_design.design().design().placement({});
+        m_check.findings << m_design.session().warnings();
+    }
+
+    void findVariables()
+    {
+        constexpr qsizetype mostReferences = 30;
+        const QStringList references = m_ledger.withVariables();
+        if (!references.isEmpty()) {
+            m_check.notices << QStringLiteral("a text variable ${...} is not resolved on ") +
+                                   counted(references.size(), QStringLiteral("part: "),
+                                           QStringLiteral("parts: ")) +
+                                   referenceText(
+                                       references.first(std::min(references.size(), mostReferences))) +
+                                   (references.size() > mostReferences ? QStringLiteral(",...") : QString());
+        }
+    }
 
     void findEmpty(const QString &name)
     {
@@ -155,13 +216,10 @@ public:
 private:
     void add(const QString &name, qsizetype count) { m_check.account.append({name, QString::number(count)}); }
 
-    void addReasons()
+    void add(const QString &name, const QStringList &references)
     {
-        for (const SkippedParts &group : m_ledger.skipped()) {
-            m_check.account.append({QStringLiteral("  ") + group.reason,
-                                    QString::number(group.references.size()) + QStringLiteral(": ") +
-                                        referenceText(group.references)});
-        }
+        m_check.account.append(
+            {name, QString::number(references.size()) + QStringLiteral(": ") + referenceText(references)});
     }
 
     OpenDesign &m_design;
@@ -204,7 +262,9 @@ DesignCheck checkDesign(OpenDesign &design, const QStringList &required)
     Checker checker(design);
     checker.countSymbols();
     checker.countParts();
+    checker.countNotFitted();
     checker.conclude();
+    checker.findNotAnnotated();
     checker.findRepeated();
     checker.findReplacedLines();
     checker.findWarnings();
@@ -213,5 +273,6 @@ DesignCheck checkDesign(OpenDesign &design, const QStringList &required)
         checker.findEmpty(name);
     }
     checker.findTwins();
+    checker.findVariables();
     return checker.result();
 }

@@ -127,10 +127,14 @@ void PartsCommand::addTo(CLI::App &program)
 ExitStatus PartsCommand::run()
 {
     OpenDesign design;
-    if (const ExitStatus status = design.open(m_design, true); status != ExitStatus::Done) {
+    if (const ExitStatus status = design.open(m_design, false); status != ExitStatus::Done) {
         return status;
     }
     const PartsListing listing = listParts(design);
+    // Only now: the board file is read when the first part is placed.
+    for (const QString &warning : design.session().warnings()) {
+        console::message(warning);
+    }
     const QByteArray text = m_json ? jsonText(design, listing) : readableText(listing).toUtf8();
     return console::write(text) ? ExitStatus::Done : ExitStatus::UnwritableOutput;
 }

@@ -33,11 +33,25 @@ ExitStatus tellParseResult(const CLI::App &program, const CLI::ParseError &resul
     return ExitStatus::WrongUsage;
 }
 
+ExitStatus tellUnknownWord(const QString &word)
+{
+    constexpr qsizetype longestWord = 40;
+    console::message((word.startsWith(u'-') ? QStringLiteral("there is no option \"")
+                                            : QStringLiteral("there is no command \"")) +
+                     word.left(longestWord) + QStringLiteral("\" (bom --help tells more)"));
+    return ExitStatus::WrongUsage;
+}
+
 /// Nothing when the command line is well formed.
 std::optional<ExitStatus> parse(CLI::App &program, int argc, char *argv[])
 {
     try {
         program.parse(argc, argv);
+    } catch (const CLI::RequiredError &result) {
+        if (program.get_subcommands().empty() && argc > 1) {
+            return tellUnknownWord(QString::fromLocal8Bit(argv[1]));
+        }
+        return tellParseResult(program, result);
     } catch (const CLI::ParseError &result) {
         return tellParseResult(program, result);
     }

@@ -6,10 +6,13 @@
 #include "cli/opendesign.h"
 #include "cli/outputfile.h"
 #include "cli/reportnotices.h"
+#include "host/propdefs/propdefsfile.h"
 #include "views/bomcsvview.h"
 
+#include <QFileInfo>
 #include <QLocale>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -22,6 +25,15 @@ std::optional<QLocale> localeOf(const QString &name)
         return QLocale::c();
     }
     return locale.language() == QLocale::C ? std::nullopt : std::optional(locale);
+}
+
+/// Whether there is a file of KiCad's of that name: a board or project beside the sheets is read as well.
+bool isKicadFile(const QString &path)
+{
+    const QFileInfo file(path);
+    const QFileInfo target(file.canonicalFilePath());
+    const QLatin1String suffix("kicad_");
+    return file.exists() && (file.suffix().startsWith(suffix) || target.suffix().startsWith(suffix));
 }
 
 void tell(const QStringList &notices)
@@ -52,7 +64,9 @@ ExitStatus ReportCommand::run()
 {
     const auto locale = localeOf(QString::fromStdString(m_locale));
     if (!locale) {
-        console::message(QStringLiteral("unknown locale \"") + QString::fromStdString(m_locale) + u'"');
+        constexpr qsizetype longestName = 40;
+        console::message(QStringLiteral("unknown locale \"") +
+                         QString::fromStdString(m_locale).left(longestName) + u'"');
         return ExitStatus::WrongUsage;
     }
     const QList<Output> outputs = this->outputs();
@@ -69,6 +83,7 @@ ExitStatus ReportCommand::run()
     if (!mayGoOn(design)) {
         return ExitStatus::DesignProblem;
     }
+    tell(markNotices(design));
     tell(notFittedNotices(design));
     for (const Output &output : outputs) {
         tell(replacedLineNotices(design, !output.isFull));
@@ -113,14 +128,14 @@ bool ReportCommand::areDistinct(const QList<Output> &outputs)
 bool ReportCommand::spareTheDesign(OpenDesign &design, const QList<Output> &outputs) const
 {
     QStringList inputs = design.session().files();
-    inputs << m_design.path() << design.session().document().notesFile();
+    inputs << m_design.path() << design.session().document().notesFile() << propdefsfile();
     for (const Output &output : outputs) {
-        for (const QString &input : std::as_const(inputs)) {
-            if (isSameFile(output.path, input)) {
-                console::message(output.path +
-                                 QStringLiteral(": belongs to the design and is not overwritten"));
-                return false;
-            }
+        const bool isInput = std::any_of(inputs.cbegin(), inputs.cend(), [&output](const QString &input) {
+            return isSameFile(output.path, input);
+        });
+        if (isInput || isKicadFile(output.path)) {
+            console::message(output.path + QStringLiteral(": belongs to the design and is not overwritten"));
+            return false;
         }
     }
     return true;
@@ -128,17 +143,14 @@ bool ReportCommand::spareTheDesign(OpenDesign &design, const QList<Output> &outp
 
 bool ReportCommand::mayGoOn(OpenDesign &design) const
 {
-    if (design.database().duplicateReferences().isEmpty()) {
-        return true;
-    }
     qsizetype count = 0;
     for (const RepeatedReference &repeated : design.ledger().repeated()) {
-        if (repeated.listed > 1) {
-            ++count;
+        count += repeated.listed > 1 ? 1 : 0;
+        if (repeated.isDoubtful()) {
             console::message(repeated.message());
         }
     }
-    if (m_allowDuplicates) {
+    if (m_allowDuplicates || design.database().duplicateReferences().isEmpty()) {
         return true;
     }
     console::message(QStringLiteral("nothing was written: ") +

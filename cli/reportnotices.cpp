@@ -65,14 +65,41 @@ QStringList notFittedNotices(OpenDesign &design)
     return mixedLineNotices(design.database(), QSet<QString>(notFitted.begin(), notFitted.end()));
 }
 
+QStringList markNotices(OpenDesign &design)
+{
+    QStringList notices;
+    const PartsLedger ledger = design.ledger();
+    if (const qsizetype count = ledger.excluded(); count > 0) {
+        const qsizetype notFitted = ledger.excludedNotFitted();
+        notices.append(counted(count, QStringLiteral("part is"), QStringLiteral("parts are")) +
+                       QStringLiteral(" excluded from the bill of materials, ") +
+                       (notFitted == 0 ? QStringLiteral("none") : QString::number(notFitted)) +
+                       QStringLiteral(" of them not fitted (bom check names them)"));
+    }
+    if (const qsizetype count = ledger.notAnnotated().size(); count > 0) {
+        notices.append(counted(count, QStringLiteral("symbol is"), QStringLiteral("symbols are")) +
+                       QStringLiteral(" not annotated (bom check names them)"));
+    }
+    return notices;
+}
+
+QString replacedLineNotice(const ReplacedLine &replaced, bool grouped)
+{
+    const QString references = referenceText(replaced.references);
+    const QString what =
+        grouped ? QStringLiteral("the line of ") +
+                      counted(replaced.references.size(), QStringLiteral("part "), QStringLiteral("parts ")) +
+                      references + QStringLiteral(" is left out of the report")
+                : references + QStringLiteral(" is left out of the report of single parts");
+    return what + QStringLiteral(", because ") + replaced.references.value(0) + QStringLiteral(" and ") +
+           replaced.replacedBy + QStringLiteral(" count as the same reference; renumber one of them");
+}
+
 QStringList replacedLineNotices(OpenDesign &design, bool grouped)
 {
     QStringList notices;
     for (const ReplacedLine &replaced : design.database().replacedLines(grouped)) {
-        notices.append(referenceText(replaced.references) +
-                       (grouped ? QStringLiteral(" is missing in the report: ")
-                                : QStringLiteral(" is missing where parts are listed one by one: ")) +
-                       replaced.replacedBy + QStringLiteral(" counts as the same reference"));
+        notices.append(replacedLineNotice(replaced, grouped));
     }
     return notices;
 }

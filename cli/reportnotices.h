@@ -5,10 +5,18 @@
 #include <QStringList>
 
 class OpenDesign;
+struct ReplacedLine;
 
 /// What a report leaves out or mixes because of the not-fitted choice, one sentence each.
 [[nodiscard]] QStringList notFittedNotices(OpenDesign &design);
 
-/// What a report does not show because another line, or part where they are listed one by one, begins with a
-/// reference that compares equal, as R01 and R1 do; one sentence each.
+/// How many parts a mark excludes from every report, and how many symbols are not annotated; one sentence
+/// each.
+[[nodiscard]] QStringList markNotices(OpenDesign &design);
+
+/// Why a line, or part where they are listed one by one, is not in the report: another one begins with a
+/// reference that compares equal, as R01 and R1 do.
+[[nodiscard]] QString replacedLineNotice(const ReplacedLine &replaced, bool grouped);
+
+/// One sentence for each of them.
 [[nodiscard]] QStringList replacedLineNotices(OpenDesign &design, bool grouped);

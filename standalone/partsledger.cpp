@@ -19,6 +19,17 @@ QString text(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
 }
 
+bool holdsVariable(const Component &component)
+{
+    const auto isVariable = [](std::string_view text) {
+        const std::size_t start = text.find("${");
+        return start != std::string_view::npos && text.find('}', start) != std::string_view::npos;
+    };
+    return isVariable(component.value) ||
+           std::any_of(component.properties.begin(), component.properties.end(),
+                       [&](const designs::Property &property) { return isVariable(property.value); });
+}
+
 bool isSkippedByMark(const LoadedDesign &design, const Component &component)
 {
     return component.notInBom != MarkedBy::Nothing || design.properties().hasStoredSkip(component);
@@ -33,9 +44,22 @@ QString RepeatedReference::message() const
     if (places.size() > mostPlaces + 1) {
         others.append(QStringLiteral("..."));
     }
-    return places.value(0) + QStringLiteral(": ") + reference + QStringLiteral(" occurs ") +
-           QString::number(places.size()) + QStringLiteral(" times, also at ") +
-           others.join(QStringLiteral(", "));
+    const QString count = QString::number(places.size());
+    QString text = places.value(0) + QStringLiteral(": ");
+    text += reference.isEmpty() ? count + QStringLiteral(" symbols have no reference")
+                                : reference + QStringLiteral(" occurs ") + count + QStringLiteral(" times");
+    text += QStringLiteral(", also at ") + others.join(QStringLiteral(", "));
+    if (listed == places.size()) {
+        return text;
+    }
+    return text + QStringLiteral("; ") + (listed == 0 ? QStringLiteral("none") : QString::number(listed)) +
+           (listed > 1 ? QStringLiteral(" of them are in the bill")
+                       : QStringLiteral(" of them is in the bill"));
+}
+
+bool isNotAnnotated(QStringView reference)
+{
+    return reference.trimmed().isEmpty() || reference.endsWith(u'?');
 }
 
 PartsLedger::PartsLedger(const LoadedDesign &design)
@@ -67,16 +91,16 @@ QString PartsLedger::skipReason(qsizetype index) const
 {
     const Component &component = at(index);
     if (m_design.properties().hasStoredSkip(component)) {
-        return QStringLiteral("BOMSKIP property");
+        return QStringLiteral("property BOMSKIP");
     }
     switch (component.notInBom) {
     case MarkedBy::Sheet:
-        return QStringLiteral("in_bom no on sheet ") + sheetPath(component.notInBomSheet);
+        return QStringLiteral("excluded on sheet ") + sheetPath(component.notInBomSheet);
     case MarkedBy::RuleArea:
-        return QStringLiteral("rule area");
+        return QStringLiteral("excluded by the rule area around it");
     case MarkedBy::Symbol:
     case MarkedBy::Property:
-        return QStringLiteral("in_bom no on the symbol");
+        return QStringLiteral("excluded from the BOM on the symbol");
     case MarkedBy::Nothing:
         break;
     }
@@ -111,6 +135,21 @@ qsizetype PartsLedger::notFitted() const
     const auto &components = m_design.design().components();
     return std::count_if(components.begin(), components.end(),
                          [](const Component &component) { return component.notFitted != MarkedBy::Nothing; });
+}
+
+qsizetype PartsLedger::excluded() const
+{
+    const auto &components = m_design.design().components();
+    return std::count_if(components.begin(), components.end(),
+                         [this](const Component &component) { return isSkippedByMark(m_design, component); });
+}
+
+qsizetype PartsLedger::excludedNotFitted() const
+{
+    const auto &components = m_design.design().components();
+    return std::count_if(components.begin(), components.end(), [this](const Component &component) {
+        return component.notFitted != MarkedBy::Nothing && isSkippedByMark(m_design, component);
+    });
 }
 
 QStringList PartsLedger::listedNotFitted() const
@@ -163,12 +202,38 @@ std::vector<RepeatedReference> PartsLedger::repeated() const
         }
         const auto [known, isNew] = entry.emplace(component.reference, found.size());
         if (isNew) {
-            found.push_back({text(component.reference), {}, 0});
+            found.push_back({text(component.reference), {}, 0, 0});
         }
         found[known->second].places.append(place(component));
         found[known->second].listed += isListed(i) ? 1 : 0;
+        found[known->second].excluded += isSkippedByMark(m_design, component) ? 1 : 0;
     }
     return found;
+}
+
+QStringList PartsLedger::notAnnotated() const
+{
+    QStringList found;
+    for (qsizetype i = 0; i < components(); ++i) {
+        const QString name = reference(i);
+        if (isNotAnnotated(name)) {
+            found.append(place(at(i)) + QStringLiteral(": ") +
+                         (name.trimmed().isEmpty() ? QStringLiteral("a symbol has no reference")
+                                                   : name + QStringLiteral(" is not annotated")));
+        }
+    }
+    return found;
+}
+
+QStringList PartsLedger::withVariables() const
+{
+    QStringList references;
+    for (qsizetype i = 0; i < components(); ++i) {
+        if (holdsVariable(at(i)) && isListed(i)) {
+            references.append(reference(i));
+        }
+    }
+    return references;
 }
 
 const Component &PartsLedger::at(qsizetype index) const
@@ -181,10 +246,10 @@ QString PartsLedger::notFittedText(const Component &component) const
     QString mark;
     switch (component.notFitted) {
     case MarkedBy::Sheet:
-        mark = QStringLiteral("sheet ") + sheetPath(component.notFittedSheet);
+        mark = QStringLiteral("marked on sheet ") + sheetPath(component.notFittedSheet);
         break;
     case MarkedBy::RuleArea:
-        mark = QStringLiteral("rule area");
+        mark = QStringLiteral("rule area around it");
         break;
     case MarkedBy::Property:
         mark = QStringLiteral("property");
@@ -197,10 +262,10 @@ QString PartsLedger::notFittedText(const Component &component) const
         break;
     case MarkedBy::Symbol:
     case MarkedBy::Nothing:
-        mark = QStringLiteral("symbol");
+        mark = QStringLiteral("marked on the symbol");
         break;
     }
-    return QStringLiteral("not fitted (") + mark + u')';
+    return QStringLiteral("not fitted: ") + mark;
 }
 
 QString PartsLedger::sheetPath(quint32 sheet) const
@@ -213,5 +278,10 @@ QString PartsLedger::place(const Component &component) const
 {
     const QString file = m_design.design().files().value(qsizetype(component.file));
     const int line = m_design.design().lineOf(component);
-    return line > 0 ? file + u':' + QString::number(line) : file;
+    const QString place = line > 0 ? file + u':' + QString::number(line) : file;
+    const auto &sheets = m_design.design().sheets();
+    const auto uses = std::count_if(sheets.begin(), sheets.end(), [&](const designs::SheetUse &sheet) {
+        return sheet.file == component.file;
+    });
+    return uses > 1 ? place + QStringLiteral(" (sheet ") + sheetPath(component.sheet) + u')' : place;
 }

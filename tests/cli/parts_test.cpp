@@ -67,8 +67,9 @@ TEST_F(Parts, AsJsonKeepNamesAndTextsAsStored)
     EXPECT_THAT(out, HasSubstr(R"({"reference":"R10","value":"10k","name":"R","placed":"Not placed",)"
                                R"("category":"Resistors","bomPartOf":"","properties":)"
                                R"({"MPN":"tab\u0009 \"q\" ä","mpn":""}})"));
-    EXPECT_THAT(out, HasSubstr(R"("properties":{"BOMSKIP":"1"},"reason":"in_bom no on the symbol"})"));
-    EXPECT_THAT(out, HasSubstr(R"j("properties":{"DNP":"1"},"reason":"not fitted (symbol)"})j"));
+    EXPECT_THAT(out,
+                HasSubstr(R"("properties":{"BOMSKIP":"1"},"reason":"excluded from the BOM on the symbol"})"));
+    EXPECT_THAT(out, HasSubstr(R"j("properties":{"DNP":"1"},"reason":"not fitted: marked on the symbol"})j"));
     EXPECT_THAT(out, HasSubstr(R"({"reference":"R2","value":"10k","name":"R","placed":"Not placed",)"
                                R"("category":"Resistors","bomPartOf":"","properties":{}})"))
         << "a DNP that says no reads as absent";
@@ -85,7 +86,7 @@ TEST_F(Parts, AsTextAreBlocksOfReadableLines)
                                       "  Placed        Not placed\n"
                                       "  Category      Resistors\n"
                                       "  Manufacturer  Two\\nlines\n"));
-    EXPECT_THAT(result.out, HasSubstr("R2 (skipped: not fitted (property DNP=x))\n"));
+    EXPECT_THAT(result.out, HasSubstr("R2 (skipped: not fitted: property DNP=x)\n"));
 }
 
 TEST_F(Parts, OfNothingIsStillADocument)

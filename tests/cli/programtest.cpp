@@ -62,8 +62,9 @@ ProgramRun ProgramTest::run(const char *arguments, const QString &output) const
     if (!output.isEmpty()) {
         process.setStandardOutputFile(output);
     }
-    process.start(QStringLiteral(BOM_BINARY_DIR "/bin/bom"),
-                  QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts));
+    QStringList words = QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts);
+    words.replaceInStrings(QStringLiteral("\"\""), QString());
+    process.start(QStringLiteral(BOM_BINARY_DIR "/bin/bom"), words);
     if (!process.waitForFinished(longestRun) || process.exitStatus() != QProcess::NormalExit) {
         ADD_FAILURE() << "bom " << arguments << ": " << qPrintable(process.errorString());
         return {};

@@ -33,7 +33,7 @@ protected:
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
     void setEnvironment(const QString &name, const QString &value) { m_environment.insert(name, value); }
 
-    /// Arguments are separated by blanks. Standard output may go to a file instead.
+    /// Arguments are separated by blanks, "" is an empty one. Standard output may go to a file instead.
     [[nodiscard]] ProgramRun run(const char *arguments, const QString &output = {}) const;
 
 private:

@@ -36,6 +36,9 @@ TEST_F(Usage, HelpAndVersionGoToStandardOutput)
 TEST_F(Usage, WhatIsWrongIsOneLineAndStatusTwo)
 {
     write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
+    write(QStringLiteral("a.kicad_pro"), "{}");
+    write(QStringLiteral("a.kicad_pcb"), "(kicad_pcb)");
+    write(QStringLiteral("defs.ini"), "[PROPDEFS]\n");
     const char *const cases[] = {
         "",
         "frobnicate",
@@ -51,10 +54,15 @@ TEST_F(Usage, WhatIsWrongIsOneLineAndStatusTwo)
         "report a.csv --csv a.csv",
         "report a.csv --full-csv ./a.csv",
         "report a.csv --csv a.bomnotes.txt",
+        "report a.csv --csv a.kicad_pcb",
+        "report a.csv --full-csv ./a.kicad_pro",
+        "report a.csv --propdefs defs.ini --csv defs.ini",
         "parts",
         "parts a.csv --require X",
         "check a.csv --require",
         "check a.csv --json",
+        R"(report "")",
+        R"(check a.csv --require "")",
     };
     for (const char *arguments : cases) {
         const ProgramRun result = run(arguments);
@@ -64,6 +72,18 @@ TEST_F(Usage, WhatIsWrongIsOneLineAndStatusTwo)
     }
     EXPECT_EQ(read(QStringLiteral("a.csv")), "Reference,Value\nR1,10k\n");
     EXPECT_EQ(read(QStringLiteral("out.csv")), "no file");
+}
+
+TEST_F(Usage, WhatIsUnknownIsNamed)
+{
+    const std::string longName(100, 'x');
+    const std::pair<std::string, std::string> cases[] = {
+        {"frob", "no command \"frob\" "},
+        {"--frob", "no option \"--frob\" "},
+        {"report a.csv --locale " + longName, "unknown locale \"" + longName.substr(0, 40) + "\"\n"}};
+    for (const auto &[arguments, expected] : cases) {
+        EXPECT_THAT(run(arguments.c_str()).err, HasSubstr(expected)) << arguments;
+    }
 }
 
 TEST_F(Usage, AnInputThatCannotBeReadIsNamedAndStatusThree)

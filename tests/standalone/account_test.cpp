@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <tuple>
 
 namespace {
 
@@ -41,15 +42,15 @@ TEST(Ledger, NamesTheReasonOfEveryComponent)
     const LoadedDesign design(marked(), DnpChoice::Exclude);
     const PartsLedger ledger(design);
     const char *expected[] = {"",
-                              "BOMSKIP property",
-                              "in_bom no on the symbol",
-                              "in_bom no on sheet /Power",
-                              "rule area",
-                              "not fitted (symbol)",
-                              "not fitted (sheet /Power)",
-                              "not fitted (rule area)",
-                              "not fitted (property dnp=yes)",
-                              "not fitted (symbol)"};
+                              "property BOMSKIP",
+                              "excluded from the BOM on the symbol",
+                              "excluded on sheet /Power",
+                              "excluded by the rule area around it",
+                              "not fitted: marked on the symbol",
+                              "not fitted: marked on sheet /Power",
+                              "not fitted: rule area around it",
+                              "not fitted: property dnp=yes",
+                              "not fitted: marked on the symbol"};
     ASSERT_EQ(ledger.components(), qsizetype(std::size(expected)));
     for (qsizetype i = 0; i < ledger.components(); ++i) {
         EXPECT_EQ(ledger.skipReason(i).toStdString(), expected[i]) << qPrintable(ledger.reference(i));
@@ -60,7 +61,7 @@ TEST(Ledger, NamesTheReasonOfEveryComponent)
     EXPECT_EQ(ledger.leftOutByChoice(), 5);
     const auto skipped = ledger.skipped();
     ASSERT_EQ(skipped.size(), 8U);
-    EXPECT_EQ(skipped[4].reason, QStringLiteral("not fitted (symbol)"));
+    EXPECT_EQ(skipped[4].reason, QStringLiteral("not fitted: marked on the symbol"));
     EXPECT_EQ(skipped[4].references, (QStringList{QStringLiteral("R6"), QStringLiteral("R10")}));
 }
 
@@ -80,7 +81,7 @@ TEST(Ledger, FollowsTheNotFittedChoice)
 TEST(Ledger, NamesTheFittedPartOnlyAsFitted)
 {
     const LoadedDesign only(marked(), DnpChoice::Only);
-    EXPECT_EQ(PartsLedger(only).skipReason(3), QStringLiteral("in_bom no on sheet /Power"));
+    EXPECT_EQ(PartsLedger(only).skipReason(3), QStringLiteral("excluded on sheet /Power"));
     EXPECT_TRUE(PartsLedger(only).isFitted(0));
     EXPECT_FALSE(PartsLedger(only).isFitted(3));
 }
@@ -106,6 +107,39 @@ TEST(Ledger, FindsRepeatedReferencesWithTheirPlaces)
                                                     "/d/power.kicad_sch:30, /d/amp.kicad_sch"));
     EXPECT_EQ(repeated[1].reference, QStringLiteral("C1"));
     EXPECT_EQ(repeated[1].listed, 1);
+    EXPECT_TRUE(repeated[1].message().endsWith(QStringLiteral("; 1 of them is in the bill")));
+}
+
+TEST(Ledger, NamesTheSheetWhereAFileServesSeveral)
+{
+    auto table = std::make_unique<TableDesign>();
+    table->useSheet(QStringLiteral("/Second"), 1);
+    for (const quint32 sheet : {1U, 2U}) {
+        designs::Component &component = table->add("", "1k");
+        component.file = 1;
+        component.sheet = sheet;
+        component.line = 4;
+    }
+    const LoadedDesign design(std::move(table), DnpChoice::Exclude);
+    EXPECT_EQ(PartsLedger(design).repeated().at(0).message(),
+              QStringLiteral("/d/power.kicad_sch:4 (sheet /Power): 2 symbols have no reference, also at "
+                             "/d/power.kicad_sch:4 (sheet /Second)"));
+}
+
+TEST(Ledger, DoubtsARepeatedReferenceUnlessAllAreExcluded)
+{
+    const std::tuple<MarkedBy, MarkedBy, bool> cases[] = {
+        {MarkedBy::Nothing, MarkedBy::Nothing, true},
+        {MarkedBy::Nothing, MarkedBy::Symbol, true},
+        {MarkedBy::Sheet, MarkedBy::Symbol, false},
+    };
+    for (const auto &[first, second, expected] : cases) {
+        auto table = std::make_unique<TableDesign>();
+        table->add("H1", "hole").notInBom = first;
+        table->add("H1", "hole").notInBom = second;
+        const LoadedDesign design(std::move(table), DnpChoice::Exclude);
+        EXPECT_EQ(PartsLedger(design).repeated().at(0).isDoubtful(), expected);
+    }
 }
 
 struct TallyCase

@@ -43,6 +43,7 @@ public:
         return m_components.back();
     }
 
+    void useSheet(const QString &path, quint32 file) { m_sheets.push_back({path, file}); }
     designs::DesignInfo &editInfo() { return m_info; }
     designs::SymbolCount &editSymbols() { return m_symbols; }
     void place(const std::string &reference, designs::Side side) { m_sides[reference] = side; }
