@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/propdefs/propdefsfile.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -15,6 +18,8 @@ constexpr auto shippedDefinitions = "[PROPDEFS]\n"
                                     "\"CODE\",STRING,\"Stock Code\"\n"
                                     "\"COST\",FLOAT,\"Unit Cost\"\n"
                                     "\"DNP\",YESNO,\"Do not populate\"\n";
+
+constexpr qint64 mostBytes = 1024 * 1024;
 
 QString theFile;
 
@@ -71,6 +76,30 @@ QString parseLine(const QString &line, PROPDEF *definition)
     return {};
 }
 
+/// The text of the file; nothing, with the reason in `wrong`, when it cannot be read or is too large.
+std::optional<QString> contentOf(const QString &path, QString *wrong)
+{
+    if (!QFileInfo(path).isFile()) {
+        *wrong = QStringLiteral("this is no ordinary file");
+        return std::nullopt;
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *wrong = file.errorString();
+        return std::nullopt;
+    }
+    const QByteArray bytes = file.read(mostBytes + 1);
+    if (file.error() != QFileDevice::NoError) {
+        *wrong = file.errorString();
+        return std::nullopt;
+    }
+    if (bytes.size() > mostBytes) {
+        *wrong = QStringLiteral("the file is larger than 1 MiB, the most that definitions may have");
+        return std::nullopt;
+    }
+    return QString::fromUtf8(bytes).remove(u'\r');
+}
+
 } // namespace
 
 void PROPTEXT::add(const QString &section, const QString &line)
@@ -90,6 +119,11 @@ void PROPTEXT::add(const QString &section, const QString &line)
         }
     }
     m_lines.insert(end, line);
+}
+
+bool PROPTEXT::hasSection(const QString &section) const
+{
+    return std::ranges::any_of(m_lines, [&section](const QString &line) { return isHeading(line, section); });
 }
 
 DIDX PROPTEXT::definitions(QStringList *problems) const
@@ -131,16 +165,16 @@ QString propdefsfile()
 bool load_defaultdefs(DIDX *index, PROPTEXT *text, QStringList *problems)
 {
     QString content = QString::fromLatin1(shippedDefinitions);
-    QFile file(theFile);
-    if (!theFile.isEmpty() && file.exists()) {
-        if (!file.open(QIODevice::ReadOnly)) {
+    if (!theFile.isEmpty() && QFileInfo::exists(theFile)) {
+        QString wrong;
+        const std::optional<QString> stored = contentOf(theFile, &wrong);
+        if (!stored) {
             if (problems) {
-                problems->append(theFile + QStringLiteral(": ") + file.errorString());
+                problems->append(theFile + QStringLiteral(": ") + wrong);
             }
             return false;
         }
-        content = QString::fromUtf8(file.readAll());
-        content.remove(u'\r');
+        content = *stored;
     }
     if (content.endsWith(u'\n')) {
         content.chop(1);
@@ -149,6 +183,9 @@ bool load_defaultdefs(DIDX *index, PROPTEXT *text, QStringList *problems)
     QStringList found;
     const DIDX definitions = read.definitions(&found);
     if (problems) {
+        if (!read.hasSection(sectionName())) {
+            problems->append(theFile + QStringLiteral(": there is no section [PROPDEFS]"));
+        }
         for (const QString &problem : std::as_const(found)) {
             problems->append(theFile + u':' + problem);
         }
@@ -164,8 +201,11 @@ bool load_defaultdefs(DIDX *index, PROPTEXT *text, QStringList *problems)
 
 bool save_defaultdefs(const PROPTEXT &text)
 {
+    if (theFile.isEmpty() || !QDir().mkpath(QFileInfo(theFile).path())) {
+        return false;
+    }
     QSaveFile file(theFile);
-    if (theFile.isEmpty() || !file.open(QIODevice::WriteOnly)) {
+    if (!file.open(QIODevice::WriteOnly)) {
         return false;
     }
     const QByteArray bytes = text.lines().join(u'\n').toUtf8() + '\n';

@@ -22,6 +22,7 @@ public:
     /// Adds a line at the end of a section, which is made when it is missing.
     void add(const QString &section, const QString &line);
     [[nodiscard]] const QStringList &lines() const { return m_lines; }
+    [[nodiscard]] bool hasSection(const QString &section) const;
 
     /// Reads the definitions; each line that is none gives a message "N: ...", N being its line.
     [[nodiscard]] DIDX definitions(QStringList *problems = nullptr) const;
@@ -36,10 +37,12 @@ void setpropdefsfile(const QString &path);
 [[nodiscard]] QString propdefsfile();
 
 /// Reads the definitions of the file, or the shipped ones when there is no such file. False when the file
-/// cannot be read; `problems` takes one message "FILE:LINE: ..." per bad line.
+/// cannot be read, is no ordinary file or larger than 1 MiB; `problems` says why. It also takes one message
+/// "FILE:LINE: ..." per bad line, and one when the section [PROPDEFS] is missing.
 bool load_defaultdefs(DIDX *index, PROPTEXT *text, QStringList *problems = nullptr);
 
-/// Replaces the file; the old one stays when that fails. False on failure or without a file.
+/// Replaces the file and makes its folder when that is missing; the old file stays when this fails. False on
+/// failure or without a file.
 [[nodiscard]] bool save_defaultdefs(const PROPTEXT &text);
 
 /// One line of the section [PROPDEFS].

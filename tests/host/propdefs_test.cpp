@@ -189,11 +189,46 @@ TEST_F(DefinitionsFile, ThatCannotBeReadFailsAndLeavesTheIndexAlone)
     EXPECT_TRUE(index.find(QStringLiteral("KEPT")));
 }
 
+TEST_F(DefinitionsFile, IsNotReadFromADeviceOrBeyondItsLimit)
+{
+    const QByteArray start = "[PROPDEFS]\n;";
+    write(start + QByteArray(1024 * 1024 - start.size(), 'x'));
+    EXPECT_TRUE(load_defaultdefs(nullptr, nullptr));
+    write(start + QByteArray(1024 * 1024 - start.size() + 1, 'x'));
+    for (const QString &file : {path(), QStringLiteral("/dev/zero")}) {
+        setpropdefsfile(file);
+        QStringList problems;
+        EXPECT_FALSE(load_defaultdefs(nullptr, nullptr, &problems)) << qPrintable(file);
+        ASSERT_EQ(problems.size(), 1);
+        EXPECT_TRUE(problems.first().startsWith(file + QStringLiteral(": "))) << qPrintable(problems.first());
+    }
+}
+
+TEST_F(DefinitionsFile, WithoutItsSectionSaysSoOnce)
+{
+    for (const char *bytes : {"", "\"A\",INT\n\"B\",INT\n[Other]\nx=1\n"}) {
+        write(bytes);
+        QStringList problems;
+        EXPECT_TRUE(load_defaultdefs(nullptr, nullptr, &problems));
+        EXPECT_EQ(problems, QStringList{path() + QStringLiteral(": there is no section [PROPDEFS]")});
+    }
+}
+
+TEST_F(DefinitionsFile, IsSavedIntoAFolderThatIsMissing)
+{
+    setpropdefsfile(m_folder.filePath(QStringLiteral("new/below/PROPDEFS.INI")));
+    ASSERT_TRUE(save_defaultdefs(PROPTEXT(linesOf("[PROPDEFS]\n\"A\",INT"))));
+    DIDX index;
+    ASSERT_TRUE(load_defaultdefs(&index, nullptr));
+    EXPECT_TRUE(index.find(QStringLiteral("A")));
+}
+
 TEST_F(DefinitionsFile, ThatCannotBeWrittenIsAFailure)
 {
     const PROPTEXT text(linesOf("[PROPDEFS]"));
-    setpropdefsfile(m_folder.filePath(QStringLiteral("missing/PROPDEFS.INI")));
-    EXPECT_FALSE(save_defaultdefs(text));
+    write("[PROPDEFS]\n");
+    setpropdefsfile(path() + QStringLiteral("/below/PROPDEFS.INI"));
+    EXPECT_FALSE(save_defaultdefs(text)) << "a file is no folder";
     setpropdefsfile({});
     EXPECT_FALSE(save_defaultdefs(text));
     setpropdefsfile(m_folder.path());
