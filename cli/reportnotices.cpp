@@ -72,9 +72,11 @@ QStringList markNotices(OpenDesign &design)
     if (const qsizetype count = ledger.excluded(); count > 0) {
         const qsizetype notFitted = ledger.excludedNotFitted();
         notices.append(counted(count, QStringLiteral("part is"), QStringLiteral("parts are")) +
-                       QStringLiteral(" excluded from the bill of materials, ") +
-                       (notFitted == 0 ? QStringLiteral("none") : QString::number(notFitted)) +
-                       QStringLiteral(" of them not fitted (bom check names them)"));
+                       QStringLiteral(" excluded from the bill of materials") +
+                       (notFitted == 0 ? QString()
+                                       : QStringLiteral(", ") + QString::number(notFitted) +
+                                             QStringLiteral(" of them not fitted")) +
+                       QStringLiteral(" (bom check names them)"));
     }
     if (const qsizetype count = ledger.notAnnotated().size(); count > 0) {
         notices.append(counted(count, QStringLiteral("symbol is"), QStringLiteral("symbols are")) +
