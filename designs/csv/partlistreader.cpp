@@ -44,6 +44,18 @@ bool saysNotFitted(std::string_view text)
                                 [said](std::string_view word) { return equalIgnoringCase(said, word); });
 }
 
+QString counted(std::size_t references)
+{
+    return references == 1 ? QStringLiteral("1 reference") : QStringLiteral("%1 references").arg(references);
+}
+
+/// Whether the column marks the parts in it by having contents: an empty cell is no property then.
+bool isMarkerHeading(std::string_view heading)
+{
+    return equalIgnoringCase(heading, "BOMSKIP") || equalIgnoringCase(heading, "BOMLINKS") ||
+           equalIgnoringCase(heading.substr(0, 7), "BOMPART");
+}
+
 /// The number of a quantity cell; "3.0" and "3,00" are 3.
 std::optional<quint64> quantityOf(std::string_view text)
 {
@@ -106,6 +118,8 @@ private:
         return false;
     }
 
+    [[nodiscard]] int headingLine() const { return int(m_file.rows()[m_list->m_columns.headingRow].line); }
+
     void describe()
     {
         const QFileInfo info(m_path);
@@ -122,12 +136,16 @@ private:
         const PartListColumns &columns = m_list->m_columns;
         PropertyNames &names = m_list->m_names;
         m_list->m_referenceName = names.intern(columns.names[columns.reference]);
+        if (!columns.value) {
+            m_list->m_warnings.push_back({{}, headingLine(), QStringLiteral("there is no value column")});
+        }
         m_list->m_valueName = names.intern(columns.value ? columns.names[*columns.value] : "Value");
         names.setAlias("VALUE", m_list->m_valueName);
         for (std::size_t column = 0; column < columns.names.size(); ++column) {
             if (columns.isProperty(column)) {
-                m_columns.push_back({column, equalIgnoringCase(columns.names[column], "DNP")});
-                m_properties.push_back({names.intern(columns.names[column]), {}});
+                const std::string &name = columns.names[column];
+                m_columns.push_back(
+                    {column, names.intern(name), equalIgnoringCase(name, "DNP"), isMarkerHeading(name)});
             }
         }
         if (columns.footprint) {
@@ -210,7 +228,8 @@ private:
         if (quantity != named) {
             warn(row, &m_quantity,
                  QStringLiteral("the quantity is ") + inMessage(text) +
-                     QStringLiteral(", but the row names %1 reference(s): the references count").arg(named));
+                     QStringLiteral(", but the row names ") + counted(named) +
+                     QStringLiteral(": the references count"));
         }
     }
 
@@ -222,14 +241,23 @@ private:
         component.value = value ? textAt(row, *value) : std::string_view();
         component.line = row.line;
         component.origin = index;
-        for (std::size_t i = 0; i < m_columns.size(); ++i) {
-            m_properties[i].value = textAt(row, m_columns[i].column);
-            if (m_columns[i].marksNotFitted && saysNotFitted(m_properties[i].value)) {
+        m_properties.clear();
+        for (const PropertyColumn &column : m_columns) {
+            const std::string_view text = textAt(row, column.column);
+            if (column.marksNotFitted && saysNotFitted(text)) {
                 component.notFitted = MarkedBy::Property;
+            }
+            if (!column.isMarker || !trimmed(text).empty()) {
+                m_properties.push_back({column.name, text});
             }
         }
         component.properties = m_list->m_arena.copy(std::span<const Property>(m_properties));
         for (const std::string_view reference : m_cell.references()) {
+            if (reference.starts_with('#')) {
+                m_firstPowerLine = m_firstPowerLine > 0 ? m_firstPowerLine : int(row.line);
+                ++m_list->m_symbols.power;
+                continue;
+            }
             component.reference = reference;
             m_list->m_components.push_back(component);
         }
@@ -237,11 +265,18 @@ private:
 
     void finish()
     {
-        m_list->m_symbols.placed = qsizetype(m_list->m_components.size());
-        if (m_list->m_components.empty()) {
-            const CsvRow &headings = m_file.rows()[m_list->m_columns.headingRow];
+        SymbolCount &symbols = m_list->m_symbols;
+        symbols.placed = qsizetype(m_list->m_components.size()) + symbols.power;
+        if (symbols.power > 0) {
             m_list->m_warnings.push_back(
-                {{}, int(headings.line), QStringLiteral("no part follows the headings")});
+                {{},
+                 m_firstPowerLine,
+                 counted(std::size_t(symbols.power)) +
+                     QStringLiteral(" with a \"#\" in front, the first one here: such are no parts and are "
+                                    "left out")});
+        }
+        if (m_list->m_components.empty()) {
+            m_list->m_warnings.push_back({{}, headingLine(), QStringLiteral("no part follows the headings")});
         }
         if (m_file.dialect().encoding == CsvDialect::Encoding::Windows1252) {
             m_list->m_warnings.push_back({{},
@@ -278,7 +313,9 @@ private:
     struct PropertyColumn
     {
         std::size_t column = 0;
+        NameId name = 0;
         bool marksNotFitted = false;
+        bool isMarker = false;
     };
 
     QString m_path;
@@ -288,6 +325,8 @@ private:
     Problem m_error;
     std::vector<PropertyColumn> m_columns;
     std::vector<Property> m_properties;
+    /// Of the first reference that begins with "#".
+    int m_firstPowerLine = 0;
     WarningKind m_short{
         QStringLiteral("%1 more rows, the last one here, have fewer cells than there are headings")};
     WarningKind m_quantity{
@@ -295,8 +334,9 @@ private:
                        "number of their references")};
 };
 
-ReadResult readPartList(const QString &path, const ReadOptions &options, const CsvLimits &limits)
+ReadResult readPartList(const QString &file, const ReadOptions &options, const CsvLimits &limits)
 {
+    const QString path = QFileInfo(file).absoluteFilePath();
     if (!options.variant.isEmpty()) {
         return {nullptr,
                 {path, 0,
@@ -305,12 +345,12 @@ ReadResult readPartList(const QString &path, const ReadOptions &options, const C
     }
     Problem error;
     std::optional<QByteArray> bytes = CsvFile::load(path, &error, limits);
-    std::optional<CsvFile> file = bytes ? CsvFile::parse(std::move(*bytes), &error, limits) : std::nullopt;
-    if (!file) {
+    std::optional<CsvFile> table = bytes ? CsvFile::parse(std::move(*bytes), &error, limits) : std::nullopt;
+    if (!table) {
         error.file = path;
         return {nullptr, error};
     }
-    return PartListReader(path, std::move(*file)).run();
+    return PartListReader(path, std::move(*table)).run();
 }
 
 } // namespace designs

@@ -87,6 +87,32 @@ quint64 numberOf(std::string_view digits)
     return result.ec == std::errc() ? value : unreadable;
 }
 
+/// A letter, then digits, then perhaps more letters and digits: "R1", "U3A".
+bool isLikeReference(std::string_view text)
+{
+    const auto digit = std::ranges::find_if(text, isDigit);
+    return digit != text.begin() && digit != text.end() && std::all_of(text.begin(), digit, isLetter) &&
+           std::all_of(digit, text.end(), [](char c) { return isLetter(c) || isDigit(c); });
+}
+
+/// True when all that the dashes of the text part are like references: "R1A-R3B", "R1-R3-R5".
+bool joinsReferences(std::string_view text)
+{
+    if (text.find('-') == std::string_view::npos) {
+        return false;
+    }
+    while (true) {
+        const std::size_t dash = text.find('-');
+        if (!isLikeReference(text.substr(0, dash))) {
+            return false;
+        }
+        if (dash == std::string_view::npos) {
+            return true;
+        }
+        text.remove_prefix(dash + 1);
+    }
+}
+
 /// True when zeros in front of the last number speak against a range from the first: 1 to 02, but not 01 to
 /// 02.
 bool hasOddZeros(std::string_view first, std::string_view last)
@@ -313,6 +339,12 @@ bool ReferenceCell::addSingle(std::string_view text)
     const auto names = [](char c) { return isLetter(c) || isDigit(c); };
     if (std::ranges::none_of(text, names)) {
         return fail(text, QStringLiteral("is no reference: name the part, or delete the row if it is none"));
+    }
+    if (text.ends_with('-')) {
+        return fail(text, QStringLiteral("is a range without an end"));
+    }
+    if (joinsReferences(text)) {
+        return fail(text, QStringLiteral("is no range that can be read: write its references one by one"));
     }
     if (m_references.size() >= m_limit) {
         return fail(text, QStringLiteral("is one reference too many: a cell may name %1").arg(m_limit));

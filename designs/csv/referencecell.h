@@ -28,6 +28,8 @@ namespace designs {
 /// "U1/A", "CH1/R5". As a bare number behind a dash can also be part of a name, it ends a range only if it is
 /// higher than the first and not written with zeros that the first lacks: "X1-2" is X1 and X2, "J4-1" and
 /// "X1-02" are one reference each. Decimal points never belong to a range.
+/// What joins references by dashes without being a range ("R1A-R3B", "R1-R3-R5"), or ends with a dash, is an
+/// error.
 class ReferenceCell final
 {
 public:

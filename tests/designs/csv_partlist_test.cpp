@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -142,6 +143,39 @@ TEST_F(PartListTest, MarksPartsThatAreNotFitted)
     EXPECT_THAT(notFitted, ElementsAre("R7", "R8", "R9"));
 }
 
+TEST_F(PartListTest, ReadsAnEmptyMarkerCellAsNoProperty)
+{
+    const ReadResult result =
+        read("Ref,Value,BomSkip,bomlinks,BOMPART1,BOMPARTS,Note\nR1,1k,,\" \",,,\nR2,1k,1,a,b,c,d\nR3,1k\n");
+    ASSERT_TRUE(result.design) << result.error.message().toStdString();
+    EXPECT_THAT(described(*result.design),
+                ElementsAre("R1=1k@2 Note:", "R2=1k@3 BomSkip:1 bomlinks:a BOMPART1:b BOMPARTS:c Note:d",
+                            "R3=1k@4 Note:"));
+}
+
+TEST_F(PartListTest, LeavesOutReferencesWithANumberSign)
+{
+    const ReadResult result = read("Ref,Value,Qty\nR1 #FLG1,1k,2\n\"#PWR1-3,#PWR07\",GND,4\nR2,1k,1\n");
+    ASSERT_TRUE(result.design) << result.error.message().toStdString();
+    EXPECT_THAT(described(*result.design), ElementsAre("R1=1k@2", "R2=1k@4"));
+    EXPECT_EQ(result.design->symbols().power, 5);
+    EXPECT_EQ(result.design->symbols().placed, 7);
+    EXPECT_THAT(warningsOf(*result.design), ElementsAre(testing::StartsWith("2: 5 references with a \"#\"")));
+}
+
+TEST_F(PartListTest, NamesTheSameFileInEveryMessage)
+{
+    const QString relative = QDir::current().relativeFilePath(write("Ref,Qty\nR1,5\n"));
+    const ReadResult result = designs::readPartList(relative);
+    ASSERT_TRUE(result.design);
+    ASSERT_EQ(result.design->warnings().size(), 2U);
+    for (const Problem &warning : result.design->warnings()) {
+        EXPECT_EQ(warning.file, result.design->files().first());
+    }
+    write("Ref\nR1-\n");
+    EXPECT_EQ(designs::readPartList(relative).error.file, result.design->files().first());
+}
+
 TEST_F(PartListTest, KeepsRepeatedReferencesApart)
 {
     const ReadResult result = read("Ref,Value\nR1,1k\nR1,2k\n\n  ,\nR2,3k\n");
@@ -167,6 +201,7 @@ TEST_F(PartListTest, RefusesWhatWouldLoseSomething)
         {"Ref,Value\nR1,1k\nTotal: 5\n - ,2\n", 4, "is no reference"},
         {"Ref,Value\nR1,1k\nR2,\"a\nb\"\nR3,1,5\n", 5, "3 cells, but there are 2 headings"},
         {"Ref,Value\nR5-R2,1k\n", 2, "runs backwards"},
+        {"Ref,Value\nR1,1k\nR2A-R5B,1k\n", 3, "\"R2A-R5B\" is no range"},
         {"Ref,Value\n\"R1,1k\n", 2, "never closed"},
         {"Ref,Value,VALUE\nR1,1,2\n", 1, "2 \"Value\" and 3 \"VALUE\" have the same meaning"},
         {"Ref,Value,ref\nR1,1,2\n", 1, "have the same meaning"},
@@ -203,9 +238,9 @@ TEST_F(PartListTest, WarnsAndGoesOn)
     ASSERT_TRUE(result.design) << result.error.message().toStdString();
     EXPECT_THAT(
         warningsOf(*result.design),
-        ElementsAre("2: the quantity is \"3\", but the row names 2 reference(s): the references count",
+        ElementsAre("2: the quantity is \"3\", but the row names 2 references: the references count",
                     "3: the row has only 1 of 3 cells: the others are read as empty",
-                    "5: the quantity is \"two\", but the row names 1 reference(s): the references count"));
+                    "5: the quantity is \"two\", but the row names 1 reference: the references count"));
     EXPECT_EQ(result.design->warnings()[0].file, m_folder.filePath(QStringLiteral("list.csv")));
 }
 
@@ -225,8 +260,9 @@ TEST_F(PartListTest, WarnsWhenNoPartFollowsOrTwoColumnsNameReferences)
 {
     const ReadResult result = read("Ref,Designator\n");
     ASSERT_TRUE(result.design);
-    EXPECT_THAT(warningsOf(*result.design), ElementsAre(testing::HasSubstr("2 \"Designator\" and 1 \"Ref\""),
-                                                        testing::HasSubstr("no part follows")));
+    EXPECT_THAT(warningsOf(*result.design),
+                ElementsAre(testing::HasSubstr("2 \"Designator\" and 1 \"Ref\""),
+                            "1: there is no value column", testing::HasSubstr("no part follows")));
 }
 
 TEST_F(PartListTest, CountsReferencesAnew)
@@ -238,7 +274,7 @@ TEST_F(PartListTest, CountsReferencesAnew)
         "Ref;V\nR1 - R3, R5- R6 R8 -9;\nR1,2,5-7,9-R11;\nR08-R11, "
         "R7-R7;\nU1A2-U1A4;\nX1-2;\nR1\u2013R3\u3001R5\u00A0R6;\n",
         "Ref|V\nJ1-A TP-1 TP-1-2|\nJ4-1, 5-8|\nX1-02 J1-1|\nU1/A CH1/R5 R? J?-2|\n12, 1-4 1.5-2|\nR1.5-8 +5V "
-        "V- #PWR01|\n",
+        "-V #PWR01, #PWR2-4|\n",
         "Ref\tV\nR1\x96R4\t\n C2\xA0 C3 \t\n",
         "Ref\n\"R1\n\"\"-J\"\n",
         "Value,Ref\n5\"\" cable,W1\n \"x\" , \"W2 W3\" \n",
@@ -247,8 +283,9 @@ TEST_F(PartListTest, CountsReferencesAnew)
         const ReadResult result = read(bytes);
         ASSERT_TRUE(result.design) << bytes << result.error.message().toStdString();
         Problem error;
-        EXPECT_EQ(result.design->recount(&error).placed, qsizetype(result.design->components().size()))
-            << bytes;
+        const designs::SymbolCount symbols = result.design->symbols();
+        EXPECT_EQ(result.design->recount(&error).placed, symbols.placed) << bytes;
+        EXPECT_EQ(symbols.placed - symbols.power, qsizetype(result.design->components().size())) << bytes;
         EXPECT_TRUE(error.text.isEmpty());
     }
 }

@@ -56,7 +56,7 @@ TEST(ReferenceCell, LeavesOddNamesWhole)
     for (const std::string_view name : {"J1-A", "TP-1", "TP-1-2", "J4-1",   "X1-02",
                                         "J1-1", "U1/A", "CH1/R5", "R?",     "J?-2",
                                         "12",   "1-4",  "1.5-2",  "R1.5-8", "R1.5-R1.8",
-                                        "+5V",  "V-",   "#PWR01", "U1A",    "R99999999999999999999",
+                                        "+5V",  "-V",   "#PWR01", "U1A",    "R99999999999999999999",
                                         "/",    "-"}) {
         designs::TextArena arena;
         ReferenceCell cell(arena);
@@ -91,6 +91,10 @@ TEST(ReferenceCell, RefusesUnclearRanges)
         {"R99999999999999999999-R99999999999999999999", "more than 100000 references"},
         {"R1-R60000,C1-C60000", "\"C1-C60000\" makes more"},
         {"R1, --", "is no reference"},
+        {"R1A-R3B", "\"R1A-R3B\" is no range"},
+        {"C1 R1-R3A", "\"R1-R3A\" is no range"},
+        {"R1-R3-R5", "\"R1-R3-R5\" is no range"},
+        {"U1A-", "without an end"},
     };
     for (const auto &c : cases) {
         designs::TextArena arena;
