@@ -271,9 +271,9 @@ private:
             m_list->m_warnings.push_back(
                 {{},
                  m_firstPowerLine,
-                 counted(std::size_t(symbols.power)) +
-                     QStringLiteral(" with a \"#\" in front, the first one here: such are no parts and are "
-                                    "left out")});
+                 QStringLiteral(
+                     "references that begin with \"#\" are no parts: %1 left out, the first one here")
+                     .arg(symbols.power)});
         }
         if (m_list->m_components.empty()) {
             m_list->m_warnings.push_back({{}, headingLine(), QStringLiteral("no part follows the headings")});
