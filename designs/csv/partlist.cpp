@@ -84,18 +84,18 @@ private:
 class ReferenceCounter
 {
 public:
-    [[nodiscard]] qsizetype count(QString cell) const
+    void count(QString cell, SymbolCount *symbols) const
     {
         cell.replace(m_blanks, QStringLiteral(" "));
         cell.replace(m_dashes, QStringLiteral("-"));
         cell.replace(m_spacedDash, QStringLiteral("-"));
-        qsizetype sum = 0;
         QString prefix;
         const QStringList tokens = cell.split(m_separators, Qt::SkipEmptyParts);
         for (const QString &token : tokens) {
-            sum += ofToken(token, &prefix);
+            const qsizetype named = ofToken(token, &prefix);
+            symbols->placed += named;
+            symbols->power += token.startsWith(u'#') || prefix.startsWith(u'#') ? named : 0;
         }
-        return sum;
     }
 
 private:
@@ -164,8 +164,7 @@ SymbolCount PartList::recount(Problem *error) const
     ColumnWalker(m_dialect.delimiter, m_columns.reference)
         .walk(text, [&](std::size_t row, const std::string &cell) {
             if (row > m_columns.headingRow && !cell.empty()) {
-                count.placed +=
-                    counter.count(QString::fromStdString(recode ? utf8FromWindows1252(cell) : cell));
+                counter.count(QString::fromStdString(recode ? utf8FromWindows1252(cell) : cell), &count);
             }
         });
     return count;

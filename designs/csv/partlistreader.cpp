@@ -271,9 +271,9 @@ private:
             m_list->m_warnings.push_back(
                 {{},
                  m_firstPowerLine,
-                 counted(std::size_t(symbols.power)) +
-                     QStringLiteral(" with a \"#\" in front, the first one here: such are no parts and are "
-                                    "left out")});
+                 QStringLiteral(
+                     "references that begin with \"#\" are no parts: %1 left out, the first one here")
+                     .arg(symbols.power)});
         }
         if (m_list->m_components.empty()) {
             m_list->m_warnings.push_back({{}, headingLine(), QStringLiteral("no part follows the headings")});
@@ -334,23 +334,23 @@ private:
                        "number of their references")};
 };
 
-ReadResult readPartList(const QString &file, const ReadOptions &options, const CsvLimits &limits)
+ReadResult readPartList(const QString &path, const ReadOptions &options, const CsvLimits &limits)
 {
-    const QString path = QFileInfo(file).absoluteFilePath();
+    const QString absolutePath = QFileInfo(path).absoluteFilePath();
     if (!options.variant.isEmpty()) {
         return {nullptr,
-                {path, 0,
+                {absolutePath, 0,
                  QStringLiteral("a part list has no variants: leave out the variant ") +
                      inMessage(options.variant.toStdString())}};
     }
     Problem error;
-    std::optional<QByteArray> bytes = CsvFile::load(path, &error, limits);
-    std::optional<CsvFile> table = bytes ? CsvFile::parse(std::move(*bytes), &error, limits) : std::nullopt;
-    if (!table) {
-        error.file = path;
+    std::optional<QByteArray> bytes = CsvFile::load(absolutePath, &error, limits);
+    std::optional<CsvFile> file = bytes ? CsvFile::parse(std::move(*bytes), &error, limits) : std::nullopt;
+    if (!file) {
+        error.file = absolutePath;
         return {nullptr, error};
     }
-    return PartListReader(path, std::move(*table)).run();
+    return PartListReader(absolutePath, std::move(*file)).run();
 }
 
 } // namespace designs

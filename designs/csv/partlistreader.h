@@ -12,13 +12,16 @@ namespace designs {
 ///
 /// Each reference becomes a component; a reference that stands in several rows becomes several. The
 /// properties are the cells of all columns but reference, value and quantity under their headings, empty
-/// cells included; the footprint can be asked for as PACKAGE, the value as VALUE. A column DNP (any letter
-/// case) marks the parts that are not fitted, by any text but 0, no, n, false and ~.
+/// cells included except in BOMSKIP, BOMLINKS and BOMPART..., which mark a part by having a text; the
+/// footprint can be asked for as PACKAGE, the value as VALUE. A column DNP (any letter case) marks the parts
+/// that are not fitted, by any text but 0, no, n, false and ~. References that begin with
+/// "#" are no components: they are counted as power symbols.
 ///
 /// Errors are what would lose a part or a text: a row that says something but names no reference, texts
 /// behind the last column, references that cannot be understood, more than 2,000,000 components, and what the
 /// file itself refuses. Warnings are rows with too few cells, quantities that differ from the number of
-/// references, and headings that had to be settled by choice.
+/// references, references that begin with "#", a missing value column, and headings that had to be settled by
+/// choice. All of them name the file by its absolute path.
 [[nodiscard]] ReadResult readPartList(const QString &path, const ReadOptions &options = {},
                                       const CsvLimits &limits = {});
 
