@@ -147,6 +147,8 @@ public:
 
     void findNotAnnotated() { m_check.findings << m_ledger.notAnnotated(); }
 
+    void findDefinedParts() { m_check.findings << definedPartNotices(m_design); }
+
     void findWarnings()
     {
         // A board file that cannot be read is noticed when the first part is looked up.
@@ -267,6 +269,7 @@ DesignCheck checkDesign(OpenDesign &design, const QStringList &required)
     checker.findNotAnnotated();
     checker.findRepeated();
     checker.findReplacedLines();
+    checker.findDefinedParts();
     checker.findWarnings();
     checker.findNotes();
     for (const QString &name : required) {

@@ -85,6 +85,7 @@ ExitStatus ReportCommand::run()
     }
     tell(markNotices(design));
     tell(notFittedNotices(design));
+    tell(definedPartNotices(design));
     for (const Output &output : outputs) {
         tell(replacedLineNotices(design, !output.isFull));
     }

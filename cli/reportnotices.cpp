@@ -5,8 +5,13 @@
 #include "cli/console.h"
 #include "cli/opendesign.h"
 #include "cli/referencetext.h"
+#include "host/netlist/proplist.h"
+#include "standalone/loadeddesign.h"
 
 #include <QSet>
+
+#include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -83,6 +88,34 @@ QStringList markNotices(OpenDesign &design)
                        QStringLiteral(" not annotated (bom check names them)"));
     }
     return notices;
+}
+
+QStringList definedPartNotices(OpenDesign &design)
+{
+    std::vector<PROPNAME> names;
+    for (const QByteArray &name : design.design().properties().allNames()) {
+        if (name.startsWith("BOMPART")) {
+            names.emplace_back(name);
+        }
+    }
+    QStringList parents;
+    const PartsLedger ledger = design.ledger();
+    const auto components = design.design().components();
+    for (qsizetype i = 0; !names.empty() && i < ledger.components(); ++i) {
+        const PROPLIST &properties = *components[std::size_t(i)]->properties;
+        const auto defines = [&properties](const PROPNAME &name) {
+            return properties.find(name).has_value();
+        };
+        if (ledger.isListed(i) && std::any_of(names.begin(), names.end(), defines)) {
+            parents.append(ledger.reference(i));
+        }
+    }
+    if (parents.isEmpty()) {
+        return {};
+    }
+    return {
+        QStringLiteral("parts that properties BOMPART... define are not in the bill; they are defined on ") +
+        referenceText(parents)};
 }
 
 QString replacedLineNotice(const ReplacedLine &replaced, bool grouped)

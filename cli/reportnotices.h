@@ -14,6 +14,10 @@ struct ReplacedLine;
 /// each.
 [[nodiscard]] QStringList markNotices(OpenDesign &design);
 
+/// The parts that define others by a property whose name begins with BOMPART: those others are in no report.
+/// One sentence, nothing when there are none.
+[[nodiscard]] QStringList definedPartNotices(OpenDesign &design);
+
 /// Why a line, or part where they are listed one by one, is not in the report: another one begins with a
 /// reference that compares equal, as R01 and R1 do.
 [[nodiscard]] QString replacedLineNotice(const ReplacedLine &replaced, bool grouped);

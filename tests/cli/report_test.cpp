@@ -41,6 +41,17 @@ TEST_F(Report, WritesEachOutputToItsFileAndNothingElse)
     EXPECT_EQ(run("report list.csv --full-csv - --csv lines.csv").out, read(QStringLiteral("parts.csv")));
 }
 
+TEST_F(Report, SaysWhichPartsDefineOthersThatItDoesNotHold)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value,BOMPART1\nR1,10k,\"'2','SCR','M3'\"\nR2,10k,\n");
+    const ProgramRun result = run("report list.csv");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.err, HasSubstr("BOMPART... define are not in the bill; they are defined on R1\n"));
+    EXPECT_EQ(run("check list.csv").status, 1);
+    write(QStringLiteral("plain.csv"), "Reference,Value,BOMPART1\nR1,10k,\n");
+    EXPECT_EQ(run("report plain.csv").err, "");
+}
+
 TEST_F(Report, WritesNumbersInTheLocaleThatIsAskedFor)
 {
     write(QStringLiteral("list.csv"), "Reference,Value,COST\nR1,10k,1234.5\n");
