@@ -3,7 +3,7 @@
 #include "cli/outputfile.h"
 
 #include "cli/console.h"
-#include "views/reportfile.h"
+#include "host/framework/reportfile.h"
 
 #include <QFileInfo>
 

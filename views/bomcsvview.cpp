@@ -5,7 +5,7 @@
 #include "core/bompartsdatabase.h"
 #include "host/framework/hostui.h"
 #include "views/csvtext.h"
-#include "views/reportfile.h"
+#include "host/framework/reportfile.h"
 
 #include <QFileInfo>
 #include <QUrl>

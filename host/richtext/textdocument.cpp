@@ -2,41 +2,101 @@
 // SPDX-License-Identifier: MIT
 #include "host/richtext/textdocument.h"
 
+#include "host/richtext/documentmarkup.h"
+#include "host/richtext/pagegeometry.h"
+#include "host/richtext/stylesheet.h"
+
+#include <QTextFrame>
+#include <QTextFrameFormat>
+
+namespace {
+
+constexpr double pointsPerPixel = 0.75;
+
+/// QTextDocument leaves the margins of the body to its root frame.
+void applyBodyMargins(QTextDocument &document, const StyleSheet &css)
+{
+    const QMarginsF margins = marginsInPoints(css, QStringLiteral("body")) / pointsPerPixel;
+    QTextFrameFormat format = document.rootFrame()->frameFormat();
+    format.setLeftMargin(margins.left());
+    format.setTopMargin(margins.top());
+    format.setRightMargin(margins.right());
+    format.setBottomMargin(margins.bottom());
+    document.rootFrame()->setFrameFormat(format);
+}
+
+} // namespace
+
 TextDocument::TextDocument(QObject *parent)
     : QTextDocument(parent)
 {
+    setDocumentMargin(0);
 }
 
 TextDocument::~TextDocument() = default;
 
-void TextDocument::loadHtml(const QString &xhtml)
+void TextDocument::setSource(const QString &xhtml)
 {
     m_source = xhtml;
-    show();
-}
-
-QString TextDocument::getHtml() const
-{
-    return isModified() ? toHtml() : m_source;
-}
-
-void TextDocument::loadCss(const QString &css, bool preview)
-{
-    m_shownCss = css;
-    if (!preview) {
-        m_css = css;
-    }
-    show();
-}
-
-void TextDocument::highlightSelector(const QString &selector)
-{
-    m_highlighted = selector;
-    show();
+    m_css = takeApart(xhtml).css;
+    m_shownCss = m_css;
+    m_title.clear();
+    m_isShown = false;
+    setModified(false);
 }
 
 void TextDocument::show()
 {
-    setHtml(m_source);
+    if (!m_isShown) {
+        makeContent();
+    }
+}
+
+void TextDocument::setTitle(const QString &title)
+{
+    m_title = title;
+    setMetaInformation(DocumentTitle, title);
+}
+
+QString TextDocument::getHtml() const
+{
+    const DocumentParts parts = takeApart(m_source);
+    const QString body = isModified() ? toHtml() : QString();
+    return parts.css == m_css ? m_source : parts.head + m_css + parts.tail;
+}
+
+void TextDocument::loadCss(const QString &css, bool preview)
+{
+    const bool isSame = css == m_shownCss;
+    m_shownCss = css;
+    if (!preview) {
+        m_css = css;
+    }
+    if (m_isShown && !isSame) {
+        makeContent();
+    }
+}
+
+void TextDocument::highlightSelector(const QString &selector)
+{
+    const bool isSame = selector == m_highlighted;
+    m_highlighted = selector;
+    if (m_isShown && !isSame) {
+        makeContent();
+    }
+}
+
+void TextDocument::makeContent()
+{
+    m_isShown = true;
+    const StyleSheet css(m_shownCss);
+    const bool keepsUndo = isUndoRedoEnabled();
+    setUndoRedoEnabled(false);
+    setHtml(shownMarkup(m_source, css, Medium::Window, m_highlighted));
+    applyBodyMargins(*this, css);
+    setUndoRedoEnabled(keepsUndo);
+    if (!m_title.isEmpty()) {
+        setMetaInformation(DocumentTitle, m_title);
+    }
     setModified(false);
 }

@@ -5,7 +5,8 @@
 #include <QString>
 #include <QTextDocument>
 
-/// A rich-text document that remembers the XHTML text and the style sheet it was made from.
+/// A rich-text document that remembers the XHTML text and the style sheet it was made from. The content is made
+/// when it is first shown; before that the document is empty.
 class TextDocument : public QTextDocument
 {
     Q_OBJECT
@@ -14,15 +15,24 @@ public:
     explicit TextDocument(QObject *parent = nullptr);
     ~TextDocument() override;
 
-    /// Shows an XHTML document in the look of the style sheet in its head.
-    void loadHtml(const QString &xhtml);
+    /// Takes an XHTML document, with the style sheet in its head. Nothing is shown before show().
+    void setSource(const QString &xhtml);
+    /// Makes the content from the source, if that was not done yet.
+    void show();
+    [[nodiscard]] bool isShown() const { return m_isShown; }
 
-    /// The text as it was loaded, with the style sheet as it is now; once the document was edited, an XHTML
-    /// document made from its content.
+    /// The document's own title instead of that of its head; it outlives a new look, not a new source.
+    void setTitle(const QString &title);
+
+    /// The text as it was taken, with the style sheet as it is now; once the content was edited, an XHTML
+    /// document made from it.
     [[nodiscard]] QString getHtml() const;
 
     /// The style sheet, without what is only previewed.
     [[nodiscard]] QString getCss() const { return m_css; }
+
+    /// The class of the paragraphs that people write, for a document that is edited.
+    void setParagraphClass(const QString &name) { m_paragraphClass = name; }
 
 public Q_SLOTS:
     /// Shows the document in the look of another style sheet. It becomes the document's own unless it is only
@@ -32,10 +42,13 @@ public Q_SLOTS:
     void highlightSelector(const QString &selector);
 
 private:
-    void show();
+    void makeContent();
 
     QString m_source;
     QString m_css;
     QString m_shownCss;
     QString m_highlighted;
+    QString m_title;
+    QString m_paragraphClass;
+    bool m_isShown = true;
 };

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "views/reportfile.h"
+#include "host/framework/reportfile.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "host/richtext/documentmarkup.h"
+
+#include "host/richtext/boxrules.h"
+#include "host/richtext/stylesheet.h"
+#include "host/richtext/tagscanner.h"
+
+namespace {
+
+constexpr auto highlightColour = "#ffe08a";
+
+/// Copies a body, changing what its tags say.
+class MarkupWriter final
+{
+public:
+    MarkupWriter(QStringView body, const BoxRules &boxes, Medium medium)
+        : m_tags(body)
+        , m_boxes(boxes)
+        , m_medium(medium)
+    {
+        m_result.reserve(body.size() + body.size() / 4);
+    }
+
+    QString rewrite()
+    {
+        while (const auto tag = m_tags.next()) {
+            m_result += tag->textBefore;
+            write(*tag);
+        }
+        m_result += m_tags.rest();
+        return m_result;
+    }
+
+private:
+    void write(const Tag &tag)
+    {
+        if (tag.isCell() && !tag.isEnd) {
+            writeCell(tag);
+        } else if (tag.is(u"table")) {
+            writeTable(tag);
+        } else if (tag.is(u"tbody") && m_isSplit) {
+            writeSection(tag);
+        } else if (tag.is(u"tr") && !tag.isEnd) {
+            writeRow(tag);
+        } else if (tag.isParagraph()) {
+            writeParagraph(tag);
+        } else {
+            m_result += tag.text;
+        }
+    }
+
+    void writeCell(const Tag &tag)
+    {
+        m_result += tag.text;
+        const auto content = m_tags.peek();
+        m_isCellStart = content && content->isParagraph() && !content->isEnd;
+        const QStringView name = m_isCellStart ? content->className() : QStringView();
+        if (m_boxes.isBoxed(name) && !tag.hasClass()) {
+            m_result.chop(1);
+            m_result += QStringLiteral(" class='") + name + QStringLiteral("'>");
+        }
+    }
+
+    void writeTable(const Tag &tag)
+    {
+        m_result += tag.text;
+        if (tag.isEnd) {
+            m_isSplit = false;
+            return;
+        }
+        m_tableStart = tag.text;
+        m_isSplit = m_medium == Medium::Pages && m_tags.hasHeadedSections();
+        m_sections = 0;
+    }
+
+    /// A section of a table becomes a table with its heading rows as head.
+    void writeSection(const Tag &tag)
+    {
+        if (tag.isEnd) {
+            closeHead();
+            m_result += tag.text;
+            return;
+        }
+        if (m_sections++ > 0) {
+            m_result += QStringLiteral("</table>") + m_tableStart;
+        }
+        m_isInHead = m_tags.startsHeadingRow();
+        m_result += m_isInHead ? QStringView(u"<thead>") : tag.text;
+    }
+
+    void closeHead()
+    {
+        if (m_isInHead) {
+            m_isInHead = false;
+            m_result += QStringLiteral("</thead><tbody>");
+        }
+    }
+
+    void writeRow(const Tag &tag)
+    {
+        if (m_isInHead && !m_tags.isBeforeHeadingCell()) {
+            closeHead();
+        }
+        if (!m_isInHead || m_medium == Medium::Window) {
+            writeSpace();
+        }
+        m_result += tag.text;
+    }
+
+    /// The margin above the first paragraph of a row, which cells do not have.
+    void writeSpace()
+    {
+        const auto spanned = m_tags.spanningParagraph();
+        const double margin = spanned ? m_boxes.marginAbove(spanned->className) : 0;
+        if (margin > 0) {
+            m_result += QStringLiteral("<tr><td colspan='") + spanned->columns +
+                        QStringLiteral("' style='font-size:1pt; padding-top:") +
+                        QString::number(margin - 1) + QStringLiteral("pt'></td></tr>");
+        }
+    }
+
+    /// A paragraph with a box that stands in no cell gets one.
+    void writeParagraph(const Tag &tag)
+    {
+        if (tag.isEnd) {
+            m_result += tag.text;
+            if (m_isBoxOpen) {
+                m_isBoxOpen = false;
+                m_result += QStringLiteral("</td></tr></table>");
+            }
+            return;
+        }
+        const QStringView name = tag.className();
+        if (!m_isCellStart && !m_isBoxOpen && m_boxes.isBoxed(name)) {
+            m_isBoxOpen = true;
+            m_result += QStringLiteral("<table width='100%' cellspacing='0' cellpadding='0'><tr><td class='") +
+                        name + QStringLiteral("'>");
+        }
+        m_isCellStart = false;
+        m_result += tag.text;
+    }
+
+    TagScanner m_tags;
+    const BoxRules &m_boxes;
+    Medium m_medium;
+    QString m_result;
+    QStringView m_tableStart;
+    int m_sections = 0;
+    bool m_isSplit = false;
+    bool m_isInHead = false;
+    bool m_isCellStart = false;
+    bool m_isBoxOpen = false;
+};
+
+QString highlightRule(const QString &selector)
+{
+    if (selector.isEmpty()) {
+        return {};
+    }
+    return QStringLiteral("\n") + selector + QStringLiteral(" { background-color: ") +
+           QLatin1String(highlightColour) + QStringLiteral("; }\n");
+}
+
+} // namespace
+
+DocumentParts takeApart(const QString &xhtml)
+{
+    const qsizetype element = xhtml.indexOf(QLatin1String("<style"), 0, Qt::CaseInsensitive);
+    const qsizetype start = element < 0 ? -1 : xhtml.indexOf(u'>', element) + 1;
+    const qsizetype end = start <= 0 ? -1 : xhtml.indexOf(QLatin1String("</style"), start, Qt::CaseInsensitive);
+    if (end >= 0) {
+        return {xhtml.left(start), xhtml.mid(start, end - start), xhtml.mid(end)};
+    }
+    const qsizetype head = xhtml.indexOf(QLatin1String("</head"), 0, Qt::CaseInsensitive);
+    const qsizetype place = head < 0 ? 0 : head;
+    return {xhtml.left(place) + QStringLiteral("<style type=\"text/css\">"), {},
+            QStringLiteral("</style>") + xhtml.mid(place)};
+}
+
+QStringView bodyOf(QStringView xhtml)
+{
+    const qsizetype element = xhtml.indexOf(QLatin1String("<body"), 0, Qt::CaseInsensitive);
+    const qsizetype start = element < 0 ? 0 : xhtml.indexOf(u'>', element) + 1;
+    const qsizetype end = xhtml.lastIndexOf(QLatin1String("</body"), -1, Qt::CaseInsensitive);
+    return xhtml.sliced(start, (end < start ? xhtml.size() : end) - start);
+}
+
+QString shownMarkup(const QString &xhtml, const StyleSheet &css, Medium medium, const QString &highlighted)
+{
+    const DocumentParts parts = takeApart(xhtml);
+    const BoxRules boxes(css);
+    const QStringView body = bodyOf(parts.tail);
+    const qsizetype bodyStart = body.data() - parts.tail.constData();
+    const QStringView tail(parts.tail);
+    return parts.head + css.text() + boxes.cellRules() + highlightRule(highlighted) + tail.first(bodyStart) +
+           MarkupWriter(body, boxes, medium).rewrite() + tail.sliced(bodyStart + body.size());
+}

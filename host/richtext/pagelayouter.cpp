@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "host/richtext/pagelayouter.h"
+
+#include "host/richtext/documentmarkup.h"
+#include "host/richtext/stylesheet.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextFrame>
+#include <QTextTable>
+
+#include <vector>
+
+namespace {
+
+/// Each break lays the rest out again; more sections than this are not looked after.
+constexpr int mostMovedSections = 200;
+
+std::vector<QTextTable *> tablesOf(const QTextDocument &document)
+{
+    std::vector<QTextTable *> tables;
+    for (QTextFrame *frame : document.rootFrame()->childFrames()) {
+        if (auto *table = qobject_cast<QTextTable *>(frame)) {
+            tables.push_back(table);
+        }
+    }
+    return tables;
+}
+
+QRectF cellRect(const QTextDocument &document, const QTextTableCell &cell)
+{
+    return document.documentLayout()->blockBoundingRect(cell.firstCursorPosition().block());
+}
+
+/// The row of a table whose cells span one column each, or -1.
+int plainRow(const QTextTable &table)
+{
+    for (int row = 0; row < table.rows(); ++row) {
+        bool isPlain = true;
+        for (int column = 0; isPlain && column < table.columns(); ++column) {
+            isPlain = table.cellAt(row, column).columnSpan() == 1;
+        }
+        if (isPlain) {
+            return row;
+        }
+    }
+    return -1;
+}
+
+/// The widths of a table's columns in percent; empty when it has no plain row.
+QList<QTextLength> columnWidths(const QTextDocument &document, const QTextTable &table)
+{
+    const int row = plainRow(table);
+    if (row < 0) {
+        return {};
+    }
+    std::vector<double> starts;
+    for (int column = 0; column < table.columns(); ++column) {
+        starts.push_back(cellRect(document, table.cellAt(row, column)).left());
+    }
+    const QRectF frame = document.documentLayout()->frameBoundingRect(const_cast<QTextTable *>(&table));
+    starts.push_back(frame.right() + starts.front() - frame.left());
+    const double whole = starts.back() - starts.front();
+    QList<QTextLength> widths;
+    for (size_t i = 0; whole > 0 && i + 1 < starts.size(); ++i) {
+        widths.append(QTextLength(QTextLength::PercentageLength, 100 * (starts[i + 1] - starts[i]) / whole));
+    }
+    return widths;
+}
+
+/// Gives the tables that were one table in `whole` the columns that they have there.
+void shareColumns(QTextDocument &pages, const QTextDocument &whole)
+{
+    const std::vector<QTextTable *> wholes = tablesOf(whole);
+    auto source = wholes.begin();
+    QList<QTextLength> widths;
+    const QTextTable *measured = nullptr;
+    for (QTextTable *table : tablesOf(pages)) {
+        while (source != wholes.end() && (*source)->columns() != table->columns()) {
+            ++source;
+        }
+        if (source == wholes.end()) {
+            return;
+        }
+        if (measured != *source) {
+            measured = *source;
+            widths = columnWidths(whole, *measured);
+        }
+        if (table->rows() < measured->rows() && !widths.isEmpty()) {
+            QTextTableFormat format = table->format();
+            format.setColumnWidthConstraints(widths);
+            table->setFormat(format);
+        }
+    }
+}
+
+bool startsAtFoot(const QTextDocument &document, const QTextTable &table, double pageHeight)
+{
+    const int headings = table.format().headerRowCount();
+    if (headings == 0 || headings >= table.rows()) {
+        return false;
+    }
+    const double title = cellRect(document, table.cellAt(0, 0)).top();
+    const double firstRow = cellRect(document, table.cellAt(headings, 0)).top();
+    return int(title / pageHeight) != int(firstRow / pageHeight);
+}
+
+void keepHeadingsWithRows(QTextDocument &document, double pageHeight)
+{
+    int moved = 0;
+    for (QTextTable *table : tablesOf(document)) {
+        if (moved < mostMovedSections && startsAtFoot(document, *table, pageHeight)) {
+            ++moved;
+            QTextTableFormat format = table->format();
+            format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+            table->setFormat(format);
+        }
+    }
+}
+
+void fill(QTextDocument &document, const QString &markup, QPaintDevice &device)
+{
+    document.setUndoRedoEnabled(false);
+    document.setDocumentMargin(0);
+    document.setHtml(markup);
+    document.documentLayout()->setPaintDevice(&device);
+}
+
+} // namespace
+
+void layOutPages(QTextDocument &document, const QString &xhtml, QPaintDevice &device, const QSizeF &page)
+{
+    const StyleSheet css(takeApart(xhtml).css);
+    QTextDocument whole;
+    fill(whole, shownMarkup(xhtml, css, Medium::Window), device);
+    whole.setTextWidth(page.width());
+    fill(document, shownMarkup(xhtml, css, Medium::Pages), device);
+    shareColumns(document, whole);
+    document.setPageSize(page);
+    keepHeadingsWithRows(document, page.height());
+}

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDateTime>
+#include <QLocale>
+#include <QRectF>
+#include <QString>
+#include <QTextDocument>
+
+class QPagedPaintDevice;
+class QPainter;
+class StyleSheet;
+
+/// A document as it is to be put on paper.
+struct PagedText
+{
+    /// A whole XHTML document; its style sheet says the look.
+    QString xhtml;
+    QString title;
+    /// Fragments of XHTML for the top and bottom of every page, or empty. {page}, {pages}, {title} and {date}
+    /// stand for the page number, their count, the title and the date.
+    QString header;
+    QString footer;
+};
+
+/// Breaks a document into the pages of a device and paints them. Sections of tables repeat their heading rows
+/// at the top of each page that they reach; links can be clicked where the device knows links.
+class PagePainter final
+{
+public:
+    explicit PagePainter(const PagedText &text);
+
+    /// Breaks it for the device's page; returns the number of pages, at least 1. The device must stay until
+    /// the painting is done.
+    int layOut(QPagedPaintDevice &device);
+
+    /// Paints pages `first` to `last`, counted from 1, each on a page of the device of its own; the painter is
+    /// on the first one. False when the device gives no further page.
+    bool paint(QPainter &painter, int first, int last);
+
+private:
+    [[nodiscard]] QString withPlaceholders(const QString &fragment, int page, int pages) const;
+    [[nodiscard]] QString edgeMarkup(const QString &fragment, int page, int pages) const;
+    [[nodiscard]] double edgeHeight(const QString &fragment) const;
+    void paintPage(QPainter &painter, int page);
+    void paintEdge(QPainter &painter, const QString &fragment, int page, double top, double height) const;
+
+    PagedText m_text;
+    QString m_date;
+    QTextDocument m_document;
+    QPagedPaintDevice *m_device = nullptr;
+    /// The part of the page for the text, in the device's pixels.
+    QRectF m_textArea;
+    double m_headerHeight = 0;
+    double m_footerHeight = 0;
+    int m_pages = 1;
+};
+
+/// Paints plain text on pages of its own, beginning with a new one of the painter's device, in a plain look.
+/// False when the device is none with pages or gives no further page.
+bool paintTextPages(QPainter &painter, const QString &title, const QString &text);
