@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// The text with U+FFFD in place of what XML 1.0 lacks: control characters other than tab, line feed and
+/// carriage return, surrogates without their other half, U+FFFE and U+FFFF. Clean text is not copied.
+[[nodiscard]] QString xmlText(const QString &text);
+
+/// Escaped for the content of an element or an attribute in double quotes, and cleaned as by xmlText(). Text
+/// that needs neither is not copied.
+[[nodiscard]] QString escapedXmlText(const QString &text);
