@@ -205,6 +205,13 @@ void BOMPartsDatabase::setCurrentTemplate(const BOMTemplate &settings)
     applyCategories(m_template.categories());
 }
 
+void BOMPartsDatabase::setTemplateLook(const BOMTemplate &settings)
+{
+    m_template.setCss(settings.css());
+    m_template.setDocumentHeader(settings.documentHeader());
+    m_template.setDocumentFooter(settings.documentFooter());
+}
+
 void BOMPartsDatabase::updateBOMFields(const BOMFields &fields)
 {
     applyFields(fields);

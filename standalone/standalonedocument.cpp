@@ -5,17 +5,13 @@
 #include "host/framework/hosttext.h"
 #include "standalone/environment.h"
 #include "standalone/loadeddesign.h"
+#include "standalone/notesfile.h"
 
-#include <QFile>
 #include <QFileInfo>
-#include <QStringDecoder>
 
 #include <cstring>
 
 namespace {
-
-/// More than any notes that people write; keeps a wrong file from filling the memory.
-constexpr qint64 largestNotes = 16 * 1024 * 1024;
 
 QString modificationText(const QDateTime &modified)
 {
@@ -27,38 +23,6 @@ QString modificationText(const QDateTime &modified)
         shown = std::min(modified.toUTC(), *epoch);
     }
     return shown.toString(QStringLiteral("yyyy-MM-dd HH:mm"));
-}
-
-struct Notes
-{
-    QString text;
-    QString problem;
-};
-
-Notes readNotes(const QString &path)
-{
-    const QFileInfo info(path);
-    if (path.isEmpty() || !info.exists()) {
-        return {};
-    }
-    if (!info.isFile()) {
-        return {{}, QStringLiteral("is no file")};
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return {{}, file.errorString()};
-    }
-    const QByteArray bytes = file.read(largestNotes + 1);
-    if (bytes.size() > largestNotes) {
-        return {{}, QStringLiteral("is larger than 16 MB")};
-    }
-    QStringDecoder decoder(QStringDecoder::Utf8);
-    QString text = decoder(bytes);
-    if (decoder.hasError()) {
-        return {{}, QStringLiteral("is no UTF-8 text")};
-    }
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    return {text, {}};
 }
 
 } // namespace
@@ -118,21 +82,31 @@ QString StandaloneDocument::readattachment(const char *name) const
     if (!name || std::strcmp(name, "BOMNOTES.TXT") != 0) {
         return {};
     }
-    return readNotes(notesFile()).text;
+    return readNotesFile(notesFile()).text;
 }
 
-QString StandaloneDocument::notesFile() const
+QString StandaloneDocument::fileBeside(const QString &suffix) const
 {
     if (!m_design) {
         return {};
     }
     const QFileInfo design(m_design->design().info().file);
-    return design.path() + u'/' + design.completeBaseName() + QStringLiteral(".bomnotes.txt");
+    return design.path() + u'/' + design.completeBaseName() + suffix;
+}
+
+QString StandaloneDocument::notesFile() const
+{
+    return fileBeside(QStringLiteral(".bomnotes.txt"));
+}
+
+QString StandaloneDocument::projectNotesFile() const
+{
+    return fileBeside(QStringLiteral(".projectnotes.txt"));
 }
 
 QString StandaloneDocument::notesProblem() const
 {
     const QString path = notesFile();
-    const QString problem = readNotes(path).problem;
+    const QString problem = readNotesFile(path).problem;
     return problem.isEmpty() ? QString() : path + QStringLiteral(": ") + problem;
 }

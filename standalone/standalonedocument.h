@@ -29,9 +29,13 @@ public:
 
     /// "<design base name>.bomnotes.txt" beside the design; empty without a design.
     [[nodiscard]] QString notesFile() const;
+    /// "<design base name>.projectnotes.txt" beside the design; empty without a design.
+    [[nodiscard]] QString projectNotesFile() const;
     /// "FILE: why" when there is a notes file and it cannot be read as text.
     [[nodiscard]] QString notesProblem() const;
 
 private:
+    [[nodiscard]] QString fileBeside(const QString &suffix) const;
+
     std::shared_ptr<const LoadedDesign> m_design;
 };

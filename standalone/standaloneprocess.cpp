@@ -14,6 +14,7 @@
 StandaloneProcess::StandaloneProcess(StandaloneDocument &document, StandaloneNetlist &netlist)
     : m_document(document)
     , m_netlist(netlist)
+    , m_projectNotes(document)
 {
 }
 
@@ -26,6 +27,12 @@ APPLNDOCUMENT *StandaloneProcess::currentdocument(int kind, const char *name) co
         return nullptr;
     }
     return &m_document;
+}
+
+APPLNOBJECT *StandaloneProcess::currentobject(const char *name, int kind)
+{
+    const bool isAsked = name && std::strcmp(name, "PROJNOTES") == 0 && kind == OBJECT_KIND_PROJECT_NOTES;
+    return m_isOpen && isAsked && m_projectNotes.exist() ? &m_projectNotes : nullptr;
 }
 
 QString StandaloneProcess::getbinpath() const

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/framework/applnprocess.h"
+#include "standalone/projectnotes.h"
 
 class StandaloneDocument;
 class StandaloneNetlist;
@@ -18,6 +19,9 @@ public:
 
     /// The open design when it is asked for without a name, or by its file name.
     [[nodiscard]] APPLNDOCUMENT *currentdocument(int kind, const char *name) const override;
+    /// "PROJNOTES", when a design is open and there are such notes.
+    [[nodiscard]] APPLNOBJECT *currentobject(const char *name, int kind) override;
+    [[nodiscard]] ProjectNotes &projectNotes() { return m_projectNotes; }
     [[nodiscard]] QString getbinpath() const override;
     [[nodiscard]] QString getdatapath(const char *application) const override;
     /// The application "ORIN" offers the netlist server.
@@ -26,5 +30,6 @@ public:
 private:
     StandaloneDocument &m_document;
     StandaloneNetlist &m_netlist;
+    ProjectNotes m_projectNotes;
     bool m_isOpen = false;
 };

@@ -132,8 +132,7 @@ QString BOMView::truncateToFieldWidth(const QString &value, const QString &field
         return {};
     }
     const ReportColumn *wanted = column(fieldName);
-    const int width = wanted ? wanted->field.fieldWidth : 0;
-    return width > 3 && value.size() > width ? value.left(width - 3) + QLatin1String("...") : value;
+    return wanted ? truncated(value, wanted->field) : value;
 }
 
 QString BOMView::cellText(const Part &part, const ReportColumn &column, bool formatted) const
@@ -153,6 +152,12 @@ QString BOMView::formatCell(const QString &value, const ReportColumn &column) co
         }
     }
     return withAffixes(text, column.field);
+}
+
+QString BOMView::truncated(const QString &value, const BOMField &field)
+{
+    const int width = field.fieldWidth;
+    return width > 3 && value.size() > width ? value.left(width - 3) + QLatin1String("...") : value;
 }
 
 const std::vector<ReportColumn> &BOMView::columns() const

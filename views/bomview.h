@@ -77,6 +77,8 @@ protected:
     /// A value as the report shows it: numbers in the user's format, prefix and suffix around it.
     [[nodiscard]] virtual QString formatCell(const QString &value, const ReportColumn &column) const;
 
+    [[nodiscard]] static QString truncated(const QString &value, const BOMField &field);
+
     [[nodiscard]] bool isValid() const { return m_isValid; }
     [[nodiscard]] BOMPartsDatabase *database() const { return m_database; }
     [[nodiscard]] const BOMFields &fields() const { return m_fields; }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/framework/applnobject.h"
+
 #include <QString>
 
 class APPLNDOCUMENT;
@@ -22,6 +24,10 @@ public:
 
     /// The current document of that kind; a null name takes whichever is open. Null when none is.
     [[nodiscard]] virtual APPLNDOCUMENT *currentdocument(int kind, const char *name) const = 0;
+
+    /// The current object of that name and kind, such as the project's notes; null when there is none. It
+    /// stays the process's.
+    [[nodiscard]] virtual APPLNOBJECT *currentobject(const char *name, int kind) = 0;
 
     /// The folder of the program, as the process was started (it may be relative).
     [[nodiscard]] virtual QString getbinpath() const = 0;

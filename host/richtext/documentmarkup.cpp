@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/richtext/documentmarkup.h"
 
-#include "host/richtext/boxrules.h"
+#include "host/richtext/shownstyle.h"
 #include "host/richtext/stylesheet.h"
 #include "host/richtext/tagscanner.h"
+
+#include <QStringBuilder>
+
+#include <algorithm>
 
 namespace {
 
@@ -14,9 +18,9 @@ constexpr auto highlightColour = "#ffe08a";
 class MarkupWriter final
 {
 public:
-    MarkupWriter(QStringView body, const BoxRules &boxes, Medium medium)
+    MarkupWriter(QStringView body, const ShownStyle &style, Medium medium)
         : m_tags(body)
-        , m_boxes(boxes)
+        , m_style(style)
         , m_medium(medium)
     {
         m_result.reserve(body.size() + body.size() / 4);
@@ -34,6 +38,14 @@ public:
 
 private:
     void write(const Tag &tag)
+    {
+        writeTag(tag);
+        if (!(tag.isEnd && tag.isParagraph())) {
+            m_marginBelow = 0;
+        }
+    }
+
+    void writeTag(const Tag &tag)
     {
         if (tag.isCell() && !tag.isEnd) {
             writeCell(tag);
@@ -56,22 +68,26 @@ private:
         const auto content = m_tags.peek();
         m_isCellStart = content && content->isParagraph() && !content->isEnd;
         const QStringView name = m_isCellStart ? content->className() : QStringView();
-        if (m_boxes.isBoxed(name) && !tag.hasClass()) {
+        if (m_style.isBoxed(name) && !tag.hasClass()) {
             m_result.chop(1);
-            m_result += QStringLiteral(" class='") + name + QStringLiteral("'>");
+            m_result += QStringLiteral(" class='") % name % QStringLiteral("'>");
         }
     }
 
     void writeTable(const Tag &tag)
     {
-        m_result += tag.text;
         if (tag.isEnd) {
             m_isSplit = false;
+            m_result += tag.text;
             return;
         }
         m_tableStart = tag.text;
         m_isSplit = m_medium == Medium::Pages && m_tags.hasHeadedSections();
         m_sections = 0;
+        m_marginAboveTable = tag.textBefore.trimmed().isEmpty() ? m_marginBelow : 0;
+        if (!m_isSplit) {
+            writeTableStart(m_marginAboveTable);
+        }
     }
 
     /// A section of a table becomes a table with its heading rows as head.
@@ -83,10 +99,30 @@ private:
             return;
         }
         if (m_sections++ > 0) {
-            m_result += QStringLiteral("</table>") + m_tableStart;
+            m_result += QStringLiteral("</table>");
         }
         m_isInHead = m_tags.startsHeadingRow();
+        writeTableStart(std::max(m_sections == 1 ? m_marginAboveTable : 0, marginAboveSection()));
         m_result += m_isInHead ? QStringView(u"<thead>") : tag.text;
+    }
+
+    /// The margin above the section's first paragraph is that of the table.
+    [[nodiscard]] double marginAboveSection() const
+    {
+        TagScanner row = m_tags;
+        const auto spanned = row.next() ? row.spanningParagraph() : std::nullopt;
+        return spanned ? m_style.marginAbove(spanned->className) : 0;
+    }
+
+    /// Tables take the margin below the paragraph before, which QTextDocument drops.
+    void writeTableStart(double margin)
+    {
+        if (margin <= 0) {
+            m_result += m_tableStart;
+            return;
+        }
+        m_result += m_tableStart.chopped(1);
+        m_result += QStringLiteral(" style='margin-top:") % QString::number(margin) % QStringLiteral("px'>");
     }
 
     void closeHead()
@@ -102,7 +138,7 @@ private:
         if (m_isInHead && !m_tags.isBeforeHeadingCell()) {
             closeHead();
         }
-        if (!m_isInHead || m_medium == Medium::Window) {
+        if (!m_isSplit) {
             writeSpace();
         }
         m_result += tag.text;
@@ -112,11 +148,11 @@ private:
     void writeSpace()
     {
         const auto spanned = m_tags.spanningParagraph();
-        const double margin = spanned ? m_boxes.marginAbove(spanned->className) : 0;
+        const double margin = spanned ? m_style.marginAbove(spanned->className) : 0;
         if (margin > 0) {
-            m_result += QStringLiteral("<tr><td colspan='") + spanned->columns +
-                        QStringLiteral("' style='font-size:1pt; padding-top:") +
-                        QString::number(margin - 1) + QStringLiteral("pt'></td></tr>");
+            m_result += QStringLiteral("<tr><td colspan='") % spanned->columns %
+                        QStringLiteral("' style='font-size:1pt; padding-top:") % QString::number(margin - 1) %
+                        QStringLiteral("pt'></td></tr>");
         }
     }
 
@@ -125,6 +161,7 @@ private:
     {
         if (tag.isEnd) {
             m_result += tag.text;
+            m_marginBelow = m_style.marginBelow(m_paragraphClass);
             if (m_isBoxOpen) {
                 m_isBoxOpen = false;
                 m_result += QStringLiteral("</td></tr></table>");
@@ -132,20 +169,25 @@ private:
             return;
         }
         const QStringView name = tag.className();
-        if (!m_isCellStart && !m_isBoxOpen && m_boxes.isBoxed(name)) {
+        m_paragraphClass = name;
+        if (!m_isCellStart && !m_isBoxOpen && m_style.isBoxed(name)) {
             m_isBoxOpen = true;
-            m_result += QStringLiteral("<table width='100%' cellspacing='0' cellpadding='0'><tr><td class='") +
-                        name + QStringLiteral("'>");
+            m_result +=
+                QStringLiteral("<table width='100%' cellspacing='0' cellpadding='0'><tr><td class='") % name %
+                QStringLiteral("'>");
         }
         m_isCellStart = false;
         m_result += tag.text;
     }
 
     TagScanner m_tags;
-    const BoxRules &m_boxes;
+    const ShownStyle &m_style;
     Medium m_medium;
     QString m_result;
     QStringView m_tableStart;
+    QStringView m_paragraphClass;
+    double m_marginBelow = 0;
+    double m_marginAboveTable = 0;
     int m_sections = 0;
     bool m_isSplit = false;
     bool m_isInHead = false;
@@ -168,13 +210,15 @@ DocumentParts takeApart(const QString &xhtml)
 {
     const qsizetype element = xhtml.indexOf(QLatin1String("<style"), 0, Qt::CaseInsensitive);
     const qsizetype start = element < 0 ? -1 : xhtml.indexOf(u'>', element) + 1;
-    const qsizetype end = start <= 0 ? -1 : xhtml.indexOf(QLatin1String("</style"), start, Qt::CaseInsensitive);
+    const qsizetype end =
+        start <= 0 ? -1 : xhtml.indexOf(QLatin1String("</style"), start, Qt::CaseInsensitive);
     if (end >= 0) {
         return {xhtml.left(start), xhtml.mid(start, end - start), xhtml.mid(end)};
     }
     const qsizetype head = xhtml.indexOf(QLatin1String("</head"), 0, Qt::CaseInsensitive);
     const qsizetype place = head < 0 ? 0 : head;
-    return {xhtml.left(place) + QStringLiteral("<style type=\"text/css\">"), {},
+    return {xhtml.left(place) + QStringLiteral("<style type=\"text/css\">"),
+            {},
             QStringLiteral("</style>") + xhtml.mid(place)};
 }
 
@@ -189,10 +233,10 @@ QStringView bodyOf(QStringView xhtml)
 QString shownMarkup(const QString &xhtml, const StyleSheet &css, Medium medium, const QString &highlighted)
 {
     const DocumentParts parts = takeApart(xhtml);
-    const BoxRules boxes(css);
+    const ShownStyle style(css);
     const QStringView body = bodyOf(parts.tail);
     const qsizetype bodyStart = body.data() - parts.tail.constData();
     const QStringView tail(parts.tail);
-    return parts.head + css.text() + boxes.cellRules() + highlightRule(highlighted) + tail.first(bodyStart) +
-           MarkupWriter(body, boxes, medium).rewrite() + tail.sliced(bodyStart + body.size());
+    return parts.head % style.css() % highlightRule(highlighted) % tail.first(bodyStart) %
+           MarkupWriter(body, style, medium).rewrite() % tail.sliced(bodyStart + body.size());
 }

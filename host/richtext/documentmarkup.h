@@ -7,8 +7,8 @@
 
 class StyleSheet;
 
-/// An XHTML document taken apart around the text of its first style element. Without one, the style is to stand
-/// between `head` and `tail`, which then bring the element's tags.
+/// An XHTML document taken apart around the text of its first style element. Without one, the style is to
+/// stand between `head` and `tail`, which then bring the element's tags.
 struct DocumentParts
 {
     QString head;

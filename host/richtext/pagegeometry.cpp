@@ -5,7 +5,9 @@
 #include "host/richtext/stylesheet.h"
 
 #include <QPageSize>
+#include <QRectF>
 #include <QRegularExpression>
+#include <QSizeF>
 #include <QStringList>
 
 #include <algorithm>
@@ -81,8 +83,9 @@ QString pointsText(double points)
 
 std::optional<double> lengthInPoints(const QString &text)
 {
-    static const QRegularExpression pattern(QStringLiteral("^\\s*([+-]?(?:\\d+\\.?\\d*|\\.\\d+))([a-z]*)\\s*$"),
-                                            QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression pattern(
+        QStringLiteral("^\\s*([+-]?(?:\\d+\\.?\\d*|\\.\\d+))([a-z]*)\\s*$"),
+        QRegularExpression::CaseInsensitiveOption);
     const QRegularExpressionMatch match = pattern.match(text);
     if (!match.hasMatch()) {
         return std::nullopt;
@@ -139,9 +142,8 @@ void setPageLayout(StyleSheet &css, const QPageLayout &layout)
 QMarginsF marginsInPoints(const StyleSheet &css, const QString &selector)
 {
     std::array<double, 4> found{0, 0, 0, 0};
-    static const std::array<QString, 4> names{
-        QStringLiteral("margin-top"), QStringLiteral("margin-right"), QStringLiteral("margin-bottom"),
-        QStringLiteral("margin-left")};
+    static const std::array<QString, 4> names{QStringLiteral("margin-top"), QStringLiteral("margin-right"),
+                                              QStringLiteral("margin-bottom"), QStringLiteral("margin-left")};
     for (const StyleSheet::Rule &rule : css.rules()) {
         if (rule.selector != selector) {
             continue;

@@ -14,8 +14,8 @@ class StyleSheet;
 /// Units: pt, px (a 96th of an inch), pc, in, cm, mm; a bare 0 needs none.
 [[nodiscard]] std::optional<double> lengthInPoints(const QString &text);
 
-/// The paper and margins of a style sheet: paper-width, paper-height and margin of its body rule. A4 where the
-/// sheet says nothing, or nothing sensible.
+/// The paper and margins of a style sheet: paper-width, paper-height and margin of its body rule. A4 where
+/// the sheet says nothing, or nothing sensible.
 [[nodiscard]] QPageLayout pageLayout(const StyleSheet &css);
 
 /// Writes paper and margins into the body rule where they differ from what the sheet says.

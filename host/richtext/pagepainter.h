@@ -35,8 +35,8 @@ public:
     /// the painting is done.
     int layOut(QPagedPaintDevice &device);
 
-    /// Paints pages `first` to `last`, counted from 1, each on a page of the device of its own; the painter is
-    /// on the first one. False when the device gives no further page.
+    /// Paints pages `first` to `last`, counted from 1, each on a page of the device of its own; the painter
+    /// is on the first one. False when the device gives no further page.
     bool paint(QPainter &painter, int first, int last);
 
 private:

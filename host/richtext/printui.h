@@ -19,7 +19,8 @@ public:
     PrintUi &operator=(const PrintUi &) = delete;
     virtual ~PrintUi() = default;
 
-    /// Shows what will be printed and lets the user choose the printer and its settings; false when cancelled.
+    /// Shows what will be printed and lets the user choose the printer and its settings; false when
+    /// cancelled.
     [[nodiscard]] virtual bool choosePrinter(QWidget *parent, QPrinter &printer,
                                              const PaintPages &paintPreview) = 0;
 

@@ -44,8 +44,8 @@ qsizetype behindNoTag(QStringView text, qsizetype start)
 
 bool Tag::isParagraph() const
 {
-    return is(u"p") || (name.size() == 2 && (name[0] == u'h' || name[0] == u'H') && name[1] >= u'1' &&
-                        name[1] <= u'6');
+    return is(u"p") ||
+           (name.size() == 2 && (name[0] == u'h' || name[0] == u'H') && name[1] >= u'1' && name[1] <= u'6');
 }
 
 QStringView Tag::attribute(QStringView wanted) const
@@ -92,8 +92,8 @@ std::optional<Tag> TagScanner::next()
 
 std::optional<Tag> TagScanner::peek() const
 {
-    const auto firstMark = std::find_if_not(m_text.begin() + m_position, m_text.end(),
-                                            [](QChar c) { return c.isSpace(); });
+    const auto firstMark =
+        std::find_if_not(m_text.begin() + m_position, m_text.end(), [](QChar c) { return c.isSpace(); });
     if (firstMark == m_text.end() || *firstMark != u'<') {
         return std::nullopt;
     }

@@ -16,10 +16,7 @@ struct Tag
     QStringView name;
     bool isEnd = false;
 
-    [[nodiscard]] bool is(QStringView wanted) const
-    {
-        return name.compare(wanted, Qt::CaseInsensitive) == 0;
-    }
+    [[nodiscard]] bool is(QStringView wanted) const { return name.compare(wanted, Qt::CaseInsensitive) == 0; }
     [[nodiscard]] bool isCell() const { return is(u"td") || is(u"th"); }
     /// p and h1 to h6.
     [[nodiscard]] bool isParagraph() const;

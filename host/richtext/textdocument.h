@@ -5,8 +5,8 @@
 #include <QString>
 #include <QTextDocument>
 
-/// A rich-text document that remembers the XHTML text and the style sheet it was made from. The content is made
-/// when it is first shown; before that the document is empty.
+/// A rich-text document that remembers the XHTML text and the style sheet it was made from. The content is
+/// made when it is first shown; before that the document is empty.
 class TextDocument : public QTextDocument
 {
     Q_OBJECT

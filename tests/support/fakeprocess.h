@@ -16,10 +16,16 @@ public:
     bool hasDesign = true;
     QString binPath = QStringLiteral("/opt/host/bin");
     QString dataPath;
+    APPLNOBJECT *projectNotes = nullptr;
 
     APPLNDOCUMENT *currentdocument(int kind, const char *name) const override
     {
         return hasDesign && kind == DOCUMENT_KIND_DESIGN && !name ? &design : nullptr;
+    }
+    APPLNOBJECT *currentobject(const char *name, int kind) override
+    {
+        const bool isAsked = QByteArrayView(name) == "PROJNOTES" && kind == OBJECT_KIND_PROJECT_NOTES;
+        return isAsked ? projectNotes : nullptr;
     }
     QString getbinpath() const override { return binPath; }
     QString getdatapath(const char *application) const override

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+/// A text that people keep in a file beside the design.
+struct NotesFile
+{
+    /// Line ends are "\n". Empty when there is no such file or it cannot be read.
+    QString text;
+    /// Why it cannot be read; empty also when there is none.
+    QString problem;
+};
+
+/// Reads UTF-8 text of at most 16 MB.
+[[nodiscard]] NotesFile readNotesFile(const QString &path);
