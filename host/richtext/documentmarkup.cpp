@@ -14,6 +14,22 @@ namespace {
 
 constexpr auto highlightColour = "#ffe08a";
 
+constexpr qsizetype longestParagraph = 4000;
+
+/// Where a text can be cut, at `wanted` or a little behind it: not inside a character or an entity.
+qsizetype breakPosition(QStringView text, qsizetype wanted)
+{
+    constexpr qsizetype longestEntity = 12;
+    qsizetype position = std::min(wanted, text.size());
+    const qsizetype start = text.first(position).lastIndexOf(u'&');
+    const qsizetype end = start < 0 || position - start > longestEntity ? -1 : text.indexOf(u';', start);
+    if (end >= position && end - start <= longestEntity) {
+        position = end + 1;
+    }
+    const bool isInPair = position > 0 && position < text.size() && text[position].isLowSurrogate();
+    return isInPair ? position + 1 : position;
+}
+
 /// Copies a body, changing what its tags say.
 class MarkupWriter final
 {
@@ -29,7 +45,7 @@ public:
     QString rewrite()
     {
         while (const auto tag = m_tags.next()) {
-            m_result += tag->textBefore;
+            writeText(tag->textBefore);
             write(*tag);
         }
         m_result += m_tags.rest();
@@ -45,6 +61,49 @@ private:
         }
     }
 
+    /// The time for laying out a paragraph grows with the square of its length: long ones become several.
+    void writeText(QStringView text)
+    {
+        while (mayBreakParagraph() && m_paragraphLength + text.size() > longestParagraph) {
+            const qsizetype part =
+                breakPosition(text, std::max<qsizetype>(longestParagraph - m_paragraphLength, 0));
+            if (part >= text.size()) {
+                break;
+            }
+            m_result += text.first(part);
+            text = text.sliced(part);
+            breakParagraph();
+        }
+        m_result += text;
+        m_paragraphLength += text.size();
+    }
+
+    /// Inside a paragraph, and in no element of it.
+    [[nodiscard]] bool mayBreakParagraph() const { return !m_paragraphStart.isEmpty() && m_inlineDepth == 0; }
+
+    void breakParagraph()
+    {
+        m_result += QStringLiteral("</p>") % m_paragraphStart;
+        m_paragraphLength = 0;
+    }
+
+    /// Text inside a paragraph's elements, and its line breaks.
+    void writeInline(const Tag &tag)
+    {
+        if (tag.is(u"br")) {
+            if (mayBreakParagraph() && m_paragraphLength > longestParagraph) {
+                breakParagraph();
+            } else {
+                m_result += tag.text;
+            }
+            return;
+        }
+        if (!tag.text.endsWith(u"/>")) {
+            m_inlineDepth += tag.isEnd ? -1 : 1;
+        }
+        m_result += tag.text;
+    }
+
     void writeTag(const Tag &tag)
     {
         if (tag.isCell() && !tag.isEnd) {
@@ -58,7 +117,7 @@ private:
         } else if (tag.isParagraph()) {
             writeParagraph(tag);
         } else {
-            m_result += tag.text;
+            writeInline(tag);
         }
     }
 
@@ -161,6 +220,7 @@ private:
     {
         if (tag.isEnd) {
             m_result += tag.text;
+            m_paragraphStart = {};
             m_marginBelow = m_style.marginBelow(m_paragraphClass);
             if (m_isBoxOpen) {
                 m_isBoxOpen = false;
@@ -177,6 +237,9 @@ private:
                 QStringLiteral("'>");
         }
         m_isCellStart = false;
+        m_paragraphStart = tag.is(u"p") ? tag.text : QStringView();
+        m_paragraphLength = 0;
+        m_inlineDepth = 0;
         m_result += tag.text;
     }
 
@@ -186,6 +249,10 @@ private:
     QString m_result;
     QStringView m_tableStart;
     QStringView m_paragraphClass;
+    /// The tag of the paragraph that is open.
+    QStringView m_paragraphStart;
+    qsizetype m_paragraphLength = 0;
+    int m_inlineDepth = 0;
     double m_marginBelow = 0;
     double m_marginAboveTable = 0;
     int m_sections = 0;

@@ -7,8 +7,10 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QTextBlock>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextFrame>
+#include <QTextLayout>
 #include <QTextTable>
 
 #include <vector>
@@ -96,14 +98,22 @@ void shareColumns(QTextDocument &pages, const QTextDocument &whole)
     }
 }
 
+/// Where the text of a cell begins: its first line may stand on the page after that of its top.
+double textTop(const QTextDocument &document, const QTextTableCell &cell)
+{
+    const QTextBlock block = cell.firstCursorPosition().block();
+    const double top = document.documentLayout()->blockBoundingRect(block).top();
+    return block.layout()->lineCount() > 0 ? top + block.layout()->lineAt(0).y() : top;
+}
+
 bool startsAtFoot(const QTextDocument &document, const QTextTable &table, double pageHeight)
 {
     const int headings = table.format().headerRowCount();
     if (headings == 0 || headings >= table.rows()) {
         return false;
     }
-    const double title = cellRect(document, table.cellAt(0, 0)).top();
-    const double firstRow = cellRect(document, table.cellAt(headings, 0)).top();
+    const double title = textTop(document, table.cellAt(0, 0));
+    const double firstRow = textTop(document, table.cellAt(headings, 0));
     return int(title / pageHeight) != int(firstRow / pageHeight);
 }
 
@@ -117,6 +127,39 @@ void keepHeadingsWithRows(QTextDocument &document, double pageHeight)
             format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
             table->setFormat(format);
         }
+    }
+}
+
+/// The PDF engine writes addresses as they stand, between brackets.
+QString encodedAddress(const QString &address)
+{
+    return QString::fromLatin1(address.toUtf8().toPercentEncoding("!#$%&'*+,/:;=?@[]~"));
+}
+
+void encodeAddresses(QTextDocument &document)
+{
+    struct Link
+    {
+        int position;
+        int length;
+        QString address;
+    };
+    std::vector<Link> links;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QString address = it.fragment().charFormat().anchorHref();
+            if (const QString encoded = encodedAddress(address); encoded != address) {
+                links.push_back({it.fragment().position(), it.fragment().length(), encoded});
+            }
+        }
+    }
+    QTextCursor cursor(&document);
+    for (const Link &link : links) {
+        QTextCharFormat format;
+        format.setAnchorHref(link.address);
+        cursor.setPosition(link.position);
+        cursor.setPosition(link.position + link.length, QTextCursor::KeepAnchor);
+        cursor.mergeCharFormat(format);
     }
 }
 
@@ -137,6 +180,7 @@ void layOutPages(QTextDocument &document, const QString &xhtml, QPaintDevice &de
     fill(whole, shownMarkup(xhtml, css, Medium::Window), device);
     whole.setTextWidth(page.width());
     fill(document, shownMarkup(xhtml, css, Medium::Pages), device);
+    encodeAddresses(document);
     shareColumns(document, whole);
     document.setPageSize(page);
     keepHeadingsWithRows(document, page.height());

@@ -6,6 +6,7 @@
 #include "host/richtext/pagegeometry.h"
 #include "host/richtext/stylesheet.h"
 
+#include <QTextCursor>
 #include <QTextFrame>
 #include <QTextFrameFormat>
 
@@ -61,7 +62,6 @@ void TextDocument::setTitle(const QString &title)
 QString TextDocument::getHtml() const
 {
     const DocumentParts parts = takeApart(m_source);
-    const QString body = isModified() ? toHtml() : QString();
     return parts.css == m_css ? m_source : parts.head + m_css + parts.tail;
 }
 
@@ -88,15 +88,21 @@ void TextDocument::highlightSelector(const QString &selector)
 
 void TextDocument::makeContent()
 {
+    Q_EMIT aboutToMakeContent();
     m_isShown = true;
     const StyleSheet css(m_shownCss);
     const bool keepsUndo = isUndoRedoEnabled();
     setUndoRedoEnabled(false);
+    // In one go, so that a document that is shown is laid out once.
+    QTextCursor cursor(this);
+    cursor.beginEditBlock();
     setHtml(shownMarkup(m_source, css, Medium::Window, m_highlighted));
     applyBodyMargins(*this, css);
+    cursor.endEditBlock();
     setUndoRedoEnabled(keepsUndo);
     if (!m_title.isEmpty()) {
         setMetaInformation(DocumentTitle, m_title);
     }
     setModified(false);
+    Q_EMIT contentMade();
 }

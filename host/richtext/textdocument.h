@@ -41,6 +41,11 @@ public Q_SLOTS:
     /// Marks what a selector such as "p.oddfield" applies to; an empty one takes the mark away.
     void highlightSelector(const QString &selector);
 
+Q_SIGNALS:
+    /// The whole content is made anew: before and after.
+    void aboutToMakeContent();
+    void contentMade();
+
 private:
     void makeContent();
 

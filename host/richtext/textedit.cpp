@@ -32,6 +32,12 @@ TextEdit::TextEdit(QWidget *parent)
 {
     setDocument(m_document);
     setAccessibleName(tr("Document"));
+    connect(m_document, &TextDocument::aboutToMakeContent, this,
+            [this] { m_place = verticalScrollBar()->value(); });
+    connect(m_document, &TextDocument::contentMade, this, [this] {
+        moveCursor(QTextCursor::Start);
+        verticalScrollBar()->setValue(m_place);
+    });
 }
 
 TextEdit::~TextEdit() = default;
@@ -39,12 +45,9 @@ TextEdit::~TextEdit() = default;
 void TextEdit::loadDocument(const QString &xhtml)
 {
     m_document->setSource(xhtml);
-    if (!isVisible()) {
-        return;
+    if (isVisible()) {
+        m_document->show();
     }
-    const int place = verticalScrollBar()->value();
-    m_document->show();
-    verticalScrollBar()->setValue(place);
 }
 
 void TextEdit::setPageFragments(const QString &header, const QString &footer)

@@ -65,6 +65,8 @@ private:
     void paintDocument(QPainter &painter, QPagedPaintDevice &device, int first, int last) const;
 
     TextDocument *m_document = nullptr;
+    /// Where the view was scrolled to before the content changed.
+    int m_place = 0;
     QString m_pageHeader;
     QString m_pageFooter;
     QString m_pressedLink;

@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "host/richtext/pagegeometry.h"
+#include "host/richtext/pdfoutput.h"
+#include "host/richtext/stylesheet.h"
+#include "host/richtext/textedit.h"
+#include "support/pdftext.h"
+#include "support/scriptedprintui.h"
+#include "support/scriptedui.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+
+namespace {
+
+const QString sheet = u"body { margin: 20pt; paper-width: 300pt; paper-height: 400pt; }"_s;
+
+QString page(const QString &body)
+{
+    return u"<html><head><style type=\"text/css\">"_s + sheet + u"</style></head><body>"_s + body +
+           u"</body></html>"_s;
+}
+
+QString longTable()
+{
+    QString rows;
+    for (int i = 0; i < 60; ++i) {
+        rows += u"<tr><td><p>line"_s + QString::number(i) + u"</p></td><td><p>x</p></td></tr>"_s;
+    }
+    return u"<table><tbody><tr><th><p>Heading</p></th><th><p>Other</p></th></tr>"_s + rows +
+           u"</tbody></table>"_s;
+}
+
+class Edit : public testing::Test
+{
+protected:
+    void print(QPainter &painter)
+    {
+        if (edit.print(painter)) {
+            painter.end();
+        }
+    }
+
+    ScriptedUi ui;
+    ScriptedPrintUi printUi;
+    QTemporaryDir folder;
+    TextEdit edit;
+};
+
+TEST_F(Edit, OpensLinksWithMouseAndKeyboard)
+{
+    QStringList opened;
+    QObject::connect(&edit, &TextEdit::linkActivated, &edit,
+                     [&](const QString &link) { opened.append(link); });
+    edit.setReadOnly(true);
+    edit.setTextInteractionFlags(Qt::TextBrowserInteraction);
+    edit.resize(300, 200);
+    edit.loadDocument(page(u"<p><a href='docs/a#1%.pdf'>link</a> text</p>"_s));
+    edit.show();
+    const QPoint onLink = edit.cursorRect().center() + QPoint(5, 0);
+    QTest::mouseClick(edit.viewport(), Qt::LeftButton, {}, onLink);
+    EXPECT_THAT(opened, ElementsAre(u"docs/a#1%.pdf"_s));
+    QTest::mouseClick(edit.viewport(), Qt::LeftButton, {}, onLink + QPoint(150, 0));
+    QTest::mousePress(edit.viewport(), Qt::LeftButton, {}, onLink + QPoint(150, 0));
+    QTest::mouseRelease(edit.viewport(), Qt::LeftButton, {}, onLink);
+    EXPECT_EQ(opened.size(), 1);
+    QTest::keyClick(&edit, Qt::Key_Tab);
+    QTest::keyClick(&edit, Qt::Key_Return);
+    EXPECT_EQ(opened.size(), 2);
+}
+
+TEST_F(Edit, KeepsItsPlaceWhenTheDocumentIsMadeAnew)
+{
+    edit.resize(300, 200);
+    edit.loadDocument(page(longTable()));
+    edit.show();
+    EXPECT_EQ(edit.verticalScrollBar()->value(), 0);
+    edit.verticalScrollBar()->setValue(150);
+    edit.document()->loadCss(u"p { color: red; }"_s, true);
+    EXPECT_EQ(edit.verticalScrollBar()->value(), 150);
+    edit.loadDocument(page(longTable()));
+    EXPECT_EQ(edit.verticalScrollBar()->value(), 150);
+}
+
+TEST_F(Edit, PrintsPagesWithHeadingsAndFragments)
+{
+    edit.loadDocument(page(longTable()));
+    edit.document()->setTitle(u"<T&>"_s);
+    edit.setPageFragments(u"<p>{title} {page} of {pages} {nothing}</p>"_s, u"<p>foot {date}</p>"_s);
+    printUi.printFile = folder.filePath(u"print.pdf"_s);
+    printUi.previewFile = folder.filePath(u"preview.pdf"_s);
+    QPainter painter;
+    print(painter);
+    EXPECT_EQ(printUi.offeredPaper.fullRect(QPageLayout::Point).size(), QSizeF(300, 400));
+    EXPECT_EQ(printUi.offeredPaper.margins(QPageLayout::Point), QMarginsF(20, 20, 20, 20));
+    for (const QString &file : {printUi.printFile, printUi.previewFile}) {
+        const QStringList pages = pdfPages(file);
+        ASSERT_GE(pages.size(), 2);
+        for (qsizetype i = 0; i < pages.size(); ++i) {
+            const QString top = u"<T&> "_s + QString::number(i + 1) + u" of "_s +
+                                QString::number(pages.size()) + u" {nothing}"_s;
+            EXPECT_TRUE(pages[i].contains(top)) << pages[i].toStdString();
+            EXPECT_EQ(pages[i].count(u"Heading"_s), 1);
+            EXPECT_TRUE(
+                pages[i].contains(u"foot "_s + QLocale::c().toString(ui.clock.date(), QLocale::ShortFormat)));
+        }
+        const QString all = pages.join(u' ');
+        for (int i = 0; i < 60; ++i) {
+            EXPECT_EQ(all.count(QRegularExpression(u"\\bline%1\\b"_s.arg(i))), 1) << i;
+        }
+    }
+    printUi.printFile.clear();
+    EXPECT_FALSE(edit.print(painter));
+    EXPECT_FALSE(painter.isActive());
+}
+
+TEST_F(Edit, NeverLeavesAHeadingAloneAtTheFootOfAPage)
+{
+    for (int lines = 0; lines < 30; ++lines) {
+        const QString body = u"<p>x</p>"_s.repeated(lines) +
+                             u"<table><tbody><tr><th><p>Title</p></th></tr><tr><td><p>alpha</p></td></tr>"
+                             "<tr><td><p>beta</p></td></tr></tbody></table>"_s;
+        PagedText text;
+        text.xhtml = page(body);
+        PdfOutput output(pageLayout(StyleSheet(sheet)), {});
+        PagePainter pages(text);
+        QPainter painter(&output.device());
+        pages.paint(painter, 1, pages.layOut(output.device()));
+        painter.end();
+        QFile file(folder.filePath(u"%1.pdf"_s.arg(lines)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(output.bytes());
+        file.close();
+        for (const QString &text : pdfPages(file.fileName())) {
+            EXPECT_EQ(text.contains(u"Title"_s), text.contains(u"alpha"_s) || text.contains(u"beta"_s))
+                << lines;
+        }
+    }
+}
+
+TEST_F(Edit, WritesPdfFilesWithClickableLinksAsAWhole)
+{
+    edit.loadDocument(page(u"<p><a href=\"https://example.com/(x\">site</a></p>"_s));
+    ui.fileName = folder.filePath(u"a#1.pdf"_s);
+    QPainter painter;
+    ASSERT_TRUE(edit.printToPdf(u"/suggested.pdf"_s, true, true, painter));
+    EXPECT_TRUE(painter.isActive());
+    EXPECT_FALSE(QFile::exists(ui.fileName));
+    painter.end();
+    EXPECT_EQ(edit.finishPdf(), ui.fileName);
+    EXPECT_EQ(ui.fileRequests.value(0).path, u"/suggested.pdf"_s);
+    EXPECT_THAT(ui.openedUrls, ElementsAre(QUrl::fromLocalFile(ui.fileName)));
+    QFile file(ui.fileName);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("/URI (https://example.com/%28x)"));
+    EXPECT_EQ(edit.finishPdf(), QString());
+
+    ui.fileName.clear();
+    EXPECT_FALSE(edit.printToPdf(u"/suggested.pdf"_s, true, false, painter));
+    ASSERT_TRUE(edit.printToPdf(folder.filePath(u"none/x.pdf"_s), false, false, painter));
+    painter.end();
+    EXPECT_EQ(edit.finishPdf(), QString());
+    EXPECT_EQ(ui.warnings.size(), 1);
+}
+
+TEST_F(Edit, PaperIsKeptInTheStyleSheetOnlyWhenItChanges)
+{
+    edit.loadDocument(page(u"<p>x</p>"_s));
+    edit.pageSetup();
+    printUi.paper = pageLayout(StyleSheet(sheet));
+    edit.pageSetup();
+    EXPECT_EQ(edit.document()->getCss(), sheet);
+    printUi.paper = QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Landscape,
+                                QMarginsF(20, 20, 20, 20), QPageLayout::Point);
+    edit.pageSetup();
+    EXPECT_EQ(edit.document()->getCss(),
+              u"body { margin: 20pt; paper-width: 792.0pt; paper-height: 612.0pt; }"_s);
+    printUi.paper->setMargins(QMarginsF(30, 10, 20, 40));
+    edit.pageSetup();
+    EXPECT_EQ(marginsInPoints(StyleSheet(edit.document()->getCss()), u"body"_s), QMarginsF(30, 10, 20, 40));
+}
+
+TEST(PageGeometry, ReadsLengthsAndDoubtsWhatMakesNoPage)
+{
+    EXPECT_EQ(lengthInPoints(u" 25.4mm "_s), 72);
+    EXPECT_EQ(lengthInPoints(u"1in"_s), 72);
+    EXPECT_EQ(lengthInPoints(u"96PX"_s), 72);
+    EXPECT_EQ(lengthInPoints(u"0"_s), 0);
+    for (const QString &none : {u""_s, u"12"_s, u"2em"_s, u"10%"_s, u"x"_s, u"1e400pt"_s, u"NaNpt"_s}) {
+        EXPECT_FALSE(lengthInPoints(none)) << none.toStdString();
+    }
+    const QPageLayout a4 =
+        pageLayout(StyleSheet(u"body { paper-width: 0.1pt; paper-height: -5mm; margin: -1pt; }"_s));
+    EXPECT_EQ(a4.pageSize().id(), QPageSize::A4);
+    EXPECT_EQ(a4.margins(), QMarginsF());
+    const QPageLayout narrow =
+        pageLayout(StyleSheet(u"body { paper-width: 100pt; paper-height: 1in; margin: 90pt; }"_s));
+    EXPECT_GT(narrow.paintRect(QPageLayout::Point).width(), 20);
+    EXPECT_GT(narrow.paintRect(QPageLayout::Point).height(), 20);
+}
+
+} // namespace
