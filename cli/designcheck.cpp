@@ -28,8 +28,8 @@ struct Bill
     {
         QString what = QString::number(parts);
         if (bomParts > 0) {
-            what += QStringLiteral(" and ") + counted(bomParts, QStringLiteral("BOM-only part"),
-                                                      QStringLiteral("BOM-only parts"));
+            what += QStringLiteral(" and ") +
+                    counted(bomParts, QStringLiteral("BOM-only part"), QStringLiteral("BOM-only parts"));
         }
         return what + QStringLiteral(" in ") +
                counted(lines, QStringLiteral("line"), QStringLiteral("lines"));

@@ -31,7 +31,8 @@ QString faultText(DefinitionFault fault)
     case DefinitionFault::NoCount:
         return QStringLiteral("makes no parts; its count is no number");
     case DefinitionFault::TooManyParts:
-        return QStringLiteral("makes no parts; its count is above ") + QString::number(mostPartsOfADefinition);
+        return QStringLiteral("makes no parts; its count is above ") +
+               QString::number(mostPartsOfADefinition);
     case DefinitionFault::NoAssignment:
         return QStringLiteral("has a field that is not NAME=VALUE and is passed over");
     case DefinitionFault::DesignIsFull:
@@ -131,7 +132,8 @@ QStringList definedPartProblems(OpenDesign &design)
     QStringList repeated = database.duplicateBOMParts();
     repeated.removeDuplicates();
     for (const QString &reference : std::as_const(repeated)) {
-        problems.append(reference + QStringLiteral(" is the reference of a BOM-only part and of another part"));
+        problems.append(reference +
+                        QStringLiteral(" is the reference of a BOM-only part and of another part"));
     }
     return problems;
 }

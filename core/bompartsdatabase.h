@@ -99,7 +99,10 @@ public:
     /// Takes the links of a part from the text of its property BOMLINKS; a text without any changes nothing.
     void setLinks(const QString &reference, const QString &text);
     /// The URLs by property name.
-    [[nodiscard]] QMap<QString, QString> links(const QString &reference) const { return m_links.value(reference); }
+    [[nodiscard]] QMap<QString, QString> links(const QString &reference) const
+    {
+        return m_links.value(reference);
+    }
     /// The URL for one property, whatever the letter case of its name; empty when there is none.
     [[nodiscard]] QString link(const QString &reference, const QString &propertyName) const;
 
@@ -134,6 +137,8 @@ public:
     [[nodiscard]] const BOMTemplate &currentTemplate() const { return m_template; }
     /// Takes a copy as the working template, completes it (see templateRepairs()), and groups anew.
     void setCurrentTemplate(const BOMTemplate &settings);
+    /// Takes over style sheet, header and footer of another template, which change no line.
+    void setTemplateLook(const BOMTemplate &settings);
     /// What the working template lacked when it was set, one sentence each.
     [[nodiscard]] const QStringList &templateRepairs() const { return m_templateRepairs; }
     [[nodiscard]] const BOMFields &fields() const { return m_fields; }

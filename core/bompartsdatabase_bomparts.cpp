@@ -195,8 +195,9 @@ bool BOMPartsDatabase::setNotes(const QString &text)
 
 void BOMPartsDatabase::makeDefinedParts(const QString &parentReference, QList<DefinitionProperty> definitions)
 {
-    std::stable_sort(definitions.begin(), definitions.end(),
-                     [](const DefinitionProperty &a, const DefinitionProperty &b) { return a.text < b.text; });
+    std::stable_sort(
+        definitions.begin(), definitions.end(),
+        [](const DefinitionProperty &a, const DefinitionProperty &b) { return a.text < b.text; });
     LastNumbers lastNumbers;
     for (const DefinitionProperty &property : std::as_const(definitions)) {
         ReadDefinition read = readBOMPartDefinition(property.text);
@@ -238,8 +239,8 @@ std::optional<DefinitionFault> BOMPartsDatabase::makeBOMParts(const QString &par
     int repeated = 0;
     for (int number = int(last) + 1; number <= last + definition.count; ++number) {
         const QString reference = definition.prefix + QString::number(number);
-        if (BOMPart *made = addBOMPart(
-                std::make_unique<BOMPart>(this, reference, parentReference, definition))) {
+        if (BOMPart *made =
+                addBOMPart(std::make_unique<BOMPart>(this, reference, parentReference, definition))) {
             defined.add(made);
             setLinks(reference, links);
         } else {

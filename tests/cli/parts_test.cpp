@@ -78,7 +78,8 @@ TEST_F(Parts, AsJsonKeepNamesAndTextsAsStored)
 TEST_F(Parts, AsJsonTellWhomBomOnlyPartsBelongTo)
 {
     write(QStringLiteral("amp.kicad_sch"),
-          kicadSchematic({{"U1", "reg", "(property \"BOMPART1\" \"'2','SCR','Bob\\\\'s','mpn=x'\" (at 0 0 0))"}}));
+          kicadSchematic(
+              {{"U1", "reg", "(property \"BOMPART1\" \"'2','SCR','Bob\\\\'s','mpn=x'\" (at 0 0 0))"}}));
     const std::string out = run("parts amp.kicad_sch --json").out;
     EXPECT_THAT(out, HasSubstr(R"({"reference":"SCR2","value":"Bob's","name":"","placed":"Not placed",)"
                                R"("category":"Miscellaneous","bomPartOf":"U1","properties":{"MPN":"x"}})"));

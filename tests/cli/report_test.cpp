@@ -51,7 +51,8 @@ TEST_F(Report, HoldsThePartsThatOthersDefine)
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.out, std::string(heading) + "Resistors,3,R1-R3,10k,S-10k,\n"
                                                  "Miscellaneous,3,SCR1-SCR3,M3,N-3,0.10\n");
-    EXPECT_THAT(result.err, HasSubstr("the line SCR1-SCR3 mixes fitted and not fitted parts; not fitted: SCR3"));
+    EXPECT_THAT(result.err,
+                HasSubstr("the line SCR1-SCR3 mixes fitted and not fitted parts; not fitted: SCR3"));
     EXPECT_THAT(result.err,
                 HasSubstr("bom: 1 definition of BOM-only parts cannot be followed (bom check says why)\n"));
     EXPECT_THAT(run("report list.csv").out, HasSubstr("Miscellaneous,2,SCR1-SCR2,M3"));

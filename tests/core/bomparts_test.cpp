@@ -61,7 +61,8 @@ protected:
 
 TEST_F(BOMParts, continueTheNumbersOfTheDesign)
 {
-    netlist.add("C5", "1u", {{"MPN", "x"}, {"BOMPART1", "'2','scr','M3 screw'"}, {"bompart2", "'1','X','no'"}});
+    netlist.add("C5", "1u",
+                {{"MPN", "x"}, {"BOMPART1", "'2','scr','M3 screw'"}, {"bompart2", "'1','X','no'"}});
     netlist.add("SCR1", "M2");
     netlist.add("SCR4", "M2");
     netlist.add("SCR007X", "M2");
@@ -84,8 +85,7 @@ TEST_F(BOMParts, areMadeParentByParentInSortedOrderOfTheirDefinitions)
     netlist.add("R2", "1k", {{"BOMPART1", "1,SCR,second"}, {"BOMPART2", "1,SCR,first"}});
     netlist.add("R1", "1k", {{"BOMPART1", "1,SCR,third"}, {"BOMPART2", "1,HS,sink"}});
     database.load();
-    EXPECT_EQ(made(),
-              (QStringList{u"SCR1=first"_s, u"SCR2=second"_s, u"HS1=sink"_s, u"SCR3=third"_s}));
+    EXPECT_EQ(made(), (QStringList{u"SCR1=first"_s, u"SCR2=second"_s, u"HS1=sink"_s, u"SCR3=third"_s}));
 }
 
 TEST_F(BOMParts, areSortedIntoTheCategoryOfTheirPrefix)
@@ -142,15 +142,14 @@ TEST_F(BOMParts, areRefusedInExcess)
     database.load();
     EXPECT_EQ(made().first(), u"OK1=M3"_s);
     EXPECT_EQ(made().size(), 1 + 9 * 100'000) << "the tenth would go over the most of a design";
-    EXPECT_EQ(problems(),
-              (QStringList{u"R1 BOMPART4 "_s + fault(DefinitionFault::NoCount),
-                           u"R1 BOMPART7 "_s + fault(DefinitionFault::NoAssignment),
-                           u"R1 BOMPART6 "_s + fault(DefinitionFault::NumbersEnd),
-                           u"R1 BOMPART1 "_s + fault(DefinitionFault::TooManyParts),
-                           u"R1 BOMPART2 "_s + fault(DefinitionFault::TooManyParts),
-                           u"R1 BOMPART3 "_s + fault(DefinitionFault::NoCount),
-                           u"M9 BOMPART1 "_s + fault(DefinitionFault::DesignIsFull),
-                           u"M10 BOMPART1 "_s + fault(DefinitionFault::DesignIsFull)}));
+    EXPECT_EQ(problems(), (QStringList{u"R1 BOMPART4 "_s + fault(DefinitionFault::NoCount),
+                                       u"R1 BOMPART7 "_s + fault(DefinitionFault::NoAssignment),
+                                       u"R1 BOMPART6 "_s + fault(DefinitionFault::NumbersEnd),
+                                       u"R1 BOMPART1 "_s + fault(DefinitionFault::TooManyParts),
+                                       u"R1 BOMPART2 "_s + fault(DefinitionFault::TooManyParts),
+                                       u"R1 BOMPART3 "_s + fault(DefinitionFault::NoCount),
+                                       u"M9 BOMPART1 "_s + fault(DefinitionFault::DesignIsFull),
+                                       u"M10 BOMPART1 "_s + fault(DefinitionFault::DesignIsFull)}));
     EXPECT_EQ(rewritten(u"R1"_s).size(), 7) << "what makes no parts is kept";
 }
 
@@ -194,9 +193,8 @@ TEST_F(BOMParts, areRemovedAndRewritten)
     EXPECT_NE(database.part(u"SCR4"_s), nullptr);
     EXPECT_EQ(database.categoryReferences(u"Miscellaneous"_s),
               (QStringList{u"HS1"_s, u"SCR1"_s, u"SCR3"_s, u"SCR4"_s}));
-    const QStringList expected{
-        u"BOMPART0: 2,'SCR','Bob\\'s','CODE=a,b','MPN=5\" \\'long\\''"_s,
-        u"BOMPART1: 1,'HS',back\\"_s, u"BOMPART2: nothing"_s};
+    const QStringList expected{u"BOMPART0: 2,'SCR','Bob\\'s','CODE=a,b','MPN=5\" \\'long\\''"_s,
+                               u"BOMPART1: 1,'HS',back\\"_s, u"BOMPART2: nothing"_s};
     EXPECT_EQ(rewritten(u"C5"_s), expected);
     EXPECT_EQ(database.bomPartPropertyNames(u"C5"_s),
               (QStringList{u"BOMPART1"_s, u"BOMPART2"_s, u"BOMPART9"_s, u"BOMPART0"_s}));
@@ -214,7 +212,8 @@ TEST_F(BOMParts, createdAgainReadAsTheyWereWritten)
     database.load();
     database.createBOMParts(u"C5"_s, {u"1,'SCR','',A=\\'x\\',B=\\"_s, u"BOMPART7='2','W','5\" wire'"_s});
     const QStringList first = rewritten(u"C5"_s);
-    EXPECT_EQ(first, (QStringList{u"BOMPART0: 1,'SCR','','A=\\'x\\'',B=\\"_s, u"BOMPART1: 2,'W','5\" wire'"_s}));
+    EXPECT_EQ(first,
+              (QStringList{u"BOMPART0: 1,'SCR','','A=\\'x\\'',B=\\"_s, u"BOMPART1: 2,'W','5\" wire'"_s}));
     QStringList texts;
     for (const DefinitionProperty &property : *database.rewrittenDefinitions(u"C5"_s)) {
         texts << property.text;

@@ -25,8 +25,7 @@ TEST(Links, areWrittenSoThatTheyReadTheSame)
     const Links links{{u"MPN"_s, u"https://x.org/a,b?c=d&e=%2C#f"_s}, {u"CODE"_s, u"Größe.pdf"_s}};
     const auto text = bomLinksText(links);
     ASSERT_TRUE(text);
-    EXPECT_EQ(*text,
-              u"CODE=Gr%C3%B6%C3%9Fe.pdf,MPN=https%3A%2F%2Fx.org%2Fa%2Cb%3Fc%3Dd%26e%3D%252C%23f"_s);
+    EXPECT_EQ(*text, u"CODE=Gr%C3%B6%C3%9Fe.pdf,MPN=https%3A%2F%2Fx.org%2Fa%2Cb%3Fc%3Dd%26e%3D%252C%23f"_s);
     EXPECT_EQ(readBOMLinks(*text), links);
     EXPECT_EQ(bomLinksText({{u"MPN"_s, QString()}}), QString());
     EXPECT_FALSE(bomLinksText({{u"a,b"_s, u"x"_s}}));
