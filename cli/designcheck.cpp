@@ -22,6 +22,18 @@ struct Bill
     qsizetype parts = 0;
     qsizetype bomParts = 0;
     QStringList replaced;
+
+    /// "97 in 46 lines", with the BOM-only parts where there are any.
+    [[nodiscard]] QString text() const
+    {
+        QString what = QString::number(parts);
+        if (bomParts > 0) {
+            what += QStringLiteral(" and ") +
+                    counted(bomParts, QStringLiteral("BOM-only part"), QStringLiteral("BOM-only parts"));
+        }
+        return what + QStringLiteral(" in ") +
+               counted(lines, QStringLiteral("line"), QStringLiteral("lines"));
+    }
 };
 
 /// The references of placed parts; BOM-only parts are no components.
@@ -81,14 +93,11 @@ public:
 
     void countParts()
     {
-        const qsizetype repeated = m_design.database().duplicateReferences().size();
+        const BOMPartsDatabase &database = m_design.database();
+        const qsizetype repeated =
+            database.duplicateReferences().size() - database.duplicateBOMParts().size();
         const qsizetype skipped = m_ledger.components() - m_ledger.listed();
-        m_check.account.append({QStringLiteral("in the bill"),
-                                QString::number(m_bill.parts) + QStringLiteral(" in ") +
-                                    counted(m_bill.lines, QStringLiteral("line"), QStringLiteral("lines"))});
-        if (m_bill.bomParts > 0) {
-            add(QStringLiteral("BOM-only parts"), m_bill.bomParts);
-        }
+        m_check.account.append({QStringLiteral("in the bill"), m_bill.text()});
         if (!m_bill.replaced.isEmpty()) {
             add(QStringLiteral("left out for an equal reference"), m_bill.replaced);
         }
@@ -147,7 +156,7 @@ public:
 
     void findNotAnnotated() { m_check.findings << m_ledger.notAnnotated(); }
 
-    void findDefinedParts() { m_check.findings << definedPartNotices(m_design); }
+    void findDefinedParts() { m_check.findings << definedPartProblems(m_design); }
 
     void findWarnings()
     {

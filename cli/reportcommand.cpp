@@ -5,6 +5,7 @@
 #include "cli/console.h"
 #include "cli/opendesign.h"
 #include "cli/outputfile.h"
+#include "cli/referencetext.h"
 #include "cli/reportnotices.h"
 #include "host/propdefs/propdefsfile.h"
 #include "views/bomcsvview.h"
@@ -153,6 +154,13 @@ bool ReportCommand::mayGoOn(OpenDesign &design) const
     }
     if (m_allowDuplicates || design.database().duplicateReferences().isEmpty()) {
         return true;
+    }
+    QStringList bomParts = design.database().duplicateBOMParts();
+    bomParts.removeDuplicates();
+    count += bomParts.size();
+    if (!bomParts.isEmpty()) {
+        console::message(QStringLiteral("references of BOM-only parts and of other parts: ") +
+                         referenceText(bomParts));
     }
     console::message(QStringLiteral("nothing was written: ") +
                      counted(count, QStringLiteral("reference occurs"), QStringLiteral("references occur")) +

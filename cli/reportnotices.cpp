@@ -5,13 +5,11 @@
 #include "cli/console.h"
 #include "cli/opendesign.h"
 #include "cli/referencetext.h"
-#include "host/netlist/proplist.h"
-#include "standalone/loadeddesign.h"
+#include "core/bompart.h"
 
 #include <QSet>
 
-#include <algorithm>
-#include <vector>
+#include <utility>
 
 namespace {
 
@@ -23,6 +21,39 @@ QString leftOutNotice(qsizetype count, DnpChoice choice)
     }
     return counted(count, QStringLiteral("part is"), QStringLiteral("parts are")) +
            QStringLiteral(" not fitted and left out (--dnp include lists them)");
+}
+
+QString faultText(DefinitionFault fault)
+{
+    switch (fault) {
+    case DefinitionFault::TooFewFields:
+        return QStringLiteral("makes no parts; it needs a count, a prefix and a value");
+    case DefinitionFault::NoCount:
+        return QStringLiteral("makes no parts; its count is no number");
+    case DefinitionFault::TooManyParts:
+        return QStringLiteral("makes no parts; its count is above ") +
+               QString::number(mostPartsOfADefinition);
+    case DefinitionFault::NoAssignment:
+        return QStringLiteral("has a field that is not NAME=VALUE and is passed over");
+    case DefinitionFault::DesignIsFull:
+        return QStringLiteral("makes no parts; a design has at most ") + QString::number(mostBOMParts) +
+               QStringLiteral(" BOM-only parts");
+    case DefinitionFault::NumbersEnd:
+        break;
+    }
+    return QStringLiteral("makes no parts; no numbers are left for their references");
+}
+
+/// With the BOM-only parts that belong to them.
+QSet<QString> withBomParts(const BOMPartsDatabase &database, const QStringList &references)
+{
+    QSet<QString> all(references.begin(), references.end());
+    for (const QString &reference : references) {
+        for (const BOMPart *part : database.bomParts(reference)) {
+            all.insert(part->reference());
+        }
+    }
+    return all;
 }
 
 /// The references of the line that are not fitted, when others of it are.
@@ -67,7 +98,7 @@ QStringList notFittedNotices(OpenDesign &design)
     if (notFitted.isEmpty()) {
         return {};
     }
-    return mixedLineNotices(design.database(), QSet<QString>(notFitted.begin(), notFitted.end()));
+    return mixedLineNotices(design.database(), withBomParts(design.database(), notFitted));
 }
 
 QStringList markNotices(OpenDesign &design)
@@ -90,32 +121,31 @@ QStringList markNotices(OpenDesign &design)
     return notices;
 }
 
+QStringList definedPartProblems(OpenDesign &design)
+{
+    QStringList problems;
+    const BOMPartsDatabase &database = design.database();
+    for (const DefinitionProblem &problem : database.definitionProblems()) {
+        problems.append(problem.parentReference + QStringLiteral(": ") + problem.property +
+                        QStringLiteral(": ") + faultText(problem.fault));
+    }
+    QStringList repeated = database.duplicateBOMParts();
+    repeated.removeDuplicates();
+    for (const QString &reference : std::as_const(repeated)) {
+        problems.append(reference +
+                        QStringLiteral(" is the reference of a BOM-only part and of another part"));
+    }
+    return problems;
+}
+
 QStringList definedPartNotices(OpenDesign &design)
 {
-    std::vector<PROPNAME> names;
-    for (const QByteArray &name : design.design().properties().allNames()) {
-        if (name.startsWith("BOMPART")) {
-            names.emplace_back(name);
-        }
-    }
-    QStringList parents;
-    const PartsLedger ledger = design.ledger();
-    const auto components = design.design().components();
-    for (qsizetype i = 0; !names.empty() && i < ledger.components(); ++i) {
-        const PROPLIST &properties = *components[std::size_t(i)]->properties;
-        const auto defines = [&properties](const PROPNAME &name) {
-            return properties.find(name).has_value();
-        };
-        if (ledger.isListed(i) && std::any_of(names.begin(), names.end(), defines)) {
-            parents.append(ledger.reference(i));
-        }
-    }
-    if (parents.isEmpty()) {
+    const qsizetype count = definedPartProblems(design).size();
+    if (count == 0) {
         return {};
     }
-    return {
-        QStringLiteral("parts that properties BOMPART... define are not in the bill; they are defined on ") +
-        referenceText(parents)};
+    return {counted(count, QStringLiteral("definition"), QStringLiteral("definitions")) +
+            QStringLiteral(" of BOM-only parts cannot be followed (bom check says why)")};
 }
 
 QString replacedLineNotice(const ReplacedLine &replaced, bool grouped)

@@ -14,8 +14,11 @@ struct ReplacedLine;
 /// each.
 [[nodiscard]] QStringList markNotices(OpenDesign &design);
 
-/// The parts that define others by a property whose name begins with BOMPART: those others are in no report.
-/// One sentence, nothing when there are none.
+/// The definitions of BOM-only parts that make none, or not as said, and BOM-only parts whose reference is
+/// another part's; one sentence each.
+[[nodiscard]] QStringList definedPartProblems(OpenDesign &design);
+
+/// How many of these there are, in one sentence; nothing when there are none.
 [[nodiscard]] QStringList definedPartNotices(OpenDesign &design);
 
 /// Why a line, or part where they are listed one by one, is not in the report: another one begins with a

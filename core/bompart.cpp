@@ -4,15 +4,26 @@
 
 #include "core/bompartsdatabase.h"
 #include "core/propertyquery.h"
+#include "core/reference.h"
 
 BOMPart::BOMPart(const BOMPartsDatabase *database, const QString &reference, const QString &value,
                  const QString &parentReference, const QMap<QString, QString> &properties)
     : Part(nullptr, database, reference, value)
     , m_parentReference(parentReference)
+    , m_prefix(splitReference(reference).prefix.toString())
 {
     for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
         m_properties.insert(it.key().toUpper(), it.value());
     }
+}
+
+BOMPart::BOMPart(const BOMPartsDatabase *database, const QString &reference, const QString &parentReference,
+                 const BOMPartDefinition &definition)
+    : Part(nullptr, database, reference, definition.value)
+    , m_properties(definition.properties)
+    , m_parentReference(parentReference)
+    , m_prefix(definition.prefix)
+{
 }
 
 bool BOMPart::isBOMPart() const

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/bompartdefinition.h"
 #include "core/part.h"
 
 #include <QMap>
@@ -14,6 +15,9 @@ public:
     /// Names of properties are turned into upper case.
     BOMPart(const BOMPartsDatabase *database, const QString &reference, const QString &value,
             const QString &parentReference, const QMap<QString, QString> &properties = {});
+    /// One of those that a definition makes. They share its texts.
+    BOMPart(const BOMPartsDatabase *database, const QString &reference, const QString &parentReference,
+            const BOMPartDefinition &definition);
 
     [[nodiscard]] bool isBOMPart() const override;
 
@@ -23,10 +27,14 @@ public:
 
     [[nodiscard]] const QString &parentReference() const { return m_parentReference; }
 
+    /// What the definition puts in front of the number of the reference.
+    [[nodiscard]] const QString &prefix() const { return m_prefix; }
+
     /// The own properties by upper-case name, without the value.
     [[nodiscard]] const QMap<QString, QString> &properties() const { return m_properties; }
 
 private:
     QMap<QString, QString> m_properties;
     QString m_parentReference;
+    QString m_prefix;
 };

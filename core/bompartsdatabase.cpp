@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/bompartsdatabase.h"
 
+#include "core/bulkchange.h"
 #include "core/designinfo.h"
 #include "core/reference.h"
 #include "core/referenceformat.h"
@@ -13,7 +14,6 @@
 #include <QSet>
 
 #include <memory>
-#include <utility>
 
 namespace {
 
@@ -24,28 +24,6 @@ std::unique_ptr<BOMPartsDatabase> &theDatabase()
 }
 
 } // namespace
-
-/// Holds notices back while it lives. The outermost one sends the notice at its end.
-class BOMPartsDatabase::BulkChange final
-{
-public:
-    explicit BulkChange(BOMPartsDatabase *database)
-        : m_database(std::exchange(database->m_isUpdating, true) ? nullptr : database)
-    {
-    }
-    BulkChange(const BulkChange &) = delete;
-    BulkChange &operator=(const BulkChange &) = delete;
-    ~BulkChange()
-    {
-        if (m_database) {
-            m_database->m_isUpdating = false;
-            m_database->notify();
-        }
-    }
-
-private:
-    BOMPartsDatabase *m_database;
-};
 
 BOMPartsDatabase::BOMPartsDatabase()
     : m_parts(this)
@@ -76,6 +54,7 @@ void BOMPartsDatabase::clear()
     m_storeOfPrefix.clear();
     m_parts.clear();
     m_duplicateReferences.clear();
+    clearBOMParts();
     notify();
 }
 
@@ -89,13 +68,17 @@ void BOMPartsDatabase::load()
     m_propertyTypes.load();
     if (m_netlist->isValid()) {
         const PROPNAME skipMark("BOMSKIP");
+        ComponentReader reader(this);
+        m_referenceNumbers.reset();
         m_parts.reserve(m_netlist->components.size());
         for (const COMPONENT *component : m_netlist->components) {
             if (component && !(component->properties && component->properties->find(skipMark))) {
                 addPart(*component);
+                reader.read(*component);
             }
         }
         m_parts.endLoading();
+        reader.makeBOMParts();
     }
     updateFieldGrouping();
 }

@@ -3,12 +3,16 @@
 #pragma once
 
 #include "core/categorygroups.h"
+#include "core/definedparts.h"
 #include "core/groupedlines.h"
 #include "core/partstore.h"
 #include "core/propertytypes.h"
+#include "core/referencenumbers.h"
 #include "core/reportlines.h"
+#include "host/netlist/proplist.h"
 #include "templates/bomtemplate.h"
 
+#include <QHash>
 #include <QList>
 #include <QMap>
 #include <QObject>
@@ -18,6 +22,8 @@
 
 #include <functional>
 #include <map>
+#include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -46,8 +52,8 @@ public:
 
     /// Lets go of all parts. Categories stay, and are empty.
     void clear();
-    /// Adds the components of the netlist, except those marked BOMSKIP. A reference that is held already
-    /// becomes a duplicate.
+    /// Adds the components of the netlist, except those marked BOMSKIP, then the BOM-only parts that they
+    /// define. A reference that is held already becomes a duplicate.
     void load();
     /// What a changed design asks for: clears, loads and groups, and resumes notices that were suspended.
     void reload();
@@ -59,12 +65,46 @@ public:
 
     /// Null when no part has that reference. Parts live until clear().
     [[nodiscard]] Part *part(const QString &reference) const { return m_parts.find(reference); }
-    /// All parts in the order of the netlist.
+    /// All parts in the order of the netlist, BOM-only parts behind.
     [[nodiscard]] std::span<Part *const> parts() const { return m_parts.parts(); }
     /// Empty for an unknown reference.
     [[nodiscard]] QString property(const QString &reference, const QString &name) const;
     /// References that came again, once per extra occurrence.
     [[nodiscard]] const QStringList &duplicateReferences() const { return m_duplicateReferences; }
+
+    /// The texts of all properties that define BOM-only parts, in the order of the property list.
+    [[nodiscard]] static QStringList bomPartDefinitions(const COMPONENT &component);
+    /// Makes the parts of these definitions, in the order of their texts.
+    void createBOMParts(const QString &parentReference, const QStringList &definitions);
+    /// Defines and makes further parts of a placed part. In the two texts a single quote is written as \'.
+    /// Gives the property to be written into the design; nothing, and nothing was made, when there is no such
+    /// placed part, the count is not from 1 to mostPartsOfADefinition or a text cannot be written.
+    std::optional<DefinitionProperty> addBOMParts(const QString &parentReference, int count,
+                                                  const QString &escapedPrefix, const QString &escapedValue);
+    /// Lets go of a BOM-only part; what the design is to hold then, rewrittenDefinitions() tells. False for
+    /// one that the parent does not have, or whose definitions cannot be written.
+    bool removeBOMPart(const QString &parentReference, const QString &reference);
+    /// In the order in which they were made.
+    [[nodiscard]] QList<BOMPart *> bomParts(const QString &parentReference) const;
+    /// The properties that define the parts now. All of them give way to rewrittenDefinitions().
+    [[nodiscard]] QStringList bomPartPropertyNames(const QString &parentReference) const;
+    /// What defines the parts as they are, from BOMPART0 on. Nothing when a text cannot be written.
+    [[nodiscard]] std::optional<QList<DefinitionProperty>>
+    rewrittenDefinitions(const QString &parentReference) const;
+    /// Definitions that make no parts, or not as said, in the order of loading.
+    [[nodiscard]] const QList<DefinitionProblem> &definitionProblems() const { return m_definitionProblems; }
+    /// Those of the duplicates that are BOM-only parts.
+    [[nodiscard]] const QStringList &duplicateBOMParts() const { return m_duplicateBOMParts; }
+
+    /// Takes the links of a part from the text of its property BOMLINKS; a text without any changes nothing.
+    void setLinks(const QString &reference, const QString &text);
+    /// The URLs by property name.
+    [[nodiscard]] QMap<QString, QString> links(const QString &reference) const
+    {
+        return m_links.value(reference);
+    }
+    /// The URL for one property, whatever the letter case of its name; empty when there is none.
+    [[nodiscard]] QString link(const QString &reference, const QString &propertyName) const;
 
     [[nodiscard]] const PropertyTypes &propertyTypes() const { return m_propertyTypes; }
     /// A stored value as people see it.
@@ -89,10 +129,16 @@ public:
     [[nodiscard]] QString defaultOutputPath(const QString &extension) const;
     /// The notes that the design had when it was loaded.
     [[nodiscard]] const QString &notes() const { return m_notes; }
+    /// Writes the notes into the design when they differ. When that fails they stay as they were and
+    /// notesError() says why.
+    bool setNotes(const QString &text);
+    [[nodiscard]] const QString &notesError() const { return m_notesError; }
 
     [[nodiscard]] const BOMTemplate &currentTemplate() const { return m_template; }
     /// Takes a copy as the working template, completes it (see templateRepairs()), and groups anew.
     void setCurrentTemplate(const BOMTemplate &settings);
+    /// Takes over style sheet, header and footer of another template, which change no line.
+    void setTemplateLook(const BOMTemplate &settings);
     /// What the working template lacked when it was set, one sentence each.
     [[nodiscard]] const QStringList &templateRepairs() const { return m_templateRepairs; }
     [[nodiscard]] const BOMFields &fields() const { return m_fields; }
@@ -144,6 +190,42 @@ private:
     class BulkChange;
     friend class CategoryGroups;
 
+    /// Takes links and definitions of BOM-only parts from components. Parts are made when all components are
+    /// there.
+    class ComponentReader
+    {
+    public:
+        explicit ComponentReader(BOMPartsDatabase *database);
+        void read(const COMPONENT &component);
+        void makeBOMParts() const;
+
+    private:
+        struct Collected
+        {
+            QString reference;
+            QList<DefinitionProperty> definitions;
+        };
+
+        BOMPartsDatabase *m_database;
+        PROPPREFIX m_definitions;
+        PROPNAME m_links;
+        QList<Collected> m_collected;
+        QHash<QString, qsizetype> m_indices;
+    };
+
+    /// The last number given to each prefix while the definitions of one part are worked through.
+    using LastNumbers = QHash<QString, int>;
+
+    void makeDefinedParts(const QString &parentReference, QList<DefinitionProperty> definitions);
+    /// Makes all parts, or none and says why.
+    [[nodiscard]] std::optional<DefinitionFault> makeBOMParts(const QString &parentReference,
+                                                              const BOMPartDefinition &definition,
+                                                              LastNumbers *lastNumbers);
+    BOMPart *addBOMPart(std::unique_ptr<BOMPart> part);
+    [[nodiscard]] ReferenceNumbers &referenceNumbers();
+    void setLinks(const QString &reference, const QMap<QString, QString> &links);
+    void clearBOMParts();
+
     void addPart(const COMPONENT &component);
     void putIntoCategory(Part &part);
     void putPartsIntoCategories();
@@ -175,5 +257,13 @@ private:
     BOMTemplate m_template;
     QStringList m_templateRepairs;
     QString m_notes;
+    QString m_notesError;
+    QHash<QString, DefinedParts> m_definedParts;
+    QList<DefinitionProblem> m_definitionProblems;
+    QStringList m_duplicateBOMParts;
+    int m_bomPartCount = 0;
+    /// Of all parts that are held; made when a definition asks for it.
+    std::optional<ReferenceNumbers> m_referenceNumbers;
+    QHash<QString, QMap<QString, QString>> m_links;
     PropertyTypes m_propertyTypes;
 };

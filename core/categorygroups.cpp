@@ -17,6 +17,16 @@ void CategoryGroups::add(Part &part)
     m_isGrouped = false;
 }
 
+void CategoryGroups::remove(Part &part)
+{
+    if (part.m_category == this) {
+        part.m_category = nullptr;
+        std::erase(m_parts, &part);
+        m_lines = {};
+        m_isGrouped = false;
+    }
+}
+
 void CategoryGroups::clear()
 {
     for (Part *part : m_parts) {

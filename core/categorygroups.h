@@ -27,6 +27,7 @@ public:
 
     /// Puts a part in, unless it is here already.
     void add(Part &part);
+    void remove(Part &part);
     void clear();
 
     /// Groups the parts anew. Without a database that cannot be done: a debug line says so and the lines

@@ -6,12 +6,15 @@
 #include "host/framework/applnprocess.h"
 #include "host/framework/hosttext.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
 namespace {
 
-const APPLNDOCUMENT *currentDesign()
+constexpr char notesAttachment[] = "BOMNOTES.TXT";
+
+APPLNDOCUMENT *currentDesign()
 {
     const APPLNPROCESS *process = getapplnprocess();
     return process ? process->currentdocument(DOCUMENT_KIND_DESIGN, nullptr) : nullptr;
@@ -62,7 +65,19 @@ QString designVariant()
 QString designNotes()
 {
     const APPLNDOCUMENT *document = currentDesign();
-    return document ? document->readattachment("BOMNOTES.TXT") : QString();
+    return document ? document->readattachment(notesAttachment) : QString();
+}
+
+bool setDesignNotes(const QString &text, QString *reason)
+{
+    APPLNDOCUMENT *document = currentDesign();
+    if (!document) {
+        *reason = QCoreApplication::translate("BOMPartsDatabase", "No design is open");
+        return false;
+    }
+    const bool isWritten = document->writeattachment(notesAttachment, text);
+    *reason = isWritten ? QString() : document->attachmenterror();
+    return isWritten;
 }
 
 QString designOutputPath(const QString &extension)

@@ -14,6 +14,8 @@
 [[nodiscard]] QString designVariant();
 /// The text of the attachment with the notes on the bill of materials.
 [[nodiscard]] QString designNotes();
+/// Writes them; `reason` takes why that failed.
+[[nodiscard]] bool setDesignNotes(const QString &text, QString *reason);
 
 /// The absolute path proposed for a report of the design, `extension` with its dot. The folder is the working
 /// folder, or the user's when the program's own folder is that one or is known by a relative path only; it is

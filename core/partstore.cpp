@@ -35,6 +35,17 @@ BOMPart *PartStore::add(std::unique_ptr<BOMPart> part)
     return m_unplaced.emplace_back(std::move(part)).get();
 }
 
+void PartStore::remove(const BOMPart *part)
+{
+    std::erase(m_parts, part);
+    m_index.clear();
+    m_index.reserve(m_parts.size());
+    for (size_t i = 0; i < m_parts.size(); ++i) {
+        m_index.insert(hashText(m_parts[i]->reference()), quint32(i));
+    }
+    std::erase_if(m_unplaced, [part](const std::unique_ptr<BOMPart> &held) { return held.get() == part; });
+}
+
 void PartStore::clear()
 {
     m_parts = {};

@@ -51,6 +51,7 @@ public:
     [[nodiscard]] const LoadedDesign *design() const { return m_design.get(); }
     [[nodiscard]] StandaloneNetlist &netlist() { return m_netlist; }
     [[nodiscard]] const StandaloneDocument &document() const { return m_document; }
+    [[nodiscard]] StandaloneDocument &document() { return m_document; }
     [[nodiscard]] ProjectNotes &projectNotes() { return m_process.projectNotes(); }
 
 private:

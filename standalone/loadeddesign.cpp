@@ -34,6 +34,11 @@ std::optional<QByteArrayView> LoadedDesign::Record::find(const PROPNAME &name) c
     return m_table->find(*m_component, name);
 }
 
+std::vector<PROPERTY> LoadedDesign::Record::startingwith(const PROPPREFIX &prefix) const
+{
+    return m_table->startingWith(*m_component, prefix);
+}
+
 QByteArrayList LoadedDesign::Record::names() const
 {
     return m_table->names(*m_component);

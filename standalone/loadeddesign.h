@@ -32,6 +32,7 @@ private:
         Record(const PropertyTable &table, const designs::Component &component, quint64 identifier);
         [[nodiscard]] const COMPONENT *publish();
         [[nodiscard]] std::optional<QByteArrayView> find(const PROPNAME &name) const override;
+        [[nodiscard]] std::vector<PROPERTY> startingwith(const PROPPREFIX &prefix) const override;
         [[nodiscard]] QByteArrayList names() const override;
 
     private:

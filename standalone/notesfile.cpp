@@ -4,12 +4,65 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QStringDecoder>
 
 namespace {
 
 /// More than any notes that people write; keeps a wrong file from filling the memory.
 constexpr qint64 largestNotes = 16 * 1024 * 1024;
+
+constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
+
+struct Form
+{
+    bool hasMark = false;
+    bool hasCarriageReturns = false;
+};
+
+/// How the file is written that is there now. The first line tells.
+Form formOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    const QByteArray line = file.readLine(largestNotes);
+    return {line.startsWith(byteOrderMark), line.endsWith("\r\n")};
+}
+
+QByteArray bytesOf(QString text, Form form)
+{
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    if (form.hasCarriageReturns) {
+        text.replace(u'\n', QStringLiteral("\r\n"));
+    }
+    return (form.hasMark ? QByteArray(byteOrderMark) : QByteArray()) + text.toUtf8();
+}
+
+bool removeFile(const QString &path, QString *reason)
+{
+    QFile file(path);
+    if (!file.exists() || file.remove()) {
+        return true;
+    }
+    *reason = file.errorString();
+    return false;
+}
+
+bool replaceFile(const QString &path, const QByteArray &bytes, QString *reason)
+{
+    if (bytes.size() > largestNotes) {
+        *reason = QStringLiteral("notes are at most 16 MB");
+        return false;
+    }
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) {
+        return true;
+    }
+    *reason = file.errorString();
+    return false;
+}
 
 } // namespace
 
@@ -37,4 +90,13 @@ NotesFile readNotesFile(const QString &path)
     }
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     return {text, {}};
+}
+
+bool writeNotesFile(const QString &path, const QString &text, QString *reason)
+{
+    QString problem;
+    const bool isWritten = text.isEmpty() ? removeFile(path, &problem)
+                                          : replaceFile(path, bytesOf(text, formOf(path)), &problem);
+    *reason = isWritten ? QString() : path + QStringLiteral(": ") + problem;
+    return isWritten;
 }

@@ -15,3 +15,7 @@ struct NotesFile
 
 /// Reads UTF-8 text of at most 16 MB.
 [[nodiscard]] NotesFile readNotesFile(const QString &path);
+
+/// Replaces the text as a whole, with the line ends and the byte-order mark that the file has; an empty text
+/// removes it. On failure the old file stays and `reason` says why: "FILE: why".
+[[nodiscard]] bool writeNotesFile(const QString &path, const QString &text, QString *reason);

@@ -59,6 +59,23 @@ std::optional<QByteArrayView> PropertyTable::find(const designs::Component &comp
     return found;
 }
 
+std::vector<PROPERTY> PropertyTable::startingWith(const designs::Component &component,
+                                                  const PROPPREFIX &prefix) const
+{
+    std::vector<PROPERTY> found;
+    const std::vector<designs::NameId> &asked = lookup(prefix);
+    if (asked.empty()) {
+        return found;
+    }
+    for (const designs::Property &property : component.properties) {
+        // Numbers grow with the first sight of a name, so these are in order.
+        if (std::binary_search(asked.begin(), asked.end(), property.name)) {
+            found.push_back({view(m_design.names().name(property.name)), view(property.value)});
+        }
+    }
+    return found;
+}
+
 QByteArrayList PropertyTable::names(const designs::Component &component) const
 {
     QByteArrayList names;
@@ -150,6 +167,21 @@ const PropertyTable::Lookup &PropertyTable::lookup(const QByteArray &name) const
         made.meaning = Meaning::NotFitted;
     }
     return m_lookups.emplace(key, std::move(made)).first->second;
+}
+
+const std::vector<designs::NameId> &PropertyTable::lookup(const PROPPREFIX &prefix) const
+{
+    if (const void *known = prefix.remembered(m_stamp)) {
+        return *static_cast<const std::vector<designs::NameId> *>(known);
+    }
+    const auto [entry, isNew] = m_prefixLookups.try_emplace(prefix.name().toStdString());
+    for (designs::NameId id = 0; isNew && id < m_design.names().size(); ++id) {
+        if (m_design.names().name(id).starts_with(entry->first)) {
+            entry->second.push_back(id);
+        }
+    }
+    prefix.remember(m_stamp, &entry->second);
+    return entry->second;
 }
 
 std::optional<QByteArrayView> PropertyTable::stored(const designs::Component &component,

@@ -24,6 +24,9 @@ public:
 
     [[nodiscard]] std::optional<QByteArrayView> find(const designs::Component &component,
                                                      const PROPNAME &name) const;
+    /// The stored properties whose names begin like that, in file order. Letter case counts.
+    [[nodiscard]] std::vector<PROPERTY> startingWith(const designs::Component &component,
+                                                     const PROPPREFIX &prefix) const;
     /// The names under which the component has properties: as stored, in file order, the two flags last
     /// unless they are stored.
     [[nodiscard]] QByteArrayList names(const designs::Component &component) const;
@@ -57,6 +60,8 @@ private:
 
     [[nodiscard]] const Lookup &lookup(const PROPNAME &name) const;
     [[nodiscard]] const Lookup &lookup(const QByteArray &name) const;
+    /// The names of the design that begin like that.
+    [[nodiscard]] const std::vector<designs::NameId> &lookup(const PROPPREFIX &prefix) const;
     [[nodiscard]] std::optional<QByteArrayView> stored(const designs::Component &component,
                                                        const Lookup &lookup) const;
 
@@ -65,6 +70,7 @@ private:
     DnpChoice m_dnpChoice = DnpChoice::Exclude;
     /// Entries never move: a PROPNAME remembers the address of its own.
     mutable std::unordered_map<std::string, Lookup> m_lookups;
+    mutable std::unordered_map<std::string, std::vector<designs::NameId>> m_prefixLookups;
     const Lookup *m_skip = nullptr;
     const Lookup *m_notFitted = nullptr;
 };

@@ -85,6 +85,19 @@ QString StandaloneDocument::readattachment(const char *name) const
     return readNotesFile(notesFile()).text;
 }
 
+bool StandaloneDocument::writeattachment(const char *name, const QString &text)
+{
+    m_attachmentError.clear();
+    if (!m_design || !name || std::strcmp(name, "BOMNOTES.TXT") != 0) {
+        m_attachmentError = QStringLiteral("the design has no place for such a text");
+    } else if (const QString problem = notesProblem(); !problem.isEmpty()) {
+        m_attachmentError = problem;
+    } else {
+        (void)writeNotesFile(notesFile(), text, &m_attachmentError);
+    }
+    return m_attachmentError.isEmpty();
+}
+
 QString StandaloneDocument::fileBeside(const QString &suffix) const
 {
     if (!m_design) {

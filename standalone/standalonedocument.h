@@ -26,6 +26,9 @@ public:
     [[nodiscard]] bool isdoctype(const char *type) const override;
     /// BOMNOTES.TXT is read at every call from the file notesFile(); line ends become "\n".
     [[nodiscard]] QString readattachment(const char *name) const override;
+    /// BOMNOTES.TXT goes to notesFile(). Notes that cannot be read are not replaced.
+    bool writeattachment(const char *name, const QString &text) override;
+    [[nodiscard]] QString attachmenterror() const override { return m_attachmentError; }
 
     /// "<design base name>.bomnotes.txt" beside the design; empty without a design.
     [[nodiscard]] QString notesFile() const;
@@ -38,4 +41,5 @@ private:
     [[nodiscard]] QString fileBeside(const QString &suffix) const;
 
     std::shared_ptr<const LoadedDesign> m_design;
+    QString m_attachmentError;
 };

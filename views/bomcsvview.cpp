@@ -4,8 +4,8 @@
 
 #include "core/bompartsdatabase.h"
 #include "host/framework/hostui.h"
-#include "views/csvtext.h"
 #include "host/framework/reportfile.h"
+#include "views/csvtext.h"
 
 #include <QFileInfo>
 #include <QUrl>

@@ -180,10 +180,9 @@ QString BOMHTMLView::headingRow() const
     const QList<int> widths = manualWidths();
     QString cells;
     for (qsizetype i = 0; i < headings.size(); ++i) {
-        const QString style =
-            i < widths.size()
-                ? QStringLiteral(" style='width:") + QString::number(widths[i]) + QStringLiteral("%'")
-                : QString();
+        const QString style = i < widths.size() ? QStringLiteral(" style='width:") +
+                                                      QString::number(widths[i]) + QStringLiteral("%'")
+                                                : QString();
         cells += QStringLiteral("<th") + style + QStringLiteral("><p class='fieldHeading'>") +
                  ::htmlText(headings[i]) + QStringLiteral("</p></th>");
     }
@@ -236,8 +235,8 @@ void BOMHTMLView::appendCategory(QString &html, const QString &category, const Q
             headingRow;
     appendRows(html, category);
     const QString start = cellStart(QLatin1String("subtotal"));
-    html += QStringLiteral("<tr><td colspan='2'><p class='subtotal'>") + ::htmlText(tr("Sub-totals:")) +
-            cellEnd;
+    html +=
+        QStringLiteral("<tr><td colspan='2'><p class='subtotal'>") + ::htmlText(tr("Sub-totals:")) + cellEnd;
     for (const QString &total : categorySubTotals(category)) {
         html += start + ::htmlText(total) + cellEnd;
     }

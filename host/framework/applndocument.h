@@ -30,6 +30,12 @@ public:
     /// A text kept with the document under a name such as "BOMNOTES.TXT"; empty when absent.
     [[nodiscard]] virtual QString readattachment(const char *name) const = 0;
 
+    /// Replaces such a text; an empty one takes the attachment away. When that fails the old one stays and
+    /// attachmenterror() says why.
+    virtual bool writeattachment(const char *name, const QString &text) = 0;
+    /// Why the last writeattachment() failed; empty after one that did not.
+    [[nodiscard]] virtual QString attachmenterror() const = 0;
+
 Q_SIGNALS:
     void modified(APPLNDOCUMENT *document);
 };

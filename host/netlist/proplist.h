@@ -7,18 +7,14 @@
 #include <QByteArrayView>
 
 #include <optional>
+#include <utility>
+#include <vector>
 
-/// A property name prepared for being looked up in many property lists. The lists of one netlist share a
-/// table of names; what the table found out about this name is remembered here, so that the next look-up
-/// compares numbers.
-class PROPNAME
+/// What is looked up in many property lists. The lists of one netlist share a table of names; what the table
+/// found out about this text is remembered here, so that the next look-up compares numbers.
+class PROPKEY
 {
 public:
-    explicit PROPNAME(QByteArray name)
-        : m_name(std::move(name))
-    {
-    }
-
     [[nodiscard]] const QByteArray &name() const { return m_name; }
 
     /// What the table with that stamp remembered, null when nothing or when it was another table.
@@ -29,10 +25,43 @@ public:
         m_found = found;
     }
 
+protected:
+    explicit PROPKEY(QByteArray name)
+        : m_name(std::move(name))
+    {
+    }
+
 private:
     QByteArray m_name;
     mutable quint64 m_stamp = 0;
     mutable const void *m_found = nullptr;
+};
+
+/// A property name prepared for being looked up.
+class PROPNAME final : public PROPKEY
+{
+public:
+    explicit PROPNAME(QByteArray name)
+        : PROPKEY(std::move(name))
+    {
+    }
+};
+
+/// What names begin with that are looked up together; letter case counts.
+class PROPPREFIX final : public PROPKEY
+{
+public:
+    explicit PROPPREFIX(QByteArray start)
+        : PROPKEY(std::move(start))
+    {
+    }
+};
+
+/// A property as it is stored.
+struct PROPERTY
+{
+    QByteArrayView name;
+    QByteArrayView value;
 };
 
 /// The properties of one component. Texts are host text and stay valid until the netlist is read again.
@@ -43,6 +72,10 @@ public:
 
     /// The value of a property, nothing when the component does not have it.
     [[nodiscard]] virtual std::optional<QByteArrayView> find(const PROPNAME &name) const = 0;
+
+    /// The properties whose names begin like that, in list order. Costs next to nothing where no component of
+    /// the netlist has one.
+    [[nodiscard]] virtual std::vector<PROPERTY> startingwith(const PROPPREFIX &prefix) const = 0;
 
     /// The names as stored, in list order.
     [[nodiscard]] virtual QByteArrayList names() const = 0;

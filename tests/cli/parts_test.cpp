@@ -75,6 +75,17 @@ TEST_F(Parts, AsJsonKeepNamesAndTextsAsStored)
         << "a DNP that says no reads as absent";
 }
 
+TEST_F(Parts, AsJsonTellWhomBomOnlyPartsBelongTo)
+{
+    write(QStringLiteral("amp.kicad_sch"),
+          kicadSchematic(
+              {{"U1", "reg", "(property \"BOMPART1\" \"'2','SCR','Bob\\\\'s','mpn=x'\" (at 0 0 0))"}}));
+    const std::string out = run("parts amp.kicad_sch --json").out;
+    EXPECT_THAT(out, HasSubstr(R"({"reference":"SCR2","value":"Bob's","name":"","placed":"Not placed",)"
+                               R"("category":"Miscellaneous","bomPartOf":"U1","properties":{"MPN":"x"}})"));
+    EXPECT_THAT(out, HasSubstr(R"("reference":"U1","value":"reg")"));
+}
+
 TEST_F(Parts, AsTextAreBlocksOfReadableLines)
 {
     write(QStringLiteral("list.csv"),

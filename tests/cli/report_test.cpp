@@ -41,15 +41,37 @@ TEST_F(Report, WritesEachOutputToItsFileAndNothingElse)
     EXPECT_EQ(run("report list.csv --full-csv - --csv lines.csv").out, read(QStringLiteral("parts.csv")));
 }
 
-TEST_F(Report, SaysWhichPartsDefineOthersThatItDoesNotHold)
+TEST_F(Report, HoldsThePartsThatOthersDefine)
 {
-    write(QStringLiteral("list.csv"), "Reference,Value,BOMPART1\nR1,10k,\"'2','SCR','M3'\"\nR2,10k,\n");
-    const ProgramRun result = run("report list.csv");
+    write(QStringLiteral("list.csv"), "Reference,Value,CODE,BOMPART1,DNP\n"
+                                      "R1,10k,S-10k,\"'2','SCR','M3','CODE=N-3','COST=0.1'\",\n"
+                                      "R2,10k,S-10k,\"1,SCR,M3,CODE=N-3,COST=0.1\",x\n"
+                                      "R3,10k,S-10k,\"1,SCR\",\n");
+    const ProgramRun result = run("report list.csv --dnp include");
     EXPECT_EQ(result.status, 0);
-    EXPECT_THAT(result.err, HasSubstr("BOMPART... define are not in the bill; they are defined on R1\n"));
-    EXPECT_EQ(run("check list.csv").status, 1);
-    write(QStringLiteral("plain.csv"), "Reference,Value,BOMPART1\nR1,10k,\n");
-    EXPECT_EQ(run("report plain.csv").err, "");
+    EXPECT_EQ(result.out, std::string(heading) + "Resistors,3,R1-R3,10k,S-10k,\n"
+                                                 "Miscellaneous,3,SCR1-SCR3,M3,N-3,0.10\n");
+    EXPECT_THAT(result.err,
+                HasSubstr("the line SCR1-SCR3 mixes fitted and not fitted parts; not fitted: SCR3"));
+    EXPECT_THAT(result.err,
+                HasSubstr("bom: 1 definition of BOM-only parts cannot be followed (bom check says why)\n"));
+    EXPECT_THAT(run("report list.csv").out, HasSubstr("Miscellaneous,2,SCR1-SCR2,M3"));
+}
+
+TEST_F(Report, NamesBomOnlyPartsWhoseReferenceIsTaken)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value,BOMPART1,BOMPART2,BOMPART3\n"
+                                      "U1,reg,\"1,A1,b\",\"1,A,a\",\"2,A,c\"\nA9,x,,,\n");
+    const ProgramRun result = run("report list.csv");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "");
+    EXPECT_THAT(result.err, HasSubstr("bom: references of BOM-only parts and of other parts: A11\n"
+                                      "bom: nothing was written: 1 reference occurs more than once"));
+    EXPECT_EQ(run("report list.csv --allow-duplicates").status, 0);
+    const ProgramRun check = run("check list.csv");
+    EXPECT_EQ(check.status, 1);
+    EXPECT_THAT(check.out, HasSubstr("A11 is the reference of a BOM-only part and of another part\n"));
+    EXPECT_THAT(check.out, HasSubstr("agree\n"));
 }
 
 TEST_F(Report, WritesNumbersInTheLocaleThatIsAskedFor)

@@ -267,6 +267,11 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(bytes);
     }
+    QByteArray bytes() const
+    {
+        QFile file(m_folder.filePath(QStringLiteral("amp.bomnotes.txt")));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+    }
     void openDesign()
     {
         auto design = std::make_unique<TableDesign>();
@@ -305,6 +310,41 @@ TEST_F(Notes, ThatAreAFolderAreNamed)
     ASSERT_TRUE(QDir(m_folder.path()).mkdir(QStringLiteral("amp.bomnotes.txt")));
     EXPECT_EQ(notes(), QString());
     EXPECT_TRUE(m_session.document().notesProblem().endsWith(QStringLiteral("is no file")));
+}
+
+TEST_F(Notes, AreWrittenAsTheFileWas)
+{
+    openDesign();
+    auto &document = m_session.document();
+    EXPECT_TRUE(document.writeattachment("BOMNOTES.TXT", QStringLiteral("eins\nzwölf\r\n")));
+    EXPECT_EQ(bytes(), "eins\nzw\xc3\xb6lf\n");
+    EXPECT_EQ(notes(), QStringLiteral("eins\nzwölf\n"));
+    write("\xEF\xBB\xBF"
+          "one\r\ntwo");
+    EXPECT_TRUE(document.writeattachment("BOMNOTES.TXT", QStringLiteral("one\ntwo\n")));
+    EXPECT_EQ(bytes(), "\xEF\xBB\xBF"
+                       "one\r\ntwo\r\n");
+    EXPECT_TRUE(document.writeattachment("BOMNOTES.TXT", QString()));
+    EXPECT_FALSE(QFile::exists(document.notesFile()));
+    EXPECT_TRUE(document.writeattachment("BOMNOTES.TXT", QString()));
+    EXPECT_FALSE(document.writeattachment("OTHER.TXT", QStringLiteral("x")));
+    EXPECT_FALSE(document.attachmenterror().isEmpty());
+}
+
+TEST_F(Notes, ThatCannotBeWrittenLeaveTheOldFile)
+{
+    openDesign();
+    auto &document = m_session.document();
+    write("\xff\xfe");
+    EXPECT_FALSE(document.writeattachment("BOMNOTES.TXT", QStringLiteral("new")));
+    EXPECT_TRUE(document.attachmenterror().endsWith(QStringLiteral("amp.bomnotes.txt: is no UTF-8 text")));
+    EXPECT_EQ(bytes(), "\xff\xfe");
+    write("old");
+    EXPECT_FALSE(document.writeattachment("BOMNOTES.TXT", QString(17 * 1024 * 1024, u'x')));
+    EXPECT_TRUE(document.attachmenterror().startsWith(document.notesFile()));
+    EXPECT_EQ(bytes(), "old");
+    EXPECT_TRUE(document.writeattachment("BOMNOTES.TXT", QStringLiteral("new")));
+    EXPECT_EQ(document.attachmenterror(), QString());
 }
 
 } // namespace

@@ -73,6 +73,27 @@ TEST(PropertyLookUp, APreparedNameServesSeveralDesignsInTurn)
     EXPECT_EQ((*a.components()[0]->properties)["Supplier"], QByteArrayView());
 }
 
+TEST(PropertyLookUp, FindsTheNamesThatBeginAlike)
+{
+    auto design = std::make_unique<TableDesign>();
+    design->add("R1", "10k", {{"MPN", "x"}});
+    design->add("R2", "10k", {{"BOMPART2", "b"}, {"MPN", "x"}, {"bompart3", "c"}, {"BOMPART1", "a"}});
+    design->add("R3", "10k", {{"BOMPART1", "d"}, {"BOMPART", "e"}});
+    const LoadedDesign loaded(std::move(design), DnpChoice::Exclude);
+    const PROPPREFIX prefix("BOMPART");
+    const auto found = [&](std::size_t index) {
+        std::string text;
+        for (const PROPERTY &property : loaded.components()[index]->properties->startingwith(prefix)) {
+            text += (property.name.toByteArray() + '=' + property.value.toByteArray() + ' ').toStdString();
+        }
+        return text;
+    };
+    EXPECT_EQ(found(0), "");
+    EXPECT_EQ(found(1), "BOMPART2=b BOMPART1=a ");
+    EXPECT_EQ(found(2), "BOMPART1=d BOMPART=e ");
+    EXPECT_TRUE(loaded.components()[0]->properties->startingwith(PROPPREFIX("Q")).empty());
+}
+
 struct FlagCase
 {
     const char *what;

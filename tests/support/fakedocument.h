@@ -15,10 +15,21 @@ public:
     QHash<QByteArray, QString> attachments;
     char kind = 's';
     QByteArray type = "DSN";
+    /// Not empty: attachments cannot be written, and this is why.
+    QString attachmentProblem;
 
     QString getinfo(const char *key) const override { return info.value(key); }
     QByteArray getproperty(const char *name) const override { return properties.value(name); }
     char kindcode() const override { return kind; }
     bool isdoctype(const char *asked) const override { return type == asked; }
     QString readattachment(const char *name) const override { return attachments.value(name); }
+    bool writeattachment(const char *name, const QString &text) override
+    {
+        if (!attachmentProblem.isEmpty()) {
+            return false;
+        }
+        attachments[name] = text;
+        return true;
+    }
+    QString attachmenterror() const override { return attachmentProblem; }
 };

@@ -31,6 +31,16 @@ public:
         }
         return std::nullopt;
     }
+    std::vector<PROPERTY> startingwith(const PROPPREFIX &prefix) const override
+    {
+        std::vector<PROPERTY> found;
+        for (const auto &[name, value] : m_properties) {
+            if (name.startsWith(prefix.name())) {
+                found.push_back({name, value});
+            }
+        }
+        return found;
+    }
     QByteArrayList names() const override
     {
         QByteArrayList all;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "views/bomcsvview.h"
 #include "host/framework/reportfile.h"
+#include "views/bomcsvview.h"
 #include "views/viewfixture.h"
 
 #include <QDir>

@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "core/bomlinks.h"
+#include "core/bompartsdatabase.h"
+#include "support/fakenetlist.h"
+#include "support/fakeprocess.h"
+#include "support/printtext.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Links = QMap<QString, QString>;
+
+TEST(Links, areReadItemByItem)
+{
+    EXPECT_EQ(readBOMLinks(u"DATASHEET=docs%2Fa%2Cb.pdf,none,=x,B=a=b,,C=gr%C3%B6\u00dfe"_s),
+              (Links{{u"DATASHEET"_s, u"docs/a,b.pdf"_s}, {u"B"_s, u"a=b"_s}, {u"C"_s, u"größe"_s}}));
+}
+
+TEST(Links, areWrittenSoThatTheyReadTheSame)
+{
+    const Links links{{u"MPN"_s, u"https://x.org/a,b?c=d&e=%2C#f"_s}, {u"CODE"_s, u"Größe.pdf"_s}};
+    const auto text = bomLinksText(links);
+    ASSERT_TRUE(text);
+    EXPECT_EQ(*text, u"CODE=Gr%C3%B6%C3%9Fe.pdf,MPN=https%3A%2F%2Fx.org%2Fa%2Cb%3Fc%3Dd%26e%3D%252C%23f"_s);
+    EXPECT_EQ(readBOMLinks(*text), links);
+    EXPECT_EQ(bomLinksText({{u"MPN"_s, QString()}}), QString());
+    EXPECT_FALSE(bomLinksText({{u"a,b"_s, u"x"_s}}));
+    EXPECT_FALSE(bomLinksText({{u"a=b"_s, u"x"_s}}));
+}
+
+TEST(Links, belongToParts)
+{
+    FakeNetlist netlist;
+    netlist.add("U1", "reg", {{"BOMLINKS", "Mpn=a.pdf,MPN=b.pdf"}});
+    netlist.add("U2", "reg", {{"BOMLINKS", ""}});
+    BOMPartsDatabase database;
+    database.setNetlist(netlist.cache());
+    database.load();
+    EXPECT_EQ(database.links(u"U1"_s).size(), 2);
+    EXPECT_EQ(database.link(u"U1"_s, u"MPN"_s), u"b.pdf"_s);
+    EXPECT_EQ(database.link(u"U1"_s, u"Mpn"_s), u"a.pdf"_s);
+    EXPECT_NE(database.link(u"U1"_s, u"mpn"_s), QString());
+    EXPECT_EQ(database.link(u"U1"_s, u"CODE"_s), QString());
+    EXPECT_EQ(database.link(u"U2"_s, u"MPN"_s), QString());
+    database.setLinks(u"U1"_s, u"no link"_s);
+    database.setLinks(u"U1"_s, QString());
+    EXPECT_EQ(database.links(u"U1"_s).size(), 2);
+    database.setLinks(u"U1"_s, u"CODE=c"_s);
+    EXPECT_EQ(database.links(u"U1"_s), (Links{{u"CODE"_s, u"c"_s}}));
+    database.clear();
+    EXPECT_TRUE(database.links(u"U1"_s).isEmpty());
+}
+
+TEST(Notes, areWrittenIntoTheDesignWhenTheyDiffer)
+{
+    FakeProcess process;
+    FakeNetlist netlist;
+    BOMPartsDatabase database;
+    database.setNetlist(netlist.cache());
+    process.design.attachments["BOMNOTES.TXT"] = u"old"_s;
+    database.load();
+    int changes = 0;
+    QObject::connect(&database, &BOMPartsDatabase::dataChanged, &database, [&changes] { ++changes; });
+    process.design.attachmentProblem = u"disk full"_s;
+    EXPECT_TRUE(database.setNotes(u"old"_s)) << "nothing to write";
+    EXPECT_FALSE(database.setNotes(u"new"_s));
+    EXPECT_EQ(database.notes(), u"old"_s);
+    EXPECT_EQ(database.notesError(), u"disk full"_s);
+    EXPECT_EQ(changes, 0);
+    process.design.attachmentProblem.clear();
+    EXPECT_TRUE(database.setNotes(u"new"_s));
+    EXPECT_EQ(process.design.attachments["BOMNOTES.TXT"], u"new"_s);
+    EXPECT_EQ(database.notes(), u"new"_s);
+    EXPECT_EQ(database.notesError(), QString());
+    EXPECT_EQ(changes, 1);
+    process.hasDesign = false;
+    EXPECT_FALSE(database.setNotes(u"x"_s));
+    EXPECT_FALSE(database.notesError().isEmpty());
+}
+
+} // namespace
