@@ -13,25 +13,26 @@
 
 namespace {
 
-/// White and grey squares show through what is transparent; what is open is crossed out.
+constexpr int swatchWidth = 24;
+constexpr int swatchGap = 6;
+
+/// A dense pattern shows through what is transparent; what is open is crossed out.
 [[nodiscard]] QPixmap swatch(const QColor &color, const QSize &size, const QPalette &palette)
 {
     QPixmap pixmap(size);
-    pixmap.fill(Qt::white);
+    pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    const QRect frame(0, 0, size.width() - 1, size.height() - 1);
-    if (color.isValid()) {
-        painter.fillRect(pixmap.rect(), QBrush(Qt::lightGray, Qt::Dense4Pattern));
-        if (color.alpha() == 255) {
-            painter.fillRect(pixmap.rect(), Qt::white);
-        }
-        painter.fillRect(pixmap.rect(), color);
-    } else {
-        painter.fillRect(pixmap.rect(), palette.color(QPalette::Base));
-        painter.setPen(palette.color(QPalette::Mid));
-        painter.drawLine(frame.bottomLeft(), frame.topRight());
+    const QRect frame(0, 0, swatchWidth - 1, size.height() - 1);
+    painter.fillRect(frame, color.isValid() ? QColor(Qt::white) : palette.color(QPalette::Base));
+    if (color.isValid() && color.alpha() < 255) {
+        painter.fillRect(frame, QBrush(Qt::lightGray, Qt::Dense4Pattern));
     }
     painter.setPen(palette.color(QPalette::Mid));
+    if (color.isValid()) {
+        painter.fillRect(frame, color);
+    } else {
+        painter.drawLine(frame.bottomLeft(), frame.topRight());
+    }
     painter.drawRect(frame);
     return pixmap;
 }
@@ -46,7 +47,7 @@ ColorField::ColorField(QWidget *parent)
     , m_chooser([](QWidget *over, const QColor &now, const QString &title) {
         return QColorDialog::getColor(now, over, title, QColorDialog::ShowAlphaChannel);
     })
-    , m_openText(tr("inherited"))
+    , m_openText(tr("not set"))
 {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -56,14 +57,14 @@ ColorField::ColorField(QWidget *parent)
     row->addWidget(m_clear);
     m_button->setObjectName(QStringLiteral("chooseButton"));
     m_button->setAutoDefault(false);
-    m_button->setIconSize(QSize(24, 14));
+    m_button->setIconSize(QSize(swatchWidth + swatchGap, 14));
     m_none->setObjectName(QStringLiteral("noneButton"));
     m_none->setText(tr("None"));
     m_none->setToolTip(tr("Transparent"));
     m_none->setVisible(false);
     m_clear->setObjectName(QStringLiteral("clearButton"));
     m_clear->setText(QStringLiteral("\u00d7"));
-    m_clear->setToolTip(tr("As inherited"));
+    m_clear->setToolTip(tr("Leave open"));
     for (QToolButton *button : {m_none, m_clear}) {
         button->setFocusPolicy(Qt::StrongFocus);
         button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
@@ -114,9 +115,8 @@ void ColorField::take(const QString &value)
         return;
     }
     m_value = value;
-    // The button that was clicked may be disabled next, which would carry the focus away.
-    if (value.isEmpty()) {
-        m_button->setFocus();
+    if (m_none->hasFocus() || m_clear->hasFocus()) {
+        m_button->setFocus(); // as the button that was clicked is disabled next
     }
     refresh();
     Q_EMIT valueChanged();
@@ -132,6 +132,7 @@ void ColorField::refresh()
     m_button->setAccessibleName(m_subject + QStringLiteral(": ") + text);
     m_none->setAccessibleName(m_subject + QStringLiteral(": ") + m_none->toolTip());
     m_clear->setAccessibleName(m_subject + QStringLiteral(": ") + m_clear->toolTip());
+    m_none->setEnabled(!none);
     m_clear->setEnabled(!m_value.isEmpty());
 }
 

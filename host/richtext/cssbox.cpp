@@ -134,6 +134,15 @@ constexpr Aspect allAspects[] = {Aspect::Width, Aspect::Style, Aspect::Color};
 
 } // namespace
 
+QList<Slot> everySide(Aspect aspect)
+{
+    QList<Slot> out;
+    for (const Side side : allSides) {
+        out.append({aspect, side});
+    }
+    return out;
+}
+
 QString property(Family family, Slot slot)
 {
     return familyName(family) + sideName(slot.second) + aspectName(family, slot.first);

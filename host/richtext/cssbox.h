@@ -33,6 +33,7 @@ constexpr Side allSides[] = {Side::Top, Side::Right, Side::Bottom, Side::Left};
 
 /// One thing about one side. Margins and paddings have a width only.
 using Slot = std::pair<Aspect, Side>;
+[[nodiscard]] QList<Slot> everySide(Aspect aspect);
 /// What a declaration says; an empty value where it says that nothing is set.
 using Values = QMap<Slot, QString>;
 

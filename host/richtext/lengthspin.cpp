@@ -13,8 +13,8 @@ LengthSpin::LengthSpin(QWidget *parent)
     setSuffix(tr(" pt"));
     setKeyboardTracking(false);
     setFocusPolicy(Qt::StrongFocus);
-    setBounds(0, 1000);
-    setOpenText(tr("inherited"));
+    setBounds(0, 500);
+    setOpenText(tr("not set"));
     connect(this, qOverload<double>(&QDoubleSpinBox::valueChanged), this, &LengthSpin::lengthChanged);
 }
 

@@ -3,6 +3,7 @@
 #include "host/richtext/stylepanel.h"
 
 #include "host/richtext/cssvalue.h"
+#include "host/richtext/stylefields.h"
 #include "host/richtext/stylerule.h"
 #include "richtext/ui_stylepanel.h"
 
@@ -12,50 +13,13 @@
 using cssbox::Aspect;
 using cssbox::Family;
 using cssbox::Side;
+using namespace stylefields;
 
 namespace {
 
 constexpr double usualSize = 12;
 /// What percentages of a margin are taken of when the sheet names no paper.
 constexpr double usualWidth = 595;
-
-/// The values of the entries of a combo box, in their order; the first leaves the property open.
-void setEntries(QComboBox *combo, const QStringList &values)
-{
-    Q_ASSERT(combo->count() == values.size());
-    for (int i = 0; i < combo->count(); ++i) {
-        combo->setItemData(i, values.at(i));
-    }
-}
-
-/// Shows the entry of a value; one that has no entry stands there as it is written.
-void showEntry(QComboBox *combo, const QString &value)
-{
-    combo->setPlaceholderText(value);
-    combo->setCurrentIndex(combo->findData(value.toLower()));
-}
-
-void showTrait(QCheckBox *box, const QString &value, bool on)
-{
-    box->setCheckState(value.isEmpty() ? Qt::PartiallyChecked : on ? Qt::Checked : Qt::Unchecked);
-}
-
-[[nodiscard]] bool isBold(const QString &weight)
-{
-    return weight.startsWith(QLatin1String("bold"), Qt::CaseInsensitive) || weight.toInt() >= 600;
-}
-
-/// A value of text-decoration with the line under the text or without it, other lines kept.
-[[nodiscard]] QString decoration(const QString &now, bool underline)
-{
-    QStringList lines = css::parts(now.toLower());
-    lines.removeAll(QStringLiteral("none"));
-    lines.removeAll(QStringLiteral("underline"));
-    if (underline) {
-        lines.prepend(QStringLiteral("underline"));
-    }
-    return lines.isEmpty() ? QStringLiteral("none") : lines.join(u' ');
-}
 
 } // namespace
 
@@ -83,6 +47,8 @@ void StylePanel::prepareFields()
     m_ui->familyCombo->lineEdit()->setPlaceholderText(tr("inherited"));
     m_ui->familyCombo->setMinimumContentsLength(10);
     m_ui->familyCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_ui->sizeSpin->setOpenText(tr("inherited"));
+    m_ui->colorField->setOpenText(tr("inherited"));
     m_ui->colorField->setSubject(tr("Text color"));
     m_ui->backgroundField->setSubject(tr("Background color"));
     m_ui->backgroundField->setNoneAllowed(true);
@@ -109,7 +75,7 @@ void StylePanel::prepareSpins()
                {m_ui->paddingLeftSpin, Family::Padding, Side::Left}};
     for (const BoxSpin &box : m_boxes) {
         if (box.family == Family::Margin) {
-            box.spin->setBounds(-1000, 1000);
+            box.spin->setBounds(-500, 500);
         }
         connect(box.spin, &LengthSpin::lengthChanged, this, [this, box] {
             const std::optional<double> length = box.spin->length();
@@ -230,7 +196,8 @@ void StylePanel::setSimple(const char *property, const QString &value)
 void StylePanel::setBorder(Aspect aspect, const QString &value)
 {
     edit([&](StyleRule &rule) {
-        if (const QString now = borderValue(rule, aspect); now.isNull() || now != value) {
+        if (const QString now = rule.boxValue(Family::Border, borderSlots(aspect));
+            now.isNull() || now != value) {
             rule.setBoxValue(Family::Border, borderSlots(aspect), value);
         }
     });
@@ -291,34 +258,18 @@ QList<cssbox::Slot> StylePanel::borderSlots(Aspect aspect) const
     if (chosen > 0) {
         return {{aspect, cssbox::allSides[chosen - 1]}};
     }
-    QList<cssbox::Slot> out;
-    for (const Side side : cssbox::allSides) {
-        out.append({aspect, side});
-    }
-    return out;
-}
-
-QString StylePanel::borderValue(const StyleRule &rule, Aspect aspect) const
-{
-    QStringList values;
-    for (const cssbox::Slot &slot : borderSlots(aspect)) {
-        values.append(rule.boxValue(Family::Border, slot));
-    }
-    values.removeDuplicates();
-    return values.size() > 1 ? QString() : QStringLiteral("") + values.constFirst();
+    return cssbox::everySide(aspect);
 }
 
 void StylePanel::showBorder(const StyleRule &rule)
 {
-    const auto openText = [](const QString &value) {
-        return value.isNull() ? tr("various") : tr("inherited");
-    };
-    const QString style = borderValue(rule, Aspect::Style);
+    const auto openText = [](const QString &value) { return value.isNull() ? tr("various") : tr("not set"); };
+    const QString style = rule.boxValue(Family::Border, borderSlots(Aspect::Style));
     showEntry(m_ui->borderStyleCombo, style.isNull() ? tr("Various") : style);
-    const QString width = borderValue(rule, Aspect::Width);
+    const QString width = rule.boxValue(Family::Border, borderSlots(Aspect::Width));
     m_ui->borderWidthSpin->setOpenText(openText(width));
     m_ui->borderWidthSpin->showLength(css::points(width, m_em, 0), width);
-    const QString color = borderValue(rule, Aspect::Color);
+    const QString color = rule.boxValue(Family::Border, borderSlots(Aspect::Color));
     m_ui->borderColorField->setOpenText(openText(color));
     m_ui->borderColorField->showValue(color);
 }
@@ -328,7 +279,7 @@ void StylePanel::chooseBorderSide()
     const StyleRule rule(&m_sheet, m_selector);
     m_ui->borderSideCombo->setCurrentIndex(0);
     for (const Aspect aspect : {Aspect::Width, Aspect::Style, Aspect::Color}) {
-        if (!borderValue(rule, aspect).isNull()) {
+        if (!rule.boxValue(Family::Border, borderSlots(aspect)).isNull()) {
             continue;
         }
         for (const Side side : cssbox::allSides) {

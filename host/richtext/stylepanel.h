@@ -69,8 +69,6 @@ private:
     /// Turns to a side that has a border, to all when they are alike.
     void chooseBorderSide();
     [[nodiscard]] QList<cssbox::Slot> borderSlots(cssbox::Aspect aspect) const;
-    /// The value that all the chosen sides have; null when they differ.
-    [[nodiscard]] QString borderValue(const StyleRule &rule, cssbox::Aspect aspect) const;
 
     std::unique_ptr<Ui::StylePanel> m_ui;
     QList<BoxSpin> m_boxes;

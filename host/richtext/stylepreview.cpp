@@ -137,8 +137,10 @@ void StylePreview::paintEvent(QPaintEvent *)
         paintEdges(&painter, box);
         painter.setFont(m_font);
         painter.setPen(m_text);
-        painter.drawText(box.marginsRemoved(inner), int(m_alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
-                         m_sample);
+        const QRectF line = box.marginsRemoved(inner);
+        const QString text =
+            painter.fontMetrics().elidedText(m_sample, Qt::ElideRight, int(line.width()) + 1);
+        painter.drawText(line, int(m_alignment | Qt::AlignVCenter) | Qt::TextSingleLine, text);
     }
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));

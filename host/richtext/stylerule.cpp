@@ -159,6 +159,14 @@ QString StyleRule::boxValue(cssbox::Family family, cssbox::Slot slot) const
     return at < 0 ? QString() : cssbox::read(family, m_declarations.at(at)).value(slot);
 }
 
+QString StyleRule::boxValue(cssbox::Family family, const QList<cssbox::Slot> &slots) const
+{
+    const QString first = boxValue(family, slots.constFirst());
+    const bool same = std::all_of(slots.cbegin(), slots.cend(),
+                                  [&](const cssbox::Slot &slot) { return boxValue(family, slot) == first; });
+    return same ? QStringLiteral("") + first : QString();
+}
+
 void StyleRule::setBoxValue(cssbox::Family family, const QList<cssbox::Slot> &slots, const QString &value)
 {
     if (value.isEmpty()) {

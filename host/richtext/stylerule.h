@@ -19,6 +19,8 @@ public:
     void setValue(const QString &property, const QString &value);
 
     [[nodiscard]] QString boxValue(cssbox::Family family, cssbox::Slot slot) const;
+    /// What slots have in common: null when they differ, empty when all are open.
+    [[nodiscard]] QString boxValue(cssbox::Family family, const QList<cssbox::Slot> &slots) const;
     /// Changes one slot, or an aspect of all sides.
     void setBoxValue(cssbox::Family family, const QList<cssbox::Slot> &slots, const QString &value);
 

@@ -51,6 +51,7 @@ TextStyleEditor::~TextStyleEditor() = default;
 
 void TextStyleEditor::setUp()
 {
+    m_ui->splitter->setSizes({150, 560});
     m_ui->splitter->setStretchFactor(0, 1);
     m_ui->splitter->setStretchFactor(1, 3);
     m_ui->cssEdit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
@@ -185,8 +186,12 @@ void TextStyleEditor::showTextOfRule()
             QTextCursor cursor(m_ui->cssEdit->document());
             cursor.movePosition(QTextCursor::End);
             m_ui->cssEdit->setTextCursor(cursor); // so that the rule comes up to the top
-            cursor.setPosition(int(rule->selector.begin));
-            m_ui->cssEdit->setTextCursor(cursor);
+            for (const css::Span &part : {rule->title, rule->selector}) {
+                if (!part.isEmpty()) {
+                    cursor.setPosition(int(part.begin));
+                    m_ui->cssEdit->setTextCursor(cursor);
+                }
+            }
             return;
         }
     }
