@@ -110,11 +110,7 @@ void StylePanel::connectFont()
     };
     bindTrait(m_ui->boldBox, "font-weight", "bold");
     bindTrait(m_ui->italicBox, "font-style", "italic");
-    connect(m_ui->underlineBox, &QCheckBox::clicked, this, [this] {
-        const bool open = m_ui->underlineBox->checkState() == Qt::PartiallyChecked;
-        const QString now = StyleRule(&m_sheet, m_selector).value(QStringLiteral("text-decoration"));
-        setSimple("text-decoration", open ? QString() : decoration(now, m_ui->underlineBox->isChecked()));
-    });
+    connect(m_ui->underlineBox, &QCheckBox::clicked, this, &StylePanel::takeUnderline);
     const auto bindColor = [this](ColorField *field, const char *property) {
         connect(field, &ColorField::valueChanged, this,
                 [this, field, property] { setSimple(property, field->value()); });
@@ -201,6 +197,16 @@ void StylePanel::setBorder(Aspect aspect, const QString &value)
             rule.setBoxValue(Family::Border, borderSlots(aspect), value);
         }
     });
+}
+
+/// Leaves the property open only when no other line would be lost with it.
+void StylePanel::takeUnderline()
+{
+    const QString now = StyleRule(&m_sheet, m_selector).value(QStringLiteral("text-decoration"));
+    const bool open = m_ui->underlineBox->checkState() == Qt::PartiallyChecked;
+    const bool otherLines = decoration(now, false) != QLatin1String("none");
+    const bool underline = m_ui->underlineBox->isChecked();
+    setSimple("text-decoration", open && !otherLines ? QString() : decoration(now, underline));
 }
 
 void StylePanel::takeFamily()

@@ -61,6 +61,7 @@ private:
     void setSimple(const char *property, const QString &value);
     void setBorder(cssbox::Aspect aspect, const QString &value);
     void takeFamily();
+    void takeUnderline();
 
     void refresh();
     void showFont(const StyleRule &rule);

@@ -90,6 +90,7 @@ void TextStyleEditor::loadCSS(const QString &css)
     m_pause.stop();
     m_typed = false;
     m_sheet = StyleSheet(css);
+    m_ui->stylePanel->showRule(StyleSheet(), QString()); // which side of a border was worked on is forgotten
     showSheet();
     if (m_running) {
         announce();
