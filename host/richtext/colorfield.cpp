@@ -103,7 +103,9 @@ void ColorField::showValue(const QString &value)
 
 void ColorField::choose()
 {
-    const QColor color = m_chooser(this, css::color(m_value), m_subject);
+    QColor now = css::color(m_value);
+    now.setAlpha(now.alpha() == 0 ? 255 : now.alpha()); // else the next one would not be seen either
+    const QColor color = m_chooser(this, now, m_subject);
     if (color.isValid()) {
         take(css::colorText(color));
     }

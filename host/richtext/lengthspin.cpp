@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "host/richtext/lengthspin.h"
 
-#include <QLineEdit>
+#include "host/framework/hostui.h"
+#include "host/richtext/stylefields.h"
+
 #include <QSignalBlocker>
-#include <QWheelEvent>
 
 LengthSpin::LengthSpin(QWidget *parent)
     : QDoubleSpinBox(parent)
@@ -12,10 +13,11 @@ LengthSpin::LengthSpin(QWidget *parent)
     setDecimals(2);
     setSuffix(tr(" pt"));
     setKeyboardTracking(false);
-    setFocusPolicy(Qt::StrongFocus);
+    stylefields::guardFromWheel(this);
     setBounds(0, 500);
     setOpenText(tr("not set"));
-    connect(this, qOverload<double>(&QDoubleSpinBox::valueChanged), this, &LengthSpin::lengthChanged);
+    setLocale(HostUi::current().locale());
+    connect(this, qOverload<double>(&QDoubleSpinBox::valueChanged), this, &LengthSpin::takeValue);
 }
 
 LengthSpin::~LengthSpin() = default;
@@ -34,7 +36,17 @@ void LengthSpin::setOpenText(const QString &text)
 
 std::optional<double> LengthSpin::length() const
 {
-    return value() < minimum() + 1 ? std::nullopt : std::optional(value());
+    return value() <= minimum() ? std::nullopt : std::optional(value());
+}
+
+/// Nothing lies between an open length and the least one.
+void LengthSpin::takeValue(double value)
+{
+    if (value > minimum() && value < minimum() + 1) {
+        setValue(minimum() + 1);
+    } else {
+        Q_EMIT lengthChanged();
+    }
 }
 
 void LengthSpin::showLength(std::optional<double> length, const QString &written)
@@ -95,14 +107,4 @@ QString LengthSpin::textFromValue(double value) const
         }
     }
     return text;
-}
-
-/// Turning the wheel scrolls the page unless the field is the one that is worked on.
-void LengthSpin::wheelEvent(QWheelEvent *event)
-{
-    if (hasFocus()) {
-        QDoubleSpinBox::wheelEvent(event);
-    } else {
-        event->ignore();
-    }
 }

@@ -38,8 +38,9 @@ Q_SIGNALS:
 
 protected:
     [[nodiscard]] StepEnabled stepEnabled() const override;
-    void wheelEvent(QWheelEvent *event) override;
 
 private:
+    void takeValue(double value);
+
     double m_firstStep = 0;
 };

@@ -6,8 +6,28 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 
 namespace stylefields {
+namespace {
+
+class WheelGuard : public QObject
+{
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Wheel && !qobject_cast<QWidget *>(watched)->hasFocus()) {
+            event->ignore();
+            return true;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+} // namespace
 
 void setEntries(QComboBox *combo, const QStringList &values)
 {
@@ -42,6 +62,12 @@ QString decoration(const QString &now, bool underline)
         lines.prepend(QStringLiteral("underline"));
     }
     return lines.isEmpty() ? QStringLiteral("none") : lines.join(u' ');
+}
+
+void guardFromWheel(QWidget *field)
+{
+    field->setFocusPolicy(Qt::StrongFocus);
+    field->installEventFilter(new WheelGuard(field));
 }
 
 } // namespace stylefields

@@ -6,6 +6,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QWidget;
 
 /// How values of a style sheet are shown in simple fields.
 namespace stylefields {
@@ -21,5 +22,8 @@ void showTrait(QCheckBox *box, const QString &value, bool on);
 [[nodiscard]] bool isBold(const QString &weight);
 /// A value of text-decoration with the line under the text or without it, other lines kept.
 [[nodiscard]] QString decoration(const QString &now, bool underline);
+
+/// Lets the wheel scroll the page over a field unless that is the one that is worked on.
+void guardFromWheel(QWidget *field);
 
 } // namespace stylefields

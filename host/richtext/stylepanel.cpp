@@ -7,7 +7,6 @@
 #include "host/richtext/stylerule.h"
 #include "richtext/ui_stylepanel.h"
 
-#include <QEvent>
 #include <QLineEdit>
 
 using cssbox::Aspect;
@@ -33,8 +32,7 @@ StylePanel::StylePanel(QWidget *parent)
     connectFont();
     connectBorder();
     for (QComboBox *combo : findChildren<QComboBox *>()) {
-        combo->setFocusPolicy(Qt::StrongFocus);
-        combo->installEventFilter(this);
+        guardFromWheel(combo);
     }
     refresh();
 }
@@ -295,14 +293,4 @@ void StylePanel::chooseBorderSide()
             }
         }
     }
-}
-
-/// Turning the wheel scrolls the page unless the box is the one that is worked on.
-bool StylePanel::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::Wheel && !qobject_cast<QWidget *>(watched)->hasFocus()) {
-        event->ignore();
-        return true;
-    }
-    return QWidget::eventFilter(watched, event);
 }

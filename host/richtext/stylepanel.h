@@ -39,9 +39,6 @@ Q_SIGNALS:
     /// The user changed the rule; the text is that of the whole style sheet.
     void edited(const QString &css);
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
     struct BoxSpin
     {

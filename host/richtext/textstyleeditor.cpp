@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/richtext/textstyleeditor.h"
 
+#include "host/richtext/cssfault.h"
 #include "host/richtext/cssscan.h"
 #include "richtext/ui_textstyleeditor.h"
 
@@ -9,32 +10,12 @@
 #include <QPushButton>
 #include <QSet>
 #include <QSignalBlocker>
+#include <QTextDocument>
 
 namespace {
 
 constexpr int typingPause = 200; // ms
 constexpr int selectorRole = Qt::UserRole;
-
-[[nodiscard]] QString faultText(css::Fault fault)
-{
-    switch (fault) {
-    case css::Fault::None:
-        break;
-    case css::Fault::BadDeclaration:
-        return TextStyleEditor::tr("this is no property with a value");
-    case css::Fault::NoBlock:
-        return TextStyleEditor::tr("a style without its braces begins here");
-    case css::Fault::StrayBrace:
-        return TextStyleEditor::tr("this brace closes nothing");
-    case css::Fault::OpenString:
-        return TextStyleEditor::tr("this string is not closed");
-    case css::Fault::OpenComment:
-        return TextStyleEditor::tr("this comment is not closed");
-    case css::Fault::OpenBlock:
-        return TextStyleEditor::tr("this brace is not closed");
-    }
-    return {};
-}
 
 } // namespace
 
@@ -159,9 +140,7 @@ void TextStyleEditor::readText()
     if (!m_typed) {
         return;
     }
-    // The plain text would have lost the no-break spaces.
-    QString text = m_ui->cssEdit->document()->toRawText();
-    text.replace(QChar::ParagraphSeparator, u'\n');
+    QString text = shownText();
     if (m_sheet.text().contains(QLatin1String("\r\n"))) {
         text.replace(QLatin1String("\n"), QLatin1String("\r\n"));
     }
@@ -169,10 +148,20 @@ void TextStyleEditor::readText()
     m_typed = false;
 }
 
+/// With the no-break spaces, which the plain text would have lost.
+QString TextStyleEditor::shownText() const
+{
+    return m_ui->cssEdit->document()->toRawText().replace(QChar::ParagraphSeparator, u'\n');
+}
+
 void TextStyleEditor::showText()
 {
-    const QSignalBlocker blocker(m_ui->cssEdit);
-    m_ui->cssEdit->setPlainText(m_sheet.text());
+    QString text = m_sheet.text();
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    if (shownText() != text) {
+        const QSignalBlocker blocker(m_ui->cssEdit);
+        m_ui->cssEdit->setPlainText(text);
+    }
     showTextOfRule();
 }
 
@@ -230,7 +219,8 @@ void TextStyleEditor::fillList()
             }
             listed.insert(rule.selector);
             auto *item = new QListWidgetItem(rule.title.isEmpty() ? rule.selector : rule.title);
-            item->setToolTip(rule.selector.toHtmlEscaped());
+            const bool rich = Qt::mightBeRichText(rule.selector);
+            item->setToolTip(rich ? rule.selector.toHtmlEscaped() : rule.selector);
             item->setData(selectorRole, rule.selector);
             m_ui->styleList->addItem(item);
             if (rule.selector == wanted) {
@@ -289,12 +279,8 @@ void TextStyleEditor::showRule()
 
 void TextStyleEditor::showFault()
 {
-    const css::Sheet sheet = css::scan(m_sheet.text());
-    QString text;
-    if (sheet.fault != css::Fault::None) {
-        const qsizetype line = QStringView(m_sheet.text()).left(sheet.faultAt).count(u'\n') + 1;
-        text = tr("Line %1 of the style sheet: %2.").arg(QString::number(line), faultText(sheet.fault));
-    } else if (m_ui->styleList->count() == 0) {
+    QString text = css::faultMessage(m_sheet.text());
+    if (text.isEmpty() && m_ui->styleList->count() == 0) {
         text = tr("There are no styles to choose from. The CSS tab shows the whole style sheet.");
     }
     m_ui->faultLabel->setText(text);

@@ -58,6 +58,7 @@ private:
     void announce();
     /// Takes in what was typed on the text tab.
     void readText();
+    [[nodiscard]] QString shownText() const;
     void showText();
     void showTextOfRule();
     void tabChanged();
