@@ -8,8 +8,6 @@
 
 namespace {
 
-using Declaration = StyleSheet::Declaration;
-
 [[nodiscard]] bool isWeight(const QString &part)
 {
     bool number = false;
@@ -63,16 +61,12 @@ using Declaration = StyleSheet::Declaration;
     return property == QLatin1String("background-color") ? QStringLiteral("background") : QString();
 }
 
-/// The declaration that counts for a property, possibly its shorthand.
-[[nodiscard]] Declaration effective(const QList<Declaration> &declarations, const QString &property)
+/// Whether a value says that nothing is set.
+[[nodiscard]] bool isOpen(const QString &value)
 {
-    const QString shorthand = shorthandOf(property);
-    for (auto found = declarations.crbegin(); found != declarations.crend(); ++found) {
-        if (found->property == property || (!shorthand.isEmpty() && found->property == shorthand)) {
-            return *found;
-        }
-    }
-    return {};
+    static const QStringList words{QStringLiteral("inherit"), QStringLiteral("initial"),
+                                   QStringLiteral("unset")};
+    return words.contains(value, Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -87,21 +81,37 @@ StyleRule::StyleRule(StyleSheet *sheet, const QString &selector)
 void StyleRule::readDeclarations()
 {
     m_declarations.clear();
+    bool own = true;
     const QList<StyleSheet::Rule> rules = m_sheet->rules();
     for (auto rule = rules.crbegin(); rule != rules.crend(); ++rule) {
-        if (rule->selector == m_selector) {
-            m_declarations = rule->declarations;
-            break;
+        if (rule->selector != m_selector) {
+            continue;
         }
+        for (auto one = rule->declarations.crbegin(); one != rule->declarations.crend(); ++one) {
+            m_declarations.append({*one, own});
+        }
+        own = false;
     }
+    std::reverse(m_declarations.begin(), m_declarations.end());
     std::stable_partition(m_declarations.begin(), m_declarations.end(),
                           [](const Declaration &one) { return !css::isImportant(one.value); });
+}
+
+StyleRule::Declaration StyleRule::effective(const QString &property) const
+{
+    const QString shorthand = shorthandOf(property);
+    for (auto found = m_declarations.crbegin(); found != m_declarations.crend(); ++found) {
+        if (found->property == property || (!shorthand.isEmpty() && found->property == shorthand)) {
+            return *found;
+        }
+    }
+    return {};
 }
 
 /// Puts a value in the place of the property's last one; stays important when that was.
 void StyleRule::write(const QString &property, const QString &value)
 {
-    const bool important = css::isImportant(effective(m_declarations, property).value);
+    const bool important = css::isImportant(effective(property).value);
     m_sheet->setValue(m_selector, property,
                       important && !value.isEmpty() ? value + QStringLiteral(" !important") : value);
 }
@@ -115,7 +125,7 @@ void StyleRule::append(const QString &property, const QString &value)
 
 QString StyleRule::value(const QString &property) const
 {
-    const Declaration found = effective(m_declarations, property);
+    const Declaration found = effective(property);
     const QString value = css::withoutImportant(found.value);
     if (found.property == QLatin1String("font")) {
         return fontPart(value, property);
@@ -123,15 +133,15 @@ QString StyleRule::value(const QString &property) const
     if (found.property == QLatin1String("background")) {
         return backgroundColor(value);
     }
-    return value.compare(QLatin1String("inherit"), Qt::CaseInsensitive) == 0 ? QString() : value;
+    return isOpen(value) ? QString() : value;
 }
 
 void StyleRule::setValue(const QString &property, const QString &value)
 {
-    const Declaration found = effective(m_declarations, property);
-    if (found.property == QLatin1String("background") && css::parts(found.value).size() == 1) {
+    const Declaration found = effective(property);
+    if (found.own && found.property == QLatin1String("background") && css::parts(found.value).size() == 1) {
         write(found.property, value);
-    } else if (found.property.isEmpty() || found.property == property) {
+    } else if (found.property.isEmpty() || (found.own && found.property == property)) {
         write(property, value);
         readDeclarations();
         if (value.isEmpty() && !this->value(property).isEmpty()) {
@@ -156,7 +166,8 @@ qsizetype StyleRule::owner(cssbox::Family family, cssbox::Slot slot) const
 QString StyleRule::boxValue(cssbox::Family family, cssbox::Slot slot) const
 {
     const qsizetype at = owner(family, slot);
-    return at < 0 ? QString() : cssbox::read(family, m_declarations.at(at)).value(slot);
+    const QString value = at < 0 ? QString() : cssbox::read(family, m_declarations.at(at)).value(slot);
+    return isOpen(value) ? QString() : value;
 }
 
 QString StyleRule::boxValue(cssbox::Family family, const QList<cssbox::Slot> &slots) const
@@ -171,13 +182,12 @@ void StyleRule::setBoxValue(cssbox::Family family, const QList<cssbox::Slot> &sl
 {
     if (value.isEmpty()) {
         clearBoxValue(family, slots);
-        readDeclarations();
         return;
     }
     const qsizetype at = owner(family, slots.constFirst());
-    const bool oneOwner = at >= 0 && std::all_of(slots.cbegin(), slots.cend(), [&](cssbox::Slot slot) {
-                              return owner(family, slot) == at;
-                          });
+    const bool oneOwner = at >= 0 && m_declarations.at(at).own &&
+                          std::all_of(slots.cbegin(), slots.cend(),
+                                      [&](cssbox::Slot slot) { return owner(family, slot) == at; });
     if (oneOwner) {
         cssbox::Values values = cssbox::read(family, m_declarations.at(at));
         for (const cssbox::Slot &slot : slots) {
@@ -211,7 +221,7 @@ void StyleRule::clearBoxValue(cssbox::Family family, const QList<cssbox::Slot> &
             cleared += rest.value(slot).isEmpty() ? 0 : 1;
             rest.insert(slot, {});
         }
-        if (cleared == 0) {
+        if (cleared == 0 || !declaration.own) {
             continue;
         }
         const QString text = cssbox::written(family, declaration.property, rest);
@@ -225,4 +235,11 @@ void StyleRule::clearBoxValue(cssbox::Family family, const QList<cssbox::Slot> &
             }
         }
     }
+    readDeclarations();
+    for (const cssbox::Slot &slot : slots) {
+        if (!boxValue(family, slot).isEmpty()) { // what an earlier rule says must not come forth
+            append(cssbox::property(family, slot), QStringLiteral("initial"));
+        }
+    }
+    readDeclarations();
 }

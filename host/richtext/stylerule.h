@@ -5,8 +5,8 @@
 #include "host/richtext/cssbox.h"
 #include "host/richtext/stylesheet.h"
 
-/// The last rule of a selector as an editor shows it: each property with the value that counts, shorthands
-/// taken apart, and changed so that what else the rule says stays.
+/// What the rules of a selector say, as an editor shows it: each property with the value that counts,
+/// shorthands taken apart. Changes go to the last rule; what else is said stays.
 class StyleRule final
 {
 public:
@@ -25,9 +25,15 @@ public:
     void setBoxValue(cssbox::Family family, const QList<cssbox::Slot> &slots, const QString &value);
 
 private:
-    using Declarations = QList<StyleSheet::Declaration>;
+    struct Declaration : StyleSheet::Declaration
+    {
+        /// Whether the last rule says it, which is the one that can be changed.
+        bool own = false;
+    };
 
     void readDeclarations();
+    /// The declaration that counts for a property, possibly its shorthand.
+    [[nodiscard]] Declaration effective(const QString &property) const;
     void write(const QString &property, const QString &value);
     void append(const QString &property, const QString &value);
     /// Which declaration counts for a slot, -1 for none.
@@ -37,5 +43,5 @@ private:
     StyleSheet *m_sheet;
     QString m_selector;
     /// In the order in which they count.
-    Declarations m_declarations;
+    QList<Declaration> m_declarations;
 };

@@ -249,6 +249,7 @@ void TextStyleEditor::filterList()
         if (!current || current->isHidden()) {
             m_ui->styleList->setCurrentRow(first);
         }
+        m_ui->styleList->scrollToItem(m_ui->styleList->currentItem());
     }
     showRule();
 }

@@ -118,6 +118,19 @@ TEST_F(TextStyleEditorTest, Borders)
     EXPECT_EQ(after("border: 1pt solid red", [this] { type("borderWidthSpin", ""); }), "border: solid red");
 }
 
+TEST_F(TextStyleEditorTest, EarlierRulesOfASelectorCountAndStay)
+{
+    EXPECT_EQ(after("color: red; margin: 1pt } p {", [this] { click("colorField/clearButton"); }),
+              "color: inherit;");
+    EXPECT_EQ(after("margin: 1pt } p {", [this] { type("marginTopSpin", ""); }), "margin-top: initial;");
+    EXPECT_EQ(after("font-size: 9pt; margin: 1pt } p { color: red",
+                    [this] {
+                        EXPECT_EQ(find<QAbstractSpinBox>("sizeSpin")->text(), u("9 pt"));
+                        type("marginTopSpin", "2");
+                    }),
+              "color: red; margin-top: 2pt;");
+}
+
 TEST_F(TextStyleEditorTest, OpenPropertiesShowAsOpen)
 {
     m_editor.loadCSS(u("/*_HOne*/ p { margin: 5mm; color: rgb(0,0,153) }"));
