@@ -15,6 +15,22 @@ namespace {
 
 constexpr int swatchWidth = 24;
 constexpr int swatchGap = 6;
+constexpr int leastWidth = 110;
+
+/// A value that fits on the button: "rgba(255, 200, 0, 0.5)" as "#ffc800 50%".
+[[nodiscard]] QString shortened(const QString &value)
+{
+    constexpr int most = 12;
+    if (value.size() <= most) {
+        return value;
+    }
+    const QColor color = css::color(value);
+    if (!color.isValid()) {
+        return value.left(most - 1) + u'\u2026';
+    }
+    const QString opacity = u' ' + QString::number(qRound(color.alphaF() * 100)) + u'%';
+    return color.name() + (color.alpha() == 255 ? QString() : opacity);
+}
 
 /// A dense pattern shows through what is transparent; what is open is crossed out.
 [[nodiscard]] QPixmap swatch(const QColor &color, const QSize &size, const QPalette &palette)
@@ -57,6 +73,7 @@ ColorField::ColorField(QWidget *parent)
     row->addWidget(m_clear);
     m_button->setObjectName(QStringLiteral("chooseButton"));
     m_button->setAutoDefault(false);
+    m_button->setMinimumWidth(leastWidth);
     m_button->setIconSize(QSize(swatchWidth + swatchGap, 14));
     m_none->setObjectName(QStringLiteral("noneButton"));
     m_none->setText(tr("None"));
@@ -128,7 +145,8 @@ void ColorField::refresh()
 {
     const QColor color = css::color(m_value);
     const bool none = color.isValid() && color.alpha() == 0;
-    const QString text = m_value.isEmpty() ? m_openText : none ? tr("none") : m_value;
+    const QString text = m_value.isEmpty() ? m_openText : none ? tr("none") : shortened(m_value);
+    m_button->setToolTip(m_value == text ? QString() : m_value);
     m_button->setText(text);
     m_button->setIcon(swatch(color, m_button->iconSize(), palette()));
     m_button->setAccessibleName(m_subject + QStringLiteral(": ") + text);

@@ -15,7 +15,7 @@ namespace {
     case Fault::None:
         break;
     case Fault::BadDeclaration:
-        return QCoreApplication::translate("TextStyleEditor", "this is no property with a value");
+        return QCoreApplication::translate("TextStyleEditor", "this is not a property with a value");
     case Fault::NoBlock:
         return QCoreApplication::translate("TextStyleEditor", "a style without its braces begins here");
     case Fault::StrayBrace:

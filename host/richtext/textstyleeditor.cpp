@@ -7,6 +7,7 @@
 #include "richtext/ui_textstyleeditor.h"
 
 #include <QFontDatabase>
+#include <QLayout>
 #include <QPushButton>
 #include <QSet>
 #include <QSignalBlocker>
@@ -249,7 +250,6 @@ void TextStyleEditor::filterList()
         if (!current || current->isHidden()) {
             m_ui->styleList->setCurrentRow(first);
         }
-        m_ui->styleList->scrollToItem(m_ui->styleList->currentItem());
     }
     showRule();
 }
@@ -286,4 +286,6 @@ void TextStyleEditor::showFault()
     }
     m_ui->faultLabel->setText(text);
     m_ui->faultLabel->setVisible(!text.isEmpty());
+    layout()->activate(); // the list may have become lower
+    m_ui->styleList->scrollToItem(m_ui->styleList->currentItem());
 }

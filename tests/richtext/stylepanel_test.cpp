@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "richtext/textstyleeditorfixture.h"
 
+#include <QApplication>
+#include <QColorDialog>
+
 TEST_F(TextStyleEditorTest, FontControlsWriteOneDeclaration)
 {
     EXPECT_EQ(after("", [this] { type("familyCombo", "Some Font, serif"); }),
@@ -41,6 +44,26 @@ TEST_F(TextStyleEditorTest, ColorControls)
     m_answer = QColor();
     EXPECT_TRUE(run(u("/*_HOne*/ p {}"), [this] { click("colorField/chooseButton"); }));
     EXPECT_EQ(m_editor.getCSS(), u("/*_HOne*/ p {}"));
+}
+
+TEST(ColorField, AsksWithTheColorDialog)
+{
+    ColorField field;
+    field.setSubject(u("Subject"));
+    field.showValue(u("transparent"));
+    field.show();
+    QTimer::singleShot(0, &field, [&] {
+        auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->windowTitle(), u("Subject"));
+        EXPECT_EQ(dialog->currentColor().alpha(), 255);
+        dialog->setCurrentColor(QColor(u("#00ff80")));
+        dialog->accept();
+    });
+    QTest::mouseClick(field.findChild<QPushButton *>(), Qt::LeftButton);
+    EXPECT_EQ(field.value(), u("#00ff80"));
+    field.showValue(u("rgba(255, 200, 0, 0.5)"));
+    EXPECT_EQ(field.findChild<QPushButton *>()->text(), u("#ffc800 50%"));
 }
 
 TEST_F(TextStyleEditorTest, ChosenColorsAreSeenInThePreviewAndInADocument)

@@ -5,13 +5,13 @@
 #include "host/richtext/textstyleeditor.h"
 
 #include "host/richtext/stylesheet.h"
+#include "richtext/sheettext.h"
 
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -24,18 +24,6 @@
 #include <QTextDocument>
 
 #include <functional>
-
-[[nodiscard]] inline QString u(const char *text)
-{
-    return QString::fromUtf8(text);
-}
-
-[[nodiscard]] inline QString defaultSheet()
-{
-    QFile file(u(BOM_SOURCE_DIR "/resources/html/userstyle.css"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return QString::fromUtf8(file.readAll());
-}
 
 /// The editor, run with a user who does `doing` and then presses OK, unless the dialog is gone by then.
 class TextStyleEditorTest : public testing::Test
