@@ -15,7 +15,6 @@ namespace {
 
 constexpr int swatchWidth = 24;
 constexpr int swatchGap = 6;
-constexpr int leastWidth = 110;
 
 /// A value that fits on the button: "rgba(255, 200, 0, 0.5)" as "#ffc800 50%".
 [[nodiscard]] QString shortened(const QString &value)
@@ -73,7 +72,6 @@ ColorField::ColorField(QWidget *parent)
     row->addWidget(m_clear);
     m_button->setObjectName(QStringLiteral("chooseButton"));
     m_button->setAutoDefault(false);
-    m_button->setMinimumWidth(leastWidth);
     m_button->setIconSize(QSize(swatchWidth + swatchGap, 14));
     m_none->setObjectName(QStringLiteral("noneButton"));
     m_none->setText(tr("None"));
@@ -87,6 +85,7 @@ ColorField::ColorField(QWidget *parent)
         button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     }
     setFocusProxy(m_button);
+    setFocusPolicy(Qt::ClickFocus); // a label's shortcut leads here only with one
     connect(m_button, &QPushButton::clicked, this, &ColorField::choose);
     connect(m_none, &QToolButton::clicked, this, [this] { take(QStringLiteral("transparent")); });
     connect(m_clear, &QToolButton::clicked, this, [this] { take(QString()); });

@@ -121,6 +121,26 @@ TEST_F(TextStyleEditorTest, EnterAcceptsWhatWasTyped)
     EXPECT_EQ(StyleSheet(m_editor.getCSS()).value(u("p"), u("font-size")), u("9pt"));
 }
 
+TEST_F(TextStyleEditorTest, ShortcutsLeadToTheirFields)
+{
+    EXPECT_TRUE(run(defaultSheet(), [this] {
+        const std::pair<Qt::Key, const char *> shortcuts[] = {{Qt::Key_F, "familyCombo"},
+                                                              {Qt::Key_Z, "sizeSpin"},
+                                                              {Qt::Key_T, "colorField/chooseButton"},
+                                                              {Qt::Key_H, "alignCombo"},
+                                                              {Qt::Key_W, "borderWidthSpin"},
+                                                              {Qt::Key_K, "backgroundField/chooseButton"},
+                                                              {Qt::Key_Y, "styleList"},
+                                                              {Qt::Key_N, "borderStyleCombo"},
+                                                              {Qt::Key_R, "borderColorField/chooseButton"}};
+        for (const auto &[key, name] : shortcuts) {
+            QTest::keyClick(&m_editor, key, Qt::AltModifier);
+            auto *field = find<QWidget>(name);
+            EXPECT_TRUE(field->hasFocus()) << name;
+        }
+    }));
+}
+
 TEST_F(TextStyleEditorTest, EveryControlHasANameForScreenReaders)
 {
     for (QWidget *widget : m_editor.findChildren<QWidget *>()) {
