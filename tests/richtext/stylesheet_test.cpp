@@ -2,24 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/richtext/stylesheet.h"
 
+#include "richtext/sheettext.h"
+
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
-#include <QFile>
 
 namespace {
-
-[[nodiscard]] QString u(const char *text)
-{
-    return QString::fromUtf8(text);
-}
-
-[[nodiscard]] QString defaultSheet()
-{
-    QFile file(u(BOM_SOURCE_DIR "/resources/html/userstyle.css"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return QString::fromUtf8(file.readAll());
-}
 
 [[nodiscard]] std::string edited(const char *css, const char *selector, const char *property,
                                  const char *value)
