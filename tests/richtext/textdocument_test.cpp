@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/richtext/textdocument.h"
 
+#include "support/printtext.h"
+
 #include <gtest/gtest.h>
 
 TEST(TextDocument, KeepsTheTextItLoaded)
