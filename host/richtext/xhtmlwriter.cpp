@@ -31,8 +31,8 @@ public:
         if (known != m_looks.constEnd()) {
             return *known;
         }
-        const QString start = QStringLiteral("<") + element + attributes + QStringLiteral(">");
-        const QString end = QStringLiteral("</") + element + QStringLiteral(">");
+        const QString start = QStringLiteral("<html><body><") + element + attributes + QStringLiteral(">");
+        const QString end = QStringLiteral("</") + element + QStringLiteral("></body></html>");
         QTextDocument sample;
         sample.setDefaultStyleSheet(m_css);
         sample.setDefaultFont(m_font);

@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "views/bomtemplateeditor.h"
+
+#include "host/richtext/pagegeometry.h"
+#include "host/richtext/shownstyle.h"
+#include "host/richtext/textedit.h"
+#include "host/richtext/textedithruler.h"
+#include "host/richtext/textedittoolbars.h"
+#include "host/richtext/xhtmlwriter.h"
+#include "ui_bomtemplateeditor.h"
+#include "views/htmltext.h"
+
+#include <QPushButton>
+#include <QTabBar>
+#include <QTextFrame>
+
+namespace {
+
+constexpr double pixelsPerPoint = 96.0 / 72.0;
+
+const QString headerClass = QStringLiteral("DocHeader");
+const QString footerClass = QStringLiteral("DocFooter");
+
+QString paragraphRule(const QString &className)
+{
+    return QStringLiteral("p.") + className;
+}
+
+/// The document shows them; they are none of the text, and no step for undo.
+void showPaperMargins(TextEdit &edit, const QMarginsF &points)
+{
+    TextDocument &document = *edit.document();
+    QTextFrameFormat format = document.rootFrame()->frameFormat();
+    const QMarginsF pixels = points * pixelsPerPoint;
+    if (qFuzzyCompare(1 + format.leftMargin(), 1 + pixels.left()) &&
+        qFuzzyCompare(1 + format.rightMargin(), 1 + pixels.right())) {
+        return;
+    }
+    const bool isModified = document.isModified();
+    document.setUndoRedoEnabled(false);
+    format.setLeftMargin(pixels.left());
+    format.setRightMargin(pixels.right());
+    document.rootFrame()->setFrameFormat(format);
+    document.setUndoRedoEnabled(true);
+    document.setModified(isModified);
+}
+
+} // namespace
+
+BOMTemplateEditor::BOMTemplateEditor(TextEdit *reportEdit, QWidget *parent)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::BOMTemplateEditor>())
+{
+    m_ui->setupUi(this);
+    m_ui->tabWidget->tabBar()->setStyleSheet(
+        QStringLiteral("background-color {qlineargradient(spread:pad, x1:0, y1:0, x2:1, y2:0, "
+                       "stop:0 rgba(0, 0, 0, 100), stop:1 rgba(255, 255, 255, 100))}"));
+    // Return belongs to the text.
+    for (QAbstractButton *button : m_ui->buttonBox->buttons()) {
+        static_cast<QPushButton *>(button)->setAutoDefault(false);
+    }
+    const QFont font = reportEdit == nullptr ? QFont() : reportEdit->document()->defaultFont();
+    setUpEditor(*m_ui->headerTextEdit, *m_ui->headerHRuler, font);
+    setUpEditor(*m_ui->footerTextEdit, *m_ui->footerHRuler, font);
+    updateCurrentEdit();
+}
+
+BOMTemplateEditor::~BOMTemplateEditor() = default;
+
+void BOMTemplateEditor::setUpEditor(TextEdit &edit, TextEditHRuler &ruler, const QFont &font)
+{
+    edit.document()->setDefaultFont(font);
+    edit.setLineWrapMode(QTextEdit::FixedPixelWidth);
+    ruler.setTextEdit(&edit);
+    ruler.setHasTabStops(false);
+    connect(&ruler, &TextEditHRuler::paperMarginsChanged, this, &BOMTemplateEditor::movePaperMargins);
+}
+
+void BOMTemplateEditor::setCSS(const QString &css)
+{
+    m_templateCss = css;
+    m_css = StyleSheet(css);
+}
+
+bool BOMTemplateEditor::run()
+{
+    m_css = StyleSheet(m_templateCss);
+    load(*m_ui->headerTextEdit, m_header, headerClass);
+    load(*m_ui->footerTextEdit, m_footer, footerClass);
+    const double paper = pageLayout(m_css).fullRect(QPageLayout::Point).width();
+    for (TextEditHRuler *ruler : {m_ui->headerHRuler, m_ui->footerHRuler}) {
+        ruler->setPaperWidth(paper);
+    }
+    for (TextEdit *edit : {m_ui->headerTextEdit, m_ui->footerTextEdit}) {
+        edit->setLineWrapColumnOrWidth(qRound(paper * pixelsPerPoint));
+    }
+    m_ui->tabWidget->setCurrentWidget(m_ui->headerTab);
+    updateCurrentEdit();
+    m_ui->headerTextEdit->setFocus();
+    return exec() == QDialog::Accepted;
+}
+
+QString BOMTemplateEditor::shownCss(const QString &className) const
+{
+    // Paragraphs that bring no class have the look of those that people write here.
+    return xmlText(m_templateCss) + QStringLiteral("\np {") + xmlText(m_css.body(paragraphRule(className))) +
+           QStringLiteral("}\n");
+}
+
+void BOMTemplateEditor::load(TextEdit &edit, const QString &fragment, const QString &className) const
+{
+    const QString start = htmlDocumentStart(htmlText(windowTitle()), shownCss(className));
+    const QString text = fragment.isEmpty()
+                             ? QStringLiteral("<p class=\"") + className +
+                                   QStringLiteral("\" style=\"-qt-paragraph-type:empty;\"><br /></p>")
+                             : xmlText(fragment);
+    edit.loadDocument(start + text + htmlDocumentEnd());
+}
+
+QString BOMTemplateEditor::textOf(const TextEdit &edit, const QString &source, const QString &className) const
+{
+    const TextDocument &document = *edit.document();
+    if (!document.isModified()) {
+        return source;
+    }
+    const ShownStyle look{StyleSheet(shownCss(className))};
+    return document.isEmpty() ? QString() : xhtmlBody(document, className, look.css());
+}
+
+QString BOMTemplateEditor::header() const
+{
+    return textOf(*m_ui->headerTextEdit, m_header, headerClass);
+}
+
+QString BOMTemplateEditor::footer() const
+{
+    return textOf(*m_ui->footerTextEdit, m_footer, footerClass);
+}
+
+QString BOMTemplateEditor::css() const
+{
+    StyleSheet result(m_templateCss);
+    for (const QString &selector :
+         {paragraphRule(headerClass), paragraphRule(footerClass), QStringLiteral("body")}) {
+        if (m_css.body(selector) != result.body(selector)) {
+            result.setBody(selector, m_css.body(selector));
+        }
+    }
+    return result.text();
+}
+
+TextEdit *BOMTemplateEditor::currentEdit() const
+{
+    return m_ui->tabWidget->currentWidget() == m_ui->footerTab ? m_ui->footerTextEdit : m_ui->headerTextEdit;
+}
+
+void BOMTemplateEditor::updateCurrentEdit()
+{
+    m_ui->toolBars->setTextEdit(currentEdit());
+    if (currentEdit()->isVisible()) {
+        showPaperMargins(*currentEdit(), marginsInPoints(m_css, QStringLiteral("body")));
+    }
+}
+
+void BOMTemplateEditor::movePaperMargins(double left, double right)
+{
+    QPageLayout layout = pageLayout(m_css);
+    layout.setUnits(QPageLayout::Point);
+    QMarginsF margins = layout.margins();
+    margins.setLeft(left);
+    margins.setRight(right);
+    if (layout.setMargins(margins)) {
+        setPageLayout(m_css, layout);
+        updateCurrentEdit();
+    }
+}

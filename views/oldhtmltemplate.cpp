@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "views/oldhtmltemplate.h"
+
+#include "host/framework/hostui.h"
+#include "host/richtext/documentmarkup.h"
+#include "host/richtext/tidylibwrapper.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFile>
+#include <QXmlStreamReader>
+
+namespace {
+
+constexpr qint64 largest = 16 * 1024 * 1024;
+
+const QString rootStart = QStringLiteral("<root>");
+
+void tellError(const QString &reason)
+{
+    qDebug().noquote().nospace() << "BOM v1 template import error:" << reason;
+}
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("OldHtmlTemplate", text);
+}
+
+/// What stands between the tags of the element whose start tag was just read.
+QString innerText(QXmlStreamReader &reader, const QString &xml)
+{
+    const qint64 start = reader.characterOffset();
+    reader.skipCurrentElement();
+    const qint64 end = reader.characterOffset();
+    const QString inner = xml.mid(start, end - start);
+    const qsizetype endTag = inner.lastIndexOf(QLatin1String("</"));
+    return endTag < 0 ? QString() : inner.first(endTag).trimmed();
+}
+
+OldHtmlTemplate readBody(const QString &xml)
+{
+    OldHtmlTemplate result;
+    QXmlStreamReader reader(xml);
+    // Attributes such as those of office programs have prefixes that nothing declares.
+    reader.setNamespaceProcessing(false);
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        const QStringView id = reader.attributes().value(QLatin1String("id"));
+        if (id == QLatin1String("customHeader")) {
+            result.header = innerText(reader, xml);
+        } else if (id == QLatin1String("customFooter")) {
+            result.footer = innerText(reader, xml);
+        }
+    }
+    if (reader.hasError()) {
+        tellError(reader.errorString());
+        return {};
+    }
+    result.isConverted = true;
+    return result;
+}
+
+} // namespace
+
+OldHtmlTemplate readOldHtmlTemplate(const QString &path)
+{
+    if (path.isEmpty()) {
+        qDebug("BOM: load of HTML template with no name attempted.");
+        return {};
+    }
+    QFile file(path);
+    if (!file.exists()) {
+        return {};
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        tellError(file.errorString());
+        return {};
+    }
+    const QByteArray bytes = file.read(largest + 1);
+    if (bytes.size() > largest) {
+        tellError(tr("The file is too large."));
+        return {};
+    }
+    TidyLibWrapper tidy;
+    const QString xhtml = tidy.tidyHtml(QString::fromUtf8(bytes));
+    if (!tidy.errorString().isEmpty()) {
+        tellError(tidy.errorString());
+        return {};
+    }
+    return readBody(rootStart + bodyOf(xhtml).toString() + QStringLiteral("</root>"));
+}
+
+void tellTemplateUpgraded(QWidget *parent, const QString &templateName)
+{
+    HostUi::current().information(
+        parent, tr("BOM Template Upgraded"),
+        tr("The BOM template '%1' has been upgraded.  Some styling may have changed.").arg(templateName));
+}
