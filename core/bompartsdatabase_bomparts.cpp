@@ -6,6 +6,7 @@
 #include "core/bompart.h"
 #include "core/bulkchange.h"
 #include "core/designinfo.h"
+#include "core/propertyquery.h"
 #include "host/framework/hosttext.h"
 #include "host/netlist/component.h"
 #include "host/netlist/proplist.h"
@@ -107,6 +108,35 @@ std::optional<DefinitionProperty> BOMPartsDatabase::addBOMParts(const QString &p
     defined.addName(added.name);
     updateFieldGrouping();
     return added;
+}
+
+bool BOMPartsDatabase::setBOMPartProperty(const QString &reference, const QString &name, const QString &text)
+{
+    Part *found = part(reference);
+    if (!found || !found->isBOMPart() || name.isEmpty() || name.contains(u'=') || name.startsWith(u'.')) {
+        return false;
+    }
+    auto *changed = static_cast<BOMPart *>(found);
+    BOMPartDefinition wanted{1, changed->prefix(), changed->value(), changed->properties()};
+    const QString key = name.toUpper();
+    if (key == valueProperty()) {
+        wanted.value = text;
+    } else if (text.isEmpty()) {
+        wanted.properties.remove(key);
+    } else {
+        wanted.properties.insert(key, text);
+    }
+    if (!changedBOMPartDefinition(wanted)) {
+        return false;
+    }
+    const BulkChange change(this);
+    m_parts.change(changed, wanted.value, wanted.properties);
+    if (key == bomLinksProperty()) {
+        m_links.remove(reference);
+        setLinks(reference, text);
+    }
+    updateFieldGrouping();
+    return true;
 }
 
 bool BOMPartsDatabase::removeBOMPart(const QString &parentReference, const QString &reference)
