@@ -227,7 +227,7 @@ private:
                                                               LastNumbers *lastNumbers);
     BOMPart *addBOMPart(std::unique_ptr<BOMPart> part);
     [[nodiscard]] ReferenceNumbers &referenceNumbers();
-    void setLinks(const QString &reference, const QMap<QString, QString> &links);
+    void takeLinks(const QString &reference, const QMap<QString, QString> &links);
     void clearBOMParts();
 
     void addPart(const COMPONENT &component);

@@ -5,7 +5,6 @@
 #include "core/bomlinks.h"
 #include "core/bompart.h"
 #include "core/bulkchange.h"
-#include "core/designinfo.h"
 #include "core/propertyquery.h"
 #include "host/framework/hosttext.h"
 #include "host/netlist/component.h"
@@ -14,7 +13,7 @@
 #include <algorithm>
 #include <limits>
 
-// BOM-only parts, links and notes: what a design holds for the bill of materials only.
+// BOM-only parts.
 
 namespace {
 
@@ -183,46 +182,6 @@ BOMPartsDatabase::rewrittenDefinitions(const QString &parentReference) const
     return found == m_definedParts.cend() ? QList<DefinitionProperty>() : found->rewritten();
 }
 
-void BOMPartsDatabase::setLinks(const QString &reference, const QString &text)
-{
-    setLinks(reference, readBOMLinks(text));
-}
-
-void BOMPartsDatabase::setLinks(const QString &reference, const QMap<QString, QString> &links)
-{
-    if (!links.isEmpty()) {
-        m_links.insert(reference, links);
-    }
-}
-
-QString BOMPartsDatabase::link(const QString &reference, const QString &propertyName) const
-{
-    const auto links = m_links.constFind(reference);
-    if (links == m_links.cend()) {
-        return {};
-    }
-    if (const auto exact = links->constFind(propertyName); exact != links->cend()) {
-        return *exact;
-    }
-    const auto found = std::find_if(links->keyBegin(), links->keyEnd(), [&](const QString &name) {
-        return name.compare(propertyName, Qt::CaseInsensitive) == 0;
-    });
-    return found == links->keyEnd() ? QString() : *found.base();
-}
-
-bool BOMPartsDatabase::setNotes(const QString &text)
-{
-    if (text == m_notes) {
-        return true;
-    }
-    if (!setDesignNotes(text, &m_notesError)) {
-        return false;
-    }
-    m_notes = text;
-    notify();
-    return true;
-}
-
 void BOMPartsDatabase::makeDefinedParts(const QString &parentReference, QList<DefinitionProperty> definitions)
 {
     std::stable_sort(
@@ -272,7 +231,7 @@ std::optional<DefinitionFault> BOMPartsDatabase::makeBOMParts(const QString &par
         if (BOMPart *made =
                 addBOMPart(std::make_unique<BOMPart>(this, reference, parentReference, definition))) {
             defined.add(made);
-            setLinks(reference, links);
+            takeLinks(reference, links);
         } else {
             ++repeated;
         }
