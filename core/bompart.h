@@ -34,6 +34,8 @@ public:
     [[nodiscard]] const QMap<QString, QString> &properties() const { return m_properties; }
 
 private:
+    friend class PartStore;
+
     QMap<QString, QString> m_properties;
     QString m_parentReference;
     QString m_prefix;

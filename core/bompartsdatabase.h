@@ -81,6 +81,10 @@ public:
     /// placed part, the count is not from 1 to mostPartsOfADefinition or a text cannot be written.
     std::optional<DefinitionProperty> addBOMParts(const QString &parentReference, int count,
                                                   const QString &escapedPrefix, const QString &escapedValue);
+    /// Changes a property or the value of a BOM-only part; an empty text takes the property away. What the
+    /// design is to hold then, rewrittenDefinitions() of the parent tells. False for any other part, and for
+    /// a name or text that cannot be written.
+    bool setBOMPartProperty(const QString &reference, const QString &name, const QString &text);
     /// Lets go of a BOM-only part; what the design is to hold then, rewrittenDefinitions() tells. False for
     /// one that the parent does not have, or whose definitions cannot be written.
     bool removeBOMPart(const QString &parentReference, const QString &reference);
@@ -223,7 +227,7 @@ private:
                                                               LastNumbers *lastNumbers);
     BOMPart *addBOMPart(std::unique_ptr<BOMPart> part);
     [[nodiscard]] ReferenceNumbers &referenceNumbers();
-    void setLinks(const QString &reference, const QMap<QString, QString> &links);
+    void takeLinks(const QString &reference, const QMap<QString, QString> &links);
     void clearBOMParts();
 
     void addPart(const COMPONENT &component);

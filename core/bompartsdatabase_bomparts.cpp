@@ -5,7 +5,7 @@
 #include "core/bomlinks.h"
 #include "core/bompart.h"
 #include "core/bulkchange.h"
-#include "core/designinfo.h"
+#include "core/propertyquery.h"
 #include "host/framework/hosttext.h"
 #include "host/netlist/component.h"
 #include "host/netlist/proplist.h"
@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <limits>
 
-// BOM-only parts, links and notes: what a design holds for the bill of materials only.
+// BOM-only parts.
 
 namespace {
 
@@ -109,6 +109,35 @@ std::optional<DefinitionProperty> BOMPartsDatabase::addBOMParts(const QString &p
     return added;
 }
 
+bool BOMPartsDatabase::setBOMPartProperty(const QString &reference, const QString &name, const QString &text)
+{
+    Part *found = part(reference);
+    if (!found || !found->isBOMPart() || name.isEmpty() || name.contains(u'=') || name.startsWith(u'.')) {
+        return false;
+    }
+    auto *changed = static_cast<BOMPart *>(found);
+    BOMPartDefinition wanted{1, changed->prefix(), changed->value(), changed->properties()};
+    const QString key = name.toUpper();
+    if (key == valueProperty()) {
+        wanted.value = text;
+    } else if (text.isEmpty()) {
+        wanted.properties.remove(key);
+    } else {
+        wanted.properties.insert(key, text);
+    }
+    if (!changedBOMPartDefinition(wanted)) {
+        return false;
+    }
+    const BulkChange change(this);
+    m_parts.change(changed, wanted.value, wanted.properties);
+    if (key == bomLinksProperty()) {
+        m_links.remove(reference);
+        setLinks(reference, text);
+    }
+    updateFieldGrouping();
+    return true;
+}
+
 bool BOMPartsDatabase::removeBOMPart(const QString &parentReference, const QString &reference)
 {
     const auto defined = m_definedParts.find(parentReference);
@@ -151,46 +180,6 @@ BOMPartsDatabase::rewrittenDefinitions(const QString &parentReference) const
 {
     const auto found = m_definedParts.constFind(parentReference);
     return found == m_definedParts.cend() ? QList<DefinitionProperty>() : found->rewritten();
-}
-
-void BOMPartsDatabase::setLinks(const QString &reference, const QString &text)
-{
-    setLinks(reference, readBOMLinks(text));
-}
-
-void BOMPartsDatabase::setLinks(const QString &reference, const QMap<QString, QString> &links)
-{
-    if (!links.isEmpty()) {
-        m_links.insert(reference, links);
-    }
-}
-
-QString BOMPartsDatabase::link(const QString &reference, const QString &propertyName) const
-{
-    const auto links = m_links.constFind(reference);
-    if (links == m_links.cend()) {
-        return {};
-    }
-    if (const auto exact = links->constFind(propertyName); exact != links->cend()) {
-        return *exact;
-    }
-    const auto found = std::find_if(links->keyBegin(), links->keyEnd(), [&](const QString &name) {
-        return name.compare(propertyName, Qt::CaseInsensitive) == 0;
-    });
-    return found == links->keyEnd() ? QString() : *found.base();
-}
-
-bool BOMPartsDatabase::setNotes(const QString &text)
-{
-    if (text == m_notes) {
-        return true;
-    }
-    if (!setDesignNotes(text, &m_notesError)) {
-        return false;
-    }
-    m_notes = text;
-    notify();
-    return true;
 }
 
 void BOMPartsDatabase::makeDefinedParts(const QString &parentReference, QList<DefinitionProperty> definitions)
@@ -242,7 +231,7 @@ std::optional<DefinitionFault> BOMPartsDatabase::makeBOMParts(const QString &par
         if (BOMPart *made =
                 addBOMPart(std::make_unique<BOMPart>(this, reference, parentReference, definition))) {
             defined.add(made);
-            setLinks(reference, links);
+            takeLinks(reference, links);
         } else {
             ++repeated;
         }

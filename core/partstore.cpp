@@ -35,6 +35,13 @@ BOMPart *PartStore::add(std::unique_ptr<BOMPart> part)
     return m_unplaced.emplace_back(std::move(part)).get();
 }
 
+void PartStore::change(BOMPart *part, const QString &value, const QMap<QString, QString> &properties)
+{
+    part->m_value = value;
+    part->m_key.value = m_values.number(value);
+    part->m_properties = properties;
+}
+
 void PartStore::remove(const BOMPart *part)
 {
     std::erase(m_parts, part);

@@ -31,6 +31,8 @@ public:
     Part *add(const COMPONENT &component, const QString &reference);
     /// Takes a part; null, and the part is gone, when its reference is held already.
     BOMPart *add(std::unique_ptr<BOMPart> part);
+    /// Gives a part another value and other properties, by upper-case name.
+    void change(BOMPart *part, const QString &value, const QMap<QString, QString> &properties);
     /// Lets go of a part. Costs as much as all parts that are held.
     void remove(const BOMPart *part);
 

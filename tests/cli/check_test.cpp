@@ -89,12 +89,12 @@ TEST_F(Check, CountsBomOnlyPartsApartAndNamesFaultyDefinitions)
 {
     write(QStringLiteral("list.csv"), "Reference,Value,BOMPART1,BOMPART2,BOMPART3\n"
                                       "U1,reg,\"2,SCR,M3\",\"1,SCR\",\"two,SCR,M3\"\n"
-                                      "U2,reg,\"1,HS,sink\",\"2000000000,SCR,M3\",\"1,NUT,M3,CODE\"\n");
+                                      "U2,reg,\"1,HS,sink\",\"2000000000,SCR,M3\",\"1,NUT,M3 nut,CODE\"\n");
     const ProgramRun result = run("check list.csv --require VALUE");
     EXPECT_EQ(result.status, 1);
-    EXPECT_THAT(result.out, HasSubstr("components                       2\n"
-                                      "in the bill                      2 and 4 BOM-only parts in 4 lines\n"
-                                      "not in the bill                  0\n"));
+    EXPECT_THAT(result.out, HasSubstr("components                     2\n"
+                                      "in the bill                    2 and 4 BOM-only parts in 4 lines\n"
+                                      "not in the bill                0\n"));
     EXPECT_THAT(result.out,
                 HasSubstr("agree\n\nTo decide:\n"
                           "  U1: BOMPART2: makes no parts; it needs a count, a prefix and a value\n"

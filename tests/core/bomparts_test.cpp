@@ -200,6 +200,30 @@ TEST_F(BOMParts, areRemovedAndRewritten)
     EXPECT_EQ(made().last(), u"SCR4=M3"_s);
 }
 
+TEST_F(BOMParts, areRewrittenAfterAChange)
+{
+    netlist.add("C5", "1u", {{"BOMPART1", "'4','R','1k','MPN=x'"}, {"BOMPART2", "1,R,2k"}});
+    database.load();
+    changes = 0;
+    EXPECT_TRUE(database.setBOMPartProperty(u"R2"_s, u"mpn"_s, u"Bob's, \"y\""_s));
+    EXPECT_TRUE(database.setBOMPartProperty(u"R3"_s, u"VALUE"_s, u"2k"_s));
+    EXPECT_EQ(changes, 2);
+    EXPECT_TRUE(database.setBOMPartProperty(u"R3"_s, u"MPN"_s, QString()));
+    EXPECT_TRUE(database.setBOMPartProperty(u"R1"_s, u"BOMLINKS"_s, u"MPN=a%2Cb"_s));
+    EXPECT_EQ(database.link(u"R1"_s, u"MPN"_s), u"a,b"_s);
+    EXPECT_TRUE(database.setBOMPartProperty(u"R1"_s, u"BOMLINKS"_s, QString()));
+    EXPECT_EQ(database.link(u"R1"_s, u"MPN"_s), QString());
+    EXPECT_EQ(rewritten(u"C5"_s),
+              (QStringList{u"BOMPART0: 2,'R','1k','MPN=x'"_s, u"BOMPART1: 1,'R','1k','MPN=Bob\\'s, \"y\"'"_s,
+                           u"BOMPART2: 2,'R','2k'"_s}));
+    EXPECT_EQ(database.valueReferences(u"Resistors"_s, u"2k"_s).size(), 2);
+    for (const QString &name : {u"a=b"_s, u".Placed"_s, QString()}) {
+        EXPECT_FALSE(database.setBOMPartProperty(u"R1"_s, name, u"x"_s)) << name.toStdString();
+    }
+    EXPECT_FALSE(database.setBOMPartProperty(u"C5"_s, u"MPN"_s, u"x"_s));
+    EXPECT_FALSE(database.setBOMPartProperty(u"R1"_s, u"MPN"_s, u"a,b\\"_s)) << "cannot be written";
+}
+
 TEST_F(BOMParts, createdAgainReadAsTheyWereWritten)
 {
     netlist.add("C5", "1u");

@@ -57,13 +57,29 @@ QStringList texts(const QJsonValue &array)
     return list;
 }
 
+/// Of components only.
 QStringList references(const QJsonValue &parts)
 {
     QStringList list;
     for (const QJsonValue &part : parts.toArray()) {
-        list << part.toObject().value(QLatin1String("reference")).toString();
+        if (part.toObject().value(QLatin1String("bomPartOf")).toString().isEmpty()) {
+            list << part.toObject().value(QLatin1String("reference")).toString();
+        }
     }
     return list;
+}
+
+/// BOM-only parts, each with the part that it belongs to.
+QJsonObject bomParts(const QJsonValue &parts)
+{
+    QJsonObject owners;
+    for (const QJsonValue &part : parts.toArray()) {
+        const QString owner = part.toObject().value(QLatin1String("bomPartOf")).toString();
+        if (!owner.isEmpty()) {
+            owners.insert(part.toObject().value(QLatin1String("reference")).toString(), owner);
+        }
+    }
+    return owners;
 }
 
 QStringList sorted(QStringList list)
@@ -121,6 +137,8 @@ TEST_P(Examples, EveryReferenceOfTheLedgerIsListedOrSkipped)
     EXPECT_EQ(sorted(references(excluded.value(QLatin1String("skipped")))), sorted(leftOut));
     EXPECT_EQ(sorted(references(excluded.value(QLatin1String("parts"))) + leftOut),
               sorted(texts(account.value(QLatin1String("references")))));
+    EXPECT_EQ(bomParts(excluded.value(QLatin1String("parts"))),
+              account.value(QLatin1String("bomParts")).toObject());
     const QJsonObject included = parts(QStringLiteral("include"));
     EXPECT_EQ(sorted(references(included.value(QLatin1String("skipped")))), sorted(notInBom));
 }
