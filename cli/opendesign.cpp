@@ -5,9 +5,11 @@
 #include "cli/console.h"
 #include "host/netlist/netlist.h"
 #include "host/propdefs/propdefsfile.h"
+#include "host/richtext/pagepainter.h"
 #include "standalone/environment.h"
 #include "templates/bomtemplate.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 ExitStatus OpenDesign::open(const DesignArguments &arguments, bool tellWarnings)
@@ -25,6 +27,9 @@ ExitStatus OpenDesign::open(const DesignArguments &arguments, bool tellWarnings)
             console::message(warning);
         }
     }
+    m_session.projectNotes().setPagePainter([](QPainter &painter, const QString &text) {
+        (void)paintTextPages(painter, QCoreApplication::translate("ProjectNotes", "Project Notes"), text);
+    });
     fillDatabase();
     return ExitStatus::Done;
 }

@@ -6,11 +6,13 @@
 #include "cli/console.h"
 #include "cli/partscommand.h"
 #include "cli/reportcommand.h"
+#include "standalone/environment.h"
 
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 
 #include <QApplication>
+#include <QHashFunctions>
 
 #include <array>
 #include <optional>
@@ -81,6 +83,10 @@ ExitStatus runChosen(std::span<Command *const> commands)
 
 int runProgram(int argc, char *argv[])
 {
+    // PDF files list their fonts in the order of a hash.
+    if (sourceDateEpoch()) {
+        QHashSeed::setDeterministicGlobalSeed();
+    }
     ReportCommand report;
     PartsCommand parts;
     CheckCommand check;

@@ -9,6 +9,7 @@
 #include "cli/reportnotices.h"
 #include "host/propdefs/propdefsfile.h"
 #include "views/bomcsvview.h"
+#include "views/bomhtmlview.h"
 
 #include <QFileInfo>
 #include <QLocale>
@@ -46,15 +47,27 @@ void tell(const QStringList &notices)
 
 } // namespace
 
+const std::array<ReportCommand::OutputOption, 4> &ReportCommand::outputOptions()
+{
+    static const std::array<OutputOption, 4> options{{
+        {"--csv", "Write CSV with one row per line of the bill; - is standard output", Form::Csv,
+         &ReportCommand::m_csv},
+        {"--full-csv", "Write CSV with one row per part; - is standard output", Form::FullCsv,
+         &ReportCommand::m_fullCsv},
+        {"--html", "Write a web page (XHTML); - is standard output", Form::Html, &ReportCommand::m_html},
+        {"--pdf", "Write a PDF document; - is standard output", Form::Pdf, &ReportCommand::m_pdf},
+    }};
+    return options;
+}
+
 void ReportCommand::addTo(CLI::App &program)
 {
     m_app = program.add_subcommand("report", "Write the bill of materials; the CSV goes to standard output "
                                              "when no output is named");
     m_design.addTo(*m_app);
-    m_app->add_option("--csv", m_csv, "Write one row per line of the bill; - is standard output")
-        ->type_name("F");
-    m_app->add_option("--full-csv", m_fullCsv, "Write one row per part; - is standard output")
-        ->type_name("F");
+    for (const OutputOption &option : outputOptions()) {
+        m_app->add_option(option.name, this->*option.path, option.description)->type_name("F");
+    }
     m_app->add_flag("--allow-duplicates", m_allowDuplicates,
                     "Write the report although references occur more than once");
     m_app->add_option("--locale", m_locale, "Format numbers as in this locale, such as de_DE; C without it")
@@ -87,23 +100,20 @@ ExitStatus ReportCommand::run()
     tell(markNotices(design));
     tell(notFittedNotices(design));
     tell(definedPartNotices(design));
-    for (const Output &output : outputs) {
-        tell(replacedLineNotices(design, !output.isFull));
-    }
+    tellReplacedLines(design, outputs);
     return write(design, outputs);
 }
 
 QList<ReportCommand::Output> ReportCommand::outputs() const
 {
     QList<Output> outputs;
-    if (m_app->count("--csv") > 0) {
-        outputs.append({QString::fromStdString(m_csv), false});
-    }
-    if (m_app->count("--full-csv") > 0) {
-        outputs.append({QString::fromStdString(m_fullCsv), true});
+    for (const OutputOption &option : outputOptions()) {
+        if (m_app->count(option.name) > 0) {
+            outputs.append({QString::fromStdString(this->*option.path), option.form});
+        }
     }
     if (outputs.isEmpty()) {
-        outputs.append({QStringLiteral("-"), false});
+        outputs.append({QStringLiteral("-"), Form::Csv});
     }
     return outputs;
 }
@@ -130,7 +140,8 @@ bool ReportCommand::areDistinct(const QList<Output> &outputs)
 bool ReportCommand::spareTheDesign(OpenDesign &design, const QList<Output> &outputs) const
 {
     QStringList inputs = design.session().files();
-    inputs << m_design.path() << design.session().document().notesFile() << propdefsfile();
+    const StandaloneDocument &document = design.session().document();
+    inputs << m_design.path() << document.notesFile() << document.projectNotesFile() << propdefsfile();
     for (const Output &output : outputs) {
         const bool isInput = std::any_of(inputs.cbegin(), inputs.cend(), [&output](const QString &input) {
             return isSameFile(output.path, input);
@@ -168,13 +179,37 @@ bool ReportCommand::mayGoOn(OpenDesign &design) const
     return false;
 }
 
+void ReportCommand::tellReplacedLines(OpenDesign &design, const QList<Output> &outputs)
+{
+    const auto hasForm = [&outputs](bool isFull) {
+        return std::any_of(outputs.cbegin(), outputs.cend(), [isFull](const Output &output) {
+            return (output.form == Form::FullCsv) == isFull;
+        });
+    };
+    for (const bool isFull : {false, true}) {
+        if (hasForm(isFull)) {
+            tell(replacedLineNotices(design, !isFull));
+        }
+    }
+}
+
+QByteArray ReportCommand::content(Form form, BOMPartsDatabase &database)
+{
+    if (form == Form::Csv || form == Form::FullCsv) {
+        BOMCsvView view(nullptr, form == Form::FullCsv);
+        view.setPartsDatabase(&database);
+        return view.csv();
+    }
+    BOMHTMLView view;
+    view.setPartsDatabase(&database);
+    return form == Form::Pdf ? view.pdf() : view.html().toUtf8();
+}
+
 ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs) const
 {
     ExitStatus status = ExitStatus::Done;
     for (const Output &output : outputs) {
-        BOMCsvView view(nullptr, output.isFull);
-        view.setPartsDatabase(&design.database());
-        if (!writeOutput(output.path, view.csv())) {
+        if (!writeOutput(output.path, content(output.form, design.database()))) {
             status = ExitStatus::UnwritableOutput;
         }
     }

@@ -5,8 +5,13 @@
 #include "cli/command.h"
 #include "cli/designarguments.h"
 
+#include <QByteArray>
 #include <QList>
 
+#include <array>
+#include <string>
+
+class BOMPartsDatabase;
 class OpenDesign;
 
 /// bom report: writes the bill of materials.
@@ -17,21 +22,41 @@ public:
     [[nodiscard]] ExitStatus run() override;
 
 private:
+    enum class Form
+    {
+        Csv,
+        FullCsv,
+        Html,
+        Pdf
+    };
     struct Output
     {
         QString path;
-        bool isFull = false;
+        Form form = Form::Csv;
     };
+    /// An option that names an output.
+    struct OutputOption
+    {
+        const char *name;
+        const char *description;
+        Form form;
+        std::string ReportCommand::*path;
+    };
+    [[nodiscard]] static const std::array<OutputOption, 4> &outputOptions();
 
     [[nodiscard]] QList<Output> outputs() const;
     [[nodiscard]] static bool areDistinct(const QList<Output> &outputs);
     [[nodiscard]] bool spareTheDesign(OpenDesign &design, const QList<Output> &outputs) const;
     [[nodiscard]] bool mayGoOn(OpenDesign &design) const;
+    static void tellReplacedLines(OpenDesign &design, const QList<Output> &outputs);
+    [[nodiscard]] static QByteArray content(Form form, BOMPartsDatabase &database);
     [[nodiscard]] ExitStatus write(OpenDesign &design, const QList<Output> &outputs) const;
 
     DesignArguments m_design;
     std::string m_csv;
     std::string m_fullCsv;
+    std::string m_html;
+    std::string m_pdf;
     std::string m_locale;
     bool m_allowDuplicates = false;
 };

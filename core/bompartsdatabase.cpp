@@ -193,6 +193,7 @@ void BOMPartsDatabase::setTemplateLook(const BOMTemplate &settings)
     m_template.setCss(settings.css());
     m_template.setDocumentHeader(settings.documentHeader());
     m_template.setDocumentFooter(settings.documentFooter());
+    m_template.setHtmlTemplateFileName(settings.htmlTemplateFileName());
 }
 
 void BOMPartsDatabase::updateBOMFields(const BOMFields &fields)

@@ -141,7 +141,7 @@ public:
     [[nodiscard]] const BOMTemplate &currentTemplate() const { return m_template; }
     /// Takes a copy as the working template, completes it (see templateRepairs()), and groups anew.
     void setCurrentTemplate(const BOMTemplate &settings);
-    /// Takes over style sheet, header and footer of another template, which change no line.
+    /// Takes over style sheet, header, footer and old HTML file of another template, which change no line.
     void setTemplateLook(const BOMTemplate &settings);
     /// What the working template lacked when it was set, one sentence each.
     [[nodiscard]] const QStringList &templateRepairs() const { return m_templateRepairs; }

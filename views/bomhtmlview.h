@@ -7,7 +7,9 @@
 #include <QByteArray>
 #include <QString>
 
+class BOMTemplate;
 class BOMTemplateEditor;
+class QPainter;
 class TextEdit;
 class TextStyleEditor;
 
@@ -66,6 +68,8 @@ protected:
     [[nodiscard]] QString formatCell(const QString &value, const ReportColumn &column) const override;
 
 private:
+    [[nodiscard]] QString headerTable() const;
+    void appendCategories(QString &html) const;
     void appendCategory(QString &html, const QString &category, const QString &headingRow) const;
     void appendRows(QString &html, const QString &category) const;
     void appendTotals(QString &html) const;
@@ -74,7 +78,11 @@ private:
     [[nodiscard]] QList<int> manualWidths() const;
     [[nodiscard]] QString referencesCell(const QString &references) const;
     [[nodiscard]] QString documentTitle() const;
+    /// An old template's HTML file becomes its header and footer, once.
+    void upgradeTemplate();
+    /// Takes the changed template as the working one, marked modified.
     void takeTemplate(const BOMTemplate &changed);
+    void prepareOutput();
     void appendProjectNotes(QPainter &painter) const;
 
     TextEdit *m_textEdit = nullptr;

@@ -9,6 +9,7 @@
 #include "views/reportlink.h"
 
 #include <algorithm>
+#include <array>
 
 // The text of the document; what is done with it stands in bomhtmlview.cpp.
 
@@ -45,6 +46,16 @@ void appendCells(QString &html, const QStringList &cells, const QString &start)
 QString cellStart(QLatin1String className)
 {
     return QStringLiteral("<td><p class='") + className + QStringLiteral("'>");
+}
+
+/// Totals in one class; one empty cell when there are none.
+QString totalCells(const QStringList &totals, const QString &start)
+{
+    QStringList cells;
+    for (const QString &total : totals) {
+        cells.append(htmlText(total));
+    }
+    return start + cells.join(cellEnd + start) + cellEnd;
 }
 
 /// All of a run of blanks but the last become non-breaking ones.
@@ -94,6 +105,7 @@ QString BOMHTMLView::html()
     if (!isValid()) {
         return {};
     }
+    upgradeTemplate();
     updateFields();
     const BOMTemplate &settings = database()->currentTemplate();
     const QString title = documentTitle();
@@ -106,7 +118,7 @@ QString BOMHTMLView::html()
     html += xmlText(settings.documentFooter());
     const HostUi &ui = HostUi::current();
     html += QStringLiteral("\n<p class='timestamp'>") +
-            htmlText(ui.locale().toString(ui.now(), QLocale::LongFormat)) + QStringLiteral("</p>\n");
+            ::htmlText(ui.locale().toString(ui.now(), QLocale::LongFormat)) + QStringLiteral("</p>\n");
     html += QStringLiteral("</body>\n</html>");
     return html;
 }
@@ -234,13 +246,9 @@ void BOMHTMLView::appendCategory(QString &html, const QString &category, const Q
             QStringLiteral("'><p class='sectionTitle' >") + heading + QStringLiteral("</p></th></tr>\n") +
             headingRow;
     appendRows(html, category);
-    const QString start = cellStart(QLatin1String("subtotal"));
-    html +=
-        QStringLiteral("<tr><td colspan='2'><p class='subtotal'>") + ::htmlText(tr("Sub-totals:")) + cellEnd;
-    for (const QString &total : categorySubTotals(category)) {
-        html += start + ::htmlText(total) + cellEnd;
-    }
-    html += QStringLiteral("</tr>\n</tbody>\n");
+    html += QStringLiteral("<tr><td colspan='2'><p class='subtotal'>") + ::htmlText(tr("Sub-totals:")) +
+            cellEnd + totalCells(categorySubTotals(category), cellStart(QLatin1String("subtotal"))) +
+            QStringLiteral("</tr>\n</tbody>\n");
 }
 
 void BOMHTMLView::appendRows(QString &html, const QString &category) const
@@ -262,11 +270,8 @@ void BOMHTMLView::appendTotals(QString &html) const
     html += QStringLiteral("<tbody>\n<tr><td colspan=\"") + QString::number(headings().size()) +
             QStringLiteral("\"><p class='horizLine'>&nbsp; </p></td></tr>\n<tr>");
     const QString start = cellStart(QLatin1String("total"));
-    html += start + ::htmlText(tr("Totals:")) + cellEnd + start + cellEnd;
-    for (const QString &total : grandTotals()) {
-        html += start + ::htmlText(total) + cellEnd;
-    }
-    html += QStringLiteral("</tr>\n</tbody>\n");
+    html += start + ::htmlText(tr("Totals:")) + cellEnd + start + cellEnd + totalCells(grandTotals(), start) +
+            QStringLiteral("</tr>\n</tbody>\n");
 }
 
 QString BOMHTMLView::referencesCell(const QString &references) const

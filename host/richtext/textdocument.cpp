@@ -5,7 +5,9 @@
 #include "host/richtext/documentmarkup.h"
 #include "host/richtext/pagegeometry.h"
 #include "host/richtext/stylesheet.h"
+#include "host/richtext/xhtmlwriter.h"
 
+#include <QStringBuilder>
 #include <QTextCursor>
 #include <QTextFrame>
 #include <QTextFrameFormat>
@@ -62,12 +64,22 @@ void TextDocument::setTitle(const QString &title)
 QString TextDocument::getHtml() const
 {
     const DocumentParts parts = takeApart(m_source);
-    return parts.css == m_css ? m_source : parts.head + m_css + parts.tail;
+    if (!isModified()) {
+        return parts.css == m_css ? m_source : parts.head + m_css + parts.tail;
+    }
+    const QStringView tail(parts.tail);
+    const QStringView body = bodyOf(tail);
+    const qsizetype start = body.data() - tail.data();
+    return parts.head % m_css % tail.first(start) % xhtmlBody(*this, m_paragraphClass, m_css) %
+           tail.sliced(start + body.size());
 }
 
 void TextDocument::loadCss(const QString &css, bool preview)
 {
     const bool isSame = css == m_shownCss;
+    if (isModified()) {
+        m_source = getHtml();
+    }
     m_shownCss = css;
     if (!preview) {
         m_css = css;
@@ -80,6 +92,9 @@ void TextDocument::loadCss(const QString &css, bool preview)
 void TextDocument::highlightSelector(const QString &selector)
 {
     const bool isSame = selector == m_highlighted;
+    if (isModified()) {
+        m_source = getHtml();
+    }
     m_highlighted = selector;
     if (m_isShown && !isSame) {
         makeContent();

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "tests/cli/programtest.h"
+
+#include <QProcess>
+#include <QRegularExpression>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+/// The report as a web page and as a PDF file.
+class Documents : public ProgramTest
+{
+protected:
+    Documents() { setEnvironment(QStringLiteral("SOURCE_DATE_EPOCH"), QStringLiteral("1767322800")); }
+
+    /// What a program prints about a file of the test's folder; both streams.
+    [[nodiscard]] std::string tell(const QString &program, QStringList arguments, const QString &name) const
+    {
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        const qsizetype place = arguments.indexOf(QStringLiteral("FILE"));
+        arguments[place] = path(name);
+        process.start(program, arguments);
+        if (!process.waitForFinished() || process.exitCode() != 0) {
+            return "failed: " + process.errorString().toStdString() + process.readAll().toStdString();
+        }
+        return process.readAll().toStdString();
+    }
+    /// What the document type says is wrong with a web page; empty for a valid one.
+    [[nodiscard]] std::string invalid(const QString &name) const
+    {
+        return tell(QStringLiteral("xmllint"),
+                    {QStringLiteral("--nonet"), QStringLiteral("--noout"), QStringLiteral("--valid"),
+                     QStringLiteral("FILE")},
+                    name);
+    }
+    [[nodiscard]] std::string pdfText(const QString &name) const
+    {
+        return tell(QStringLiteral("pdftotext"),
+                    {QStringLiteral("-layout"), QStringLiteral("FILE"), QStringLiteral("-")}, name);
+    }
+};
+
+TEST_F(Documents, AreValidXhtmlWhateverTheDesignHolds)
+{
+    const QByteArray large(1024 * 1024, 'x');
+    const QByteArray list = "Reference,Value,CODE,COST,BOMLINKS\n"
+                            "R1,<script>alert(1)</script>,\"\"\"&amp;'\",1,VALUE=javascript:alert(1)\n"
+                            "R2,]]>,--><!--,nan,VALUE=https%3A%2F%2Fx%3Fa%3D1%26b%3D%3C%22\n"
+                            "R3,\x01\x02\x1b[31m,\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d \xe2\x80\xae,1e400,\n"
+                            "C1,5%1 %L2 %%,\xf0\x9f\x98\x80\xef\xbf\xbf,,\n";
+    write(QStringLiteral("list.csv"), list);
+    write(QStringLiteral("large.csv"), list + "U1," + large + ",,,\n");
+    write(QStringLiteral("large.bomnotes.txt"), "<h1>Notes</h1>\n\t& more  \x02\n");
+    const ProgramRun result = run("report large.csv --html page.html");
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(invalid(QStringLiteral("page.html")), "");
+    const std::string page = read(QStringLiteral("page.html"));
+    EXPECT_THAT(page, HasSubstr("&lt;script&gt;alert(1)&lt;/script&gt;"));
+    EXPECT_THAT(page, HasSubstr("5%1 %L2 %%"));
+    EXPECT_THAT(page, Not(HasSubstr("javascript")));
+    EXPECT_THAT(page, HasSubstr(large.toStdString()));
+    EXPECT_EQ(run("report list.csv --pdf page.pdf").status, 0);
+    EXPECT_THAT(pdfText(QStringLiteral("page.pdf")), HasSubstr("5%1 %L2 %%"));
+}
+
+TEST_F(Documents, OfEqualInputsAreEqual)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\n");
+    EXPECT_EQ(run("report list.csv --html a.html --pdf a.pdf").status, 0);
+    EXPECT_EQ(run("report list.csv --html b.html --pdf b.pdf").status, 0);
+    EXPECT_EQ(read(QStringLiteral("a.html")), read(QStringLiteral("b.html")));
+    EXPECT_EQ(read(QStringLiteral("a.pdf")), read(QStringLiteral("b.pdf")));
+    EXPECT_THAT(read(QStringLiteral("a.html")), HasSubstr("Friday, 2 January 2026 03:00:00"));
+    EXPECT_THAT(read(QStringLiteral("a.pdf")), HasSubstr("/CreationDate (D:20260102030000Z)"));
+    EXPECT_EQ(run("report list.csv --html -").out, read(QStringLiteral("a.html")));
+    EXPECT_EQ(run("report list.csv --pdf -").out, read(QStringLiteral("a.pdf")));
+}
+
+TEST_F(Documents, PdfRepeatsTheHeadingsOnEveryPage)
+{
+    QByteArray list = "Reference,Value\n";
+    for (int i = 1; i <= 120; ++i) {
+        list += "R" + QByteArray::number(i) + ",V" + QByteArray::number(i) + "\n";
+    }
+    write(QStringLiteral("list.csv"), list);
+    EXPECT_EQ(run("report list.csv --pdf list.pdf").status, 0);
+    const QString text = QString::fromStdString(pdfText(QStringLiteral("list.pdf")));
+    QStringList pages = text.split(QChar::FormFeed, Qt::SkipEmptyParts);
+    ASSERT_GE(pages.size(), 3);
+    for (const QString &page : pages) {
+        EXPECT_TRUE(page.contains(QStringLiteral("References"))) << page.toStdString();
+    }
+    EXPECT_TRUE(pages[1].contains(QStringLiteral("120 Resistors")));
+    for (int i = 1; i <= 120; ++i) {
+        EXPECT_EQ(text.count(QRegularExpression(QStringLiteral("\\bV%1\\b").arg(i))), 1) << i;
+    }
+    EXPECT_THAT(tell(QStringLiteral("pdfinfo"), {QStringLiteral("FILE")}, QStringLiteral("list.pdf")),
+                HasSubstr("(A4)"));
+}
+
+TEST_F(Documents, ThatCannotBeWrittenLeaveTheOldFile)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\n");
+    for (const char *option : {"--html", "--pdf"}) {
+        const std::string arguments = std::string("report list.csv ") + option + " none/out";
+        const ProgramRun result = run(arguments.c_str());
+        EXPECT_EQ(result.status, 4);
+        EXPECT_THAT(result.err, HasSubstr("none/out: cannot be written: "));
+    }
+    EXPECT_EQ(run("report list.csv --html list.csv").status, 2);
+    EXPECT_EQ(run("report list.csv --html list.projectnotes.txt").status, 2);
+    EXPECT_EQ(read(QStringLiteral("list.csv")), "Reference,Value\nR1,10k\n");
+    EXPECT_EQ(run("report list.csv --html x --pdf x").status, 2);
+}
+
+} // namespace

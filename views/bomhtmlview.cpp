@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "views/bomhtmlview.h"
+
+#include "core/bompartsdatabase.h"
+#include "host/framework/applnprocess.h"
+#include "host/framework/hostui.h"
+#include "host/framework/reportfile.h"
+#include "host/richtext/pagegeometry.h"
+#include "host/richtext/pdfoutput.h"
+#include "host/richtext/stylesheet.h"
+#include "host/richtext/textedit.h"
+#include "host/richtext/xmltext.h"
+#include "views/htmltext.h"
+#include "views/reportlink.h"
+
+#include <QFileInfo>
+#include <QPainter>
+#include <QUrl>
+#include <QVBoxLayout>
+
+BOMHTMLView::BOMHTMLView(QWidget *parent)
+    : BOMView(parent)
+    // A soft hyphen and a space without width: long lists can wrap after any comma.
+    , m_referenceSeparator(QStringLiteral(",&shy;&#8203;"))
+{
+}
+
+BOMHTMLView::~BOMHTMLView() = default;
+
+TextEdit *BOMHTMLView::textEdit()
+{
+    if (!m_textEdit) {
+        m_textEdit = new TextEdit(this);
+        m_textEdit->setObjectName(QStringLiteral("textEdit"));
+        m_textEdit->setFocusPolicy(Qt::WheelFocus);
+        m_textEdit->setReadOnly(true);
+        m_textEdit->setUndoRedoEnabled(false);
+        // A bar that comes and goes makes a long report be laid out once more.
+        m_textEdit->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        m_textEdit->setTextInteractionFlags(Qt::TextBrowserInteraction);
+        setFocusProxy(m_textEdit);
+        auto *layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(m_textEdit);
+        connect(m_textEdit, &TextEdit::linkActivated, this, &BOMHTMLView::onLinkActivated);
+        connect(m_textEdit, &TextEdit::previewPainted, this,
+                [this](QPainter *painter) { appendProjectNotes(*painter); });
+    }
+    return m_textEdit;
+}
+
+QByteArray BOMHTMLView::pdf()
+{
+    if (!isValid()) {
+        return {};
+    }
+    const BOMTemplate &settings = database()->currentTemplate();
+    PagedText text;
+    text.xhtml = html();
+    text.title = database()->designTitle();
+    text.header = xmlText(settings.pageHeader());
+    text.footer = xmlText(settings.pageFooter());
+    PdfOutput output(pageLayout(StyleSheet(settings.css())), text.title);
+    PagePainter pages(text);
+    QPainter painter(&output.device());
+    pages.paint(painter, 1, pages.layOut(output.device()));
+    appendProjectNotes(painter);
+    painter.end();
+    return output.bytes();
+}
+
+void BOMHTMLView::handleBOMDataUpdate()
+{
+    if (!isValid()) {
+        return;
+    }
+    textEdit()->loadDocument(html());
+    textEdit()->document()->setTitle(::htmlText(database()->designTitle()));
+}
+
+void BOMHTMLView::saveHTML()
+{
+    if (!isValid()) {
+        return;
+    }
+    if (textEdit()->document()->getHtml().isEmpty()) {
+        handleBOMDataUpdate();
+    }
+    const QString html = textEdit()->document()->getHtml();
+    HostUi &ui = HostUi::current();
+    const QString path =
+        ui.saveFileName(this, tr("HTML file to save"), database()->defaultOutputPath(QStringLiteral(".html")),
+                        tr("Web pages (*.html *.htm)"));
+    if (path.isEmpty()) {
+        return;
+    }
+    QString reason;
+    const ReportFileResult result = writeReportFile(path, html.toUtf8(), &reason);
+    if (result != ReportFileResult::Written) {
+        ui.warning(this, tr("Output Failed"), reportFileMessage(result, path, reason));
+        return;
+    }
+    setProperty("ExportFileName", path);
+    ui.openUrl(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
+}
+
+void BOMHTMLView::prepareOutput()
+{
+    if (textEdit()->document()->getHtml().isEmpty()) {
+        handleBOMDataUpdate();
+    }
+    const BOMTemplate &settings = database()->currentTemplate();
+    textEdit()->setPageFragments(xmlText(settings.pageHeader()), xmlText(settings.pageFooter()));
+    textEdit()->document()->setTitle(database()->designTitle());
+}
+
+void BOMHTMLView::generatePDF()
+{
+    if (!isValid()) {
+        return;
+    }
+    prepareOutput();
+    QPainter painter;
+    const QString suggested = database()->defaultOutputPath(QStringLiteral(".pdf"));
+    if (!textEdit()->printToPdf(suggested, true, false, painter)) {
+        return;
+    }
+    appendProjectNotes(painter);
+    painter.end();
+    const QString path = textEdit()->finishPdf();
+    if (!path.isEmpty() && QFileInfo::exists(path)) {
+        HostUi::current().openUrl(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
+    }
+}
+
+void BOMHTMLView::print()
+{
+    if (!isValid()) {
+        return;
+    }
+    prepareOutput();
+    QPainter painter;
+    if (textEdit()->print(painter)) {
+        appendProjectNotes(painter);
+        painter.end();
+    }
+}
+
+void BOMHTMLView::appendProjectNotes(QPainter &painter) const
+{
+    APPLNPROCESS *process = getapplnprocess();
+    if (!process || !painter.isActive() || !database()->currentTemplate().appendNotes()) {
+        return;
+    }
+    if (APPLNOBJECT *notes = process->currentobject("PROJNOTES", OBJECT_KIND_PROJECT_NOTES)) {
+        notes->paint(painter, PAINT_MODE_APPEND);
+    }
+}
+
+void BOMHTMLView::onLinkActivated(const QString &link)
+{
+    if (!isValid()) {
+        return;
+    }
+    const QString folder = QFileInfo(database()->designInfo("FILENAME")).absolutePath();
+    const QUrl target = linkTarget(link, folder);
+    if (!target.isEmpty()) {
+        HostUi::current().openUrl(target);
+    }
+}
