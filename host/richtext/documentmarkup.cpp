@@ -264,7 +264,8 @@ private:
 
 QString highlightRule(const QString &selector)
 {
-    if (selector.isEmpty()) {
+    // All of it would be marked.
+    if (selector.isEmpty() || selector == QLatin1String("body")) {
         return {};
     }
     return QStringLiteral("\n") + selector + QStringLiteral(" { background-color: ") +
@@ -301,9 +302,11 @@ QString shownMarkup(const QString &xhtml, const StyleSheet &css, Medium medium, 
 {
     const DocumentParts parts = takeApart(xhtml);
     const ShownStyle style(css);
-    const QStringView body = bodyOf(parts.tail);
-    const qsizetype bodyStart = body.data() - parts.tail.constData();
     const QStringView tail(parts.tail);
+    const QStringView body = bodyOf(tail);
+    const qsizetype bodyStart = body.data() - tail.data();
+    // Previews draw soft hyphens everywhere; the space without width that follows is enough to break a line.
+    const QString text = body.toString().replace(QStringLiteral("&shy;&#8203;"), QStringLiteral("&#8203;"));
     return parts.head % style.css() % highlightRule(highlighted) % tail.first(bodyStart) %
-           MarkupWriter(body, style, medium).rewrite() % tail.sliced(bodyStart + body.size());
+           MarkupWriter(text, style, medium).rewrite() % tail.sliced(bodyStart + body.size());
 }
