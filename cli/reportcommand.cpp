@@ -12,6 +12,7 @@
 #include "views/bomhtmlview.h"
 
 #include <QFileInfo>
+#include <QFontDatabase>
 #include <QLocale>
 
 #include <algorithm>
@@ -209,6 +210,11 @@ ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs
 {
     ExitStatus status = ExitStatus::Done;
     for (const Output &output : outputs) {
+        if (output.form == Form::Pdf && QFontDatabase::families().isEmpty()) {
+            console::message(output.path + QStringLiteral(": is not written: no fonts are installed"));
+            status = ExitStatus::UnwritableOutput;
+            continue;
+        }
         if (!writeOutput(output.path, content(output.form, design.database()))) {
             status = ExitStatus::UnwritableOutput;
         }
