@@ -51,6 +51,31 @@ QList<QTextBlock> selectedBlocks(const QTextEdit &edit)
     return blocks;
 }
 
+/// Headings have a size relative to the document's, which would win over any other.
+void clearRelativeSizes(const QTextEdit &edit)
+{
+    const QTextCursor selection = edit.textCursor();
+    for (const QTextBlock &block : selectedBlocks(edit)) {
+        QList<QTextCursor> found;
+        for (auto at = block.begin(); !at.atEnd(); ++at) {
+            const QTextFragment part = at.fragment();
+            const int start = std::max(part.position(), selection.selectionStart());
+            const int end = std::min(part.position() + part.length(), selection.selectionEnd());
+            if (start < end && part.charFormat().hasProperty(QTextFormat::FontSizeAdjustment)) {
+                QTextCursor cursor(block);
+                cursor.setPosition(start);
+                cursor.setPosition(end, QTextCursor::KeepAnchor);
+                found.append(cursor);
+            }
+        }
+        for (QTextCursor &cursor : found) {
+            QTextCharFormat format = cursor.charFormat();
+            format.clearProperty(QTextFormat::FontSizeAdjustment);
+            cursor.setCharFormat(format);
+        }
+    }
+}
+
 void leaveList(const QTextBlock &block)
 {
     block.textList()->remove(block);
@@ -91,6 +116,20 @@ void moveParagraph(const QTextBlock &block, int steps)
 }
 
 } // namespace
+
+void setFontSize(QTextEdit &edit, double points)
+{
+    const EditBlock step(edit.textCursor());
+    clearRelativeSizes(edit);
+    QTextCharFormat format = edit.currentCharFormat();
+    if (!edit.textCursor().hasSelection() && format.hasProperty(QTextFormat::FontSizeAdjustment)) {
+        format.clearProperty(QTextFormat::FontSizeAdjustment);
+        edit.setCurrentCharFormat(format);
+    }
+    QTextCharFormat size;
+    size.setFontPointSize(points);
+    edit.mergeCurrentCharFormat(size);
+}
 
 void toggleList(QTextEdit &edit, QTextListFormat::Style style)
 {

@@ -10,6 +10,9 @@ class QTextEdit;
 
 /// What the tool bars do to a text. Each is one step for undo.
 
+/// Gives the selected text, or what is typed next, a size in points.
+void setFontSize(QTextEdit &edit, double points);
+
 /// Puts the selected paragraphs into a list of that style, or takes them out of it when all are in one.
 void toggleList(QTextEdit &edit, QTextListFormat::Style style);
 

@@ -11,7 +11,12 @@
 #include "host/richtext/toolicon.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QEvent>
+#include <QFontComboBox>
+#include <QFontDatabase>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QTextList>
 
 // What the tools do; how they are laid out stands in textedittoolbars_layout.cpp.
@@ -51,6 +56,21 @@ void TextEditToolBars::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
 }
 
+bool TextEditToolBars::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isKey = event->type() == QEvent::KeyPress;
+    const int key = isKey ? static_cast<QKeyEvent *>(event)->key() : 0;
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) {
+        return QWidget::eventFilter(watched, event);
+    }
+    if (watched == m_size->lineEdit()) {
+        applySize(m_size->lineEdit()->text());
+    } else if (QFontDatabase::families().contains(m_family->lineEdit()->text(), Qt::CaseInsensitive)) {
+        applyFamily(m_family->lineEdit()->text());
+    }
+    return true;
+}
+
 void TextEditToolBars::mergeFormat(const QTextCharFormat &format)
 {
     if (m_edit != nullptr) {
@@ -73,14 +93,13 @@ void TextEditToolBars::applySize(const QString &text)
 {
     constexpr double smallest = 1;
     constexpr double largest = 400;
+    m_size->lineEdit()->setModified(false);
     bool isNumber = false;
     const double size = HostUi::current().locale().toDouble(text, &isNumber);
     if (isNumber && size >= smallest && size <= largest) {
-        QTextCharFormat format;
-        format.setFontPointSize(size);
-        // Headings have a size relative to the document's.
-        format.setProperty(QTextFormat::FontSizeAdjustment, 0);
-        mergeFormat(format);
+        if (m_edit != nullptr) {
+            setFontSize(*m_edit, size);
+        }
     }
     showState();
     if (m_edit != nullptr) {

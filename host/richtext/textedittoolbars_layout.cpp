@@ -82,10 +82,12 @@ void TextEditToolBars::addFontTools(QToolBar &bar)
     connect(m_size, &QComboBox::textActivated, this, &TextEditToolBars::applySize);
     connect(m_size->lineEdit(), &QLineEdit::editingFinished, this, [this] {
         if (m_size->lineEdit()->isModified()) {
-            m_size->lineEdit()->setModified(false);
-            applySize(m_size->currentText());
+            applySize(m_size->lineEdit()->text());
         }
     });
+    // Return would bring back the entry that was chosen before.
+    m_family->lineEdit()->installEventFilter(this);
+    m_size->lineEdit()->installEventFilter(this);
     bar.addWidget(m_size);
 }
 
@@ -230,6 +232,8 @@ void TextEditToolBars::showFont()
         m_family->setCurrentFont(m_edit->currentFont());
     }
     if (!m_size->lineEdit()->isModified()) {
-        m_size->setCurrentText(sizeText(QFontInfo(m_edit->currentFont()).pointSizeF()));
+        const QFont font = m_edit->currentFont();
+        m_size->setCurrentText(
+            sizeText(font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF()));
     }
 }

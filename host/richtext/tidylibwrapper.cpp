@@ -114,7 +114,8 @@ QString TidyLibWrapper::tidyHtml(const QString &html, int mode)
     if ((result < 0 || tidyErrorCount(tidy) > 0) && m_errorString.isEmpty()) {
         m_errorString = text("The HTML text cannot be read.");
     }
-    QString xhtml = output.toString();
+    // Numeric entities can bring in what the text itself did not hold.
+    QString xhtml = xmlText(output.toString());
     if (m_errorString.isEmpty()) {
         m_errorString = xmlError(xhtml, mode);
     }

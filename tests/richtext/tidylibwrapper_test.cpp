@@ -74,6 +74,13 @@ TEST(Tidy, TakesManyElementsAndMuchTextThatAreFlat)
             .isEmpty());
 }
 
+TEST(Tidy, ReplacesCharactersThatXmlLacks)
+{
+    EXPECT_EQ(tidied(QStringLiteral("a&#1;b\u0002c&#31;") + QChar(0xD800)),
+              QStringLiteral("a\uFFFDb\uFFFDc\uFFFD\uFFFD"));
+    EXPECT_TRUE(tidied(QStringLiteral("x&#0;&#xD800;&#xFFFF;y")).endsWith(u'y'));
+}
+
 TEST(Tidy, GivesWellFormedTextForHostileInput)
 {
     QString controls;

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "views/bomtemplateeditor.h"
+
+#include "host/richtext/textedit.h"
+#include "host/richtext/textedithruler.h"
+#include "host/richtext/textedittoolbars.h"
+#include "support/printtext.h"
+#include "support/scriptedui.h"
+#include "templates/defaultstylesheet.h"
+
+#include <gtest/gtest.h>
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+namespace {
+
+const QString headerText =
+    QStringLiteral("\n<p  class='DocHeader'>Company &amp; Co<br/></p>\r\n<!-- kept -->");
+const QString footerText = QStringLiteral("<p class='DocFooter'>Page</p>");
+
+class TemplateEditor : public testing::Test
+{
+protected:
+    TemplateEditor()
+        : editor(&report, nullptr)
+    {
+        editor.setCSS(defaultStyleSheet());
+        editor.setHeader(headerText);
+        editor.setFooter(footerText);
+    }
+
+    /// Runs the dialog and does something in it.
+    bool run(const std::function<void()> &act, QDialogButtonBox::StandardButton end = QDialogButtonBox::Ok)
+    {
+        QTimer::singleShot(0, &editor, [this, act, end] {
+            act();
+            auto *box = editor.findChild<QDialogButtonBox *>(QStringLiteral("buttonBox"));
+            QTest::mouseClick(box->button(end), Qt::LeftButton);
+        });
+        return editor.run();
+    }
+    template<class Widget>
+    Widget *child(const char *name)
+    {
+        return editor.findChild<Widget *>(QLatin1String(name));
+    }
+    void showTab(int index)
+    {
+        QTabBar *bar = child<QTabWidget>("tabWidget")->tabBar();
+        QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(index).center());
+    }
+
+    ScriptedUi ui;
+    TextEdit report;
+    BOMTemplateEditor editor;
+};
+
+} // namespace
+
+TEST_F(TemplateEditor, GivesBackUntouchedTextsByteForByte)
+{
+    EXPECT_TRUE(run([&] {
+        showTab(1);
+        showTab(0);
+    }));
+    EXPECT_EQ(editor.header(), headerText);
+    EXPECT_EQ(editor.footer(), footerText);
+    EXPECT_EQ(editor.css(), defaultStyleSheet());
+}
+
+TEST_F(TemplateEditor, WritesOnlyTheEditedTab)
+{
+    EXPECT_TRUE(run([&] {
+        showTab(1);
+        QTest::keyClick(child<TextEdit>("footerTextEdit"), Qt::Key_End, Qt::ControlModifier);
+        QTest::keyClicks(child<TextEdit>("footerTextEdit"), QStringLiteral(" <2>"));
+    }));
+    EXPECT_EQ(editor.header(), headerText);
+    EXPECT_EQ(editor.footer(), QStringLiteral("<p class=\"DocFooter\">Page &lt;2&gt;</p>"));
+}
+
+TEST_F(TemplateEditor, TypesIntoAnEmptyHeaderInTheLookOfHeaders)
+{
+    editor.setHeader({});
+    EXPECT_TRUE(run([] {}));
+    EXPECT_EQ(editor.header(), QString());
+    EXPECT_TRUE(run([&] { QTest::keyClicks(child<TextEdit>("headerTextEdit"), QStringLiteral("Hi")); }));
+    EXPECT_EQ(editor.header(), QStringLiteral("<p class=\"DocHeader\">Hi</p>"));
+    editor.setHeader(editor.header());
+    EXPECT_TRUE(run([&] {
+        QTest::keyClick(child<TextEdit>("headerTextEdit"), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(child<TextEdit>("headerTextEdit"), Qt::Key_Delete);
+    }));
+    EXPECT_EQ(editor.header(), QString());
+}
+
+TEST_F(TemplateEditor, ActsOnTheShownTab)
+{
+    EXPECT_TRUE(run([&] {
+        auto *bars = child<TextEditToolBars>("toolBars");
+        EXPECT_EQ(bars->textEdit(), child<TextEdit>("headerTextEdit"));
+        showTab(1);
+        EXPECT_EQ(bars->textEdit(), child<TextEdit>("footerTextEdit"));
+        child<TextEdit>("footerTextEdit")->selectAll();
+        QTest::mouseClick(child<QWidget>("boldButton"), Qt::LeftButton);
+    }));
+    EXPECT_EQ(editor.header(), headerText);
+    EXPECT_EQ(editor.footer(),
+              QStringLiteral("<p class=\"DocFooter\"><span style=\"font-weight:700;\">Page</span></p>"));
+}
+
+TEST_F(TemplateEditor, StartsAnewAfterCancel)
+{
+    const auto type = [&] { QTest::keyClicks(child<TextEdit>("headerTextEdit"), QStringLiteral("x")); };
+    EXPECT_FALSE(run(type, QDialogButtonBox::Cancel));
+    EXPECT_TRUE(run([] {}));
+    EXPECT_EQ(editor.header(), headerText);
+}
+
+TEST_F(TemplateEditor, PutsMovedPaperMarginsIntoTheBodyRule)
+{
+    EXPECT_TRUE(run([&] { Q_EMIT child<TextEditHRuler>("headerHRuler")->paperMarginsChanged(40, 50); }));
+    EXPECT_EQ(editor.header(), headerText);
+    const StyleSheet css(editor.css());
+    EXPECT_TRUE(
+        css.value(QStringLiteral("body"), QStringLiteral("margin")).contains(QStringLiteral(" 40.0pt")))
+        << qPrintable(css.body(QStringLiteral("body")));
+    EXPECT_EQ(css.body(QStringLiteral("p.DocHeader")),
+              StyleSheet(defaultStyleSheet()).body(QStringLiteral("p.DocHeader")));
+}
+
+TEST_F(TemplateEditor, TakesHostileTexts)
+{
+    editor.setCSS(QStringLiteral("p { } </style><script>x</script> }{ \u0001 %1"));
+    editor.setHeader(QStringLiteral("</body></html><p>%1</div>") + QChar(0xD800) + QChar(2));
+    EXPECT_TRUE(run([] {}));
+    EXPECT_EQ(editor.header(), QStringLiteral("</body></html><p>%1</div>") + QChar(0xD800) + QChar(2));
+    EXPECT_EQ(editor.css(), QStringLiteral("p { } </style><script>x</script> }{ \u0001 %1"));
+}
