@@ -12,8 +12,9 @@
 #include "views/bomhtmlview.h"
 
 #include <QFileInfo>
-#include <QFontDatabase>
+#include <QFont>
 #include <QLocale>
+#include <QRawFont>
 
 #include <algorithm>
 #include <optional>
@@ -210,7 +211,7 @@ ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs
 {
     ExitStatus status = ExitStatus::Done;
     for (const Output &output : outputs) {
-        if (output.form == Form::Pdf && QFontDatabase::families().isEmpty()) {
+        if (output.form == Form::Pdf && QRawFont::fromFont(QFont()).fontTable("cmap").isEmpty()) {
             console::message(output.path + QStringLiteral(": is not written: no fonts are installed"));
             status = ExitStatus::UnwritableOutput;
             continue;
