@@ -122,11 +122,11 @@ TEST_F(Documents, ThatCannotBeWrittenLeaveTheOldFile)
 TEST_F(Documents, PdfNeedsAFont)
 {
     write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\n");
-    write(QStringLiteral("fonts.conf"), "<?xml version=\"1.0\"?><fontconfig><dir>none</dir></fontconfig>");
+    write(QStringLiteral("fonts.conf"), "<?xml version=\"1.0\"?><fontconfig></fontconfig>");
     setEnvironment(QStringLiteral("FONTCONFIG_FILE"), path(QStringLiteral("fonts.conf")));
     const ProgramRun result = run("report list.csv --pdf list.pdf --html list.html");
     EXPECT_EQ(result.status, 4);
-    EXPECT_EQ(result.err, "bom: list.pdf: is not written: no fonts are installed\n");
+    EXPECT_THAT(result.err, HasSubstr("bom: list.pdf: is not written: no fonts are installed\n"));
     EXPECT_EQ(read(QStringLiteral("list.pdf")), "no file");
     EXPECT_THAT(read(QStringLiteral("list.html")), HasSubstr("10k"));
 }
