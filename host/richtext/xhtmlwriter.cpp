@@ -104,11 +104,27 @@ private:
 
     void writeFrame(QTextFrame *frame, const Surroundings &cell)
     {
-        if (auto *table = qobject_cast<QTextTable *>(frame)) {
+        if (auto *table = qobject_cast<QTextTable *>(frame); table != nullptr && !isBox(*table)) {
             writeTable(*table);
         } else {
             writeContent(frame->begin(), frame->end(), cell);
+            m_result += QStringLiteral("\n");
         }
+    }
+
+    /// Whether a table is only there to show a paragraph's padding or border, which its class says.
+    bool isBox(const QTextTable &table)
+    {
+        const QTextTableFormat format = table.format();
+        const bool isPlain = table.rows() == 1 && table.columns() == 1 && format.border() == 0 &&
+                             format.cellSpacing() == 0 && format.cellPadding() == 0 &&
+                             format.width() == QTextLength(QTextLength::PercentageLength, 100);
+        if (!isPlain || m_class.isEmpty()) {
+            return false;
+        }
+        const QBrush background = backgroundOf(table.cellAt(0, 0));
+        return !isVisible(background) ||
+               background == m_looks.of(QStringLiteral("p"), m_class).block.background();
     }
 
     void writeBlock(const QTextBlock &block, const Surroundings &cell)

@@ -117,6 +117,22 @@ TEST_F(TemplateEditor, ActsOnTheShownTab)
               QStringLiteral("<p class=\"DocFooter\"><span style=\"font-weight:700;\">Page</span></p>"));
 }
 
+TEST_F(TemplateEditor, KeepsParagraphsWithABoxParagraphs)
+{
+    editor.setCSS(defaultStyleSheet() +
+                  QStringLiteral("\np.DocHeader { padding: 4pt; border-bottom: 1pt solid "
+                                 "#ff0000; background-color: #eeeeee }"));
+    editor.setHeader(QStringLiteral("<p class='DocHeader'>one</p><p class='DocHeader'>two</p>"));
+    EXPECT_TRUE(run([&] {
+        auto *edit = child<TextEdit>("headerTextEdit");
+        QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
+        QTest::mouseClick(child<QWidget>("italicButton"), Qt::LeftButton);
+    }));
+    EXPECT_EQ(editor.header(),
+              QStringLiteral("<p class=\"DocHeader\"><span style=\"font-style:italic;\">one</span></p>\n"
+                             "<p class=\"DocHeader\"><span style=\"font-style:italic;\">two</span></p>"));
+}
+
 TEST_F(TemplateEditor, StartsAnewAfterCancel)
 {
     const auto type = [&] { QTest::keyClicks(child<TextEdit>("headerTextEdit"), QStringLiteral("x")); };
