@@ -24,8 +24,10 @@ QIcon swatch(const QColor &color)
 ColorMenu::ColorMenu(const QString &none, QWidget *parent)
     : QMenu(parent)
 {
-    connect(addAction(none), &QAction::triggered, this, [this] { Q_EMIT colorChosen(QColor()); });
-    addSeparator();
+    if (!none.isEmpty()) {
+        connect(addAction(none), &QAction::triggered, this, [this] { Q_EMIT colorChosen(QColor()); });
+        addSeparator();
+    }
     addColor(tr("Black"), 0x000000);
     addColor(tr("Dark Grey"), 0x555555);
     addColor(tr("Grey"), 0x999999);

@@ -5,13 +5,13 @@
 #include <QColor>
 #include <QMenu>
 
-/// A menu of colours by name, with one entry for none and one for any other.
+/// A menu of colours by name, one entry for any other and, where there can be none, one for that.
 class ColorMenu final : public QMenu
 {
     Q_OBJECT
 
 public:
-    /// `none` is what the entry for no colour says.
+    /// `none` is what the entry for no colour says; without a text there is no such entry.
     ColorMenu(const QString &none, QWidget *parent);
 
     /// Where the dialog for other colours starts.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/richtext/textcommands.h"
 
-#include <QApplication>
+#include <QGuiApplication>
 #include <QPalette>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -209,7 +209,8 @@ void setLink(QTextEdit &edit, QTextCursor where, const QString &text, const QStr
     if (!address.isEmpty()) {
         format.setAnchor(true);
         format.setAnchorHref(address);
-        format.setForeground(edit.palette().link());
+        // As readers of the text show links.
+        format.setForeground(QGuiApplication::palette().link());
         format.setFontUnderline(true);
     }
     where.insertText(text, format);

@@ -110,7 +110,7 @@ void TextEditToolBars::applySize(const QString &text)
 void TextEditToolBars::applyTextColor(const QColor &color)
 {
     QTextCharFormat format;
-    format.setForeground(color.isValid() ? QBrush(color) : QBrush(Qt::NoBrush));
+    format.setForeground(color);
     mergeFormat(format);
 }
 

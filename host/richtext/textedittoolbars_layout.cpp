@@ -142,7 +142,7 @@ void TextEditToolBars::addStyleTools(QToolBar &bar)
                              [](QTextCharFormat &format, bool isOn) { format.setFontItalic(isOn); });
     m_underline = addFormatTool(bar, QStringLiteral("underline"), tr("Underline"), QStringLiteral("Ctrl+U"),
                                 [](QTextCharFormat &format, bool isOn) { format.setFontUnderline(isOn); });
-    m_textColors = new ColorMenu(tr("Black Text"), this);
+    m_textColors = new ColorMenu(QString(), this);
     m_textColor = addColorTool(bar, QStringLiteral("textcolour"), tr("Text colour"), m_textColors);
     connect(m_textColors, &ColorMenu::colorChosen, this, &TextEditToolBars::applyTextColor);
     m_fillColors = new ColorMenu(tr("No Background"), this);
