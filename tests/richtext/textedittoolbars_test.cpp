@@ -264,6 +264,7 @@ TEST_F(ToolBars, EmbedImagesAndRefuseWhatIsNone)
         ASSERT_FALSE(ui.warnings.isEmpty());
         EXPECT_TRUE(ui.warnings.last().text.contains(QLatin1String(name)));
     }
+    EXPECT_TRUE(ui.warnings.first().text.contains(QStringLiteral("2 MiB")));
     ui.fileName.clear();
     click("image");
     EXPECT_EQ(ui.warnings.size(), 3);
