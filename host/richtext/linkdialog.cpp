@@ -61,9 +61,9 @@ LinkDialog::LinkDialog(const QString &text, const QString &address, QWidget *par
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(m_address, &QLineEdit::textChanged, this, &LinkDialog::update);
+    connect(m_address, &QLineEdit::textChanged, this, &LinkDialog::allowOk);
     (text.isEmpty() ? m_text : m_address)->setFocus();
-    update();
+    allowOk();
 }
 
 QString LinkDialog::text() const
@@ -76,7 +76,7 @@ QString LinkDialog::address() const
     return m_isRemoved ? QString() : completed(m_address->text());
 }
 
-void LinkDialog::update()
+void LinkDialog::allowOk()
 {
     m_ok->setEnabled(!completed(m_address->text()).isEmpty());
 }

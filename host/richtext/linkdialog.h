@@ -23,7 +23,7 @@ public:
     [[nodiscard]] QString address() const;
 
 private:
-    void update();
+    void allowOk();
     void removeLink();
 
     QLineEdit *m_text = nullptr;
