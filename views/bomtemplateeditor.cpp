@@ -27,14 +27,6 @@ QString paragraphRule(const QString &className)
     return QStringLiteral("p.") + className;
 }
 
-/// Black on white, as the report is printed.
-QPalette paperPalette(QPalette palette)
-{
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Text, Qt::black);
-    return palette;
-}
-
 /// The document shows them; they are none of the text, and no step for undo.
 void showPaperMargins(TextEdit &edit, const QMarginsF &points)
 {
@@ -79,7 +71,6 @@ BOMTemplateEditor::~BOMTemplateEditor() = default;
 void BOMTemplateEditor::setUpEditor(TextEdit &edit, TextEditHRuler &ruler, const QFont &font)
 {
     edit.document()->setDefaultFont(font);
-    edit.setPalette(paperPalette(edit.palette()));
     edit.setLineWrapMode(QTextEdit::FixedPixelWidth);
     ruler.setTextEdit(&edit);
     ruler.setHasTabStops(false);

@@ -4,6 +4,7 @@
 
 #include "host/richtext/documentmarkup.h"
 #include "host/richtext/pagegeometry.h"
+#include "host/richtext/shownstyle.h"
 #include "host/richtext/stylesheet.h"
 #include "host/richtext/xhtmlwriter.h"
 
@@ -70,7 +71,7 @@ QString TextDocument::getHtml() const
     const QStringView tail(parts.tail);
     const QStringView body = bodyOf(tail);
     const qsizetype start = body.data() - tail.data();
-    return parts.head % m_css % tail.first(start) % xhtmlBody(*this, m_paragraphClass, m_css) %
+    return parts.head % m_css % tail.first(start) % xhtmlBody(*this, m_paragraphClass, ShownStyle(StyleSheet(m_css)).css()) %
            tail.sliced(start + body.size());
 }
 

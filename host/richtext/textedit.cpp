@@ -13,6 +13,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPalette>
 #include <QPrinter>
 #include <QScrollBar>
 #include <QUrl>
@@ -24,6 +25,14 @@ namespace {
 /// Fine enough for paper, see PdfOutput.
 constexpr int printerResolution = 600;
 
+/// Paper is white, whatever the desktop's colours: documents bring colours that are made for it.
+QPalette paperPalette(QPalette palette)
+{
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    return palette;
+}
+
 } // namespace
 
 TextEdit::TextEdit(QWidget *parent)
@@ -31,6 +40,7 @@ TextEdit::TextEdit(QWidget *parent)
     , m_document(new TextDocument(this))
 {
     setDocument(m_document);
+    setPalette(paperPalette(palette()));
     setAccessibleName(tr("Document"));
     connect(m_document, &TextDocument::aboutToMakeContent, this,
             [this] { m_place = verticalScrollBar()->value(); });
