@@ -14,12 +14,11 @@ constexpr int PAINT_MODE_APPEND = 2;
 class APPLNOBJECT
 {
 public:
+    APPLNOBJECT() = default;
+    APPLNOBJECT(const APPLNOBJECT &) = delete;
+    APPLNOBJECT &operator=(const APPLNOBJECT &) = delete;
+    virtual ~APPLNOBJECT() = default;
+
     /// With PAINT_MODE_APPEND: on pages of its own after what the painter has painted, on the same device.
     virtual void paint(QPainter &painter, int mode) = 0;
-
-protected:
-    APPLNOBJECT() = default;
-    APPLNOBJECT(const APPLNOBJECT &) = default;
-    APPLNOBJECT &operator=(const APPLNOBJECT &) = default;
-    ~APPLNOBJECT() = default;
 };

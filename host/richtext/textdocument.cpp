@@ -71,7 +71,8 @@ QString TextDocument::getHtml() const
     const QStringView tail(parts.tail);
     const QStringView body = bodyOf(tail);
     const qsizetype start = body.data() - tail.data();
-    return parts.head % m_css % tail.first(start) % xhtmlBody(*this, m_paragraphClass, ShownStyle(StyleSheet(m_css)).css()) %
+    return parts.head % m_css % tail.first(start) %
+           xhtmlBody(*this, m_paragraphClass, ShownStyle(StyleSheet(m_css)).css()) %
            tail.sliced(start + body.size());
 }
 

@@ -60,6 +60,11 @@ private:
     std::size_t below(std::size_t limit) { return limit == 0 ? 0 : m_random() % limit; }
     const std::string &pick(const std::vector<std::string> &list) { return list[below(list.size())]; }
 
+    std::string part(const std::string &text, std::size_t length)
+    {
+        return text.substr(below(text.size() + 1), length);
+    }
+
     void change(std::string *text)
     {
         const std::size_t at = below(text->size() + 1);
@@ -81,8 +86,7 @@ private:
             text->insert(at, std::string(below(3000), pick(m_words).front()));
             break;
         case 5:
-            text->replace(at, length,
-                          pick(m_seeds).substr(below(2000) % (m_seeds.front().size() + 1), length));
+            text->replace(at, length, part(pick(m_seeds), length));
             break;
         case 6:
             if (at < text->size()) {
