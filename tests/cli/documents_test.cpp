@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/cli/programtest.h"
 
+#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -117,6 +118,17 @@ TEST_F(Documents, ThatCannotBeWrittenLeaveTheOldFile)
     EXPECT_EQ(run("report list.csv --html list.projectnotes.txt").status, 2);
     EXPECT_EQ(read(QStringLiteral("list.csv")), "Reference,Value\nR1,10k\n");
     EXPECT_EQ(run("report list.csv --html x --pdf x").status, 2);
+}
+
+TEST_F(Documents, AreNotMixedInOneFile)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\n");
+    EXPECT_EQ(run("report list.csv --html - --csv /dev/stdout").status, 2);
+    ASSERT_TRUE(QFile::link(QStringLiteral("page"), path(QStringLiteral("later"))));
+    EXPECT_EQ(run("report list.csv --html later --pdf page").status, 2);
+    ASSERT_TRUE(QFile::link(QStringLiteral("."), path(QStringLiteral("folder"))));
+    EXPECT_EQ(run("report list.csv --html folder/page --pdf page").status, 2);
+    EXPECT_FALSE(QFile::exists(path(QStringLiteral("page"))));
 }
 
 } // namespace
