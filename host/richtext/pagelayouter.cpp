@@ -163,6 +163,36 @@ void encodeAddresses(QTextDocument &document)
     }
 }
 
+/// The background of a paragraph that goes on over pages hides the headings that are repeated on them; that
+/// of its cell does not.
+void giveBackgroundsToCells(QTextDocument &document)
+{
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        QTextBlockFormat format = block.blockFormat();
+        if (!format.hasProperty(QTextFormat::BackgroundBrush)) {
+            continue;
+        }
+        cursor.setPosition(block.position());
+        const QTextTable *table = cursor.currentTable();
+        if (!table) {
+            continue;
+        }
+        QTextTableCell cell = table->cellAt(cursor);
+        QTextCharFormat cellFormat = cell.format();
+        if (!cellFormat.hasProperty(QTextFormat::BackgroundBrush)) {
+            cellFormat.setBackground(format.background());
+            cell.setFormat(cellFormat);
+        }
+        if (cellFormat.background() == format.background()) {
+            format.clearBackground();
+            cursor.setBlockFormat(format);
+        }
+    }
+    cursor.endEditBlock();
+}
+
 void fill(QTextDocument &document, const QString &markup, QPaintDevice &device)
 {
     document.setUndoRedoEnabled(false);
@@ -181,6 +211,7 @@ void layOutPages(QTextDocument &document, const QString &xhtml, QPaintDevice &de
     whole.setTextWidth(page.width());
     fill(document, shownMarkup(xhtml, css, Medium::Pages), device);
     encodeAddresses(document);
+    giveBackgroundsToCells(document);
     shareColumns(document, whole);
     document.setPageSize(page);
     keepHeadingsWithRows(document, page.height());
