@@ -197,7 +197,6 @@ void encodeAddresses(QTextDocument &document)
 void giveBackgroundsToCells(QTextDocument &document)
 {
     QTextCursor cursor(&document);
-    cursor.beginEditBlock();
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         QTextBlockFormat format = block.blockFormat();
         if (!format.hasProperty(QTextFormat::BackgroundBrush)) {
@@ -219,6 +218,15 @@ void giveBackgroundsToCells(QTextDocument &document)
             cursor.setBlockFormat(format);
         }
     }
+}
+
+/// Otherwise every single change lays the document out again.
+template<typename Changes>
+void changeAtOnce(QTextDocument &document, Changes changes)
+{
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    changes();
     cursor.endEditBlock();
 }
 
@@ -239,9 +247,11 @@ void layOutPages(QTextDocument &document, const QString &xhtml, QPaintDevice &de
     fill(whole, shownMarkup(xhtml, css, Medium::Window), device);
     whole.setTextWidth(page.width());
     fill(document, shownMarkup(xhtml, css, Medium::Pages), device);
-    encodeAddresses(document);
-    giveBackgroundsToCells(document);
-    shareColumns(document, whole);
+    changeAtOnce(document, [&] {
+        encodeAddresses(document);
+        giveBackgroundsToCells(document);
+        shareColumns(document, whole);
+    });
     document.setPageSize(page);
     keepHeadingsWithRows(document, page.height());
 }
