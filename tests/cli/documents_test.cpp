@@ -120,6 +120,18 @@ TEST_F(Documents, ThatCannotBeWrittenLeaveTheOldFile)
     EXPECT_EQ(run("report list.csv --html x --pdf x").status, 2);
 }
 
+TEST_F(Documents, TellOfNotesThatCannotBeRead)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\n");
+    write(QStringLiteral("list.bomnotes.txt"), "caf\xe9\n");
+    for (const char *option : {"--html", "--pdf"}) {
+        const ProgramRun result = run((std::string("report list.csv ") + option + " out").c_str());
+        EXPECT_EQ(result.status, 0);
+        EXPECT_THAT(result.err, HasSubstr("list.bomnotes.txt: is no UTF-8 text"));
+    }
+    EXPECT_EQ(run("report list.csv --csv out").err, "");
+}
+
 TEST_F(Documents, AreNotMixedInOneFile)
 {
     write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\n");
