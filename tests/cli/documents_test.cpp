@@ -74,6 +74,7 @@ TEST_F(Documents, OfEqualInputsAreEqual)
 {
     write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\n");
     EXPECT_EQ(run("report list.csv --html a.html --pdf a.pdf").status, 0);
+    setEnvironment(QStringLiteral("TZ"), QStringLiteral("Asia/Tokyo"));
     EXPECT_EQ(run("report list.csv --html b.html --pdf b.pdf").status, 0);
     EXPECT_EQ(read(QStringLiteral("a.html")), read(QStringLiteral("b.html")));
     EXPECT_EQ(read(QStringLiteral("a.pdf")), read(QStringLiteral("b.pdf")));
