@@ -5,7 +5,27 @@
 #include "cli/console.h"
 #include "host/framework/reportfile.h"
 
+#include <QDir>
 #include <QFileInfo>
+
+namespace {
+
+/// The file itself, also when it is still to be written.
+QString meantFile(const QString &path)
+{
+    constexpr int mostLinks = 40;
+    QFileInfo file(path);
+    for (int links = 0; links < mostLinks && file.isSymLink() && !file.exists(); ++links) {
+        file.setFile(file.symLinkTarget());
+    }
+    if (file.exists()) {
+        return file.canonicalFilePath();
+    }
+    const QString folder = file.absoluteDir().canonicalPath();
+    return folder.isEmpty() ? file.absoluteFilePath() : folder + u'/' + file.fileName();
+}
+
+} // namespace
 
 bool writeOutput(const QString &path, const QByteArray &bytes)
 {
@@ -22,8 +42,6 @@ bool writeOutput(const QString &path, const QByteArray &bytes)
 
 bool isSameFile(const QString &a, const QString &b)
 {
-    const QFileInfo first(a);
-    const QFileInfo second(b);
-    return first.exists() ? first.canonicalFilePath() == second.canonicalFilePath()
-                          : first.absoluteFilePath() == second.absoluteFilePath();
+    return isStandardOutput(a) || isStandardOutput(b) ? isStandardOutput(a) && isStandardOutput(b)
+                                                      : meantFile(a) == meantFile(b);
 }

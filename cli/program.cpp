@@ -106,6 +106,10 @@ int runProgram(int argc, char *argv[])
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+    // PDF files name the zone of their time of creation, in as many characters as it takes.
+    if (sourceDateEpoch()) {
+        qputenv("TZ", "UTC0");
+    }
     qInstallMessageHandler(handleLibraryMessage);
     int qtArgc = 1;
     const QApplication application(qtArgc, argv);

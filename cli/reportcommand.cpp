@@ -103,6 +103,7 @@ ExitStatus ReportCommand::run()
     tell(notFittedNotices(design));
     tell(definedPartNotices(design));
     tellReplacedLines(design, outputs);
+    tellMissingNotes(design, outputs);
     return write(design, outputs);
 }
 
@@ -192,6 +193,25 @@ void ReportCommand::tellReplacedLines(OpenDesign &design, const QList<Output> &o
         if (hasForm(isFull)) {
             tell(replacedLineNotices(design, !isFull));
         }
+    }
+}
+
+void ReportCommand::tellMissingNotes(OpenDesign &design, const QList<Output> &outputs)
+{
+    const auto hasForm = [&outputs](Form form) {
+        return std::any_of(outputs.cbegin(), outputs.cend(),
+                           [form](const Output &output) { return output.form == form; });
+    };
+    QStringList problems;
+    if (hasForm(Form::Html) || hasForm(Form::Pdf)) {
+        problems.append(design.session().document().notesProblem());
+    }
+    if (hasForm(Form::Pdf) && design.database().currentTemplate().appendNotes()) {
+        problems.append(design.session().projectNotes().problem());
+    }
+    problems.removeAll(QString());
+    for (const QString &problem : std::as_const(problems)) {
+        console::message(problem + QStringLiteral("; the report is without these notes"));
     }
 }
 

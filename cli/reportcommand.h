@@ -49,6 +49,8 @@ private:
     [[nodiscard]] bool spareTheDesign(OpenDesign &design, const QList<Output> &outputs) const;
     [[nodiscard]] bool mayGoOn(OpenDesign &design) const;
     static void tellReplacedLines(OpenDesign &design, const QList<Output> &outputs);
+    /// Notes that cannot be read are missing in the documents.
+    static void tellMissingNotes(OpenDesign &design, const QList<Output> &outputs);
     [[nodiscard]] static QByteArray content(Form form, BOMPartsDatabase &database);
     [[nodiscard]] ExitStatus write(OpenDesign &design, const QList<Output> &outputs) const;
 

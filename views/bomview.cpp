@@ -157,7 +157,12 @@ QString BOMView::formatCell(const QString &value, const ReportColumn &column) co
 QString BOMView::truncated(const QString &value, const BOMField &field)
 {
     const int width = field.fieldWidth;
-    return width > 3 && value.size() > width ? value.left(width - 3) + QLatin1String("...") : value;
+    if (width <= 3 || value.size() <= width) {
+        return value;
+    }
+    qsizetype length = width - 3;
+    length -= value[length - 1].isHighSurrogate() ? 1 : 0;
+    return value.first(length) + QLatin1String("...");
 }
 
 const std::vector<ReportColumn> &BOMView::columns() const

@@ -128,9 +128,19 @@ private:
         m_isCellStart = content && content->isParagraph() && !content->isEnd;
         const QStringView name = m_isCellStart ? content->className() : QStringView();
         if (m_style.isBoxed(name) && !tag.hasClass()) {
-            m_result.chop(1);
-            m_result += QStringLiteral(" class='") % name % QStringLiteral("'>");
+            addAttribute(u"class", name);
         }
+        // QTextDocument knows widths as attributes only.
+        if (const QStringView width = tag.styleWidth(); !width.isEmpty()) {
+            addAttribute(u"width", width);
+        }
+    }
+
+    /// To the tag that was written last.
+    void addAttribute(QStringView name, QStringView value)
+    {
+        m_result.chop(1);
+        m_result += u' ' % name % QStringLiteral("='") % value % QStringLiteral("'>");
     }
 
     void writeTable(const Tag &tag)

@@ -13,6 +13,8 @@
 #include <QTextLayout>
 #include <QTextTable>
 
+#include <algorithm>
+#include <numeric>
 #include <vector>
 
 namespace {
@@ -51,6 +53,39 @@ int plainRow(const QTextTable &table)
     return -1;
 }
 
+/// The widths of columns from the places of their cells' texts; the table's width is that of the columns and
+/// the gaps around them.
+std::vector<double> measuredWidths(const std::vector<QRectF> &texts, double tableWidth)
+{
+    const double padding = texts.size() < 2 ? 0 : texts[1].left() - texts[0].right();
+    const double withGap = texts.back().right() + padding - texts.front().left();
+    const double gap = std::clamp(tableWidth - withGap, 0.0, padding);
+    std::vector<double> widths;
+    for (const QRectF &text : texts) {
+        widths.push_back(text.width() + padding - gap);
+    }
+    return widths;
+}
+
+/// Lengths in percent are rounded: the widest column gives the others a pixel, so that no text is wrapped for
+/// it.
+QList<QTextLength> asPercentages(std::vector<double> widths)
+{
+    const auto widest = std::max_element(widths.begin(), widths.end());
+    for (auto width = widths.begin(); width != widths.end(); ++width) {
+        if (width != widest) {
+            *width += 1;
+            *widest -= 1;
+        }
+    }
+    const double whole = std::accumulate(widths.begin(), widths.end(), 0.0);
+    QList<QTextLength> percentages;
+    for (const double width : widths) {
+        percentages.append(QTextLength(QTextLength::PercentageLength, 100 * width / whole));
+    }
+    return whole > 0 ? percentages : QList<QTextLength>();
+}
+
 /// The widths of a table's columns in percent; empty when it has no plain row.
 QList<QTextLength> columnWidths(const QTextDocument &document, const QTextTable &table)
 {
@@ -58,18 +93,12 @@ QList<QTextLength> columnWidths(const QTextDocument &document, const QTextTable 
     if (row < 0) {
         return {};
     }
-    std::vector<double> starts;
+    std::vector<QRectF> texts;
     for (int column = 0; column < table.columns(); ++column) {
-        starts.push_back(cellRect(document, table.cellAt(row, column)).left());
+        texts.push_back(cellRect(document, table.cellAt(row, column)));
     }
     const QRectF frame = document.documentLayout()->frameBoundingRect(const_cast<QTextTable *>(&table));
-    starts.push_back(frame.right() + starts.front() - frame.left());
-    const double whole = starts.back() - starts.front();
-    QList<QTextLength> widths;
-    for (size_t i = 0; whole > 0 && i + 1 < starts.size(); ++i) {
-        widths.append(QTextLength(QTextLength::PercentageLength, 100 * (starts[i + 1] - starts[i]) / whole));
-    }
-    return widths;
+    return asPercentages(measuredWidths(texts, frame.width()));
 }
 
 /// Gives the tables that were one table in `whole` the columns that they have there.
@@ -163,6 +192,44 @@ void encodeAddresses(QTextDocument &document)
     }
 }
 
+/// The background of a paragraph that goes on over pages hides the headings that are repeated on them; that
+/// of its cell does not.
+void giveBackgroundsToCells(QTextDocument &document)
+{
+    QTextCursor cursor(&document);
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        QTextBlockFormat format = block.blockFormat();
+        if (!format.hasProperty(QTextFormat::BackgroundBrush)) {
+            continue;
+        }
+        cursor.setPosition(block.position());
+        const QTextTable *table = cursor.currentTable();
+        if (!table) {
+            continue;
+        }
+        QTextTableCell cell = table->cellAt(cursor);
+        QTextCharFormat cellFormat = cell.format();
+        if (!cellFormat.hasProperty(QTextFormat::BackgroundBrush)) {
+            cellFormat.setBackground(format.background());
+            cell.setFormat(cellFormat);
+        }
+        if (cellFormat.background() == format.background()) {
+            format.clearBackground();
+            cursor.setBlockFormat(format);
+        }
+    }
+}
+
+/// Otherwise every single change lays the document out again.
+template<typename Changes>
+void changeAtOnce(QTextDocument &document, Changes changes)
+{
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    changes();
+    cursor.endEditBlock();
+}
+
 void fill(QTextDocument &document, const QString &markup, QPaintDevice &device)
 {
     document.setUndoRedoEnabled(false);
@@ -180,8 +247,11 @@ void layOutPages(QTextDocument &document, const QString &xhtml, QPaintDevice &de
     fill(whole, shownMarkup(xhtml, css, Medium::Window), device);
     whole.setTextWidth(page.width());
     fill(document, shownMarkup(xhtml, css, Medium::Pages), device);
-    encodeAddresses(document);
-    shareColumns(document, whole);
+    changeAtOnce(document, [&] {
+        encodeAddresses(document);
+        giveBackgroundsToCells(document);
+        shareColumns(document, whole);
+    });
     document.setPageSize(page);
     keepHeadingsWithRows(document, page.height());
 }

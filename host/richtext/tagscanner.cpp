@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/richtext/tagscanner.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace {
@@ -63,6 +65,13 @@ QStringView Tag::attribute(QStringView wanted) const
         }
     }
     return {};
+}
+
+QStringView Tag::styleWidth() const
+{
+    static const QRegularExpression width(QStringLiteral("(?:^|;)\\s*width\\s*:\\s*([0-9]+(?:\\.[0-9]+)?%)"));
+    const QStringView style = attribute(u"style");
+    return style.isEmpty() ? QStringView() : width.match(style).capturedView(1);
 }
 
 std::optional<Tag> TagScanner::next()

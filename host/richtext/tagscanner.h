@@ -24,6 +24,8 @@ struct Tag
     [[nodiscard]] QStringView attribute(QStringView wanted) const;
     [[nodiscard]] QStringView className() const { return attribute(u"class"); }
     [[nodiscard]] bool hasClass() const { return !className().isEmpty(); }
+    /// The width in percent that the style attribute gives, with its sign; empty without one.
+    [[nodiscard]] QStringView styleWidth() const;
 };
 
 /// Walks through the tags of a markup text, well-formed or not. Comments and declarations count as text.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/cli/programtest.h"
 
+#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -73,6 +74,7 @@ TEST_F(Documents, OfEqualInputsAreEqual)
 {
     write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\n");
     EXPECT_EQ(run("report list.csv --html a.html --pdf a.pdf").status, 0);
+    setEnvironment(QStringLiteral("TZ"), QStringLiteral("Asia/Tokyo"));
     EXPECT_EQ(run("report list.csv --html b.html --pdf b.pdf").status, 0);
     EXPECT_EQ(read(QStringLiteral("a.html")), read(QStringLiteral("b.html")));
     EXPECT_EQ(read(QStringLiteral("a.pdf")), read(QStringLiteral("b.pdf")));
@@ -129,6 +131,29 @@ TEST_F(Documents, PdfNeedsAFont)
     EXPECT_THAT(result.err, HasSubstr("bom: list.pdf: is not written: no fonts are installed\n"));
     EXPECT_EQ(read(QStringLiteral("list.pdf")), "no file");
     EXPECT_THAT(read(QStringLiteral("list.html")), HasSubstr("10k"));
+}
+
+TEST_F(Documents, TellOfNotesThatCannotBeRead)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\n");
+    write(QStringLiteral("list.bomnotes.txt"), "caf\xe9\n");
+    for (const char *option : {"--html", "--pdf"}) {
+        const ProgramRun result = run((std::string("report list.csv ") + option + " out").c_str());
+        EXPECT_EQ(result.status, 0);
+        EXPECT_THAT(result.err, HasSubstr("list.bomnotes.txt: is no UTF-8 text"));
+    }
+    EXPECT_EQ(run("report list.csv --csv out").err, "");
+}
+
+TEST_F(Documents, AreNotMixedInOneFile)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\n");
+    EXPECT_EQ(run("report list.csv --html - --csv /dev/stdout").status, 2);
+    ASSERT_TRUE(QFile::link(QStringLiteral("page"), path(QStringLiteral("later"))));
+    EXPECT_EQ(run("report list.csv --html later --pdf page").status, 2);
+    ASSERT_TRUE(QFile::link(QStringLiteral("."), path(QStringLiteral("folder"))));
+    EXPECT_EQ(run("report list.csv --html folder/page --pdf page").status, 2);
+    EXPECT_FALSE(QFile::exists(path(QStringLiteral("page"))));
 }
 
 } // namespace

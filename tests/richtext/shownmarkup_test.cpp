@@ -48,6 +48,22 @@ TEST(ShownMarkup, GivesPaddingAndBorderOfParagraphsToTheirCells)
               "</td></tr></table><p class='b'>y</p>"_s);
 }
 
+TEST(ShownMarkup, GivesColumnsTheWidthsOfTheirStyles)
+{
+    TextDocument document;
+    document.setSource(
+        page({}, u"<table width='100%'><tr><th style='width:70%'>a</th>"
+                 "<th style='color:red; width: 10%'>b</th><th style='min-width:9%'>c</th></tr></table>"_s));
+    document.show();
+    const auto *table = qobject_cast<const QTextTable *>(document.rootFrame()->childFrames().value(0));
+    ASSERT_TRUE(table);
+    const QList<QTextLength> widths = table->format().columnWidthConstraints();
+    ASSERT_EQ(widths.size(), 3);
+    EXPECT_EQ(widths[0], QTextLength(QTextLength::PercentageLength, 70));
+    EXPECT_EQ(widths[1], QTextLength(QTextLength::PercentageLength, 10));
+    EXPECT_EQ(widths[2].type(), QTextLength::VariableLength);
+}
+
 TEST(ShownMarkup, MakesSectionsTablesWithHeadsForPagesOnly)
 {
     const QString table = u"<table class='t'><tbody><tr><th colspan='2'><p>A</p></th></tr><tr><th>x</th></tr>"

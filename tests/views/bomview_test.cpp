@@ -226,6 +226,10 @@ TEST_F(Rows, truncatesToTheFieldWidth)
         EXPECT_EQ(view.truncateToFieldWidth(u"12345678"_s, cost), QString::fromUtf16(expected.text));
     }
     EXPECT_EQ(view.truncateToFieldWidth(u"12345678"_s, u"other"_s), u"12345678"_s);
+    changeField(cost, [](BOMField &field) { field.fieldWidth = 5; });
+    view.updateFields();
+    // A character of two units is not cut in halves.
+    EXPECT_EQ(view.truncateToFieldWidth(u"1\U0001f600234567"_s, cost), u"1..."_s);
 }
 
 TEST_F(Rows, withoutDatabaseEverythingIsEmpty)
