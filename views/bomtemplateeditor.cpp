@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "views/bomtemplateeditor.h"
 
+#include "host/richtext/cssscan.h"
 #include "host/richtext/pagegeometry.h"
 #include "host/richtext/shownstyle.h"
 #include "host/richtext/textedit.h"
@@ -104,8 +105,8 @@ bool BOMTemplateEditor::run()
 QString BOMTemplateEditor::shownCss(const QString &className) const
 {
     // Paragraphs that bring no class have the look of those that people write here.
-    return xmlText(m_templateCss) + QStringLiteral("\np {") + xmlText(m_css.body(paragraphRule(className))) +
-           QStringLiteral("}\n");
+    return styleElementText(m_templateCss + css::scan(m_templateCss).closer + QStringLiteral("\np {") +
+                            m_css.body(paragraphRule(className)) + QStringLiteral("}\n"));
 }
 
 void BOMTemplateEditor::load(TextEdit &edit, const QString &fragment, const QString &className) const

@@ -5,6 +5,7 @@
 #include "host/richtext/shownstyle.h"
 #include "host/richtext/stylesheet.h"
 #include "host/richtext/tagscanner.h"
+#include "host/richtext/xmltext.h"
 
 #include <QStringBuilder>
 
@@ -307,6 +308,6 @@ QString shownMarkup(const QString &xhtml, const StyleSheet &css, Medium medium, 
     const qsizetype bodyStart = body.data() - tail.data();
     // Previews draw soft hyphens everywhere; the space without width that follows is enough to break a line.
     const QString text = body.toString().replace(QStringLiteral("&shy;&#8203;"), QStringLiteral("&#8203;"));
-    return parts.head % style.css() % highlightRule(highlighted) % tail.first(bodyStart) %
+    return parts.head % styleElementText(style.css() % highlightRule(highlighted)) % tail.first(bodyStart) %
            MarkupWriter(text, style, medium).rewrite() % tail.sliced(bodyStart + body.size());
 }

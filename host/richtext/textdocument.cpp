@@ -6,6 +6,7 @@
 #include "host/richtext/pagegeometry.h"
 #include "host/richtext/stylesheet.h"
 #include "host/richtext/xhtmlwriter.h"
+#include "host/richtext/xmltext.h"
 
 #include <QStringBuilder>
 #include <QTextCursor>
@@ -64,13 +65,14 @@ void TextDocument::setTitle(const QString &title)
 QString TextDocument::getHtml() const
 {
     const DocumentParts parts = takeApart(m_source);
+    const QString css = styleElementText(m_css);
     if (!isModified()) {
-        return parts.css == m_css ? m_source : parts.head + m_css + parts.tail;
+        return parts.css == m_css ? m_source : parts.head + css + parts.tail;
     }
     const QStringView tail(parts.tail);
     const QStringView body = bodyOf(tail);
     const qsizetype start = body.data() - tail.data();
-    return parts.head % m_css % tail.first(start) % xhtmlBody(*this, m_paragraphClass, m_css) %
+    return parts.head % css % tail.first(start) % xhtmlBody(*this, m_paragraphClass, m_css) %
            tail.sliced(start + body.size());
 }
 
