@@ -160,7 +160,7 @@ void BOMTemplateEditor::updateCurrentEdit()
 {
     m_ui->toolBars->setTextEdit(currentEdit());
     if (currentEdit()->isVisible()) {
-        showPaperMargins(*currentEdit(), marginsInPoints(m_css, QStringLiteral("body")));
+        showPaperMargins(*currentEdit(), pageMargins(m_css));
     }
 }
 

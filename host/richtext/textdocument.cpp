@@ -20,7 +20,7 @@ constexpr double pointsPerPixel = 0.75;
 /// QTextDocument leaves the margins of the body to its root frame.
 void applyBodyMargins(QTextDocument &document, const StyleSheet &css)
 {
-    const QMarginsF margins = marginsInPoints(css, QStringLiteral("body")) / pointsPerPixel;
+    const QMarginsF margins = pageMargins(css) / pointsPerPixel;
     QTextFrameFormat format = document.rootFrame()->frameFormat();
     format.setLeftMargin(margins.left());
     format.setTopMargin(margins.top());

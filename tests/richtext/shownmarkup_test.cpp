@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "host/richtext/documentmarkup.h"
+#include "host/richtext/shownstyle.h"
 #include "host/richtext/stylesheet.h"
 #include "host/richtext/textdocument.h"
 
@@ -46,6 +47,16 @@ TEST(ShownMarkup, GivesPaddingAndBorderOfParagraphsToTheirCells)
     EXPECT_EQ(shownBody(css, u"<p class='a'>x</p><p class='b'>y</p>"_s, Medium::Window),
               u"<table width='100%' cellspacing='0' cellpadding='0'><tr><td class='a'><p class='a'>x</p>"
               "</td></tr></table><p class='b'>y</p>"_s);
+}
+
+TEST(ShownMarkup, LaterRulesOfASelectorLeaveItsMargins)
+{
+    const ShownStyle style{StyleSheet(u"p.a { margin: 3pt 0 6pt !important; } h1.b { margin: 0; } "
+                                      "p.a, p.c { color: red; } p.a { color: red; } h1.b { color: red; }"_s)};
+    EXPECT_EQ(style.marginAbove(u"a"), 4);
+    EXPECT_EQ(style.marginBelow(u"a"), 8);
+    EXPECT_EQ(style.marginAbove(u"b"), 0);
+    EXPECT_FALSE(style.css().section(u"h1.b {"_s, 2).contains(u"margin"_s));
 }
 
 TEST(ShownMarkup, MakesSectionsTablesWithHeadsForPagesOnly)

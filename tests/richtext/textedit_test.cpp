@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
+#include "host/richtext/cssvalue.h"
 #include "host/richtext/pagegeometry.h"
 #include "host/richtext/pdfoutput.h"
 #include "host/richtext/stylesheet.h"
@@ -185,18 +186,22 @@ TEST_F(Edit, PaperIsKeptInTheStyleSheetOnlyWhenItChanges)
               u"body { margin: 20pt; paper-width: 792.0pt; paper-height: 612.0pt; }"_s);
     printUi.paper->setMargins(QMarginsF(30, 10, 20, 40));
     edit.pageSetup();
-    EXPECT_EQ(marginsInPoints(StyleSheet(edit.document()->getCss()), u"body"_s), QMarginsF(30, 10, 20, 40));
+    EXPECT_EQ(pageMargins(StyleSheet(edit.document()->getCss())), QMarginsF(30, 10, 20, 40));
 }
 
 TEST(PageGeometry, ReadsLengthsAndDoubtsWhatMakesNoPage)
 {
-    EXPECT_EQ(lengthInPoints(u" 25.4mm "_s), 72);
-    EXPECT_EQ(lengthInPoints(u"1in"_s), 72);
-    EXPECT_EQ(lengthInPoints(u"96PX"_s), 72);
-    EXPECT_EQ(lengthInPoints(u"0"_s), 0);
-    for (const QString &none : {u""_s, u"12"_s, u"2em"_s, u"10%"_s, u"x"_s, u"1e400pt"_s, u"NaNpt"_s}) {
-        EXPECT_FALSE(lengthInPoints(none)) << none.toStdString();
+    EXPECT_EQ(css::points(u" 25.4mm "_s, 0, 0), 72);
+    EXPECT_EQ(css::points(u"1in"_s, 0, 0), 72);
+    EXPECT_EQ(css::points(u"96PX"_s, 0, 0), 72);
+    EXPECT_EQ(css::points(u"0"_s, 0, 0), 0);
+    for (const QString &none :
+         {u""_s, u"12"_s, u"x"_s, u"1e400pt"_s, u"NaNpt"_s, QString(400, u'9') + u"pt"_s}) {
+        EXPECT_FALSE(css::points(none, 1, 1)) << none.toStdString();
     }
+    EXPECT_EQ(pageMargins(StyleSheet(u"body { font-size: 10pt; margin: 1pt 2em 3pt !important; } "
+                                     "body { margin-left: -4pt; }"_s)),
+              QMarginsF(0, 1, 20, 3));
     const QPageLayout a4 =
         pageLayout(StyleSheet(u"body { paper-width: 0.1pt; paper-height: -5mm; margin: -1pt; }"_s));
     EXPECT_EQ(a4.pageSize().id(), QPageSize::A4);
