@@ -3,12 +3,11 @@
 #include "views/bomtemplateeditor.h"
 
 #include "host/richtext/cssscan.h"
+#include "host/richtext/documentmarkup.h"
 #include "host/richtext/pagegeometry.h"
-#include "host/richtext/shownstyle.h"
 #include "host/richtext/textedit.h"
 #include "host/richtext/textedithruler.h"
 #include "host/richtext/textedittoolbars.h"
-#include "host/richtext/xhtmlwriter.h"
 #include "ui_bomtemplateeditor.h"
 #include "views/htmltext.h"
 
@@ -116,27 +115,27 @@ void BOMTemplateEditor::load(TextEdit &edit, const QString &fragment, const QStr
                              ? QStringLiteral("<p class=\"") + className +
                                    QStringLiteral("\" style=\"-qt-paragraph-type:empty;\"><br /></p>")
                              : xmlText(fragment);
+    edit.document()->setParagraphClass(className);
     edit.loadDocument(start + text + htmlDocumentEnd());
 }
 
-QString BOMTemplateEditor::textOf(const TextEdit &edit, const QString &source, const QString &className) const
+QString BOMTemplateEditor::textOf(const TextEdit &edit, const QString &source)
 {
     const TextDocument &document = *edit.document();
     if (!document.isModified()) {
         return source;
     }
-    const ShownStyle look{StyleSheet(shownCss(className))};
-    return document.isEmpty() ? QString() : xhtmlBody(document, className, look.css());
+    return document.isEmpty() ? QString() : bodyOf(document.getHtml()).toString();
 }
 
 QString BOMTemplateEditor::header() const
 {
-    return textOf(*m_ui->headerTextEdit, m_header, headerClass);
+    return textOf(*m_ui->headerTextEdit, m_header);
 }
 
 QString BOMTemplateEditor::footer() const
 {
-    return textOf(*m_ui->footerTextEdit, m_footer, footerClass);
+    return textOf(*m_ui->footerTextEdit, m_footer);
 }
 
 QString BOMTemplateEditor::css() const

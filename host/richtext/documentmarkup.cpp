@@ -13,6 +13,9 @@
 
 namespace {
 
+/// What browsers put around the contents of cells.
+constexpr QLatin1String usualCellPadding(" cellpadding='1'");
+
 constexpr auto highlightColour = "#ffe08a";
 
 constexpr qsizetype longestParagraph = 4000;
@@ -142,6 +145,7 @@ private:
             return;
         }
         m_tableStart = tag.text;
+        m_hasCellPadding = !tag.attribute(u"cellpadding").isEmpty();
         m_isSplit = m_medium == Medium::Pages && m_tags.hasHeadedSections();
         m_sections = 0;
         m_marginAboveTable = tag.textBefore.trimmed().isEmpty() ? m_marginBelow : 0;
@@ -177,12 +181,15 @@ private:
     /// Tables take the margin below the paragraph before, which QTextDocument drops.
     void writeTableStart(double margin)
     {
-        if (margin <= 0) {
-            m_result += m_tableStart;
-            return;
-        }
         m_result += m_tableStart.chopped(1);
-        m_result += QStringLiteral(" style='margin-top:") % QString::number(margin) % QStringLiteral("px'>");
+        if (!m_hasCellPadding) {
+            m_result += usualCellPadding;
+        }
+        if (margin > 0) {
+            m_result +=
+                QStringLiteral(" style='margin-top:") % QString::number(margin) % QStringLiteral("px'");
+        }
+        m_result += u'>';
     }
 
     void closeHead()
@@ -257,6 +264,7 @@ private:
     double m_marginBelow = 0;
     double m_marginAboveTable = 0;
     int m_sections = 0;
+    bool m_hasCellPadding = false;
     bool m_isSplit = false;
     bool m_isInHead = false;
     bool m_isCellStart = false;

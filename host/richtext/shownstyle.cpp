@@ -14,11 +14,10 @@ namespace {
 
 constexpr double pointsPerPixel = 0.75;
 constexpr double defaultFontSize = 12;
-/// What browsers put around the cells of a table.
-const QString defaultCellRule = QStringLiteral("td, th { padding: 1px; }\n");
-
 /// The margin above and below a heading, in its font size, as browsers have it.
 constexpr std::array<double, 6> headingMargins{0.67, 0.83, 1.0, 1.33, 1.67, 2.33};
+/// The sizes of headings, in the font size of the body.
+constexpr std::array<double, 6> headingSizes{2.0, 1.5, 1.17, 1.0, 0.83, 0.67};
 
 bool isBoxProperty(const QString &property)
 {
@@ -84,6 +83,22 @@ QString defaultMarginDeclarations(double margin)
                       : QString();
 }
 
+/// The sizes of headings, which QTextDocument gives up once the body has a font size.
+QString headingRules(const StyleSheet &css)
+{
+    const QString bodySize =
+        css::withoutImportant(css.value(QStringLiteral("body"), QStringLiteral("font-size")));
+    const std::optional<double> points = css::points(bodySize, defaultFontSize, defaultFontSize);
+    QString rules;
+    for (size_t i = 0; points && i < headingSizes.size(); ++i) {
+        const double size = *points * headingSizes[i];
+        rules += QStringLiteral("h") + QString::number(i + 1) + QStringLiteral(" { font-size: ") +
+                 css::inPoints(size) + QStringLiteral("; ") +
+                 defaultMarginDeclarations(size * headingMargins[i] / pointsPerPixel) + QStringLiteral("}\n");
+    }
+    return rules;
+}
+
 /// The margin of the body is that of the page, and no one's inside.
 bool isPageMargin(const StyleSheet::Rule &rule, const StyleSheet::Declaration &declaration)
 {
@@ -119,7 +134,7 @@ Declarations shownDeclarations(const StyleSheet::Rule &rule)
 } // namespace
 
 ShownStyle::ShownStyle(const StyleSheet &css)
-    : m_css(defaultCellRule)
+    : m_css(headingRules(css))
 {
     QSet<QString> known;
     for (const StyleSheet::Rule &rule : css.rules()) {

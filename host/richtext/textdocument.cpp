@@ -4,7 +4,9 @@
 
 #include "host/richtext/documentmarkup.h"
 #include "host/richtext/pagegeometry.h"
+#include "host/richtext/shownstyle.h"
 #include "host/richtext/stylesheet.h"
+#include "host/richtext/xhtmlstyle.h"
 #include "host/richtext/xhtmlwriter.h"
 #include "host/richtext/xmltext.h"
 
@@ -72,8 +74,22 @@ QString TextDocument::getHtml() const
     const QStringView tail(parts.tail);
     const QStringView body = bodyOf(tail);
     const qsizetype start = body.data() - tail.data();
-    return parts.head % css % tail.first(start) % xhtmlBody(*this, m_paragraphClass, m_css) %
+    return parts.head % css % tail.first(start) %
+           xhtmlBody(*this, m_paragraphClass, ShownStyle(StyleSheet(m_shownCss)).css()) %
            tail.sliced(start + body.size());
+}
+
+void TextDocument::beginPlainParagraph(QTextCursor cursor) const
+{
+    TextDocument sample;
+    sample.setDefaultFont(defaultFont());
+    sample.setSource(QStringLiteral("<html><head><style type=\"text/css\">") + styleElementText(m_shownCss) +
+                     QStringLiteral("</style></head><body><p") +
+                     xhtmlAttribute(QStringLiteral("class"), m_paragraphClass) +
+                     QStringLiteral(">x</p></body></html>"));
+    sample.show();
+    const QTextCursor found = sample.find(QStringLiteral("x"));
+    cursor.insertBlock(found.blockFormat(), found.charFormat());
 }
 
 void TextDocument::loadCss(const QString &css, bool preview)

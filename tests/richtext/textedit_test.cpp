@@ -172,6 +172,36 @@ TEST_F(Edit, WritesPdfFilesWithClickableLinksAsAWhole)
     EXPECT_EQ(ui.warnings.size(), 1);
 }
 
+TEST_F(Edit, ReturnKeepsTheLookAndEndsListsAndHeadings)
+{
+    const QString start = u"<html><head><style>p.x { font-size: 15pt; color: red; margin-top: 3pt; }</style>"
+                          "</head><body>"_s;
+    edit.document()->setParagraphClass(u"x"_s);
+    edit.loadDocument(start + u"<ul><li><p class='x'>item</p></li></ul></body></html>"_s);
+    edit.show();
+    const auto type = [&](const QString &text) {
+        QTest::keyClick(&edit, Qt::Key_Return);
+        QTest::keyClicks(&edit, text);
+    };
+    edit.moveCursor(QTextCursor::End);
+    type({});
+    EXPECT_TRUE(edit.textCursor().currentList());
+    type(u"after"_s);
+    EXPECT_FALSE(edit.textCursor().currentList());
+    EXPECT_EQ(edit.textCursor().charFormat().fontPointSize(), 15);
+    type({});
+    type(u"blank"_s);
+    EXPECT_EQ(edit.textCursor().charFormat().fontPointSize(), 15);
+    edit.loadDocument(start + u"<h1>head</h1></body></html>"_s);
+    edit.moveCursor(QTextCursor::End);
+    type(u"plain"_s);
+    EXPECT_EQ(edit.textCursor().blockFormat().headingLevel(), 0);
+    EXPECT_EQ(edit.textCursor().blockFormat().topMargin(), 4);
+    EXPECT_EQ(edit.textCursor().charFormat().fontPointSize(), 15);
+    EXPECT_EQ(edit.textCursor().charFormat().foreground().color(), QColor(Qt::red));
+    EXPECT_LT(edit.textCursor().charFormat().fontWeight(), QFont::Bold);
+}
+
 TEST_F(Edit, PaperIsKeptInTheStyleSheetOnlyWhenItChanges)
 {
     edit.loadDocument(page(u"<p>x</p>"_s));
