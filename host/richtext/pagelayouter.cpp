@@ -3,6 +3,7 @@
 #include "host/richtext/pagelayouter.h"
 
 #include "host/richtext/documentmarkup.h"
+#include "host/richtext/shownmarkup.h"
 #include "host/richtext/stylesheet.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -167,7 +168,7 @@ void fill(QTextDocument &document, const QString &markup, QPaintDevice &device)
 {
     document.setUndoRedoEnabled(false);
     document.setDocumentMargin(0);
-    document.setHtml(markup);
+    showMarkup(document, markup);
     document.documentLayout()->setPaintDevice(&device);
 }
 

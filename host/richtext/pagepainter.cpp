@@ -5,6 +5,7 @@
 #include "host/framework/hostui.h"
 #include "host/richtext/documentmarkup.h"
 #include "host/richtext/pagelayouter.h"
+#include "host/richtext/shownmarkup.h"
 #include "host/richtext/stylesheet.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -36,7 +37,7 @@ void fillEdge(QTextDocument &document, const QString &markup, QPaintDevice &devi
 {
     document.setUndoRedoEnabled(false);
     document.setDocumentMargin(0);
-    document.setHtml(markup);
+    showMarkup(document, markup);
     document.documentLayout()->setPaintDevice(&device);
     document.setTextWidth(width);
 }

@@ -4,6 +4,7 @@
 
 #include "host/richtext/documentmarkup.h"
 #include "host/richtext/pagegeometry.h"
+#include "host/richtext/shownmarkup.h"
 #include "host/richtext/shownstyle.h"
 #include "host/richtext/stylesheet.h"
 #include "host/richtext/xhtmlstyle.h"
@@ -129,7 +130,7 @@ void TextDocument::makeContent()
     // In one go, so that a document that is shown is laid out once.
     QTextCursor cursor(this);
     cursor.beginEditBlock();
-    setHtml(shownMarkup(m_source, css, Medium::Window, m_highlighted));
+    showMarkup(*this, shownMarkup(m_source, css, Medium::Window, m_highlighted));
     applyBodyMargins(*this, css);
     cursor.endEditBlock();
     setUndoRedoEnabled(keepsUndo);
