@@ -109,7 +109,7 @@ QString BOMHTMLView::html()
     updateFields();
     const BOMTemplate &settings = database()->currentTemplate();
     const QString title = documentTitle();
-    QString html = htmlDocumentStart(title, xmlText(settings.css()));
+    QString html = htmlDocumentStart(title, styleElementText(settings.css()));
     html += xmlText(settings.documentHeader());
     html += QStringLiteral("\n<h1 class='mainTitle'>") + title + QStringLiteral("</h1>");
     html += headerTable();
@@ -137,7 +137,7 @@ QString BOMHTMLView::htmlText(const QString &text, bool allowMarkup)
 {
     if (allowMarkup) {
         TidyLibWrapper tidy;
-        const QString tidied = tidy.tidyHtml(text, TidyLibWrapper::Fragment);
+        QString tidied = tidy.tidyHtml(text, TidyLibWrapper::Fragment);
         if (tidy.errorString().isEmpty()) {
             return tidied;
         }

@@ -16,8 +16,11 @@ void BOMHTMLView::setPageSize()
     if (!isValid()) {
         return;
     }
+    TextDocument *document = textEdit()->document();
+    // The document's text has it without what XHTML cannot hold.
+    document->loadCss(database()->currentTemplate().css(), false);
     textEdit()->pageSetup();
-    const QString css = textEdit()->document()->getCss().trimmed();
+    const QString css = document->getCss().trimmed();
     if (css == database()->currentTemplate().css().trimmed()) {
         return;
     }

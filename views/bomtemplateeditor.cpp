@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "views/bomtemplateeditor.h"
 
+#include "host/richtext/cssscan.h"
+#include "host/richtext/documentmarkup.h"
 #include "host/richtext/pagegeometry.h"
-#include "host/richtext/shownstyle.h"
 #include "host/richtext/textedit.h"
 #include "host/richtext/textedithruler.h"
 #include "host/richtext/textedittoolbars.h"
-#include "host/richtext/xhtmlwriter.h"
 #include "ui_bomtemplateeditor.h"
 #include "views/htmltext.h"
 
@@ -104,8 +104,8 @@ bool BOMTemplateEditor::run()
 QString BOMTemplateEditor::shownCss(const QString &className) const
 {
     // Paragraphs that bring no class have the look of those that people write here.
-    return xmlText(m_templateCss) + QStringLiteral("\np {") + xmlText(m_css.body(paragraphRule(className))) +
-           QStringLiteral("}\n");
+    return styleElementText(m_templateCss + css::scan(m_templateCss).closer + QStringLiteral("\np {") +
+                            m_css.body(paragraphRule(className)) + QStringLiteral("}\n"));
 }
 
 void BOMTemplateEditor::load(TextEdit &edit, const QString &fragment, const QString &className) const
@@ -115,27 +115,27 @@ void BOMTemplateEditor::load(TextEdit &edit, const QString &fragment, const QStr
                              ? QStringLiteral("<p class=\"") + className +
                                    QStringLiteral("\" style=\"-qt-paragraph-type:empty;\"><br /></p>")
                              : xmlText(fragment);
+    edit.document()->setParagraphClass(className);
     edit.loadDocument(start + text + htmlDocumentEnd());
 }
 
-QString BOMTemplateEditor::textOf(const TextEdit &edit, const QString &source, const QString &className) const
+QString BOMTemplateEditor::textOf(const TextEdit &edit, const QString &source)
 {
     const TextDocument &document = *edit.document();
     if (!document.isModified()) {
         return source;
     }
-    const ShownStyle look{StyleSheet(shownCss(className))};
-    return document.isEmpty() ? QString() : xhtmlBody(document, className, look.css());
+    return document.isEmpty() ? QString() : bodyOf(document.getHtml()).toString();
 }
 
 QString BOMTemplateEditor::header() const
 {
-    return textOf(*m_ui->headerTextEdit, m_header, headerClass);
+    return textOf(*m_ui->headerTextEdit, m_header);
 }
 
 QString BOMTemplateEditor::footer() const
 {
-    return textOf(*m_ui->footerTextEdit, m_footer, footerClass);
+    return textOf(*m_ui->footerTextEdit, m_footer);
 }
 
 QString BOMTemplateEditor::css() const
@@ -159,7 +159,7 @@ void BOMTemplateEditor::updateCurrentEdit()
 {
     m_ui->toolBars->setTextEdit(currentEdit());
     if (currentEdit()->isVisible()) {
-        showPaperMargins(*currentEdit(), marginsInPoints(m_css, QStringLiteral("body")));
+        showPaperMargins(*currentEdit(), pageMargins(m_css));
     }
 }
 

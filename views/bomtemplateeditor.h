@@ -47,7 +47,7 @@ public Q_SLOTS:
 private:
     void setUpEditor(TextEdit &edit, TextEditHRuler &ruler, const QFont &font);
     void load(TextEdit &edit, const QString &fragment, const QString &className) const;
-    [[nodiscard]] QString textOf(const TextEdit &edit, const QString &source, const QString &className) const;
+    [[nodiscard]] static QString textOf(const TextEdit &edit, const QString &source);
     [[nodiscard]] QString shownCss(const QString &className) const;
     [[nodiscard]] TextEdit *currentEdit() const;
     void movePaperMargins(double left, double right);

@@ -14,7 +14,7 @@
 }
 
 /// An XHTML 1.0 Transitional document up to and with its body's start tag. `title` is XHTML text, see
-/// htmlText(); both it and the style sheet are taken as they stand.
+/// htmlText(); it and the style sheet, see styleElementText(), are taken as they stand.
 [[nodiscard]] QString htmlDocumentStart(const QString &title, const QString &css);
 
 /// What ends a document that was started so.

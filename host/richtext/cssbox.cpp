@@ -72,7 +72,7 @@ constexpr Aspect allAspects[] = {Aspect::Width, Aspect::Style, Aspect::Color};
     if (parts.isEmpty() || parts.size() > 4) {
         return {};
     }
-    const QString top = parts.at(0);
+    const QString &top = parts.at(0);
     const QString right = parts.value(1, top);
     return {{{aspect, Side::Top}, top},
             {{aspect, Side::Right}, right},
@@ -180,6 +180,18 @@ Values read(Family family, const StyleSheet::Declaration &declaration)
         }
     }
     return {};
+}
+
+Lengths lengths(Family family, const StyleSheet::Rule &rule, double em, double whole)
+{
+    Lengths found;
+    for (const StyleSheet::Declaration &declaration : rule.declarations) {
+        const Values values = read(family, declaration);
+        for (auto value = values.cbegin(); value != values.cend(); ++value) {
+            found[size_t(value.key().second)] = css::points(*value, em, whole).value_or(0.0);
+        }
+    }
+    return found;
 }
 
 QString written(Family family, const QString &property, const Values &values)

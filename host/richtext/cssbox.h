@@ -6,6 +6,9 @@
 
 #include <QMap>
 
+#include <array>
+#include <optional>
+
 /// The properties of the four sides of a box: "margin", "padding" and "border", with their many ways of
 /// naming one side, all sides or several things at once.
 namespace cssbox {
@@ -39,6 +42,12 @@ using Values = QMap<Slot, QString>;
 
 /// Empty for a declaration of another family.
 [[nodiscard]] Values read(Family family, const StyleSheet::Declaration &declaration);
+
+/// A length for each side, in the order of allSides.
+using Lengths = std::array<std::optional<double>, 4>;
+/// The margins or paddings that a rule sets, in points; none for a side that it leaves open, 0 for one that
+/// it sets to what is no length. `em` and `whole` are the points that 1em and 100% stand for.
+[[nodiscard]] Lengths lengths(Family family, const StyleSheet::Rule &rule, double em, double whole);
 
 /// The value with which a property says that; empty when it cannot.
 [[nodiscard]] QString written(Family family, const QString &property, const Values &values);

@@ -126,6 +126,9 @@ std::optional<double> points(const QString &length, double em, double whole)
         return keywordPoints(text);
     }
     const double number = match.captured(1).toDouble();
+    if (!std::isfinite(number)) {
+        return std::nullopt;
+    }
     const QString unit = match.captured(2);
     if (unit.isEmpty()) {
         return number == 0 ? std::optional(0.0) : std::nullopt;

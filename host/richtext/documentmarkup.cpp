@@ -5,12 +5,16 @@
 #include "host/richtext/shownstyle.h"
 #include "host/richtext/stylesheet.h"
 #include "host/richtext/tagscanner.h"
+#include "host/richtext/xmltext.h"
 
 #include <QStringBuilder>
 
 #include <algorithm>
 
 namespace {
+
+/// What browsers put around the contents of cells.
+constexpr QLatin1String usualCellPadding(" cellpadding='1'");
 
 constexpr auto highlightColour = "#ffe08a";
 
@@ -151,6 +155,7 @@ private:
             return;
         }
         m_tableStart = tag.text;
+        m_hasCellPadding = !tag.attribute(u"cellpadding").isEmpty();
         m_isSplit = m_medium == Medium::Pages && m_tags.hasHeadedSections();
         m_sections = 0;
         m_marginAboveTable = tag.textBefore.trimmed().isEmpty() ? m_marginBelow : 0;
@@ -186,12 +191,15 @@ private:
     /// Tables take the margin below the paragraph before, which QTextDocument drops.
     void writeTableStart(double margin)
     {
-        if (margin <= 0) {
-            m_result += m_tableStart;
-            return;
-        }
         m_result += m_tableStart.chopped(1);
-        m_result += QStringLiteral(" style='margin-top:") % QString::number(margin) % QStringLiteral("px'>");
+        if (!m_hasCellPadding) {
+            m_result += usualCellPadding;
+        }
+        if (margin > 0) {
+            m_result +=
+                QStringLiteral(" style='margin-top:") % QString::number(margin) % QStringLiteral("px'");
+        }
+        m_result += u'>';
     }
 
     void closeHead()
@@ -266,6 +274,7 @@ private:
     double m_marginBelow = 0;
     double m_marginAboveTable = 0;
     int m_sections = 0;
+    bool m_hasCellPadding = false;
     bool m_isSplit = false;
     bool m_isInHead = false;
     bool m_isCellStart = false;
@@ -317,6 +326,6 @@ QString shownMarkup(const QString &xhtml, const StyleSheet &css, Medium medium, 
     const qsizetype bodyStart = body.data() - tail.data();
     // Previews draw soft hyphens everywhere; the space without width that follows is enough to break a line.
     const QString text = body.toString().replace(QStringLiteral("&shy;&#8203;"), QStringLiteral("&#8203;"));
-    return parts.head % style.css() % highlightRule(highlighted) % tail.first(bodyStart) %
+    return parts.head % styleElementText(style.css() % highlightRule(highlighted)) % tail.first(bodyStart) %
            MarkupWriter(text, style, medium).rewrite() % tail.sliced(bodyStart + body.size());
 }

@@ -14,7 +14,7 @@ namespace {
 /// The address with a scheme; empty when it is none that a report can have.
 QString completed(const QString &address)
 {
-    const QString text = address.trimmed();
+    QString text = address.trimmed();
     if (text.isEmpty()) {
         return {};
     }

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "host/richtext/pagegeometry.h"
 
+#include "host/richtext/cssbox.h"
+#include "host/richtext/cssvalue.h"
 #include "host/richtext/stylesheet.h"
 
 #include <QPageSize>
 #include <QRectF>
-#include <QRegularExpression>
 #include <QSizeF>
-#include <QStringList>
 
 #include <algorithm>
 #include <array>
@@ -20,53 +20,20 @@ namespace {
 constexpr double shortestPaper = 72;
 constexpr double longestPaper = 14400;
 constexpr double smallestDifference = 0.5;
+constexpr double usualFontSize = 12;
 const QString body = QStringLiteral("body");
 
-struct Unit
+QSizeF a4Points()
 {
-    QLatin1String name;
-    double points;
-};
+    return QPageSize::definitionSize(QPageSize::A4) * (72.0 / 25.4);
+}
 
-constexpr std::array<Unit, 6> units{{{QLatin1String("pt"), 1.0},
-                                     {QLatin1String("px"), 0.75},
-                                     {QLatin1String("pc"), 12.0},
-                                     {QLatin1String("in"), 72.0},
-                                     {QLatin1String("cm"), 72.0 / 2.54},
-                                     {QLatin1String("mm"), 72.0 / 25.4}}};
-
+/// Relative lengths make no paper.
 double paperLength(const StyleSheet &css, const QString &property, double fallback)
 {
-    const double length = lengthInPoints(css.value(body, property)).value_or(fallback);
+    const double length =
+        css::points(css::withoutImportant(css.value(body, property)), 0, 0).value_or(fallback);
     return length >= shortestPaper && length <= longestPaper ? length : fallback;
-}
-
-/// The sides that a shorthand of one to four lengths gives: top, right, bottom, left.
-std::array<double, 4> sides(const QString &shorthand)
-{
-    static const QRegularExpression blanks(QStringLiteral("\\s+"));
-    const QStringList parts = shorthand.split(blanks, Qt::SkipEmptyParts);
-    const auto length = [&parts](qsizetype index) {
-        return lengthInPoints(parts.value(index)).value_or(0.0);
-    };
-    switch (parts.size()) {
-    case 0:
-        return {0, 0, 0, 0};
-    case 1:
-        return {length(0), length(0), length(0), length(0)};
-    case 2:
-        return {length(0), length(1), length(0), length(1)};
-    case 3:
-        return {length(0), length(1), length(2), length(1)};
-    default:
-        return {length(0), length(1), length(2), length(3)};
-    }
-}
-
-QMarginsF withoutNegatives(const std::array<double, 4> &sides)
-{
-    return {std::max(sides[3], 0.0), std::max(sides[0], 0.0), std::max(sides[1], 0.0),
-            std::max(sides[2], 0.0)};
 }
 
 bool differ(double a, double b)
@@ -81,35 +48,15 @@ QString pointsText(double points)
 
 } // namespace
 
-std::optional<double> lengthInPoints(const QString &text)
-{
-    static const QRegularExpression pattern(
-        QStringLiteral("^\\s*([+-]?(?:\\d+\\.?\\d*|\\.\\d+))([a-z]*)\\s*$"),
-        QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = pattern.match(text);
-    if (!match.hasMatch()) {
-        return std::nullopt;
-    }
-    const double number = match.captured(1).toDouble();
-    const QString name = match.captured(2).toLower();
-    if (name.isEmpty()) {
-        return number == 0 ? std::optional(0.0) : std::nullopt;
-    }
-    const auto unit = std::find_if(units.begin(), units.end(),
-                                   [&name](const Unit &candidate) { return candidate.name == name; });
-    return unit == units.end() ? std::nullopt : std::optional(number * unit->points);
-}
-
 QPageLayout pageLayout(const StyleSheet &css)
 {
-    const QSizeF a4 = QPageSize::definitionSize(QPageSize::A4);
-    const QSizeF a4Points = a4 * (72.0 / 25.4);
-    const double width = paperLength(css, QStringLiteral("paper-width"), a4Points.width());
-    const double height = paperLength(css, QStringLiteral("paper-height"), a4Points.height());
+    const QSizeF a4 = a4Points();
+    const double width = paperLength(css, QStringLiteral("paper-width"), a4.width());
+    const double height = paperLength(css, QStringLiteral("paper-height"), a4.height());
     const bool isLandscape = width > height;
     const QSizeF upright(std::min(width, height), std::max(width, height));
     const QPageSize size(upright, QPageSize::Point, QString(), QPageSize::FuzzyMatch);
-    QMarginsF margins = marginsInPoints(css, body);
+    QMarginsF margins = pageMargins(css);
     // A third of the page at least stays for the text.
     const double most = upright.width() / 3;
     margins = {std::min(margins.left(), most), std::min(margins.top(), most), std::min(margins.right(), most),
@@ -139,24 +86,19 @@ void setPageLayout(StyleSheet &css, const QPageLayout &layout)
     }
 }
 
-QMarginsF marginsInPoints(const StyleSheet &css, const QString &selector)
+QMarginsF pageMargins(const StyleSheet &css)
 {
+    const double em = css::points(css.value(body, QStringLiteral("font-size")), usualFontSize, usualFontSize)
+                          .value_or(usualFontSize);
+    const double width = paperLength(css, QStringLiteral("paper-width"), a4Points().width());
     std::array<double, 4> found{0, 0, 0, 0};
-    static const std::array<QString, 4> names{QStringLiteral("margin-top"), QStringLiteral("margin-right"),
-                                              QStringLiteral("margin-bottom"), QStringLiteral("margin-left")};
     for (const StyleSheet::Rule &rule : css.rules()) {
-        if (rule.selector != selector) {
-            continue;
-        }
-        for (const StyleSheet::Declaration &declaration : rule.declarations) {
-            if (declaration.property == QLatin1String("margin")) {
-                found = sides(declaration.value);
-            }
-            const auto *name = std::find(names.begin(), names.end(), declaration.property);
-            if (name != names.end()) {
-                found[size_t(name - names.begin())] = lengthInPoints(declaration.value).value_or(0.0);
+        if (rule.selector == body) {
+            const cssbox::Lengths lengths = cssbox::lengths(cssbox::Family::Margin, rule, em, width);
+            for (size_t side = 0; side < found.size(); ++side) {
+                found[side] = std::max(lengths[side].value_or(found[side]), 0.0);
             }
         }
     }
-    return withoutNegatives(found);
+    return {found[3], found[0], found[1], found[2]};
 }

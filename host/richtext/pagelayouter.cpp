@@ -3,6 +3,7 @@
 #include "host/richtext/pagelayouter.h"
 
 #include "host/richtext/documentmarkup.h"
+#include "host/richtext/shownmarkup.h"
 #include "host/richtext/stylesheet.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -61,6 +62,7 @@ std::vector<double> measuredWidths(const std::vector<QRectF> &texts, double tabl
     const double withGap = texts.back().right() + padding - texts.front().left();
     const double gap = std::clamp(tableWidth - withGap, 0.0, padding);
     std::vector<double> widths;
+    widths.reserve(texts.size());
     for (const QRectF &text : texts) {
         widths.push_back(text.width() + padding - gap);
     }
@@ -234,7 +236,7 @@ void fill(QTextDocument &document, const QString &markup, QPaintDevice &device)
 {
     document.setUndoRedoEnabled(false);
     document.setDocumentMargin(0);
-    document.setHtml(markup);
+    showMarkup(document, markup);
     document.documentLayout()->setPaintDevice(&device);
 }
 

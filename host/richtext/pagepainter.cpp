@@ -5,6 +5,8 @@
 #include "host/framework/hostui.h"
 #include "host/richtext/documentmarkup.h"
 #include "host/richtext/pagelayouter.h"
+#include "host/richtext/shownmarkup.h"
+#include "host/richtext/stylesheet.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QPagedPaintDevice>
@@ -35,7 +37,7 @@ void fillEdge(QTextDocument &document, const QString &markup, QPaintDevice &devi
 {
     document.setUndoRedoEnabled(false);
     document.setDocumentMargin(0);
-    document.setHtml(markup);
+    showMarkup(document, markup);
     document.documentLayout()->setPaintDevice(&device);
     document.setTextWidth(width);
 }
@@ -100,9 +102,10 @@ QString PagePainter::withPlaceholders(const QString &fragment, int page, int pag
 
 QString PagePainter::edgeMarkup(const QString &fragment, int page, int pages) const
 {
-    return QStringLiteral("<html><head><style type=\"text/css\">") + takeApart(m_text.xhtml).css +
-           QStringLiteral("</style></head><body>") + withPlaceholders(fragment, page, pages) +
-           QStringLiteral("</body></html>");
+    const QString css = takeApart(m_text.xhtml).css;
+    const QString xhtml = QStringLiteral("<html><head><style type=\"text/css\"></style></head><body>") +
+                          withPlaceholders(fragment, page, pages) + QStringLiteral("</body></html>");
+    return shownMarkup(xhtml, StyleSheet(css), Medium::Window);
 }
 
 double PagePainter::edgeHeight(const QString &fragment) const

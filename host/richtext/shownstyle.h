@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/richtext/stylesheet.h"
+
 #include <QHash>
 #include <QSet>
 #include <QString>
 #include <QStringView>
-
-class StyleSheet;
 
 /// A style sheet in the terms of QTextDocument, which measures boxes in pixels only, knows paddings and
 /// borders for table cells only, and gives headings with a rule no margins of their own.
@@ -26,6 +26,8 @@ public:
     [[nodiscard]] double marginBelow(QStringView className) const;
 
 private:
+    void takeMargins(const StyleSheet::Rule &rule, const QString &name);
+
     QString m_css;
     QSet<QString> m_boxes;
     QHash<QString, double> m_marginsAbove;

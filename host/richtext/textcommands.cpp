@@ -22,8 +22,8 @@ constexpr double indentWidth = 40;
 class EditBlock final
 {
 public:
-    explicit EditBlock(QTextCursor cursor)
-        : m_cursor(std::move(cursor))
+    explicit EditBlock(const QTextCursor &cursor)
+        : m_cursor(cursor)
     {
         m_cursor.beginEditBlock();
     }

@@ -4,9 +4,12 @@
 
 #include "host/richtext/documentmarkup.h"
 #include "host/richtext/pagegeometry.h"
+#include "host/richtext/shownmarkup.h"
 #include "host/richtext/shownstyle.h"
 #include "host/richtext/stylesheet.h"
+#include "host/richtext/xhtmlstyle.h"
 #include "host/richtext/xhtmlwriter.h"
+#include "host/richtext/xmltext.h"
 
 #include <QStringBuilder>
 #include <QTextCursor>
@@ -20,7 +23,7 @@ constexpr double pointsPerPixel = 0.75;
 /// QTextDocument leaves the margins of the body to its root frame.
 void applyBodyMargins(QTextDocument &document, const StyleSheet &css)
 {
-    const QMarginsF margins = marginsInPoints(css, QStringLiteral("body")) / pointsPerPixel;
+    const QMarginsF margins = pageMargins(css) / pointsPerPixel;
     QTextFrameFormat format = document.rootFrame()->frameFormat();
     format.setLeftMargin(margins.left());
     format.setTopMargin(margins.top());
@@ -65,15 +68,29 @@ void TextDocument::setTitle(const QString &title)
 QString TextDocument::getHtml() const
 {
     const DocumentParts parts = takeApart(m_source);
+    const QString css = styleElementText(m_css);
     if (!isModified()) {
-        return parts.css == m_css ? m_source : parts.head + m_css + parts.tail;
+        return parts.css == m_css ? m_source : parts.head + css + parts.tail;
     }
     const QStringView tail(parts.tail);
     const QStringView body = bodyOf(tail);
     const qsizetype start = body.data() - tail.data();
-    return parts.head % m_css % tail.first(start) %
-           xhtmlBody(*this, m_paragraphClass, ShownStyle(StyleSheet(m_css)).css()) %
+    return parts.head % css % tail.first(start) %
+           xhtmlBody(*this, m_paragraphClass, ShownStyle(StyleSheet(m_shownCss)).css()) %
            tail.sliced(start + body.size());
+}
+
+void TextDocument::beginPlainParagraph(QTextCursor cursor) const
+{
+    TextDocument sample;
+    sample.setDefaultFont(defaultFont());
+    sample.setSource(QStringLiteral("<html><head><style type=\"text/css\">") + styleElementText(m_shownCss) +
+                     QStringLiteral("</style></head><body><p") +
+                     xhtmlAttribute(QStringLiteral("class"), m_paragraphClass) +
+                     QStringLiteral(">x</p></body></html>"));
+    sample.show();
+    const QTextCursor found = sample.find(QStringLiteral("x"));
+    cursor.insertBlock(found.blockFormat(), found.charFormat());
 }
 
 void TextDocument::loadCss(const QString &css, bool preview)
@@ -113,7 +130,7 @@ void TextDocument::makeContent()
     // In one go, so that a document that is shown is laid out once.
     QTextCursor cursor(this);
     cursor.beginEditBlock();
-    setHtml(shownMarkup(m_source, css, Medium::Window, m_highlighted));
+    showMarkup(*this, shownMarkup(m_source, css, Medium::Window, m_highlighted));
     applyBodyMargins(*this, css);
     cursor.endEditBlock();
     setUndoRedoEnabled(keepsUndo);

@@ -33,6 +33,8 @@ public:
 
     /// The class of the paragraphs that people write, for a document that is edited.
     void setParagraphClass(const QString &name) { m_paragraphClass = name; }
+    /// Begins a paragraph of that class at a cursor, in the look that the style sheet gives it.
+    void beginPlainParagraph(QTextCursor cursor) const;
 
 public Q_SLOTS:
     /// Shows the document in the look of another style sheet. It becomes the document's own unless it is only

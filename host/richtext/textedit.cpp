@@ -8,6 +8,7 @@
 #include "host/richtext/pdfoutput.h"
 #include "host/richtext/printui.h"
 #include "host/richtext/stylesheet.h"
+#include "host/richtext/textcommands.h"
 
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -16,6 +17,8 @@
 #include <QPalette>
 #include <QPrinter>
 #include <QScrollBar>
+#include <QTextBlock>
+#include <QTextList>
 #include <QUrl>
 
 #include <algorithm>
@@ -165,8 +168,26 @@ void TextEdit::mouseReleaseEvent(QMouseEvent *event)
     }
 }
 
+void TextEdit::beginParagraph()
+{
+    QTextCursor cursor = textCursor();
+    const bool isEmptyItem = cursor.currentList() && cursor.block().length() == 1 && !cursor.hasSelection();
+    if (isEmptyItem) {
+        changeIndent(*this, -1);
+    } else if (cursor.blockFormat().headingLevel() > 0 && cursor.atBlockEnd() && !cursor.hasSelection()) {
+        m_document->beginPlainParagraph(cursor);
+    } else {
+        cursor.insertBlock();
+    }
+    ensureCursorVisible();
+}
+
 void TextEdit::keyPressEvent(QKeyEvent *event)
 {
+    if (!isReadOnly() && event->matches(QKeySequence::InsertParagraphSeparator)) {
+        beginParagraph();
+        return;
+    }
     const bool opens = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const QString link = isReadOnly() && opens ? textCursor().charFormat().anchorHref() : QString();
     if (link.isEmpty()) {

@@ -61,6 +61,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    /// What Return does: no look is lost, but a heading and a list end.
+    void beginParagraph();
     [[nodiscard]] PagedText pagedText() const;
     void paintDocument(QPainter &painter, QPagedPaintDevice &device, int first, int last) const;
 

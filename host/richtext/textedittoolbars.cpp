@@ -43,7 +43,10 @@ void TextEditToolBars::setTextEdit(TextEdit *edit)
         connect(edit, &QTextEdit::textChanged, this, &TextEditToolBars::showState);
         connect(edit, &QTextEdit::undoAvailable, this, &TextEditToolBars::showState);
         connect(edit, &QTextEdit::redoAvailable, this, &TextEditToolBars::showState);
-        connect(edit, &QObject::destroyed, this, [this] { setTextEdit(nullptr); });
+        connect(edit, &QObject::destroyed, this, [this] {
+            m_edit.clear(); // no TextEdit any more, and not to be touched as one
+            showState();
+        });
     }
     showState();
 }

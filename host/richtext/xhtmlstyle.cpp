@@ -92,7 +92,7 @@ QString fontSize(const QTextCharFormat &format, const QFont &font)
     }
     const int adjustment = format.intProperty(QTextFormat::FontSizeAdjustment);
     if (adjustment != 0) {
-        return QLatin1String(names.at(size_t(qBound(-1, adjustment, 3) + 1)));
+        return QLatin1String(names.at(size_t(qBound(0, adjustment + 1, 4))));
     }
     const double inPixels = format.doubleProperty(QTextFormat::FontPixelSize);
     return inPixels > 0 ? pixels(inPixels) : fontSize(font);

@@ -100,3 +100,14 @@ QString escapedXmlText(const QString &text)
 {
     return convert(text, true);
 }
+
+QString styleElementText(const QString &css)
+{
+    QString text = xmlText(css);
+    // Hides the sheet from readers that know no styles; those of XML would take it for a comment.
+    text.remove(QLatin1String("<!--"));
+    text.replace(u'<', QLatin1String("\\3C "));
+    text.replace(u'&', QLatin1String("\\26 "));
+    text.replace(QLatin1String("]]>"), QLatin1String("]]\\3E "));
+    return text;
+}

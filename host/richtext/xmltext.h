@@ -11,3 +11,8 @@
 /// Escaped for the content of an element or an attribute in double quotes, and cleaned as by xmlText(). Text
 /// that needs neither is not copied.
 [[nodiscard]] QString escapedXmlText(const QString &text);
+
+/// A style sheet for the content of a style element, cleaned as by xmlText(). It means the same to readers of
+/// XML and of HTML, and cannot end the element: its markup characters become escapes of CSS. A sheet without
+/// them is not copied.
+[[nodiscard]] QString styleElementText(const QString &css);

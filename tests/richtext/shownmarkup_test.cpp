@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "host/richtext/documentmarkup.h"
+#include "host/richtext/shownstyle.h"
 #include "host/richtext/stylesheet.h"
 #include "host/richtext/textdocument.h"
 
@@ -41,7 +42,8 @@ TEST(ShownMarkup, GivesPaddingAndBorderOfParagraphsToTheirCells)
     EXPECT_EQ(format(0).leftPadding(), 8);
     EXPECT_EQ(format(0).bottomBorder(), 2);
     EXPECT_EQ(format(0).topBorder(), 0);
-    EXPECT_EQ(format(1).leftPadding(), 1);
+    EXPECT_FALSE(format(1).hasProperty(QTextFormat::TableCellLeftPadding));
+    EXPECT_EQ(qobject_cast<const QTextTable *>(table)->format().cellPadding(), 1);
     // Outside a table the paragraph gets a cell of its own.
     EXPECT_EQ(shownBody(css, u"<p class='a'>x</p><p class='b'>y</p>"_s, Medium::Window),
               u"<table width='100%' cellspacing='0' cellpadding='0'><tr><td class='a'><p class='a'>x</p>"
@@ -64,20 +66,48 @@ TEST(ShownMarkup, GivesColumnsTheWidthsOfTheirStyles)
     EXPECT_EQ(widths[2].type(), QTextLength::VariableLength);
 }
 
+TEST(ShownMarkup, LaterRulesOfASelectorLeaveItsMargins)
+{
+    const ShownStyle style{StyleSheet(u"p.a { margin: 3pt 0 6pt !important; } h1.b { margin: 0; } "
+                                      "p.a, p.c { color: red; } p.a { color: red; } h1.b { color: red; }"_s)};
+    EXPECT_EQ(style.marginAbove(u"a"), 4);
+    EXPECT_EQ(style.marginBelow(u"a"), 8);
+    EXPECT_EQ(style.marginAbove(u"b"), 0);
+    EXPECT_FALSE(style.css().section(u"h1.b {"_s, 2).contains(u"margin"_s));
+}
+
 TEST(ShownMarkup, MakesSectionsTablesWithHeadsForPagesOnly)
 {
     const QString table = u"<table class='t'><tbody><tr><th colspan='2'><p>A</p></th></tr><tr><th>x</th></tr>"
                           "<tr><td>1</td></tr></tbody><tbody><tr><th>B</th></tr></tbody>"
                           "<tbody><tr><td>sum</td></tr></tbody></table>"_s;
-    EXPECT_EQ(shownBody({}, table, Medium::Window), table);
-    EXPECT_EQ(shownBody({}, table, Medium::Pages),
-              u"<table class='t'><thead><tr><th colspan='2'><p>A</p></th></tr><tr><th>x</th></tr>"
-              "</thead><tbody><tr><td>1</td></tr></tbody></table>"
-              "<table class='t'><thead><tr><th>B</th></tr></thead><tbody></tbody></table>"
-              "<table class='t'><tbody><tr><td>sum</td></tr></tbody></table>"_s);
+    EXPECT_EQ(shownBody({}, table, Medium::Window),
+              QString(table).replace(u"'t'"_s, u"'t' cellpadding='1'"_s));
+    EXPECT_EQ(
+        shownBody({}, table, Medium::Pages),
+        u"<table class='t' cellpadding='1'><thead><tr><th colspan='2'><p>A</p></th></tr><tr><th>x</th></tr>"
+        "</thead><tbody><tr><td>1</td></tr></tbody></table>"
+        "<table class='t' cellpadding='1'><thead><tr><th>B</th></tr></thead><tbody></tbody></table>"
+        "<table class='t' cellpadding='1'><tbody><tr><td>sum</td></tr></tbody></table>"_s);
     const QString nested =
-        u"<table><tbody><tr><th><table><tr><td>1</td></tr></table></th></tr></tbody></table>"_s;
+        u"<table cellpadding='1'><tbody><tr><th><table cellpadding='1'><tr><td>1</td></tr></table></th></tr></tbody></table>"_s;
     EXPECT_EQ(shownBody({}, nested, Medium::Pages), nested);
+}
+
+TEST(ShownMarkup, SizesHeadingsAsBrowsersDo)
+{
+    TextDocument document;
+    document.setSource(page(u"body { font-size: 10pt; } h3 { font-size: 7pt; }"_s,
+                            u"<p>a</p><h1>b</h1><h2>c</h2><h3>d</h3>"_s));
+    document.show();
+    const auto size = [&](const QString &text) {
+        const QTextCharFormat format = document.find(text).charFormat();
+        return format.hasProperty(QTextFormat::FontSizeAdjustment) ? 0 : format.fontPointSize();
+    };
+    EXPECT_EQ(size(u"a"_s), 10);
+    EXPECT_EQ(size(u"b"_s), 20);
+    EXPECT_EQ(size(u"c"_s), 15);
+    EXPECT_EQ(size(u"d"_s), 7);
 }
 
 TEST(ShownMarkup, BreaksLongParagraphsBetweenCharacters)
@@ -101,7 +131,7 @@ TEST(ShownMarkup, StandsMarkupThatIsNone)
 {
     for (const QString &text : {u""_s, u"<"_s, u"<p"_s, u"<table><tbody><tr><th"_s, u"</td></p></table>"_s,
                                 u"<!-- <table> --> a < b"_s, u"<td class='><p class=''>"_s, u"<p class='a>"_s,
-                                u"<table>"_s.repeated(20000)}) {
+                                u"<table cellpadding='0'>"_s.repeated(20000)}) {
         for (const Medium medium : {Medium::Window, Medium::Pages}) {
             EXPECT_TRUE(shownBody(u"p.a { padding: 1pt }"_s, text, medium).endsWith(text.right(3)));
         }

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
+#include "host/richtext/cssvalue.h"
 #include "host/richtext/pagegeometry.h"
 #include "host/richtext/pdfoutput.h"
 #include "host/richtext/stylesheet.h"
@@ -171,6 +172,36 @@ TEST_F(Edit, WritesPdfFilesWithClickableLinksAsAWhole)
     EXPECT_EQ(ui.warnings.size(), 1);
 }
 
+TEST_F(Edit, ReturnKeepsTheLookAndEndsListsAndHeadings)
+{
+    const QString start = u"<html><head><style>p.x { font-size: 15pt; color: red; margin-top: 3pt; }</style>"
+                          "</head><body>"_s;
+    edit.document()->setParagraphClass(u"x"_s);
+    edit.loadDocument(start + u"<ul><li><p class='x'>item</p></li></ul></body></html>"_s);
+    edit.show();
+    const auto type = [&](const QString &text) {
+        QTest::keyClick(&edit, Qt::Key_Return);
+        QTest::keyClicks(&edit, text);
+    };
+    edit.moveCursor(QTextCursor::End);
+    type({});
+    EXPECT_TRUE(edit.textCursor().currentList());
+    type(u"after"_s);
+    EXPECT_FALSE(edit.textCursor().currentList());
+    EXPECT_EQ(edit.textCursor().charFormat().fontPointSize(), 15);
+    type({});
+    type(u"blank"_s);
+    EXPECT_EQ(edit.textCursor().charFormat().fontPointSize(), 15);
+    edit.loadDocument(start + u"<h1>head</h1></body></html>"_s);
+    edit.moveCursor(QTextCursor::End);
+    type(u"plain"_s);
+    EXPECT_EQ(edit.textCursor().blockFormat().headingLevel(), 0);
+    EXPECT_EQ(edit.textCursor().blockFormat().topMargin(), 4);
+    EXPECT_EQ(edit.textCursor().charFormat().fontPointSize(), 15);
+    EXPECT_EQ(edit.textCursor().charFormat().foreground().color(), QColor(Qt::red));
+    EXPECT_LT(edit.textCursor().charFormat().fontWeight(), QFont::Bold);
+}
+
 TEST_F(Edit, PaperIsKeptInTheStyleSheetOnlyWhenItChanges)
 {
     edit.loadDocument(page(u"<p>x</p>"_s));
@@ -185,18 +216,22 @@ TEST_F(Edit, PaperIsKeptInTheStyleSheetOnlyWhenItChanges)
               u"body { margin: 20pt; paper-width: 792.0pt; paper-height: 612.0pt; }"_s);
     printUi.paper->setMargins(QMarginsF(30, 10, 20, 40));
     edit.pageSetup();
-    EXPECT_EQ(marginsInPoints(StyleSheet(edit.document()->getCss()), u"body"_s), QMarginsF(30, 10, 20, 40));
+    EXPECT_EQ(pageMargins(StyleSheet(edit.document()->getCss())), QMarginsF(30, 10, 20, 40));
 }
 
 TEST(PageGeometry, ReadsLengthsAndDoubtsWhatMakesNoPage)
 {
-    EXPECT_EQ(lengthInPoints(u" 25.4mm "_s), 72);
-    EXPECT_EQ(lengthInPoints(u"1in"_s), 72);
-    EXPECT_EQ(lengthInPoints(u"96PX"_s), 72);
-    EXPECT_EQ(lengthInPoints(u"0"_s), 0);
-    for (const QString &none : {u""_s, u"12"_s, u"2em"_s, u"10%"_s, u"x"_s, u"1e400pt"_s, u"NaNpt"_s}) {
-        EXPECT_FALSE(lengthInPoints(none)) << none.toStdString();
+    EXPECT_EQ(css::points(u" 25.4mm "_s, 0, 0), 72);
+    EXPECT_EQ(css::points(u"1in"_s, 0, 0), 72);
+    EXPECT_EQ(css::points(u"96PX"_s, 0, 0), 72);
+    EXPECT_EQ(css::points(u"0"_s, 0, 0), 0);
+    for (const QString &none :
+         {u""_s, u"12"_s, u"x"_s, u"1e400pt"_s, u"NaNpt"_s, QString(400, u'9') + u"pt"_s}) {
+        EXPECT_FALSE(css::points(none, 1, 1)) << none.toStdString();
     }
+    EXPECT_EQ(pageMargins(StyleSheet(u"body { font-size: 10pt; margin: 1pt 2em 3pt !important; } "
+                                     "body { margin-left: -4pt; }"_s)),
+              QMarginsF(0, 1, 20, 3));
     const QPageLayout a4 =
         pageLayout(StyleSheet(u"body { paper-width: 0.1pt; paper-height: -5mm; margin: -1pt; }"_s));
     EXPECT_EQ(a4.pageSize().id(), QPageSize::A4);

@@ -16,6 +16,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QXmlStreamReader>
 
 #include <gmock/gmock.h>
 
@@ -72,6 +73,25 @@ protected:
     BOMHTMLView view;
     QSignalSpy modified{&view, &BOMHTMLView::currentTemplateModified};
 };
+
+TEST_F(HtmlEditing, HostileStyleSheetStaysStyleSheetAndOutlivesACancelledPageSetup)
+{
+    const QString css = u"p.a { color: red; } a[href='x&y'] {} <!-- </style><script>x</script> ]]> p.b {"_s;
+    BOMTemplate changed = database.currentTemplate();
+    changed.setCss(css);
+    database.setTemplateLook(changed);
+    view.handleBOMDataUpdate();
+    view.setPageSize();
+    EXPECT_EQ(database.currentTemplate().css(), css);
+    const QString html = view.html();
+    EXPECT_FALSE(html.contains(u"<script"_s));
+    QXmlStreamReader reader(view.textEdit()->document()->getHtml());
+    while (reader.readNext() != QXmlStreamReader::EndElement || reader.name() != u"style"_s) {
+        ASSERT_FALSE(reader.atEnd()) << reader.errorString().toStdString();
+    }
+    view.textEdit()->document()->loadCss(css, true);
+    EXPECT_EQ(view.textEdit()->document()->find(u"script"_s).position(), -1);
+}
 
 TEST_F(HtmlEditing, StylesArePreviewedAndTakenWhenAccepted)
 {
