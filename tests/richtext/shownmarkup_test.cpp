@@ -122,6 +122,19 @@ TEST(ShownMarkup, StandsMarkupThatIsNone)
     }
 }
 
+TEST(TextDocument, LooksTheSameWhileSuspended)
+{
+    TextDocument document;
+    document.setSource(page(u"p { color: red; }"_s, u"<p>x</p>"_s));
+    document.show();
+    const auto colour = [&] { return document.find(u"x"_s).charFormat().foreground().color(); };
+    document.suspend();
+    document.loadCss(u"p { color: blue; }"_s, false);
+    EXPECT_EQ(colour(), QColor(Qt::red));
+    document.show();
+    EXPECT_EQ(colour(), QColor(Qt::blue));
+}
+
 TEST(TextDocument, GivesBackTheTextItTookWithTheStyleSheetOfNow)
 {
     const QString first = page(u"p { color: red; }"_s, u"<p class='x'>one</p>"_s);
