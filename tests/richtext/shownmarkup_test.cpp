@@ -78,6 +78,21 @@ TEST(ShownMarkup, MakesSectionsTablesWithHeadsForPagesOnly)
     EXPECT_EQ(shownBody({}, nested, Medium::Pages), nested);
 }
 
+TEST(ShownMarkup, LeavesTheMarginAboveAParagraphThatSpansARow)
+{
+    const auto height = [](const QString &margin) {
+        TextDocument document;
+        document.setSource(page(u"p { margin: 0 } p.s { margin-top: "_s + margin + u"}"_s,
+                                u"<table><tr><td>a</td><td>b</td></tr>"
+                                "<tr><td colspan='2'><p class='s'>x</p></td></tr></table>"_s));
+        document.show();
+        document.setTextWidth(400);
+        return document.size().height();
+    };
+    EXPECT_NEAR(height(u"30pt"_s) - height(u"0"_s), 40, 1.5);
+    EXPECT_NEAR(height(u"7pt"_s) - height(u"0"_s), 9.3, 1.5);
+}
+
 TEST(ShownMarkup, SizesHeadingsAsBrowsersDo)
 {
     TextDocument document;
