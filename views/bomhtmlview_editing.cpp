@@ -44,6 +44,8 @@ void BOMHTMLView::editStyleTemplate()
                 document, &TextDocument::loadCss);
         connect(m_styleEditor, &TextStyleEditor::currentSelectorChanged, document,
                 &TextDocument::highlightSelector);
+        // The report is made anew in any case; going back to its old look first would take its time.
+        connect(m_styleEditor, &QDialog::finished, document, &TextDocument::suspend);
     }
     m_styleEditor->loadCSS(database()->currentTemplate().css());
     const bool isAccepted = m_styleEditor->run();

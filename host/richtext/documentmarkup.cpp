@@ -16,6 +16,9 @@ namespace {
 /// What browsers put around the contents of cells.
 constexpr QLatin1String usualCellPadding(" cellpadding='1'");
 
+/// What a row without paddings takes in pixels: a line in the smallest font and the space between rows.
+constexpr double lowestRow = 4;
+
 constexpr auto highlightColour = "#ffe08a";
 
 constexpr qsizetype longestParagraph = 4000;
@@ -228,8 +231,8 @@ private:
         const double margin = spanned ? m_style.marginAbove(spanned->className) : 0;
         if (margin > 0) {
             m_result += QStringLiteral("<tr><td colspan='") % spanned->columns %
-                        QStringLiteral("' style='font-size:1pt; padding-top:") % QString::number(margin - 1) %
-                        QStringLiteral("pt'></td></tr>");
+                        QStringLiteral("' style='font-size:1pt; padding-bottom:0px; padding-top:") %
+                        QString::number(std::max(margin - lowestRow, 0.0)) % QStringLiteral("px'></td></tr>");
         }
     }
 

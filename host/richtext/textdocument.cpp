@@ -11,6 +11,7 @@
 #include "host/richtext/xhtmlwriter.h"
 #include "host/richtext/xmltext.h"
 
+#include <QElapsedTimer>
 #include <QStringBuilder>
 #include <QTextCursor>
 #include <QTextFrame>
@@ -19,6 +20,10 @@
 namespace {
 
 constexpr double pointsPerPixel = 0.75;
+
+// In ms.
+constexpr int noticeableEffort = 300;
+constexpr int pauseBetweenChanges = 250;
 
 /// QTextDocument leaves the margins of the body to its root frame.
 void applyBodyMargins(QTextDocument &document, const StyleSheet &css)
@@ -38,6 +43,9 @@ TextDocument::TextDocument(QObject *parent)
     : QTextDocument(parent)
 {
     setDocumentMargin(0);
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(pauseBetweenChanges);
+    connect(&m_pause, &QTimer::timeout, this, &TextDocument::makeContent);
 }
 
 TextDocument::~TextDocument() = default;
@@ -48,7 +56,7 @@ void TextDocument::setSource(const QString &xhtml)
     m_css = takeApart(xhtml).css;
     m_shownCss = m_css;
     m_title.clear();
-    m_isShown = false;
+    suspend();
     setModified(false);
 }
 
@@ -57,6 +65,12 @@ void TextDocument::show()
     if (!m_isShown) {
         makeContent();
     }
+}
+
+void TextDocument::suspend()
+{
+    m_isShown = false;
+    m_pause.stop();
 }
 
 void TextDocument::setTitle(const QString &title)
@@ -103,8 +117,8 @@ void TextDocument::loadCss(const QString &css, bool preview)
     if (!preview) {
         m_css = css;
     }
-    if (m_isShown && !isSame) {
-        makeContent();
+    if (!isSame) {
+        changeLook();
     }
 }
 
@@ -115,13 +129,30 @@ void TextDocument::highlightSelector(const QString &selector)
         m_source = getHtml();
     }
     m_highlighted = selector;
-    if (m_isShown && !isSame) {
+    if (!isSame) {
+        changeLook();
+    }
+}
+
+void TextDocument::changeLook()
+{
+    if (!m_isShown) {
+        return;
+    }
+    if (m_effort < noticeableEffort) {
         makeContent();
+    } else {
+        m_pause.start();
     }
 }
 
 void TextDocument::makeContent()
 {
+    QElapsedTimer effort;
+    effort.start();
+    if (isModified()) {
+        m_source = getHtml();
+    }
     Q_EMIT aboutToMakeContent();
     m_isShown = true;
     const StyleSheet css(m_shownCss);
@@ -139,4 +170,5 @@ void TextDocument::makeContent()
     }
     setModified(false);
     Q_EMIT contentMade();
+    m_effort = effort.elapsed();
 }

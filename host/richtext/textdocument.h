@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QTextDocument>
+#include <QTimer>
 
 /// A rich-text document that remembers the XHTML text and the style sheet it was made from. The content is
 /// made when it is first shown; before that the document is empty.
@@ -20,6 +21,8 @@ public:
     /// Makes the content from the source, if that was not done yet.
     void show();
     [[nodiscard]] bool isShown() const { return m_isShown; }
+    /// Lets what is shown stay as it is, whatever changes, until show().
+    void suspend();
 
     /// The document's own title instead of that of its head; it outlives a new look, not a new source.
     void setTitle(const QString &title);
@@ -37,7 +40,8 @@ public:
     void beginPlainParagraph(QTextCursor cursor) const;
 
 public Q_SLOTS:
-    /// Shows the document in the look of another style sheet. It becomes the document's own unless it is only
+    /// Shows the document in the look of another style sheet; a large one after a pause, so that changes that
+    /// follow each other cost it one layout. It becomes the document's own unless it is only
     /// a preview.
     void loadCss(const QString &css, bool preview);
     /// Marks what a selector such as "p.oddfield" applies to; an empty one takes the mark away.
@@ -49,6 +53,7 @@ Q_SIGNALS:
     void contentMade();
 
 private:
+    void changeLook();
     void makeContent();
 
     QString m_source;
@@ -58,4 +63,7 @@ private:
     QString m_title;
     QString m_paragraphClass;
     bool m_isShown = true;
+    QTimer m_pause;
+    /// What making the content took, in ms.
+    qint64 m_effort = 0;
 };

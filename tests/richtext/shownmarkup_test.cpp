@@ -94,6 +94,21 @@ TEST(ShownMarkup, MakesSectionsTablesWithHeadsForPagesOnly)
     EXPECT_EQ(shownBody({}, nested, Medium::Pages), nested);
 }
 
+TEST(ShownMarkup, LeavesTheMarginAboveAParagraphThatSpansARow)
+{
+    const auto height = [](const QString &margin) {
+        TextDocument document;
+        document.setSource(page(u"p { margin: 0 } p.s { margin-top: "_s + margin + u"}"_s,
+                                u"<table><tr><td>a</td><td>b</td></tr>"
+                                "<tr><td colspan='2'><p class='s'>x</p></td></tr></table>"_s));
+        document.show();
+        document.setTextWidth(400);
+        return document.size().height();
+    };
+    EXPECT_NEAR(height(u"30pt"_s) - height(u"0"_s), 40, 1.5);
+    EXPECT_NEAR(height(u"7pt"_s) - height(u"0"_s), 9.3, 1.5);
+}
+
 TEST(ShownMarkup, SizesHeadingsAsBrowsersDo)
 {
     TextDocument document;
@@ -136,6 +151,19 @@ TEST(ShownMarkup, StandsMarkupThatIsNone)
             EXPECT_TRUE(shownBody(u"p.a { padding: 1pt }"_s, text, medium).endsWith(text.right(3)));
         }
     }
+}
+
+TEST(TextDocument, LooksTheSameWhileSuspended)
+{
+    TextDocument document;
+    document.setSource(page(u"p { color: red; }"_s, u"<p>x</p>"_s));
+    document.show();
+    const auto colour = [&] { return document.find(u"x"_s).charFormat().foreground().color(); };
+    document.suspend();
+    document.loadCss(u"p { color: blue; }"_s, false);
+    EXPECT_EQ(colour(), QColor(Qt::red));
+    document.show();
+    EXPECT_EQ(colour(), QColor(Qt::blue));
 }
 
 TEST(TextDocument, GivesBackTheTextItTookWithTheStyleSheetOfNow)
