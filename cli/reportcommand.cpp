@@ -8,6 +8,7 @@
 #include "cli/referencetext.h"
 #include "cli/reportnotices.h"
 #include "host/propdefs/propdefsfile.h"
+#include "views/bomasciiview.h"
 #include "views/bomcsvview.h"
 #include "views/bomhtmlview.h"
 
@@ -49,13 +50,15 @@ void tell(const QStringList &notices)
 
 } // namespace
 
-const std::array<ReportCommand::OutputOption, 4> &ReportCommand::outputOptions()
+const std::array<ReportCommand::OutputOption, 5> &ReportCommand::outputOptions()
 {
-    static const std::array<OutputOption, 4> options{{
+    static const std::array<OutputOption, 5> options{{
         {"--csv", "Write CSV with one row per line of the bill; - is standard output", Form::Csv,
          &ReportCommand::m_csv},
         {"--full-csv", "Write CSV with one row per part; - is standard output", Form::FullCsv,
          &ReportCommand::m_fullCsv},
+        {"--ascii", "Write text in columns of fixed widths; - is standard output", Form::Ascii,
+         &ReportCommand::m_ascii},
         {"--html", "Write a web page (XHTML); - is standard output", Form::Html, &ReportCommand::m_html},
         {"--pdf", "Write a PDF document; - is standard output", Form::Pdf, &ReportCommand::m_pdf},
     }};
@@ -64,8 +67,8 @@ const std::array<ReportCommand::OutputOption, 4> &ReportCommand::outputOptions()
 
 void ReportCommand::addTo(CLI::App &program)
 {
-    m_app = program.add_subcommand("report", "Write the bill of materials; the CSV goes to standard output "
-                                             "when no output is named");
+    m_app = program.add_subcommand("report", "Write the bill of materials; text in columns goes to standard "
+                                             "output when no output is named");
     m_design.addTo(*m_app);
     for (const OutputOption &option : outputOptions()) {
         m_app->add_option(option.name, this->*option.path, option.description)->type_name("F");
@@ -115,7 +118,7 @@ QList<ReportCommand::Output> ReportCommand::outputs() const
         }
     }
     if (outputs.isEmpty()) {
-        outputs.append({QStringLiteral("-"), Form::Csv});
+        outputs.append({QStringLiteral("-"), Form::Ascii});
     }
     return outputs;
 }
@@ -201,6 +204,11 @@ QByteArray ReportCommand::content(Form form, BOMPartsDatabase &database)
         BOMCsvView view(nullptr, form == Form::FullCsv);
         view.setPartsDatabase(&database);
         return view.csv();
+    }
+    if (form == Form::Ascii) {
+        BOMAsciiView view;
+        view.setPartsDatabase(&database);
+        return view.ascii();
     }
     BOMHTMLView view;
     view.setPartsDatabase(&database);

@@ -26,6 +26,7 @@ private:
     {
         Csv,
         FullCsv,
+        Ascii,
         Html,
         Pdf
     };
@@ -42,7 +43,7 @@ private:
         Form form;
         std::string ReportCommand::*path;
     };
-    [[nodiscard]] static const std::array<OutputOption, 4> &outputOptions();
+    [[nodiscard]] static const std::array<OutputOption, 5> &outputOptions();
 
     [[nodiscard]] QList<Output> outputs() const;
     [[nodiscard]] static bool areDistinct(const QList<Output> &outputs);
@@ -55,6 +56,7 @@ private:
     DesignArguments m_design;
     std::string m_csv;
     std::string m_fullCsv;
+    std::string m_ascii;
     std::string m_html;
     std::string m_pdf;
     std::string m_locale;
