@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/reportcommand.h"
 
+#include "cli/bomjsonview.h"
 #include "cli/console.h"
 #include "cli/opendesign.h"
 #include "cli/outputfile.h"
@@ -50,9 +51,9 @@ void tell(const QStringList &notices)
 
 } // namespace
 
-const std::array<ReportCommand::OutputOption, 5> &ReportCommand::outputOptions()
+const std::array<ReportCommand::OutputOption, 6> &ReportCommand::outputOptions()
 {
-    static const std::array<OutputOption, 5> options{{
+    static const std::array<OutputOption, 6> options{{
         {"--csv", "Write CSV with one row per line of the bill; - is standard output", Form::Csv,
          &ReportCommand::m_csv},
         {"--full-csv", "Write CSV with one row per part; - is standard output", Form::FullCsv,
@@ -61,6 +62,7 @@ const std::array<ReportCommand::OutputOption, 5> &ReportCommand::outputOptions()
          &ReportCommand::m_ascii},
         {"--html", "Write a web page (XHTML); - is standard output", Form::Html, &ReportCommand::m_html},
         {"--pdf", "Write a PDF document; - is standard output", Form::Pdf, &ReportCommand::m_pdf},
+        {"--json", "Write JSON for programs; - is standard output", Form::Json, &ReportCommand::m_json},
     }};
     return options;
 }
@@ -209,6 +211,11 @@ QByteArray ReportCommand::content(Form form, BOMPartsDatabase &database)
         BOMAsciiView view;
         view.setPartsDatabase(&database);
         return view.ascii();
+    }
+    if (form == Form::Json) {
+        BOMJsonView view;
+        view.setPartsDatabase(&database);
+        return view.json();
     }
     BOMHTMLView view;
     view.setPartsDatabase(&database);

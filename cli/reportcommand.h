@@ -28,7 +28,8 @@ private:
         FullCsv,
         Ascii,
         Html,
-        Pdf
+        Pdf,
+        Json
     };
     struct Output
     {
@@ -43,7 +44,7 @@ private:
         Form form;
         std::string ReportCommand::*path;
     };
-    [[nodiscard]] static const std::array<OutputOption, 5> &outputOptions();
+    [[nodiscard]] static const std::array<OutputOption, 6> &outputOptions();
 
     [[nodiscard]] QList<Output> outputs() const;
     [[nodiscard]] static bool areDistinct(const QList<Output> &outputs);
@@ -59,6 +60,7 @@ private:
     std::string m_ascii;
     std::string m_html;
     std::string m_pdf;
+    std::string m_json;
     std::string m_locale;
     bool m_allowDuplicates = false;
 };
