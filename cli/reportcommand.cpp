@@ -11,6 +11,7 @@
 #include "host/propdefs/propdefsfile.h"
 #include "views/bomasciiview.h"
 #include "views/bomcsvview.h"
+#include "views/bomexcelview.h"
 #include "views/bomhtmlview.h"
 
 #include <QFileInfo>
@@ -51,9 +52,9 @@ void tell(const QStringList &notices)
 
 } // namespace
 
-const std::array<ReportCommand::OutputOption, 6> &ReportCommand::outputOptions()
+const std::array<ReportCommand::OutputOption, 7> &ReportCommand::outputOptions()
 {
-    static const std::array<OutputOption, 6> options{{
+    static const std::array<OutputOption, 7> options{{
         {"--csv", "Write CSV with one row per line of the bill; - is standard output", Form::Csv,
          &ReportCommand::m_csv},
         {"--full-csv", "Write CSV with one row per part; - is standard output", Form::FullCsv,
@@ -62,6 +63,7 @@ const std::array<ReportCommand::OutputOption, 6> &ReportCommand::outputOptions()
          &ReportCommand::m_ascii},
         {"--html", "Write a web page (XHTML); - is standard output", Form::Html, &ReportCommand::m_html},
         {"--pdf", "Write a PDF document; - is standard output", Form::Pdf, &ReportCommand::m_pdf},
+        {"--xlsx", "Write a spreadsheet (.xlsx); - is standard output", Form::Xlsx, &ReportCommand::m_xlsx},
         {"--json", "Write JSON for programs; - is standard output", Form::Json, &ReportCommand::m_json},
     }};
     return options;
@@ -222,6 +224,21 @@ QByteArray ReportCommand::content(Form form, BOMPartsDatabase &database)
     return form == Form::Pdf ? view.pdf() : view.html().toUtf8();
 }
 
+bool ReportCommand::writeSpreadsheet(const QString &path, BOMPartsDatabase &database)
+{
+    BOMExcelView view;
+    view.setPartsDatabase(&database);
+    const QByteArray file = view.xlsx();
+    if (!view.problem().isEmpty()) {
+        console::message(path + QStringLiteral(": is not written: ") + view.problem());
+        return false;
+    }
+    for (const QString &notice : view.notices()) {
+        console::message(path + QStringLiteral(": ") + notice);
+    }
+    return writeOutput(path, file);
+}
+
 ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs) const
 {
     ExitStatus status = ExitStatus::Done;
@@ -231,7 +248,10 @@ ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs
             status = ExitStatus::UnwritableOutput;
             continue;
         }
-        if (!writeOutput(output.path, content(output.form, design.database()))) {
+        const bool isWritten = output.form == Form::Xlsx
+                                   ? writeSpreadsheet(output.path, design.database())
+                                   : writeOutput(output.path, content(output.form, design.database()));
+        if (!isWritten) {
             status = ExitStatus::UnwritableOutput;
         }
     }

@@ -29,6 +29,7 @@ private:
         Ascii,
         Html,
         Pdf,
+        Xlsx,
         Json
     };
     struct Output
@@ -44,7 +45,7 @@ private:
         Form form;
         std::string ReportCommand::*path;
     };
-    [[nodiscard]] static const std::array<OutputOption, 6> &outputOptions();
+    [[nodiscard]] static const std::array<OutputOption, 7> &outputOptions();
 
     [[nodiscard]] QList<Output> outputs() const;
     [[nodiscard]] static bool areDistinct(const QList<Output> &outputs);
@@ -52,6 +53,7 @@ private:
     [[nodiscard]] bool mayGoOn(OpenDesign &design) const;
     static void tellReplacedLines(OpenDesign &design, const QList<Output> &outputs);
     [[nodiscard]] static QByteArray content(Form form, BOMPartsDatabase &database);
+    [[nodiscard]] static bool writeSpreadsheet(const QString &path, BOMPartsDatabase &database);
     [[nodiscard]] ExitStatus write(OpenDesign &design, const QList<Output> &outputs) const;
 
     DesignArguments m_design;
@@ -60,6 +62,7 @@ private:
     std::string m_ascii;
     std::string m_html;
     std::string m_pdf;
+    std::string m_xlsx;
     std::string m_json;
     std::string m_locale;
     bool m_allowDuplicates = false;
