@@ -203,7 +203,10 @@ void BOMExcelView::writeValue(Spreadsheet &sheet, int column, const Part &part) 
     if (number) {
         sheet.number(at, *number, look, format);
     } else {
-        sheet.text(at, text, look);
+        // Old programs do not show long texts in this format.
+        constexpr qsizetype longestTyped = 255;
+        const bool isTyped = !report->isNumeric && text.size() <= longestTyped;
+        sheet.text(at, text, look, isTyped ? Spreadsheet::textFormat() : QString());
     }
 }
 

@@ -145,7 +145,7 @@ void Spreadsheet::nextRow()
     }
 }
 
-void Spreadsheet::text(int column, const QString &text, CellLook look)
+void Spreadsheet::text(int column, const QString &text, CellLook look, const QString &format)
 {
     if (!isReady(column)) {
         return;
@@ -157,7 +157,7 @@ void Spreadsheet::text(int column, const QString &text, CellLook look)
                              text.left(shown).simplified());
         return;
     }
-    lxw_format *looks = format(look, {});
+    lxw_format *looks = this->format(look, format);
     if (text.isEmpty()) {
         check(worksheet_write_blank(m_sheet, lxw_row_t(m_row), lxw_col_t(column), looks));
         return;
@@ -213,6 +213,8 @@ void Spreadsheet::freezeRow(int row, int lastColumn, int lastRow)
         worksheet_freeze_panes(m_sheet, lxw_row_t(row) + 1, 0);
         check(worksheet_repeat_rows(m_sheet, lxw_row_t(row), lxw_row_t(row)));
         check(worksheet_autofilter(m_sheet, lxw_row_t(row), 0, lxw_row_t(lastRow), lxw_col_t(lastColumn)));
+        check(worksheet_ignore_errors(m_sheet, LXW_IGNORE_NUMBER_STORED_AS_TEXT,
+                                      range(0, 0, lastRow, lastColumn).toLatin1().constData()));
     }
 }
 

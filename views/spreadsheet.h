@@ -60,9 +60,12 @@ public:
     /// Counts from 0.
     [[nodiscard]] int row() const { return m_row; }
 
+    /// The number format that keeps what people type into a cell a text.
+    static QString textFormat() { return QStringLiteral("@"); }
+
     /// These write a cell of the current row. An empty text gives an empty cell in that look, an empty number
     /// format the general one.
-    void text(int column, const QString &text, CellLook look);
+    void text(int column, const QString &text, CellLook look, const QString &format = {});
     void number(int column, double number, CellLook look, const QString &format = {});
     /// `result` is what the formula gives.
     void formula(int column, const QString &formula, double result, CellLook look,
@@ -71,7 +74,7 @@ public:
     [[nodiscard]] bool link(int column, const QUrl &target);
 
     /// Keeps this row of headings, with all above it, in sight and repeats it on every printed page; gives it
-    /// filters for the rows down to `lastRow`.
+    /// filters for the rows down to `lastRow`. Texts that look like numbers are no faults in these.
     void freezeRow(int row, int lastColumn, int lastRow);
 
     /// Cells as formulas name them, rows and columns from 0.
