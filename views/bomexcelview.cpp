@@ -178,7 +178,7 @@ void BOMExcelView::writeLine(Spreadsheet &sheet, const QString &category, BomLin
 {
     sheet.nextRow();
     sheet.text(categoryColumn, category, CellLook::Cell);
-    sheet.number(quantityColumn, double(line.size()), CellLook::Cell);
+    sheet.number(quantityColumn, double(line.size()), CellLook::Quantity);
     for (int i = 0; i < int(m_columns.size()); ++i) {
         writeValue(sheet, i, *line.front());
     }

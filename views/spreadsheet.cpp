@@ -78,6 +78,9 @@ void applyLook(lxw_format *format, CellLook look)
         format_set_bg_color(format, paleFill);
         format_set_bold(format);
         break;
+    case CellLook::Quantity:
+        format_set_align(format, LXW_ALIGN_CENTER);
+        break;
     case CellLook::Link:
         format_set_font_color(format, linkColour);
         format_set_underline(format, LXW_UNDERLINE_SINGLE);

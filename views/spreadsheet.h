@@ -27,6 +27,7 @@ enum class CellLook
     Heading,
     Section,
     Cell,
+    Quantity,
     Link,
     SubTotal,
     Total

@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "tests/cli/programtest.h"
 
+#include <QJsonDocument>
+
 #include <gmock/gmock.h>
 
 namespace {
 
 using testing::HasSubstr;
+using testing::StartsWith;
 
 using Report = ProgramTest;
 
@@ -39,6 +42,60 @@ TEST_F(Report, WritesEachOutputToItsFileAndNothingElse)
                                                  "Resistors,R1,10k,,\n"
                                                  "Resistors,R2,10k,,\n");
     EXPECT_EQ(run("report list.csv --full-csv - --csv lines.csv").out, read(QStringLiteral("parts.csv")));
+}
+
+TEST_F(Report, PrintsTextInColumnsWhenNoOutputIsNamed)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value,COST\nR1,10k,0.5\nR2,10k,0.5\n");
+    const ProgramRun result = run("report list.csv");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.out, StartsWith("Bill Of Materials\n=================\nDesign Title:    list\n"));
+    EXPECT_THAT(result.out, HasSubstr("\nResistors\n---------\n2    R1-R2 "));
+    EXPECT_EQ(run("report list.csv --ascii list.txt").out, "");
+    EXPECT_EQ(read(QStringLiteral("list.txt")), result.out);
+}
+
+TEST_F(Report, AsJsonHoldsLinesAndTotals)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value,CODE,COST\n"
+                                      "R1,10k,\"a\"\"b\\\",0.5\nR2,10k,\"a\"\"b\\\",0.5\nC1,1u,,\n");
+    setEnvironment(QStringLiteral("SOURCE_DATE_EPOCH"), QStringLiteral("1000000000"));
+    const ProgramRun result = run("report list.csv --json -");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.out, StartsWith(R"({"design":{"title":"list","author":"","docno":"","rev":"",)"
+                                       R"("created":"","modified":"2001-09-09 01:46","variant":"",)"
+                                       R"("file":"DIR/list.csv"},)"
+                                       "\n"
+                                       R"("template":"",)"
+                                       "\n"
+                                       R"("columns":["Value","Stock Code","Unit Cost"],)"
+                                       "\n"));
+    EXPECT_THAT(result.out, HasSubstr(R"({"name":"Resistors","parts":2,"lines":[)"
+                                      "\n"
+                                      R"({"quantity":2,"references":["R1","R2"],"text":"R1-R2",)"
+                                      R"("values":["10k","a\"b\\","0.50"]}],)"
+                                      "\n"
+                                      R"("subTotals":["","","1.00"]})"));
+    EXPECT_THAT(result.out, HasSubstr("\n\"totals\":[\"\",\"\",\"1.00\"]\n}\n"));
+    QJsonParseError error;
+    QJsonDocument::fromJson(QByteArray::fromStdString(result.out), &error);
+    EXPECT_EQ(error.error, QJsonParseError::NoError) << error.errorString().toStdString();
+}
+
+TEST_F(Report, AsSpreadsheetIsWrittenOrSaysWhyNot)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\n");
+    setEnvironment(QStringLiteral("SOURCE_DATE_EPOCH"), QStringLiteral("1000000000"));
+    EXPECT_EQ(run("report list.csv --xlsx list.xlsx").status, 0);
+    const std::string file = read(QStringLiteral("list.xlsx"));
+    EXPECT_THAT(file, StartsWith("PK"));
+    EXPECT_EQ(run("report list.csv --xlsx -").out, file);
+    write(QStringLiteral("long.csv"), "Reference,Value\nR1," + QByteArray(40000, 'x') + "\n");
+    const ProgramRun refused = run("report long.csv --xlsx list.xlsx --csv long-lines.csv");
+    EXPECT_EQ(refused.status, 4);
+    EXPECT_THAT(refused.err, StartsWith("bom: list.xlsx: is not written: A cell of a spreadsheet holds "));
+    EXPECT_EQ(read(QStringLiteral("list.xlsx")), file);
+    EXPECT_THAT(read(QStringLiteral("long-lines.csv")), HasSubstr("xxx"));
 }
 
 TEST_F(Report, HoldsThePartsThatOthersDefine)
