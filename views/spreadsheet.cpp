@@ -102,9 +102,13 @@ void applyLook(lxw_format *format, CellLook look)
 } // namespace
 
 Spreadsheet::Spreadsheet(const Properties &properties)
-    : m_path(QFile::encodeName(m_folder.filePath(QStringLiteral("report.xlsx"))))
-    , m_workbook(workbook_new(m_path.constData()))
+    : m_folderName(QFile::encodeName(m_folder.path()))
+    , m_path(m_folderName + "/report.xlsx")
 {
+    // All in one folder: where a disk is full, the library notices that of the file only, not of its parts.
+    lxw_workbook_options options{};
+    options.tmpdir = m_folderName.data();
+    m_workbook = workbook_new_opt(m_path.constData(), &options);
     if (!m_folder.isValid() || !m_workbook) {
         m_problem = tr("No temporary file can be made: %1").arg(m_folder.errorString());
         return;
@@ -308,6 +312,7 @@ void Spreadsheet::setWidths()
 void Spreadsheet::check(int error)
 {
     if (error != LXW_NO_ERROR && m_problem.isEmpty()) {
-        m_problem = QString::fromUtf8(lxw_strerror(lxw_error(error)));
+        m_problem =
+            tr("The spreadsheet cannot be made: %1").arg(QString::fromUtf8(lxw_strerror(lxw_error(error))));
     }
 }

@@ -100,6 +100,7 @@ private:
     void check(int error);
 
     QTemporaryDir m_folder;
+    QByteArray m_folderName;
     QByteArray m_path;
     lxw_workbook *m_workbook = nullptr;
     lxw_worksheet *m_sheet = nullptr;
