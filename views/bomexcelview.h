@@ -41,7 +41,7 @@ private:
     struct Column
     {
         const ReportColumn *report = nullptr;
-        /// Of the numbers; empty where the format is too long and all cells are texts.
+        /// Of the numbers; empty where no format does and all cells are texts.
         QString format;
     };
     /// Where the lines of one category stand, or those of all.

@@ -30,10 +30,12 @@ QString numberFormat(const BOMField &field)
     const QString digits =
         decimals < 1 ? QStringLiteral("General") : QStringLiteral("0.") + QString(decimals, u'0');
     const QString prefix = literal(field.prefix);
-    const QString suffix = literal(field.suffix);
-    if (prefix.isEmpty()) {
-        return digits + suffix;
+    const QString positive = prefix + digits + literal(field.suffix);
+    const QString affixes = field.prefix + field.suffix;
+    if (affixes.contains(u'"')) {
+        // Some programs lose count of the quotes, and then take a semicolon for the end of a section.
+        return affixes.contains(u';') ? QString() : positive;
     }
     // Left alone, a spreadsheet puts the minus sign in front of the prefix.
-    return prefix + digits + suffix + u';' + prefix + u'-' + digits + suffix;
+    return prefix.isEmpty() ? positive : positive + u';' + prefix + u'-' + digits + literal(field.suffix);
 }

@@ -19,10 +19,10 @@ constexpr qsizetype longestLink = 2079;
 constexpr qsizetype longestProperty = 255;
 constexpr qsizetype narrowestColumn = 8;
 constexpr qsizetype widestColumn = 60;
-constexpr lxw_color_t greyFill = 0xE4E8EE;
-constexpr lxw_color_t paleFill = 0xF3F5F8;
-constexpr lxw_color_t linkColour = 0x0563C1;
-constexpr double titleSize = 14;
+/// Fewer characters than in the widest column: lines end where words do.
+constexpr qsizetype wrappedAt = 56;
+/// In points.
+constexpr double tallestRow = 409;
 
 /// XML has no control characters, cells know line feeds only, and a text such as _x0041_ would be read as the
 /// character of that number.
@@ -53,50 +53,6 @@ QByteArray linkBytes(const QUrl &target)
 qsizetype shownCharacters(double number, const QString &format)
 {
     return QString::number(number, 'f', 0).size() + format.section(u';', 0, 0).size();
-}
-
-void applyLook(lxw_format *format, CellLook look)
-{
-    format_set_align(format, LXW_ALIGN_VERTICAL_TOP);
-    switch (look) {
-    case CellLook::Text:
-        format_set_align(format, LXW_ALIGN_LEFT);
-        break;
-    case CellLook::Title:
-        format_set_font_size(format, titleSize);
-        [[fallthrough]];
-    case CellLook::Label:
-        format_set_bold(format);
-        break;
-    case CellLook::Heading:
-        format_set_text_wrap(format);
-        format_set_border(format, LXW_BORDER_THIN);
-        format_set_bg_color(format, greyFill);
-        format_set_bold(format);
-        break;
-    case CellLook::Section:
-        format_set_bg_color(format, paleFill);
-        format_set_bold(format);
-        break;
-    case CellLook::Quantity:
-        format_set_align(format, LXW_ALIGN_CENTER);
-        break;
-    case CellLook::Link:
-        format_set_font_color(format, linkColour);
-        format_set_underline(format, LXW_UNDERLINE_SINGLE);
-        [[fallthrough]];
-    case CellLook::Cell:
-        format_set_text_wrap(format);
-        break;
-    case CellLook::SubTotal:
-        format_set_top(format, LXW_BORDER_THIN);
-        format_set_italic(format);
-        break;
-    case CellLook::Total:
-        format_set_top(format, LXW_BORDER_DOUBLE);
-        format_set_bold(format);
-        break;
-    }
 }
 
 } // namespace
@@ -133,6 +89,7 @@ void Spreadsheet::beginSheet(const QString &name)
 {
     setWidths();
     m_row = 0;
+    m_textLines = 1;
     m_sheet = m_workbook ? workbook_add_worksheet(m_workbook, name.toUtf8().constData()) : nullptr;
     if (!m_sheet) {
         check(LXW_ERROR_MEMORY_MALLOC_FAILED);
@@ -147,6 +104,7 @@ void Spreadsheet::nextRow()
 {
     if (m_row + 1 < LXW_ROW_MAX) {
         ++m_row;
+        m_textLines = 1;
     } else if (m_problem.isEmpty()) {
         m_problem = tr("The report has more rows than a spreadsheet, which holds %1.").arg(LXW_ROW_MAX);
     }
@@ -170,6 +128,9 @@ void Spreadsheet::text(int column, const QString &text, CellLook look, const QSt
         return;
     }
     widen(column, text.size(), look);
+    if (isWrapped(look)) {
+        heighten(text);
+    }
     check(worksheet_write_string(m_sheet, lxw_row_t(m_row), lxw_col_t(column), cellBytes(text).constData(),
                                  looks));
 }
@@ -297,6 +258,22 @@ void Spreadsheet::widen(int column, qsizetype characters, CellLook look)
         m_widths.append(narrowestColumn);
     }
     m_widths[column] = std::max(m_widths[column], std::min(characters, widestColumn));
+}
+
+void Spreadsheet::heighten(const QString &text)
+{
+    if (text.size() <= widestColumn && !text.contains(u'\n')) {
+        return;
+    }
+    qsizetype lines = 0;
+    for (const QStringView line : QStringView(text).split(u'\n')) {
+        lines += std::max<qsizetype>(1, (line.size() + wrappedAt - 1) / wrappedAt);
+    }
+    if (lines > m_textLines) {
+        m_textLines = lines;
+        const double height = std::min(double(lines) * LXW_DEF_ROW_HEIGHT, tallestRow);
+        check(worksheet_set_row(m_sheet, lxw_row_t(m_row), height, nullptr));
+    }
 }
 
 void Spreadsheet::setWidths()

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "views/celllook.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QDateTime>
@@ -13,25 +15,9 @@
 #include <map>
 #include <utility>
 
-struct lxw_format;
 struct lxw_workbook;
 struct lxw_worksheet;
 class QUrl;
-
-/// How a cell looks.
-enum class CellLook
-{
-    Text,
-    Title,
-    Label,
-    Heading,
-    Section,
-    Cell,
-    Quantity,
-    Link,
-    SubTotal,
-    Total
-};
 
 /// An .xlsx file that is written row by row, each sheet after the one before. Texts stay texts, whatever they
 /// look like. What the format cannot hold becomes the problem of the whole file.
@@ -96,6 +82,8 @@ private:
     [[nodiscard]] bool isReady(int column);
     [[nodiscard]] lxw_format *format(CellLook look, const QString &numbers);
     void widen(int column, qsizetype characters, CellLook look);
+    /// Makes the row high enough for a text that is wrapped in its cell.
+    void heighten(const QString &text);
     void setWidths();
     void check(int error);
 
@@ -107,6 +95,8 @@ private:
     std::map<FormatKey, lxw_format *> m_formats;
     QList<qsizetype> m_widths;
     int m_row = 0;
+    /// Of the current row.
+    qsizetype m_textLines = 1;
     int m_links = 0;
     int m_missingLinks = 0;
     int m_longLinks = 0;

@@ -106,6 +106,10 @@ TEST_F(Excel, showsNumbersAsTheFieldSays)
     field.precision = 3;
     field.suffix = u" \"each\""_s;
     EXPECT_EQ(numberFormat(field), uR"(0.000" "\""each"\")"_s);
+    field.prefix = u"$"_s;
+    EXPECT_EQ(numberFormat(field), uR"("$"0.000" "\""each"\")"_s);
+    field.prefix = u";"_s;
+    EXPECT_EQ(numberFormat(field), QString());
     field.precision = 100;
     field.suffix.clear();
     field.prefix = u"$;"_s;
@@ -176,6 +180,7 @@ TEST_F(Excel, neverCutsTexts)
     EXPECT_EQ(file.cells.value(u"C8"_s).value + file.cells.value(u"C9"_s).value,
               QString::fromLatin1(references.mid(1)));
     EXPECT_FALSE(file.cells.contains(u"B9"_s));
+    EXPECT_GT(file.attributes.value(u"row.ht"_s).toDouble(), 100) << "wrapped texts need high rows";
     EXPECT_EQ(file.cells.value(u"F10"_s).formula, u"SUMPRODUCT(B8:B9,F8:F9)"_s);
 
     netlist.add("C1", QByteArray(32768, 'x'));
