@@ -2,7 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "cli/jsonwriter.h"
 
+#include <algorithm>
 #include <cstdio>
+
+namespace {
+
+constexpr bool needsEscape(char c)
+{
+    return c == '"' || c == '\\' || uchar(c) < 0x20 || c == 0x7f;
+}
+
+} // namespace
 
 void JsonWriter::key(QStringView name)
 {
@@ -16,6 +26,13 @@ void JsonWriter::text(QStringView value)
 {
     separate();
     append(value);
+    m_needsComma = true;
+}
+
+void JsonWriter::number(qint64 value)
+{
+    separate();
+    m_bytes += QByteArray::number(value);
     m_needsComma = true;
 }
 
@@ -57,17 +74,27 @@ void JsonWriter::append(QStringView text)
 {
     m_bytes += '"';
     const QByteArray utf8 = text.toUtf8();
-    for (const char c : utf8) {
-        if (c == '"' || c == '\\') {
-            m_bytes += '\\';
-            m_bytes += c;
-        } else if (uchar(c) < 0x20 || c == 0x7f) {
-            char escape[7];
-            std::snprintf(escape, sizeof escape, "\\u%04x", unsigned(uchar(c)));
-            m_bytes += escape;
-        } else {
-            m_bytes += c;
+    auto begin = utf8.begin();
+    while (begin != utf8.end()) {
+        const auto end = std::find_if(begin, utf8.end(), needsEscape);
+        m_bytes.append(begin, end - begin);
+        if (end == utf8.end()) {
+            break;
         }
+        appendEscaped(*end);
+        begin = end + 1;
     }
     m_bytes += '"';
+}
+
+void JsonWriter::appendEscaped(char c)
+{
+    if (c == '"' || c == '\\') {
+        m_bytes += '\\';
+        m_bytes += c;
+        return;
+    }
+    char escape[7];
+    std::snprintf(escape, sizeof escape, "\\u%04x", unsigned(uchar(c)));
+    m_bytes += escape;
 }

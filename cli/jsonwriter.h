@@ -6,7 +6,7 @@
 #include <QString>
 
 /// Writes JSON text in the order in which it is told, without building the document first. Keys and texts are
-/// escaped; numbers and layout are the caller's.
+/// escaped; layout is the caller's.
 class JsonWriter final
 {
 public:
@@ -16,6 +16,7 @@ public:
     void endArray() { close(']'); }
     void key(QStringView name);
     void text(QStringView value);
+    void number(qint64 value);
     /// A key with its text.
     void entry(QStringView name, QStringView value);
     /// Begins a new line before what comes next.
@@ -28,6 +29,7 @@ private:
     void open(char bracket);
     void close(char bracket);
     void append(QStringView text);
+    void appendEscaped(char c);
 
     QByteArray m_bytes;
     bool m_needsComma = false;

@@ -3,6 +3,7 @@
 #include "cli/partscommand.h"
 
 #include "cli/console.h"
+#include "cli/designjson.h"
 #include "cli/jsonwriter.h"
 #include "cli/opendesign.h"
 #include "cli/partslisting.h"
@@ -11,22 +12,6 @@
 #include <utility>
 
 namespace {
-
-void writeDesign(JsonWriter &json, OpenDesign &design)
-{
-    const BOMPartsDatabase &database = design.database();
-    json.key(u"design");
-    json.beginObject();
-    json.entry(u"title", database.designTitle());
-    json.entry(u"author", database.designAuthor());
-    json.entry(u"docno", database.designDocumentNumber());
-    json.entry(u"rev", database.designRevision());
-    json.entry(u"created", database.designCreated());
-    json.entry(u"modified", database.designModified());
-    json.entry(u"variant", database.designVariant());
-    json.entry(u"file", database.designInfo("FILENAME"));
-    json.endObject();
-}
 
 void writePart(JsonWriter &json, const ListedPart &part)
 {
@@ -65,7 +50,7 @@ QByteArray jsonText(OpenDesign &design, const PartsListing &listing)
 {
     JsonWriter json;
     json.beginObject();
-    writeDesign(json, design);
+    writeDesign(json, design.database());
     writeParts(json, u"parts", listing.parts);
     writeParts(json, u"skipped", listing.skipped);
     writeParts(json, u"duplicates", listing.duplicates);

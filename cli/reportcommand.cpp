@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "cli/reportcommand.h"
 
+#include "cli/bomjsonview.h"
 #include "cli/console.h"
 #include "cli/opendesign.h"
 #include "cli/outputfile.h"
 #include "cli/referencetext.h"
 #include "cli/reportnotices.h"
 #include "host/propdefs/propdefsfile.h"
+#include "views/bomasciiview.h"
 #include "views/bomcsvview.h"
+#include "views/bomexcelview.h"
 #include "views/bomhtmlview.h"
 
 #include <QFileInfo>
@@ -49,23 +52,27 @@ void tell(const QStringList &notices)
 
 } // namespace
 
-const std::array<ReportCommand::OutputOption, 4> &ReportCommand::outputOptions()
+const std::array<ReportCommand::OutputOption, 7> &ReportCommand::outputOptions()
 {
-    static const std::array<OutputOption, 4> options{{
+    static const std::array<OutputOption, 7> options{{
         {"--csv", "Write CSV with one row per line of the bill; - is standard output", Form::Csv,
          &ReportCommand::m_csv},
         {"--full-csv", "Write CSV with one row per part; - is standard output", Form::FullCsv,
          &ReportCommand::m_fullCsv},
+        {"--ascii", "Write text in columns of fixed widths; - is standard output", Form::Ascii,
+         &ReportCommand::m_ascii},
         {"--html", "Write a web page (XHTML); - is standard output", Form::Html, &ReportCommand::m_html},
         {"--pdf", "Write a PDF document; - is standard output", Form::Pdf, &ReportCommand::m_pdf},
+        {"--xlsx", "Write a spreadsheet (.xlsx); - is standard output", Form::Xlsx, &ReportCommand::m_xlsx},
+        {"--json", "Write JSON for programs; - is standard output", Form::Json, &ReportCommand::m_json},
     }};
     return options;
 }
 
 void ReportCommand::addTo(CLI::App &program)
 {
-    m_app = program.add_subcommand("report", "Write the bill of materials; the CSV goes to standard output "
-                                             "when no output is named");
+    m_app = program.add_subcommand("report", "Write the bill of materials; text in columns goes to standard "
+                                             "output when no output is named");
     m_design.addTo(*m_app);
     for (const OutputOption &option : outputOptions()) {
         m_app->add_option(option.name, this->*option.path, option.description)->type_name("F");
@@ -116,7 +123,7 @@ QList<ReportCommand::Output> ReportCommand::outputs() const
         }
     }
     if (outputs.isEmpty()) {
-        outputs.append({QStringLiteral("-"), Form::Csv});
+        outputs.append({QStringLiteral("-"), Form::Ascii});
     }
     return outputs;
 }
@@ -222,9 +229,34 @@ QByteArray ReportCommand::content(Form form, BOMPartsDatabase &database)
         view.setPartsDatabase(&database);
         return view.csv();
     }
+    if (form == Form::Ascii) {
+        BOMAsciiView view;
+        view.setPartsDatabase(&database);
+        return view.ascii();
+    }
+    if (form == Form::Json) {
+        BOMJsonView view;
+        view.setPartsDatabase(&database);
+        return view.json();
+    }
     BOMHTMLView view;
     view.setPartsDatabase(&database);
     return form == Form::Pdf ? view.pdf() : view.html().toUtf8();
+}
+
+bool ReportCommand::writeSpreadsheet(const QString &path, BOMPartsDatabase &database)
+{
+    BOMExcelView view;
+    view.setPartsDatabase(&database);
+    const QByteArray file = view.xlsx();
+    if (!view.problem().isEmpty()) {
+        console::message(path + QStringLiteral(": is not written: ") + view.problem());
+        return false;
+    }
+    for (const QString &notice : view.notices()) {
+        console::message(path + QStringLiteral(": ") + notice);
+    }
+    return writeOutput(path, file);
 }
 
 ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs) const
@@ -236,7 +268,10 @@ ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs
             status = ExitStatus::UnwritableOutput;
             continue;
         }
-        if (!writeOutput(output.path, content(output.form, design.database()))) {
+        const bool isWritten = output.form == Form::Xlsx
+                                   ? writeSpreadsheet(output.path, design.database())
+                                   : writeOutput(output.path, content(output.form, design.database()));
+        if (!isWritten) {
             status = ExitStatus::UnwritableOutput;
         }
     }

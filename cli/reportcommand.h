@@ -26,8 +26,11 @@ private:
     {
         Csv,
         FullCsv,
+        Ascii,
         Html,
-        Pdf
+        Pdf,
+        Xlsx,
+        Json
     };
     struct Output
     {
@@ -42,7 +45,7 @@ private:
         Form form;
         std::string ReportCommand::*path;
     };
-    [[nodiscard]] static const std::array<OutputOption, 4> &outputOptions();
+    [[nodiscard]] static const std::array<OutputOption, 7> &outputOptions();
 
     [[nodiscard]] QList<Output> outputs() const;
     [[nodiscard]] static bool areDistinct(const QList<Output> &outputs);
@@ -52,13 +55,17 @@ private:
     /// Notes that cannot be read are missing in the documents.
     static void tellMissingNotes(OpenDesign &design, const QList<Output> &outputs);
     [[nodiscard]] static QByteArray content(Form form, BOMPartsDatabase &database);
+    [[nodiscard]] static bool writeSpreadsheet(const QString &path, BOMPartsDatabase &database);
     [[nodiscard]] ExitStatus write(OpenDesign &design, const QList<Output> &outputs) const;
 
     DesignArguments m_design;
     std::string m_csv;
     std::string m_fullCsv;
+    std::string m_ascii;
     std::string m_html;
     std::string m_pdf;
+    std::string m_xlsx;
+    std::string m_json;
     std::string m_locale;
     bool m_allowDuplicates = false;
 };

@@ -3,12 +3,8 @@
 #include "views/bomcsvview.h"
 
 #include "core/bompartsdatabase.h"
-#include "host/framework/hostui.h"
-#include "host/framework/reportfile.h"
 #include "views/csvtext.h"
-
-#include <QFileInfo>
-#include <QUrl>
+#include "views/savereport.h"
 
 BOMCsvView::BOMCsvView(QWidget *parent, bool full)
     : BOMView(parent)
@@ -22,20 +18,10 @@ void BOMCsvView::writeOutput()
         return;
     }
     updateFields();
-    HostUi &ui = HostUi::current();
-    const QString path =
-        ui.saveFileName(this, tr("CSV file to save"), database()->defaultOutputPath(QStringLiteral(".csv")),
-                        tr("Comma Separated Variables (*.csv)"));
-    if (path.isEmpty()) {
-        return;
-    }
-    QString reason;
-    const ReportFileResult result = writeReportFile(path, csv(), &reason);
-    if (result != ReportFileResult::Written) {
-        ui.warning(this, tr("Output Failed"), reportFileMessage(result, path, reason));
-        return;
-    }
-    ui.openUrl(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
+    saveReport(this,
+               {tr("CSV file to save"), database()->defaultOutputPath(QStringLiteral(".csv")),
+                tr("Comma Separated Variables (*.csv)")},
+               [this] { return csv(); });
 }
 
 QByteArray BOMCsvView::csv()

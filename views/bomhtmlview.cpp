@@ -5,7 +5,6 @@
 #include "core/bompartsdatabase.h"
 #include "host/framework/applnprocess.h"
 #include "host/framework/hostui.h"
-#include "host/framework/reportfile.h"
 #include "host/richtext/pagegeometry.h"
 #include "host/richtext/pdfoutput.h"
 #include "host/richtext/stylesheet.h"
@@ -13,6 +12,7 @@
 #include "host/richtext/xmltext.h"
 #include "views/htmltext.h"
 #include "views/reportlink.h"
+#include "views/savereport.h"
 
 #include <QFileInfo>
 #include <QPainter>
@@ -88,21 +88,14 @@ void BOMHTMLView::saveHTML()
         handleBOMDataUpdate();
     }
     const QString html = textEdit()->document()->getHtml();
-    HostUi &ui = HostUi::current();
     const QString path =
-        ui.saveFileName(this, tr("HTML file to save"), database()->defaultOutputPath(QStringLiteral(".html")),
-                        tr("Web pages (*.html *.htm)"));
-    if (path.isEmpty()) {
-        return;
+        saveReport(this,
+                   {tr("HTML file to save"), database()->defaultOutputPath(QStringLiteral(".html")),
+                    tr("Web pages (*.html *.htm)")},
+                   [&html] { return html.toUtf8(); });
+    if (!path.isEmpty()) {
+        setProperty("ExportFileName", path);
     }
-    QString reason;
-    const ReportFileResult result = writeReportFile(path, html.toUtf8(), &reason);
-    if (result != ReportFileResult::Written) {
-        ui.warning(this, tr("Output Failed"), reportFileMessage(result, path, reason));
-        return;
-    }
-    setProperty("ExportFileName", path);
-    ui.openUrl(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
 }
 
 void BOMHTMLView::prepareOutput()

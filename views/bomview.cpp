@@ -146,12 +146,15 @@ QString BOMView::formatCell(const QString &value, const ReportColumn &column) co
     QString text = value;
     if (isQuoted(value)) {
         text = value.mid(1, std::max<qsizetype>(value.size() - 2, 0));
-    } else if (column.isNumeric) {
-        if (const auto number = readNumber(value)) {
-            text = numberText(*number, column.field);
-        }
+    } else if (const auto number = shownNumber(value, column)) {
+        text = numberText(*number, column.field);
     }
     return withAffixes(text, column.field);
+}
+
+std::optional<double> BOMView::shownNumber(const QString &value, const ReportColumn &column) const
+{
+    return column.isNumeric && !isQuoted(value) ? readNumber(value) : std::nullopt;
 }
 
 QString BOMView::truncated(const QString &value, const BOMField &field)

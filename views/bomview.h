@@ -77,6 +77,14 @@ protected:
     /// A value as the report shows it: numbers in the user's format, prefix and suffix around it.
     [[nodiscard]] virtual QString formatCell(const QString &value, const ReportColumn &column) const;
 
+    /// The number that a cell shows; nothing for text, quoted numbers too.
+    [[nodiscard]] std::optional<double> shownNumber(const QString &value, const ReportColumn &column) const;
+
+    /// Adds the totals of a category, one per field; 0 for a field without totals.
+    void addToSums(const QString &category, std::vector<double> &sums) const;
+    /// Such totals as the report shows them.
+    [[nodiscard]] QStringList totalsRow(const std::vector<double> &sums) const;
+
     [[nodiscard]] static QString truncated(const QString &value, const BOMField &field);
 
     [[nodiscard]] bool isValid() const { return m_isValid; }
@@ -95,8 +103,6 @@ protected:
 private:
     [[nodiscard]] std::optional<double> readNumber(const QString &text) const;
     [[nodiscard]] QString numberText(double number, const BOMField &field) const;
-    void addToSums(const QString &category, std::vector<double> &sums) const;
-    [[nodiscard]] QStringList totalsRow(const std::vector<double> &sums) const;
 
     BOMPartsDatabase *m_database = nullptr;
     BOMFields m_fields;

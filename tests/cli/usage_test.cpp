@@ -119,7 +119,7 @@ TEST_F(Usage, AnOutputThatCannotBeWrittenIsNamedAndStatusFour)
     write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
     ASSERT_TRUE(QDir(path(QString())).mkdir(QStringLiteral("folder")));
     for (const char *output : {"/nonexistent/x.csv", "/dev/full", "folder"}) {
-        for (const char *option : {"--csv", "--full-csv"}) {
+        for (const char *option : {"--csv", "--full-csv", "--ascii", "--xlsx", "--json"}) {
             const std::string arguments = std::string("report a.csv ") + option + ' ' + output;
             const ProgramRun result = run(arguments.c_str());
             EXPECT_EQ(result.status, 4) << arguments;
