@@ -210,7 +210,7 @@ void ReportCommand::tellMissingNotes(OpenDesign &design, const QList<Output> &ou
                            [form](const Output &output) { return output.form == form; });
     };
     QStringList problems;
-    if (hasForm(Form::Html) || hasForm(Form::Pdf)) {
+    if (hasForm(Form::Html) || hasForm(Form::Pdf) || hasForm(Form::Xlsx)) {
         problems.append(design.session().document().notesProblem());
     }
     if (hasForm(Form::Pdf) && design.database().currentTemplate().appendNotes()) {
