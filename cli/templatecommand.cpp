@@ -95,8 +95,8 @@ ExitStatus TemplateCommand::show(TemplateStore &)
 ExitStatus TemplateCommand::create(TemplateStore &store)
 {
     const QString name = QString::fromStdString(m_name).trimmed();
-    auto settings = m_from.empty() ? std::optional(BOMTemplate())
-                                   : readTemplate(QString::fromStdString(m_from));
+    auto settings =
+        m_from.empty() ? std::optional(BOMTemplate()) : readTemplate(QString::fromStdString(m_from));
     if (!settings) {
         return ExitStatus::UnreadableInput;
     }
