@@ -160,6 +160,13 @@ void TemplateStore::removeLegacyEntry(const QString &name) const
     // Removing the empty key would remove every entry of the group.
     if (m_legacySettings && !name.isEmpty()) {
         m_legacySettings->remove(name);
+        m_legacySettings->sync();
+        if (m_legacySettings->status() != QSettings::NoError) {
+            const QString file = m_legacySettings->fileName();
+            showTemplateMessage({tr("Template Deletion"),
+                                 tr("The old settings file '%1' still holds the template.").arg(file),
+                                 file + QStringLiteral(": cannot be written")});
+        }
     }
 }
 
