@@ -174,7 +174,9 @@ void TemplateStore::makeCurrent(const QString &name)
 {
     m_currentName = name;
     if (m_working) {
-        m_working->takeTemplate(m_templates.value(name));
+        BOMTemplate settings = m_templates.value(name);
+        settings.setLegacySettings(nullptr); // it does not outlive a reload
+        m_working->takeTemplate(settings);
     }
     HostSettings::current().setValue(settingsGroup, currentKey, name);
     setModified(false);
