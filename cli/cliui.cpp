@@ -32,6 +32,12 @@ bool CliUi::question(QWidget *, const QString &, const QString &text, bool)
     return false;
 }
 
+HostUi::SaveAnswer CliUi::saveQuestion(QWidget *, const QString &, const QString &text, bool withCancel)
+{
+    console::message(text + QStringLiteral(" No."));
+    return withCancel ? SaveAnswer::Cancel : SaveAnswer::Discard;
+}
+
 QString CliUi::saveFileName(QWidget *, const QString &, const QString &, const QString &)
 {
     return {};

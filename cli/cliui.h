@@ -18,6 +18,9 @@ public:
     /// No, always; what was not asked for by an option is not done.
     [[nodiscard]] bool question(QWidget *parent, const QString &title, const QString &text,
                                 bool defaultYes) override;
+    /// Discards: a command that changes settings saves them itself.
+    [[nodiscard]] SaveAnswer saveQuestion(QWidget *parent, const QString &title, const QString &text,
+                                          bool withCancel) override;
     [[nodiscard]] QString saveFileName(QWidget *parent, const QString &caption, const QString &path,
                                        const QString &filter) override;
     [[nodiscard]] QString openFileName(QWidget *parent, const QString &caption, const QString &path,

@@ -10,6 +10,10 @@ public:
     void information(QWidget *, const QString &, const QString &) override {}
     void warning(QWidget *, const QString &, const QString &) override {}
     bool question(QWidget *, const QString &, const QString &, bool) override { return false; }
+    SaveAnswer saveQuestion(QWidget *, const QString &, const QString &, bool withCancel) override
+    {
+        return withCancel ? SaveAnswer::Cancel : SaveAnswer::Discard;
+    }
     QString saveFileName(QWidget *, const QString &, const QString &, const QString &) override { return {}; }
     QString openFileName(QWidget *, const QString &, const QString &, const QString &) override { return {}; }
     bool openUrl(const QUrl &) override { return false; }

@@ -15,6 +15,13 @@ class QWidget;
 class HostUi
 {
 public:
+    enum class SaveAnswer
+    {
+        Save,
+        Discard,
+        Cancel
+    };
+
     HostUi() = default;
     HostUi(const HostUi &) = delete;
     HostUi &operator=(const HostUi &) = delete;
@@ -26,6 +33,11 @@ public:
     /// A Yes/No question; true for Yes. `defaultYes` is what a bare Return answers.
     [[nodiscard]] virtual bool question(QWidget *parent, const QString &title, const QString &text,
                                         bool defaultYes) = 0;
+
+    /// What to do with unsaved changes: Save, which is what a bare Return answers, Discard, and `withCancel`
+    /// Cancel.
+    [[nodiscard]] virtual SaveAnswer saveQuestion(QWidget *parent, const QString &title, const QString &text,
+                                                  bool withCancel) = 0;
 
     /// The file to write or read, empty when the user cancels.
     [[nodiscard]] virtual QString saveFileName(QWidget *parent, const QString &caption, const QString &path,
@@ -41,8 +53,8 @@ public:
     /// The format in which numbers are shown and read.
     [[nodiscard]] virtual QLocale locale() const = 0;
 
-    /// The installed one. Before any is installed: a silent one that answers No and cancels, with the
-    /// system's clock and the C number format.
+    /// The installed one. Before any is installed: a silent one that answers No, cancels or discards,
+    /// with the system's clock and the C number format.
     [[nodiscard]] static HostUi &current();
 
     /// Installs `ui`, which stays owned by the caller; null goes back to the silent one.

@@ -23,6 +23,22 @@ bool QtHostUi::question(QWidget *parent, const QString &title, const QString &te
     return answer == QMessageBox::Yes;
 }
 
+HostUi::SaveAnswer QtHostUi::saveQuestion(QWidget *parent, const QString &title, const QString &text,
+                                          bool withCancel)
+{
+    QMessageBox::StandardButtons buttons = QMessageBox::Save | QMessageBox::Discard;
+    buttons.setFlag(QMessageBox::Cancel, withCancel);
+    // Closing a box that has no Cancel must not throw changes away.
+    switch (QMessageBox::question(parent, title, text, buttons, QMessageBox::Save)) {
+    case QMessageBox::Discard:
+        return SaveAnswer::Discard;
+    case QMessageBox::Cancel:
+        return SaveAnswer::Cancel;
+    default:
+        return SaveAnswer::Save;
+    }
+}
+
 QString QtHostUi::saveFileName(QWidget *parent, const QString &caption, const QString &path,
                                const QString &filter)
 {

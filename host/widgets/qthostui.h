@@ -12,6 +12,8 @@ public:
     void information(QWidget *parent, const QString &title, const QString &text) override;
     void warning(QWidget *parent, const QString &title, const QString &text) override;
     bool question(QWidget *parent, const QString &title, const QString &text, bool defaultYes) override;
+    SaveAnswer saveQuestion(QWidget *parent, const QString &title, const QString &text,
+                            bool withCancel) override;
     QString saveFileName(QWidget *parent, const QString &caption, const QString &path,
                          const QString &filter) override;
     QString openFileName(QWidget *parent, const QString &caption, const QString &path,

@@ -33,6 +33,7 @@ public:
 
     /// The answers; an empty file name is a cancelled dialog.
     bool answer = false;
+    SaveAnswer saveAnswer = SaveAnswer::Cancel;
     QString fileName;
     bool opensUrls = true;
     QDateTime clock = QDateTime(QDate(2026, 1, 2), QTime(3, 4, 5), Qt::UTC);
@@ -42,6 +43,7 @@ public:
     QList<Message> informations;
     QList<Message> warnings;
     QList<Message> questions;
+    QList<Message> saveQuestions;
     QList<FileRequest> fileRequests;
     QList<QUrl> openedUrls;
 
@@ -57,6 +59,11 @@ public:
     {
         questions.append({title, text});
         return answer;
+    }
+    SaveAnswer saveQuestion(QWidget *, const QString &title, const QString &text, bool withCancel) override
+    {
+        saveQuestions.append({title, text});
+        return saveAnswer == SaveAnswer::Cancel && !withCancel ? SaveAnswer::Discard : saveAnswer;
     }
     QString saveFileName(QWidget *, const QString &caption, const QString &path,
                          const QString &filter) override

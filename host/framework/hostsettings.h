@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QString>
+
+#include <optional>
+
+/// What the program remembers between runs: texts under a key in a group. A desktop program installs settings
+/// that are kept (IniHostSettings); before that they are forgotten with the process, which is what tests and
+/// the command line want.
+class HostSettings
+{
+public:
+    HostSettings() = default;
+    HostSettings(const HostSettings &) = delete;
+    HostSettings &operator=(const HostSettings &) = delete;
+    virtual ~HostSettings() = default;
+
+    /// Nothing for a key that was never set.
+    [[nodiscard]] virtual std::optional<QString> value(const QString &group, const QString &key) const = 0;
+    virtual void setValue(const QString &group, const QString &key, const QString &value) = 0;
+
+    /// The installed ones, else ones in memory.
+    [[nodiscard]] static HostSettings &current();
+
+    /// Installs `settings`, which stay owned by the caller; null goes back to the ones in memory.
+    static void install(HostSettings *settings);
+};
+
+/// Settings that live as long as the object.
+class MemoryHostSettings final : public HostSettings
+{
+public:
+    [[nodiscard]] std::optional<QString> value(const QString &group, const QString &key) const override;
+    void setValue(const QString &group, const QString &key, const QString &value) override;
+
+private:
+    QHash<QString, QHash<QString, QString>> m_groups;
+};
