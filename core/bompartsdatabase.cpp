@@ -211,6 +211,12 @@ bool BOMPartsDatabase::setTemplateLayout(const BOMTemplate &settings)
     return true;
 }
 
+void BOMPartsDatabase::restoreTemplateLayout(const BOMTemplate &settings, bool wasModified)
+{
+    setTemplateLayout(settings);
+    Q_EMIT currentTemplateModified(wasModified);
+}
+
 void BOMPartsDatabase::updatePropertyTypes()
 {
     m_propertyTypes.load();

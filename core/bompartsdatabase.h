@@ -146,9 +146,11 @@ public:
     /// Takes over style sheet, header, footer and old HTML file of another template, which change no line.
     void setTemplateLook(const BOMTemplate &settings);
     /// Takes over the column widths, ManualPrettyLayout, AlwaysQuoteRefs, ExcludeValueField and
-    /// CaseSensitiveGrouping of another template; only a change of the last one groups anew. A column takes the
-    /// widths of the field of its name. False, and no notice, when nothing differs.
+    /// CaseSensitiveGrouping of another template; only a change of the last one groups anew. A column takes
+    /// the widths of the field of its name. False, and no notice, when nothing differs.
     bool setTemplateLayout(const BOMTemplate &settings);
+    /// The same to go back to what was there before, with a notice of whether that was modified.
+    void restoreTemplateLayout(const BOMTemplate &settings, bool wasModified);
     /// What the working template lacked when it was set, one sentence each.
     [[nodiscard]] const QStringList &templateRepairs() const { return m_templateRepairs; }
     [[nodiscard]] const BOMFields &fields() const { return m_fields; }

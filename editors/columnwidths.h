@@ -14,7 +14,7 @@ struct WidthRange
 /// Leaves every other one of `columns` columns its least width.
 [[nodiscard]] WidthRange columnWidthRange(qsizetype columns);
 
-/// Percentages that fill the table after the column at `changed` was given its width: the columns to its right
-/// take up what is over or give what is missing, within their range. What they cannot give, the changed column
-/// gives back. The widths are within their range.
+/// Percentages that fill the table after the column at `changed` was given its width: the columns to its
+/// right take up what is over or give what is missing, within their range. What they cannot give, the changed
+/// column gives back. The widths are within their range.
 [[nodiscard]] QList<int> balancedWidths(QList<int> widths, qsizetype changed);

@@ -62,18 +62,18 @@ public:
     [[nodiscard]] bool isModified() const { return m_isModified; }
     void setModified(bool modified);
 
-    /// Makes the template current and remembers it; an unknown name makes one with default settings, which has
-    /// no file yet. Asks first what to do with unsaved changes. Nothing happens for an empty name. When the
-    /// changes could not be saved, false: the old one stays current.
+    /// Makes the template current and remembers it; an unknown name makes one with default settings, which
+    /// has no file yet. Asks first what to do with unsaved changes. Nothing happens for an empty name. When
+    /// the changes could not be saved, false: the old one stays current.
     bool select(const QString &name);
 
     /// Writes the working settings under a name, always into the primary folder.
     bool save(const QString &name);
     bool saveCurrent() { return save(m_currentName); }
 
-    /// Takes the name that the user entered, without the blanks around it, saves the working settings under it
-    /// and makes it current. Refuses empty names, names that are taken (ignoring case), and names that cannot
-    /// be file names.
+    /// Takes the name that the user entered, without the blanks around it, saves the working settings under
+    /// it and makes it current. Refuses empty names, names that are taken (ignoring case), and names that
+    /// cannot be file names.
     bool createTemplate(const QString &enteredName);
 
     /// Saves a finished template under its own name and selects it. Refuses like createTemplate().
@@ -101,7 +101,8 @@ public:
     /// Asks whether unsaved changes are to be saved. The caller does what was answered.
     [[nodiscard]] HostUi::SaveAnswer askToSave(bool withCancel) const;
 
-    /// Whether the import of legacy scripts was never offered to this user (settings key "BomScriptsImported").
+    /// Whether the import of legacy scripts was never offered to this user (settings key
+    /// "BomScriptsImported").
     [[nodiscard]] static bool isLegacyImportPending();
     /// Records that it was.
     static void setLegacyImportDone();
