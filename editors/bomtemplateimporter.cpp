@@ -6,6 +6,7 @@
 #include "host/framework/hostui.h"
 #include "templates/legacyimport.h"
 #include "templates/templatestore.h"
+#include "templates/undefinedproperties.h"
 #include "ui_bomtemplateimporter.h"
 
 #include <QDir>

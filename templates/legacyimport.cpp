@@ -2,19 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "templates/legacyimport.h"
 
-#include "host/propdefs/propdefsfile.h"
 #include "templates/templatestore.h"
 
 #include <QCoreApplication>
-
-namespace {
-
-bool isBuiltIn(const QString &property)
-{
-    return property.startsWith(u'.') || property.compare(QLatin1String("VALUE"), Qt::CaseInsensitive) == 0;
-}
-
-} // namespace
 
 QString proposedTemplateName(const QString &scriptName, const TemplateStore &store)
 {
@@ -22,21 +12,4 @@ QString proposedTemplateName(const QString &scriptName, const TemplateStore &sto
                              ? QCoreApplication::translate("BOMTemplateImporter", "Imported Template")
                              : scriptName;
     return store.contains(name) ? name + QStringLiteral("-copy") : name;
-}
-
-QStringList undefinedProperties(const BOMTemplate &settings)
-{
-    DIDX known;
-    if (!load_defaultdefs(&known, nullptr)) {
-        return {};
-    }
-    QStringList undefined;
-    for (const BOMField &field : settings.fields().fields()) {
-        const QString &name = field.propertyName;
-        // What was met counts as known from then on.
-        if (!name.isEmpty() && !isBuiltIn(name) && known.add({name, PropType::String, {}})) {
-            undefined.append(name);
-        }
-    }
-    return undefined;
 }

@@ -3,15 +3,8 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
-class BOMTemplate;
 class TemplateStore;
 
 /// The name under which a legacy script is offered for import, "-copy" behind it when the store has it.
 [[nodiscard]] QString proposedTemplateName(const QString &scriptName, const TemplateStore &store);
-
-/// The properties of the template's fields that have no definition, each once, in column order. Those that
-/// every part has without one, VALUE and the pseudo-properties with a full stop, are not among them. None
-/// when the definitions cannot be read.
-[[nodiscard]] QStringList undefinedProperties(const BOMTemplate &settings);
