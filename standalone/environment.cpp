@@ -21,6 +21,17 @@ QString userDataFolder(const QString &application)
            application.toLower();
 }
 
+QString userTemplatesFolder()
+{
+    return userDataFolder(QStringLiteral("BOM")) + QStringLiteral("/templates");
+}
+
+QString userSettingsFile()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/bom/bom.ini");
+}
+
 QString userDefinitionsFile()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +

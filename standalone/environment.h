@@ -14,5 +14,11 @@
 /// The folder that holds the user's files for an application such as "BOM". It need not exist.
 [[nodiscard]] QString userDataFolder(const QString &application);
 
+/// The folder of the user's BOM templates. It need not exist.
+[[nodiscard]] QString userTemplatesFolder();
+
+/// The file that remembers the window's settings. It need not exist.
+[[nodiscard]] QString userSettingsFile();
+
 /// The user's property definitions, PROPDEFS.INI in the configuration folder. It need not exist.
 [[nodiscard]] QString userDefinitionsFile();

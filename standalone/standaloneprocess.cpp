@@ -42,7 +42,8 @@ QString StandaloneProcess::getbinpath() const
 
 QString StandaloneProcess::getdatapath(const char *application) const
 {
-    return userDataFolder(fromHostText(application));
+    const QString name = fromHostText(application);
+    return name == QStringLiteral("Templates") ? userTemplatesFolder() : userDataFolder(name);
 }
 
 IMODULE *StandaloneProcess::getmoduleinterface(const char *application, unsigned id)

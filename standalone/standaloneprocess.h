@@ -23,6 +23,7 @@ public:
     [[nodiscard]] APPLNOBJECT *currentobject(const char *name, int kind) override;
     [[nodiscard]] ProjectNotes &projectNotes() { return m_projectNotes; }
     [[nodiscard]] QString getbinpath() const override;
+    /// The templates stand in the folder of "BOM".
     [[nodiscard]] QString getdatapath(const char *application) const override;
     /// The application "ORIN" offers the netlist server.
     [[nodiscard]] IMODULE *getmoduleinterface(const char *application, unsigned id) override;

@@ -78,8 +78,14 @@ bool BOMTemplateFile::writeXmlFile(const QVariantMap &map)
     QSaveFile file(m_filePath);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
         return fail(file.errorString());
+    if (!writeDocument(file, map))
+        return file.error() == QFileDevice::NoError ? false : fail(file.errorString());
+    return file.commit() || fail(file.errorString());
+}
 
-    QXmlStreamWriter writer(&file);
+bool BOMTemplateFile::writeDocument(QIODevice &device, const QVariantMap &map)
+{
+    QXmlStreamWriter writer(&device);
     writer.setAutoFormatting(true);
     writer.writeStartDocument();
     writer.writeStartElement(RootName);
@@ -88,11 +94,7 @@ bool BOMTemplateFile::writeXmlFile(const QVariantMap &map)
     writer.writeEndElement();
     writer.writeEndDocument();
 
-    if (file.error() != QFileDevice::NoError)
-        return fail(file.errorString());
-    if (writer.hasError())
-        return fail(tr("a text holds a character that XML cannot carry"));
-    return file.commit() || fail(file.errorString());
+    return !writer.hasError() || fail(tr("a text holds a character that XML cannot carry"));
 }
 
 bool BOMTemplateFile::fail(const QString &problem, qint64 line)

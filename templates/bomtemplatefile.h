@@ -39,6 +39,9 @@ public:
     /// character that XML cannot carry.
     [[nodiscard]] bool writeXmlFile(const QVariantMap &map);
 
+    /// As writeXmlFile(), to a device that is open for writing.
+    [[nodiscard]] bool writeDocument(QIODevice &device, const QVariantMap &map);
+
     /// What the last failed call met, as "FILE: problem" or "FILE:LINE: problem".
     [[nodiscard]] QString errorString() const { return m_error; }
 

@@ -3,8 +3,19 @@
 #include "templates/templatepaths.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
+
+// The macro declares a function, which may not happen inside a namespace.
+static bool registerResources()
+{
+    Q_INIT_RESOURCE(bom);
+    return true;
+}
 
 namespace {
 QStringList &paths()
@@ -43,6 +54,53 @@ QStringList templatePaths()
 void setTemplatePaths(const QStringList &list)
 {
     paths() = list;
+}
+
+QStringList hostTemplatePaths(const QString &pathList, const QString &dataFolder)
+{
+    QStringList candidates;
+    const QStringList named = QStringList(pathList.split(u';')) << dataFolder;
+    for (const QString &path : named) {
+        if (!path.trimmed().isEmpty())
+            candidates.append(QDir(QDir::fromNativeSeparators(path.trimmed())).absolutePath());
+    }
+    candidates.removeDuplicates();
+    const auto primary = std::find_if(candidates.begin(), candidates.end(), [](const QString &path) {
+        return !isShippedTemplateFile(path) && QDir().mkpath(path);
+    });
+    if (primary != candidates.end())
+        std::rotate(candidates.begin(), primary, std::next(primary));
+    candidates.removeOne(shippedTemplateFolder());
+    return candidates << shippedTemplateFolder();
+}
+
+QString shippedTemplateFolder()
+{
+    [[maybe_unused]] static const bool registered = registerResources();
+    return QStringLiteral(":/bom/templates");
+}
+
+bool isShippedTemplateFile(const QString &path)
+{
+    return path.startsWith(QLatin1String(":/"));
+}
+
+QList<TemplateFile> templateFiles()
+{
+    QList<TemplateFile> files;
+    QSet<QString> taken;
+    for (const QString &path : std::as_const(paths())) {
+        const QDir folder(path, QStringLiteral("*.bomt"), QDir::Name, QDir::Files);
+        const QFileInfoList entries = folder.entryInfoList();
+        for (const QFileInfo &file : entries) {
+            const QString name = file.completeBaseName();
+            if (const QString key = name.toCaseFolded(); !taken.contains(key)) {
+                taken.insert(key);
+                files.append({name, file.absoluteFilePath()});
+            }
+        }
+    }
+    return files;
 }
 
 QString primaryTemplateFolder()

@@ -2,12 +2,35 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
 /// The folders that hold template files, the primary one first: new files go there. Empty until they are set.
 [[nodiscard]] QStringList templatePaths();
 void setTemplatePaths(const QStringList &paths);
+
+/// The folders that a host names: its own list, separated by ";", its data folder for templates, and the
+/// shipped ones. The first of the host's that exists or can be created stands in front; it is created.
+[[nodiscard]] QStringList hostTemplatePaths(const QString &pathList, const QString &dataFolder);
+
+/// The folder of the templates that come with the system. It is a resource: nothing can be written there.
+[[nodiscard]] QString shippedTemplateFolder();
+
+/// Whether the file is one of those.
+[[nodiscard]] bool isShippedTemplateFile(const QString &path);
+
+struct TemplateFile
+{
+    QString name;
+    QString path;
+
+    bool operator==(const TemplateFile &) const = default;
+};
+
+/// The template files of templatePaths() in that order, by name inside a folder. Of names that differ only in
+/// letter case the first stands for all.
+[[nodiscard]] QList<TemplateFile> templateFiles();
 
 /// The absolute path of the first template folder, of the current folder when none is set.
 [[nodiscard]] QString primaryTemplateFolder();

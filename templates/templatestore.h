@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
 class QSettings;
 class QWidget;
@@ -79,14 +80,22 @@ public:
     /// Saves a finished template under its own name and selects it. Refuses like createTemplate().
     bool add(const BOMTemplate &settings);
 
-    /// Asks, then deletes the current template with its file, its old HTML file and its legacy entry, and
-    /// selects its neighbour. A template of the same name that it stood in front of comes back instead.
+    /// Whether a new template could have the name; says why not.
+    [[nodiscard]] bool mayCreate(const QString &name) const;
+
+    /// Asks, then removes the current template.
     bool deleteCurrent();
+    /// Deletes a template with its file, its old HTML file and its legacy entry, without a question. When it
+    /// was current its neighbour is selected. A template of the same name that it stood in front of comes back
+    /// instead. Refuses what canDelete() refuses.
+    bool remove(const QString &name);
 
     /// Asks, then puts "Default" back to the defaults and saves it.
     bool resetDefault();
+    /// The same without a question.
+    bool restoreDefault();
 
-    /// Asks for a file, copies it into the primary folder and selects it. Refuses names that are taken
+    /// Asks for a file, takes it into the primary folder and selects it. Refuses names that are taken
     /// (ignoring case) and files that are no templates.
     bool importTemplate();
     /// The same with a file that is known.
@@ -94,9 +103,9 @@ public:
 
     /// Asks for a destination and copies the current template's file there. Says nothing when that fails.
     bool exportTemplate();
-    /// Replaces the file `path` by a copy of the template's file; of one without a file, by its stored
-    /// settings. When that fails the old file stays and `reason` takes why; nothing is shown.
-    bool exportTo(const QString &name, const QString &path, QString *reason) const;
+    /// What the template's file holds; of one without a file, what it would hold. Nothing, with the problem in
+    /// `reason`, when it cannot be read.
+    [[nodiscard]] std::optional<QByteArray> document(const QString &name, QString *reason) const;
 
     /// Asks whether unsaved changes are to be saved. The caller does what was answered.
     [[nodiscard]] HostUi::SaveAnswer askToSave(bool withCancel) const;
@@ -108,7 +117,7 @@ public:
     static void setLegacyImportDone();
 
 Q_SIGNALS:
-    /// The list has other names or another order.
+    /// The list has other names or another order, or a name stands for another file than before.
     void namesChanged();
     /// Also when a selection was abandoned, so that a list box can be put back.
     void currentChanged(const QString &name);
@@ -117,14 +126,15 @@ Q_SIGNALS:
 private:
     void readFolders();
     void readLegacySettings();
-    void arrangeNames(const QStringList &shipped);
+    void arrangeNames();
     void list(const BOMTemplate &settings);
-    [[nodiscard]] BOMTemplate workingSettings(const QString &name) const;
-    [[nodiscard]] bool mayCreate(const QString &name) const;
-    [[nodiscard]] bool deleteFilesOf(const BOMTemplate &settings) const;
-    void deleteHtmlFileOf(const BOMTemplate &settings) const;
-    void removeFromList(const QString &name);
     void makeCurrent(const QString &name);
+    [[nodiscard]] BOMTemplate workingSettings(const QString &name) const;
+    [[nodiscard]] bool refuseToDelete(const QString &name) const;
+    [[nodiscard]] bool deleteFile(const QString &path) const;
+    void deleteHtmlFileOf(const QString &name) const;
+    void removeLegacyEntry(const QString &name) const;
+    [[nodiscard]] bool refuseToImport(const QString &text, const QString &detail) const;
 
     WorkingTemplate *m_working = nullptr;
     QWidget *m_dialogParent = nullptr;

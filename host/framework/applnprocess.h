@@ -35,6 +35,9 @@ public:
     /// The folder in which the process keeps the user's files for an application such as "BOM".
     [[nodiscard]] virtual QString getdatapath(const char *application) const = 0;
 
+    /// The folders that the user keeps templates in, separated by ";", ahead of getdatapath("Templates").
+    [[nodiscard]] virtual QString gettemplatepaths() const { return {}; }
+
     /// An interface of another application or module; null when there is none.
     [[nodiscard]] virtual IMODULE *getmoduleinterface(const char *application, unsigned id) = 0;
 };
