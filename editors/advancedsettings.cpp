@@ -125,6 +125,10 @@ void AdvancedSettings::accept()
 
 void AdvancedSettings::reject()
 {
+    // A number being typed must not come in when its spin box loses the focus.
+    for (QSpinBox *spin : m_prettyWidths + m_asciiWidths) {
+        spin->disconnect(this);
+    }
     const BOMTemplate before = m_database->currentTemplate();
     m_database->restoreTemplateLayout(m_found, m_wasModified);
     notify(before);

@@ -102,6 +102,7 @@ void BOMTemplateImporter::reloadScripts()
         const QSignalBlocker blocker(combo);
         combo.clear();
         combo.addItems(names);
+        combo.setCurrentIndex(names.isEmpty() ? -1 : 0);
     }
     combo.setEnabled(!names.isEmpty());
     combo.setToolTip(problem.toHtmlEscaped());

@@ -86,8 +86,8 @@ public:
     /// Asks, then removes the current template.
     bool deleteCurrent();
     /// Deletes a template with its file, its old HTML file and its legacy entry, without a question. When it
-    /// was current its neighbour is selected. A template of the same name that it stood in front of comes back
-    /// instead. Refuses what canDelete() refuses.
+    /// was current its neighbour is selected. A template of the same name that it stood in front of comes
+    /// back instead. Refuses what canDelete() refuses.
     bool remove(const QString &name);
 
     /// Asks, then puts "Default" back to the defaults and saves it.
@@ -103,8 +103,8 @@ public:
 
     /// Asks for a destination and copies the current template's file there. Says nothing when that fails.
     bool exportTemplate();
-    /// What the template's file holds; of one without a file, what it would hold. Nothing, with the problem in
-    /// `reason`, when it cannot be read.
+    /// What the template's file holds; of one without a file, what it would hold. Nothing, with the problem
+    /// in `reason`, when it cannot be read.
     [[nodiscard]] std::optional<QByteArray> document(const QString &name, QString *reason) const;
 
     /// Asks whether unsaved changes are to be saved. The caller does what was answered.

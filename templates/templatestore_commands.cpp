@@ -59,9 +59,9 @@ QString withSuffix(const QString &path)
 
 HostUi::SaveAnswer TemplateStore::askToSave(bool withCancel) const
 {
-    return HostUi::current().saveQuestion(
-        m_dialogParent, tr("Unsaved BOM Template Changes"),
-        tr("Do you want to save the changes you made to the BOM template?"), withCancel);
+    return HostUi::current().saveQuestion(m_dialogParent, tr("Unsaved BOM Template Changes"),
+                                          tr("Do you want to save the changes you made to the BOM template?"),
+                                          withCancel);
 }
 
 bool TemplateStore::mayCreate(const QString &name) const
@@ -146,8 +146,8 @@ void TemplateStore::deleteHtmlFileOf(const QString &name) const
     const QFileInfo html(storedTemplate(name).htmlTemplateFileName());
     const bool isOwn = html.absolutePath() == primaryTemplateFolder() &&
                        html.suffix().startsWith(QLatin1String("htm"), Qt::CaseInsensitive);
-    const bool isShared = std::any_of(
-        m_templates.cbegin(), m_templates.cend(), [&html, &name](const BOMTemplate &settings) {
+    const bool isShared =
+        std::any_of(m_templates.cbegin(), m_templates.cend(), [&html, &name](const BOMTemplate &settings) {
             return settings.name() != name && settings.htmlTemplateFileName() == html.filePath();
         });
     if (isOwn && !isShared) {
@@ -189,8 +189,8 @@ bool TemplateStore::restoreDefault()
 
 bool TemplateStore::importTemplate()
 {
-    const QString path = HostUi::current().openFileName(m_dialogParent, tr("Import BOM Template"),
-                                                        primaryTemplateFolder(), tr("BOM Templates (*.bomt)"));
+    const QString path = HostUi::current().openFileName(
+        m_dialogParent, tr("Import BOM Template"), primaryTemplateFolder(), tr("BOM Templates (*.bomt)"));
     return !path.isEmpty() && importFile(path);
 }
 
@@ -212,7 +212,8 @@ bool TemplateStore::importFile(const QString &path)
     BOMTemplateFile source(path);
     QVariantMap map;
     if (!source.readXmlFile(map)) {
-        return refuseToImport(tr("The BOM template '%1' could not be loaded.").arg(path), source.errorString());
+        return refuseToImport(tr("The BOM template '%1' could not be loaded.").arg(path),
+                              source.errorString());
     }
     BOMTemplate settings;
     settings.setVersion(source.version());
@@ -230,8 +231,8 @@ bool TemplateStore::importFile(const QString &path)
 
 bool TemplateStore::exportTemplate()
 {
-    const QString path = HostUi::current().saveFileName(m_dialogParent, tr("Export BOM Template"),
-                                                        primaryTemplateFolder(), tr("BOM Templates (*.bomt)"));
+    const QString path = HostUi::current().saveFileName(
+        m_dialogParent, tr("Export BOM Template"), primaryTemplateFolder(), tr("BOM Templates (*.bomt)"));
     QString reason;
     const auto content = path.isEmpty() ? std::nullopt : document(m_currentName, &reason);
     return content && writeReportFile(withSuffix(path), *content, &reason) == ReportFileResult::Written;

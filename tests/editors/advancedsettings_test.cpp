@@ -42,6 +42,7 @@ protected:
         database.load();
         dialog = std::make_unique<AdvancedSettings>(&database, false);
         dialog->open();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
     }
 
     template<class Widget>
@@ -73,6 +74,7 @@ protected:
     }
     static void enter(QSpinBox *spin, const QString &text)
     {
+        spin->setFocus();
         spin->selectAll();
         QTest::keyClicks(spin, text);
         QTest::keyClick(spin, Qt::Key_Tab);
@@ -121,13 +123,13 @@ TEST_F(Advanced, WidthsFollowAndAreStoredAtOnce)
     QSignalSpy modified(&database, &BOMPartsDatabase::currentTemplateModified);
     QSignalSpy regrouped(&database, &BOMPartsDatabase::dataChanged);
     enter(spin("prettyLayout", 0), QStringLiteral("40"));
-    EXPECT_EQ(prettyWidths(), QList<int>({40, 14, 11, 11, 11, 13}));
+    EXPECT_EQ(prettyWidths(), QList<int>({40, 15, 12, 12, 12, 9}));
     EXPECT_EQ(storedWidths(), prettyWidths());
     EXPECT_EQ(report.size(), 1) << "one typed number is one change";
     QTest::keyClick(spin("prettyLayout", 5), Qt::Key_Up);
-    EXPECT_EQ(prettyWidths(), QList<int>({40, 14, 11, 11, 11, 13}));
+    EXPECT_EQ(prettyWidths(), QList<int>({40, 15, 12, 12, 12, 9}));
     QTest::keyClick(spin("prettyLayout", 0), Qt::Key_Down);
-    EXPECT_EQ(prettyWidths(), QList<int>({39, 14, 11, 11, 11, 14}));
+    EXPECT_EQ(prettyWidths(), QList<int>({39, 15, 12, 12, 12, 10}));
     EXPECT_EQ(storedWidths(), prettyWidths());
     EXPECT_EQ(data.size(), 0);
     EXPECT_GE(modified.size(), 2);
@@ -182,6 +184,7 @@ TEST_F(Advanced, CancelRestoresWhatItFound)
     EXPECT_FALSE(database.currentTemplate().manualPrettyLayout());
     tab(1);
     enter(spin("asciiLayout", 5), QStringLiteral("77"));
+    QTest::keyClicks(dialog->focusWidget(), QStringLiteral("9"));
     EXPECT_NE(database.currentTemplate().toVariantMap(), before);
     const auto notices = report.size();
     QTest::keyClick(dialog.get(), Qt::Key_Escape);

@@ -124,7 +124,7 @@ TEST(ColumnWidths, NamedCases)
     EXPECT_EQ(balancedWidths({20, 20, 20, 20, 25}, 4), QList<int>({20, 20, 20, 20, 20}));
     EXPECT_EQ(balancedWidths({16, 20, 20, 20, 20}, 0), QList<int>({16, 21, 21, 21, 21}));
     EXPECT_EQ(balancedWidths({92, 2, 2, 2, 92}, 0), QList<int>({92, 2, 2, 2, 2}));
-    EXPECT_EQ(balancedWidths({90, 2, 2, 30, 20}, 2), QList<int>({90, 2, 4, 2, 2}));
+    EXPECT_EQ(balancedWidths({90, 2, 2, 30, 20}, 2), QList<int>({90, 2, 2, 4, 2}));
     EXPECT_EQ(columnWidthRange(5).most, 92);
     EXPECT_EQ(columnWidthRange(60).most, 2);
 }
