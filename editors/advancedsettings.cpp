@@ -10,6 +10,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <iterator>
 
 #include <vector>
 
@@ -52,6 +53,7 @@ AdvancedSettings::AdvancedSettings(BOMPartsDatabase *database, bool isModified, 
 {
     m_ui->setupUi(this);
     showTemplate();
+    setUpTabOrder();
     connectChanges();
 }
 
@@ -94,6 +96,22 @@ void AdvancedSettings::showTemplate()
     m_ui->alwaysQuoteRefsCheck->setChecked(m_found.alwaysQuoteRefs());
     m_ui->excludeValueFieldCheck->setChecked(m_found.excludeValueField());
     m_ui->partGroupCaseCheckBox->setChecked(m_found.caseSensitiveGrouping());
+    // The rows stand on the tab's own background.
+    for (QWidget *widget : {m_ui->prettyWidths, m_ui->prettyScrollArea->viewport(), m_ui->asciiWidths,
+                            m_ui->asciiScrollArea->viewport()}) {
+        widget->setAutoFillBackground(false);
+    }
+}
+
+void AdvancedSettings::setUpTabOrder()
+{
+    QWidgetList order{m_ui->tabWidget, m_ui->prettyWidthsGroupBox};
+    std::ranges::copy(m_prettyWidths + m_asciiWidths, std::back_inserter(order));
+    order << m_ui->alwaysQuoteRefsCheck << m_ui->excludeValueFieldCheck << m_ui->partGroupCaseCheckBox
+          << m_ui->buttonBox;
+    for (qsizetype i = 1; i < order.size(); ++i) {
+        setTabOrder(order[i - 1], order[i]);
+    }
 }
 
 void AdvancedSettings::connectChanges()

@@ -46,6 +46,7 @@ private:
     void showTemplate();
     [[nodiscard]] QSpinBox *addRow(QFormLayout *form, const QString &title);
     void addColumn(const QString &title, int prettyWidth, int asciiWidth);
+    void setUpTabOrder();
     void connectChanges();
     void balance(qsizetype changed);
     [[nodiscard]] BOMTemplate shownTemplate() const;

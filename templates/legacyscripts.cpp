@@ -150,7 +150,7 @@ QList<LegacyScript> legacyScripts(const QString &text, QStringList *problems)
 {
     ScriptReader reader(problems);
     for (QStringView line : QStringView(text).tokenize(u'\n')) {
-        if (line.endsWith(u'\r')) {
+        while (line.endsWith(u'\r')) {
             line.chop(1);
         }
         reader.read(line);

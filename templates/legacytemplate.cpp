@@ -113,7 +113,7 @@ BOMTemplate legacyTemplate(const LegacyScript &script)
 {
     ScriptConversion conversion;
     for (QStringView line : QStringView(script.text).tokenize(u'\n')) {
-        if (line.endsWith(u'\r')) {
+        while (line.endsWith(u'\r')) {
             line.chop(1);
         }
         conversion.read(line);

@@ -80,10 +80,11 @@ private:
         case 4:
             text->insert(at, std::string(below(3000), pick(m_words).front()));
             break;
-        case 5:
-            text->replace(at, length,
-                          pick(m_seeds).substr(below(2000) % (m_seeds.front().size() + 1), length));
+        case 5: {
+            const std::string &seed = pick(m_seeds);
+            text->replace(at, length, seed.substr(below(2000) % (seed.size() + 1), length));
             break;
+        }
         case 6:
             if (at < text->size()) {
                 (*text)[at] = char(below(256));
