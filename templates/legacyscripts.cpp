@@ -7,7 +7,7 @@
 #include <QHash>
 #include <QStringDecoder>
 
-#include <optional>
+#include <algorithm>
 
 namespace {
 
@@ -180,4 +180,30 @@ QList<LegacyScript> readLegacyScripts(const QString &path, QStringList *problems
         tell(u':' + problem);
     }
     return scripts;
+}
+
+std::optional<LegacyScript> readLegacyScript(const QString &path, const QString &name, QStringList *problems)
+{
+    const QList<LegacyScript> scripts = readLegacyScripts(path, problems);
+    if (scripts.isEmpty()) {
+        return std::nullopt;
+    }
+    if (name.isEmpty() && scripts.size() == 1) {
+        return scripts.first();
+    }
+    for (const Qt::CaseSensitivity rule : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
+        const auto isWanted = [&](const LegacyScript &script) {
+            return script.name.compare(name, rule) == 0;
+        };
+        const auto found = std::ranges::find_if(scripts, isWanted);
+        if (!name.isEmpty() && found != scripts.end()) {
+            return *found;
+        }
+    }
+    QStringList names;
+    for (const LegacyScript &script : scripts) {
+        names.append(u'"' + script.name + u'"');
+    }
+    problems->append(path + QStringLiteral(": name one of the scripts ") + names.join(QLatin1String(", ")));
+    return std::nullopt;
 }

@@ -4,10 +4,11 @@
 
 #include "templates/bomtemplate.h"
 
-#include <QByteArrayView>
 #include <QList>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 class QSettings;
 
@@ -32,6 +33,11 @@ constexpr qint64 mostLegacyScriptBytes = 4 * 1024 * 1024;
 /// cannot be read, is no text or larger than mostLegacyScriptBytes, or has no script; `problems` says why, in
 /// messages that begin with the path.
 [[nodiscard]] QList<LegacyScript> readLegacyScripts(const QString &path, QStringList *problems = nullptr);
+
+/// The script of a file that has this name, ignoring case where the exact one is missing; for an empty name
+/// the only one. Nothing otherwise; `problems` says why.
+[[nodiscard]] std::optional<LegacyScript> readLegacyScript(const QString &path, const QString &name,
+                                                           QStringList *problems);
 
 /// The values of a line, the text behind its "=". A part in double quotes is one value, empty or with commas.
 [[nodiscard]] QStringList legacyScriptValues(const QString &text);

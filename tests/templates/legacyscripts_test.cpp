@@ -56,6 +56,25 @@ TEST_F(LegacyFile, WhoseScriptHasNoEndIsReadAndSaysSo)
                            file + QStringLiteral(":6: the script \"c\" has no line \"*END SCRIPT\"")}));
 }
 
+TEST_F(LegacyFile, GivesTheScriptThatIsAskedFor)
+{
+    const QString file = write(QStringLiteral("old.BSF"),
+                               "*BOM SCRIPT One\n1\n*END SCRIPT\n*BOM SCRIPT one\n2\n*END SCRIPT\n");
+    const auto textOf = [&](const char *name) {
+        const auto script = readLegacyScript(file, QLatin1String(name), &m_problems);
+        return script ? script->text : QString();
+    };
+    EXPECT_EQ(textOf("one"), QStringLiteral("2\n"));
+    EXPECT_EQ(textOf("ONE"), QStringLiteral("1\n"));
+    EXPECT_TRUE(m_problems.isEmpty());
+    EXPECT_EQ(textOf(""), QString());
+    EXPECT_EQ(textOf("two"), QString());
+    EXPECT_EQ(m_problems,
+              QStringList(2, file + QStringLiteral(": name one of the scripts \"One\", \"one\"")));
+    write(QStringLiteral("old.BSF"), "*BOM SCRIPT\n3\n*END SCRIPT\n");
+    EXPECT_EQ(textOf(""), QStringLiteral("3\n"));
+}
+
 TEST_F(LegacyFile, ThatIsNoneSaysWhy)
 {
     const auto reason = [this](const QString &file) {
