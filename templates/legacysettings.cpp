@@ -44,7 +44,8 @@ QList<LegacyScript> legacyScriptsIn(QSettings &settings, QString *group)
         if (!version.isEmpty() && !names.isEmpty()) {
             *group = settings.group();
             for (const QString &name : names) {
-                scripts.insert(name, settings.value(name).toString());
+                // A registry value may be one text or a list of lines.
+                scripts.insert(name, settings.value(name).toStringList().join(u'\n'));
             }
         }
         settings.endGroup();
@@ -60,10 +61,10 @@ QList<LegacyScript> legacyScriptsIn(QSettings &settings, QString *group)
 #ifdef Q_OS_WIN
 QList<LegacyScript> registryLegacyScripts(QString *path)
 {
-    QSettings settings(QStringLiteral("HKEY_CURRENT_USER\\Software\\Velmora"), QSettings::NativeFormat);
+    const QString root = QStringLiteral("HKEY_CURRENT_USER\\Software\\Velmora");
+    QSettings settings(root, QSettings::NativeFormat);
     QString group;
     const QList<LegacyScript> scripts = legacyScriptsIn(settings, &group);
-    const QString root = settings.fileName();
     *path = QDir::toNativeSeparators(group.isEmpty() ? root : root + u'/' + group);
     return scripts;
 }

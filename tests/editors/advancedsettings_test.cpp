@@ -183,7 +183,8 @@ TEST_F(Advanced, CancelRestoresWhatItFound)
     QTest::mouseClick(group, Qt::LeftButton, {}, QPoint(10, 8));
     EXPECT_FALSE(database.currentTemplate().manualPrettyLayout());
     tab(1);
-    enter(spin("asciiLayout", 5), QStringLiteral("77"));
+    enter(spin("asciiLayout", 4), QStringLiteral("77"));
+    EXPECT_EQ(dialog->focusWidget(), spin("asciiLayout", 5));
     QTest::keyClicks(dialog->focusWidget(), QStringLiteral("9"));
     EXPECT_NE(database.currentTemplate().toVariantMap(), before);
     const auto notices = report.size();
