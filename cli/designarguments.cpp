@@ -21,6 +21,9 @@ void DesignArguments::addTo(CLI::App &command)
         ->default_str("exclude");
     command.add_option("--propdefs", propdefs, "Property definitions instead of the user's PROPDEFS.INI")
         ->type_name("F");
+    command.add_option("--template", templateName, "Template, or a .bomt file; without it \"Default\"")
+        ->type_name("NAME|FILE")
+        ->check(CLI::Validator(isGiven, ""));
 }
 
 DnpChoice DesignArguments::dnpChoice() const

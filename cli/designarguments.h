@@ -20,6 +20,7 @@ struct DesignArguments
     std::string variant;
     std::string dnp = "exclude";
     std::string propdefs;
+    std::string templateName;
 
     /// Adds DESIGN and its options to a command.
     void addTo(CLI::App &command);

@@ -3,11 +3,12 @@
 #include "cli/opendesign.h"
 
 #include "cli/console.h"
+#include "cli/templatechoice.h"
 #include "host/netlist/netlist.h"
 #include "host/propdefs/propdefsfile.h"
 #include "host/richtext/pagepainter.h"
 #include "standalone/environment.h"
-#include "templates/bomtemplate.h"
+#include "templates/templatestore.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -15,6 +16,12 @@
 ExitStatus OpenDesign::open(const DesignArguments &arguments, bool tellWarnings)
 {
     if (!loadDefinitions(QString::fromStdString(arguments.propdefs))) {
+        return ExitStatus::UnreadableInput;
+    }
+    const auto settings = readTemplate(arguments.templateName.empty()
+                                           ? TemplateStore::defaultName()
+                                           : QString::fromStdString(arguments.templateName));
+    if (!settings) {
         return ExitStatus::UnreadableInput;
     }
     m_session.setDnpChoice(arguments.dnpChoice());
@@ -30,7 +37,10 @@ ExitStatus OpenDesign::open(const DesignArguments &arguments, bool tellWarnings)
     m_session.projectNotes().setPagePainter([](QPainter &painter, const QString &text) {
         (void)paintTextPages(painter, QCoreApplication::translate("ProjectNotes", "Project Notes"), text);
     });
-    fillDatabase();
+    fillDatabase(*settings);
+    for (const QString &repair : m_database.templateRepairs()) {
+        console::message(settings->filePath() + QStringLiteral(": ") + repair);
+    }
     return ExitStatus::Done;
 }
 
@@ -49,11 +59,11 @@ bool OpenDesign::loadDefinitions(const QString &path)
     return isLoaded;
 }
 
-void OpenDesign::fillDatabase()
+void OpenDesign::fillDatabase(const BOMTemplate &settings)
 {
     m_cache.setsource(&m_session.netlist());
     m_cache.validate(1);
     m_database.setNetlist(&m_cache);
-    m_database.setCurrentTemplate(BOMTemplate());
+    m_database.setCurrentTemplate(settings);
     m_database.reload();
 }

@@ -10,7 +10,7 @@
 #include "standalone/designsession.h"
 #include "standalone/partsledger.h"
 
-/// A design that was opened for a command, with its parts database under the default template.
+/// A design that was opened for a command, with its parts database under the template that was asked for.
 class OpenDesign final
 {
 public:
@@ -30,7 +30,7 @@ public:
 
 private:
     [[nodiscard]] bool loadDefinitions(const QString &path);
-    void fillDatabase();
+    void fillDatabase(const BOMTemplate &settings);
 
     // In this order: the cache leaves the session's server, the database reads from the cache.
     CliUi m_ui;

@@ -6,6 +6,8 @@
 #include "cli/console.h"
 #include "cli/partscommand.h"
 #include "cli/reportcommand.h"
+#include "cli/templatechoice.h"
+#include "cli/templatecommand.h"
 #include "standalone/environment.h"
 
 #include <CLI/Config.hpp>
@@ -90,7 +92,8 @@ int runProgram(int argc, char *argv[])
     ReportCommand report;
     PartsCommand parts;
     CheckCommand check;
-    const std::array<Command *, 3> commands{&report, &parts, &check};
+    TemplateCommand templates;
+    const std::array<Command *, 4> commands{&report, &parts, &check, &templates};
 
     CLI::App program("Bills of materials from KiCad designs and CSV part lists.", "bom");
     program.set_version_flag("--version", "bom " BOM_VERSION);
@@ -109,5 +112,6 @@ int runProgram(int argc, char *argv[])
     qInstallMessageHandler(handleLibraryMessage);
     int qtArgc = 1;
     const QApplication application(qtArgc, argv);
+    prepareTemplates();
     return int(runChosen(commands));
 }

@@ -143,7 +143,8 @@ bool ReportCommand::spareTheDesign(OpenDesign &design, const QList<Output> &outp
 {
     QStringList inputs = design.session().files();
     const StandaloneDocument &document = design.session().document();
-    inputs << m_design.path() << document.notesFile() << document.projectNotesFile() << propdefsfile();
+    inputs << m_design.path() << document.notesFile() << document.projectNotesFile() << propdefsfile()
+           << design.database().currentTemplate().filePath();
     for (const Output &output : outputs) {
         const bool isInput = std::any_of(inputs.cbegin(), inputs.cend(), [&output](const QString &input) {
             return isSameFile(output.path, input);

@@ -108,6 +108,11 @@ QString primaryTemplateFolder()
     return QDir(paths().value(0, QDir::currentPath())).absolutePath();
 }
 
+QString legacyTemplatesFile()
+{
+    return QDir(primaryTemplateFolder()).filePath(QStringLiteral("BOMTemplates.ini"));
+}
+
 bool isTemplateFileName(const QString &name)
 {
     if (name.isEmpty() || name.startsWith(u'.') || isDeviceName(name))

@@ -35,6 +35,9 @@ struct TemplateFile
 /// The absolute path of the first template folder, of the current folder when none is set.
 [[nodiscard]] QString primaryTemplateFolder();
 
+/// The file in which templates were kept before they had files of their own. It need not exist.
+[[nodiscard]] QString legacyTemplatesFile();
+
 /// Whether a template of this name can have a file: false for an empty name, a leading dot, separators,
 /// characters that file names cannot hold, and device names such as "CON", which are refused on every system
 /// because templates travel.

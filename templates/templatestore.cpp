@@ -7,7 +7,6 @@
 #include "templates/templatepaths.h"
 #include "templates/workingtemplate.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 
@@ -25,7 +24,7 @@ const QString importedKey = QStringLiteral("BomScriptsImported");
 /// Null when there is no such file: opening one must not make it.
 std::unique_ptr<QSettings> openLegacySettings()
 {
-    const QString path = QDir(primaryTemplateFolder()).filePath(QStringLiteral("BOMTemplates.ini"));
+    const QString path = legacyTemplatesFile();
     if (!QFileInfo(path).isFile()) {
         return nullptr;
     }

@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/templatechoice.h"
+
+#include "cli/console.h"
+#include "standalone/environment.h"
+#include "templates/bomtemplatefile.h"
+#include "templates/templatemessages.h"
+#include "templates/templatepaths.h"
+#include "templates/templatestore.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+bool isFileName(const QString &text)
+{
+    return text.contains(u'/') || text.endsWith(QStringLiteral(".bomt"), Qt::CaseInsensitive);
+}
+
+std::optional<BOMTemplate> readFile(const QString &path)
+{
+    // First on its own: the template would take the defaults in place of a file that cannot be read.
+    BOMTemplateFile file(path);
+    QVariantMap map;
+    if (!file.readXmlFile(map)) {
+        console::message(file.errorString());
+        return std::nullopt;
+    }
+    return BOMTemplate(QFileInfo(path).completeBaseName(), path);
+}
+
+/// The path of the template's file; empty when it has none.
+QString fileOf(const QString &name)
+{
+    const QList<TemplateFile> files = templateFiles();
+    for (const Qt::CaseSensitivity sensitivity : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
+        const auto found = std::find_if(files.cbegin(), files.cend(), [&](const TemplateFile &file) {
+            return file.name.compare(name, sensitivity) == 0;
+        });
+        if (found != files.cend()) {
+            return found->path;
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+void prepareTemplates()
+{
+    setTemplatePaths({userTemplatesFolder(), shippedTemplateFolder()});
+    setTemplateMessageHandler([](const TemplateMessage &message) {
+        console::message(message.detail.isEmpty() ? message.text : message.detail);
+    });
+}
+
+std::optional<BOMTemplate> readTemplate(const QString &nameOrFile)
+{
+    if (isFileName(nameOrFile)) {
+        return readFile(nameOrFile);
+    }
+    if (const QString path = fileOf(nameOrFile); !path.isEmpty()) {
+        return readFile(path);
+    }
+    const bool isDefault = nameOrFile.compare(TemplateStore::defaultName(), Qt::CaseInsensitive) == 0;
+    if (isDefault && !QFileInfo::exists(legacyTemplatesFile())) {
+        BOMTemplate settings;
+        settings.setName(TemplateStore::defaultName());
+        return settings;
+    }
+    TemplateStore store;
+    store.reload();
+    const QString name = store.listedName(nameOrFile);
+    if (name.isEmpty()) {
+        console::message(QStringLiteral("there is no template \"") + nameOrFile +
+                         QStringLiteral("\" (bom template list names them)"));
+        return std::nullopt;
+    }
+    BOMTemplate settings = store.storedTemplate(name);
+    settings.setLegacySettings(nullptr); // it goes with the store
+    return settings;
+}

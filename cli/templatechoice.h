@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "templates/bomtemplate.h"
+
+#include <optional>
+
+/// Sets the folders in which templates are looked for, and how problems with them are told.
+void prepareTemplates();
+
+/// The template that a command line names: the file when the text ends in ".bomt" or has a folder in it, else
+/// the user's or shipped template of that name, ignoring case where the exact one is missing. Nothing, after a
+/// message, when there is none or it cannot be read.
+[[nodiscard]] std::optional<BOMTemplate> readTemplate(const QString &nameOrFile);

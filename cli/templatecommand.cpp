@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/templatecommand.h"
+
+#include "cli/cliui.h"
+#include "cli/console.h"
+#include "cli/designarguments.h"
+#include "cli/outputfile.h"
+#include "cli/templatechoice.h"
+#include "cli/templatelisting.h"
+#include "templates/bomtemplatefile.h"
+#include "templates/templatestore.h"
+
+#include <CLI/Validators.hpp>
+
+#include <QFileInfo>
+
+void TemplateCommand::addTo(CLI::App &program)
+{
+    m_app = program.add_subcommand("template", "List, show, make and delete report templates");
+    m_app->require_subcommand(1);
+    addAction("list", "List all templates", &TemplateCommand::list);
+    addName(*addAction("show", "Print the settings of a template", &TemplateCommand::show),
+            "Template, or a .bomt file");
+    CLI::App *create = addAction("new", "Make a template", &TemplateCommand::create);
+    addName(*create, "Name of the new template");
+    create->add_option("--from", m_from, "Take the settings of this template or .bomt file, not the defaults")
+        ->type_name("NAME|FILE")
+        ->check(CLI::Validator(isGiven, ""));
+    addName(*addAction("delete", "Delete a template of your own", &TemplateCommand::remove), "Template");
+    addAction("reset", "Put the template \"Default\" back to the default settings", &TemplateCommand::reset);
+    addFile(*addAction("import", "Take a .bomt file into your templates", &TemplateCommand::importFile),
+            "The file; its name becomes the template's");
+    CLI::App *exportFile = addAction("export", "Copy a template to a file", &TemplateCommand::exportFile);
+    addName(*exportFile, "Template");
+    addFile(*exportFile, "Where to; - is standard output");
+}
+
+CLI::App *TemplateCommand::addAction(const char *name, const char *description,
+                                     ExitStatus (TemplateCommand::*action)(TemplateStore &))
+{
+    CLI::App *app = m_app->add_subcommand(name, description);
+    app->callback([this, action] { m_action = action; });
+    return app;
+}
+
+void TemplateCommand::addName(CLI::App &action, const char *description)
+{
+    action.add_option("NAME", m_name, description)->required()->check(CLI::Validator(isGiven, ""));
+}
+
+void TemplateCommand::addFile(CLI::App &action, const char *description)
+{
+    action.add_option("FILE", m_file, description)->required()->check(CLI::Validator(isGiven, ""));
+}
+
+ExitStatus TemplateCommand::run()
+{
+    const CliUi ui(QLocale::c());
+    TemplateStore store;
+    return (this->*m_action)(store);
+}
+
+QString TemplateCommand::listedName(const TemplateStore &store) const
+{
+    const QString name = store.listedName(QString::fromStdString(m_name));
+    if (name.isEmpty()) {
+        console::message(QStringLiteral("there is no template \"") + QString::fromStdString(m_name) +
+                         QStringLiteral("\" (bom template list names them)"));
+    }
+    return name;
+}
+
+ExitStatus TemplateCommand::list(TemplateStore &store)
+{
+    store.reload();
+    QString text;
+    for (const QString &name : store.names()) {
+        text += printable(name) +
+                (store.isShipped(name) ? QStringLiteral("\tcomes with the program\n") : QStringLiteral("\n"));
+    }
+    return console::write(text.toUtf8()) ? ExitStatus::Done : ExitStatus::UnwritableOutput;
+}
+
+ExitStatus TemplateCommand::show(TemplateStore &)
+{
+    const auto settings = readTemplate(QString::fromStdString(m_name));
+    if (!settings) {
+        return ExitStatus::UnreadableInput;
+    }
+    return console::write(templateListing(*settings).toUtf8()) ? ExitStatus::Done
+                                                               : ExitStatus::UnwritableOutput;
+}
+
+ExitStatus TemplateCommand::create(TemplateStore &store)
+{
+    const QString name = QString::fromStdString(m_name).trimmed();
+    auto settings = m_from.empty() ? std::optional(BOMTemplate())
+                                   : readTemplate(QString::fromStdString(m_from));
+    if (!settings) {
+        return ExitStatus::UnreadableInput;
+    }
+    store.reload();
+    if (!store.mayCreate(name)) {
+        return ExitStatus::DesignProblem;
+    }
+    settings->setName(name);
+    return store.add(*settings) ? ExitStatus::Done : ExitStatus::UnwritableOutput;
+}
+
+ExitStatus TemplateCommand::remove(TemplateStore &store)
+{
+    store.reload();
+    const QString name = listedName(store);
+    if (name.isEmpty()) {
+        return ExitStatus::UnreadableInput;
+    }
+    if (store.remove(name)) {
+        return ExitStatus::Done;
+    }
+    return store.canDelete(name) ? ExitStatus::UnwritableOutput : ExitStatus::DesignProblem;
+}
+
+ExitStatus TemplateCommand::reset(TemplateStore &store)
+{
+    store.reload();
+    return store.restoreDefault() ? ExitStatus::Done : ExitStatus::UnwritableOutput;
+}
+
+ExitStatus TemplateCommand::importFile(TemplateStore &store)
+{
+    const QString path = QString::fromStdString(m_file);
+    BOMTemplateFile file(path);
+    if (QVariantMap map; !file.readXmlFile(map)) {
+        console::message(file.errorString());
+        return ExitStatus::UnreadableInput;
+    }
+    store.reload();
+    const bool isTaken = store.contains(QFileInfo(path).completeBaseName());
+    if (store.importFile(path)) {
+        return ExitStatus::Done;
+    }
+    return isTaken ? ExitStatus::DesignProblem : ExitStatus::UnwritableOutput;
+}
+
+ExitStatus TemplateCommand::exportFile(TemplateStore &store)
+{
+    store.reload();
+    const QString name = listedName(store);
+    if (name.isEmpty()) {
+        return ExitStatus::UnreadableInput;
+    }
+    QString reason;
+    const auto content = store.document(name, &reason);
+    if (!content) {
+        console::message(store.storedTemplate(name).filePath() + QStringLiteral(": ") + reason);
+        return ExitStatus::UnreadableInput;
+    }
+    return writeOutput(QString::fromStdString(m_file), *content) ? ExitStatus::Done
+                                                                 : ExitStatus::UnwritableOutput;
+}

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/command.h"
+
+#include <QString>
+
+#include <string>
+
+class TemplateStore;
+
+/// bom template: lists, shows, makes and deletes the user's templates.
+class TemplateCommand final : public Command
+{
+public:
+    void addTo(CLI::App &program) override;
+    [[nodiscard]] ExitStatus run() override;
+
+private:
+    CLI::App *addAction(const char *name, const char *description,
+                        ExitStatus (TemplateCommand::*action)(TemplateStore &));
+    void addName(CLI::App &action, const char *description);
+    void addFile(CLI::App &action, const char *description);
+
+    [[nodiscard]] ExitStatus list(TemplateStore &store);
+    [[nodiscard]] ExitStatus show(TemplateStore &store);
+    [[nodiscard]] ExitStatus create(TemplateStore &store);
+    [[nodiscard]] ExitStatus remove(TemplateStore &store);
+    [[nodiscard]] ExitStatus reset(TemplateStore &store);
+    [[nodiscard]] ExitStatus importFile(TemplateStore &store);
+    [[nodiscard]] ExitStatus exportFile(TemplateStore &store);
+    /// The store's spelling of the name; empty, after a message, when there is no such template.
+    [[nodiscard]] QString listedName(const TemplateStore &store) const;
+
+    ExitStatus (TemplateCommand::*m_action)(TemplateStore &) = nullptr;
+    std::string m_name;
+    std::string m_from;
+    std::string m_file;
+};
