@@ -18,9 +18,9 @@ ExitStatus OpenDesign::open(const DesignArguments &arguments, bool tellWarnings)
     if (!loadDefinitions(QString::fromStdString(arguments.propdefs))) {
         return ExitStatus::UnreadableInput;
     }
-    const auto settings = readTemplate(arguments.templateName.empty()
-                                           ? TemplateStore::defaultName()
-                                           : QString::fromStdString(arguments.templateName));
+    const auto settings =
+        readTemplate(arguments.templateName.empty() ? TemplateStore::defaultName()
+                                                    : QString::fromStdString(arguments.templateName));
     if (!settings) {
         return ExitStatus::UnreadableInput;
     }

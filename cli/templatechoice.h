@@ -10,6 +10,6 @@
 void prepareTemplates();
 
 /// The template that a command line names: the file when the text ends in ".bomt" or has a folder in it, else
-/// the user's or shipped template of that name, ignoring case where the exact one is missing. Nothing, after a
-/// message, when there is none or it cannot be read.
+/// the user's or shipped template of that name, ignoring case where the exact one is missing. Nothing, after
+/// a message, when there is none or it cannot be read.
 [[nodiscard]] std::optional<BOMTemplate> readTemplate(const QString &nameOrFile);

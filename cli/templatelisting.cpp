@@ -61,9 +61,9 @@ QString categoryText(const BOMCategory &category)
 
 QString htmlText(const BOMTemplate &settings)
 {
-    QString text = line(QStringLiteral("Style sheet"), settings.css() == defaultStyleSheet()
-                                                           ? QStringLiteral("default")
-                                                           : QStringLiteral("its own"));
+    QString text =
+        line(QStringLiteral("Style sheet"),
+             settings.css() == defaultStyleSheet() ? QStringLiteral("default") : QStringLiteral("its own"));
     const std::pair<QString, QString> fragments[] = {
         {QStringLiteral("Document header"), settings.documentHeader()},
         {QStringLiteral("Document footer"), settings.documentFooter()},

@@ -236,8 +236,8 @@ TEST_F(TemplateStoreTest, DeletingTakesEverythingOfTheTemplateAndSelectsItsNeigh
     m_store.select(mine);
     ASSERT_EQ(m_working.m_settings.htmlTemplateFileName(), html);
     EXPECT_FALSE(m_store.deleteCurrent());
-    EXPECT_EQ(m_ui.questions, (QList<ScriptedUi::Message>{
-                                  {QStringLiteral("Template Deletion"), QStringLiteral("Delete the template 'Mine'?")}}));
+    EXPECT_EQ(m_ui.questions, (QList<ScriptedUi::Message>{{QStringLiteral("Template Deletion"),
+                                                           QStringLiteral("Delete the template 'Mine'?")}}));
     EXPECT_TRUE(QFile::exists(html));
 
     m_ui.answer = true;
@@ -260,8 +260,9 @@ TEST_F(TemplateStoreTest, DeletingNeverReachesFilesOfOthers)
     QFile(foreign).open(QIODevice::WriteOnly);
     const QStringList victims{foreign, path(QStringLiteral("Other.bomt"))};
     for (const QString &victim : victims) {
-        write(QStringLiteral("Mine.bomt"), "<BOMTemplate version=\"5\"><htmlTemplateFileName Type=\"QString\">" +
-                                               victim.toUtf8() + "</htmlTemplateFileName></BOMTemplate>");
+        write(QStringLiteral("Mine.bomt"),
+              "<BOMTemplate version=\"5\"><htmlTemplateFileName Type=\"QString\">" + victim.toUtf8() +
+                  "</htmlTemplateFileName></BOMTemplate>");
         m_store.reload();
         EXPECT_TRUE(m_store.remove(mine));
         EXPECT_TRUE(QFile::exists(victim)) << qPrintable(victim);
@@ -296,8 +297,8 @@ TEST_F(TemplateStoreTest, ResetPutsDefaultBackAndShowsItWhenItIsCurrent)
     m_ui.answer = true;
     edit(80);
     EXPECT_TRUE(m_store.resetDefault());
-    EXPECT_EQ(m_ui.questions.value(1),
-              (ScriptedUi::Message{QStringLiteral("Template Reset"), QStringLiteral("Reset the default template?")}));
+    EXPECT_EQ(m_ui.questions.value(1), (ScriptedUi::Message{QStringLiteral("Template Reset"),
+                                                            QStringLiteral("Reset the default template?")}));
     EXPECT_EQ(widthInFile(path(QStringLiteral("Default.bomt"))), 30);
     EXPECT_EQ(m_working.m_settings.asciiRefWidth(), 30);
     EXPECT_FALSE(m_store.isModified());
@@ -311,9 +312,9 @@ TEST_F(TemplateStoreTest, ImportTakesTheFileAsItIsNotTheWorkingSettings)
     ASSERT_TRUE(QFile::setPermissions(m_ui.fileName, QFile::ReadOwner));
     m_store.reload();
     EXPECT_TRUE(m_store.importTemplate());
-    EXPECT_EQ(m_ui.fileRequests, (QList<ScriptedUi::FileRequest>{{QStringLiteral("Import BOM Template"),
-                                                                   m_folder.path(),
-                                                                   QStringLiteral("BOM Templates (*.bomt)")}}));
+    EXPECT_EQ(m_ui.fileRequests,
+              (QList<ScriptedUi::FileRequest>{{QStringLiteral("Import BOM Template"), m_folder.path(),
+                                               QStringLiteral("BOM Templates (*.bomt)")}}));
     EXPECT_EQ(m_store.currentName(), mine);
     EXPECT_EQ(m_working.m_settings.asciiRefWidth(), 21);
     EXPECT_EQ(widthInFile(path(QStringLiteral("Mine.bomt"))), 21);
@@ -407,7 +408,8 @@ TEST_F(TemplateStoreTest, TheLegacyImportIsPendingUntilItWasOffered)
     TemplateStore::setLegacyImportDone();
     EXPECT_FALSE(TemplateStore::isLegacyImportPending());
     IniHostSettings again(file);
-    EXPECT_EQ(again.value(QStringLiteral("BOM"), QStringLiteral("BomScriptsImported")), QStringLiteral("true"));
+    EXPECT_EQ(again.value(QStringLiteral("BOM"), QStringLiteral("BomScriptsImported")),
+              QStringLiteral("true"));
 }
 
 } // namespace
