@@ -5,6 +5,7 @@
 #include "cli/cliui.h"
 #include "cli/console.h"
 #include "cli/designarguments.h"
+#include "cli/legacyimportaction.h"
 #include "cli/outputfile.h"
 #include "cli/templatechoice.h"
 #include "cli/templatelisting.h"
@@ -31,6 +32,13 @@ void TemplateCommand::addTo(CLI::App &program)
     addAction("reset", "Put the template \"Default\" back to the default settings", &TemplateCommand::reset);
     addFile(*addAction("import", "Take a .bomt file into your templates", &TemplateCommand::importFile),
             "The file; its name becomes the template's");
+    CLI::App *legacy =
+        addAction("import-legacy", "Make a template of a legacy BOM script", &TemplateCommand::importLegacy);
+    addFile(*legacy, "The file with the script, usually .BSF");
+    legacy->add_option("--script", m_script, "Which script, where the file has several")->type_name("NAME");
+    legacy->add_option("--name", m_name, "Name of the new template, not the script's")
+        ->type_name("NAME")
+        ->check(CLI::Validator(isGiven, ""));
     CLI::App *exportFile = addAction("export", "Copy a template to a file", &TemplateCommand::exportFile);
     addName(*exportFile, "Template");
     addFile(*exportFile, "Where to; - is standard output");
@@ -141,6 +149,12 @@ ExitStatus TemplateCommand::importFile(TemplateStore &store)
         return ExitStatus::Done;
     }
     return isTaken ? ExitStatus::DesignProblem : ExitStatus::UnwritableOutput;
+}
+
+ExitStatus TemplateCommand::importLegacy(TemplateStore &store)
+{
+    return importLegacyScript(store, QString::fromStdString(m_file), QString::fromStdString(m_script),
+                              QString::fromStdString(m_name));
 }
 
 ExitStatus TemplateCommand::exportFile(TemplateStore &store)

@@ -29,6 +29,7 @@ private:
     [[nodiscard]] ExitStatus remove(TemplateStore &store);
     [[nodiscard]] ExitStatus reset(TemplateStore &store);
     [[nodiscard]] ExitStatus importFile(TemplateStore &store);
+    [[nodiscard]] ExitStatus importLegacy(TemplateStore &store);
     [[nodiscard]] ExitStatus exportFile(TemplateStore &store);
     /// The store's spelling of the name; empty, after a message, when there is no such template.
     [[nodiscard]] QString listedName(const TemplateStore &store) const;
@@ -37,4 +38,5 @@ private:
     std::string m_name;
     std::string m_from;
     std::string m_file;
+    std::string m_script;
 };

@@ -6,6 +6,7 @@
 #include "core/designinfo.h"
 #include "core/reference.h"
 #include "core/referenceformat.h"
+#include "core/templatelayout.h"
 #include "core/templaterepair.h"
 #include "host/framework/applndocument.h"
 #include "host/framework/hosttext.h"
@@ -194,6 +195,32 @@ void BOMPartsDatabase::setTemplateLook(const BOMTemplate &settings)
     m_template.setDocumentHeader(settings.documentHeader());
     m_template.setDocumentFooter(settings.documentFooter());
     m_template.setHtmlTemplateFileName(settings.htmlTemplateFileName());
+}
+
+bool BOMPartsDatabase::setTemplateLayout(const BOMTemplate &settings)
+{
+    const Qt::CaseSensitivity oldRule = caseRule();
+    if (!takeLayout(settings, &m_template)) {
+        return false;
+    }
+    m_fields = m_template.fields();
+    if (caseRule() != oldRule) {
+        updateFieldGrouping();
+    }
+    Q_EMIT currentTemplateModified(true);
+    return true;
+}
+
+void BOMPartsDatabase::restoreTemplateLayout(const BOMTemplate &settings, bool wasModified)
+{
+    setTemplateLayout(settings);
+    Q_EMIT currentTemplateModified(wasModified);
+}
+
+void BOMPartsDatabase::updatePropertyTypes()
+{
+    m_propertyTypes.load();
+    updateFieldGrouping();
 }
 
 void BOMPartsDatabase::updateBOMFields(const BOMFields &fields)

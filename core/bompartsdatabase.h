@@ -111,6 +111,8 @@ public:
     [[nodiscard]] QString link(const QString &reference, const QString &propertyName) const;
 
     [[nodiscard]] const PropertyTypes &propertyTypes() const { return m_propertyTypes; }
+    /// What changed property definitions ask for: reads them and groups anew.
+    void updatePropertyTypes();
     /// A stored value as people see it.
     [[nodiscard]] QString displayValue(const QString &name, const QString &stored) const;
     [[nodiscard]] bool isNumeric(const QString &name) const { return m_propertyTypes.isNumeric(name); }
@@ -143,6 +145,12 @@ public:
     void setCurrentTemplate(const BOMTemplate &settings);
     /// Takes over style sheet, header, footer and old HTML file of another template, which change no line.
     void setTemplateLook(const BOMTemplate &settings);
+    /// Takes over the column widths, ManualPrettyLayout, AlwaysQuoteRefs, ExcludeValueField and
+    /// CaseSensitiveGrouping of another template; only a change of the last one groups anew. A column takes
+    /// the widths of the field of its name. False, and no notice, when nothing differs.
+    bool setTemplateLayout(const BOMTemplate &settings);
+    /// The same to go back to what was there before, with a notice of whether that was modified.
+    void restoreTemplateLayout(const BOMTemplate &settings, bool wasModified);
     /// What the working template lacked when it was set, one sentence each.
     [[nodiscard]] const QStringList &templateRepairs() const { return m_templateRepairs; }
     [[nodiscard]] const BOMFields &fields() const { return m_fields; }

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSaveFile>
+#include <QStringDecoder>
 
 #include <algorithm>
 #include <optional>
@@ -76,8 +77,8 @@ QString parseLine(const QString &line, PROPDEF *definition)
     return {};
 }
 
-/// The text of the file; nothing, with the reason in `wrong`, when it cannot be read or is too large.
-std::optional<QString> contentOf(const QString &path, QString *wrong)
+/// The bytes of the file; nothing, with the reason in `wrong`, when it cannot be read or is too large.
+std::optional<QByteArray> contentOf(const QString &path, QString *wrong)
 {
     if (!QFileInfo(path).isFile()) {
         *wrong = QStringLiteral("this is no ordinary file");
@@ -97,10 +98,46 @@ std::optional<QString> contentOf(const QString &path, QString *wrong)
         *wrong = QStringLiteral("the file is larger than 1 MiB, the most that definitions may have");
         return std::nullopt;
     }
-    return QString::fromUtf8(bytes).remove(u'\r');
+    return bytes;
+}
+
+/// Whoever owns the file, and whatever the user may do.
+bool isMarkedReadOnly(const QString &path)
+{
+    constexpr QFileDevice::Permissions any =
+        QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
+    const QFileInfo file(path);
+    return file.exists() && !(file.permissions() & any);
 }
 
 } // namespace
+
+PROPTEXT PROPTEXT::fromBytes(const QByteArray &bytes)
+{
+    PROPTEXT read;
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    QString text = decoder(bytes);
+    if (decoder.hasError()) {
+        read.m_isLatin1 = true;
+        text = QString::fromLatin1(bytes);
+    }
+    if (text.contains(QLatin1String("\r\n"))) {
+        read.m_lineEnd = QStringLiteral("\r\n");
+    }
+    text.remove(u'\r');
+    if (text.endsWith(u'\n')) {
+        text.chop(1);
+    }
+    read.m_lines = text.split(u'\n');
+    return read;
+}
+
+QByteArray PROPTEXT::toBytes() const
+{
+    const QString text = m_lines.join(m_lineEnd) + m_lineEnd;
+    const bool fits = std::ranges::all_of(text, [](QChar c) { return c.unicode() <= 0xFF; });
+    return m_isLatin1 && fits ? text.toLatin1() : text.toUtf8();
+}
 
 void PROPTEXT::add(const QString &section, const QString &line)
 {
@@ -164,10 +201,10 @@ QString propdefsfile()
 
 bool load_defaultdefs(DIDX *index, PROPTEXT *text, QStringList *problems)
 {
-    QString content = QString::fromLatin1(shippedDefinitions);
+    QByteArray content(shippedDefinitions);
     if (!theFile.isEmpty() && QFileInfo::exists(theFile)) {
         QString wrong;
-        const std::optional<QString> stored = contentOf(theFile, &wrong);
+        const std::optional<QByteArray> stored = contentOf(theFile, &wrong);
         if (!stored) {
             if (problems) {
                 problems->append(theFile + QStringLiteral(": ") + wrong);
@@ -176,10 +213,7 @@ bool load_defaultdefs(DIDX *index, PROPTEXT *text, QStringList *problems)
         }
         content = *stored;
     }
-    if (content.endsWith(u'\n')) {
-        content.chop(1);
-    }
-    const PROPTEXT read(content.split(u'\n'));
+    const PROPTEXT read = PROPTEXT::fromBytes(content);
     QStringList found;
     const DIDX definitions = read.definitions(&found);
     if (problems) {
@@ -201,14 +235,14 @@ bool load_defaultdefs(DIDX *index, PROPTEXT *text, QStringList *problems)
 
 bool save_defaultdefs(const PROPTEXT &text)
 {
-    if (theFile.isEmpty() || !QDir().mkpath(QFileInfo(theFile).path())) {
+    if (theFile.isEmpty() || isMarkedReadOnly(theFile) || !QDir().mkpath(QFileInfo(theFile).path())) {
         return false;
     }
     QSaveFile file(theFile);
     if (!file.open(QIODevice::WriteOnly)) {
         return false;
     }
-    const QByteArray bytes = text.lines().join(u'\n').toUtf8() + '\n';
+    const QByteArray bytes = text.toBytes();
     if (file.write(bytes) != bytes.size()) {
         file.cancelWriting();
     }

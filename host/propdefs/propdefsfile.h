@@ -4,6 +4,7 @@
 
 #include "host/propdefs/propdef.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -19,6 +20,12 @@ public:
     {
     }
 
+    /// The text of a file in UTF-8 or, when it is none, Latin-1.
+    [[nodiscard]] static PROPTEXT fromBytes(const QByteArray &bytes);
+    /// The file again, in the encoding and with the line ends that it had; in UTF-8 when Latin-1 lacks a
+    /// character.
+    [[nodiscard]] QByteArray toBytes() const;
+
     /// Adds a line at the end of a section, which is made when it is missing.
     void add(const QString &section, const QString &line);
     [[nodiscard]] const QStringList &lines() const { return m_lines; }
@@ -29,6 +36,8 @@ public:
 
 private:
     QStringList m_lines;
+    QString m_lineEnd = QStringLiteral("\n");
+    bool m_isLatin1 = false;
 };
 
 /// The file that load_defaultdefs() reads and save_defaultdefs() writes; empty means the shipped definitions
@@ -42,7 +51,7 @@ void setpropdefsfile(const QString &path);
 bool load_defaultdefs(DIDX *index, PROPTEXT *text, QStringList *problems = nullptr);
 
 /// Replaces the file and makes its folder when that is missing; the old file stays when this fails. False on
-/// failure or without a file.
+/// failure, without a file, and for one that is marked read-only.
 [[nodiscard]] bool save_defaultdefs(const PROPTEXT &text);
 
 /// One line of the section [PROPDEFS].

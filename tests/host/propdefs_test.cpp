@@ -166,6 +166,30 @@ TEST_F(DefinitionsFile, KeepsCommentsOrderAndOtherSectionsWhenSaved)
     EXPECT_EQ(read(), before + "\"C\",INT\n");
 }
 
+TEST_F(DefinitionsFile, KeepsEncodingAndLineEndsWhenSaved)
+{
+    const QByteArray before = "; f\xFCr\r\n[PROPDEFS]\r\n\"A\",INT,\"M\xFC\"\r\n";
+    write(before);
+    DIDX index;
+    PROPTEXT text;
+    ASSERT_TRUE(load_defaultdefs(&index, &text));
+    EXPECT_EQ(index.find(QStringLiteral("A"))->description, QStringLiteral("Mü"));
+    text.add(QStringLiteral("PROPDEFS"), QStringLiteral("\"C\",INT"));
+    ASSERT_TRUE(save_defaultdefs(text));
+    EXPECT_EQ(read(), before + "\"C\",INT\r\n");
+    text.add(QStringLiteral("PROPDEFS"), QStringLiteral("\"D\",INT,\"Ω\""));
+    ASSERT_TRUE(save_defaultdefs(text));
+    EXPECT_TRUE(read().startsWith("; f\xC3\xBCr\r\n") && read().contains("\xCE\xA9"));
+}
+
+TEST_F(DefinitionsFile, MarkedReadOnlyStays)
+{
+    write("[PROPDEFS]\n");
+    ASSERT_TRUE(QFile::setPermissions(path(), QFile::ReadOwner));
+    EXPECT_FALSE(save_defaultdefs(PROPTEXT({QStringLiteral("[PROPDEFS]"), QStringLiteral("x")})));
+    EXPECT_EQ(read(), "[PROPDEFS]\n");
+}
+
 TEST_F(DefinitionsFile, NamesFileAndLineOfWhatItCannotUse)
 {
     write("\xEF\xBB\xBF[PROPDEFS]\r\n\"A\",INT\r\n\"B\",COLOUR\r\n");

@@ -1,0 +1,209 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "templates/legacyscripts.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QStringDecoder>
+
+#include <algorithm>
+
+namespace {
+
+/// Scripts by name, in the order in which the names came first.
+class ScriptSet final
+{
+public:
+    void add(const LegacyScript &script)
+    {
+        const auto known = m_indices.constFind(script.name);
+        if (known != m_indices.constEnd()) {
+            m_scripts[*known] = script;
+            return;
+        }
+        m_indices.insert(script.name, m_scripts.size());
+        m_scripts.append(script);
+    }
+    [[nodiscard]] const QList<LegacyScript> &scripts() const { return m_scripts; }
+
+private:
+    QList<LegacyScript> m_scripts;
+    QHash<QString, qsizetype> m_indices;
+};
+
+bool beginsWith(QStringView line, QLatin1String marker)
+{
+    return line.startsWith(marker, Qt::CaseInsensitive);
+}
+
+/// The text behind the marker without the blanks and quotes around it.
+QString scriptName(QStringView text)
+{
+    const auto isAround = [](QChar c) { return c == u'"' || c == u'\'' || c.isSpace(); };
+    while (!text.isEmpty() && isAround(text.front())) {
+        text = text.sliced(1);
+    }
+    while (!text.isEmpty() && isAround(text.back())) {
+        text.chop(1);
+    }
+    return text.toString();
+}
+
+/// Takes the lines of a file one by one.
+class ScriptReader final
+{
+public:
+    explicit ScriptReader(QStringList *problems)
+        : m_problems(problems)
+    {
+    }
+
+    void read(QStringView line)
+    {
+        constexpr QLatin1String start("*BOM SCRIPT");
+        ++m_line;
+        if (beginsWith(line, start)) {
+            endWithoutMark();
+            m_script = LegacyScript{scriptName(line.sliced(start.size())), {}};
+            m_startLine = m_line;
+        } else if (beginsWith(line, QLatin1String("*END SCRIPT"))) {
+            end();
+        } else if (m_script) {
+            m_script->text += line;
+            m_script->text += u'\n';
+        }
+    }
+
+    [[nodiscard]] QList<LegacyScript> finish()
+    {
+        endWithoutMark();
+        return m_set.scripts();
+    }
+
+private:
+    void end()
+    {
+        if (m_script) {
+            m_set.add(*m_script);
+            m_script.reset();
+        }
+    }
+
+    void endWithoutMark()
+    {
+        if (m_script && m_problems) {
+            m_problems->append(QString::number(m_startLine) + QStringLiteral(": the script \"") +
+                               m_script->name + QStringLiteral("\" has no line \"*END SCRIPT\""));
+        }
+        end();
+    }
+
+    QStringList *m_problems;
+    ScriptSet m_set;
+    std::optional<LegacyScript> m_script;
+    int m_line = 0;
+    int m_startLine = 0;
+};
+
+/// The bytes of a file; nothing, with the reason in `wrong`, when they cannot be a text.
+std::optional<QByteArray> bytesOf(const QString &path, QString *wrong)
+{
+    if (!QFileInfo::exists(path)) {
+        *wrong = QStringLiteral("there is no such file");
+        return std::nullopt;
+    }
+    if (!QFileInfo(path).isFile()) {
+        *wrong = QStringLiteral("this is no ordinary file");
+        return std::nullopt;
+    }
+    QFile file(path);
+    QByteArray bytes;
+    if (file.open(QIODevice::ReadOnly)) {
+        bytes = file.read(mostLegacyScriptBytes + 1);
+    }
+    if (file.error() != QFileDevice::NoError) {
+        *wrong = file.errorString();
+        return std::nullopt;
+    }
+    if (bytes.size() > mostLegacyScriptBytes) {
+        *wrong = QStringLiteral("the file is larger than 4 MiB, the most that BOM scripts may have");
+        return std::nullopt;
+    }
+    if (bytes.contains('\0')) {
+        *wrong = QStringLiteral("the file is no text");
+        return std::nullopt;
+    }
+    return bytes;
+}
+
+QString decoded(const QByteArray &bytes)
+{
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    const QString text = decoder(bytes);
+    return decoder.hasError() ? QString::fromLatin1(bytes) : text;
+}
+
+} // namespace
+
+QList<LegacyScript> legacyScripts(const QString &text, QStringList *problems)
+{
+    ScriptReader reader(problems);
+    for (QStringView line : QStringView(text).tokenize(u'\n')) {
+        while (line.endsWith(u'\r')) {
+            line.chop(1);
+        }
+        reader.read(line);
+    }
+    return reader.finish();
+}
+
+QList<LegacyScript> readLegacyScripts(const QString &path, QStringList *problems)
+{
+    const auto tell = [&](const QString &problem) {
+        if (problems) {
+            problems->append(path + problem);
+        }
+    };
+    QString wrong;
+    const std::optional<QByteArray> bytes = bytesOf(path, &wrong);
+    if (!bytes) {
+        tell(QStringLiteral(": ") + wrong);
+        return {};
+    }
+    QStringList found;
+    const QList<LegacyScript> scripts = legacyScripts(decoded(*bytes), &found);
+    if (scripts.isEmpty()) {
+        tell(QStringLiteral(": there is no line \"*BOM SCRIPT\""));
+    }
+    for (const QString &problem : std::as_const(found)) {
+        tell(u':' + problem);
+    }
+    return scripts;
+}
+
+std::optional<LegacyScript> readLegacyScript(const QString &path, const QString &name, QStringList *problems)
+{
+    const QList<LegacyScript> scripts = readLegacyScripts(path, problems);
+    if (scripts.isEmpty()) {
+        return std::nullopt;
+    }
+    if (name.isEmpty() && scripts.size() == 1) {
+        return scripts.first();
+    }
+    for (const Qt::CaseSensitivity rule : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
+        const auto isWanted = [&](const LegacyScript &script) {
+            return script.name.compare(name, rule) == 0;
+        };
+        const auto found = std::ranges::find_if(scripts, isWanted);
+        if (!name.isEmpty() && found != scripts.end()) {
+            return *found;
+        }
+    }
+    QStringList names;
+    for (const LegacyScript &script : scripts) {
+        names.append(u'"' + script.name + u'"');
+    }
+    problems->append(path + QStringLiteral(": name one of the scripts ") + names.join(QLatin1String(", ")));
+    return std::nullopt;
+}
