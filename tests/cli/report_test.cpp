@@ -66,7 +66,7 @@ TEST_F(Report, AsJsonHoldsLinesAndTotals)
                                        R"("created":"","modified":"2001-09-09 01:46","variant":"",)"
                                        R"("file":"DIR/list.csv"},)"
                                        "\n"
-                                       R"("template":"",)"
+                                       R"("template":"Default",)"
                                        "\n"
                                        R"("columns":["Value","Stock Code","Unit Cost"],)"
                                        "\n"));
