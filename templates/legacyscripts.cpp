@@ -172,7 +172,7 @@ QList<LegacyScript> readLegacyScripts(const QString &path, QStringList *problems
         return {};
     }
     QStringList found;
-    const QList<LegacyScript> scripts = legacyScripts(decoded(*bytes), &found);
+    QList<LegacyScript> scripts = legacyScripts(decoded(*bytes), &found);
     if (scripts.isEmpty()) {
         tell(QStringLiteral(": there is no line \"*BOM SCRIPT\""));
     }

@@ -96,6 +96,7 @@ QList<QTextLength> columnWidths(const QTextDocument &document, const QTextTable 
         return {};
     }
     std::vector<QRectF> texts;
+    texts.reserve(size_t(table.columns()));
     for (int column = 0; column < table.columns(); ++column) {
         texts.push_back(cellRect(document, table.cellAt(row, column)));
     }

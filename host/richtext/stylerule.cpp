@@ -5,7 +5,6 @@
 #include "host/richtext/cssvalue.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace {
 
@@ -84,12 +83,12 @@ void StyleRule::readDeclarations()
     m_declarations.clear();
     bool own = true;
     const QList<StyleSheet::Rule> rules = m_sheet->rules();
-    for (const StyleSheet::Rule &rule : std::views::reverse(rules)) {
-        if (rule.selector != m_selector) {
+    for (auto rule = rules.crbegin(); rule != rules.crend(); ++rule) {
+        if (rule->selector != m_selector) {
             continue;
         }
-        for (const StyleSheet::Declaration &one : std::views::reverse(rule.declarations)) {
-            m_declarations.append({one, own});
+        for (auto one = rule->declarations.crbegin(); one != rule->declarations.crend(); ++one) {
+            m_declarations.append({*one, own});
         }
         own = false;
     }
@@ -101,9 +100,9 @@ void StyleRule::readDeclarations()
 StyleRule::Declaration StyleRule::effective(const QString &property) const
 {
     const QString shorthand = shorthandOf(property);
-    for (const Declaration &found : std::views::reverse(m_declarations)) {
-        if (found.property == property || (!shorthand.isEmpty() && found.property == shorthand)) {
-            return found;
+    for (auto found = m_declarations.crbegin(); found != m_declarations.crend(); ++found) {
+        if (found->property == property || (!shorthand.isEmpty() && found->property == shorthand)) {
+            return *found;
         }
     }
     return {};

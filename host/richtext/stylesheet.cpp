@@ -4,8 +4,6 @@
 
 #include "host/richtext/cssscan.h"
 
-#include <ranges>
-
 namespace {
 
 /// Replaces what stands at a place of the text.
@@ -131,9 +129,9 @@ struct Edit
                                              const QString &selector)
 {
     const QString wanted = selector.simplified();
-    for (const css::RuleSpans &rule : std::views::reverse(sheet.rules)) {
-        if (css::plain(rule.selector.in(text)) == wanted) {
-            return &rule;
+    for (auto rule = sheet.rules.crbegin(); rule != sheet.rules.crend(); ++rule) {
+        if (css::plain(rule->selector.in(text)) == wanted) {
+            return &*rule;
         }
     }
     return nullptr;
@@ -186,13 +184,13 @@ QString StyleSheet::value(const QString &selector, const QString &property) cons
 {
     const QString wanted = selector.simplified();
     const css::Sheet sheet = css::scan(m_text);
-    for (const css::RuleSpans &rule : std::views::reverse(sheet.rules)) {
-        if (css::plain(rule.selector.in(m_text)) != wanted) {
+    for (auto rule = sheet.rules.crbegin(); rule != sheet.rules.crend(); ++rule) {
+        if (css::plain(rule->selector.in(m_text)) != wanted) {
             continue;
         }
-        for (const css::DeclarationSpans &found : std::views::reverse(rule.declarations)) {
-            if (css::plain(found.property.in(m_text)).compare(property, Qt::CaseInsensitive) == 0) {
-                return found.value.in(m_text).toString();
+        for (auto found = rule->declarations.crbegin(); found != rule->declarations.crend(); ++found) {
+            if (css::plain(found->property.in(m_text)).compare(property, Qt::CaseInsensitive) == 0) {
+                return found->value.in(m_text).toString();
             }
         }
     }

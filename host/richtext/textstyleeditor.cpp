@@ -13,8 +13,6 @@
 #include <QSignalBlocker>
 #include <QTextDocument>
 
-#include <ranges>
-
 namespace {
 
 constexpr int typingPause = 200; // ms
@@ -174,12 +172,12 @@ void TextStyleEditor::showTextOfRule()
     QString text = m_sheet.text();
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     const css::Sheet sheet = css::scan(text);
-    for (const css::RuleSpans &rule : std::views::reverse(sheet.rules)) {
-        if (css::plain(rule.selector.in(text)) == m_selector) {
+    for (auto rule = sheet.rules.crbegin(); rule != sheet.rules.crend(); ++rule) {
+        if (css::plain(rule->selector.in(text)) == m_selector) {
             QTextCursor cursor(m_ui->cssEdit->document());
             cursor.movePosition(QTextCursor::End);
             m_ui->cssEdit->setTextCursor(cursor); // so that the rule comes up to the top
-            for (const css::Span &part : {rule.title, rule.selector}) {
+            for (const css::Span &part : {rule->title, rule->selector}) {
                 if (!part.isEmpty()) {
                     cursor.setPosition(int(part.begin));
                     m_ui->cssEdit->setTextCursor(cursor);
