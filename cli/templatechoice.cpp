@@ -22,14 +22,20 @@ bool isFileName(const QString &text)
 
 std::optional<BOMTemplate> readFile(const QString &path)
 {
-    // First on its own: the template would take the defaults in place of a file that cannot be read.
+    // Once: the template itself would take the defaults in place of a file that cannot be read, and a pipe
+    // gives its text only once.
     BOMTemplateFile file(path);
     QVariantMap map;
     if (!file.readXmlFile(map)) {
         console::message(file.errorString());
         return std::nullopt;
     }
-    return BOMTemplate(QFileInfo(path).completeBaseName(), path);
+    BOMTemplate settings;
+    settings.setVersion(file.version());
+    settings.fromVariantMap(map);
+    settings.setName(QFileInfo(path).completeBaseName());
+    settings.setFilePath(path);
+    return settings;
 }
 
 /// The path of the template's file; empty when it has none.

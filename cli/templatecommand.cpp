@@ -10,6 +10,7 @@
 #include "cli/templatechoice.h"
 #include "cli/templatelisting.h"
 #include "templates/bomtemplatefile.h"
+#include "templates/templatepaths.h"
 #include "templates/templatestore.h"
 
 #include <CLI/Validators.hpp>
@@ -144,11 +145,12 @@ ExitStatus TemplateCommand::importFile(TemplateStore &store)
         return ExitStatus::UnreadableInput;
     }
     store.reload();
-    const bool isTaken = store.contains(QFileInfo(path).completeBaseName());
+    const QString name = QFileInfo(path).completeBaseName();
+    const bool isRefused = store.contains(name) || !isTemplateFileName(name);
     if (store.importFile(path)) {
         return ExitStatus::Done;
     }
-    return isTaken ? ExitStatus::DesignProblem : ExitStatus::UnwritableOutput;
+    return isRefused ? ExitStatus::DesignProblem : ExitStatus::UnwritableOutput;
 }
 
 ExitStatus TemplateCommand::importLegacy(TemplateStore &store)

@@ -16,8 +16,8 @@
 
 namespace {
 
-/// A line of a text file is no wider.
-constexpr WidthRange asciiRange{1, 1000};
+/// A column of a text file is no wider; one of width 0 is left out.
+constexpr WidthRange asciiRange{0, 1000};
 
 bool isSameReport(const BOMTemplate &left, const BOMTemplate &right)
 {

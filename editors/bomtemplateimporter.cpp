@@ -143,6 +143,10 @@ void BOMTemplateImporter::importBomScript()
                                   tr("A template named '%1' already exists!").arg(name));
         return;
     }
+    // Before anything is defined for it.
+    if (!m_store->mayCreate(name)) {
+        return;
+    }
     defineProperties(made);
     made.setName(name);
     if (m_store->add(made)) {

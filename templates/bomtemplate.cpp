@@ -9,6 +9,7 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 #include <limits>
@@ -168,7 +169,8 @@ void BOMTemplate::loadFromLegacySettings()
 {
     const QString fallback = QStringLiteral("Default");
     const QSettings *settings = m_record.legacySettings;
-    if (settings && !m_record.name.isEmpty() && settings->contains(m_record.name)) {
+    const bool hasEntry = settings && !m_record.name.isEmpty() && settings->contains(m_record.name);
+    if (hasEntry) {
         fromVariantMap(settings->value(m_record.name).toMap());
     } else if (settings && settings->contains(fallback)) {
         fromVariantMap(settings->value(fallback).toMap());
@@ -176,6 +178,9 @@ void BOMTemplate::loadFromLegacySettings()
         setDefaults();
     }
     m_record.CSS = defaultStyleSheet(); // such entries have no style sheet
+    // What has no entry to move gets its file now, unless there is one that this would replace.
+    if (!hasEntry && !QFileInfo::exists(m_record.filePath))
+        save();
 }
 
 bool BOMTemplate::save()

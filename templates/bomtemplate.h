@@ -42,7 +42,7 @@ public:
     /// Reads the settings from the file, at version 1 from the legacy store; at version 0 does nothing. A
     /// file that cannot be read gives the defaults, a message and false, and is not touched. The legacy
     /// store's entry is the one of the template's name, else "Default", else the defaults; such settings get
-    /// the default style sheet. Nothing is written.
+    /// the default style sheet. Without an entry of the name they are saved at once, where there is no file.
     bool load();
 
     /// Writes the settings to the file and takes them out of the legacy store. False when they were not

@@ -26,7 +26,7 @@ QStringList &paths()
 
 bool isForbidden(QChar character)
 {
-    if (character.unicode() < 0x20 || character == u'/' || character == u'\\')
+    if (character.category() == QChar::Other_Control || character == u'/' || character == u'\\')
         return true;
 #ifdef Q_OS_WIN
     return QStringLiteral("<>:\"|?*").contains(character);
@@ -91,8 +91,11 @@ QList<TemplateFile> templateFiles()
     QSet<QString> taken;
     for (const QString &path : std::as_const(paths())) {
         const QDir folder(path, QStringLiteral("*.bomt"), QDir::Name, QDir::Files);
-        const QFileInfoList entries = folder.entryInfoList();
-        for (const QFileInfo &file : entries) {
+        QFileInfoList entries = folder.entryInfoList();
+        // A template that was read from NAME.BOMT is written to NAME.bomt, which counts from then on.
+        std::stable_partition(entries.begin(), entries.end(),
+                              [](const QFileInfo &file) { return file.suffix() == QLatin1String("bomt"); });
+        for (const QFileInfo &file : std::as_const(entries)) {
             const QString name = file.completeBaseName();
             if (const QString key = name.toCaseFolded(); !taken.contains(key)) {
                 taken.insert(key);

@@ -22,12 +22,15 @@ int clampedWidth(int width)
 /// Line breaks and other control characters would tear the columns apart.
 QString inOneLine(const QString &text)
 {
-    const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control; };
-    if (std::none_of(text.begin(), text.end(), isControl)) {
+    const auto tears = [](QChar c) {
+        return c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
+               c == QChar::ParagraphSeparator;
+    };
+    if (std::none_of(text.begin(), text.end(), tears)) {
         return text;
     }
     QString line = text;
-    std::replace_if(line.begin(), line.end(), isControl, QChar(u' '));
+    std::replace_if(line.begin(), line.end(), tears, QChar(u' '));
     return line;
 }
 

@@ -76,6 +76,8 @@ TEST_F(TemplateCommandTest, WhatIsRefusedUnreadableOrUnwritableHasItsOwnStatus)
     expect(1, "template new mine", "The name must not be blank or used already");
     expect(1, "template new a/b", "a file can have");
     expect(1, "template import Mine.bomt", "'Mine' already exists");
+    write(QStringLiteral("con.bomt"), QByteArray::fromStdString(read(QStringLiteral("Mine.bomt"))));
+    expect(1, "template import con.bomt", "cannot be a file name");
     expect(1, "template delete default", "Cannot delete default template");
     expect(1, "template delete Assembly", "comes with the program");
     expect(2, "template", "subcommand");

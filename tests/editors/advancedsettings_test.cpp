@@ -146,6 +146,8 @@ TEST_F(Advanced, DataOutputsAreStoredAtOnce)
     enter(spin("asciiLayout", 3), QStringLiteral("1001"));
     EXPECT_EQ(database.currentTemplate().asciiRefWidth(), 33);
     EXPECT_LE(database.fields().get(QStringLiteral("Stock Code")).asciiWidth, 1000);
+    enter(spin("asciiLayout", 3), QStringLiteral("0"));
+    EXPECT_EQ(database.fields().get(QStringLiteral("Stock Code")).asciiWidth, 0) << "leaves the column out";
     const int changes = int(data.size());
     tab(2);
     const bool quoted = database.currentTemplate().alwaysQuoteRefs();

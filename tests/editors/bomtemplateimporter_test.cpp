@@ -124,6 +124,11 @@ TEST_F(Importer, OffersToDefineWhatIsUndefined)
 {
     browse();
     child<QComboBox>("scriptsCombo")->setCurrentIndex(1);
+    child<QLineEdit>("templateNameEdit")->setText(QStringLiteral("a/b"));
+    click("importBtn");
+    EXPECT_EQ(ui.informations.size(), 1) << "the name is refused";
+    EXPECT_TRUE(ui.questions.isEmpty()) << "and nothing is to be defined for it";
+    child<QLineEdit>("templateNameEdit")->setText(QStringLiteral("With MPN"));
     click("importBtn");
     const ScriptedUi::Message question{QStringLiteral("Undefined Physical Properties"),
                                        QStringLiteral("Define the 2 undefined physical properties?")};

@@ -307,6 +307,14 @@ TEST_F(LegacySettings, WithoutAnEntryTheDefaultOneOrTheDefaultsServe)
               BOMTemplate().toVariantMap());
     put(QStringLiteral("Default"), QStringLiteral("d"));
     EXPECT_EQ(BOMTemplate(QStringLiteral("mine"), &m_store).documentHeader(), QStringLiteral("d"));
+    const QString file = path(QStringLiteral("mine.bomt"));
+    EXPECT_EQ(BOMTemplate(QString(), file).documentHeader(), QString()) << "a file that is there stays";
+    const BOMTemplate saved(QStringLiteral("other"), &m_store);
+    EXPECT_EQ(BOMTemplate(QString(), saved.filePath()).toVariantMap(), saved.toVariantMap());
+    EXPECT_EQ(m_store.allKeys().join(u','), QStringLiteral("Default"));
+    EXPECT_TRUE(m_messages.isEmpty());
+    put(QStringLiteral("moved"), QStringLiteral("m"));
+    EXPECT_FALSE(QFile::exists(BOMTemplate(QStringLiteral("moved"), &m_store).filePath()));
 }
 
 TEST_F(LegacySettings, SavingMovesOnlyTheOwnEntry)

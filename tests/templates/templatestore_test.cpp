@@ -106,6 +106,18 @@ TEST_F(TemplateStoreTest, TheFirstFolderWinsIgnoringCase)
     EXPECT_EQ(m_store.listedName(QStringLiteral("zETA.V2")), QStringLiteral("Zeta.v2"));
 }
 
+TEST_F(TemplateStoreTest, AFileInCapitalsGivesWayToTheOneThatIsSaved)
+{
+    writeTemplate(path(QStringLiteral("Mine.BOMT")), 11);
+    m_store.reload();
+    ASSERT_TRUE(m_store.select(mine));
+    edit(12);
+    ASSERT_TRUE(m_store.saveCurrent());
+    m_store.reload();
+    EXPECT_EQ(names(), QStringLiteral("Default,Mine"));
+    EXPECT_EQ(m_store.storedTemplate(mine).asciiRefWidth(), 12);
+}
+
 TEST_F(TemplateStoreTest, TheRememberedTemplateComesBackAndAMissingOneGivesTheFirst)
 {
     addFile("Alpha", 11);

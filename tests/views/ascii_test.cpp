@@ -73,14 +73,16 @@ TEST_F(Ascii, wrapsReferencesAndCutsValues)
     for (const char *reference : {"R1", "R2", "R3", "R4", "R5"}) {
         netlist.add(reference, "10k/0.1W/5%", {{"COST", "0.5"}});
     }
-    netlist.add("C1", "1\xc2\xb5\nx", {{"CODE", "1234567\xf0\x9f\x98\x80"}});
+    netlist.add("C1", "1\xc2\xb5\nx",
+                {{"CODE", "12\xe2\x80\xa8"
+                          "4567\xf0\x9f\x98\x80"}});
     database.load();
     changeTemplate([](BOMTemplate &settings) { settings.setGroupReferences(false); });
     EXPECT_EQ(table(), "QTY PART-REFS Value   Stock CoUnit Cos\n"
                        "--- --------- -----   ----------------\n"
                        "Capacitors\n"
                        "----------\n"
-                       "1   C1        1\xc2\xb5 x    1234567         \n"
+                       "1   C1        1\xc2\xb5 x    12 4567         \n"
                        "\n"
                        "Resistors\n"
                        "---------\n"
