@@ -137,16 +137,21 @@ std::optional<double> points(const QString &length, double em, double whole)
     return factor == units.cend() ? std::nullopt : std::optional(number * *factor);
 }
 
-QString inPoints(double points)
+QString numberText(double value)
 {
-    QString number = QString::number(points, 'f', 2);
+    QString number = QString::number(value, 'f', 2);
     while (number.endsWith(u'0')) {
         number.chop(1);
     }
     if (number.endsWith(u'.')) {
         number.chop(1);
     }
-    return (number == QLatin1String("-0") ? QStringLiteral("0") : number) + QStringLiteral("pt");
+    return number == QLatin1String("-0") ? QStringLiteral("0") : number;
+}
+
+QString inPoints(double points)
+{
+    return numberText(points) + QStringLiteral("pt");
 }
 
 QColor color(const QString &value)

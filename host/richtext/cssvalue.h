@@ -17,6 +17,9 @@ namespace css {
 [[nodiscard]] bool isImportant(const QString &value);
 [[nodiscard]] QString withoutImportant(const QString &value);
 
+/// A number with at most two decimals.
+[[nodiscard]] QString numberText(double value);
+
 /// A length in points; none for what is no length. `em` and `whole` are the points that 1em and 100% stand
 /// for.
 [[nodiscard]] std::optional<double> points(const QString &length, double em, double whole);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/richtext/xhtmlstyle.h"
 
+#include "host/richtext/cssvalue.h"
+
 #include "host/richtext/xmltext.h"
 
 #include <QMap>
@@ -27,7 +29,7 @@ QString wholePixels(double value)
 
 QString pixels(double value)
 {
-    return cssNumber(value) + QStringLiteral("px");
+    return css::numberText(value) + QStringLiteral("px");
 }
 
 QString backgroundStyle(const QBrush &background, const QBrush &usual)
@@ -62,7 +64,7 @@ double leftMargin(const QTextBlockFormat &format)
 QString lineHeight(const QTextBlockFormat &format)
 {
     const bool isProportional = format.lineHeightType() == QTextBlockFormat::ProportionalHeight;
-    return cssNumber(isProportional ? format.lineHeight() : fullLine) + QStringLiteral("%");
+    return css::numberText(isProportional ? format.lineHeight() : fullLine) + QStringLiteral("%");
 }
 
 QString family(const QTextCharFormat &format, const QFont &font)
@@ -80,7 +82,7 @@ QString family(const QTextCharFormat &format, const QFont &font)
 
 QString fontSize(const QFont &font)
 {
-    return font.pointSizeF() > 0 ? cssNumber(font.pointSizeF()) + QStringLiteral("pt")
+    return font.pointSizeF() > 0 ? css::numberText(font.pointSizeF()) + QStringLiteral("pt")
                                  : pixels(font.pixelSize());
 }
 
@@ -88,7 +90,7 @@ QString fontSize(const QTextCharFormat &format, const QFont &font)
 {
     static constexpr std::array names{"small", "medium", "large", "x-large", "xx-large"};
     if (format.fontPointSize() > 0) {
-        return cssNumber(format.fontPointSize()) + QStringLiteral("pt");
+        return css::numberText(format.fontPointSize()) + QStringLiteral("pt");
     }
     const int adjustment = format.intProperty(QTextFormat::FontSizeAdjustment);
     if (adjustment != 0) {
@@ -158,18 +160,6 @@ bool isVisible(const QBrush &brush)
 bool isUnderlined(const QTextCharFormat &format)
 {
     return format.fontUnderline() || format.underlineStyle() == QTextCharFormat::SingleUnderline;
-}
-
-QString cssNumber(double value)
-{
-    QString text = QString::number(value, 'f', 2);
-    while (text.endsWith(u'0')) {
-        text.chop(1);
-    }
-    if (text.endsWith(u'.')) {
-        text.chop(1);
-    }
-    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
 }
 
 QString cssColour(const QColor &colour)

@@ -34,9 +34,6 @@ struct Surroundings
 
 [[nodiscard]] bool isUnderlined(const QTextCharFormat &format);
 
-/// A number with at most two decimals.
-[[nodiscard]] QString cssNumber(double value);
-
 [[nodiscard]] QString cssColour(const QColor &colour);
 
 /// ` name="value"`, escaped; nothing for an empty value.

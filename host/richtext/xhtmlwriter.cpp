@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/richtext/xhtmlwriter.h"
 
+#include "host/richtext/cssvalue.h"
+
 #include "host/richtext/xhtmllists.h"
 #include "host/richtext/xhtmltext.h"
 #include "host/richtext/xmltext.h"
@@ -176,7 +178,7 @@ private:
     {
         switch (length.type()) {
         case QTextLength::PercentageLength:
-            return cssNumber(length.rawValue()) + QStringLiteral("%");
+            return css::numberText(length.rawValue()) + QStringLiteral("%");
         case QTextLength::FixedLength:
             return QString::number(qRound(length.rawValue()));
         default:
