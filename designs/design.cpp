@@ -24,6 +24,33 @@ int Design::lineOf(const Component &component) const
     return int(component.line);
 }
 
+QStringList Design::changedFiles() const
+{
+    QStringList changed;
+    for (std::size_t file = 0; file < m_fingerprints.size(); ++file) {
+        const QString &path = m_files[qsizetype(file)];
+        if (fingerprintOfFile(path) != m_fingerprints[file]) {
+            changed << path;
+        }
+    }
+    return changed;
+}
+
+std::optional<QString> Design::checkEdit(const Edit &) const
+{
+    return QStringLiteral("this design cannot be changed");
+}
+
+EditPlan Design::planEdits(std::span<const Edit> edits) const
+{
+    EditPlan plan;
+    for (std::size_t edit = 0; edit < edits.size(); ++edit) {
+        const QString why = checkEdit(edits[edit]).value_or(QStringLiteral("this design cannot be changed"));
+        plan.problems.push_back({edit, {m_info.file, 0, why}});
+    }
+    return plan;
+}
+
 std::optional<std::string_view> Design::stored(const Component &component, NameId id) const
 {
     if (id == m_valueName) {

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "designs/component.h"
+#include "designs/edits.h"
+#include "designs/filefingerprint.h"
 #include "designs/problem.h"
 #include "designs/textarena.h"
 
@@ -88,6 +90,15 @@ public:
     /// more.
     [[nodiscard]] virtual int lineOf(const Component &component) const;
 
+    /// The files whose content is not what was read, also those that cannot be read any more.
+    [[nodiscard]] QStringList changedFiles() const;
+
+    /// What is wrong with one edit by itself, nothing when it can be made. Reads no file.
+    [[nodiscard]] virtual std::optional<QString> checkEdit(const Edit &edit) const;
+    /// Works edits out on the files, which must be as they were read. Of several edits of one property of one
+    /// component the last counts. Writes nothing; the default cannot change a design.
+    [[nodiscard]] virtual EditPlan planEdits(std::span<const Edit> edits) const;
+
     /// The name numbers of the reference, the value and the footprint as the format stores them.
     [[nodiscard]] NameId referenceName() const { return m_referenceName; }
     [[nodiscard]] NameId valueName() const { return m_valueName; }
@@ -101,6 +112,8 @@ protected:
     std::vector<Component> m_components;
     DesignInfo m_info;
     QStringList m_files;
+    /// Of the files as they were read.
+    std::vector<FileFingerprint> m_fingerprints;
     std::vector<SheetUse> m_sheets;
     SymbolCount m_symbols;
     QStringList m_variants;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "designs/filefingerprint.h"
 #include "designs/largememory.h"
 #include "designs/problem.h"
 
@@ -20,6 +21,9 @@ public:
     /// Reads the whole file; the text stays valid until the next call. A file whose first bytes (behind
     /// blanks and a byte-order mark) are not `start` is refused without being read. False fills `problem`.
     bool read(const QString &path, std::string_view start, Problem *problem);
+
+    /// Of the text.
+    [[nodiscard]] FileFingerprint fingerprint() const { return fingerprintOf(text()); }
 
     [[nodiscard]] std::string_view text() const { return {m_bytes.get(), m_size}; }
 

@@ -128,6 +128,8 @@ private:
         m_list->m_info.file = info.absoluteFilePath();
         m_list->m_info.modified = info.lastModified();
         m_list->m_files = QStringList{info.absoluteFilePath()};
+        const QByteArray &bytes = m_file.bytes();
+        m_list->m_fingerprints = {fingerprintOf({bytes.constData(), std::size_t(bytes.size())})};
         m_list->m_sheets = {SheetUse{QStringLiteral("/"), 0}};
     }
 

@@ -63,6 +63,7 @@ bool Hierarchy::loadFile(const QString &path, quint32 *number, Problem *problem)
     SheetFile &sheet = m_files.emplace_back();
     sheet.path = path;
     sheet.modified = info.lastModified();
+    sheet.fingerprint = m_buffer.fingerprint();
     m_fileNumbers.insert(canonical, *number);
     SheetParser parser(m_buffer.text(), &sheet, m_arena, m_names);
     if (!parser.parse()) {

@@ -149,6 +149,7 @@ void KicadDesign::collectSheets()
 {
     for (const SheetFile &file : m_hierarchy->files()) {
         m_files << file.path;
+        m_fingerprints.push_back(file.fingerprint);
     }
     for (const HierarchyUse &use : m_hierarchy->uses()) {
         m_sheets.push_back({use.namePath, use.file});

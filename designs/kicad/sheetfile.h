@@ -3,6 +3,7 @@
 #pragma once
 
 #include "designs/component.h"
+#include "designs/filefingerprint.h"
 
 #include <QDateTime>
 #include <QString>
@@ -129,6 +130,8 @@ struct SheetFile
 {
     QString path;
     QDateTime modified;
+    /// Of the content that was read.
+    FileFingerprint fingerprint;
     int formatVersion = 0;
     std::string_view uuid;
     TitleBlock title;

@@ -4,6 +4,10 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QList>
+#include <QString>
+
+#include <iosfwd>
 
 /// Where a component stands on the board.
 class CDBLAYOUT
@@ -29,6 +33,23 @@ private:
     const CDBLAYOUT *m_layout = nullptr;
 };
 
+/// One thing that keeps properties from being written.
+struct CDBPROBLEM
+{
+    /// Empty where a file as a whole is the trouble.
+    QString reference;
+    QString property;
+    /// Empty when no file is concerned; the line counts from 1, 0 when it is not known.
+    QString file;
+    int line = 0;
+    QString reason;
+
+    /// "FILE:LINE: REFERENCE, PROPERTY: reason", as far as these are known.
+    [[nodiscard]] QString message() const;
+
+    bool operator==(const CDBPROBLEM &) const = default;
+};
+
 /// The host's component database.
 class CDBCORE
 {
@@ -40,6 +61,21 @@ public:
 
     /// The record of a component by its identifier; null for an unknown one. Owned by the database.
     [[nodiscard]] virtual const CDBPART *getpart(quint64 identifier) = 0;
+
+    /// Runs a script that writes properties, host text, and reports "No Errors" or one line per problem.
+    /// `mode` is 0. Inside a batch it only checks and collects. The default reports that nothing can be
+    /// written.
+    virtual void adi(std::istream &script, std::ostream &report, int mode);
+
+    /// Collects what the scripts until commitbatch() write, to be written in one go. Batches nest; the
+    /// outermost counts. A host without batches writes at once.
+    virtual void beginbatch() {}
+    /// Writes what was collected, all of it or nothing; true when it is written, or the batch is an inner
+    /// one.
+    virtual bool commitbatch() { return true; }
+    /// All that kept the last batch, or the last script outside of one, from being written; the host keeps
+    /// the list until the next begins.
+    [[nodiscard]] virtual QList<CDBPROBLEM> problems() const { return {}; }
 };
 
 /// The installed database, null when the host has none.

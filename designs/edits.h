@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "designs/filefingerprint.h"
+#include "designs/problem.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace designs {
+
+/// A change of one property of one component that is asked for. Texts are UTF-8.
+struct Edit
+{
+    /// Index into Design::components().
+    std::size_t component = 0;
+    /// Found like a name that is read: exactly, by alias (VALUE, PACKAGE), ignoring letter case. BOMSKIP and
+    /// DNP stand for the flags where the format has them.
+    std::string name;
+    /// Nothing takes the property away.
+    std::optional<std::string> value;
+
+    bool operator==(const Edit &) const = default;
+};
+
+/// Why edits cannot be made.
+struct EditProblem
+{
+    /// Index into the edits; nothing when a file as a whole is the trouble.
+    std::optional<std::size_t> edit;
+    Problem problem;
+};
+
+/// What an edit does to the design.
+struct EditEffect
+{
+    /// Index into the edits.
+    std::size_t edit = 0;
+    /// The name under which the property is stored then.
+    std::string name;
+    /// What is stored before and after; nothing where the component lacks the property.
+    std::optional<std::string> before;
+    std::optional<std::string> after;
+    /// Where it stands, the line counted from 1 in the file as it is before.
+    QString file;
+    int line = 0;
+    /// The other components that share what is changed, as indices into Design::components().
+    std::vector<std::size_t> alsoChanges;
+};
+
+/// New content for a file.
+struct FileEdit
+{
+    QString path;
+    /// Of the content that the edits were worked out on.
+    FileFingerprint before;
+    QByteArray after;
+};
+
+/// Edits worked out. Files may be written only when there are no problems.
+struct EditPlan
+{
+    /// In the order of the edits; one that asks for what is there already has none.
+    std::vector<EditEffect> effects;
+    std::vector<EditProblem> problems;
+    std::vector<FileEdit> files;
+};
+
+} // namespace designs

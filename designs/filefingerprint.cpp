@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/filefingerprint.h"
+
+#include <QFile>
+#include <QStringList>
+
+#include <xxhash.h>
+
+#include <array>
+#include <memory>
+
+namespace designs {
+
+namespace {
+
+constexpr std::size_t blockSize = 1 << 20;
+
+struct StateDeleter
+{
+    void operator()(XXH3_state_t *state) const { XXH3_freeState(state); }
+};
+
+QString hex(quint64 number)
+{
+    return QStringLiteral("%1").arg(number, 16, 16, QLatin1Char('0'));
+}
+
+} // namespace
+
+QString FileFingerprint::toString() const
+{
+    return QString::number(size) + u'-' + hex(high) + hex(low);
+}
+
+std::optional<FileFingerprint> FileFingerprint::fromString(QStringView text)
+{
+    const qsizetype dash = text.indexOf(u'-');
+    if (dash < 1 || text.size() - dash - 1 != 32) {
+        return std::nullopt;
+    }
+    std::array<bool, 3> isNumber{};
+    const FileFingerprint read{text.left(dash).toULongLong(&isNumber[0]),
+                               text.mid(dash + 1, 16).toULongLong(&isNumber[1], 16),
+                               text.mid(dash + 17).toULongLong(&isNumber[2], 16)};
+    return isNumber[0] && isNumber[1] && isNumber[2] ? std::optional(read) : std::nullopt;
+}
+
+FileFingerprint fingerprintOf(std::string_view bytes)
+{
+    const XXH128_hash_t hash = XXH3_128bits(bytes.data(), bytes.size());
+    return {bytes.size(), hash.high64, hash.low64};
+}
+
+std::optional<FileFingerprint> fingerprintOfFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return std::nullopt;
+    }
+    const std::unique_ptr<XXH3_state_t, StateDeleter> state(XXH3_createState());
+    XXH3_128bits_reset(state.get());
+    QByteArray block(blockSize, Qt::Uninitialized);
+    quint64 size = 0;
+    for (;;) {
+        const qint64 got = file.read(block.data(), block.size());
+        if (got < 0) {
+            return std::nullopt;
+        }
+        if (got == 0) {
+            break;
+        }
+        XXH3_128bits_update(state.get(), block.constData(), std::size_t(got));
+        size += quint64(got);
+    }
+    const XXH128_hash_t hash = XXH3_128bits_digest(state.get());
+    return FileFingerprint{size, hash.high64, hash.low64};
+}
+
+} // namespace designs
