@@ -9,12 +9,14 @@
 #include "core/templatelayout.h"
 #include "core/templaterepair.h"
 #include "host/framework/applndocument.h"
+#include "host/framework/applnprocess.h"
 #include "host/framework/hosttext.h"
 #include "host/netlist/netcache.h"
 
 #include <QSet>
 
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -100,6 +102,18 @@ void BOMPartsDatabase::clearAndSuspend()
 {
     m_isUpdating = true;
     clear();
+}
+
+void BOMPartsDatabase::setWriting(bool isWriting)
+{
+    if (!std::exchange(m_isWriting, isWriting) || isWriting) {
+        return;
+    }
+    APPLNPROCESS *process = getapplnprocess();
+    IMODULE *client = process ? process->getmoduleinterface("BOM", INTERFACE_BOMVIEWER) : nullptr;
+    if (client) {
+        static_cast<INETCLIENT *>(client)->designChanged(true);
+    }
 }
 
 void BOMPartsDatabase::notify()

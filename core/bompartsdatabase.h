@@ -60,6 +60,10 @@ public:
     /// Clears and sends no notices until reload().
     void clearAndSuspend();
     [[nodiscard]] bool isUpdating() const { return m_isUpdating; }
+    /// While the design is being written, what the host tells of changes is to be ignored. The end of it asks
+    /// the module "BOM" for one full reload.
+    void setWriting(bool isWriting);
+    [[nodiscard]] bool isWriting() const { return m_isWriting; }
     /// Emits dataChanged() unless notices are held back.
     void notify();
 
@@ -262,6 +266,7 @@ private:
     /// By the number of a reference prefix, filled as they are met.
     std::vector<CategoryGroups *> m_storeOfPrefix;
     bool m_isUpdating = false;
+    bool m_isWriting = false;
     QString m_miscCategoryName;
     BOMFields m_fields;
     QStringList m_groupingFieldNames;

@@ -73,6 +73,8 @@ public:
     /// Writes what was collected, all of it or nothing; true when it is written, or the batch is an inner
     /// one.
     virtual bool commitbatch() { return true; }
+    /// Ends a batch and forgets what it collected; dropping an inner one makes the outer one fail.
+    virtual void dropbatch() {}
     /// All that kept the last batch, or the last script outside of one, from being written; the host keeps
     /// the list until the next begins.
     [[nodiscard]] virtual QList<CDBPROBLEM> problems() const { return {}; }

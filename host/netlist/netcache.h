@@ -7,6 +7,10 @@
 
 class NETCACHE;
 
+/// The numbers under which the application "BOM" offers its netlist client.
+constexpr unsigned INTERFACE_NETCLIENT = 8;
+constexpr unsigned INTERFACE_BOMVIEWER = 10;
+
 /// Who wants to know that the design behind a cache has changed.
 class INETCLIENT : public IMODULE
 {

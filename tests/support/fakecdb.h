@@ -4,10 +4,15 @@
 
 #include "host/netlist/cdbcore.h"
 
+#include <QStringList>
+
 #include <deque>
+#include <iterator>
+#include <ostream>
 #include <unordered_map>
 
-/// A component database, installed while it lives, that knows the placements a test gives it.
+/// A component database, installed while it lives, that knows the placements a test gives it and notes the
+/// scripts that it is to run.
 class FakeCdb final : public CDBCORE
 {
 public:
@@ -29,7 +34,39 @@ public:
         return found == m_parts.end() ? nullptr : &found->second;
     }
 
+    /// The reports of the next scripts; afterwards there are no errors.
+    QStringList reports;
+    /// What a commit finds; it is then refused.
+    QList<CDBPROBLEM> refusal;
+    /// The scripts as they came, with "begin", "commit" and "drop".
+    QStringList calls;
+
+    void adi(std::istream &script, std::ostream &report, int) override
+    {
+        calls << QString::fromUtf8(QByteArray::fromStdString({std::istreambuf_iterator<char>(script), {}}));
+        report << (reports.isEmpty() ? "No Errors\n" : reports.takeFirst().toStdString());
+        // What a host may leave behind.
+        report.setstate(std::ios::failbit);
+    }
+    void beginbatch() override
+    {
+        ++m_depth;
+        calls << QStringLiteral("begin");
+    }
+    bool commitbatch() override
+    {
+        calls << QStringLiteral("commit");
+        return --m_depth > 0 || refusal.isEmpty();
+    }
+    void dropbatch() override
+    {
+        --m_depth;
+        calls << QStringLiteral("drop");
+    }
+    QList<CDBPROBLEM> problems() const override { return refusal; }
+
 private:
+    int m_depth = 0;
     std::deque<CDBLAYOUT> m_layouts;
     std::unordered_map<quint64, CDBPART> m_parts;
 };

@@ -32,5 +32,11 @@ public:
     {
         return QByteArrayView(application) == "BOM" ? dataPath : QString();
     }
-    IMODULE *getmoduleinterface(const char *, unsigned) override { return nullptr; }
+    /// What the module "BOM" offers as interface 10.
+    IMODULE *viewer = nullptr;
+
+    IMODULE *getmoduleinterface(const char *application, unsigned id) override
+    {
+        return QByteArrayView(application) == "BOM" && id == 10 ? viewer : nullptr;
+    }
 };

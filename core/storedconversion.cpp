@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "core/storedconversion.h"
+
+#include "host/framework/hostui.h"
+
+#include <QLocale>
+
+#include <cmath>
+
+namespace {
+
+struct States
+{
+    QLatin1String upper;
+    QLatin1String lower;
+};
+
+/// Nothing for a type that is not one of two states.
+std::optional<States> statesOf(PropType type)
+{
+    switch (type) {
+    case PropType::YesNo:
+    case PropType::Boolean:
+        return States{QLatin1String("Yes"), QLatin1String("No")};
+    case PropType::HighLow:
+        return States{QLatin1String("High"), QLatin1String("Low")};
+    case PropType::TrueFalse:
+        return States{QLatin1String("True"), QLatin1String("False")};
+    case PropType::String:
+    case PropType::Text:
+    case PropType::Int:
+    case PropType::Float:
+        break;
+    }
+    return std::nullopt;
+}
+
+bool isOneOf(const QString &text, QLatin1String shown, QLatin1Char stored)
+{
+    return text.compare(shown, Qt::CaseInsensitive) == 0 || text == stored;
+}
+
+QString wholeNumber(QString text)
+{
+    return text.remove(u' ').remove(u'.').remove(u',');
+}
+
+} // namespace
+
+StoredConversion::StoredConversion(std::optional<PropType> type)
+    : m_type(type)
+    , m_decimalPoint(HostUi::current().locale().decimalPoint())
+{
+}
+
+bool StoredConversion::accepts(const QString &shown) const
+{
+    if (!m_type || shown.isEmpty()) {
+        return true;
+    }
+    if (const auto states = statesOf(*m_type)) {
+        return isOneOf(shown, states->upper, QLatin1Char('1')) ||
+               isOneOf(shown, states->lower, QLatin1Char('0'));
+    }
+    bool isNumber = true;
+    if (*m_type == PropType::Int) {
+        (void)wholeNumber(shown).toLongLong(&isNumber);
+    } else if (*m_type == PropType::Float) {
+        isNumber = std::isfinite((*this)(shown).toDouble(&isNumber)) && isNumber;
+    }
+    return isNumber;
+}
+
+QString StoredConversion::operator()(const QString &shown) const
+{
+    if (!m_type || shown.isEmpty()) {
+        return shown;
+    }
+    if (const auto states = statesOf(*m_type)) {
+        return isOneOf(shown, states->upper, QLatin1Char('1')) ? QStringLiteral("1") : QStringLiteral("0");
+    }
+    if (*m_type == PropType::Int) {
+        return wholeNumber(shown);
+    }
+    QString stored = shown;
+    if (*m_type == PropType::Float && m_decimalPoint != u'.') {
+        stored.replace(m_decimalPoint, QStringLiteral("."));
+    }
+    return stored;
+}

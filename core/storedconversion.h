@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/propdefs/propdef.h"
+
+#include <QString>
+
+#include <optional>
+
+/// The way back of DisplayConversion: from what people see, or type, to what the design holds.
+class StoredConversion final
+{
+public:
+    /// Without a type texts stay as they are.
+    explicit StoredConversion(std::optional<PropType> type);
+
+    /// Whether the text is one that the type has: one of its two states, as shown or as stored and in any
+    /// letter case, or a number in the user's format. An empty text always is.
+    [[nodiscard]] bool accepts(const QString &shown) const;
+
+    /// Another text than the ones accepted counts as the lower state; in numbers it stays.
+    [[nodiscard]] QString operator()(const QString &shown) const;
+
+private:
+    std::optional<PropType> m_type;
+    QString m_decimalPoint;
+};
