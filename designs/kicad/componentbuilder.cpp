@@ -19,21 +19,6 @@ std::string_view nameOfLibId(std::string_view libId)
     return colon == std::string_view::npos ? libId : libId.substr(colon + 1);
 }
 
-/// Even-odd rule; a point on the outline may fall on either side.
-bool contains(const std::vector<Point> &outline, Point point)
-{
-    bool inside = false;
-    for (std::size_t i = 0, before = outline.size() - 1; i < outline.size(); before = i++) {
-        const Point &a = outline[i];
-        const Point &b = outline[before];
-        if ((a.y > point.y) != (b.y > point.y) &&
-            point.x < (b.x - a.x) * (point.y - a.y) / (b.y - a.y) + a.x) {
-            inside = !inside;
-        }
-    }
-    return inside;
-}
-
 void replaceOrAdd(std::vector<Property> *properties, const Property &property)
 {
     const auto same = std::find_if(properties->begin(), properties->end(),
@@ -54,6 +39,7 @@ ComponentBuilder::ComponentBuilder(const Hierarchy &hierarchy, std::string varia
     , m_variant(std::move(variant))
     , m_arena(arena)
     , m_names(names)
+    , m_outer(hierarchy, m_variant)
     , m_footprint(names->intern("Footprint"))
     , m_valueName(names->intern("Value"))
 {
@@ -61,7 +47,6 @@ ComponentBuilder::ComponentBuilder(const Hierarchy &hierarchy, std::string varia
 
 void ComponentBuilder::build()
 {
-    collectSheetMarks();
     collectTables();
     reserve();
     for (quint32 use = 0; use < m_hierarchy.uses().size(); ++use) {
@@ -69,40 +54,6 @@ void ComponentBuilder::build()
     }
     finishGroups();
     warnAboutLibraries();
-}
-
-const VariantRecord *ComponentBuilder::variantOf(const InstanceRecord *record) const
-{
-    if (!record || m_variant.empty()) {
-        return nullptr;
-    }
-    const auto found =
-        std::find_if(record->variants.begin(), record->variants.end(),
-                     [this](const VariantRecord &variant) { return variant.name == m_variant; });
-    return found == record->variants.end() ? nullptr : &*found;
-}
-
-void ComponentBuilder::collectSheetMarks()
-{
-    const auto &uses = m_hierarchy.uses();
-    m_sheetMarks.resize(uses.size());
-    for (quint32 number = 0; number < uses.size(); ++number) {
-        const HierarchyUse &use = uses[number];
-        if (!use.symbol) {
-            continue;
-        }
-        SheetMarks marks = m_sheetMarks[use.parent];
-        const VariantRecord *variant = variantOf(use.instance);
-        if (!marks.notInBom && !(variant ? variant->inBom.value_or(use.symbol->inBom) : use.symbol->inBom)) {
-            marks.notInBom = true;
-            marks.notInBomSheet = number;
-        }
-        if (!marks.notFitted && (variant ? variant->dnp.value_or(use.symbol->dnp) : use.symbol->dnp)) {
-            marks.notFitted = true;
-            marks.notFittedSheet = number;
-        }
-        m_sheetMarks[number] = marks;
-    }
 }
 
 /// Version 6 keeps the instances in a table of the root.
@@ -172,7 +123,7 @@ ComponentBuilder::Instance ComponentBuilder::instanceOf(quint32 use, const Place
 {
     const InstanceRecord *record = path ? findInstance(symbol.instances, *path) : nullptr;
     if (record) {
-        return {record->reference, {}, {}, record->unit, variantOf(record)};
+        return {record->reference, {}, {}, record->unit, findVariant(record, m_variant)};
     }
     if (const TableInstance *entry = tableEntry(use, symbol)) {
         return {entry->reference, entry->value, entry->footprint, entry->unit, nullptr};
@@ -224,30 +175,18 @@ Component ComponentBuilder::makeComponent(quint32 use, const PlacedSymbol &symbo
 void ComponentBuilder::applyMarks(Component *component, const PlacedSymbol &symbol, const Instance &instance)
 {
     const VariantRecord *variant = instance.variant;
-    const SheetMarks &marks = m_sheetMarks[component->sheet];
-    if (!(variant ? variant->inBom.value_or(symbol.inBom) : symbol.inBom)) {
-        component->notInBom = MarkedBy::Symbol;
-    } else if (marks.notInBom) {
-        component->notInBom = MarkedBy::Sheet;
-        component->notInBomSheet = marks.notInBomSheet;
+    OuterMarks::Mark notInBom{MarkedBy::Symbol, 0};
+    if (variant ? variant->inBom.value_or(symbol.inBom) : symbol.inBom) {
+        notInBom = m_outer.notInBom(component->sheet, symbol);
     }
-    if (variant ? variant->dnp.value_or(symbol.dnp) : symbol.dnp) {
-        component->notFitted = MarkedBy::Symbol;
-    } else if (marks.notFitted) {
-        component->notFitted = MarkedBy::Sheet;
-        component->notFittedSheet = marks.notFittedSheet;
+    OuterMarks::Mark notFitted{MarkedBy::Symbol, 0};
+    if (!(variant ? variant->dnp.value_or(symbol.dnp) : symbol.dnp)) {
+        notFitted = m_outer.notFitted(component->sheet, symbol);
     }
-    for (const RuleArea &area : m_hierarchy.files()[component->file].ruleAreas) {
-        if (!contains(area.outline, symbol.at)) {
-            continue;
-        }
-        if (!area.inBom && component->notInBom == MarkedBy::Nothing) {
-            component->notInBom = MarkedBy::RuleArea;
-        }
-        if (area.dnp && component->notFitted == MarkedBy::Nothing) {
-            component->notFitted = MarkedBy::RuleArea;
-        }
-    }
+    component->notInBom = notInBom.by;
+    component->notInBomSheet = notInBom.sheet;
+    component->notFitted = notFitted.by;
+    component->notFittedSheet = notFitted.sheet;
 }
 
 void ComponentBuilder::applyOverrides(Component *component, const Instance &instance)

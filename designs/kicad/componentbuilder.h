@@ -5,6 +5,7 @@
 #include "designs/design.h"
 #include "designs/kicad/hierarchy.h"
 #include "designs/kicad/instancetable.h"
+#include "designs/kicad/outermarks.h"
 #include "designs/linenumbers.h"
 
 #include <QStringList>
@@ -58,23 +59,12 @@ private:
         /// Each unit as a component of its own, with its symbol.
         std::vector<std::pair<SymbolUse, Component>> members;
     };
-    /// Marks that come from the sheets above.
-    struct SheetMarks
-    {
-        bool notInBom = false;
-        bool notFitted = false;
-        quint32 notInBomSheet = 0;
-        quint32 notFittedSheet = 0;
-    };
-
-    void collectSheetMarks();
     void collectTables();
     void reserve();
     void addUse(quint32 use);
     void addSymbol(quint32 use, quint32 symbol, std::optional<quint32> path);
     [[nodiscard]] Instance instanceOf(quint32 use, const PlacedSymbol &symbol, std::optional<quint32> path);
     [[nodiscard]] const TableInstance *tableEntry(quint32 use, const PlacedSymbol &symbol);
-    [[nodiscard]] const VariantRecord *variantOf(const InstanceRecord *record) const;
     [[nodiscard]] Component makeComponent(quint32 use, const PlacedSymbol &symbol, const Instance &instance);
     void applyMarks(Component *component, const PlacedSymbol &symbol, const Instance &instance);
     void applyOverrides(Component *component, const Instance &instance);
@@ -104,9 +94,9 @@ private:
     std::string m_variant;
     TextArena *m_arena;
     PropertyNames *m_names;
+    OuterMarks m_outer;
     NameId m_footprint = 0;
     NameId m_valueName = 0;
-    std::vector<SheetMarks> m_sheetMarks;
     std::unordered_map<quint32, InstanceTable> m_tables;
     std::string m_key;
     /// By reference and library symbol.

@@ -20,6 +20,10 @@ namespace designs::kicad {
 namespace version {
 /// The first that KiCad 6 wrote on the way to its release.
 constexpr int oldest = 20210000;
+constexpr int notFittedFlag = 20220914;
+constexpr int descriptionField = 20230620;
+/// "(hide yes)" instead of a bare "hide".
+constexpr int hideList = 20231120;
 constexpr int tildeIsText = 20250318;
 constexpr int variableEscape = 20260101;
 constexpr int ruleAreaFlags = 20250610;
@@ -114,6 +118,7 @@ struct TableInstance
     std::string_view value;
     std::string_view footprint;
     int unit = 1;
+    quint32 offset = 0;
 };
 
 struct TitleBlock

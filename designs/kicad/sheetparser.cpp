@@ -3,10 +3,10 @@
 #include "designs/kicad/sheetparser.h"
 
 #include "designs/kicad/braceescapes.h"
+#include "designs/kicad/mandatorynames.h"
 #include "designs/utf8.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 
 namespace designs::kicad {
@@ -18,22 +18,6 @@ int leadingInt(std::string_view text, int otherwise)
     int number = otherwise;
     std::from_chars(text.data(), text.data() + text.size(), number);
     return number;
-}
-
-bool sameAscii(std::string_view a, std::string_view b)
-{
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? char(c - 'A' + 'a') : c; };
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [&lower](char x, char y) { return lower(x) == lower(y); });
-}
-
-/// The fields that every symbol has are known whatever their letter case.
-std::string_view mandatoryName(std::string_view name)
-{
-    static constexpr std::array<std::string_view, 4> known{"Reference", "Value", "Footprint", "Datasheet"};
-    const auto found = std::find_if(known.begin(), known.end(),
-                                    [name](std::string_view other) { return sameAscii(name, other); });
-    return found == known.end() ? name : *found;
 }
 
 /// The unit of a library symbol's part "NAME_UNIT_STYLE"; 0 for what all units share.

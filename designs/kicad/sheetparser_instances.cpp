@@ -15,6 +15,7 @@ bool SheetParser::readInstanceTable()
             return false;
         }
         TableInstance entry;
+        entry.offset = quint32(m_scanner.tokenOffset());
         entry.path = takeKept();
         const bool complete = readChildren([this, &entry](std::string_view inner) {
             if (inner == "reference") {
