@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/kicaddesign.h"
 
+#include "designs/kicad/editmodel.h"
 #include "designs/kicad/symbolrecount.h"
 #include "designs/kicad/textvariables.h"
 #include "designs/notfitted.h"
@@ -45,6 +46,8 @@ KicadDesign::KicadDesign()
     m_names.setAlias("PACKAGE", m_names.intern("Footprint"));
 }
 
+KicadDesign::~KicadDesign() = default;
+
 bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem *problem)
 {
     if (!findProject(QFileInfo(path).absoluteFilePath(), problem) || !readSheets(problem)) {
@@ -55,7 +58,8 @@ bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem 
         return false;
     }
     collectSheets();
-    ComponentBuilder builder(*m_hierarchy, options.variant.toStdString(), &m_arena, &m_names, &m_lines);
+    m_variant = options.variant.toStdString();
+    ComponentBuilder builder(*m_hierarchy, m_variant, &m_arena, &m_names, &m_lines);
     builder.build();
     m_components = std::move(builder.components);
     m_symbolUses = std::move(builder.symbols);

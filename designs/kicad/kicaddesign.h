@@ -13,11 +13,14 @@
 
 namespace designs::kicad {
 
+class EditModel;
+
 /// A schematic of KiCad 6 to 10.
 class KicadDesign final : public Design
 {
 public:
     KicadDesign();
+    ~KicadDesign() override;
 
     /// Reads a .kicad_sch or .kicad_pro; false fills `problem`.
     bool read(const QString &path, const ReadOptions &options, Problem *problem);
@@ -25,6 +28,8 @@ public:
     [[nodiscard]] Side placement(std::string_view reference) const override;
     [[nodiscard]] SymbolCount recount(Problem *error) const override;
     [[nodiscard]] int lineOf(const Component &component) const override;
+    [[nodiscard]] std::optional<QString> checkEdit(const Edit &edit) const override;
+    [[nodiscard]] EditPlan planEdits(std::span<const Edit> edits) const override;
 
 private:
     bool findProject(const QString &path, Problem *problem);
@@ -33,6 +38,7 @@ private:
     void collectVariants();
     void collectSheets();
     void fillInfo();
+    [[nodiscard]] const EditModel &editModel() const;
 
     ProjectFile m_project;
     /// Root sheets as (file, identifier that instance paths begin with).
@@ -42,6 +48,10 @@ private:
     mutable LineNumbers m_lines{"(kicad_sch"};
     mutable bool m_boardRead = false;
     mutable BoardSides m_sides;
+    /// The variant that was chosen for reading.
+    std::string m_variant;
+    /// Made at the first question about an edit.
+    mutable std::unique_ptr<EditModel> m_editModel;
 };
 
 /// Reads a KiCad design.

@@ -112,6 +112,20 @@ void TextVariables::resolve(std::vector<Component> *components, const std::vecto
     }
 }
 
+void TextVariables::setComponents(const std::vector<Component> &components,
+                                  const std::vector<SymbolUse> &symbols)
+{
+    m_components = &components;
+    m_symbols = &symbols;
+}
+
+std::string TextVariables::textOf(const Component &component, std::string_view text) const
+{
+    m_budget = workPerDesign;
+    m_ranOut = false;
+    return expand(text, contextOf(component), 0);
+}
+
 std::string TextVariables::titleText(std::string_view text) const
 {
     return expand(text, Context(), 0);

@@ -31,6 +31,10 @@ public:
     /// Replaces the variables in the values of all components that have any; the new texts go into the arena.
     void resolve(std::vector<Component> *components, const std::vector<SymbolUse> &symbols, TextArena *arena);
 
+    /// What a text of a resolved component reads as. The components and symbols must outlive the variables.
+    void setComponents(const std::vector<Component> &components, const std::vector<SymbolUse> &symbols);
+    [[nodiscard]] std::string textOf(const Component &component, std::string_view text) const;
+
     /// Whether variables were left as they stand because there was more work than allowed, a text grew too
     /// long or variables name each other in a circle.
     [[nodiscard]] bool leftSome() const { return m_ranOut || m_leftSome; }

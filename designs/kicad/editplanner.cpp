@@ -1,0 +1,305 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/kicad/editplanner.h"
+
+#include "designs/notfitted.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace designs::kicad {
+
+namespace {
+
+/// References that a message names before it only counts.
+constexpr std::size_t namedReferences = 12;
+
+QString toText(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), qsizetype(text.size()));
+}
+
+bool knowsNotFitted(const SheetFile &sheet, const PlacedSymbol &symbol)
+{
+    return sheet.formatVersion >= version::notFittedFlag || symbol.dnp;
+}
+
+/// The names between the braces of the variables in a text, without a reference before a colon.
+QStringList variableNames(std::string_view text)
+{
+    QStringList names;
+    for (std::size_t at = text.find("${"); at != std::string_view::npos; at = text.find("${", at + 2)) {
+        const std::string_view rest = text.substr(at + 2);
+        const QString name = toText(rest.substr(0, rest.find('}')));
+        names << name.mid(name.indexOf(u':') + 1).toCaseFolded();
+    }
+    return names;
+}
+
+} // namespace
+
+EditPlanner::EditPlanner(const EditModel &model)
+    : m_model(model)
+    , m_resolver(model)
+{
+}
+
+EditPlan EditPlanner::plan(std::span<const Edit> edits)
+{
+    resolveAll(edits);
+    refuseCrossing();
+    refuseConflicts();
+    if (m_plan.problems.empty()) {
+        for (const auto &[number, edit] : m_edits) {
+            if (edit.changes) {
+                apply(number);
+            }
+        }
+        buildFiles();
+    }
+    std::stable_sort(m_plan.problems.begin(), m_plan.problems.end(),
+                     [](const EditProblem &a, const EditProblem &b) { return a.edit < b.edit; });
+    if (!m_plan.problems.empty()) {
+        m_plan.files.clear();
+    }
+    return std::move(m_plan);
+}
+
+QString EditPlanner::referenceOf(std::size_t component) const
+{
+    return toText(m_model.components()[component].reference);
+}
+
+void EditPlanner::refuse(std::size_t edit, const QString &why)
+{
+    const ResolvedEdit &asked = m_edits.at(edit);
+    QString file;
+    QString who;
+    if (asked.component < m_model.components().size()) {
+        file = m_model.sheetOf(m_model.places(asked.component).front()).path;
+        who = referenceOf(asked.component) + u' ' + toText(asked.name) + QStringLiteral(": ");
+    } else {
+        file = m_model.hierarchy().files().front().path;
+    }
+    m_plan.problems.push_back({edit, {file, 0, who + why}});
+}
+
+/// Of several edits of one property of one component the last counts.
+void EditPlanner::resolveAll(std::span<const Edit> edits)
+{
+    std::unordered_map<std::string, std::size_t> last;
+    for (std::size_t number = 0; number < edits.size(); ++number) {
+        ResolvedEdit edit = m_resolver.resolve(edits[number]);
+        const std::string key = std::to_string(edit.component) + ' ' + edit.name;
+        const auto [known, isNew] = last.try_emplace(key, number);
+        if (!isNew) {
+            m_edits.erase(known->second);
+            known->second = number;
+        }
+        m_edits.emplace_hint(m_edits.end(), number, std::move(edit));
+    }
+    for (const auto &[number, edit] : m_edits) {
+        if (!edit.refusal.isEmpty()) {
+            refuse(number, edit.refusal);
+        }
+    }
+}
+
+/// A text whose variables stand for what the same batch changes has no meaning that could be promised.
+void EditPlanner::refuseCrossing()
+{
+    QSet<QString> changed;
+    for (const auto &[number, edit] : m_edits) {
+        changed.insert(toText(edit.name).toCaseFolded());
+    }
+    for (const auto &[number, edit] : m_edits) {
+        for (const QString &name : variableNames(edit.changes ? edit.written : std::string())) {
+            if (changed.contains(name)) {
+                refuse(number, QStringLiteral("the text holds a variable for a property that is changed with "
+                                              "it; change one after the other"));
+                break;
+            }
+        }
+    }
+}
+
+/// What an edit changes that other components may share.
+std::vector<std::string> EditPlanner::sharedKeys(const ResolvedEdit &edit) const
+{
+    std::vector<std::string> keys;
+    if (!m_model.variant().empty() || edit.component >= m_model.components().size()) {
+        return keys;
+    }
+    for (const SymbolUse &place : m_model.places(edit.component)) {
+        if (m_model.sharers(place).size() > 1) {
+            const auto own = edit.target == EditTarget::Property ? m_model.nameIn(place, edit.name)
+                                                                 : std::optional<std::string_view>();
+            keys.push_back(std::to_string(m_model.fileOf(place)) + ' ' + std::to_string(place.symbol) + ' ' +
+                           std::string(own.value_or(edit.name)));
+        }
+    }
+    return keys;
+}
+
+void EditPlanner::refuseConflicts()
+{
+    struct Group
+    {
+        std::vector<std::size_t> edits;
+        bool differs = false;
+        QString references;
+    };
+    std::unordered_map<std::string, Group> groups;
+    for (const auto &[number, edit] : m_edits) {
+        for (const std::string &key : sharedKeys(edit)) {
+            Group &group = groups[key];
+            group.differs |= !group.edits.empty() && m_edits.at(group.edits.front()).wanted != edit.wanted;
+            if (group.edits.size() < namedReferences) {
+                group.references += group.edits.empty() ? QString() : QStringLiteral(", ");
+                group.references += referenceOf(edit.component);
+            }
+            group.edits.push_back(number);
+        }
+    }
+    for (const auto &[number, edit] : m_edits) {
+        for (const std::string &key : sharedKeys(edit)) {
+            const Group &group = groups.at(key);
+            if (group.differs) {
+                const std::size_t more = group.edits.size() - std::min(group.edits.size(), namedReferences);
+                refuse(number,
+                       QStringLiteral("drawn by one symbol of a sheet that is used several times, and asked "
+                                      "to differ: ") +
+                           group.references + (more ? QStringLiteral(" and %1 more").arg(more) : QString()));
+                break;
+            }
+        }
+    }
+}
+
+SymbolChange &EditPlanner::changeOf(const SymbolUse &place)
+{
+    return m_changes[m_model.fileOf(place)].symbols[place.symbol];
+}
+
+VariantChange &EditPlanner::variantChangeOf(const SymbolUse &place)
+{
+    return changeOf(place).variants[m_model.pathOf(place)];
+}
+
+std::vector<std::size_t> EditPlanner::alsoChanges(const ResolvedEdit &edit) const
+{
+    std::vector<std::size_t> others;
+    if (!m_model.variant().empty()) {
+        return others;
+    }
+    for (const SymbolUse &place : m_model.places(edit.component)) {
+        const auto sharers = m_model.sharers(place);
+        std::copy_if(sharers.begin(), sharers.end(), std::back_inserter(others),
+                     [&edit](quint32 other) { return other != edit.component; });
+    }
+    std::sort(others.begin(), others.end());
+    others.erase(std::unique(others.begin(), others.end()), others.end());
+    return others;
+}
+
+void EditPlanner::apply(std::size_t number)
+{
+    const ResolvedEdit &edit = m_edits.at(number);
+    const auto places = m_model.places(edit.component);
+    for (const SymbolUse &place : places) {
+        if (edit.target == EditTarget::NotFitted) {
+            applyNotFitted(edit.wanted.has_value(), place, edit.component);
+        } else if (edit.target == EditTarget::NotInBom) {
+            applyNotInBom(edit.wanted.has_value(), place);
+        } else {
+            applyProperty(edit, place);
+        }
+    }
+    changeOf(places.front()).effects.push_back(m_plan.effects.size());
+    m_plan.effects.push_back({number, edit.name, edit.before, edit.wanted,
+                              m_model.sheetOf(places.front()).path, 0, alsoChanges(edit)});
+}
+
+void EditPlanner::applyProperty(const ResolvedEdit &edit, const SymbolUse &place)
+{
+    const auto own = m_model.nameIn(place, edit.name);
+    const bool isVariant = !m_model.variant().empty();
+    if (own || (edit.wanted && !isVariant)) {
+        setText(place, own.value_or(edit.name), edit.wanted ? std::optional(edit.written) : std::nullopt);
+    }
+}
+
+void EditPlanner::setText(const SymbolUse &place, std::string_view name,
+                          const std::optional<std::string> &text)
+{
+    if (!m_model.variant().empty()) {
+        setChange(&variantChangeOf(place).fields, name, text);
+        return;
+    }
+    setChange(&changeOf(place).properties, name, text);
+    if (text && (name == "Value" || name == "Footprint")) {
+        setRows(place, name, *text);
+    }
+}
+
+/// Version 6 repeats value and footprint for every use; a text there counts before the symbol's.
+void EditPlanner::setRows(const SymbolUse &place, std::string_view name, const std::string &text)
+{
+    for (const TableRow &row : m_model.rowsOf(m_model.fileOf(place), m_model.symbolOf(place))) {
+        const TableInstance &old = m_model.hierarchy().files()[row.file].instanceTable[row.entry];
+        if (name == "Value" && !old.value.empty()) {
+            m_changes[row.file].rows[row.entry].value = text;
+        } else if (name == "Footprint" && !old.footprint.empty()) {
+            m_changes[row.file].rows[row.entry].footprint = text;
+        }
+    }
+}
+
+/// The flag, and properties of that name so that they do not say otherwise.
+void EditPlanner::applyNotFitted(bool wanted, const SymbolUse &place, std::size_t component)
+{
+    const PlacedSymbol &symbol = m_model.symbolOf(place);
+    const bool hasFlag = knowsNotFitted(m_model.sheetOf(place), symbol);
+    if (!m_model.variant().empty()) {
+        variantChangeOf(place).dnp = wanted;
+    } else if (hasFlag && symbol.dnp != wanted) {
+        changeOf(place).dnp = wanted;
+    }
+    const auto ids = m_model.names().candidates("DNP");
+    bool hasProperty = false;
+    for (const NameId id : ids) {
+        const std::string_view name = m_model.names().name(id);
+        const auto text = m_model.usedText(place, name);
+        hasProperty |= text.has_value();
+        if (!text || saysNotFitted(m_model.resolved(component, *text)) == wanted) {
+            continue;
+        }
+        if (wanted) {
+            setText(place, name, "1");
+        } else {
+            setText(place, name, hasFlag ? std::optional(std::string()) : std::nullopt);
+        }
+    }
+    if (wanted && !hasFlag && !hasProperty) {
+        setText(place, ids.empty() ? std::string_view("DNP") : m_model.names().name(ids.front()), "1");
+    }
+}
+
+void EditPlanner::applyNotInBom(bool wanted, const SymbolUse &place)
+{
+    if (!m_model.variant().empty()) {
+        variantChangeOf(place).inBom = !wanted;
+    } else if (m_model.symbolOf(place).inBom == wanted) {
+        changeOf(place).inBom = !wanted;
+    }
+    for (const NameId id : m_model.names().candidates("BOMSKIP")) {
+        const std::string_view name = m_model.names().name(id);
+        if (!wanted && m_model.usedText(place, name)) {
+            setText(place, name, std::nullopt);
+        }
+    }
+}
+
+} // namespace designs::kicad
