@@ -37,9 +37,14 @@ public:
     /// Why the files could not be replaced now: locked, changed meanwhile, not writable. Writes nothing.
     [[nodiscard]] std::vector<Problem> check(std::span<const FileEdit> files) const;
 
-    /// Replaces the files. Keeps permissions, follows symbolic links. Without problems all are replaced, with
-    /// any of them none is.
+    /// Replaces the files. Keeps permissions, follows symbolic links; a file with several names (hard links)
+    /// is refused. Without problems all are replaced; with any of them none is, unless replaced() says
+    /// otherwise.
     [[nodiscard]] std::vector<Problem> write(std::span<const FileEdit> files, Backups backups);
+
+    /// Whether the last write() or undo() replaced the files. Where it reported problems nevertheless,
+    /// backups or cleaning up failed; the next recover() completes that.
+    [[nodiscard]] bool replaced() const { return m_replaced; }
 
     /// What undo() did.
     struct Undone
@@ -56,7 +61,8 @@ public:
 
 private:
     QString m_design;
-    FileSystem *m_system;
+    FileSystem &m_system;
+    bool m_replaced = false;
 };
 
 } // namespace designs

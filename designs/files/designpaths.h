@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace designs {
+
+/// Where the files lie that belong to writing one design. All paths are absolute, without symbolic links.
+class DesignPaths final
+{
+public:
+    explicit DesignPaths(const QString &design);
+
+    [[nodiscard]] const QString &design() const { return m_design; }
+    [[nodiscard]] const QString &folder() const { return m_folder; }
+    /// What an interrupted write left to do.
+    [[nodiscard]] QString journal() const;
+    /// The journal before it counts.
+    [[nodiscard]] QString newJournal() const;
+    [[nodiscard]] QString lock() const;
+    [[nodiscard]] QString backupFolder() const;
+    /// What undo() takes back.
+    [[nodiscard]] QString record() const;
+    /// The backup of a file of the design; different for each.
+    [[nodiscard]] QString backupOf(const QString &target) const;
+
+    /// A path as it stands in journal and record, so that both still hold when the folder is moved.
+    [[nodiscard]] QString relative(const QString &path) const;
+    /// The reverse. Empty for what is no path of relative(), or leads over a symbolic link.
+    [[nodiscard]] QString resolved(const QString &path) const;
+    /// Whether a file may be written as one of this design: it lies in or below its folder or, elsewhere, is
+    /// of the same kind.
+    [[nodiscard]] bool mayHold(const QString &target) const;
+
+private:
+    QString m_design;
+    QString m_folder;
+    QString m_name;
+};
+
+/// The folder that a path lies in.
+[[nodiscard]] QString folderOf(const QString &path);
+
+} // namespace designs

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <string_view>
+
+namespace designs {
+
+/// What stands under a path; a symbolic link is not followed.
+struct FileStatus
+{
+    enum class Kind
+    {
+        Missing,
+        File,
+        Folder,
+        Other
+    };
+
+    Kind kind = Kind::Missing;
+    /// The permission bits.
+    quint32 mode = 0644;
+    quint32 owner = ~quint32(0);
+    quint32 group = ~quint32(0);
+    quint64 size = 0;
+    /// Under how many names (hard links) the file is known.
+    quint64 names = 1;
+};
+
+/// The operations by which design files are replaced. Each gives 0, or the errno that tells why it failed.
+class FileSystem
+{
+public:
+    FileSystem() = default;
+    FileSystem(const FileSystem &) = delete;
+    FileSystem &operator=(const FileSystem &) = delete;
+    virtual ~FileSystem();
+
+    /// The one of the machine.
+    [[nodiscard]] static FileSystem &real();
+
+    /// A missing file is no failure.
+    [[nodiscard]] virtual int status(const QString &path, FileStatus *status) = 0;
+    /// Whether this user may write the file, or create files in the folder.
+    [[nodiscard]] virtual int checkWritable(const QString &path) = 0;
+
+    /// Creates a file that must not exist, readable by its owner alone.
+    [[nodiscard]] virtual int create(const QString &path, int *file) = 0;
+    [[nodiscard]] virtual int write(int file, std::string_view bytes, std::size_t *written) = 0;
+    /// Gives the file the permissions and, as far as this user may, the owner and group of another.
+    [[nodiscard]] virtual int setAttributes(int file, const FileStatus &like) = 0;
+    [[nodiscard]] virtual int sync(int file) = 0;
+    [[nodiscard]] virtual int close(int file) = 0;
+
+    [[nodiscard]] virtual int rename(const QString &from, const QString &to) = 0;
+    [[nodiscard]] virtual int remove(const QString &path) = 0;
+    [[nodiscard]] virtual int makeFolder(const QString &path) = 0;
+    /// Only an empty one.
+    [[nodiscard]] virtual int removeFolder(const QString &path) = 0;
+    /// Makes what was created, renamed and removed in the folder last.
+    [[nodiscard]] virtual int syncFolder(const QString &path) = 0;
+
+    /// Takes the lock that the file stands for, without waiting: EWOULDBLOCK while another process has it. It
+    /// ends with the process.
+    [[nodiscard]] virtual int lock(const QString &path, int *file) = 0;
+    /// Removes the file and gives the lock back.
+    [[nodiscard]] virtual int unlock(const QString &path, int file) = 0;
+    /// A moment between two attempts to lock.
+    virtual void pause() = 0;
+};
+
+} // namespace designs
