@@ -48,7 +48,11 @@ bool FileTransaction::prepare(const std::vector<Replacement> &files, bool keepsB
     m_journal.token = newToken();
     m_journal.keepsBackups = keepsBackups;
     m_journal.newRecord = m_journal.recordName(m_paths);
-    m_journal.makesBackupFolder = keepsBackups && !m_work.exists(m_paths.backupFolder());
+    FileStatus folder;
+    if (!m_work.look(m_paths.backupFolder(), &folder)) {
+        return false;
+    }
+    m_journal.makesBackupFolder = keepsBackups && folder.kind == FileStatus::Kind::Missing;
     for (const Replacement &file : files) {
         const std::string_view after(file.after->constData(), std::size_t(file.after->size()));
         m_journal.add(m_paths, {file.target, file.before, fingerprintOf(after)});

@@ -87,10 +87,15 @@ bool FileWork::removeFolderIfEmpty(const QString &path)
            did(failure, path, QStringLiteral("cannot be removed"));
 }
 
+bool FileWork::look(const QString &path, FileStatus *status)
+{
+    return did(m_system.status(path, status), path, QStringLiteral("cannot be looked at"));
+}
+
 FileStatus FileWork::status(const QString &path)
 {
     FileStatus found;
-    if (!did(m_system.status(path, &found), path, QStringLiteral("cannot be looked at"))) {
+    if (!look(path, &found)) {
         found.kind = FileStatus::Kind::Other;
     }
     return found;

@@ -37,6 +37,8 @@ public:
     bool removeIfThere(const QString &path);
     bool removeFolderIfEmpty(const QString &path);
 
+    /// False, with a problem added, when it cannot be told.
+    bool look(const QString &path, FileStatus *status);
     /// Of kind Other, with a problem added, when it cannot be told.
     [[nodiscard]] FileStatus status(const QString &path);
     /// True also when it cannot be told.

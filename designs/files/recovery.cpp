@@ -16,7 +16,11 @@ bool Recovery::isNeeded()
 
 bool Recovery::run()
 {
-    if (!m_work.exists(m_paths.journal())) {
+    FileStatus found;
+    if (!m_work.look(m_paths.journal(), &found)) {
+        return false;
+    }
+    if (found.kind == FileStatus::Kind::Missing) {
         return m_work.removeIfThere(m_paths.newJournal());
     }
     QString why;

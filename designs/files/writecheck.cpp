@@ -84,8 +84,12 @@ bool WriteCheck::checkKind(const FileEdit &file, const QString &target)
 
 bool WriteCheck::checkWritable(const QString &path, const QString &target)
 {
-    // The administrator may write everything; a file without any right to write is meant to stay as it is.
-    if (m_work.system().checkWritable(target) != 0 || (m_work.status(target).mode & anyWriteBit) == 0) {
+    if (const int failure = m_work.system().checkWritable(target); failure != 0) {
+        return m_work.fail(path, QStringLiteral("may not be written: ") + qt_error_string(failure));
+    }
+    // An administrator may write everything, but a file that nobody may write is meant to stay as it is.
+    FileStatus status;
+    if (!m_work.look(target, &status) || (status.mode & anyWriteBit) == 0) {
         return m_work.fail(path, QStringLiteral("may not be written: it is read-only"));
     }
     const QString folder = folderOf(target);
