@@ -2,25 +2,57 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "designs/edits.h"
 #include "host/netlist/cdbcore.h"
+#include "standalone/referenceindex.h"
 
+#include <functional>
 #include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
 
 class LoadedDesign;
+struct AdiAssignment;
 
-/// The component database of the standalone host: says on which side of the board a component stands.
+/// The component database of the standalone host: says on which side of the board a component stands, and
+/// collects what scripts write until the batch is written as a whole.
 class StandaloneCdb final : public CDBCORE
 {
 public:
+    /// Writes edits of the design, all of them or none, and gives what kept them from being written.
+    using Writer = std::function<QList<CDBPROBLEM>(std::span<const designs::Edit>)>;
+
     StandaloneCdb();
 
+    /// A batch that is open then is not written: what it collected was for the design before.
     void setDesign(std::shared_ptr<const LoadedDesign> design);
+    void setWriter(Writer writer) { m_writer = std::move(writer); }
 
     /// Reads the board file at the first question about a design. The records are shared: one per side.
     [[nodiscard]] const CDBPART *getpart(quint64 identifier) override;
 
+    /// Refuses scripts that are none, see readAdiScript(), references that the design lacks or that stand on
+    /// several symbols, and edits that cannot be made. A batch with anything refused is not written.
+    void adi(std::istream &script, std::ostream &report, int mode) override;
+    void beginbatch() override;
+    bool commitbatch() override;
+    [[nodiscard]] QList<CDBPROBLEM> problems() const override { return m_problems; }
+
 private:
+    void stage(const AdiAssignment &assignment);
+    [[nodiscard]] const ReferenceIndex &references();
+    [[nodiscard]] QString places(std::span<const std::size_t> components) const;
+    void refuse(const AdiAssignment &assignment, const QString &reason);
+
     std::shared_ptr<const LoadedDesign> m_design;
+    /// Made when the first script asks for it.
+    std::optional<ReferenceIndex> m_references;
+    Writer m_writer;
+    int m_depth = 0;
+    std::vector<designs::Edit> m_staged;
+    QList<CDBPROBLEM> m_problems;
     CDBLAYOUT m_topLayout;
     CDBLAYOUT m_bottomLayout;
     CDBPART m_notPlaced;
