@@ -2,11 +2,47 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/designsession.h"
 
+#include "designs/designfiles.h"
+#include "host/framework/hostui.h"
 #include "standalone/loadeddesign.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+/// The file that stands for a design before it is read: of a project its root sheet.
+QString designFileOf(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.suffix().compare(QLatin1String("kicad_pro"), Qt::CaseInsensitive) == 0
+               ? info.absoluteDir().absoluteFilePath(info.completeBaseName() + QStringLiteral(".kicad_sch"))
+               : info.absoluteFilePath();
+}
+
+designs::ReadResult read(const QString &path, const QString &variant)
+{
+    designs::ReadOptions options;
+    options.variant = variant;
+    return designs::readDesign(path, options);
+}
+
+QStringList messagesOf(const std::vector<designs::Problem> &problems)
+{
+    QStringList texts;
+    for (const designs::Problem &problem : problems) {
+        texts.append(problem.message());
+    }
+    return texts;
+}
+
+} // namespace
 
 DesignSession::DesignSession()
     : m_process(m_document, m_netlist)
 {
+    m_cdb.setWriter([this](std::span<const designs::Edit> edits) { return write(edits); });
     setapplnprocess(&m_process);
     setcdb(&m_cdb);
 }
@@ -19,18 +55,50 @@ DesignSession::~DesignSession()
 
 bool DesignSession::open(const QString &path, const QString &variant)
 {
-    designs::ReadOptions options;
-    options.variant = variant;
-    designs::ReadResult result = designs::readDesign(path, options);
+    const QString expected = designFileOf(path);
+    QStringList recoveries = messagesOf(designs::DesignFiles(expected).recover());
+    designs::ReadResult result = read(path, variant);
+    if (result.design && result.design->info().file != expected) {
+        // Only the project said which sheet stands for the design.
+        const QStringList more = messagesOf(designs::DesignFiles(result.design->info().file).recover());
+        if (!more.isEmpty()) {
+            recoveries << more;
+            result = read(path, variant);
+        }
+    }
     if (!result.design) {
-        m_error = result.error.message();
+        m_error = (recoveries << result.error.message()).join(QStringLiteral("; "));
         return false;
     }
     open(std::move(result.design));
+    m_path = QFileInfo(path).absoluteFilePath();
+    m_variant = variant;
+    m_recoveries = recoveries;
     return true;
 }
 
 void DesignSession::open(std::unique_ptr<const designs::Design> design)
+{
+    m_path = design->info().file;
+    m_variant = design->info().variant;
+    m_recoveries.clear();
+    m_writer.clear();
+    setDesign(std::move(design));
+}
+
+bool DesignSession::reread()
+{
+    designs::ReadResult result = read(m_path, m_variant);
+    if (!result.design) {
+        m_error = result.error.message();
+        return false;
+    }
+    setDesign(std::move(result.design));
+    m_netlist.refreshCaches();
+    return true;
+}
+
+void DesignSession::setDesign(std::unique_ptr<const designs::Design> design)
 {
     m_error.clear();
     m_design = std::make_shared<LoadedDesign>(std::move(design), m_dnpChoice);
@@ -42,13 +110,52 @@ void DesignSession::open(std::unique_ptr<const designs::Design> design)
 
 QStringList DesignSession::warnings() const
 {
-    QStringList texts;
-    if (m_design) {
-        for (const designs::Problem &warning : m_design->design().warnings()) {
-            texts.append(warning.message());
-        }
+    return m_design ? m_recoveries + messagesOf(m_design->design().warnings()) : QStringList();
+}
+
+QList<CDBPROBLEM> DesignSession::write(std::span<const designs::Edit> edits)
+{
+    // Rereading lets go of the design.
+    const std::shared_ptr<const LoadedDesign> design = m_design;
+    QList<CDBPROBLEM> problems = m_writer.write(design->design(), edits);
+    if (!m_writer.writtenFiles().isEmpty()) {
+        takeOverFiles();
     }
-    return texts;
+    return problems;
+}
+
+void DesignSession::takeOverFiles()
+{
+    if (!reread()) {
+        HostUi::current().warning(
+            nullptr, QCoreApplication::translate("DesignSession", "The design was written"),
+            QCoreApplication::translate("DesignSession",
+                                        "It cannot be read again, and is shown as it was before: ") +
+                m_error);
+    }
+}
+
+QStringList DesignSession::changedFiles() const
+{
+    return m_design ? m_design->design().changedFiles() : QStringList();
+}
+
+DesignSession::Undone DesignSession::undo()
+{
+    if (!m_design) {
+        return {};
+    }
+    m_writer.clear();
+    const designs::DesignFiles::Undone undone = designs::DesignFiles(m_design->design().info().file).undo();
+    if (!undone.files.isEmpty()) {
+        takeOverFiles();
+    }
+    return {undone.files, messagesOf(undone.problems)};
+}
+
+bool DesignSession::canUndo() const
+{
+    return m_design && designs::DesignFiles(m_design->design().info().file).canUndo();
 }
 
 QStringList DesignSession::files() const

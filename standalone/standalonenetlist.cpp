@@ -5,6 +5,7 @@
 #include "standalone/loadeddesign.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -39,6 +40,22 @@ void StandaloneNetlist::invalidateCaches()
     }
 }
 
+void StandaloneNetlist::refreshCaches()
+{
+    // A client that is told may add or remove caches.
+    std::vector<NETCACHE *> caches;
+    for (const Client &client : m_clients) {
+        caches.push_back(client.cache);
+    }
+    for (NETCACHE *cache : caches) {
+        const bool isAttached = std::any_of(m_clients.begin(), m_clients.end(),
+                                            [cache](const Client &client) { return client.cache == cache; });
+        if (isAttached) {
+            cache->validate(1);
+        }
+    }
+}
+
 IMODULE *StandaloneNetlist::queryinterface(unsigned id)
 {
     return id == INTERFACE_NETSERVER ? this : nullptr;
@@ -55,13 +72,15 @@ bool StandaloneNetlist::sendnetlist(NETCACHE &cache, int, int)
     cache.wantedMask = usable;
     cache.components = m_design->components();
     cache.propertyNames = m_design->properties().allNames();
-    client->sent = m_design;
+    if (client->sent != m_design) {
+        client->sentBefore = std::exchange(client->sent, m_design);
+    }
     return true;
 }
 
 void StandaloneNetlist::addcache(NETCACHE *cache)
 {
-    m_clients.push_back({cache, nullptr});
+    m_clients.push_back({cache, nullptr, nullptr});
 }
 
 void StandaloneNetlist::removecache(NETCACHE *cache)

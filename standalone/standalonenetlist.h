@@ -23,9 +23,11 @@ public:
     virtual ~StandaloneNetlist();
 
     /// Takes a design, or none, and marks the caches stale. What a cache holds stays alive until it is filled
-    /// again.
+    /// for the second time from then: parts made of it may be used until their owner has made others.
     void setDesign(std::shared_ptr<const LoadedDesign> design);
     void invalidateCaches();
+    /// Fills the caches that are stale, each telling its client.
+    void refreshCaches();
 
     IMODULE *queryinterface(unsigned id) override;
     bool sendnetlist(NETCACHE &cache, int context, int detail) override;
@@ -37,6 +39,7 @@ private:
     {
         NETCACHE *cache = nullptr;
         std::shared_ptr<const LoadedDesign> sent;
+        std::shared_ptr<const LoadedDesign> sentBefore;
     };
 
     std::shared_ptr<const LoadedDesign> m_design;

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "standalone/designwriter.h"
+
+#include "designs/design.h"
+#include "designs/designfiles.h"
+
+namespace {
+
+QString text(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
+}
+
+std::optional<QString> text(const std::optional<std::string> &utf8)
+{
+    return utf8 ? std::optional(text(std::string_view(*utf8))) : std::nullopt;
+}
+
+QString reference(const designs::Design &design, std::size_t component)
+{
+    return text(design.components()[component].reference);
+}
+
+QList<CDBPROBLEM> problemsOf(const designs::Design &design, std::span<const designs::Edit> edits,
+                             std::span<const designs::EditProblem> problems)
+{
+    QList<CDBPROBLEM> found;
+    for (const designs::EditProblem &problem : problems) {
+        const designs::Edit *edit = problem.edit ? &edits[*problem.edit] : nullptr;
+        found.append({edit ? reference(design, edit->component) : QString(),
+                      edit ? text(std::string_view(edit->name)) : QString(), problem.problem.file,
+                      problem.problem.line, problem.problem.text});
+    }
+    return found;
+}
+
+QList<CDBPROBLEM> problemsOf(std::span<const designs::Problem> problems)
+{
+    QList<CDBPROBLEM> found;
+    for (const designs::Problem &problem : problems) {
+        found.append({{}, {}, problem.file, problem.line, problem.text});
+    }
+    return found;
+}
+
+PropertyChange changeOf(const designs::Design &design, std::span<const designs::Edit> edits,
+                        const designs::EditEffect &effect)
+{
+    PropertyChange change{reference(design, edits[effect.edit].component),
+                          text(std::string_view(effect.name)),
+                          text(effect.before),
+                          text(effect.after),
+                          effect.file,
+                          effect.line,
+                          {}};
+    for (const std::size_t component : effect.alsoChanges) {
+        change.alsoChanges << reference(design, component);
+    }
+    return change;
+}
+
+} // namespace
+
+void DesignWriter::clear()
+{
+    m_changes.clear();
+    m_writtenFiles.clear();
+}
+
+QList<CDBPROBLEM> DesignWriter::write(const designs::Design &design, std::span<const designs::Edit> edits)
+{
+    clear();
+    const designs::EditPlan plan = design.planEdits(edits);
+    if (!plan.problems.empty()) {
+        return problemsOf(design, edits, plan.problems);
+    }
+    if (!plan.files.empty()) {
+        designs::DesignFiles files(design.info().file);
+        const auto problems = m_isDryRun ? files.check(plan.files)
+                                         : files.write(plan.files, m_keepsBackups ? designs::Backups::Keep
+                                                                                  : designs::Backups::None);
+        if (!problems.empty()) {
+            return problemsOf(problems);
+        }
+    }
+    for (const designs::EditEffect &effect : plan.effects) {
+        m_changes.append(changeOf(design, edits, effect));
+    }
+    for (const designs::FileEdit &file : plan.files) {
+        if (!m_isDryRun) {
+            m_writtenFiles << file.path;
+        }
+    }
+    return {};
+}
