@@ -61,6 +61,14 @@ LoadedDesign::LoadedDesign(std::unique_ptr<const designs::Design> design, DnpCho
     }
 }
 
+const ReferenceIndex &LoadedDesign::references() const
+{
+    if (!m_references) {
+        m_references.emplace(*m_design);
+    }
+    return *m_references;
+}
+
 const designs::Component *LoadedDesign::component(quint64 identifier) const
 {
     const quint64 number = identifier & ((quint64(1) << indexBits) - 1);

@@ -5,8 +5,10 @@
 #include "designs/design.h"
 #include "host/netlist/component.h"
 #include "standalone/propertytable.h"
+#include "standalone/referenceindex.h"
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -21,6 +23,9 @@ public:
     [[nodiscard]] std::span<const COMPONENT *const> components() const { return m_components; }
     [[nodiscard]] const PropertyTable &properties() const { return m_properties; }
     [[nodiscard]] PropertyTable &properties() { return m_properties; }
+
+    /// Made at the first request.
+    [[nodiscard]] const ReferenceIndex &references() const;
 
     /// The component that a record's identifier stands for; null when the record is of another design.
     [[nodiscard]] const designs::Component *component(quint64 identifier) const;
@@ -45,4 +50,5 @@ private:
     PropertyTable m_properties;
     std::vector<Record> m_records;
     std::vector<const COMPONENT *> m_components;
+    mutable std::optional<ReferenceIndex> m_references;
 };

@@ -7,6 +7,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <ostream>
 #include <utility>
 
@@ -15,6 +16,20 @@ namespace {
 QString text(std::string_view utf8)
 {
     return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
+}
+
+/// The name under which the component has the property, or would.
+std::string storedName(const designs::Design &design, const designs::Edit &edit)
+{
+    const designs::Component &component = design.components()[edit.component];
+    const std::vector<designs::NameId> candidates = design.names().candidates(edit.name);
+    const auto found = std::find_if(candidates.begin(), candidates.end(), [&](designs::NameId id) {
+        return design.stored(component, id).has_value();
+    });
+    if (candidates.empty()) {
+        return text(edit.name).toCaseFolded().toStdString();
+    }
+    return std::string(design.names().name(found == candidates.end() ? candidates.front() : *found));
 }
 
 /// One line per problem, or "No Errors".
@@ -42,7 +57,6 @@ StandaloneCdb::StandaloneCdb()
 
 void StandaloneCdb::setDesign(std::shared_ptr<const LoadedDesign> design)
 {
-    m_references.reset();
     m_design = std::move(design);
     if (m_depth > 0 && !m_staged.empty()) {
         m_staged.clear();
@@ -70,35 +84,37 @@ const CDBPART *StandaloneCdb::getpart(quint64 identifier)
 
 void StandaloneCdb::adi(std::istream &script, std::ostream &stream, int mode)
 {
-    if (m_depth == 0) {
+    const bool isBatch = m_depth == 0;
+    if (isBatch) {
         beginbatch();
-        std::ostream none(nullptr);
-        adi(script, none, mode);
+    }
+    const auto known = std::size_t(m_problems.size());
+    run(script, mode);
+    if (isBatch) {
         (void)commitbatch();
-        report(m_problems, stream);
+    }
+    report(std::span(std::as_const(m_problems)).subspan(known), stream);
+}
+
+void StandaloneCdb::run(std::istream &script, int mode)
+{
+    if (!m_design || mode != 0) {
+        fail(m_design ? QStringLiteral("scripts have no other mode than 0")
+                      : QStringLiteral("no design is open"));
         return;
     }
-    const qsizetype known = m_problems.size();
-    if (!m_design || mode != 0) {
-        m_problems.append({{},
-                           {},
-                           {},
-                           0,
-                           m_design ? QStringLiteral("scripts have no other mode than 0")
-                                    : QStringLiteral("no design is open")});
-    } else if (const AdiScript read = readAdiScript(script); !read.error.isEmpty()) {
-        m_problems.append({{}, {}, {}, 0, read.error});
-    } else {
-        for (const AdiAssignment &assignment : read.assignments) {
-            stage(assignment);
-        }
+    const AdiScript read = readAdiScript(script);
+    if (!read.error.isEmpty()) {
+        fail(read.error);
     }
-    report(std::span(std::as_const(m_problems)).subspan(std::size_t(known)), stream);
+    for (const AdiAssignment &assignment : read.assignments) {
+        stage(assignment);
+    }
 }
 
 void StandaloneCdb::stage(const AdiAssignment &assignment)
 {
-    const std::vector<std::size_t> found = references().find(assignment.reference);
+    const std::vector<std::size_t> found = m_design->references().find(assignment.reference);
     if (found.empty()) {
         refuse(assignment, QStringLiteral("the design has no part of this reference"));
         return;
@@ -116,15 +132,23 @@ void StandaloneCdb::stage(const AdiAssignment &assignment)
                            *reason});
         return;
     }
+    if (const designs::Edit *other = contradicted(edit)) {
+        refuse(assignment, QStringLiteral("another text is asked for under the name ") + text(other->name));
+        return;
+    }
     m_staged.push_back(std::move(edit));
 }
 
-const ReferenceIndex &StandaloneCdb::references()
+const designs::Edit *StandaloneCdb::contradicted(const designs::Edit &edit)
 {
-    if (!m_references) {
-        m_references.emplace(m_design->design());
+    const std::string key = std::to_string(edit.component) + ':' + storedName(m_design->design(), edit);
+    const auto [last, isNew] = m_lastEdits.try_emplace(key, m_staged.size());
+    const designs::Edit *before = isNew ? nullptr : &m_staged[last->second];
+    if (before && before->name != edit.name && before->value != edit.value) {
+        return before;
     }
-    return *m_references;
+    last->second = m_staged.size();
+    return nullptr;
 }
 
 QString StandaloneCdb::places(std::span<const std::size_t> components) const
@@ -143,15 +167,26 @@ QString StandaloneCdb::places(std::span<const std::size_t> components) const
     return named.join(QStringLiteral(", "));
 }
 
+void StandaloneCdb::fail(const QString &reason)
+{
+    m_problems.append({{}, {}, {}, 0, reason});
+}
+
 void StandaloneCdb::refuse(const AdiAssignment &assignment, const QString &reason)
 {
     m_problems.append({text(assignment.reference), text(assignment.property), {}, 0, reason});
 }
 
+void StandaloneCdb::forget()
+{
+    m_staged.clear();
+    m_lastEdits.clear();
+}
+
 void StandaloneCdb::beginbatch()
 {
     if (m_depth++ == 0) {
-        m_staged.clear();
+        forget();
         m_problems.clear();
     }
 }
@@ -162,10 +197,25 @@ bool StandaloneCdb::commitbatch()
         return true;
     }
     const std::vector<designs::Edit> edits = std::exchange(m_staged, {});
-    if (m_problems.isEmpty() && !edits.empty()) {
-        m_problems = m_writer
-                         ? m_writer(edits)
-                         : QList<CDBPROBLEM>{{{}, {}, {}, 0, QStringLiteral("the design cannot be written")}};
+    forget();
+    if (!m_problems.isEmpty() || edits.empty()) {
+        return m_problems.isEmpty();
+    }
+    if (m_writer) {
+        m_problems = m_writer(edits);
+    } else {
+        fail(QStringLiteral("the design cannot be written"));
     }
     return m_problems.isEmpty();
+}
+
+void StandaloneCdb::dropbatch()
+{
+    if (m_depth == 0) {
+        return;
+    }
+    forget();
+    if (--m_depth > 0 && m_problems.isEmpty()) {
+        fail(QStringLiteral("a part of what was to be written was given up"));
+    }
 }

@@ -4,13 +4,12 @@
 
 #include "designs/edits.h"
 #include "host/netlist/cdbcore.h"
-#include "standalone/referenceindex.h"
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <span>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 class LoadedDesign;
@@ -38,20 +37,26 @@ public:
     void adi(std::istream &script, std::ostream &report, int mode) override;
     void beginbatch() override;
     bool commitbatch() override;
+    void dropbatch() override;
     [[nodiscard]] QList<CDBPROBLEM> problems() const override { return m_problems; }
 
 private:
+    void run(std::istream &script, int mode);
     void stage(const AdiAssignment &assignment);
-    [[nodiscard]] const ReferenceIndex &references();
+    /// The edit of the batch that gives that property another value under another name, null when there is
+    /// none.
+    [[nodiscard]] const designs::Edit *contradicted(const designs::Edit &edit);
     [[nodiscard]] QString places(std::span<const std::size_t> components) const;
     void refuse(const AdiAssignment &assignment, const QString &reason);
+    void fail(const QString &reason);
+    void forget();
 
     std::shared_ptr<const LoadedDesign> m_design;
-    /// Made when the first script asks for it.
-    std::optional<ReferenceIndex> m_references;
     Writer m_writer;
     int m_depth = 0;
     std::vector<designs::Edit> m_staged;
+    /// By component and property, the last edit of it as an index into the staged ones.
+    std::unordered_map<std::string, std::size_t> m_lastEdits;
     QList<CDBPROBLEM> m_problems;
     CDBLAYOUT m_topLayout;
     CDBLAYOUT m_bottomLayout;
