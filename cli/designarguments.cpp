@@ -11,16 +11,31 @@ std::string isGiven(const std::string &text)
 
 void DesignArguments::addTo(CLI::App &command)
 {
+    addDesign(command);
+    addReading(command);
+    addListing(command);
+}
+
+void DesignArguments::addDesign(CLI::App &command)
+{
     command.add_option("DESIGN", design, "KiCad schematic or project, or CSV part list")
         ->required()
         ->check(CLI::Validator(isGiven, ""));
+}
+
+void DesignArguments::addReading(CLI::App &command)
+{
     command.add_option("--variant", variant, "Apply the design's variant of this name")->type_name("V");
+    command.add_option("--propdefs", propdefs, "Property definitions instead of the user's PROPDEFS.INI")
+        ->type_name("F");
+}
+
+void DesignArguments::addListing(CLI::App &command)
+{
     command.add_option("--dnp", dnp, "Leave out, list, or list only the parts that are not fitted")
         ->type_name("exclude|include|only")
         ->check(CLI::IsMember({"exclude", "include", "only"}).description(""))
         ->default_str("exclude");
-    command.add_option("--propdefs", propdefs, "Property definitions instead of the user's PROPDEFS.INI")
-        ->type_name("F");
     command.add_option("--template", templateName, "Template, or a .bomt file; without it \"Default\"")
         ->type_name("NAME|FILE")
         ->check(CLI::Validator(isGiven, ""));

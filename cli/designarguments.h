@@ -22,8 +22,14 @@ struct DesignArguments
     std::string propdefs;
     std::string templateName;
 
-    /// Adds DESIGN and its options to a command.
+    /// Adds DESIGN and all its options to a command.
     void addTo(CLI::App &command);
+    /// Adds DESIGN only.
+    void addDesign(CLI::App &command);
+    /// Adds what does not depend on parts being listed: the variant and the property definitions.
+    void addReading(CLI::App &command);
+    /// Adds what decides how parts are listed.
+    void addListing(CLI::App &command);
 
     [[nodiscard]] QString path() const { return QString::fromStdString(design); }
     [[nodiscard]] DnpChoice dnpChoice() const;

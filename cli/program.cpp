@@ -6,8 +6,10 @@
 #include "cli/console.h"
 #include "cli/partscommand.h"
 #include "cli/reportcommand.h"
+#include "cli/setcommand.h"
 #include "cli/templatechoice.h"
 #include "cli/templatecommand.h"
+#include "cli/undocommand.h"
 #include "standalone/environment.h"
 
 #include <CLI/Config.hpp>
@@ -92,8 +94,10 @@ int runProgram(int argc, char *argv[])
     ReportCommand report;
     PartsCommand parts;
     CheckCommand check;
+    SetCommand set;
+    UndoCommand undo;
     TemplateCommand templates;
-    const std::array<Command *, 4> commands{&report, &parts, &check, &templates};
+    const std::array<Command *, 6> commands{&report, &parts, &check, &set, &undo, &templates};
 
     CLI::App program("Bills of materials from KiCad designs and CSV part lists.", "bom");
     program.set_version_flag("--version", "bom " BOM_VERSION);

@@ -16,23 +16,11 @@
 
 #include <QFileInfo>
 #include <QFont>
-#include <QLocale>
 #include <QRawFont>
 
 #include <algorithm>
-#include <optional>
 
 namespace {
-
-/// Nothing for a name that is no locale.
-std::optional<QLocale> localeOf(const QString &name)
-{
-    const QLocale locale(name);
-    if (name.isEmpty() || name == QStringLiteral("C") || name == QStringLiteral("POSIX")) {
-        return QLocale::c();
-    }
-    return locale.language() == QLocale::C ? std::nullopt : std::optional(locale);
-}
 
 /// Whether there is a file of KiCad's of that name: a board or project beside the sheets is read as well.
 bool isKicadFile(const QString &path)
@@ -79,17 +67,13 @@ void ReportCommand::addTo(CLI::App &program)
     }
     m_app->add_flag("--allow-duplicates", m_allowDuplicates,
                     "Write the report although references occur more than once");
-    m_app->add_option("--locale", m_locale, "Format numbers as in this locale, such as de_DE; C without it")
-        ->type_name("NAME");
+    m_locale.addTo(*m_app, "Format numbers as in this locale, such as de_DE; C without it");
 }
 
 ExitStatus ReportCommand::run()
 {
-    const auto locale = localeOf(QString::fromStdString(m_locale));
+    const auto locale = m_locale.locale();
     if (!locale) {
-        constexpr qsizetype longestName = 40;
-        console::message(QStringLiteral("unknown locale \"") +
-                         QString::fromStdString(m_locale).left(longestName) + u'"');
         return ExitStatus::WrongUsage;
     }
     const QList<Output> outputs = this->outputs();

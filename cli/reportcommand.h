@@ -4,6 +4,7 @@
 
 #include "cli/command.h"
 #include "cli/designarguments.h"
+#include "cli/localeoption.h"
 
 #include <QByteArray>
 #include <QList>
@@ -66,6 +67,6 @@ private:
     std::string m_pdf;
     std::string m_xlsx;
     std::string m_json;
-    std::string m_locale;
+    LocaleOption m_locale;
     bool m_allowDuplicates = false;
 };

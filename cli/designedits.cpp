@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/designedits.h"
+
+#include "cli/console.h"
+#include "cli/numbertext.h"
+#include "cli/opendesign.h"
+#include "cli/writeoptions.h"
+#include "core/bompart.h"
+#include "core/reference.h"
+#include "standalone/loadeddesign.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <sstream>
+
+namespace {
+
+QString quoted(const std::optional<QString> &text, const QString &otherwise)
+{
+    return text ? u'"' + printable(*text) + u'"' : otherwise;
+}
+
+QString changeLine(const PropertyChange &change)
+{
+    QString line = printable(change.reference) + u' ' + printable(change.name) + QStringLiteral(": ") +
+                   quoted(change.before, QStringLiteral("none")) + QStringLiteral(" -> ") +
+                   quoted(change.after, QStringLiteral("removed")) + QStringLiteral(" (") +
+                   printable(change.file) + u':' + QString::number(change.line) + u')';
+    if (!change.alsoChanges.isEmpty()) {
+        line += QStringLiteral(" also changes ") + printable(change.alsoChanges.join(QStringLiteral(", ")));
+    }
+    return line + u'\n';
+}
+
+QString summary(const QList<PropertyChange> &changes, bool isDryRun)
+{
+    QSet<QString> parts;
+    QSet<QString> files;
+    for (const PropertyChange &change : changes) {
+        parts.insert(change.reference);
+        for (const QString &reference : change.alsoChanges) {
+            parts.insert(reference);
+        }
+        files.insert(change.file);
+    }
+    const QString what =
+        counted(changes.size(), QStringLiteral("property"), QStringLiteral("properties")) +
+        QStringLiteral(" of ") + counted(parts.size(), QStringLiteral("part"), QStringLiteral("parts")) +
+        QStringLiteral(" in ") + counted(files.size(), QStringLiteral("file"), QStringLiteral("files"));
+    return (isDryRun ? QStringLiteral("would change ") + what + QStringLiteral("; nothing was written")
+                     : QStringLiteral("changed ") + what) +
+           u'\n';
+}
+
+} // namespace
+
+DesignEdits::DesignEdits(OpenDesign &design)
+    : m_design(design)
+    , m_assignments(&design.database())
+{
+}
+
+bool DesignEdits::isKnown(const QString &reference) const
+{
+    return m_design.database().part(reference) ||
+           !m_design.design().references().find(reference.toStdString()).empty();
+}
+
+void DesignEdits::add(const QString &reference, const QString &property, const QString &typed,
+                      const QString &origin)
+{
+    const QString front = (origin.isEmpty() ? QString() : origin + QStringLiteral(": ")) + reference +
+                          QStringLiteral(", ") + property + QStringLiteral(": ");
+    const auto type = m_design.database().propertyTypes().type(property);
+    const QString value = m_design.database().isNumeric(property) ? withoutThousands(typed) : typed;
+    const bool isNumber =
+        value.isEmpty() || value == PropertyAssignments::removal() || !type || isNumberOf(*type, value);
+    if (!isNumber || !m_assignments.accepts(property, value)) {
+        refuse(front + u'"' + typed + QStringLiteral("\" is no text that this property can have: ") +
+               typeText(*type));
+        return;
+    }
+    const Part *part = m_design.database().part(reference);
+    if (part) {
+        m_assignments.assign(reference, property, value);
+    } else {
+        addDirect(reference, property, value, front);
+    }
+    if (part && part->isBOMPart()) {
+        const QString shown = value == PropertyAssignments::removal() ? QString() : value;
+        m_bomPartLines.append(reference + u' ' + property + QStringLiteral(": ") +
+                              quoted(part->property(property), {}) + QStringLiteral(" -> ") +
+                              quoted(shown, {}) + QStringLiteral(" (a BOM-only part of ") +
+                              static_cast<const BOMPart *>(part)->parentReference() + u')');
+    }
+}
+
+void DesignEdits::addDirect(const QString &reference, const QString &property, const QString &value,
+                            const QString &front)
+{
+    const QString stored = m_assignments.storedValue(property, value);
+    const QString problem = PropertyAssignments::scriptProblem(reference, property, stored);
+    if (!problem.isEmpty()) {
+        refuse(front + problem);
+        return;
+    }
+    m_direct[reference].insert(property, stored.isEmpty() ? PropertyAssignments::removal() : stored);
+}
+
+ExitStatus DesignEdits::write(const WriteOptions &options)
+{
+    if (!m_refusals.isEmpty()) {
+        return tellRefused(m_refusals, ExitStatus::DesignProblem);
+    }
+    m_design.session().setDryRun(options.isDryRun);
+    m_design.session().setBackups(!options.hasNoBackup);
+    const QList<CDBPROBLEM> problems = runBatch(options.isDryRun);
+    QStringList messages;
+    bool areFilesOnly = true;
+    for (const CDBPROBLEM &problem : problems) {
+        messages.append(problem.message());
+        areFilesOnly = areFilesOnly && problem.reference.isEmpty();
+    }
+    if (!messages.isEmpty()) {
+        return tellRefused(messages, areFilesOnly ? ExitStatus::UnwritableOutput : ExitStatus::DesignProblem);
+    }
+    return tellChanges(options.isDryRun);
+}
+
+QList<CDBPROBLEM> DesignEdits::runBatch(bool isDryRun)
+{
+    CDBCORE &host = *getcdb();
+    host.beginbatch();
+    for (auto it = m_direct.cbegin(); it != m_direct.cend(); ++it) {
+        std::istringstream script(PropertyAssignments::script(it.key(), *it).toStdString());
+        std::ostringstream report;
+        host.adi(script, report, 0);
+    }
+    m_assignments.setDryRun(isDryRun);
+    (void)m_assignments.apply();
+    QList<CDBPROBLEM> problems = m_assignments.problems();
+    if (problems.isEmpty()) {
+        (void)host.commitbatch();
+    } else {
+        host.dropbatch();
+    }
+    return problems + host.problems();
+}
+
+ExitStatus DesignEdits::tellRefused(const QStringList &messages, ExitStatus status)
+{
+    for (const QString &message : messages) {
+        console::message(message);
+    }
+    console::message(QStringLiteral("nothing was written: ") +
+                     counted(messages.size(), QStringLiteral("problem"), QStringLiteral("problems")));
+    return status;
+}
+
+ExitStatus DesignEdits::tellChanges(bool isDryRun) const
+{
+    QList<PropertyChange> changes = m_design.session().lastChanges();
+    if (changes.isEmpty()) {
+        return console::write("nothing to change\n") ? ExitStatus::Done : ExitStatus::UnwritableOutput;
+    }
+    std::stable_sort(changes.begin(), changes.end(), [](const PropertyChange &a, const PropertyChange &b) {
+        return compareReferences(a.reference, b.reference) < 0;
+    });
+    QString text;
+    for (const QString &line : m_bomPartLines) {
+        text += printable(line) + u'\n';
+    }
+    for (const PropertyChange &change : std::as_const(changes)) {
+        text += changeLine(change);
+    }
+    text += summary(changes, isDryRun);
+    return console::write(text.toUtf8()) ? ExitStatus::Done : ExitStatus::UnwritableOutput;
+}

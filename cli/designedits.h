@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/exitstatus.h"
+#include "core/propertyassignments.h"
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+class OpenDesign;
+struct WriteOptions;
+
+/// Edits of the open design that a command collects, and then writes all of them or none.
+class DesignEdits final
+{
+public:
+    /// The design must outlive the edits.
+    explicit DesignEdits(OpenDesign &design);
+
+    /// Whether a component or a BOM-only part has that reference.
+    [[nodiscard]] bool isKnown(const QString &reference) const;
+
+    /// Gives a property a value as people see it; an empty one takes the property away. A value that the
+    /// property cannot have is refused; `origin`, "FILE:LINE" or empty, stands in front of the message then.
+    void add(const QString &reference, const QString &property, const QString &value,
+             const QString &origin = {});
+    /// Something else that keeps the edits from being written.
+    void refuse(const QString &message) { m_refusals.append(message); }
+
+    /// Writes the edits, and says what was changed or why nothing was.
+    [[nodiscard]] ExitStatus write(const WriteOptions &options);
+
+private:
+    void addDirect(const QString &reference, const QString &property, const QString &value,
+                   const QString &front);
+    [[nodiscard]] QList<CDBPROBLEM> runBatch(bool isDryRun);
+    [[nodiscard]] static ExitStatus tellRefused(const QStringList &messages, ExitStatus status);
+    [[nodiscard]] ExitStatus tellChanges(bool isDryRun) const;
+
+    OpenDesign &m_design;
+    PropertyAssignments m_assignments;
+    /// Stored values of components that the parts database does not hold.
+    QMap<QString, PropertyAssignments::Values> m_direct;
+    QStringList m_refusals;
+    /// What is asked of BOM-only parts: their definitions, which the design holds, do not name them.
+    QStringList m_bomPartLines;
+};

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+/// A row of a table under its headings.
+struct TableRow
+{
+    /// In the file, from 1.
+    int line = 0;
+    QStringList cells;
+};
+
+/// A file of delimited cells with a row of headings and a column of references.
+struct Table
+{
+    QStringList headings;
+    int headingLine = 0;
+    qsizetype referenceColumn = 0;
+    /// The rows that say something.
+    std::vector<TableRow> rows;
+};
+
+/// Reads such a file. The heading row is the first that has `referenceHeading` or, when there is none, the
+/// one by which part lists are recognised. Nothing, with "FILE:LINE: reason" in `error`, when the file cannot
+/// be read or is no such table.
+[[nodiscard]] std::optional<Table> readTable(const QString &path, const QString &referenceHeading,
+                                             QString *error);
