@@ -82,6 +82,10 @@ void DesignEdits::add(const QString &reference, const QString &property, const Q
                typeText(*type));
         return;
     }
+    if (isContradicted(reference, property, value)) {
+        refuse(front + QStringLiteral("two values are asked for"));
+        return;
+    }
     const Part *part = m_design.database().part(reference);
     if (part) {
         m_assignments.assign(reference, property, value);
@@ -95,6 +99,19 @@ void DesignEdits::add(const QString &reference, const QString &property, const Q
                               quoted(shown, {}) + QStringLiteral(" (a BOM-only part of ") +
                               static_cast<const BOMPart *>(part)->parentReference() + u')');
     }
+}
+
+bool DesignEdits::isContradicted(const QString &reference, const QString &property,
+                                 const QString &value) const
+{
+    const auto contradicts = [&](const PropertyAssignments::Values &values, const QString &text) {
+        return std::any_of(values.keyValueBegin(), values.keyValueEnd(), [&](const auto &other) {
+            return other.first.compare(property, Qt::CaseInsensitive) == 0 && other.second != text;
+        });
+    };
+    const QString stored = m_assignments.storedValue(property, value);
+    return contradicts(m_assignments.pending().value(reference), value) ||
+           contradicts(m_direct.value(reference), stored.isEmpty() ? PropertyAssignments::removal() : stored);
 }
 
 void DesignEdits::addDirect(const QString &reference, const QString &property, const QString &value,

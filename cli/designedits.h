@@ -33,6 +33,8 @@ public:
     [[nodiscard]] ExitStatus write(const WriteOptions &options);
 
 private:
+    [[nodiscard]] bool isContradicted(const QString &reference, const QString &property,
+                                      const QString &value) const;
     void addDirect(const QString &reference, const QString &property, const QString &value,
                    const QString &front);
     [[nodiscard]] QList<CDBPROBLEM> runBatch(bool isDryRun);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/program.h"
 
+#include "cli/applycommand.h"
 #include "cli/checkcommand.h"
 #include "cli/console.h"
 #include "cli/partscommand.h"
@@ -95,9 +96,10 @@ int runProgram(int argc, char *argv[])
     PartsCommand parts;
     CheckCommand check;
     SetCommand set;
+    ApplyCommand apply;
     UndoCommand undo;
     TemplateCommand templates;
-    const std::array<Command *, 6> commands{&report, &parts, &check, &set, &undo, &templates};
+    const std::array<Command *, 7> commands{&report, &parts, &check, &set, &apply, &undo, &templates};
 
     CLI::App program("Bills of materials from KiCad designs and CSV part lists.", "bom");
     program.set_version_flag("--version", "bom " BOM_VERSION);

@@ -121,6 +121,11 @@ QList<CDBPROBLEM> DesignSession::write(std::span<const designs::Edit> edits)
     if (!m_writer.writtenFiles().isEmpty()) {
         takeOverFiles();
     }
+    if (!m_writer.notices().isEmpty()) {
+        HostUi::current().warning(nullptr,
+                                  QCoreApplication::translate("DesignSession", "The design was written"),
+                                  m_writer.notices().join(QStringLiteral("; ")));
+    }
     return problems;
 }
 

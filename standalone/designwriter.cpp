@@ -66,6 +66,7 @@ void DesignWriter::clear()
 {
     m_changes.clear();
     m_writtenFiles.clear();
+    m_notices.clear();
 }
 
 QList<CDBPROBLEM> DesignWriter::write(const designs::Design &design, std::span<const designs::Edit> edits)
@@ -80,8 +81,11 @@ QList<CDBPROBLEM> DesignWriter::write(const designs::Design &design, std::span<c
         const auto problems = m_isDryRun ? files.check(plan.files)
                                          : files.write(plan.files, m_keepsBackups ? designs::Backups::Keep
                                                                                   : designs::Backups::None);
-        if (!problems.empty()) {
+        if (!files.replaced() && !problems.empty()) {
             return problemsOf(problems);
+        }
+        for (const designs::Problem &problem : problems) {
+            m_notices << problem.message();
         }
     }
     for (const designs::EditEffect &effect : plan.effects) {

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/editcolumns.h"
+
+#include "cli/opendesign.h"
+#include "core/bompart.h"
+#include "core/bompartsdatabase.h"
+#include "standalone/loadeddesign.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+ReportCells::ReportCells(OpenDesign &design)
+    : m_design(design)
+{
+    setPartsDatabase(&design.database());
+    updateFields();
+}
+
+std::optional<EditColumn> ReportCells::columnOf(const QString &heading) const
+{
+    for (const Qt::CaseSensitivity rule : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
+        for (const ReportColumn &field : columns()) {
+            if (field.field.fieldName.compare(heading, rule) == 0) {
+                const QString &property = field.field.propertyName;
+                return EditColumn{0, heading, field, true,
+                                  property == placedProperty() || property == nameProperty()};
+            }
+        }
+    }
+    const bool isFixed = heading == placedProperty() || heading == nameProperty();
+    if (!isFixed && !isProperty(heading)) {
+        return std::nullopt;
+    }
+    BOMField field;
+    field.fieldName = heading;
+    field.propertyName = heading;
+    return EditColumn{0,
+                      heading,
+                      {field, database()->propertyQuery(heading), database()->isNumeric(heading)},
+                      false,
+                      isFixed};
+}
+
+QString ReportCells::text(const Part &part, const EditColumn &column) const
+{
+    return column.isField ? cellText(part, column.report, true) : column.report.property.text(part);
+}
+
+bool ReportCells::isProperty(const QString &name) const
+{
+    const QStringList standard = BOMPartsDatabase::standardPropertyNames();
+    if (standard.contains(name, Qt::CaseInsensitive) || database()->propertyTypes().type(name) ||
+        !m_design.design().design().names().candidates(name.toStdString()).empty()) {
+        return true;
+    }
+    const auto parts = database()->parts();
+    return std::any_of(parts.begin(), parts.end(), [&name](const Part *part) {
+        return part->isBOMPart() && static_cast<const BOMPart *>(part)->properties().contains(name.toUpper());
+    });
+}
+
+std::vector<EditColumn> editColumns(const Table &table, const ReportCells &cells, QStringList *problems)
+{
+    // Category and quantity stand in front of the references.
+    const QStringList own = cells.columnHeadings(true);
+    std::vector<EditColumn> found;
+    QSet<QString> met;
+    for (qsizetype index = 0; index < table.headings.size(); ++index) {
+        const QString heading = table.headings.at(index).trimmed();
+        const bool isOwn = index < table.referenceColumn && own.first(2).contains(heading);
+        if (index == table.referenceColumn || isOwn) {
+            continue;
+        }
+        auto column = cells.columnOf(heading);
+        const bool isBlank = std::all_of(table.rows.begin(), table.rows.end(), [index](const TableRow &row) {
+            return row.cells.value(index).trimmed().isEmpty();
+        });
+        if (heading.isEmpty() && isBlank) {
+            continue;
+        }
+        if (!column) {
+            problems->append(QStringLiteral("column %1 \"").arg(index + 1) + heading +
+                             QStringLiteral("\" is neither a field of the template nor a property"));
+            continue;
+        }
+        const QString name = (column->isField ? QStringLiteral("f") : QStringLiteral("p")) +
+                             (column->isField ? column->report.field.fieldName : heading.toCaseFolded());
+        if (met.contains(name)) {
+            problems->append(QStringLiteral("the heading \"") + heading +
+                             QStringLiteral("\" stands over two columns"));
+            continue;
+        }
+        met.insert(name);
+        column->index = index;
+        found.push_back(*column);
+    }
+    return found;
+}

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "standalone/tablefile.h"
+#include "views/bomview.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+class OpenDesign;
+
+/// A column of a table of edits whose cells are property values.
+struct EditColumn
+{
+    /// Of the table, counted from 0.
+    qsizetype index = 0;
+    QString heading;
+    ReportColumn report;
+    /// Cells are as a report writes them under a field of the template; otherwise as stored, shown to people.
+    bool isField = false;
+    /// What is shown is no property that can be changed.
+    bool isFixed = false;
+};
+
+/// The cells of a report one by one, also for parts that no report lists.
+class ReportCells final : public BOMView
+{
+    Q_OBJECT
+
+public:
+    explicit ReportCells(OpenDesign &design);
+
+    /// What a table's column under that heading holds: a field of the template by its title, else a property
+    /// by its name. Nothing for an unknown one.
+    [[nodiscard]] std::optional<EditColumn> columnOf(const QString &heading) const;
+
+    /// The text that a report writes, or that people see of a property.
+    [[nodiscard]] QString text(const Part &part, const EditColumn &column) const;
+
+public Q_SLOTS:
+    /// Does nothing: cells are asked for.
+    void handleBOMDataUpdate() override {}
+
+private:
+    [[nodiscard]] bool isProperty(const QString &name) const;
+
+    OpenDesign &m_design;
+};
+
+/// The columns of a table that hold values; categories, quantities and references, as a report writes them,
+/// are left out. Headings that mean nothing, or the same as another, are added to `problems`.
+[[nodiscard]] std::vector<EditColumn> editColumns(const Table &table, const ReportCells &cells,
+                                                  QStringList *problems);

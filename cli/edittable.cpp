@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/edittable.h"
+
+#include "cli/designedits.h"
+#include "cli/namedreferences.h"
+#include "cli/opendesign.h"
+#include "cli/reportcell.h"
+#include "core/part.h"
+#include "host/framework/hosttext.h"
+#include "standalone/loadeddesign.h"
+
+#include <algorithm>
+
+EditTable::EditTable(const QString &path, OpenDesign &design, DesignEdits &edits)
+    : m_path(path)
+    , m_design(design)
+    , m_edits(edits)
+    , m_cells(design)
+{
+}
+
+QString EditTable::place(int line) const
+{
+    return m_path + u':' + QString::number(line);
+}
+
+void EditTable::refuse(int line, const QString &text)
+{
+    m_edits.refuse(place(line) + QStringLiteral(": ") + text);
+}
+
+void EditTable::compare(const Table &table)
+{
+    QStringList problems;
+    m_columns = editColumns(table, m_cells, &problems);
+    for (const QString &problem : std::as_const(problems)) {
+        refuse(table.headingLine, problem);
+    }
+    for (const TableRow &row : table.rows) {
+        compareRow(table, row);
+    }
+}
+
+void EditTable::compareRow(const Table &table, const TableRow &row)
+{
+    const bool isTooLong =
+        std::any_of(row.cells.cbegin() + std::min(table.headings.size(), row.cells.size()), row.cells.cend(),
+                    [](const QString &cell) { return !cell.trimmed().isEmpty(); });
+    if (isTooLong) {
+        refuse(row.line, QStringLiteral("there is a text behind the last column"));
+        return;
+    }
+    QString error;
+    QStringList references = namedReferences(
+        row.cells.value(table.referenceColumn),
+        [this](const QString &reference) { return m_edits.isKnown(reference); }, &error);
+    references.removeDuplicates();
+    if (references.isEmpty()) {
+        refuse(row.line, error);
+        return;
+    }
+    QStringList firstTexts;
+    for (const EditColumn &column : m_columns) {
+        firstTexts << texts(references.first(), column).value(0);
+    }
+    for (const QString &reference : std::as_const(references)) {
+        const auto [first, isNew] = m_rows.tryEmplace(reference, &row);
+        if (!isNew && !hasSameTexts(row, **first)) {
+            refuse(row.line,
+                   reference + QStringLiteral(" has other texts on line ") + QString::number((*first)->line));
+        } else if (!m_edits.isKnown(reference)) {
+            refuse(row.line, reference + QStringLiteral(": the design has no part of this reference"));
+        } else {
+            first = &row;
+            for (std::size_t i = 0; i < m_columns.size(); ++i) {
+                compareCell(reference, row, m_columns[i], firstTexts.at(qsizetype(i)));
+            }
+        }
+    }
+}
+
+void EditTable::compareCell(const QString &reference, const TableRow &row, const EditColumn &column,
+                            const QString &firstText)
+{
+    const QString cell = row.cells.value(column.index);
+    const QStringList shown = texts(reference, column);
+    const bool isUnchanged = std::any_of(shown.cbegin(), shown.cend(), [&](const QString &text) {
+        // A line of the report shows the texts of its first part.
+        const bool isOfLine = !m_design.database().currentTemplate().caseSensitiveGrouping() &&
+                              text.compare(firstText, Qt::CaseInsensitive) == 0 &&
+                              isReportCell(cell, firstText);
+        return isReportCell(cell, text) || isOfLine;
+    });
+    if (isUnchanged) {
+        return;
+    }
+    if (column.isFixed) {
+        refuse(row.line, reference + QStringLiteral(", ") + column.heading +
+                             QStringLiteral(": this column tells what cannot be changed here"));
+    } else if (column.index >= row.cells.size()) {
+        refuse(row.line, reference + QStringLiteral(", ") + column.heading +
+                             QStringLiteral(": the row has no cell for it"));
+    } else {
+        m_edits.add(reference, column.report.field.propertyName,
+                    column.isField ? withoutAffixes(cell, column.report.field) : cell, place(row.line));
+    }
+}
+
+bool EditTable::hasSameTexts(const TableRow &row, const TableRow &other) const
+{
+    return std::all_of(m_columns.begin(), m_columns.end(), [&](const EditColumn &column) {
+        return row.cells.value(column.index) == other.cells.value(column.index);
+    });
+}
+
+QStringList EditTable::texts(const QString &reference, const EditColumn &column) const
+{
+    QStringList shown;
+    if (const Part *part = m_design.database().part(reference)) {
+        shown << m_cells.text(*part, column);
+    }
+    const LoadedDesign &design = m_design.design();
+    const std::vector<std::size_t> found = design.references().find(reference.toStdString());
+    if (shown.isEmpty() || found.size() > 1) {
+        for (const std::size_t index : found) {
+            const COMPONENT *component = design.components()[index];
+            const Part part(component, &m_design.database(), reference, fromHostText(component->value));
+            shown << m_cells.text(part, column);
+        }
+    }
+    return shown;
+}

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/editcolumns.h"
+#include "standalone/tablefile.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+class DesignEdits;
+class OpenDesign;
+
+/// Finds the cells of a table that differ from what a report would hold now, and makes edits of them.
+class EditTable final
+{
+public:
+    /// All of them must outlive the object; `path` is the table's file, for messages.
+    EditTable(const QString &path, OpenDesign &design, DesignEdits &edits);
+
+    /// Adds an edit for each cell that differs. A row may name several references.
+    void compare(const Table &table);
+
+    [[nodiscard]] const ReportCells &cells() const { return m_cells; }
+
+private:
+    void compareRow(const Table &table, const TableRow &row);
+    void compareCell(const QString &reference, const TableRow &row, const EditColumn &column,
+                     const QString &firstText);
+    [[nodiscard]] bool hasSameTexts(const TableRow &row, const TableRow &other) const;
+    /// What the report shows of every component of that reference, or of the BOM-only part.
+    [[nodiscard]] QStringList texts(const QString &reference, const EditColumn &column) const;
+    void refuse(int line, const QString &text);
+    [[nodiscard]] QString place(int line) const;
+
+    QString m_path;
+    OpenDesign &m_design;
+    DesignEdits &m_edits;
+    ReportCells m_cells;
+    std::vector<EditColumn> m_columns;
+    /// The row in which a reference was met first.
+    QHash<QString, const TableRow *> m_rows;
+};
