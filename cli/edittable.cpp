@@ -65,10 +65,10 @@ void EditTable::compareRow(const Table &table, const TableRow &row)
         firstTexts << texts(references.first(), column).value(0);
     }
     for (const QString &reference : std::as_const(references)) {
-        const auto [first, isNew] = m_rows.tryEmplace(reference, &row);
-        if (!isNew && !hasSameTexts(row, **first)) {
+        const TableRow *&first = m_rows[reference];
+        if (first && !hasSameTexts(row, *first)) {
             refuse(row.line,
-                   reference + QStringLiteral(" has other texts on line ") + QString::number((*first)->line));
+                   reference + QStringLiteral(" has other texts on line ") + QString::number(first->line));
         } else if (!m_edits.isKnown(reference)) {
             refuse(row.line, reference + QStringLiteral(": the design has no part of this reference"));
         } else {
