@@ -4,6 +4,7 @@
 
 #include "designs/design.h"
 
+#include <functional>
 #include <map>
 #include <string>
 #include <utility>
@@ -51,6 +52,27 @@ public:
     {
         m_recount = count;
         m_recountError = error;
+    }
+
+    /// What is wrong with an edit, and how edits are worked out; without it no edit is refused, and each has
+    /// an effect and changes no file.
+    std::function<std::optional<QString>(const designs::Edit &)> editCheck;
+    std::function<void(designs::EditPlan &)> planning;
+
+    [[nodiscard]] std::optional<QString> checkEdit(const designs::Edit &edit) const override
+    {
+        return editCheck ? editCheck(edit) : std::nullopt;
+    }
+    [[nodiscard]] designs::EditPlan planEdits(std::span<const designs::Edit> edits) const override
+    {
+        designs::EditPlan plan;
+        for (std::size_t edit = 0; edit < edits.size(); ++edit) {
+            plan.effects.push_back({edit, edits[edit].name, "old", edits[edit].value, m_info.file, 7, {}});
+        }
+        if (planning) {
+            planning(plan);
+        }
+        return plan;
     }
 
     [[nodiscard]] int boardReads() const { return m_boardReads; }
