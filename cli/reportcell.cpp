@@ -46,11 +46,11 @@ QString withoutAffixes(const QString &cell, const BOMField &field)
         return {};
     }
     QString value = cell;
-    if (value.startsWith(prefix)) {
-        value.remove(0, prefix.size());
+    if (const QString text = withoutBlanksInFront(value); !prefix.isEmpty() && text.startsWith(prefix)) {
+        value = text.mid(prefix.size());
     }
-    if (value.endsWith(suffix)) {
-        value.chop(suffix.size());
+    if (const QString text = withoutBlanksBehind(value); !suffix.isEmpty() && text.endsWith(suffix)) {
+        value = text.chopped(suffix.size());
     }
     return value;
 }

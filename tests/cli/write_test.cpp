@@ -1,0 +1,250 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+// The commands that change a design.
+#include "tests/cli/programtest.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+
+const QString schematic = QStringLiteral("amp.kicad_sch");
+const QString edits = QStringLiteral("edits.csv");
+
+class Write : public ProgramTest
+{
+protected:
+    Write()
+    {
+        write(schematic,
+              kicadSchematic({{"R1", "10k",
+                               "(property \"COST\" \"1.5\" (at 0 0 0)) (property \"MPN\" \"x\" (at 0 0 0))"},
+                              {"R2", "10k"},
+                              {"R3", "10k", {}, "(in_bom no) (on_board yes) (dnp no)"},
+                              {"R4", "10k", {}, "(in_bom yes) (on_board yes) (dnp yes)"},
+                              {"J1-2", "Plug", "(property \"BOMPART1\" \"2,SCR,M3\" (at 0 0 0))"},
+                              {"U1", "Dual", {}, "(in_bom yes) (on_board yes) (dnp no)", "Amplifier:Dual", 1},
+                              {"U1", "Dual", {}, "(in_bom yes) (on_board yes) (dnp no)", "Amplifier:Dual", 2},
+                              {"C7", "1u"},
+                              {"C7", "2u"}}));
+        m_before = read(schematic);
+    }
+
+    /// Runs a command on the schematic that is to be refused, and expects that nothing was written.
+    void expectRefused(const char *arguments, const std::string &message, int status = 1)
+    {
+        const ProgramRun result = run(arguments);
+        EXPECT_EQ(result.status, status) << arguments << '\n' << result.err;
+        EXPECT_THAT(result.err, HasSubstr(message)) << arguments;
+        EXPECT_EQ(result.out, "") << arguments;
+        EXPECT_EQ(read(schematic), m_before) << arguments;
+    }
+    /// What a part has, as `bom parts` tells.
+    [[nodiscard]] std::string parts() const { return run("parts amp.kicad_sch --dnp include --json").out; }
+
+    std::string m_before;
+};
+
+TEST_F(Write, SetChangesWhatIsNamedAndNothingElse)
+{
+    const ProgramRun result = run("set amp.kicad_sch R1 VALUE=4k7");
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_THAT(result.out, AllOf(HasSubstr("R1 Value: \"10k\" -> \"4k7\" (DIR/amp.kicad_sch:"),
+                                  HasSubstr("\nchanged 1 property of 1 part in 1 file\n")));
+    std::string expected = m_before;
+    expected.replace(expected.find("10k"), 3, "4k7");
+    EXPECT_EQ(read(schematic), expected);
+    EXPECT_EQ(run("set amp.kicad_sch R1 value=4k7").out, "nothing to change\n");
+}
+
+TEST_F(Write, SetReachesSkippedAndNotFittedPartsUnitsAndBomOnlyParts)
+{
+    const ProgramRun result = run("set amp.kicad_sch R3-R4,J1-2,U1,SCR2 MPN=X1");
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_THAT(result.out, HasSubstr("SCR2 MPN: \"\" -> \"X1\" (a BOM-only part of J1-2)\n"));
+    const std::string all = parts();
+    for (const char *reference : {"R3", "R4", "J1-2", "U1", "SCR2"}) {
+        const std::size_t at = all.find(std::string("{\"reference\":\"") + reference + '"');
+        ASSERT_NE(at, std::string::npos) << reference;
+        EXPECT_LT(all.find("\"MPN\":\"X1\"", at), all.find("{\"reference\"", at + 1)) << reference << all;
+    }
+    EXPECT_EQ(all.find("\"MPN\":\"X1\"", all.find("\"SCR1\"")),
+              all.find("\"MPN\":\"X1\"", all.find("\"SCR2\"")));
+}
+
+TEST_F(Write, ADryRunTellsTheSameAndWritesNothing)
+{
+    const ProgramRun dry = run("set amp.kicad_sch R1,R2 VALUE=4k7 MPN=A --dry-run");
+    EXPECT_EQ(dry.status, 0) << dry.err;
+    EXPECT_EQ(read(schematic), m_before);
+    EXPECT_EQ(QDir(path(QString())).entryList(QDir::Files | QDir::Hidden), QStringList{schematic});
+    const ProgramRun real = run("set amp.kicad_sch R1,R2 VALUE=4k7 MPN=A");
+    EXPECT_EQ(dry.out.substr(0, dry.out.find("would change")), real.out.substr(0, real.out.find("changed")));
+}
+
+TEST_F(Write, EditsAreRefusedByNameAllOrNone)
+{
+    write(QStringLiteral("defs.ini"), "[PROPDEFS]\n\"POL\",YESNO\n\"COST\",FLOAT\n\"PINS\",INT\n");
+    const std::pair<const char *, const char *> cases[] = {
+        {"set amp.kicad_sch R1,R9 MPN=A", "R9: the design has no part of this reference"},
+        {"set amp.kicad_sch R1-R9 MPN=A", "R5: the design has no part of this reference"},
+        {"set amp.kicad_sch R4-R1 MPN=A", "R4-R1"},
+        {"set amp.kicad_sch C7 MPN=A", "C7, MPN: several symbols have this reference"},
+        {"set amp.kicad_sch R1 VALUE= MPN=A", "VALUE"},
+        {"set amp.kicad_sch R1,R2 Reference=R8", "Reference"},
+        {"set amp.kicad_sch R1 POL=maybe --propdefs defs.ini", "R1, POL: \"maybe\""},
+        {"set amp.kicad_sch R3 POL=maybe --propdefs defs.ini", "R3, POL: \"maybe\""},
+        {"set amp.kicad_sch R1 COST=cheap --propdefs defs.ini", "a decimal number"},
+        {"set amp.kicad_sch R1 COST=1,5 --propdefs defs.ini", "a decimal number"},
+        {"set amp.kicad_sch R1 PINS=1.5 --propdefs defs.ini", "a whole number"},
+        {"set amp.kicad_sch R1 PACKAGE=0402 Footprint=0805", "another text is asked for"},
+        {"set amp.kicad_sch R1 MPN=a\nb", "R1, MPN"},
+        {"set amp.kicad_sch R3 MPN=x\"\nEND\n\nDATA", "R3, MPN"},
+    };
+    for (const auto &[arguments, message] : cases) {
+        expectRefused(arguments, message);
+    }
+}
+
+TEST_F(Write, ValuesAreStoredAsTheDefinitionsSay)
+{
+    write(QStringLiteral("defs.ini"), "[PROPDEFS]\n\"POL\",YESNO\n\"COST\",FLOAT\n\"PINS\",INT\n");
+    const char *const options = " --propdefs defs.ini --locale de_DE";
+    const std::string command =
+        std::string("set amp.kicad_sch R1,R3 POL=yes COST=1.234,5 PINS=1.500") + options;
+    const ProgramRun result = run(command.c_str());
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_THAT(result.out,
+                AllOf(HasSubstr("R1 POL: none -> \"1\""), HasSubstr("R3 POL: none -> \"1\""),
+                      HasSubstr("R1 COST: \"1.5\" -> \"1234.5\""), HasSubstr("R1 PINS: none -> \"1500\"")));
+}
+
+TEST_F(Write, WrongUsageIsStatusTwo)
+{
+    expectRefused("set amp.kicad_sch R1 MPN", "is no NAME=VALUE", 2);
+    expectRefused("set amp.kicad_sch R1 =x", "is no NAME=VALUE", 2);
+    expectRefused("set amp.kicad_sch R1 MPN=a mpn=b", "named twice", 2);
+    expectRefused("set amp.kicad_sch R1", "bom --help", 2);
+    expectRefused("apply amp.kicad_sch", "bom --help", 2);
+    expectRefused("apply amp.kicad_sch none.csv", "none.csv: there is no such file", 3);
+    expectRefused("set none.kicad_sch R1 A=b", "none.kicad_sch: there is no such file", 3);
+    expectRefused("undo amp.kicad_sch", "nothing to take back", 1);
+}
+
+TEST_F(Write, AFileThatCannotBeWrittenIsStatusFour)
+{
+    write(QStringLiteral("~amp.kicad_sch.lck"), "{\"hostname\":\"desk\",\"username\":\"ada\"}");
+    expectRefused("set amp.kicad_sch R1 MPN=A", "amp.kicad_sch", 4);
+    expectRefused("set amp.kicad_sch R1 MPN=A --dry-run", "amp.kicad_sch", 4);
+}
+
+TEST_F(Write, AReportAppliedAsItIsChangesNothing)
+{
+    ASSERT_EQ(run("report amp.kicad_sch --allow-duplicates --full-csv full.csv --csv lines.csv").status, 0);
+    for (const char *arguments : {"apply amp.kicad_sch full.csv", "apply amp.kicad_sch lines.csv"}) {
+        const ProgramRun result = run(arguments);
+        EXPECT_EQ(result.status, 0) << result.err;
+        EXPECT_EQ(result.out, "nothing to change\n");
+        EXPECT_EQ(read(schematic), m_before);
+    }
+}
+
+TEST_F(Write, ApplyTakesTheCellsThatDiffer)
+{
+    write(edits, "Category,Quantity,References,Value,Unit Cost,MPN\n"
+                 "x,9,\"R1-R2,R4\",10k,2.25,\"a \"\"b\"\"\"\n"
+                 ",,SCR1,M4,,\n"
+                 ",,J1-2,Plug,,\n");
+    const ProgramRun result = run("apply amp.kicad_sch edits.csv");
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_THAT(result.out,
+                AllOf(HasSubstr("R1 COST: \"1.5\" -> \"2.25\""), HasSubstr("R4 COST: none -> \"2.25\""),
+                      HasSubstr("R2 MPN: none -> \"a \"b\"\""),
+                      HasSubstr("SCR1 VALUE: \"M3\" -> \"M4\" (a BOM-only part of J1-2)")));
+    write(edits, "References,Unit Cost,MPN\nR1,,\nR2,2.25,\"a \"\"b\"\"\"\n");
+    EXPECT_THAT(run("apply amp.kicad_sch edits.csv").out,
+                AllOf(HasSubstr("R1 COST: \"2.25\" -> removed"), HasSubstr("R1 MPN: \"a \"b\"\" -> removed"),
+                      HasSubstr("changed 2 properties of 1 part")));
+}
+
+TEST_F(Write, ApplyStripsWhatTheFieldPutsAround)
+{
+    ASSERT_EQ(run("template new Shop").status, 0);
+    QByteArray settings = QByteArray::fromStdString(run("template export Shop -").out);
+    settings.replace("<prefix Type=\"QString\"></prefix>", "<prefix Type=\"QString\">&lt; </prefix>");
+    settings.replace("<suffix Type=\"QString\"></suffix>", "<suffix Type=\"QString\">\", EUR </suffix>");
+    settings.replace("<applyToEmpty Type=\"bool\" Value=\"false\"/>",
+                     "<applyToEmpty Type=\"bool\" Value=\"true\"/>");
+    write(QStringLiteral("shop.bomt"), settings);
+    ASSERT_EQ(run("report amp.kicad_sch --allow-duplicates --template shop.bomt --full-csv full.csv").status,
+              0);
+    EXPECT_EQ(run("apply amp.kicad_sch full.csv --template shop.bomt").out, "nothing to change\n");
+    EXPECT_THAT(read(QStringLiteral("full.csv")),
+                HasSubstr("Resistors,R1,\"< 10k, EUR \",\"< , EUR \",\"< 1.50, EUR \"\n"));
+    write(edits, "References,Unit Cost,Value\nR1,\"< 2.5, EUR\",12k\nR2,\"< 3, EUR \",\"< 10k, EUR\"\n");
+    const ProgramRun result = run("apply amp.kicad_sch edits.csv --template shop.bomt");
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_THAT(result.out,
+                AllOf(HasSubstr("R1 COST: \"1.5\" -> \"2.5\""), HasSubstr("R2 COST: none -> \"3\""),
+                      HasSubstr("R1 Value: \"10k\" -> \"12k\""),
+                      HasSubstr("changed 3 properties of 2 parts")));
+    write(edits, "References,Unit Cost\nR1,\"< , EUR\"\n");
+    EXPECT_THAT(run("apply amp.kicad_sch edits.csv --template shop.bomt").out,
+                HasSubstr("R1 COST: \"2.5\" -> removed"));
+}
+
+TEST_F(Write, ApplyRefusesWhatItDoesNotUnderstandWithItsLine)
+{
+    const std::pair<const char *, const char *> cases[] = {
+        {"References,Valeu\nR1,1\n", "edits.csv:1: column 2 \"Valeu\" is neither"},
+        {"References,Stock Code,CODE\nR1,1,2\n", "edits.csv:2: R1, CODE: two values"},
+        {"References,MPN,MPN\nR1,1,1\n", "edits.csv:1: the heading \"MPN\" stands over two columns"},
+        {"References,Nut,cost,COST\nR1,1,2,3\n", "edits.csv:1: column 2 \"Nut\" is neither"},
+        {"References,Value\nR1,1\nR9,2\n", "edits.csv:3: R9: the design has no part of this reference"},
+        {"References,Value\nR1,1\n\n\"R2,R1\",2\n", "edits.csv:4: R1 has other texts on line 2"},
+        {"References,Value\n,1\n", "edits.csv:2: "},
+        {"References,Value,.Placed\nR1,10k,Top\n", "edits.csv:2: R1, .Placed: "},
+        {"References,Value,.Name\nR3,10k,Q\n", "edits.csv:2: R3, .Name: "},
+        {"References,Value,COST\nR1,10k\n", "edits.csv:2: R1, COST: the row has no cell for it"},
+        {"References,Value\nR1,10k,x\n", "edits.csv:2: there is a text behind the last column"},
+        {"References,COST\nR1,cheap\n", "edits.csv:2: R1, COST: \"cheap\""},
+        {"References,Value\nC7,5u\n", "C7, VALUE: several symbols"},
+        {"References,Value\nR1,\n", "VALUE"},
+    };
+    for (const auto &[table, message] : cases) {
+        write(edits, table);
+        expectRefused("apply amp.kicad_sch edits.csv", message);
+    }
+    write(edits, "Part,Value\nR1,1\n");
+    expectRefused("apply amp.kicad_sch edits.csv", "edits.csv:1: there is no reference column", 3);
+}
+
+TEST_F(Write, UndoGivesTheFilesBackOnce)
+{
+    ASSERT_EQ(run("set amp.kicad_sch R1 VALUE=1k").status, 0);
+    ASSERT_EQ(run("set amp.kicad_sch R2 VALUE=2k").status, 0);
+    const std::string second = read(schematic);
+    ProgramRun result = run("undo amp.kicad_sch");
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out, "DIR/amp.kicad_sch has its previous content again\n");
+    EXPECT_NE(read(schematic), second);
+    EXPECT_EQ(run("undo amp.kicad_sch").status, 1);
+
+    ASSERT_EQ(run("set amp.kicad_sch R2 VALUE=2k").status, 0);
+    write(schematic, QByteArray::fromStdString(second + "\n"));
+    result = run("undo amp.kicad_sch");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("amp.kicad_sch"));
+    EXPECT_EQ(read(schematic), second + "\n");
+
+    write(schematic, QByteArray::fromStdString(m_before));
+    ASSERT_EQ(run("set amp.kicad_sch R1 VALUE=1k --no-backup").status, 0);
+    EXPECT_EQ(run("undo amp.kicad_sch").status, 1);
+}
+
+} // namespace
