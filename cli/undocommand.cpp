@@ -41,5 +41,8 @@ ExitStatus UndoCommand::run()
     if (!console::write(text.toUtf8())) {
         return ExitStatus::UnwritableOutput;
     }
-    return undone.problems.isEmpty() ? ExitStatus::Done : ExitStatus::DesignProblem;
+    if (undone.problems.isEmpty()) {
+        return ExitStatus::Done;
+    }
+    return undone.isUnwritable ? ExitStatus::UnwritableOutput : ExitStatus::DesignProblem;
 }

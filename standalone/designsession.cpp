@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -35,6 +36,21 @@ QStringList messagesOf(const std::vector<designs::Problem> &problems)
         texts.append(problem.message());
     }
     return texts;
+}
+
+/// Whether the files as they are now could be written.
+bool canBeReplaced(const designs::Design &design)
+{
+    std::vector<designs::FileEdit> same;
+    for (const QString &path : design.files()) {
+        QFile file(path);
+        const auto fingerprint = designs::fingerprintOfFile(path);
+        if (!fingerprint || !file.open(QIODevice::ReadOnly)) {
+            return false;
+        }
+        same.push_back({path, *fingerprint, file.readAll()});
+    }
+    return designs::DesignFiles(design.info().file).check(same).empty();
 }
 
 } // namespace
@@ -152,10 +168,12 @@ DesignSession::Undone DesignSession::undo()
     }
     m_writer.clear();
     const designs::DesignFiles::Undone undone = designs::DesignFiles(m_design->design().info().file).undo();
+    const bool isUnwritable =
+        undone.files.isEmpty() && !undone.problems.empty() && !canBeReplaced(m_design->design());
     if (!undone.files.isEmpty()) {
         takeOverFiles();
     }
-    return {undone.files, messagesOf(undone.problems)};
+    return {undone.files, messagesOf(undone.problems), isUnwritable};
 }
 
 bool DesignSession::canUndo() const

@@ -68,6 +68,8 @@ public:
         QStringList files;
         /// Why nothing was taken back, "FILE:LINE: text" each.
         QStringList problems;
+        /// The files could not be written now at all: locked, or marked read-only.
+        bool isUnwritable = false;
     };
     /// Takes back the last write, of this or an earlier session, and reads the design again.
     [[nodiscard]] Undone undo();

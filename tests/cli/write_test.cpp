@@ -141,6 +141,10 @@ TEST_F(Write, AFileThatCannotBeWrittenIsStatusFour)
     write(QStringLiteral("~amp.kicad_sch.lck"), "{\"hostname\":\"desk\",\"username\":\"ada\"}");
     expectRefused("set amp.kicad_sch R1 MPN=A", "amp.kicad_sch", 4);
     expectRefused("set amp.kicad_sch R1 MPN=A --dry-run", "amp.kicad_sch", 4);
+    ASSERT_TRUE(QFile::remove(path(QStringLiteral("~amp.kicad_sch.lck"))));
+    ASSERT_EQ(run("set amp.kicad_sch R1 MPN=A").status, 0);
+    write(QStringLiteral("~amp.kicad_sch.lck"), "{\"hostname\":\"desk\",\"username\":\"ada\"}");
+    EXPECT_EQ(run("undo amp.kicad_sch").status, 4);
 }
 
 TEST_F(Write, AReportAppliedAsItIsChangesNothing)
