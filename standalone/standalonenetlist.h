@@ -2,15 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/framework/interfaceids.h"
 #include "host/netlist/netcache.h"
 
 #include <memory>
 #include <vector>
 
 class LoadedDesign;
-
-/// The number under which the application "ORIN" offers its netlist.
-constexpr unsigned INTERFACE_NETSERVER = 7;
 
 /// The netlist server of the standalone host: sends the records of the open design to the caches.
 class StandaloneNetlist final : public INETSERVER

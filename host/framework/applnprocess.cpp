@@ -2,8 +2,42 @@
 // SPDX-License-Identifier: MIT
 #include "host/framework/applnprocess.h"
 
+#include "host/framework/applnmodule.h"
+#include "host/framework/hosttext.h"
+
+#include <algorithm>
+
 namespace {
 APPLNPROCESS *theProcess = nullptr;
+}
+
+APPLNFRAME *APPLNPROCESS::getframe(APPLNMODULE *)
+{
+    return nullptr;
+}
+
+void APPLNPROCESS::popcontext()
+{
+    if (!m_contexts.isEmpty()) {
+        m_contexts.removeLast();
+    }
+}
+
+APPLNMODULE *APPLNPROCESS::getcontext() const
+{
+    return m_contexts.isEmpty() ? nullptr : m_contexts.constLast();
+}
+
+APPLNMODULE *APPLNPROCESS::findmodule(const char *application) const
+{
+    if (!application) {
+        return nullptr;
+    }
+    const QString name = fromHostText(application);
+    const auto found = std::find_if(m_modules.cbegin(), m_modules.cend(), [&name](APPLNMODULE *module) {
+        return module->getapplnname() == name;
+    });
+    return found == m_modules.cend() ? nullptr : *found;
 }
 
 APPLNPROCESS *getapplnprocess()

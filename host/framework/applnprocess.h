@@ -4,9 +4,12 @@
 
 #include "host/framework/applnobject.h"
 
+#include <QList>
 #include <QString>
 
 class APPLNDOCUMENT;
+class APPLNFRAME;
+class APPLNMODULE;
 class IMODULE;
 
 /// The kinds of document that a process is asked for.
@@ -40,6 +43,24 @@ public:
 
     /// An interface of another application or module; null when there is none.
     [[nodiscard]] virtual IMODULE *getmoduleinterface(const char *application, unsigned id) = 0;
+
+    /// The frame that a module's window goes into; null when the host has none for it.
+    [[nodiscard]] virtual APPLNFRAME *getframe(APPLNMODULE *module);
+
+    /// The module that works now is the one pushed last; null when it is the host itself.
+    virtual void pushcontext(APPLNMODULE *module) { m_contexts.append(module); }
+    virtual void popcontext();
+    [[nodiscard]] APPLNMODULE *getcontext() const;
+
+    /// The modules that live in the process enter and leave by themselves.
+    void addmodule(APPLNMODULE *module) { m_modules.append(module); }
+    void removemodule(APPLNMODULE *module) { m_modules.removeOne(module); }
+    /// The one of that name, null when there is none.
+    [[nodiscard]] APPLNMODULE *findmodule(const char *application) const;
+
+private:
+    QList<APPLNMODULE *> m_contexts;
+    QList<APPLNMODULE *> m_modules;
 };
 
 /// The installed process, null before a program has installed one.

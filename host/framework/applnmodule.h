@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/framework/icmdtarget.h"
+#include "host/framework/iformfactory.h"
+#include "host/framework/ipalette.h"
+#include "host/framework/iwindowmodule.h"
+
+#include <QHash>
+#include <QList>
+
+class APPLNPROCESS;
+
+/// The base of a module: its names, its windows and its place in the process. Whatever a module does not
+/// override means "nothing of that kind here".
+class APPLNMODULE : public IWINDOWMODULE, public ICMDTARGET, public IFORMFACTORY, public IPALETTE
+{
+public:
+    /// Enters the process's list of modules. The process must outlive the module; null for none.
+    explicit APPLNMODULE(APPLNPROCESS *process);
+    APPLNMODULE(const APPLNMODULE &) = delete;
+    APPLNMODULE &operator=(const APPLNMODULE &) = delete;
+    virtual ~APPLNMODULE();
+
+    [[nodiscard]] APPLNPROCESS *getapplnprocess() const { return m_process; }
+    /// In the order in which they were added.
+    [[nodiscard]] const QList<APPLNWINDOW *> &windows() const { return m_windows; }
+    void setmoduleinstance(void *instance) { m_instance = instance; }
+
+    IMODULE *queryinterface(unsigned id) override;
+
+    /// The first of the windows.
+    [[nodiscard]] APPLNWINDOW *getprimarywindow() override;
+    void showprimarywindow() override;
+    void setapplnname(const QString &name, const QString &title) override;
+    [[nodiscard]] QString getapplnname() const override { return m_name; }
+    [[nodiscard]] QString getapplntitle() const override { return m_title; }
+    [[nodiscard]] std::span<const CMDINFO> getcmdinfotable() const override { return {}; }
+    [[nodiscard]] KEYTRANSLATOR *getkeytranslator() override { return nullptr; }
+    [[nodiscard]] void *getmoduleinstance() const override { return m_instance; }
+    /// The module's name.
+    [[nodiscard]] QString getregistrykey() const override { return m_name; }
+    void pushcontext() override;
+    void popcontext() override;
+    bool system_init() override { return true; }
+    void system_term() override {}
+    bool loadcmdinfo() override { return true; }
+    bool loadcbftable() override { return true; }
+    bool loadconfig() override { return true; }
+    bool saveconfig() override { return true; }
+    void resetsettings() override {}
+    void loadsettings() override {}
+    void savesettings() override {}
+    /// Calls onfirstrun() when the host's settings do not say that it ever ran.
+    bool run() override;
+    bool load() override;
+    void pumpmessages() override;
+    bool launchhelp(const QString &topic) override;
+    void setinterface(unsigned id, IMODULE *object) override;
+    APPLNWINDOW *createwindow(APPLNFRAME *frame, unsigned flags) override;
+    void showprimarywindow(unsigned state) override;
+    void restorewindow(APPLNWINDOW *window) override;
+    void addwindow(APPLNWINDOW *window) override;
+    void removewindow(APPLNWINDOW *window) override;
+    void updatewindows() override;
+    bool onidle() override { return false; }
+    bool onwantkey(int key) override;
+    bool oncommand(unsigned id) override;
+    void onvalidate() override {}
+    void onfirstrun() override {}
+
+    [[nodiscard]] APPLNMODULE *getapplncontext() override { return this; }
+    bool docommand(unsigned id) override { return oncommand(id); }
+    /// Enabled for the commands of the table.
+    [[nodiscard]] unsigned getuistate(unsigned id) const override;
+
+    [[nodiscard]] QByteArray getdialogform(const char *name) override;
+    [[nodiscard]] QObject *getdialogcbf(const char *name) override;
+    [[nodiscard]] QObject *getdialogctrl(const char *type, QObject *parent) override;
+    [[nodiscard]] QByteArray getdialogctrltypename(unsigned type) override;
+    [[nodiscard]] QTranslator *getstringtranslator() override { return nullptr; }
+    /// The module's name.
+    [[nodiscard]] QString getstringcontext() const override { return m_name; }
+
+    [[nodiscard]] std::optional<quint32> getcolour(unsigned index) const override;
+
+private:
+    friend class APPLNWINDOW;
+    void forgetwindow(APPLNWINDOW *window) { m_windows.removeOne(window); }
+
+    APPLNPROCESS *m_process;
+    void *m_instance = nullptr;
+    QString m_name;
+    QString m_title;
+    QList<APPLNWINDOW *> m_windows;
+    QHash<unsigned, IMODULE *> m_interfaces;
+};

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/framework/imodule.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <span>
+
+class APPLNFRAME;
+class APPLNWINDOW;
+class KEYTRANSLATOR;
+
+/// A command of a module by its number.
+struct CMDINFO
+{
+    unsigned id = 0;
+    const char *name = nullptr;
+};
+
+/// What a host can ask of a module that has windows.
+class IWINDOWMODULE : public IMODULE
+{
+public:
+    /// The window that stands for the module; null while it has none.
+    [[nodiscard]] virtual APPLNWINDOW *getprimarywindow() = 0;
+    /// Shows it, in front; has the host make it first where there is none.
+    virtual void showprimarywindow() = 0;
+
+    /// The short name by which others find the module, and its title for people.
+    virtual void setapplnname(const QString &name, const QString &title) = 0;
+    [[nodiscard]] virtual QString getapplnname() const = 0;
+    [[nodiscard]] virtual QString getapplntitle() const = 0;
+
+    [[nodiscard]] virtual std::span<const CMDINFO> getcmdinfotable() const = 0;
+    /// The keys of the module's commands; null when its windows see to them.
+    [[nodiscard]] virtual KEYTRANSLATOR *getkeytranslator() = 0;
+    /// What the operating system knows the module's library by; null for a module that is in no library.
+    [[nodiscard]] virtual void *getmoduleinstance() const = 0;
+    /// The group of the host's settings that holds the module's.
+    [[nodiscard]] virtual QString getregistrykey() const = 0;
+
+    /// Makes the module the process's current one, and the one before it again. Every entry from outside is
+    /// bracketed by them.
+    virtual void pushcontext() = 0;
+    virtual void popcontext() = 0;
+
+    /// Called before anything is loaded, and after everything is gone. False: the module cannot run.
+    virtual bool system_init() = 0;
+    virtual void system_term() = 0;
+
+    /// The steps of load().
+    virtual bool loadcmdinfo() = 0;
+    virtual bool loadcbftable() = 0;
+    virtual bool loadconfig() = 0;
+    virtual bool saveconfig() = 0;
+
+    virtual void resetsettings() = 0;
+    virtual void loadsettings() = 0;
+    virtual void savesettings() = 0;
+
+    /// Initialises, loads and shows the module; false when a step of it failed.
+    virtual bool run() = 0;
+    virtual bool load() = 0;
+    /// Lets events that wait be handled.
+    virtual void pumpmessages() = 0;
+    /// Shows help on a topic; false when there is none.
+    virtual bool launchhelp(const QString &topic) = 0;
+
+    /// Has queryinterface() answer a number with an object that stands elsewhere; null takes it away.
+    virtual void setinterface(unsigned id, IMODULE *object) = 0;
+
+    /// The module's window inside the frame, made if need be. Null for a module without windows.
+    virtual APPLNWINDOW *createwindow(APPLNFRAME *frame, unsigned flags) = 0;
+    /// Shows the primary window, where there is one, in one of the WINDOW_ states.
+    virtual void showprimarywindow(unsigned state) = 0;
+    virtual void restorewindow(APPLNWINDOW *window) = 0;
+    virtual void addwindow(APPLNWINDOW *window) = 0;
+    /// The host gives the window up.
+    virtual void removewindow(APPLNWINDOW *window) = 0;
+    virtual void updatewindows() = 0;
+
+    /// True when there is more to do in idle time.
+    virtual bool onidle() = 0;
+    /// Whether the module takes a key or a command away from the host.
+    virtual bool onwantkey(int key) = 0;
+    virtual bool oncommand(unsigned id) = 0;
+    /// The design may have changed: whatever is stale is to be read again.
+    virtual void onvalidate() = 0;
+    /// The user runs the module for the first time.
+    virtual void onfirstrun() = 0;
+
+protected:
+    ~IWINDOWMODULE() = default;
+};

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/framework/applnwindow.h"
+
+#include <QIcon>
+#include <QList>
+#include <QPointer>
+#include <QWidget>
+
+class QMenu;
+class QToolBar;
+
+/// A module's window made of widgets, with menus and tool bars in the host's frame.
+class APPLNWIDGET : public QWidget, public APPLNWINDOW
+{
+    Q_OBJECT
+
+public:
+    explicit APPLNWIDGET(QWidget *parent = nullptr);
+    /// Takes menus, tool bars and itself out of the frame.
+    ~APPLNWIDGET() override;
+
+    /// Puts the widget into the frame. A subclass builds what it holds behind that.
+    bool createwindow(APPLNFRAME *frame) override;
+    [[nodiscard]] bool isvisible() const override;
+    void showwindow(unsigned state) override;
+    void updatewindow() override { update(); }
+
+    /// Null before createwindow().
+    [[nodiscard]] APPLNFRAME *getframe() const { return m_frame; }
+
+protected:
+    /// Menu and tool bar become the window's and go with it. Only after createwindow().
+    void addmenu(unsigned id, QMenu *menu, unsigned flags);
+    void addtoolbar(QToolBar *bar);
+    /// Takes all that was put into the frame out of it again.
+    void removefromframe();
+
+    /// The picture of a resource; a null icon when the program does not have it.
+    [[nodiscard]] static QIcon makeIcon(const QString &path);
+
+private:
+    APPLNFRAME *m_frame = nullptr;
+    QList<QMenu *> m_menus;
+    QList<QPointer<QToolBar>> m_toolbars;
+};
