@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/framework/interfaceids.h"
 #include "host/netlist/netcache.h"
 
 #include <memory>

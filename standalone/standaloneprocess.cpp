@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/standaloneprocess.h"
 
+#include "host/framework/applnmodule.h"
 #include "host/framework/hosttext.h"
+#include "host/framework/interfaceids.h"
 #include "standalone/environment.h"
 #include "standalone/standalonedocument.h"
 #include "standalone/standalonenetlist.h"
@@ -15,6 +17,7 @@ StandaloneProcess::StandaloneProcess(StandaloneDocument &document, StandaloneNet
     : m_document(document)
     , m_netlist(netlist)
     , m_projectNotes(document)
+    , m_project(document)
 {
 }
 
@@ -48,8 +51,22 @@ QString StandaloneProcess::getdatapath(const char *application) const
 
 IMODULE *StandaloneProcess::getmoduleinterface(const char *application, unsigned id)
 {
-    if (!application || std::strcmp(application, "ORIN") != 0) {
-        return nullptr;
+    if (!application) {
+        return m_project.queryinterface(id);
     }
-    return m_netlist.queryinterface(id);
+    if (std::strcmp(application, "ORIN") == 0) {
+        return m_netlist.queryinterface(id);
+    }
+    APPLNMODULE *module = findmodule(application);
+    return module ? module->queryinterface(id) : nullptr;
+}
+
+IMODULE *StandaloneProcess::Project::queryinterface(unsigned id)
+{
+    return id == INTERFACE_PROJECT ? this : nullptr;
+}
+
+APPLNDOCUMENT *StandaloneProcess::Project::getprojectdocument()
+{
+    return &m_document;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/framework/applnprocess.h"
+#include "host/framework/iproject.h"
 #include "standalone/projectnotes.h"
 
 class StandaloneDocument;
@@ -25,12 +26,34 @@ public:
     [[nodiscard]] QString getbinpath() const override;
     /// The templates stand in the folder of "BOM".
     [[nodiscard]] QString getdatapath(const char *application) const override;
-    /// The application "ORIN" offers the netlist server.
+    /// The application "ORIN" offers the netlist server, no application in particular the project, and every
+    /// module that lives in the process its own interfaces.
     [[nodiscard]] IMODULE *getmoduleinterface(const char *application, unsigned id) override;
 
+    /// The frame for the windows of all modules; null, as at first, for none. Not owned.
+    void setFrame(APPLNFRAME *frame) { m_frame = frame; }
+    [[nodiscard]] APPLNFRAME *getframe(APPLNMODULE *) override { return m_frame; }
+
 private:
+    /// The open design is the project's document.
+    class Project final : public IPROJECT
+    {
+    public:
+        explicit Project(StandaloneDocument &document)
+            : m_document(document)
+        {
+        }
+        IMODULE *queryinterface(unsigned id) override;
+        [[nodiscard]] APPLNDOCUMENT *getprojectdocument() override;
+
+    private:
+        StandaloneDocument &m_document;
+    };
+
     StandaloneDocument &m_document;
     StandaloneNetlist &m_netlist;
     ProjectNotes m_projectNotes;
+    Project m_project;
+    APPLNFRAME *m_frame = nullptr;
     bool m_isOpen = false;
 };

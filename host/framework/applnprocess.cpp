@@ -34,9 +34,8 @@ APPLNMODULE *APPLNPROCESS::findmodule(const char *application) const
         return nullptr;
     }
     const QString name = fromHostText(application);
-    const auto found = std::find_if(m_modules.cbegin(), m_modules.cend(), [&name](APPLNMODULE *module) {
-        return module->getapplnname() == name;
-    });
+    const auto found = std::find_if(m_modules.cbegin(), m_modules.cend(),
+                                    [&name](APPLNMODULE *module) { return module->getapplnname() == name; });
     return found == m_modules.cend() ? nullptr : *found;
 }
 

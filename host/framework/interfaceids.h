@@ -6,5 +6,6 @@
 /// APPLNPROCESS::getmoduleinterface().
 constexpr unsigned INTERFACE_PROJECT = 2;
 constexpr unsigned INTERFACE_NETSERVER = 7;
+/// The module "BOM" offers the same object under both.
 constexpr unsigned INTERFACE_NETCLIENT = 8;
 constexpr unsigned INTERFACE_BOMVIEWER = 10;

@@ -3,13 +3,10 @@
 #pragma once
 
 #include "host/framework/imodule.h"
+#include "host/framework/interfaceids.h"
 #include "host/netlist/netlist.h"
 
 class NETCACHE;
-
-/// The numbers under which the application "BOM" offers its netlist client.
-constexpr unsigned INTERFACE_NETCLIENT = 8;
-constexpr unsigned INTERFACE_BOMVIEWER = 10;
 
 /// Who wants to know that the design behind a cache has changed.
 class INETCLIENT : public IMODULE

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "module/bomviewer.h"
+
+#include "core/bompartsdatabase.h"
+#include "host/framework/applndocument.h"
+#include "host/framework/applnprocess.h"
+#include "host/framework/iproject.h"
+#include "module/bommainwindow.h"
+#include "module/moduletemplates.h"
+
+namespace {
+
+BOMVIEWER *theModule = nullptr;
+
+/// The netlist as this module wants it; what the two numbers mean is the server's business.
+constexpr int netlistContext = 1;
+constexpr int netlistDetail = 35;
+
+/// The module is the process's current one while this lives.
+class Context final
+{
+public:
+    explicit Context(APPLNMODULE &module)
+        : m_module(module)
+    {
+        m_module.pushcontext();
+    }
+    Context(const Context &) = delete;
+    Context &operator=(const Context &) = delete;
+    ~Context() { m_module.popcontext(); }
+
+private:
+    APPLNMODULE &m_module;
+};
+
+IMODULE *interfaceOf(APPLNPROCESS *process, const char *application, unsigned id)
+{
+    return process ? process->getmoduleinterface(application, id) : nullptr;
+}
+
+} // namespace
+
+BOMVIEWER::BOMVIEWER(APPLNPROCESS *process)
+    : APPLNMODULE(process)
+{
+    setapplnname(QStringLiteral("BOM"), QStringLiteral("Bill of Materials"));
+    m_database = BOMPartsDatabase::instance();
+    m_templates = std::make_unique<ModuleTemplates>(*m_database);
+    IMODULE *server = interfaceOf(process, "ORIN", INTERFACE_NETSERVER);
+    m_cache.attach(this);
+    m_cache.setsource(static_cast<INETSERVER *>(server));
+    m_cache.setcontext(netlistContext, netlistDetail);
+    m_database->setNetlist(&m_cache);
+    m_database->setWindowVisibleQuery([this] { return isvisible(); });
+    connectProject();
+    theModule = this;
+}
+
+BOMVIEWER::~BOMVIEWER()
+{
+    theModule = nullptr;
+    m_templates.reset();
+    BOMPartsDatabase::destroyInstance();
+    m_database = nullptr;
+}
+
+BOMVIEWER *BOMVIEWER::instance()
+{
+    return theModule;
+}
+
+void BOMVIEWER::connectProject()
+{
+    IMODULE *project = interfaceOf(getapplnprocess(), nullptr, INTERFACE_PROJECT);
+    APPLNDOCUMENT *document = project ? static_cast<IPROJECT *>(project)->getprojectdocument() : nullptr;
+    if (document) {
+        QObject::connect(document, &APPLNDOCUMENT::modified, m_database,
+                         &BOMPartsDatabase::nimProjectChanged);
+    }
+}
+
+IMODULE *BOMVIEWER::queryinterface(unsigned id)
+{
+    if (id == INTERFACE_NETCLIENT || id == INTERFACE_BOMVIEWER) {
+        return static_cast<IBOMVIEWER *>(this);
+    }
+    return APPLNMODULE::queryinterface(id);
+}
+
+APPLNWINDOW *BOMVIEWER::createwindow(APPLNFRAME *frame, unsigned)
+{
+    if (m_mainWindow) {
+        return m_mainWindow;
+    }
+    m_mainWindow = new BOMMainWindow(m_database);
+    m_mainWindow->setowner(this);
+    if (!m_mainWindow->createwindow(frame)) {
+        delete m_mainWindow;
+        m_mainWindow = nullptr;
+        return nullptr;
+    }
+    m_templates->load(m_mainWindow);
+    m_mainWindow->fillViews();
+    return m_mainWindow;
+}
+
+void BOMVIEWER::removewindow(APPLNWINDOW *window)
+{
+    if (m_mainWindow && window == m_mainWindow) {
+        m_templates->setDialogParent(nullptr);
+        m_mainWindow->deleteLater();
+        m_mainWindow = nullptr;
+    }
+    APPLNMODULE::removewindow(window);
+}
+
+void BOMVIEWER::onvalidate()
+{
+    const Context context(*this);
+    m_cache.validate(1);
+}
+
+bool BOMVIEWER::isvisible()
+{
+    return m_mainWindow && m_mainWindow->isvisible();
+}
+
+void BOMVIEWER::designChanged(bool reload)
+{
+    const Context context(*this);
+    if (m_database->isWriting()) {
+        return;
+    }
+    if (reload) {
+        m_database->reload();
+    } else {
+        m_database->clearAndSuspend();
+    }
+}
+
+void BOMVIEWER::show()
+{
+    const Context context(*this);
+    showprimarywindow();
+}

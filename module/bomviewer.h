@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/framework/applnmodule.h"
+#include "host/netlist/netcache.h"
+#include "module/ibomviewer.h"
+
+#include <memory>
+
+class BOMMainWindow;
+class BOMPartsDatabase;
+class ModuleTemplates;
+
+/// The module "BOM": binds the parts database to the design that is open in the host, and has one window. A
+/// process has one of them at a time.
+class BOMVIEWER final : public APPLNMODULE, public IBOMVIEWER
+{
+public:
+    /// Finds the netlist server and the project through the process; does without those that are not there.
+    explicit BOMVIEWER(APPLNPROCESS *process);
+    /// The main window is the host's to remove.
+    ~BOMVIEWER() override;
+
+    /// The module of this library; null while there is none.
+    [[nodiscard]] static BOMVIEWER *instance();
+
+    IMODULE *queryinterface(unsigned id) override;
+
+    /// The main window, built and filled at the first request and at the first one after it was removed.
+    /// Null without a frame.
+    APPLNWINDOW *createwindow(APPLNFRAME *frame, unsigned flags) override;
+    /// The main window is deleted when the event loop gets to it.
+    void removewindow(APPLNWINDOW *window) override;
+    void onvalidate() override;
+
+    [[nodiscard]] bool isvisible() override;
+    /// Nothing while the database writes. Without `reload` the database stays empty and silent until the next
+    /// notice with it.
+    void designChanged(bool reload) override;
+    void show() override;
+
+private:
+    void connectProject();
+
+    NETCACHE m_cache;
+    BOMPartsDatabase *m_database = nullptr;
+    BOMMainWindow *m_mainWindow = nullptr;
+    std::unique_ptr<ModuleTemplates> m_templates;
+};

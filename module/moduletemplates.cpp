@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "module/moduletemplates.h"
+
+#include "core/bompartsdatabase.h"
+#include "host/framework/applnprocess.h"
+#include "host/framework/hostui.h"
+#include "templates/templatemessages.h"
+#include "templates/templatepaths.h"
+
+#include <QWidget>
+
+ModuleTemplates::ModuleTemplates(BOMPartsDatabase &database)
+    : m_database(database)
+    , m_store(this)
+{
+    if (const APPLNPROCESS *process = getapplnprocess()) {
+        setTemplatePaths(hostTemplatePaths(process->gettemplatepaths(), process->getdatapath("Templates")));
+    }
+    setTemplateMessageHandler([this](const TemplateMessage &message) {
+        const QString detail = message.detail.isEmpty() ? QString() : u'\n' + message.detail;
+        HostUi::current().warning(m_window, message.title, message.text + detail);
+    });
+}
+
+ModuleTemplates::~ModuleTemplates()
+{
+    setTemplateMessageHandler({});
+}
+
+void ModuleTemplates::load(QWidget *window)
+{
+    setDialogParent(window);
+    m_store.reload();
+}
+
+void ModuleTemplates::setDialogParent(QWidget *window)
+{
+    m_window = window;
+    m_store.setDialogParent(window);
+}
+
+BOMTemplate ModuleTemplates::workingTemplate() const
+{
+    return m_database.currentTemplate();
+}
+
+void ModuleTemplates::takeTemplate(const BOMTemplate &settings)
+{
+    m_database.setCurrentTemplate(settings);
+}

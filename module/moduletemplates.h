@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "templates/templatestore.h"
+#include "templates/workingtemplate.h"
+
+#include <QPointer>
+
+class BOMPartsDatabase;
+
+/// The templates of the module: the folders that the host names, the list of them, and the parts database as
+/// the place where the current one is worked on. What is wrong with a template is told in a box.
+class ModuleTemplates final : private WorkingTemplate
+{
+public:
+    /// The database must outlive the object.
+    explicit ModuleTemplates(BOMPartsDatabase &database);
+    ~ModuleTemplates() override;
+
+    /// Reads the list and takes the template that was current last. Boxes stand in front of the window.
+    void load(QWidget *window);
+    void setDialogParent(QWidget *window);
+
+    [[nodiscard]] TemplateStore &store() { return m_store; }
+
+private:
+    [[nodiscard]] BOMTemplate workingTemplate() const override;
+    void takeTemplate(const BOMTemplate &settings) override;
+
+    BOMPartsDatabase &m_database;
+    TemplateStore m_store;
+    QPointer<QWidget> m_window;
+};
