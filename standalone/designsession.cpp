@@ -4,7 +4,9 @@
 
 #include "designs/designfiles.h"
 #include "host/framework/hostui.h"
+#include "standalone/companionfiles.h"
 #include "standalone/loadeddesign.h"
+#include "standalone/standalonelayout.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -201,4 +203,23 @@ void DesignSession::setDnpChoice(DnpChoice choice)
         m_design->properties().setDnpChoice(choice);
         m_netlist.invalidateCaches();
     }
+}
+
+bool DesignSession::rereadBoard()
+{
+    if (!m_design) {
+        return false;
+    }
+    const designs::DesignInfo &info = m_design->design().info();
+    designs::ReadOptions options;
+    options.variant = info.variant;
+    designs::ReadResult result = designs::readDesign(info.file, options);
+    if (!result.design) {
+        m_error = result.error.message();
+        return false;
+    }
+    m_cdb.setBoard(std::move(result.design));
+    StandaloneLayout layout(boardFileOf(*m_design));
+    Q_EMIT m_document.modified(&layout);
+    return true;
 }

@@ -85,6 +85,11 @@ public:
     [[nodiscard]] const StandaloneDocument &document() const { return m_document; }
     [[nodiscard]] StandaloneDocument &document() { return m_document; }
     [[nodiscard]] ProjectNotes &projectNotes() { return m_process.projectNotes(); }
+    [[nodiscard]] StandaloneProcess &process() { return m_process; }
+
+    /// What a saved board file asks for: places the components by the board as it is now, and has the
+    /// document tell that the board was modified. On failure error() says why and nothing changes.
+    [[nodiscard]] bool rereadBoard();
 
 private:
     void setDesign(std::unique_ptr<const designs::Design> design);

@@ -63,6 +63,7 @@ void StandaloneCdb::setDesign(std::shared_ptr<const LoadedDesign> design)
         m_problems.append(
             {{}, {}, {}, 0, QStringLiteral("the design was read again before all was written")});
     }
+    m_board.reset();
 }
 
 const CDBPART *StandaloneCdb::getpart(quint64 identifier)
@@ -71,7 +72,8 @@ const CDBPART *StandaloneCdb::getpart(quint64 identifier)
     if (!component) {
         return nullptr;
     }
-    switch (m_design->design().placement(component->reference)) {
+    const designs::Design &board = m_board ? *m_board : m_design->design();
+    switch (board.placement(component->reference)) {
     case designs::Side::Top:
         return &m_top;
     case designs::Side::Bottom:

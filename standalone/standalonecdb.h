@@ -12,6 +12,9 @@
 #include <unordered_map>
 #include <vector>
 
+namespace designs {
+class Design;
+}
 class LoadedDesign;
 struct AdiAssignment;
 
@@ -28,6 +31,9 @@ public:
     /// A batch that is open then is not written: what it collected was for the design before.
     void setDesign(std::shared_ptr<const LoadedDesign> design);
     void setWriter(Writer writer) { m_writer = std::move(writer); }
+    /// Places the components as this later reading of the same design does; null, as after setDesign(), for
+    /// the design itself.
+    void setBoard(std::shared_ptr<const designs::Design> board) { m_board = std::move(board); }
 
     /// Reads the board file at the first question about a design. The records are shared: one per side.
     [[nodiscard]] const CDBPART *getpart(quint64 identifier) override;
@@ -58,6 +64,7 @@ private:
     /// By component and property, the last edit of it as an index into the staged ones.
     std::unordered_map<std::string, std::size_t> m_lastEdits;
     QList<CDBPROBLEM> m_problems;
+    std::shared_ptr<const designs::Design> m_board;
     CDBLAYOUT m_topLayout;
     CDBLAYOUT m_bottomLayout;
     CDBPART m_notPlaced;

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "app/filewatcher.h"
+
+#include <QFileInfo>
+
+namespace {
+
+/// Editors write several files of a design within this time.
+constexpr int settleMilliseconds = 300;
+
+} // namespace
+
+FileWatcher::FileWatcher(QObject *parent)
+    : QObject(parent)
+{
+    m_settled.setSingleShot(true);
+    m_settled.setInterval(settleMilliseconds);
+    connect(&m_settled, &QTimer::timeout, this, &FileWatcher::settle);
+    const auto start = [this] { m_settled.start(); };
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, start);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, start);
+}
+
+void FileWatcher::setFiles(const QStringList &files)
+{
+    m_files = files;
+    const QStringList before = m_watcher.files() + m_watcher.directories();
+    if (!before.isEmpty()) {
+        m_watcher.removePaths(before);
+    }
+    watchAgain();
+}
+
+void FileWatcher::watchAgain()
+{
+    // The watcher forgets a file that is replaced.
+    const QStringList watched = m_watcher.files() + m_watcher.directories();
+    QStringList missing;
+    for (const QString &file : std::as_const(m_files)) {
+        const QString folder = QFileInfo(file).absolutePath();
+        for (const QString &path : {file, folder}) {
+            if (QFileInfo::exists(path) && !watched.contains(path) && !missing.contains(path)) {
+                missing << path;
+            }
+        }
+    }
+    if (!missing.isEmpty()) {
+        m_watcher.addPaths(missing);
+    }
+}
+
+void FileWatcher::settle()
+{
+    watchAgain();
+    Q_EMIT touched();
+}

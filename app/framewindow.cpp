@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "app/framewindow.h"
+
+#include "app/emptypage.h"
+#include "app/programmenus.h"
+#include "app/statusnotes.h"
+#include "host/framework/applnwindow.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace {
+
+constexpr QSize firstSize(1200, 800);
+
+/// The first dragged file that may be a design; empty when there is none.
+QString droppedDesign(const QMimeData &data)
+{
+    for (const QUrl &url : data.urls()) {
+        if (url.isLocalFile() && FrameWindow::isDesignName(url.toLocalFile())) {
+            return url.toLocalFile();
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+FrameWindow::FrameWindow()
+    : m_title(tr("Bill of Materials Viewer"))
+{
+    setAcceptDrops(true);
+    resize(firstSize);
+    m_menus = new ProgramMenus(this);
+    m_notes = new StatusNotes(this);
+    m_emptyPage = new EmptyPage(m_menus->openAction());
+    m_pages = new QStackedWidget;
+    m_pages->addWidget(m_emptyPage);
+    setCentralWidget(m_pages);
+    updateTitle();
+}
+
+FrameWindow::~FrameWindow() = default;
+
+void FrameWindow::addmenu(unsigned id, QMenu *menu, unsigned)
+{
+    if (id == ProgramMenus::HelpMenuId) {
+        m_menus->addToHelp(menu->actions());
+        m_moduleMenus.insert(id, menu);
+        return;
+    }
+    const auto next = m_moduleMenus.upperBound(id);
+    const bool isLast = next == m_moduleMenus.end() || next.key() == ProgramMenus::HelpMenuId;
+    menuBar()->insertMenu(isLast ? m_menus->firstAfterModule() : next.value()->menuAction(), menu);
+    m_moduleMenus.insert(id, menu);
+}
+
+void FrameWindow::removemenu(QMenu *menu)
+{
+    if (m_moduleMenus.key(menu) == ProgramMenus::HelpMenuId) {
+        m_menus->removeFromHelp(menu->actions());
+    }
+    m_moduleMenus.remove(m_moduleMenus.key(menu));
+    menuBar()->removeAction(menu->menuAction());
+}
+
+void FrameWindow::addtoolbar(QToolBar *bar)
+{
+    addToolBar(bar);
+    bar->show();
+}
+
+void FrameWindow::removetoolbar(QToolBar *bar)
+{
+    removeToolBar(bar);
+    bar->setParent(nullptr);
+}
+
+void FrameWindow::setwidget(QWidget *widget)
+{
+    if (m_moduleWidget && m_moduleWidget != widget) {
+        m_pages->removeWidget(m_moduleWidget);
+    }
+    m_moduleWidget = widget;
+    m_pages->addWidget(widget);
+    m_pages->setCurrentWidget(widget);
+}
+
+void FrameWindow::removewidget(QWidget *widget)
+{
+    m_pages->removeWidget(widget);
+    widget->setParent(nullptr);
+    if (m_moduleWidget == widget) {
+        m_moduleWidget.clear();
+        m_pages->setCurrentWidget(m_emptyPage);
+    }
+}
+
+void FrameWindow::settitle(const QString &title)
+{
+    m_title = title;
+    updateTitle();
+}
+
+void FrameWindow::setstatustext(const QString &text)
+{
+    statusBar()->showMessage(text);
+}
+
+void FrameWindow::showframe(unsigned state)
+{
+    switch (state) {
+    case WINDOW_HIDDEN:
+        hide();
+        return;
+    case WINDOW_MINIMISED:
+        showMinimized();
+        return;
+    case WINDOW_MAXIMISED:
+        showMaximized();
+        break;
+    default:
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+        show();
+        break;
+    }
+    raise();
+    activateWindow();
+}
+
+bool FrameWindow::isframevisible() const
+{
+    return isVisible() && !isMinimized();
+}
+
+void FrameWindow::setDesignName(const QString &name)
+{
+    m_designName = name;
+    updateTitle();
+}
+
+void FrameWindow::updateTitle()
+{
+    setWindowTitle(m_designName.isEmpty() ? m_title : m_designName + QStringLiteral(" \u2013 ") + m_title);
+}
+
+bool FrameWindow::isDesignName(const QString &path)
+{
+    static constexpr const char *suffixes[] = {".kicad_sch", ".kicad_pro", ".csv"};
+    return std::any_of(std::begin(suffixes), std::end(suffixes), [&path](const char *suffix) {
+        return path.endsWith(QLatin1String(suffix), Qt::CaseInsensitive);
+    });
+}
+
+void FrameWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!droppedDesign(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void FrameWindow::dropEvent(QDropEvent *event)
+{
+    const QString path = droppedDesign(*event->mimeData());
+    if (!path.isEmpty()) {
+        event->acceptProposedAction();
+        Q_EMIT fileDropped(path);
+    }
+}
+
+void FrameWindow::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(!m_mayClose || m_mayClose());
+}

@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "app/workbench.h"
+#include "host/framework/inihostsettings.h"
+#include "host/propdefs/propdefsfile.h"
+#include "host/widgets/qthostui.h"
+#include "standalone/environment.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QTextStream>
+
+namespace {
+
+/// The exit status for something that cannot be read.
+constexpr int unreadable = 3;
+/// The one for wrong usage.
+constexpr int wrongUsage = 2;
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("bomviewer"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(BOM_VERSION));
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Shows the bill of materials of a KiCad schematic or a part list."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("DESIGN"),
+                                 QStringLiteral("A .kicad_sch, .kicad_pro or .csv file."),
+                                 QStringLiteral("[DESIGN]"));
+    const QCommandLineOption module(QStringLiteral("module"), QStringLiteral("The library of the module."),
+                                    QStringLiteral("FILE"));
+    parser.addOption(module);
+    parser.process(application);
+    const QStringList designs = parser.positionalArguments();
+    if (designs.size() > 1) {
+        QTextStream(stderr) << "bomviewer: one design at a time\n";
+        return wrongUsage;
+    }
+
+    QtHostUi ui;
+    HostUi::install(&ui);
+    IniHostSettings settings(userSettingsFile());
+    HostSettings::install(&settings);
+    setpropdefsfile(userDefinitionsFile());
+    int status = unreadable;
+    {
+        Workbench workbench;
+        if (workbench.start(parser.value(module))) {
+            workbench.window().show();
+            if (!designs.isEmpty()) {
+                (void)workbench.open(designs.constFirst());
+            }
+            status = QApplication::exec();
+        } else {
+            QTextStream(stderr) << "bomviewer: " << workbench.error() << '\n';
+        }
+    }
+    HostSettings::install(nullptr);
+    HostUi::install(nullptr);
+    return status;
+}

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "standalone/dnpchoice.h"
+
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+class QAction;
+class QActionGroup;
+class QMainWindow;
+class QMenu;
+
+/// The program's own menus, around those of the module: File and View in front, Help behind.
+class ProgramMenus final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// A module's menu with this number goes into the program's Help.
+    static constexpr unsigned HelpMenuId = 276;
+
+    explicit ProgramMenus(QMainWindow *window);
+
+    [[nodiscard]] QAction *openAction() const { return m_open; }
+    /// Module menus go in front of it.
+    [[nodiscard]] QAction *firstAfterModule() const;
+    void addToHelp(const QList<QAction *> &actions);
+    void removeFromHelp(const QList<QAction *> &actions);
+
+    void setRecentFiles(const QStringList &paths);
+    void setDnpChoice(DnpChoice choice);
+    /// The variants that can be chosen; the menu is hidden without any. `current` is empty for the design as
+    /// drawn.
+    void setVariants(const QStringList &variants, const QString &current);
+
+Q_SIGNALS:
+    void openRequested();
+    void recentChosen(const QString &path);
+    void recentCleared();
+    void dnpChosen(DnpChoice choice);
+    /// Empty for the design as drawn.
+    void variantChosen(const QString &variant);
+    void aboutRequested();
+
+private:
+    void buildFile();
+    void buildView();
+    void buildHelp();
+    void addDnpChoice(const QString &text, const QString &tip, DnpChoice choice);
+
+    QMainWindow *m_window;
+    QAction *m_open = nullptr;
+    QMenu *m_recent = nullptr;
+    QMenu *m_notFitted = nullptr;
+    QMenu *m_variants = nullptr;
+    QMenu *m_help = nullptr;
+    QAction *m_about = nullptr;
+    QActionGroup *m_dnpChoices = nullptr;
+    QActionGroup *m_variantChoices = nullptr;
+};

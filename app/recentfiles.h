@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// The designs that were opened last, kept in the host's settings.
+class RecentFiles final
+{
+public:
+    static constexpr int Most = 10;
+
+    /// The last one first.
+    [[nodiscard]] static QStringList list();
+    static void add(const QString &path);
+    static void remove(const QString &path);
+    static void clear();
+
+private:
+    static void store(const QStringList &paths);
+};

@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "app/workbench.h"
+
+#include "app/emptypage.h"
+#include "app/programmenus.h"
+#include "app/recentfiles.h"
+#include "app/statusnotes.h"
+#include "host/framework/applnmodule.h"
+#include "host/framework/applnwindow.h"
+#include "host/framework/hostui.h"
+#include "host/propdefs/propdefsfile.h"
+#include "host/richtext/pagepainter.h"
+#include "standalone/loadeddesign.h"
+#include "standalone/partsledger.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QEvent>
+#include <QFileInfo>
+
+Workbench::Workbench()
+{
+    m_session.process().setFrame(&m_window);
+    m_session.projectNotes().setPagePainter([](QPainter &painter, const QString &text) {
+        (void)paintTextPages(painter, tr("Project Notes"), text);
+    });
+    connectWindow();
+    updateRecentFiles();
+}
+
+Workbench::~Workbench()
+{
+    if (APPLNMODULE *module = m_library.module()) {
+        if (APPLNWINDOW *window = module->getprimarywindow()) {
+            module->removewindow(window);
+        }
+        // The code of what waits to be deleted goes with the library.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        module->savesettings();
+        module->system_term();
+    }
+    m_library.unload();
+    m_session.process().setFrame(nullptr);
+}
+
+bool Workbench::start(const QString &modulePath)
+{
+    APPLNPROCESS *process = &m_session.process();
+    const bool isLoaded =
+        modulePath.isEmpty() ? m_library.loadFirst(process) : m_library.load(modulePath, process);
+    if (!isLoaded) {
+        return false;
+    }
+    return m_library.module()->system_init() && m_library.module()->load();
+}
+
+void Workbench::connectWindow()
+{
+    ProgramMenus &menus = m_window.menus();
+    connect(&menus, &ProgramMenus::openRequested, this, &Workbench::chooseFile);
+    connect(&menus, &ProgramMenus::recentChosen, this, &Workbench::open);
+    connect(&menus, &ProgramMenus::recentCleared, this, &Workbench::clearRecentFiles);
+    connect(&menus, &ProgramMenus::dnpChosen, this, &Workbench::chooseDnp);
+    connect(&menus, &ProgramMenus::variantChosen, this, &Workbench::openVariant);
+    connect(&menus, &ProgramMenus::aboutRequested, this, &Workbench::showAbout);
+    connect(&m_window.emptyPage(), &EmptyPage::recentChosen, this, &Workbench::open);
+    connect(&m_window, &FrameWindow::fileDropped, this, &Workbench::open);
+    connect(&m_watcher, &FileWatcher::touched, this, &Workbench::checkFiles);
+    m_window.setCloseQuery([this] { return mayClose(); });
+}
+
+void Workbench::chooseFile()
+{
+    const QStringList recent = RecentFiles::list();
+    const QString last = m_path.isEmpty() && !recent.isEmpty() ? recent.constFirst() : m_path;
+    const QString path = HostUi::current().openFileName(
+        &m_window, tr("Open Design"), last.isEmpty() ? QString() : QFileInfo(last).path(),
+        tr("Designs (*.kicad_sch *.kicad_pro *.csv);;All files (*)"));
+    if (!path.isEmpty()) {
+        (void)open(path);
+    }
+}
+
+bool Workbench::open(const QString &path)
+{
+    const QString file = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    if (!m_session.open(file)) {
+        if (!QFileInfo::exists(file)) {
+            RecentFiles::remove(file);
+            updateRecentFiles();
+        }
+        HostUi::current().warning(&m_window, tr("Open Failed"), m_session.error());
+        return false;
+    }
+    m_path = file;
+    m_variant.clear();
+    // Reports are proposed to be written beside the design.
+    (void)QDir::setCurrent(QFileInfo(file).path());
+    RecentFiles::add(file);
+    updateRecentFiles();
+    showDesign();
+    return true;
+}
+
+void Workbench::openVariant(const QString &variant)
+{
+    if (m_session.open(m_path, variant)) {
+        m_variant = variant;
+        showDesign();
+        return;
+    }
+    HostUi::current().warning(&m_window, tr("Open Failed"), m_session.error());
+    m_window.menus().setVariants(m_session.variants(), m_variant);
+}
+
+void Workbench::showDesign()
+{
+    const QString name = QFileInfo(m_path).completeBaseName();
+    m_window.setDesignName(m_variant.isEmpty() ? name : name + QStringLiteral(" [") + m_variant + u']');
+    m_window.menus().setVariants(m_session.variants(), m_variant);
+    watchDesign();
+    m_library.module()->onvalidate();
+    if (!m_library.module()->getprimarywindow()) {
+        m_library.module()->createwindow(&m_window, 0);
+    }
+    updateNotes();
+}
+
+void Workbench::watchDesign()
+{
+    m_board.setFile(boardFileOf(*m_session.design()));
+    m_project.setFile(projectFileOf(*m_session.design()));
+    QStringList files = m_session.files();
+    for (const QString &file : {m_board.file(), m_project.file()}) {
+        if (!file.isEmpty()) {
+            files << file;
+        }
+    }
+    m_watcher.setFiles(files);
+    m_window.notes().setProblem({});
+}
+
+void Workbench::checkFiles()
+{
+    if (m_session.design()) {
+        const bool isOtherProject = m_project.hasChanged();
+        // After a failure the design that is shown is an old one, whatever the files look like.
+        const bool isBehind = !m_window.notes().problem().isEmpty();
+        if (isOtherProject || isBehind || !m_session.design()->design().changedFiles().isEmpty()) {
+            rereadDesign();
+        } else if (m_board.hasChanged() && m_session.rereadBoard()) {
+            m_library.module()->onvalidate();
+            updateNotes();
+        }
+    }
+    Q_EMIT filesChecked();
+}
+
+void Workbench::rereadDesign()
+{
+    if (m_session.open(m_path, m_variant)) {
+        showDesign();
+    } else {
+        // It may be half written; the next change of a file is the next try.
+        m_window.notes().setProblem(m_session.error());
+    }
+}
+
+void Workbench::chooseDnp(DnpChoice choice)
+{
+    m_session.setDnpChoice(choice);
+    m_window.menus().setDnpChoice(choice);
+    m_library.module()->onvalidate();
+    updateNotes();
+}
+
+void Workbench::clearRecentFiles()
+{
+    RecentFiles::clear();
+    updateRecentFiles();
+}
+
+void Workbench::updateRecentFiles()
+{
+    const QStringList recent = RecentFiles::list();
+    m_window.menus().setRecentFiles(recent);
+    m_window.emptyPage().setRecentFiles(recent);
+}
+
+void Workbench::updateNotes()
+{
+    if (!m_session.design()) {
+        return;
+    }
+    const PartsLedger ledger(*m_session.design());
+    QStringList account = {tr("%1 of %2 components listed").arg(ledger.listed()).arg(ledger.components())};
+    if (ledger.leftOutByChoice() > 0) {
+        account << (m_session.dnpChoice() == DnpChoice::Only ? tr("%1 fitted") : tr("%1 not fitted"))
+                       .arg(ledger.leftOutByChoice());
+    }
+    if (ledger.excluded() > 0) {
+        account << tr("%1 excluded").arg(ledger.excluded());
+    }
+    m_window.notes().setAccount(account.join(QStringLiteral(", ")));
+    QStringList warnings = m_session.warnings();
+    (void)load_defaultdefs(nullptr, nullptr, &warnings);
+    m_window.notes().setWarnings(warnings);
+}
+
+void Workbench::showAbout()
+{
+    HostUi::current().information(
+        &m_window, tr("About Bill of Materials Viewer"),
+        tr("Bill of Materials Viewer %1\nBills of materials from KiCad schematics and part lists.")
+            .arg(QCoreApplication::applicationVersion()));
+}
+
+bool Workbench::mayClose()
+{
+    APPLNWINDOW *window = m_library.module() ? m_library.module()->getprimarywindow() : nullptr;
+    return !window || window->canbeclosed();
+}

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/filewatcher.h"
+#include "app/framewindow.h"
+#include "app/modulelibrary.h"
+#include "standalone/companionfiles.h"
+#include "standalone/designsession.h"
+
+#include <QObject>
+#include <QString>
+
+/// The desktop program: one window, the module in it, and the design that is open.
+class Workbench final : public QObject
+{
+    Q_OBJECT
+
+public:
+    Workbench();
+    /// Ends the module the way a host does: its window first.
+    ~Workbench() override;
+
+    /// Loads the module from a file, or from where it is installed when the name is empty. On failure
+    /// error() says why, and there is nothing to show.
+    [[nodiscard]] bool start(const QString &modulePath = {});
+    [[nodiscard]] const QString &error() const { return m_library.error(); }
+
+    [[nodiscard]] FrameWindow &window() { return m_window; }
+    [[nodiscard]] DesignSession &session() { return m_session; }
+    [[nodiscard]] FileWatcher &watcher() { return m_watcher; }
+
+    /// Opens a design in place of the one that is open. When it cannot be read the user is told, and the old
+    /// one stays.
+    bool open(const QString &path);
+
+Q_SIGNALS:
+    /// The window shows the design as it is on the disk, or says why it cannot.
+    void filesChecked();
+
+private:
+    void connectWindow();
+    void chooseFile();
+    void openVariant(const QString &variant);
+    void chooseDnp(DnpChoice choice);
+    void clearRecentFiles();
+    void showAbout();
+    [[nodiscard]] bool mayClose();
+
+    /// The session holds another design or another reading of it.
+    void showDesign();
+    void watchDesign();
+    void updateRecentFiles();
+    void updateNotes();
+    void checkFiles();
+    void rereadDesign();
+
+    // In this order: the module's instance is gone before the session, the process, is.
+    DesignSession m_session;
+    ModuleLibrary m_library;
+    FrameWindow m_window;
+    FileWatcher m_watcher;
+    FileLook m_board;
+    FileLook m_project;
+    /// As the user named it, absolute.
+    QString m_path;
+    QString m_variant;
+};
