@@ -55,15 +55,15 @@ void ProgramMenus::buildFile()
 
 void ProgramMenus::buildView()
 {
-    QMenu *view = m_window->menuBar()->addMenu(tr("&View"));
-    m_notFitted = view->addMenu(tr("&Parts That Are Not Fitted"));
+    m_view = m_window->menuBar()->addMenu(tr("&View"));
+    m_notFitted = m_view->addMenu(tr("&Parts That Are Not Fitted"));
     m_dnpChoices = new QActionGroup(this);
     addDnpChoice(tr("&Leave Out"), tr("Parts that are not fitted are not in the report"), DnpChoice::Exclude);
     addDnpChoice(tr("&Include"), tr("Parts that are not fitted are listed like all others"),
                  DnpChoice::Include);
     addDnpChoice(tr("&Only These"), tr("Only parts that are not fitted are in the report"), DnpChoice::Only);
     setDnpChoice(DnpChoice::Exclude);
-    m_variants = view->addMenu(tr("&Variant"));
+    m_variants = m_view->addMenu(tr("&Variant"));
     m_variantChoices = new QActionGroup(this);
     setVariants({}, {});
 }
@@ -88,7 +88,7 @@ void ProgramMenus::addDnpChoice(const QString &text, const QString &tip, DnpChoi
 
 QAction *ProgramMenus::firstAfterModule() const
 {
-    return m_help->menuAction();
+    return m_view->menuAction();
 }
 
 void ProgramMenus::addToHelp(const QList<QAction *> &actions)

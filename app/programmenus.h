@@ -13,7 +13,7 @@ class QActionGroup;
 class QMainWindow;
 class QMenu;
 
-/// The program's own menus, around those of the module: File and View in front, Help behind.
+/// The program's own menus, around those of the module: File in front, View and Help behind.
 class ProgramMenus final : public QObject
 {
     Q_OBJECT
@@ -54,6 +54,7 @@ private:
     QMainWindow *m_window;
     QAction *m_open = nullptr;
     QMenu *m_recent = nullptr;
+    QMenu *m_view = nullptr;
     QMenu *m_notFitted = nullptr;
     QMenu *m_variants = nullptr;
     QMenu *m_help = nullptr;

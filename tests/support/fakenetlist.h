@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/netlist/netcache.h"
+#include "host/netlist/proplist.h"
 
 #include <QByteArray>
 #include <QList>

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "host/framework/applnmodule.h"
+#include "host/framework/moduleentry.h"
+#include "support/scriptedui.h"
+#include "tests/module/modulehost.h"
+
+#include <QCoreApplication>
+#include <QLibrary>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QString library()
+{
+    return QStringLiteral(BOM_BINARY_DIR "/lib/libbom.so");
+}
+
+} // namespace
+
+TEST(ModuleEntry, ExportsItsTwoFunctionsOnly)
+{
+    QProcess nm;
+    nm.start(QStringLiteral("nm"), {QStringLiteral("-D"), QStringLiteral("--defined-only"),
+                                    QStringLiteral("--format=just-symbols"), library()});
+    ASSERT_TRUE(nm.waitForFinished());
+    EXPECT_EQ(nm.readAllStandardOutput().toStdString(), "createmoduleinstance\ndeletemoduleinstance\n");
+}
+
+TEST(ModuleEntry, LivesFromTheOneToTheOther)
+{
+    const ScriptedUi ui;
+    ModuleHost host;
+    host.server.netlist.add("R1", "10k");
+    QLibrary plugin(library());
+    ASSERT_TRUE(plugin.load()) << plugin.errorString().toStdString();
+    const auto create = reinterpret_cast<CREATEMODULEINSTANCE>(plugin.resolve(MODULE_CREATE));
+    const auto remove = reinterpret_cast<DELETEMODULEINSTANCE>(plugin.resolve(MODULE_DELETE));
+    ASSERT_TRUE(create && remove);
+
+    for (int life = 0; life < 2; ++life) {
+        APPLNMODULE *module = create(&host);
+        ASSERT_NE(module, nullptr);
+        EXPECT_EQ(host.findmodule("BOM"), module);
+        EXPECT_NE(module->getmoduleinstance(), nullptr);
+        module->onvalidate();
+        APPLNWINDOW *window = module->createwindow(&host.frame, 0);
+        ASSERT_NE(window, nullptr);
+        EXPECT_NE(host.frame.window.findChild<QWidget *>(QStringLiteral("bomHTMLView")), nullptr);
+        module->removewindow(window);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(host.frame.widgets, 0);
+        remove(module);
+        EXPECT_EQ(host.findmodule("BOM"), nullptr);
+        EXPECT_EQ(host.server.cache, nullptr);
+    }
+    remove(nullptr);
+    EXPECT_TRUE(plugin.unload());
+}

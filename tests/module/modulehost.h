@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "host/framework/applnframe.h"
+#include "host/framework/applnmodule.h"
+#include "host/framework/applnprocess.h"
+#include "host/framework/applnwindow.h"
+#include "host/framework/interfaceids.h"
+#include "host/framework/iproject.h"
+#include "support/fakedocument.h"
+#include "support/fakenetlist.h"
+
+#include <QMainWindow>
+#include <QMenu>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <functional>
+
+/// A netlist server that notes what it is asked for.
+class ModuleServer final : public INETSERVER
+{
+public:
+    FakeNetlist netlist;
+    bool canSend = true;
+    int sent = 0;
+    int context = 0;
+    int detail = 0;
+    NETCACHE *cache = nullptr;
+    /// Run inside sendnetlist() and removecache().
+    std::function<void()> onSend;
+    std::function<void()> onRemove;
+
+    IMODULE *queryinterface(unsigned) override { return this; }
+    bool sendnetlist(NETCACHE &target, int askedContext, int askedDetail) override
+    {
+        context = askedContext;
+        detail = askedDetail;
+        if (onSend) {
+            onSend();
+        }
+        if (canSend) {
+            ++sent;
+            static_cast<NETLIST &>(target) = *netlist.cache();
+        }
+        return canSend;
+    }
+    void addcache(NETCACHE *added) override { cache = added; }
+    void removecache(NETCACHE *) override
+    {
+        cache = nullptr;
+        if (onRemove) {
+            onRemove();
+        }
+    }
+};
+
+/// A frame that notes what is put into it.
+class ModuleFrame final : public APPLNFRAME
+{
+public:
+    QMainWindow window;
+    QMap<unsigned, QMenu *> menus;
+    QList<QToolBar *> bars;
+    int widgets = 0;
+    QString title;
+    unsigned state = WINDOW_HIDDEN;
+
+    void addmenu(unsigned id, QMenu *menu, unsigned) override { menus[id] = menu; }
+    void removemenu(QMenu *menu) override { menus.remove(menus.key(menu)); }
+    void addtoolbar(QToolBar *bar) override { bars << bar; }
+    void removetoolbar(QToolBar *bar) override { bars.removeAll(bar); }
+    void setwidget(QWidget *widget) override
+    {
+        ++widgets;
+        window.setCentralWidget(widget);
+    }
+    void removewidget(QWidget *widget) override
+    {
+        --widgets;
+        widget->setParent(nullptr);
+    }
+    void settitle(const QString &text) override { title = text; }
+    void setstatustext(const QString &) override {}
+    void showframe(unsigned wanted) override
+    {
+        state = wanted;
+        window.setVisible(wanted != WINDOW_HIDDEN);
+    }
+    bool isframevisible() const override { return window.isVisible(); }
+};
+
+/// A host with a schematic application, a project and a frame; installed while it lives.
+class ModuleHost final : public APPLNPROCESS, public IPROJECT
+{
+public:
+    ModuleHost() { setapplnprocess(this); }
+    ~ModuleHost() override { setapplnprocess(nullptr); }
+
+    mutable FakeDocument design;
+    ModuleServer server;
+    ModuleFrame frame;
+    bool hasServer = true;
+    bool hasProject = true;
+    QTemporaryDir data;
+    /// Run inside the question for the project.
+    std::function<void()> onProject;
+
+    APPLNDOCUMENT *currentdocument(int, const char *) const override { return &design; }
+    APPLNOBJECT *currentobject(const char *, int) override { return nullptr; }
+    QString getbinpath() const override { return QStringLiteral("/opt/host/bin"); }
+    QString getdatapath(const char *) const override { return data.path(); }
+    APPLNFRAME *getframe(APPLNMODULE *) override { return &frame; }
+    IMODULE *getmoduleinterface(const char *application, unsigned id) override
+    {
+        if (!application && id == INTERFACE_PROJECT) {
+            if (onProject) {
+                onProject();
+            }
+            return hasProject ? static_cast<IPROJECT *>(this) : nullptr;
+        }
+        if (QByteArrayView(application) == "ORIN" && id == INTERFACE_NETSERVER) {
+            return hasServer ? &server : nullptr;
+        }
+        APPLNMODULE *module = findmodule(application);
+        return module ? module->queryinterface(id) : nullptr;
+    }
+    IMODULE *queryinterface(unsigned) override { return nullptr; }
+    APPLNDOCUMENT *getprojectdocument() override { return &design; }
+};
