@@ -17,9 +17,8 @@ FileWatcher::FileWatcher(QObject *parent)
     m_settled.setSingleShot(true);
     m_settled.setInterval(settleMilliseconds);
     connect(&m_settled, &QTimer::timeout, this, &FileWatcher::settle);
-    const auto start = [this] { m_settled.start(); };
-    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, start);
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, start);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &FileWatcher::touchLater);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &FileWatcher::touchLater);
 }
 
 void FileWatcher::setFiles(const QStringList &files)

@@ -23,6 +23,9 @@ public:
     /// For how long nothing must have happened.
     void setDelay(int milliseconds) { m_settled.setInterval(milliseconds); }
 
+    /// Tells it once more, after the delay.
+    void touchLater() { m_settled.start(); }
+
 Q_SIGNALS:
     void touched();
 

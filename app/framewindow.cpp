@@ -6,6 +6,7 @@
 #include "app/programmenus.h"
 #include "app/statusnotes.h"
 #include "host/framework/applnwindow.h"
+#include "host/framework/hostsettings.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -22,6 +23,16 @@
 namespace {
 
 constexpr QSize firstSize(1200, 800);
+
+QString settingsGroup()
+{
+    return QStringLiteral("Viewer");
+}
+
+QString placeKey()
+{
+    return QStringLiteral("WindowGeometry");
+}
 
 /// The first dragged file that may be a design; empty when there is none.
 QString droppedDesign(const QMimeData &data)
@@ -40,13 +51,13 @@ FrameWindow::FrameWindow()
     : m_title(tr("Bill of Materials Viewer"))
 {
     setAcceptDrops(true);
-    resize(firstSize);
     m_menus = new ProgramMenus(this);
     m_notes = new StatusNotes(this);
     m_emptyPage = new EmptyPage(m_menus->openAction());
     m_pages = new QStackedWidget;
     m_pages->addWidget(m_emptyPage);
     setCentralWidget(m_pages);
+    restorePlace();
     updateTitle();
 }
 
@@ -181,4 +192,21 @@ void FrameWindow::dropEvent(QDropEvent *event)
 void FrameWindow::closeEvent(QCloseEvent *event)
 {
     event->setAccepted(!m_mayClose || m_mayClose());
+    if (event->isAccepted()) {
+        keepPlace();
+    }
+}
+
+void FrameWindow::restorePlace()
+{
+    const QString place = HostSettings::current().value(settingsGroup(), placeKey()).value_or(QString());
+    if (!restoreGeometry(QByteArray::fromBase64(place.toLatin1()))) {
+        resize(firstSize);
+    }
+}
+
+void FrameWindow::keepPlace() const
+{
+    HostSettings::current().setValue(settingsGroup(), placeKey(),
+                                     QString::fromLatin1(saveGeometry().toBase64()));
 }

@@ -59,6 +59,8 @@ protected:
 
 private:
     void updateTitle();
+    void restorePlace();
+    void keepPlace() const;
 
     ProgramMenus *m_menus = nullptr;
     StatusNotes *m_notes = nullptr;

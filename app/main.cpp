@@ -58,6 +58,8 @@ int main(int argc, char **argv)
             status = QApplication::exec();
         } else {
             QTextStream(stderr) << "bomviewer: " << workbench.error() << '\n';
+            ui.warning(nullptr, QCoreApplication::translate("Workbench", "The Program Is Not Complete"),
+                       workbench.error());
         }
     }
     HostSettings::install(nullptr);

@@ -14,7 +14,7 @@
 #include "standalone/loadeddesign.h"
 #include "standalone/partsledger.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
@@ -143,6 +143,11 @@ void Workbench::watchDesign()
 
 void Workbench::checkFiles()
 {
+    if (QApplication::activeModalWidget()) {
+        // A dialog works on the parts as they are.
+        m_watcher.touchLater();
+        return;
+    }
     if (m_session.design()) {
         const bool isOtherProject = m_project.hasChanged();
         // After a failure the design that is shown is an old one, whatever the files look like.
@@ -151,6 +156,9 @@ void Workbench::checkFiles()
             rereadDesign();
         } else if (m_board.hasChanged() && m_session.rereadBoard()) {
             m_library.module()->onvalidate();
+            updateNotes();
+        } else if (m_noted != m_session.design()->properties().stamp()) {
+            // The module wrote the files, and the session has read them since.
             updateNotes();
         }
     }
@@ -193,6 +201,7 @@ void Workbench::updateNotes()
     if (!m_session.design()) {
         return;
     }
+    m_noted = m_session.design()->properties().stamp();
     const PartsLedger ledger(*m_session.design());
     QStringList account = {tr("%1 of %2 components listed").arg(ledger.listed()).arg(ledger.components())};
     if (ledger.leftOutByChoice() > 0) {

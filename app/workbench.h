@@ -62,6 +62,8 @@ private:
     FileWatcher m_watcher;
     FileLook m_board;
     FileLook m_project;
+    /// The stamp of the reading that the notes are about.
+    quint64 m_noted = 0;
     /// As the user named it, absolute.
     QString m_path;
     QString m_variant;

@@ -8,6 +8,7 @@
 #include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
 
+#include <QCoreApplication>
 #include <QWidget>
 
 ModuleTemplates::ModuleTemplates(BOMPartsDatabase &database)
@@ -48,4 +49,9 @@ BOMTemplate ModuleTemplates::workingTemplate() const
 void ModuleTemplates::takeTemplate(const BOMTemplate &settings)
 {
     m_database.setCurrentTemplate(settings);
+    const QStringList &repairs = m_database.templateRepairs();
+    if (!repairs.isEmpty()) {
+        showTemplateMessage({QCoreApplication::translate("ModuleTemplates", "Incomplete BOM Template"),
+                             settings.filePath(), repairs.join(u'\n')});
+    }
 }

@@ -15,6 +15,7 @@
 #include "support/scriptedui.h"
 
 #include <QCoreApplication>
+#include <QDialog>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFile>
@@ -227,6 +228,21 @@ TEST_F(WorkbenchTest, WaitsForAHalfWrittenFile)
     EXPECT_TRUE(waitFor([&] { write(QStringLiteral("parts.csv"), "Reference,Value\nR1,56k\n"); },
                         [&] { return isReported("56k"); }));
     EXPECT_TRUE(notes().problem().isEmpty());
+}
+
+TEST_F(WorkbenchTest, LeavesThePartsAloneWhileADialogIsOpen)
+{
+    ASSERT_TRUE(bench->open(partList()));
+    const LoadedDesign *before = bench->session().design();
+    QDialog dialog(&bench->window());
+    dialog.open();
+    QSignalSpy touches(&bench->watcher(), &FileWatcher::touched);
+    write(QStringLiteral("parts.csv"), "Reference,Value\nR1,33k\n");
+    while (touches.size() < 3) {
+        ASSERT_TRUE(touches.wait(patience));
+    }
+    EXPECT_EQ(bench->session().design(), before);
+    EXPECT_TRUE(waitFor([&] { dialog.close(); }, [&] { return isReported("33k"); }));
 }
 
 TEST_F(WorkbenchTest, FollowsTheBoardBesideTheSchematic)

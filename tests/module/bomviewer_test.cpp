@@ -3,6 +3,7 @@
 #include "module/bomviewer.h"
 
 #include "core/bompartsdatabase.h"
+#include "host/framework/hostsettings.h"
 #include "host/richtext/textedit.h"
 #include "module/bommainwindow.h"
 #include "support/scriptedui.h"
@@ -306,6 +307,28 @@ TEST_F(BomViewer, WritesReportsAfterAskingAboutDuplicates)
     }
     EXPECT_EQ(ui.fileRequests.size(), 7);
     EXPECT_EQ(mainWindow()->findChildren<BOMExcelView *>().size(), 1);
+}
+
+TEST_F(BomViewer, StartsWithTheTemplateThatWasCurrentLast)
+{
+    MemoryHostSettings settings;
+    HostSettings::install(&settings);
+    settings.setValue(QStringLiteral("BOM"), QStringLiteral("CurrentTemplate"), QStringLiteral("House"));
+    module().onvalidate();
+    BOMTemplate house;
+    house.setName(QStringLiteral("House"));
+    BOMCategory category;
+    category.heading = QStringLiteral("Things That Resist");
+    category.references = QStringList{QStringLiteral("R")};
+    house.setCategories({category});
+    ASSERT_TRUE(house.save());
+
+    EXPECT_TRUE(report().contains(QStringLiteral("Things That Resist")));
+    // It lacks a place for C3, which is told and mended.
+    EXPECT_TRUE(report().contains(QStringLiteral("1u")));
+    ASSERT_EQ(ui.warnings.size(), 1);
+    EXPECT_TRUE(ui.warnings[0].text.contains(QStringLiteral("House.bomt")));
+    HostSettings::install(nullptr);
 }
 
 TEST_F(BomViewer, ReloadsByHandEvenWhenItWasSuspended)
