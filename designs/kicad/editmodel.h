@@ -8,6 +8,7 @@
 #include "designs/kicad/outermarks.h"
 #include "designs/kicad/textvariables.h"
 
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -39,6 +40,8 @@ public:
         /// The variant that was chosen for reading, and what texts call the variant.
         std::string variant;
         QString variantText;
+        /// The line of a component's symbol in its file, 0 when it cannot be told.
+        std::function<int(const Component &)> lineOf;
     };
 
     explicit EditModel(Source source);
@@ -50,6 +53,7 @@ public:
     [[nodiscard]] const OuterMarks &outerMarks() const { return m_outer; }
     [[nodiscard]] QString sheetName(quint32 use) const { return m_source.sheets[use].path; }
 
+    [[nodiscard]] int lineOf(std::size_t component) const { return m_source.lineOf(components()[component]); }
     /// The symbols that make up a component.
     [[nodiscard]] std::span<const SymbolUse> places(std::size_t component) const;
     [[nodiscard]] quint32 fileOf(const SymbolUse &place) const;

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/editplanner.h"
 
-#include "designs/notfitted.h"
-
 #include <QSet>
 
 #include <algorithm>
@@ -19,11 +17,6 @@ constexpr std::size_t namedReferences = 12;
 QString toText(std::string_view text)
 {
     return QString::fromUtf8(text.data(), qsizetype(text.size()));
-}
-
-bool knowsNotFitted(const SheetFile &sheet, const PlacedSymbol &symbol)
-{
-    return sheet.formatVersion >= version::notFittedFlag || symbol.dnp;
 }
 
 /// The names between the braces of the variables in a text, without a reference before a colon.
@@ -75,15 +68,14 @@ QString EditPlanner::referenceOf(std::size_t component) const
 void EditPlanner::refuse(std::size_t edit, const QString &why)
 {
     const ResolvedEdit &asked = m_edits.at(edit);
-    QString file;
-    QString who;
-    if (asked.component < m_model.components().size()) {
-        file = m_model.sheetOf(m_model.places(asked.component).front()).path;
-        who = referenceOf(asked.component) + u' ' + toText(asked.name) + QStringLiteral(": ");
-    } else {
-        file = m_model.hierarchy().files().front().path;
+    if (asked.component >= m_model.components().size()) {
+        m_plan.problems.push_back({edit, {m_model.hierarchy().files().front().path, 0, why}});
+        return;
     }
-    m_plan.problems.push_back({edit, {file, 0, who + why}});
+    m_plan.problems.push_back(
+        {edit,
+         {m_model.sheetOf(m_model.places(asked.component).front()).path, m_model.lineOf(asked.component),
+          referenceOf(asked.component) + u' ' + toText(asked.name) + QStringLiteral(": ") + why}});
 }
 
 /// Of several edits of one property of one component the last counts.
@@ -174,130 +166,6 @@ void EditPlanner::refuseConflicts()
                            group.references + (more ? QStringLiteral(" and %1 more").arg(more) : QString()));
                 break;
             }
-        }
-    }
-}
-
-SymbolChange &EditPlanner::changeOf(const SymbolUse &place)
-{
-    return m_changes[m_model.fileOf(place)].symbols[place.symbol];
-}
-
-VariantChange &EditPlanner::variantChangeOf(const SymbolUse &place)
-{
-    return changeOf(place).variants[m_model.pathOf(place)];
-}
-
-std::vector<std::size_t> EditPlanner::alsoChanges(const ResolvedEdit &edit) const
-{
-    std::vector<std::size_t> others;
-    if (!m_model.variant().empty()) {
-        return others;
-    }
-    for (const SymbolUse &place : m_model.places(edit.component)) {
-        const auto sharers = m_model.sharers(place);
-        std::copy_if(sharers.begin(), sharers.end(), std::back_inserter(others),
-                     [&edit](quint32 other) { return other != edit.component; });
-    }
-    std::sort(others.begin(), others.end());
-    others.erase(std::unique(others.begin(), others.end()), others.end());
-    return others;
-}
-
-void EditPlanner::apply(std::size_t number)
-{
-    const ResolvedEdit &edit = m_edits.at(number);
-    const auto places = m_model.places(edit.component);
-    for (const SymbolUse &place : places) {
-        if (edit.target == EditTarget::NotFitted) {
-            applyNotFitted(edit.wanted.has_value(), place, edit.component);
-        } else if (edit.target == EditTarget::NotInBom) {
-            applyNotInBom(edit.wanted.has_value(), place);
-        } else {
-            applyProperty(edit, place);
-        }
-    }
-    changeOf(places.front()).effects.push_back(m_plan.effects.size());
-    m_plan.effects.push_back({number, edit.name, edit.before, edit.wanted,
-                              m_model.sheetOf(places.front()).path, 0, alsoChanges(edit)});
-}
-
-void EditPlanner::applyProperty(const ResolvedEdit &edit, const SymbolUse &place)
-{
-    const auto own = m_model.nameIn(place, edit.name);
-    const bool isVariant = !m_model.variant().empty();
-    if (own || (edit.wanted && !isVariant)) {
-        setText(place, own.value_or(edit.name), edit.wanted ? std::optional(edit.written) : std::nullopt);
-    }
-}
-
-void EditPlanner::setText(const SymbolUse &place, std::string_view name,
-                          const std::optional<std::string> &text)
-{
-    if (!m_model.variant().empty()) {
-        setChange(&variantChangeOf(place).fields, name, text);
-        return;
-    }
-    setChange(&changeOf(place).properties, name, text);
-    if (text && (name == "Value" || name == "Footprint")) {
-        setRows(place, name, *text);
-    }
-}
-
-/// Version 6 repeats value and footprint for every use; a text there counts before the symbol's.
-void EditPlanner::setRows(const SymbolUse &place, std::string_view name, const std::string &text)
-{
-    for (const TableRow &row : m_model.rowsOf(m_model.fileOf(place), m_model.symbolOf(place))) {
-        const TableInstance &old = m_model.hierarchy().files()[row.file].instanceTable[row.entry];
-        if (name == "Value" && !old.value.empty()) {
-            m_changes[row.file].rows[row.entry].value = text;
-        } else if (name == "Footprint" && !old.footprint.empty()) {
-            m_changes[row.file].rows[row.entry].footprint = text;
-        }
-    }
-}
-
-/// The flag, and properties of that name so that they do not say otherwise.
-void EditPlanner::applyNotFitted(bool wanted, const SymbolUse &place, std::size_t component)
-{
-    const PlacedSymbol &symbol = m_model.symbolOf(place);
-    const bool hasFlag = knowsNotFitted(m_model.sheetOf(place), symbol);
-    if (!m_model.variant().empty()) {
-        variantChangeOf(place).dnp = wanted;
-    } else if (hasFlag && symbol.dnp != wanted) {
-        changeOf(place).dnp = wanted;
-    }
-    const auto ids = m_model.names().candidates("DNP");
-    bool hasProperty = false;
-    for (const NameId id : ids) {
-        const std::string_view name = m_model.names().name(id);
-        const auto text = m_model.usedText(place, name);
-        hasProperty |= text.has_value();
-        if (!text || saysNotFitted(m_model.resolved(component, *text)) == wanted) {
-            continue;
-        }
-        if (wanted) {
-            setText(place, name, "1");
-        } else {
-            setText(place, name, hasFlag ? std::optional(std::string()) : std::nullopt);
-        }
-    }
-    if (wanted && !hasFlag && !hasProperty) {
-        setText(place, ids.empty() ? std::string_view("DNP") : m_model.names().name(ids.front()), "1");
-    }
-}
-
-void EditPlanner::applyNotInBom(bool wanted, const SymbolUse &place)
-{
-    if (!m_model.variant().empty()) {
-        variantChangeOf(place).inBom = !wanted;
-    } else if (m_model.symbolOf(place).inBom == wanted) {
-        changeOf(place).inBom = !wanted;
-    }
-    for (const NameId id : m_model.names().candidates("BOMSKIP")) {
-        const std::string_view name = m_model.names().name(id);
-        if (!wanted && m_model.usedText(place, name)) {
-            setText(place, name, std::nullopt);
         }
     }
 }

@@ -9,9 +9,9 @@ namespace designs::kicad {
 const EditModel &KicadDesign::editModel() const
 {
     if (!m_editModel) {
-        m_editModel =
-            std::make_unique<EditModel>(EditModel::Source{*m_hierarchy, m_project, m_components, m_symbolUses,
-                                                          m_names, m_sheets, m_variant, m_info.variant});
+        m_editModel = std::make_unique<EditModel>(EditModel::Source{
+            *m_hierarchy, m_project, m_components, m_symbolUses, m_names, m_sheets, m_variant, m_info.variant,
+            [this](const Component &component) { return lineOf(component); }});
     }
     return *m_editModel;
 }

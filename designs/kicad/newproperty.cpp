@@ -95,17 +95,23 @@ private:
 
     void adapt(const SexprNode &list, int id)
     {
-        static constexpr std::array<std::string_view, 3> kept{"hide", "show_name", "do_not_autoplace"};
         if (list.keyword == "at") {
             place(list);
         } else if (list.keyword == "id" && !list.atoms.empty()) {
             m_splices.push_back({list.atoms.front().begin, list.atoms.front().end, std::to_string(id)});
         } else if (list.keyword == "effects") {
             adaptEffects(list);
-        } else if (!isOneOf(list.keyword, kept) ||
-                   (list.keyword == "hide" && !isHidden(m_bytes, m_sibling))) {
+        } else if (!isKept(list)) {
             drop(list);
         }
+    }
+
+    /// Marks of the sibling that a new property may have too.
+    bool isKept(const SexprNode &list) const
+    {
+        const bool isMark = list.keyword == "show_name" || list.keyword == "do_not_autoplace";
+        return isMark ? firstText(m_bytes, list) == "no"
+                      : list.keyword == "hide" && isHidden(m_bytes, m_sibling);
     }
 
     void adaptEffects(const SexprNode &effects)
