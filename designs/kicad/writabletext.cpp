@@ -12,7 +12,7 @@ namespace designs::kicad {
 
 namespace {
 
-/// What KiCad fills in that a bill of materials has no use for.
+/// An empty name is filled in with nothing. What KiCad fills in that a bill of materials has no use for.
 bool isOnlyKnownToKiCad(const QString &name)
 {
     static constexpr std::array<QLatin1String, 6> known{QLatin1String("OP"),
@@ -21,18 +21,22 @@ bool isOnlyKnownToKiCad(const QString &name)
                                                         QLatin1String("INTERSHEETREFS"),
                                                         QLatin1String("EXCLUDE_FROM_BOARD"),
                                                         QLatin1String("SYMBOL_DESCRIPTION")};
-    return name.contains(u'(') || std::any_of(known.begin(), known.end(), [&name](QLatin1String each) {
-               return name.compare(each, Qt::CaseInsensitive) == 0;
-           });
+    return name.isEmpty() || name.contains(u'(') ||
+           std::any_of(known.begin(), known.end(),
+                       [&name](QLatin1String each) { return name.compare(each, Qt::CaseInsensitive) == 0; });
 }
 
-/// Whether KiCad would see a variable that the reader leaves as it stands.
+/// Whether KiCad would see a variable that the reader leaves as it stands, or, from version 10 on, an escape
+/// for one in a file of an older version.
 bool holdsStrangeVariable(std::string_view text)
 {
+    constexpr std::size_t longestName = 200;
     for (std::size_t at = text.find("${"); at != std::string_view::npos; at = text.find("${", at + 2)) {
-        const std::size_t end = text.find('}', at);
-        const std::string_view name = text.substr(at + 2, end - at - 2);
-        if (end == std::string_view::npos ||
+        const std::string_view rest = text.substr(at + 2, longestName);
+        const std::size_t end = rest.find('}');
+        const std::string_view name = rest.substr(0, end);
+        const bool isEscape = at > 0 && text[at - 1] == '\\';
+        if (end == std::string_view::npos || isEscape ||
             isOnlyKnownToKiCad(QString::fromUtf8(name.data(), qsizetype(name.size())))) {
             return true;
         }
