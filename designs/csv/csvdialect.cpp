@@ -3,6 +3,7 @@
 #include "designs/csv/csvdialect.h"
 
 #include <QByteArrayView>
+#include <QList>
 
 #include <algorithm>
 #include <array>
@@ -48,6 +49,23 @@ int firstBrokenLine(std::string_view bytes)
         begin = end + 1;
     }
     return lineOf(bytes, begin);
+}
+
+/// What the bytes from 0x80 to 0x9F mean in Windows-1252.
+constexpr std::array<char16_t, 32> upperControls = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+/// The byte for a character; zero when there is none.
+char windows1252Byte(char32_t character)
+{
+    const auto *at = std::find(upperControls.begin(), upperControls.end(), character);
+    if (at != upperControls.end()) {
+        return char(0x80 + (at - upperControls.begin()));
+    }
+    const bool same = character < 0x80 || (character >= 0xA0 && character <= 0xFF);
+    return same ? char(character) : '\0';
 }
 
 struct Signature
@@ -243,15 +261,11 @@ std::optional<CsvDialect> recogniseDialect(std::string_view bytes, Problem *erro
 
 std::string utf8FromWindows1252(std::string_view text)
 {
-    static constexpr std::array<char16_t, 32> high = {
-        0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-        0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-        0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
     std::string result;
     result.reserve(text.size() + text.size() / 4);
     for (const char c : text) {
         const auto byte = static_cast<unsigned char>(c);
-        const char16_t code = byte >= 0x80 && byte < 0xA0 ? high[byte - 0x80] : char16_t(byte);
+        const char16_t code = byte >= 0x80 && byte < 0xA0 ? upperControls[byte - 0x80] : char16_t(byte);
         if (code < 0x80) {
             result += c;
         } else if (code < 0x800) {
@@ -262,6 +276,20 @@ std::string utf8FromWindows1252(std::string_view text)
             result += char(0x80 | ((code >> 6) & 0x3F));
             result += char(0x80 | (code & 0x3F));
         }
+    }
+    return result;
+}
+
+std::optional<std::string> windows1252FromUtf8(std::string_view text)
+{
+    std::string result;
+    const QList<uint> characters = QString::fromUtf8(text.data(), qsizetype(text.size())).toUcs4();
+    for (const uint character : characters) {
+        const char byte = windows1252Byte(char32_t(character));
+        if (byte == '\0') {
+            return std::nullopt;
+        }
+        result += byte;
     }
     return result;
 }

@@ -37,6 +37,11 @@ struct CsvDialect
     bool quotesAll = false;
 
     bool operator==(const CsvDialect &) const = default;
+
+    [[nodiscard]] std::string_view lineEndText() const
+    {
+        return lineEnd == LineEnd::Lf ? "\n" : lineEnd == LineEnd::Cr ? "\r" : "\r\n";
+    }
 };
 
 /// The UTF-8 byte-order mark.
@@ -51,5 +56,8 @@ inline constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
 
 /// The UTF-8 form of a text in Windows-1252.
 [[nodiscard]] std::string utf8FromWindows1252(std::string_view text);
+
+/// The reverse; nothing for a text with characters that Windows-1252 lacks.
+[[nodiscard]] std::optional<std::string> windows1252FromUtf8(std::string_view text);
 
 } // namespace designs

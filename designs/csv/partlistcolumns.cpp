@@ -4,6 +4,7 @@
 
 #include "designs/csv/messagetext.h"
 
+#include <QByteArrayView>
 #include <QStringList>
 
 #include <algorithm>
@@ -292,6 +293,23 @@ std::optional<PartListColumns> findPartListColumns(const CsvFile &file, Problem 
                                                    std::vector<Problem> *warnings)
 {
     return Finder(file, error, warnings).run();
+}
+
+bool isRoleHeading(std::string_view heading)
+{
+    const auto has = [form = compact(heading)](std::span<const std::string_view> known) {
+        return std::ranges::find(known, form) != known.end();
+    };
+    return has(referenceHeadings) || has(valueHeadings) || has(footprintHeadings) || has(quantityHeadings);
+}
+
+bool isMarkerHeading(std::string_view heading)
+{
+    const auto is = [](std::string_view text, std::string_view known) {
+        return QByteArrayView(text.data(), qsizetype(text.size()))
+                   .compare(QByteArrayView(known.data(), qsizetype(known.size())), Qt::CaseInsensitive) == 0;
+    };
+    return is(heading, "BOMSKIP") || is(heading, "BOMLINKS") || is(heading.substr(0, 7), "BOMPART");
 }
 
 } // namespace designs

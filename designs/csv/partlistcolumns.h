@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace designs {
@@ -35,6 +36,13 @@ struct PartListColumns
         return !names[column].empty() && column != reference && column != value && column != quantity;
     }
 };
+
+/// Whether a column with that heading would be taken for the references, value, footprint or quantity.
+[[nodiscard]] bool isRoleHeading(std::string_view heading);
+
+/// Whether a column with that heading (BOMSKIP, BOMLINKS, BOMPART...) marks the parts in it by having
+/// contents: an empty cell is no property then.
+[[nodiscard]] bool isMarkerHeading(std::string_view heading);
 
 /// Finds the columns. Nothing, with the reason in `error` (the file is left to the caller), when no row has a
 /// heading for the references, or one heading stands twice for the references, value, footprint or quantity.

@@ -49,13 +49,6 @@ QString counted(std::size_t references)
     return references == 1 ? QStringLiteral("1 reference") : QStringLiteral("%1 references").arg(references);
 }
 
-/// Whether the column marks the parts in it by having contents: an empty cell is no property then.
-bool isMarkerHeading(std::string_view heading)
-{
-    return equalIgnoringCase(heading, "BOMSKIP") || equalIgnoringCase(heading, "BOMLINKS") ||
-           equalIgnoringCase(heading.substr(0, 7), "BOMPART");
-}
-
 /// The number of a quantity cell; "3.0" and "3,00" are 3.
 std::optional<quint64> quantityOf(std::string_view text)
 {
@@ -347,7 +340,17 @@ ReadResult readPartList(const QString &path, const ReadOptions &options, const C
     }
     Problem error;
     std::optional<QByteArray> bytes = CsvFile::load(absolutePath, &error, limits);
-    std::optional<CsvFile> file = bytes ? CsvFile::parse(std::move(*bytes), &error, limits) : std::nullopt;
+    if (!bytes) {
+        error.file = absolutePath;
+        return {nullptr, error};
+    }
+    return readPartListBytes(absolutePath, std::move(*bytes), limits);
+}
+
+ReadResult readPartListBytes(const QString &absolutePath, QByteArray bytes, const CsvLimits &limits)
+{
+    Problem error;
+    std::optional<CsvFile> file = CsvFile::parse(std::move(bytes), &error, limits);
     if (!file) {
         error.file = absolutePath;
         return {nullptr, error};

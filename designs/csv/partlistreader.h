@@ -25,4 +25,8 @@ namespace designs {
 [[nodiscard]] ReadResult readPartList(const QString &path, const ReadOptions &options = {},
                                       const CsvLimits &limits = {});
 
+/// Reads what a part list would hold.
+[[nodiscard]] ReadResult readPartListBytes(const QString &absolutePath, QByteArray bytes,
+                                           const CsvLimits &limits = {});
+
 } // namespace designs

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "designs/csv/partlist.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace designs {
+
+/// What one cell of one component is to say.
+struct PlannedCell
+{
+    std::size_t component = 0;
+    /// Counted on behind those of the list for new columns.
+    std::size_t column = 0;
+    std::string text;
+};
+
+/// Reads a changed part list and compares: the components are those of the list in the given order, with the
+/// same texts but for the planned ones, which are sorted by component and column. Empty texts count as none.
+/// Gives the first difference.
+[[nodiscard]] std::optional<Problem> checkPartList(const PartList &list,
+                                                   const std::vector<std::string> &newColumns,
+                                                   const std::vector<std::size_t> &order,
+                                                   const std::vector<PlannedCell> &planned,
+                                                   const QByteArray &changed);
+
+} // namespace designs
