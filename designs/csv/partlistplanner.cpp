@@ -75,6 +75,7 @@ void PartListPlanner::collect(std::span<const Edit> edits)
         }
     }
     m_changes = std::move(kept);
+    dropUnusedColumns();
     for (const Change &change : m_changes) {
         addEffect(change, edits[change.edit]);
     }
@@ -86,14 +87,41 @@ std::optional<std::size_t> PartListPlanner::columnFor(const Edit &edit)
     if (const auto column = m_list.columnOf(edit.name)) {
         return column;
     }
-    if (edit.value.value_or("").empty()) {
+    const std::string key = folded(edit.name);
+    if (edit.value.value_or("").empty() && !m_newColumnIndices.contains(key)) {
         return std::nullopt;
     }
-    const auto [found, isNew] = m_newColumnIndices.try_emplace(folded(edit.name), allColumns());
+    const auto [found, isNew] = m_newColumnIndices.try_emplace(key, allColumns());
     if (isNew) {
         m_newColumns.push_back(edit.name);
     }
     return found->second;
+}
+
+/// A later edit may have taken back all that a new column was for.
+void PartListPlanner::dropUnusedColumns()
+{
+    const std::size_t old = m_list.columns().names.size();
+    std::vector<bool> used(m_newColumns.size(), false);
+    for (const Change &change : m_changes) {
+        if (change.cell.column >= old) {
+            used[change.cell.column - old] = true;
+        }
+    }
+    std::vector<std::size_t> moved;
+    std::vector<std::string> names;
+    for (std::size_t column = 0; column < used.size(); ++column) {
+        moved.push_back(old + names.size());
+        if (used[column]) {
+            names.push_back(m_newColumns[column]);
+        }
+    }
+    for (Change &change : m_changes) {
+        if (change.cell.column >= old) {
+            change.cell.column = moved[change.cell.column - old];
+        }
+    }
+    m_newColumns = std::move(names);
 }
 
 std::string PartListPlanner::textBefore(std::size_t component, std::size_t column) const

@@ -43,6 +43,7 @@ private:
 
     void collect(std::span<const Edit> edits);
     [[nodiscard]] std::optional<std::size_t> columnFor(const Edit &edit);
+    void dropUnusedColumns();
     [[nodiscard]] std::string textBefore(std::size_t component, std::size_t column) const;
     void addEffect(const Change &change, const Edit &edit);
 

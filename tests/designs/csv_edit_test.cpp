@@ -105,6 +105,7 @@ TEST_F(CsvEditTest, AddsAColumnForANewName)
     EXPECT_EQ(edited("\"Ref\",\"Value\"\n\"R1\",\"1\"\n\"R2\",\"1\"", {{"R2", "A,B", "x"}}),
               "\"Ref\",\"Value\",\"A,B\"\n\"R1\",\"1\",\"\"\n\"R2\",\"1\",\"x\"");
     EXPECT_EQ(edited("Ref\nR1\n\nR2", {{"R2", "A", "x"}}), "Ref,A\nR1,\n\nR2,x");
+    EXPECT_EQ(edited("Ref\nR1\n", {{"R1", "A", "x"}, {"R1", "B", "y"}, {"R1", "A", {}}}), "Ref,B\nR1,y\n");
     EXPECT_EQ(edited("Ref\nR1\n", {{"R1", "A", ""}, {"R1", "B", {}}}), "unchanged");
 }
 
