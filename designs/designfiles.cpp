@@ -7,8 +7,6 @@
 #include "designs/files/undorecord.h"
 #include "designs/files/writecheck.h"
 
-#include <QFile>
-
 namespace designs {
 
 namespace {
@@ -40,27 +38,16 @@ bool replaceFiles(FileWork &work, const DesignPaths &paths, std::span<const File
     return true;
 }
 
-std::optional<QByteArray> backupContent(const QString &path, const FileFingerprint &expected)
-{
-    QFile file(path);
-    if (fingerprintOfFile(path) != expected || !file.open(QIODevice::ReadOnly)) {
-        return std::nullopt;
-    }
-    QByteArray bytes = file.readAll();
-    const bool same = fingerprintOf({bytes.constData(), std::size_t(bytes.size())}) == expected;
-    return same ? std::optional(std::move(bytes)) : std::nullopt;
-}
-
 /// What gives the files their previous content again; empty, with problems, when it cannot be done.
 std::vector<FileEdit> editsBack(FileWork &work, const DesignPaths &paths, const UndoRecord &record)
 {
     std::vector<FileEdit> edits;
     for (const FileChange &change : record.files) {
         const QString backup = paths.backupOf(change.target);
-        if (fingerprintOfFile(change.target) != change.after) {
+        if (fingerprintOfPlainFile(change.target) != change.after) {
             work.fail(change.target,
                       QStringLiteral("was changed since it was written: nothing is taken back"));
-        } else if (auto content = backupContent(backup, change.before)) {
+        } else if (auto content = contentOfPlainFile(backup, change.before)) {
             edits.push_back({change.target, change.after, std::move(*content)});
         } else {
             work.fail(backup, QStringLiteral("is missing or damaged: nothing is taken back"));

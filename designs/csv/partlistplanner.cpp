@@ -224,41 +224,47 @@ std::vector<PartListPlanner::Group> PartListPlanner::groupsOf(std::size_t row)
 
 void PartListPlanner::writeGroups(std::string *out, std::size_t row, std::vector<Group> groups)
 {
-    const PartListColumns &columns = m_list.columns();
     const CsvRow &record = m_file.rows()[row];
-    const std::span<const CsvCell> cells = m_file.cells(record);
-    const std::string_view referenceCell = m_file.text(cells[columns.reference], m_arena);
-    std::size_t all = 0;
-    for (const Group &group : groups) {
-        all += group.references.size();
+    if (groups.size() > 1 && !nameReferences(record, &groups)) {
+        return;
     }
-    const bool counts =
-        columns.quantity && *columns.quantity < cells.size() && !m_file.isBlank(cells[*columns.quantity]);
+    const std::string_view end = lineEnd(row).empty() ? m_list.dialect().lineEndText() : lineEnd(row);
     for (std::size_t group = 0; group < groups.size(); ++group) {
-        std::vector<CellText> &changed = groups[group].cells;
-        if (groups.size() > 1) {
-            const auto text = referenceText(groups[group].references, referenceCell, all);
-            if (!text) {
-                m_plan.problems.push_back(
-                    {std::nullopt,
-                     {m_list.info().file, int(record.line),
-                      QStringLiteral("the references ") + inMessage(referenceCell) +
-                          QStringLiteral(" cannot be parted into rows of their own: write each with its "
-                                         "letters")}});
-                return;
-            }
-            changed.push_back({columns.reference, *text});
-            if (counts) {
-                changed.push_back({*columns.quantity, std::to_string(groups[group].references.size())});
-            }
-            std::ranges::sort(changed, {}, &CellText::column);
-        }
-        if (group > 0) {
-            *out += lineEnd(row).empty() ? m_list.dialect().lineEndText() : lineEnd(row);
-        }
-        CsvWriter(m_file).appendRow(out, record, changed, leastCells(record));
+        *out += group > 0 ? end : std::string_view();
+        CsvWriter(m_file).appendRow(out, record, groups[group].cells, leastCells(record));
         m_order.insert(m_order.end(), groups[group].components.begin(), groups[group].components.end());
     }
+}
+
+/// Gives each group of a row cells with its own references and, where the row tells one, its quantity.
+bool PartListPlanner::nameReferences(const CsvRow &record, std::vector<Group> *groups)
+{
+    const PartListColumns &columns = m_list.columns();
+    const std::span<const CsvCell> cells = m_file.cells(record);
+    const std::string_view cell = m_file.text(cells[columns.reference], m_arena);
+    const bool counts =
+        columns.quantity && *columns.quantity < cells.size() && !m_file.isBlank(cells[*columns.quantity]);
+    std::size_t all = 0;
+    for (const Group &group : *groups) {
+        all += group.references.size();
+    }
+    for (Group &group : *groups) {
+        const auto text = referenceText(group.references, cell, all);
+        if (!text) {
+            const QString why =
+                QStringLiteral("the references ") + inMessage(cell) +
+                QStringLiteral(" cannot be parted into rows of their own: write each with its "
+                               "letters");
+            m_plan.problems.push_back({std::nullopt, {m_list.info().file, int(record.line), why}});
+            return false;
+        }
+        group.cells.push_back({columns.reference, *text});
+        if (counts) {
+            group.cells.push_back({*columns.quantity, std::to_string(group.references.size())});
+        }
+        std::ranges::sort(group.cells, {}, &CellText::column);
+    }
+    return true;
 }
 
 /// A row that had a cell for each heading gets one for each new heading. Others have been short before.

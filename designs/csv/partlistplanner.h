@@ -52,6 +52,7 @@ private:
     void writeRow(std::string *out, std::size_t row);
     [[nodiscard]] std::vector<Group> groupsOf(std::size_t row);
     void writeGroups(std::string *out, std::size_t row, std::vector<Group> groups);
+    [[nodiscard]] bool nameReferences(const CsvRow &record, std::vector<Group> *groups);
     [[nodiscard]] std::size_t leastCells(const CsvRow &row) const;
     [[nodiscard]] std::string_view lineEnd(std::size_t row) const;
 

@@ -12,6 +12,12 @@ namespace {
 
 constexpr qint64 longestRecord = qint64(8) * 1024 * 1024;
 
+/// Opening a pipe would wait for its other end.
+bool isPlainFile(const QString &path)
+{
+    return QFileInfo(path).isFile() && !QFileInfo(path).isSymLink();
+}
+
 } // namespace
 
 QJsonArray toJson(const std::vector<FileChange> &changes, const DesignPaths &paths)
@@ -41,10 +47,27 @@ std::optional<std::vector<FileChange>> changesFrom(const QJsonArray &array, cons
     return changes.empty() ? std::nullopt : std::optional(std::move(changes));
 }
 
+std::optional<FileFingerprint> fingerprintOfPlainFile(const QString &path)
+{
+    return isPlainFile(path) ? fingerprintOfFile(path) : std::nullopt;
+}
+
+std::optional<QByteArray> contentOfPlainFile(const QString &path, const FileFingerprint &expected)
+{
+    QFile file(path);
+    // The size first: what is not the expected file may be of any.
+    if (!isPlainFile(path) || quint64(file.size()) != expected.size || !file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    QByteArray bytes = file.readAll();
+    const bool same = fingerprintOf({bytes.constData(), std::size_t(bytes.size())}) == expected;
+    return same ? std::optional(std::move(bytes)) : std::nullopt;
+}
+
 std::optional<QJsonObject> readRecord(const QString &path, QString *why)
 {
     QFile file(path);
-    if (!QFileInfo(path).isFile() || QFileInfo(path).isSymLink()) {
+    if (!isPlainFile(path)) {
         *why = QStringLiteral("it is no ordinary file");
         return std::nullopt;
     }

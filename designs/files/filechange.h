@@ -28,6 +28,13 @@ struct FileChange
 [[nodiscard]] std::optional<std::vector<FileChange>> changesFrom(const QJsonArray &array,
                                                                  const DesignPaths &paths);
 
+/// Of a file that is no link, pipe or folder; nothing for those and what cannot be read.
+[[nodiscard]] std::optional<FileFingerprint> fingerprintOfPlainFile(const QString &path);
+
+/// The content of such a file, if it is the expected one.
+[[nodiscard]] std::optional<QByteArray> contentOfPlainFile(const QString &path,
+                                                           const FileFingerprint &expected);
+
 /// A journal or record; nothing, with the reason in `why`, when it is no file, cannot be read or is far too
 /// large.
 [[nodiscard]] std::optional<QJsonObject> readRecord(const QString &path, QString *why);

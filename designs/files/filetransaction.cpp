@@ -4,7 +4,6 @@
 
 #include "designs/files/undorecord.h"
 
-#include <QFile>
 #include <QRandomGenerator>
 
 namespace designs {
@@ -14,17 +13,6 @@ namespace {
 QString newToken()
 {
     return QStringLiteral("%1").arg(QRandomGenerator::system()->generate64(), 16, 16, QLatin1Char('0'));
-}
-
-std::optional<QByteArray> contentOf(const QString &path, const FileFingerprint &expected)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return std::nullopt;
-    }
-    QByteArray bytes = file.readAll();
-    const bool same = fingerprintOf({bytes.constData(), std::size_t(bytes.size())}) == expected;
-    return same ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 } // namespace
@@ -73,7 +61,7 @@ bool FileTransaction::prepare(const std::vector<Replacement> &files, bool keepsB
 
 bool FileTransaction::prepareFile(const Replacement &file, const JournalEntry &entry)
 {
-    const std::optional<QByteArray> previous = contentOf(entry.target, entry.before);
+    const std::optional<QByteArray> previous = contentOfPlainFile(entry.target, entry.before);
     if (!previous) {
         return m_work.fail(entry.target, QStringLiteral("was changed since it was read"));
     }
@@ -132,7 +120,7 @@ bool FileTransaction::place()
 
 bool FileTransaction::placeFile(const JournalEntry &entry)
 {
-    const auto now = fingerprintOfFile(entry.target);
+    const auto now = fingerprintOfPlainFile(entry.target);
     if (now != entry.before && now != entry.after) {
         return m_work.fail(entry.target, QStringLiteral("was changed since it was read"));
     }
@@ -187,10 +175,10 @@ bool FileTransaction::takeBack()
 
 bool FileTransaction::restore(const JournalEntry &entry)
 {
-    if (entry.before == entry.after || fingerprintOfFile(entry.target) != entry.after) {
+    if (entry.before == entry.after || fingerprintOfPlainFile(entry.target) != entry.after) {
         return true;
     }
-    const std::optional<QByteArray> previous = contentOf(entry.saved, entry.before);
+    const std::optional<QByteArray> previous = contentOfPlainFile(entry.saved, entry.before);
     if (!previous) {
         return m_work.fail(entry.target, QStringLiteral("cannot get its previous content again: it does not "
                                                         "stand any more in ") +

@@ -63,7 +63,7 @@ bool Recovery::resolve(FileTransaction &transaction)
 bool Recovery::complete(FileTransaction &transaction)
 {
     for (const JournalEntry &entry : transaction.journal().entries) {
-        if (transaction.isPlaced(entry) && fingerprintOfFile(entry.target) != entry.after) {
+        if (transaction.isPlaced(entry) && fingerprintOfPlainFile(entry.target) != entry.after) {
             tell(entry.target,
                  QStringLiteral("was changed after an interrupted write had replaced it: it was "
                                 "left as it is now"));
@@ -79,7 +79,7 @@ bool Recovery::complete(FileTransaction &transaction)
 bool Recovery::takeBack(FileTransaction &transaction)
 {
     for (const JournalEntry &entry : transaction.journal().entries) {
-        const auto now = fingerprintOfFile(entry.target);
+        const auto now = fingerprintOfPlainFile(entry.target);
         if (now != entry.after && now != entry.before) {
             tell(entry.target, QStringLiteral("was changed while a write was interrupted: it was left as it "
                                               "is now"));
@@ -98,7 +98,7 @@ bool Recovery::takeBack(FileTransaction &transaction)
 bool Recovery::giveUp(FileTransaction &transaction)
 {
     for (const JournalEntry &entry : transaction.journal().entries) {
-        const auto now = fingerprintOfFile(entry.target);
+        const auto now = fingerprintOfPlainFile(entry.target);
         const QString holds = now == entry.after    ? QStringLiteral("holds the new content")
                               : now == entry.before ? QStringLiteral("holds the previous content")
                                                     : QStringLiteral("was changed meanwhile");
@@ -141,20 +141,21 @@ Recovery::Way Recovery::wayFor(FileTransaction &transaction)
 
 bool Recovery::canComplete(FileTransaction &transaction, const JournalEntry &entry)
 {
-    const auto now = fingerprintOfFile(entry.target);
+    const auto now = fingerprintOfPlainFile(entry.target);
     if (transaction.isPlaced(entry)) {
         return now == entry.after || now != entry.before;
     }
-    return (now == entry.before || now == entry.after) && fingerprintOfFile(entry.prepared) == entry.after;
+    return (now == entry.before || now == entry.after) &&
+           fingerprintOfPlainFile(entry.prepared) == entry.after;
 }
 
 bool Recovery::canTakeBack(FileTransaction &transaction, const JournalEntry &entry)
 {
-    const auto now = fingerprintOfFile(entry.target);
+    const auto now = fingerprintOfPlainFile(entry.target);
     if (!transaction.isPlaced(entry) || now == entry.before) {
         return true;
     }
-    return now == entry.after && fingerprintOfFile(entry.saved) == entry.before;
+    return now == entry.after && fingerprintOfPlainFile(entry.saved) == entry.before;
 }
 
 } // namespace designs

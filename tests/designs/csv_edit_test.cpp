@@ -255,6 +255,39 @@ std::map<std::string, PartTexts> textsOf(const Design &design)
     return all;
 }
 
+/// The records, each with its line end.
+std::vector<std::string> recordsOf(const std::string &text)
+{
+    Problem problem;
+    const auto file = CsvFile::parse(QByteArray::fromStdString(text), &problem);
+    std::vector<std::string> records;
+    for (std::size_t row = 0; file && row < file->rows().size(); ++row) {
+        const bool isLast = row + 1 == file->rows().size();
+        const std::size_t end = isLast ? text.size() : file->rows()[row + 1].begin;
+        records.push_back(text.substr(file->rows()[row].begin, end - file->rows()[row].begin));
+    }
+    return records;
+}
+
+/// Whether all records but those of the effects stand in the new text as they were.
+void expectOthersUntouched(const std::string &before, const Design &design, const EditPlan &plan)
+{
+    const std::vector<std::string> records = recordsOf(before);
+    std::vector<bool> touched(records.size(), false);
+    for (const EditEffect &effect : plan.effects) {
+        const auto at = std::ranges::find(design.components(), quint32(effect.line), &Component::line);
+        touched[at->origin] = true;
+    }
+    const std::vector<std::string> after = recordsOf(plan.files.front().after.toStdString());
+    auto next = after.begin();
+    for (std::size_t row = 0; row < touched.size(); ++row) {
+        if (!touched[row]) {
+            next = std::find(next, after.end(), records[row]);
+            ASSERT_NE(next++, after.end()) << records[row];
+        }
+    }
+}
+
 TEST_F(CsvEditTest, ReadingAgainGivesWhatWasAsked)
 {
     static const std::vector<std::string> names = {"Value", "Footprint", "MPN",
@@ -287,6 +320,12 @@ TEST_F(CsvEditTest, ReadingAgainGivesWhatWasAsked)
             const auto changed = read(plan.files.front().after.toStdString());
             EXPECT_EQ(textsOf(*changed), expected) << plan.files.front().after.toStdString();
             EXPECT_EQ(changed->warnings(), design->warnings());
+            const auto isOld = [&](const EditEffect &effect) {
+                return !design->names().candidates(effect.name).empty();
+            };
+            if (std::ranges::all_of(plan.effects, isOld)) {
+                expectOthersUntouched(text, *design, plan);
+            }
             ++written;
         } else {
             EXPECT_EQ(textsOf(*design), expected);
