@@ -24,7 +24,10 @@ TEST_F(Usage, HelpAndVersionGoToStandardOutput)
                                                            {"--version", "bom "},
                                                            {"report --help", "--full-csv"},
                                                            {"parts --help", "--json"},
-                                                           {"check --help", "--require"}};
+                                                           {"check --help", "--require"},
+                                                           {"set --help", "--dry-run"},
+                                                           {"apply --help", "EDITS"},
+                                                           {"undo --help", "DESIGN"}};
     for (const auto &[arguments, expected] : cases) {
         const ProgramRun result = run(arguments);
         EXPECT_EQ(result.status, 0) << arguments;
