@@ -132,6 +132,7 @@ ExitStatus DesignEdits::write(const WriteOptions &options)
         return tellRefused(m_refusals, ExitStatus::DesignProblem);
     }
     m_design.session().setDryRun(options.isDryRun);
+    m_design.session().setRereading(false);
     m_design.session().setBackups(!options.hasNoBackup);
     const QList<CDBPROBLEM> problems = runBatch(options.isDryRun);
     QStringList messages;

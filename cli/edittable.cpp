@@ -60,10 +60,6 @@ void EditTable::compareRow(const Table &table, const TableRow &row)
         refuse(row.line, error);
         return;
     }
-    QStringList firstTexts;
-    for (const EditColumn &column : m_columns) {
-        firstTexts << texts(references.first(), column).value(0);
-    }
     for (const QString &reference : std::as_const(references)) {
         const TableRow *&first = m_rows[reference];
         if (first && !hasSameTexts(row, *first)) {
@@ -73,26 +69,18 @@ void EditTable::compareRow(const Table &table, const TableRow &row)
             refuse(row.line, reference + QStringLiteral(": the design has no part of this reference"));
         } else {
             first = &row;
-            for (std::size_t i = 0; i < m_columns.size(); ++i) {
-                compareCell(reference, row, m_columns[i], firstTexts.at(qsizetype(i)));
+            for (const EditColumn &column : m_columns) {
+                compareCell(reference, references.first(), row, column);
             }
         }
     }
 }
 
-void EditTable::compareCell(const QString &reference, const TableRow &row, const EditColumn &column,
-                            const QString &firstText)
+void EditTable::compareCell(const QString &reference, const QString &firstReference, const TableRow &row,
+                            const EditColumn &column)
 {
     const QString cell = row.cells.value(column.index);
-    const QStringList shown = texts(reference, column);
-    const bool isUnchanged = std::any_of(shown.cbegin(), shown.cend(), [&](const QString &text) {
-        // A line of the report shows the texts of its first part.
-        const bool isOfLine = !m_design.database().currentTemplate().caseSensitiveGrouping() &&
-                              text.compare(firstText, Qt::CaseInsensitive) == 0 &&
-                              isReportCell(cell, firstText);
-        return isReportCell(cell, text) || isOfLine;
-    });
-    if (isUnchanged) {
+    if (isUnchanged(reference, firstReference, cell, column)) {
         return;
     }
     if (column.isFixed) {
@@ -114,20 +102,36 @@ bool EditTable::hasSameTexts(const TableRow &row, const TableRow &other) const
     });
 }
 
-QStringList EditTable::texts(const QString &reference, const EditColumn &column) const
+bool EditTable::isUnchanged(const QString &reference, const QString &firstReference, const QString &cell,
+                            const EditColumn &column) const
+{
+    const Part *part = m_design.database().part(reference);
+    const QString text = part ? m_cells.text(*part, column) : QString();
+    if (part && isReportCell(cell, text)) {
+        return true;
+    }
+    const QStringList others = componentTexts(reference, column);
+    if (std::any_of(others.cbegin(), others.cend(),
+                    [&cell](const QString &other) { return isReportCell(cell, other); })) {
+        return true;
+    }
+    // A line of the report shows the texts of its first part.
+    const Part *first = m_design.database().part(firstReference);
+    if (!part || !first || part == first || m_design.database().currentTemplate().caseSensitiveGrouping()) {
+        return false;
+    }
+    const QString firstText = m_cells.text(*first, column);
+    return text.compare(firstText, Qt::CaseInsensitive) == 0 && isReportCell(cell, firstText);
+}
+
+QStringList EditTable::componentTexts(const QString &reference, const EditColumn &column) const
 {
     QStringList shown;
-    if (const Part *part = m_design.database().part(reference)) {
-        shown << m_cells.text(*part, column);
-    }
     const LoadedDesign &design = m_design.design();
-    const std::vector<std::size_t> found = design.references().find(reference.toStdString());
-    if (shown.isEmpty() || found.size() > 1) {
-        for (const std::size_t index : found) {
-            const COMPONENT *component = design.components()[index];
-            const Part part(component, &m_design.database(), reference, fromHostText(component->value));
-            shown << m_cells.text(part, column);
-        }
+    for (const std::size_t index : design.references().find(reference.toStdString())) {
+        const COMPONENT *component = design.components()[index];
+        const Part part(component, &m_design.database(), reference, fromHostText(component->value));
+        shown << m_cells.text(part, column);
     }
     return shown;
 }

@@ -28,11 +28,14 @@ public:
 
 private:
     void compareRow(const Table &table, const TableRow &row);
-    void compareCell(const QString &reference, const TableRow &row, const EditColumn &column,
-                     const QString &firstText);
+    void compareCell(const QString &reference, const QString &firstReference, const TableRow &row,
+                     const EditColumn &column);
+    /// Whether the cell is what a report would hold for the reference now.
+    [[nodiscard]] bool isUnchanged(const QString &reference, const QString &firstReference,
+                                   const QString &cell, const EditColumn &column) const;
     [[nodiscard]] bool hasSameTexts(const TableRow &row, const TableRow &other) const;
-    /// What the report shows of every component of that reference, or of the BOM-only part.
-    [[nodiscard]] QStringList texts(const QString &reference, const EditColumn &column) const;
+    /// What the report shows of every component of that reference.
+    [[nodiscard]] QStringList componentTexts(const QString &reference, const EditColumn &column) const;
     void refuse(int line, const QString &text);
     [[nodiscard]] QString place(int line) const;
 

@@ -21,6 +21,7 @@ ExitStatus UndoCommand::run()
 {
     const CliUi ui(QLocale::c());
     DesignSession session;
+    session.setRereading(false);
     if (!session.open(QString::fromStdString(m_design))) {
         console::message(session.error());
         return ExitStatus::UnreadableInput;

@@ -149,7 +149,7 @@ QList<CDBPROBLEM> DesignSession::write(std::span<const designs::Edit> edits)
 
 void DesignSession::takeOverFiles()
 {
-    if (!reread()) {
+    if (m_isRereading && !reread()) {
         HostUi::current().warning(
             nullptr, QCoreApplication::translate("DesignSession", "The design was written"),
             QCoreApplication::translate("DesignSession",

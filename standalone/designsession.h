@@ -53,6 +53,9 @@ public:
     void setDryRun(bool isDryRun) { m_writer.setDryRun(isDryRun); }
     /// Whether files that are written leave their previous content beside them; they do at first.
     void setBackups(bool areKept) { m_writer.setBackups(areKept); }
+    /// Whether the design is read again after it was written; it is at first. A program that ends then does
+    /// without.
+    void setRereading(bool isWanted) { m_isRereading = isWanted; }
     /// What the last batch of the component database changed, or would have in a dry run, in the order in
     /// which it was asked for.
     [[nodiscard]] const QList<PropertyChange> &lastChanges() const { return m_writer.changes(); }
@@ -108,5 +111,6 @@ private:
     QString m_variant;
     QStringList m_recoveries;
     DesignWriter m_writer;
+    bool m_isRereading = true;
     QString m_error;
 };

@@ -20,14 +20,10 @@ bool isOneMessage(const std::string &err)
 
 TEST_F(Usage, HelpAndVersionGoToStandardOutput)
 {
-    const std::pair<const char *, const char *> cases[] = {{"--help", "report"},
-                                                           {"--version", "bom "},
-                                                           {"report --help", "--full-csv"},
-                                                           {"parts --help", "--json"},
-                                                           {"check --help", "--require"},
-                                                           {"set --help", "--dry-run"},
-                                                           {"apply --help", "EDITS"},
-                                                           {"undo --help", "DESIGN"}};
+    const std::pair<const char *, const char *> cases[] = {
+        {"--help", "report"},       {"--version", "bom "},         {"report --help", "--full-csv"},
+        {"parts --help", "--json"}, {"check --help", "--require"}, {"set --help", "--dry-run"},
+        {"apply --help", "EDITS"},  {"undo --help", "DESIGN"}};
     for (const auto &[arguments, expected] : cases) {
         const ProgramRun result = run(arguments);
         EXPECT_EQ(result.status, 0) << arguments;
