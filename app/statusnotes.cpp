@@ -38,6 +38,7 @@ StatusNotes::StatusNotes(QMainWindow *window)
 {
     m_account->setObjectName(QStringLiteral("account"));
     m_account->setTextFormat(Qt::PlainText);
+    m_account->setIndent(m_account->fontMetrics().averageCharWidth());
     window->statusBar()->addPermanentWidget(m_account);
     m_problemButton = statusButton(window, QStringLiteral("problemButton"), QStyle::SP_MessageBoxCritical);
     m_problemButton->setText(tr("Not up to date"));
@@ -48,9 +49,10 @@ StatusNotes::StatusNotes(QMainWindow *window)
             [this] { show(tr("Warnings of the Reader"), m_warnings); });
 }
 
-void StatusNotes::setAccount(const QString &text)
+void StatusNotes::setAccount(const QString &text, const QString &tip)
 {
     m_account->setText(text);
+    m_account->setToolTip(tip);
 }
 
 void StatusNotes::setWarnings(const QStringList &warnings)

@@ -18,7 +18,7 @@ class StatusNotes final : public QObject
 public:
     explicit StatusNotes(QMainWindow *window);
 
-    void setAccount(const QString &text);
+    void setAccount(const QString &text, const QString &tip);
     /// One line each; none hides the button.
     void setWarnings(const QStringList &warnings);
     [[nodiscard]] const QStringList &warnings() const { return m_warnings; }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/workbench.h"
 
+#include "app/designnotes.h"
 #include "app/emptypage.h"
 #include "app/programmenus.h"
 #include "app/recentfiles.h"
@@ -9,10 +10,8 @@
 #include "host/framework/applnmodule.h"
 #include "host/framework/applnwindow.h"
 #include "host/framework/hostui.h"
-#include "host/propdefs/propdefsfile.h"
 #include "host/richtext/pagepainter.h"
 #include "standalone/loadeddesign.h"
-#include "standalone/partsledger.h"
 
 #include <QApplication>
 #include <QDir>
@@ -202,19 +201,9 @@ void Workbench::updateNotes()
         return;
     }
     m_noted = m_session.design()->properties().stamp();
-    const PartsLedger ledger(*m_session.design());
-    QStringList account = {tr("%1 of %2 components listed").arg(ledger.listed()).arg(ledger.components())};
-    if (ledger.leftOutByChoice() > 0) {
-        account << (m_session.dnpChoice() == DnpChoice::Only ? tr("%1 fitted") : tr("%1 not fitted"))
-                       .arg(ledger.leftOutByChoice());
-    }
-    if (ledger.excluded() > 0) {
-        account << tr("%1 excluded").arg(ledger.excluded());
-    }
-    m_window.notes().setAccount(account.join(QStringLiteral(", ")));
-    QStringList warnings = m_session.warnings();
-    (void)load_defaultdefs(nullptr, nullptr, &warnings);
-    m_window.notes().setWarnings(warnings);
+    const DesignNotes notes = designNotes(m_session);
+    m_window.notes().setAccount(notes.account, notes.accountTip);
+    m_window.notes().setWarnings(notes.warnings);
 }
 
 void Workbench::showAbout()

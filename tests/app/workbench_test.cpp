@@ -133,7 +133,7 @@ TEST_F(WorkbenchTest, TellsWhatToDoUntilADesignIsOpen)
     EXPECT_EQ(bench->window().windowTitle(), QStringLiteral("parts \u2013 Bill of Materials Viewer"));
     EXPECT_TRUE(isReported("10k"));
     EXPECT_FALSE(isReported("22k"));
-    EXPECT_EQ(account(), QStringLiteral("1 of 2 components listed, 1 not fitted"));
+    EXPECT_EQ(account(), QStringLiteral("1 listed, 1 not fitted"));
     QStringList titles;
     for (const QAction *menu : bench->window().menuBar()->actions()) {
         titles << menu->text();
@@ -276,10 +276,21 @@ TEST_F(WorkbenchTest, ListsPartsThatAreNotFittedWhenAsked)
     EXPECT_TRUE(isReported("10k") && isReported("22k"));
     action(QStringLiteral("&Only These"))->trigger();
     EXPECT_TRUE(!isReported("10k") && isReported("22k"));
-    EXPECT_EQ(account(), QStringLiteral("1 of 2 components listed, 1 fitted"));
+    EXPECT_EQ(account(), QStringLiteral("1 listed, 1 fitted"));
     // The choice is the user's, not the design's.
     ASSERT_TRUE(bench->open(partList(QStringLiteral("other.csv"))));
     EXPECT_TRUE(!isReported("10k") && isReported("22k"));
+}
+
+TEST_F(WorkbenchTest, SaysWhatIsDoubtfulAboutADesign)
+{
+    ASSERT_TRUE(bench->open(partList()));
+    EXPECT_TRUE(notes().warnings().isEmpty());
+    const QString file = write(QStringLiteral("doubtful.csv"), "Reference,Value\nR1,1k\nR?,2k\nR1,3k\n");
+    ASSERT_TRUE(bench->open(file));
+    EXPECT_EQ(notes().warnings().size(), 2);
+    EXPECT_TRUE(notes().warnings()[0].startsWith(file + QStringLiteral(":2: R1 occurs 2 times")));
+    EXPECT_TRUE(notes().warnings()[1].startsWith(file + QStringLiteral(":3: R?")));
 }
 
 TEST_F(WorkbenchTest, OtherModulesFindTheModule)

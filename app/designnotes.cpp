@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "app/designnotes.h"
+
+#include "host/propdefs/propdefsfile.h"
+#include "standalone/designsession.h"
+#include "standalone/loadeddesign.h"
+#include "standalone/partsledger.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(DesignNotes)
+};
+
+QString account(const PartsLedger &ledger, DnpChoice choice)
+{
+    QStringList counts = {Texts::tr("%1 listed").arg(ledger.listed())};
+    if (ledger.leftOutByChoice() > 0) {
+        const QString what = choice == DnpChoice::Only ? Texts::tr("%1 fitted") : Texts::tr("%1 not fitted");
+        counts << what.arg(ledger.leftOutByChoice());
+    }
+    if (ledger.excluded() > 0) {
+        counts << Texts::tr("%1 excluded").arg(ledger.excluded());
+    }
+    return counts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+DesignNotes designNotes(const DesignSession &session)
+{
+    if (!session.design()) {
+        return {};
+    }
+    const PartsLedger ledger(*session.design());
+    DesignNotes notes;
+    notes.account = account(ledger, session.dnpChoice());
+    notes.accountTip = Texts::tr("Of %1 components of the design").arg(ledger.components());
+    notes.warnings = session.warnings();
+    for (const RepeatedReference &repeated : ledger.repeated()) {
+        if (repeated.isDoubtful()) {
+            notes.warnings << repeated.message();
+        }
+    }
+    notes.warnings << ledger.notAnnotated();
+    for (const QString &reference : ledger.withVariables()) {
+        notes.warnings << reference + Texts::tr(": a text variable ${...} is not resolved");
+    }
+    (void)load_defaultdefs(nullptr, nullptr, &notes.warnings);
+    return notes;
+}
