@@ -9,6 +9,9 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <vector>
+
 namespace {
 
 class Texts
@@ -16,9 +19,22 @@ class Texts
     Q_DECLARE_TR_FUNCTIONS(DesignNotes)
 };
 
-QString account(const PartsLedger &ledger, DnpChoice choice)
+/// How many listed components have the reference of one before them, in whose place they cannot be listed.
+qsizetype hiddenByOthers(const std::vector<RepeatedReference> &references)
 {
-    QStringList counts = {Texts::tr("%1 listed").arg(ledger.listed())};
+    qsizetype count = 0;
+    for (const RepeatedReference &repeated : references) {
+        count += std::max<qsizetype>(repeated.listed - 1, 0);
+    }
+    return count;
+}
+
+QString account(const PartsLedger &ledger, DnpChoice choice, qsizetype hidden)
+{
+    QStringList counts = {Texts::tr("%1 listed").arg(ledger.listed() - hidden)};
+    if (hidden > 0) {
+        counts << Texts::tr("%1 repeated").arg(hidden);
+    }
     if (ledger.leftOutByChoice() > 0) {
         const QString what = choice == DnpChoice::Only ? Texts::tr("%1 fitted") : Texts::tr("%1 not fitted");
         counts << what.arg(ledger.leftOutByChoice());
@@ -38,10 +54,11 @@ DesignNotes designNotes(const DesignSession &session)
     }
     const PartsLedger ledger(*session.design());
     DesignNotes notes;
-    notes.account = account(ledger, session.dnpChoice());
+    const std::vector<RepeatedReference> references = ledger.repeated();
+    notes.account = account(ledger, session.dnpChoice(), hiddenByOthers(references));
     notes.accountTip = Texts::tr("Of %1 components of the design").arg(ledger.components());
     notes.warnings = session.warnings();
-    for (const RepeatedReference &repeated : ledger.repeated()) {
+    for (const RepeatedReference &repeated : references) {
         if (repeated.isDoubtful()) {
             notes.warnings << repeated.message();
         }

@@ -288,6 +288,7 @@ TEST_F(WorkbenchTest, SaysWhatIsDoubtfulAboutADesign)
     EXPECT_TRUE(notes().warnings().isEmpty());
     const QString file = write(QStringLiteral("doubtful.csv"), "Reference,Value\nR1,1k\nR?,2k\nR1,3k\n");
     ASSERT_TRUE(bench->open(file));
+    EXPECT_EQ(account(), QStringLiteral("2 listed, 1 repeated"));
     EXPECT_EQ(notes().warnings().size(), 2);
     EXPECT_TRUE(notes().warnings()[0].startsWith(file + QStringLiteral(":2: R1 occurs 2 times")));
     EXPECT_TRUE(notes().warnings()[1].startsWith(file + QStringLiteral(":3: R?")));

@@ -6,6 +6,7 @@
 #include "tests/module/modulehost.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QLibrary>
 #include <QProcess>
 
@@ -16,6 +17,14 @@ namespace {
 QString library()
 {
     return QStringLiteral(BOM_BINARY_DIR "/lib/libbom.so");
+}
+
+/// Whether the library's code is in this process.
+bool isMapped()
+{
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    EXPECT_TRUE(maps.open(QIODevice::ReadOnly));
+    return maps.readAll().contains("/libbom.so");
 }
 
 } // namespace
@@ -57,5 +66,7 @@ TEST(ModuleEntry, LivesFromTheOneToTheOther)
         EXPECT_EQ(host.server.cache, nullptr);
     }
     remove(nullptr);
+    EXPECT_TRUE(isMapped());
     EXPECT_TRUE(plugin.unload());
+    EXPECT_FALSE(isMapped());
 }
