@@ -46,7 +46,7 @@ StatusNotes::StatusNotes(QMainWindow *window)
     connect(m_problemButton, &QToolButton::clicked, this,
             [this] { show(tr("The Design Has Changed and Cannot Be Read"), {m_problem}); });
     connect(m_warningsButton, &QToolButton::clicked, this,
-            [this] { show(tr("Warnings of the Reader"), m_warnings); });
+            [this] { show(tr("Warnings About the Design"), m_warnings); });
 }
 
 void StatusNotes::setAccount(const QString &text, const QString &tip)

@@ -151,7 +151,7 @@ void Workbench::checkFiles()
         const bool isOtherProject = m_project.hasChanged();
         // After a failure the design that is shown is an old one, whatever the files look like.
         const bool isBehind = !m_window.notes().problem().isEmpty();
-        if (isOtherProject || isBehind || !m_session.design()->design().changedFiles().isEmpty()) {
+        if (isOtherProject || isBehind || !m_session.changedFiles().isEmpty()) {
             rereadDesign();
         } else if (m_board.hasChanged() && m_session.rereadBoard()) {
             m_library.module()->onvalidate();
@@ -166,7 +166,7 @@ void Workbench::checkFiles()
 
 void Workbench::rereadDesign()
 {
-    if (m_session.open(m_path, m_variant)) {
+    if (m_session.reread()) {
         showDesign();
     } else {
         // It may be half written; the next change of a file is the next try.
