@@ -22,9 +22,10 @@ QString toText(std::string_view text)
 /// The names between the braces of the variables in a text, without a reference before a colon.
 QStringList variableNames(std::string_view text)
 {
+    constexpr std::size_t longestName = 200;
     QStringList names;
     for (std::size_t at = text.find("${"); at != std::string_view::npos; at = text.find("${", at + 2)) {
-        const std::string_view rest = text.substr(at + 2);
+        const std::string_view rest = text.substr(at + 2, longestName);
         const QString name = toText(rest.substr(0, rest.find('}')));
         names << name.mid(name.indexOf(u':') + 1).toCaseFolded();
     }
