@@ -75,14 +75,14 @@ bool isUndisturbed(FileWork &work, const DesignPaths &paths)
 
 DesignFiles::DesignFiles(const QString &design, FileSystem *system)
     : m_design(design)
-    , m_system(system ? *system : FileSystem::real())
+    , m_system(system ? system : &FileSystem::real())
 {
 }
 
 std::vector<Problem> DesignFiles::recover()
 {
     const DesignPaths paths(m_design);
-    FileWork work(m_system);
+    FileWork work(*m_system);
     Recovery recovery(work, paths);
     if (!recovery.isNeeded()) {
         return work.problems();
@@ -101,7 +101,7 @@ std::vector<Problem> DesignFiles::recover()
 std::vector<Problem> DesignFiles::check(std::span<const FileEdit> files) const
 {
     const DesignPaths paths(m_design);
-    FileWork work(m_system);
+    FileWork work(*m_system);
     WriteCheck(work, paths).run(files, false);
     return work.problems();
 }
@@ -113,7 +113,7 @@ std::vector<Problem> DesignFiles::write(std::span<const FileEdit> files, Backups
         return {};
     }
     const DesignPaths paths(m_design);
-    FileWork work(m_system);
+    FileWork work(*m_system);
     DesignLock lock(work, paths);
     if (lock.take() && isUndisturbed(work, paths)) {
         m_replaced = replaceFiles(work, paths, files, backups == Backups::Keep);
@@ -125,7 +125,7 @@ DesignFiles::Undone DesignFiles::undo()
 {
     m_replaced = false;
     const DesignPaths paths(m_design);
-    FileWork work(m_system);
+    FileWork work(*m_system);
     if (!canUndo()) {
         work.fail(paths.design(), QStringLiteral("there is nothing to take back"));
         return {{}, work.problems()};
@@ -150,7 +150,7 @@ DesignFiles::Undone DesignFiles::undo()
 
 bool DesignFiles::canUndo() const
 {
-    FileWork work(m_system);
+    FileWork work(*m_system);
     return work.exists(DesignPaths(m_design).record());
 }
 

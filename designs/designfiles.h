@@ -61,7 +61,7 @@ public:
 
 private:
     QString m_design;
-    FileSystem &m_system;
+    FileSystem *m_system;
     bool m_replaced = false;
 };
 

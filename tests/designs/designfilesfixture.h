@@ -128,6 +128,13 @@ protected:
         return WEXITSTATUS(status) == InterruptedFileSystem::diedStatus;
     }
 
-    DesignFolder m_folder;
+    /// In memory where that can be had: thousands of files are renamed.
+    static QString pattern()
+    {
+        const QString memory = QStringLiteral("/dev/shm");
+        return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + QStringLiteral("/bom-XXXXXX");
+    }
+
+    DesignFolder m_folder{pattern()};
     InterruptedFileSystem m_system{0, 0};
 };

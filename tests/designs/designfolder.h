@@ -15,6 +15,13 @@
 class DesignFolder
 {
 public:
+    DesignFolder() = default;
+    /// The folder's path with "XXXXXX" in it, where it is not to be an ordinary one.
+    explicit DesignFolder(const QString &pattern)
+        : m_folder(pattern)
+    {
+    }
+
     /// Writes a file, with the folders it needs; gives its absolute path.
     QString write(const QString &name, std::string_view text) const;
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
