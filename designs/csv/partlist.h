@@ -24,8 +24,9 @@ public:
 
     [[nodiscard]] std::optional<QString> checkEdit(const Edit &edit) const override;
     /// Changes cells. A row of several references is split where they are to differ: those that stay as they
-    /// are keep the row, each group of equals among the others gets a row behind it. A property without a
-    /// column gets one at the end.
+    /// are keep the row, each group of equals among the others gets a row behind it; quantities follow. A
+    /// property without a column gets one at the end, and with it every row that had a cell for each heading;
+    /// rows that were short are filled up only as far as a text needs it. An empty cell is no property.
     [[nodiscard]] EditPlan planEdits(std::span<const Edit> edits) const override;
 
     /// The column that a name stands for: exactly, by alias (VALUE, PACKAGE), ignoring letter case.

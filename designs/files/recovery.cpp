@@ -118,11 +118,15 @@ bool Recovery::giveUp(FileTransaction &transaction)
 
 bool Recovery::checkNotOpen(const Journal &journal)
 {
-    bool closed = true;
+    QStringList files = {m_paths.design()};
     for (const JournalEntry &entry : journal.entries) {
-        if (const auto who = openElsewhere(entry.target)) {
-            closed =
-                m_work.fail(entry.target, QStringLiteral("a write was interrupted, but this file ") + *who);
+        files << entry.target;
+    }
+    files.removeDuplicates();
+    bool closed = true;
+    for (const QString &file : std::as_const(files)) {
+        if (const auto who = openElsewhere(file)) {
+            closed = m_work.fail(file, QStringLiteral("a write was interrupted, but this file ") + *who);
         }
     }
     return closed;

@@ -19,15 +19,20 @@ constexpr quint32 anyWriteBit = 0222;
 bool WriteCheck::run(std::span<const FileEdit> files, bool keepsBackups)
 {
     bool possible = true;
+    bool withDesign = false;
     for (const FileEdit &file : files) {
         possible = checkFile(file, keepsBackups) && possible;
+        withDesign = withDesign || QFileInfo(file.path).canonicalFilePath() == m_paths.design();
     }
+    // KiCad marks the root sheet alone when it has them all open.
+    possible = (withDesign || checkClosed(m_paths.design(), m_paths.design())) && possible;
     return checkFolders(keepsBackups) && possible;
 }
 
 bool WriteCheck::checkStillClosed()
 {
-    return std::ranges::all_of(m_replacements,
+    return checkClosed(m_paths.design(), m_paths.design()) &&
+           std::ranges::all_of(m_replacements,
                                [this](const auto &file) { return checkClosed(file.path, file.target); });
 }
 

@@ -52,6 +52,11 @@ TEST_F(DesignFilesTest, RefusesWhatWouldLoseOthersWork)
     refused("sub/a.kicad_sch: is open in KiCad (anna on desk)");
     QFile::remove(path("sub/~a.kicad_sch.lck"));
 
+    put("~board.kicad_sch.lck", R"({"username":"ben"})");
+    const std::vector<FileEdit> subSheet(planned.end() - 1, planned.end());
+    EXPECT_THAT(joined(files().check(subSheet)), HasSubstr("board.kicad_sch: is open in KiCad (ben)"));
+    QFile::remove(path("~board.kicad_sch.lck"));
+
     put(names[2], "changed");
     refused("sub/a.kicad_sch: was changed since it was read");
     QFile::remove(path(names[2]));
