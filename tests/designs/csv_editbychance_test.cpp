@@ -21,9 +21,9 @@ public:
     const std::string &text()
     {
         static const std::vector<std::string> texts = {
-            "",         "10k",     "1,5",  "a;b", "say \"5%1\"", "\"",           "two\nlines",
-            "\r",       " blank ", "\t",   "'",   "=1+1",        "R1-R4",        "0603",
-            "\xC2\xB5", "a|b\tc",  "\r\n", "~",   "Ref",         "\xC3\x84;\"\n"};
+            "",         "10k",    "1,5",   "a;b", "say \"5%1\"", "\"",           "two\nlines", "\r",
+            " blank ",  " front", "back ", "\t",  "'",           "=1+1",         "R1-R4",      "0603",
+            "\xC2\xB5", "a|b\tc", "\r\n",  "~",   "Ref",         "\xC3\x84;\"\n"};
         return texts[below(texts.size())];
     }
 
