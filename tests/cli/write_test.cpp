@@ -14,6 +14,7 @@ using testing::AllOf;
 using testing::HasSubstr;
 
 const QString schematic = QStringLiteral("amp.kicad_sch");
+const QString list = QStringLiteral("list.csv");
 const QString edits = QStringLiteral("edits.csv");
 
 class Write : public ProgramTest
@@ -249,6 +250,15 @@ TEST_F(Write, UndoGivesTheFilesBackOnce)
     write(schematic, QByteArray::fromStdString(m_before));
     ASSERT_EQ(run("set amp.kicad_sch R1 VALUE=1k --no-backup").status, 0);
     EXPECT_EQ(run("undo amp.kicad_sch").status, 1);
+}
+
+TEST_F(Write, APartListIsWrittenToo)
+{
+    write(list, "\"Designator\";\"Value\"\r\n\"R1,R2\";\"10k\"\r\n\"C1\";\"1u\"\r\n");
+    const ProgramRun result = run("set list.csv R2 VALUE=47k");
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(read(list),
+              "\"Designator\";\"Value\"\r\n\"R1\";\"10k\"\r\n\"R2\";\"47k\"\r\n\"C1\";\"1u\"\r\n");
 }
 
 } // namespace

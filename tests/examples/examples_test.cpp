@@ -168,6 +168,29 @@ TEST_P(Examples, PlacementIsWhatTheBoardSays)
     }
 }
 
+TEST_P(Examples, AReportThatIsAppliedAsItIsChangesNothing)
+{
+    const QTemporaryDir folder;
+    const QString report = folder.filePath(QStringLiteral("report.csv"));
+    const QByteArray templates = runBom({QStringLiteral("template"), QStringLiteral("list")}).out;
+    ASSERT_GT(templates.count('\n'), 1) << templates.constData();
+    for (const QByteArray &line : templates.trimmed().split('\n')) {
+        const QString name = QString::fromUtf8(line.split('\t').first());
+        for (const char *form : {"--csv", "--full-csv"}) {
+            const QStringList options{QStringLiteral("--template"), name, QStringLiteral("--dnp"),
+                                      QStringLiteral("include")};
+            ASSERT_EQ(
+                runBom(QStringList{QStringLiteral("report"), design(), QLatin1String(form), report} + options)
+                    .status,
+                0);
+            const Outcome run =
+                runBom(QStringList{QStringLiteral("apply"), design(), report, QStringLiteral("--dry-run")} +
+                       options);
+            EXPECT_EQ(run.out, "nothing to change\n") << qPrintable(name) << form << run.err.constData();
+        }
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(, Examples, testing::ValuesIn(examples), [](const auto &info) {
     return QString::fromLatin1(info.param.folder).remove(u'-').toStdString();
 });
