@@ -31,6 +31,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <sstream>
 
 namespace {
 
@@ -210,6 +211,27 @@ TEST_F(WorkbenchTest, DoesNotReadAgainWhatIsTheSame)
     QObject::connect(bench.get(), &Workbench::filesChecked, [&looks] { ++looks; });
     EXPECT_TRUE(waitFor([&] { partList(); }, [&] { return looks > 0; }));
     EXPECT_EQ(bench->session().design(), before);
+}
+
+TEST_F(WorkbenchTest, DoesNotReadItsOwnWritesTwice)
+{
+    ASSERT_TRUE(bench->open(partList()));
+    EXPECT_EQ(account(), QStringLiteral("1 listed, 1 not fitted"));
+    quint64 written = 0;
+    int looks = 0;
+    QObject::connect(bench.get(), &Workbench::filesChecked, [&looks] { ++looks; });
+    const auto write = [&written, this] {
+        std::istringstream script("DATA NAME : R2-\n\"DNP\"   :   \"[REMOVE]\"\nEND\n\n");
+        std::ostringstream answer;
+        getcdb()->beginbatch();
+        getcdb()->adi(script, answer, 0);
+        EXPECT_TRUE(getcdb()->commitbatch()) << answer.str();
+        written = bench->session().design()->properties().stamp();
+    };
+    EXPECT_TRUE(waitFor(write, [&] { return looks > 0; }));
+    EXPECT_EQ(bench->session().design()->properties().stamp(), written);
+    EXPECT_TRUE(isReported("22k"));
+    EXPECT_EQ(account(), QStringLiteral("2 listed"));
 }
 
 TEST_F(WorkbenchTest, WaitsForAHalfWrittenFile)
