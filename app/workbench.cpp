@@ -153,9 +153,8 @@ void Workbench::checkFiles()
         const bool isBehind = !m_window.notes().problem().isEmpty();
         if (isOtherProject || isBehind || !m_session.changedFiles().isEmpty()) {
             rereadDesign();
-        } else if (m_board.hasChanged() && m_session.rereadBoard()) {
-            m_library.module()->onvalidate();
-            updateNotes();
+        } else if (m_board.hasChanged()) {
+            rereadBoard();
         } else if (m_noted != m_session.design()->properties().stamp()) {
             // The module wrote the files, and the session has read them since.
             updateNotes();
@@ -170,6 +169,16 @@ void Workbench::rereadDesign()
         showDesign();
     } else {
         // It may be half written; the next change of a file is the next try.
+        m_window.notes().setProblem(m_session.error());
+    }
+}
+
+void Workbench::rereadBoard()
+{
+    if (m_session.rereadBoard()) {
+        m_library.module()->onvalidate();
+        updateNotes();
+    } else {
         m_window.notes().setProblem(m_session.error());
     }
 }

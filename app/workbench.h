@@ -54,6 +54,7 @@ private:
     void updateNotes();
     void checkFiles();
     void rereadDesign();
+    void rereadBoard();
 
     // In this order: the module's instance is gone before the session, the process, is.
     DesignSession m_session;

@@ -218,6 +218,13 @@ bool DesignSession::rereadBoard()
         m_error = result.error.message();
         return false;
     }
+    // The first question reads the board, and is what a broken one is told after.
+    const std::size_t before = result.design->warnings().size();
+    (void)result.design->placement({});
+    if (result.design->warnings().size() > before) {
+        m_error = result.design->warnings().back().message();
+        return false;
+    }
     m_cdb.setBoard(std::move(result.design));
     StandaloneLayout layout(boardFileOf(*m_design));
     Q_EMIT m_document.modified(&layout);

@@ -289,6 +289,11 @@ TEST_F(WorkbenchTest, FollowsTheBoardBesideTheSchematic)
     EXPECT_EQ(bench->session().design(), before);
     ASSERT_NE(getcdb()->getpart(identifier)->layout(), nullptr);
     EXPECT_EQ(getcdb()->getpart(identifier)->layout()->name(), QByteArray("Bottom"));
+
+    const auto spoil = [&] { write(QStringLiteral("amp.kicad_pcb"), "(kicad_pcb (version"); };
+    EXPECT_TRUE(waitFor(spoil, [&] { return !notes().problem().isEmpty(); }));
+    EXPECT_TRUE(notes().problem().startsWith(boards[0]));
+    EXPECT_EQ(getcdb()->getpart(identifier)->layout()->name(), QByteArray("Bottom"));
 }
 
 TEST_F(WorkbenchTest, ListsPartsThatAreNotFittedWhenAsked)
