@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "tests/module/bomviewerfixture.h"
+
+#include "host/framework/hostsettings.h"
+#include "views/bomexcelview.h"
+
+TEST_F(BomViewer, BuildsItsWindowOnce)
+{
+    module().onvalidate();
+    EXPECT_EQ(module().createwindow(nullptr, 0), nullptr);
+    BOMMainWindow *first = mainWindow();
+    EXPECT_TRUE(report().contains(QStringLiteral("10k")));
+
+    EXPECT_EQ(mainWindow(), first);
+    EXPECT_EQ(host.frame.widgets, 1);
+    EXPECT_EQ(host.frame.menus.keys(), QList<unsigned>({273, 274}));
+    EXPECT_EQ(module().getprimarywindow(), first);
+}
+
+TEST_F(BomViewer, RemovesOnlyItsOwnWindow)
+{
+    const QPointer<BOMMainWindow> first(mainWindow());
+    class Other final : public APPLNWINDOW
+    {
+        bool createwindow(APPLNFRAME *) override { return true; }
+        bool isvisible() const override { return false; }
+        void showwindow(unsigned) override {}
+        void updatewindow() override {}
+    } other;
+    other.setowner(&module());
+
+    module().removewindow(&other);
+    flush();
+    EXPECT_EQ(other.getowner(), nullptr);
+    EXPECT_EQ(mainWindow(), first);
+
+    module().removewindow(first);
+    EXPECT_EQ(module().getprimarywindow(), nullptr);
+    EXPECT_FALSE(viewer().isvisible());
+    EXPECT_FALSE(first.isNull());
+    flush();
+    EXPECT_TRUE(first.isNull());
+    EXPECT_TRUE(host.frame.menus.isEmpty() && host.frame.bars.isEmpty());
+
+    module().onvalidate();
+    EXPECT_TRUE(report().contains(QStringLiteral("10k")));
+    EXPECT_EQ(host.frame.widgets, 1);
+}
+
+TEST_F(BomViewer, WritesReportsAfterAskingAboutDuplicates)
+{
+    module().onvalidate();
+    trigger("&CSV");
+    EXPECT_TRUE(ui.questions.isEmpty());
+    EXPECT_EQ(ui.fileRequests.size(), 1);
+
+    for (const char *reference : {"R1", "R1", "C3"}) {
+        host.server.netlist.add(reference, "2k");
+    }
+    host.server.cache->invalidate();
+    module().onvalidate();
+    trigger("&ASCII");
+    ASSERT_EQ(ui.questions.size(), 1);
+    EXPECT_EQ(ui.questions[0].title, QStringLiteral("Duplicate References Detected"));
+    EXPECT_EQ(ui.questions[0].text,
+              QStringLiteral("The following references have duplicates:\nR1, C3\nGenerate output anyway?"));
+    EXPECT_EQ(ui.fileRequests.size(), 1);
+
+    ui.answer = true;
+    for (const char *text : {"&ASCII", "&CSV", "&PDF", "&HTML", "&Open In Excel", "&Open In Excel"}) {
+        trigger(text);
+    }
+    EXPECT_EQ(ui.fileRequests.size(), 7);
+    EXPECT_EQ(mainWindow()->findChildren<BOMExcelView *>().size(), 1);
+}
+
+TEST_F(BomViewer, StartsWithTheTemplateThatWasCurrentLast)
+{
+    MemoryHostSettings settings;
+    HostSettings::install(&settings);
+    settings.setValue(QStringLiteral("BOM"), QStringLiteral("CurrentTemplate"), QStringLiteral("House"));
+    module().onvalidate();
+    BOMTemplate house;
+    house.setName(QStringLiteral("House"));
+    BOMCategory category;
+    category.heading = QStringLiteral("Things That Resist");
+    category.references = QStringList{QStringLiteral("R")};
+    house.setCategories({category});
+    ASSERT_TRUE(house.save());
+
+    EXPECT_TRUE(report().contains(QStringLiteral("Things That Resist")));
+    // It lacks a place for C3, which is told and mended.
+    EXPECT_TRUE(report().contains(QStringLiteral("1u")));
+    ASSERT_EQ(ui.warnings.size(), 1);
+    EXPECT_TRUE(ui.warnings[0].text.contains(QStringLiteral("House.bomt")));
+    HostSettings::install(nullptr);
+}
+
+TEST_F(BomViewer, ReloadsByHandEvenWhenItWasSuspended)
+{
+    module().onvalidate();
+    viewer().designChanged(false);
+    (void)mainWindow();
+    trigger("Reload The &BOM");
+    EXPECT_FALSE(BOMPartsDatabase::instance()->isUpdating());
+    EXPECT_TRUE(report().contains(QStringLiteral("10k")));
+}
+
+TEST_F(BomViewer, TheHtmlOutputIsInNoMenu)
+{
+    QAction *html = action(QStringLiteral("&HTML"));
+    (void)mainWindow();
+    EXPECT_EQ(html->shortcut(), QKeySequence(QStringLiteral("Ctrl+Alt+H")));
+    EXPECT_EQ(html->associatedObjects(), QList<QObject *>{mainWindow()});
+    EXPECT_EQ(host.frame.menus[274]->actions().size(), 8);
+}
