@@ -90,7 +90,8 @@ private:
         const std::size_t name = isPrivate(m_bytes, m_sibling) ? 1 : 0;
         const SexprAtom &first = m_sibling.atoms.front();
         const SexprAtom &last = m_sibling.atoms[std::min(name + 1, m_sibling.atoms.size() - 1)];
-        m_splices.push_back({first.begin, last.end, quoted(property.name) + ' ' + quoted(property.value)});
+        m_splices.push_back(
+            {first.begin, last.end, quotedToken(property.name) + ' ' + quotedToken(property.value)});
     }
 
     void adapt(const SexprNode &list, int id)
