@@ -91,6 +91,10 @@ std::vector<Problem> DesignFiles::recover()
         DesignLock lock(work, paths);
         if (lock.take()) {
             recovery.run();
+        } else if (recovery.isWaiting()) {
+            work.fail(paths.design(), QStringLiteral("was being written when that was interrupted, which can "
+                                                     "now be neither completed nor taken back: its files "
+                                                     "may not belong together"));
         }
     }
     std::vector<Problem> all = recovery.report();

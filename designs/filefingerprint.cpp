@@ -3,6 +3,7 @@
 #include "designs/filefingerprint.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 
 #include <xxhash.h>
@@ -55,7 +56,8 @@ FileFingerprint fingerprintOf(std::string_view bytes)
 std::optional<FileFingerprint> fingerprintOfFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+    // Opening a pipe would wait for its other end.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return std::nullopt;
     }
     const std::unique_ptr<XXH3_state_t, StateDeleter> state(XXH3_createState());

@@ -248,8 +248,9 @@ bool PartListPlanner::nameReferences(const CsvRow &record, std::vector<Group> *g
     for (const Group &group : *groups) {
         all += group.references.size();
     }
+    const ReferenceStyle style(cell, all);
     for (Group &group : *groups) {
-        const auto text = referenceText(group.references, cell, all);
+        const auto text = style.text(group.references);
         if (!text) {
             const QString why =
                 QStringLiteral("the references ") + inMessage(cell) +

@@ -87,17 +87,21 @@ bool names(const std::string &text, const std::vector<std::string_view> &referen
 
 } // namespace
 
-std::optional<std::string> referenceText(const std::vector<std::string_view> &references,
-                                         std::string_view styleCell, std::size_t styleReferences)
+ReferenceStyle::ReferenceStyle(std::string_view cell, std::size_t references)
+    : m_separator(separatorOf(cell))
+    , m_hasRanges(hasRanges(cell, references))
 {
-    const std::string separator = separatorOf(styleCell);
-    if (hasRanges(styleCell, styleReferences)) {
-        std::string text = joined(references, separator, true);
+}
+
+std::optional<std::string> ReferenceStyle::text(const std::vector<std::string_view> &references) const
+{
+    if (m_hasRanges) {
+        std::string text = joined(references, m_separator, true);
         if (names(text, references)) {
             return text;
         }
     }
-    std::string text = joined(references, separator, false);
+    std::string text = joined(references, m_separator, false);
     return names(text, references) ? std::optional(std::move(text)) : std::nullopt;
 }
 

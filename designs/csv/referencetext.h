@@ -9,11 +9,21 @@
 
 namespace designs {
 
-/// A text that names exactly these references in this order, in the style of a cell that named them among
-/// others: its separator, and ranges of three or more where it had ranges. Nothing when they cannot stand in
-/// one cell, as a bare number behind a numbered reference cannot.
-[[nodiscard]] std::optional<std::string> referenceText(const std::vector<std::string_view> &references,
-                                                       std::string_view styleCell,
-                                                       std::size_t styleReferences);
+/// How a cell names references, for cells that take some of them over.
+class ReferenceStyle final
+{
+public:
+    /// Of a cell that names that many references.
+    ReferenceStyle(std::string_view cell, std::size_t references);
+
+    /// A text that names exactly these references in this order, with the cell's separator, and with ranges
+    /// of three or more where it had ranges. Nothing when they cannot stand in one cell, as a bare number
+    /// behind a numbered reference cannot.
+    [[nodiscard]] std::optional<std::string> text(const std::vector<std::string_view> &references) const;
+
+private:
+    std::string m_separator;
+    bool m_hasRanges;
+};
 
 } // namespace designs

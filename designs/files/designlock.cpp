@@ -15,6 +15,7 @@ constexpr int attempts = 500;
 
 DesignLock::DesignLock(FileWork &work, const DesignPaths &paths)
     : m_work(work)
+    , m_design(paths.design())
     , m_path(paths.lock())
 {
 }
@@ -39,7 +40,8 @@ bool DesignLock::take()
                                                   "when it has finished"));
     }
     return failure == 0 ||
-           m_work.fail(m_path, QStringLiteral("cannot be created: ") + qt_error_string(failure));
+           m_work.fail(m_design, QStringLiteral("cannot be written: ") + m_path +
+                                     QStringLiteral(" cannot be created: ") + qt_error_string(failure));
 }
 
 } // namespace designs

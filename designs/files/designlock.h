@@ -21,6 +21,7 @@ public:
 
 private:
     FileWork &m_work;
+    QString m_design;
     QString m_path;
     int m_file = -1;
 };

@@ -29,7 +29,8 @@ QString folderOf(const QString &path)
 }
 
 DesignPaths::DesignPaths(const QString &design)
-    : m_design(withoutLinks(design))
+    : m_named(QFileInfo(design).absoluteFilePath())
+    , m_design(withoutLinks(design))
     , m_folder(folderOf(m_design))
     , m_name(QFileInfo(m_design).fileName())
 {

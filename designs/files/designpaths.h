@@ -6,13 +6,16 @@
 
 namespace designs {
 
-/// Where the files lie that belong to writing one design. All paths are absolute, without symbolic links.
+/// Where the files lie that belong to writing one design. All paths are absolute and, but for
+/// named(), without symbolic links.
 class DesignPaths final
 {
 public:
     explicit DesignPaths(const QString &design);
 
     [[nodiscard]] const QString &design() const { return m_design; }
+    /// The design as it was named, symbolic links kept.
+    [[nodiscard]] const QString &named() const { return m_named; }
     [[nodiscard]] const QString &folder() const { return m_folder; }
     /// What an interrupted write left to do.
     [[nodiscard]] QString journal() const;
@@ -34,6 +37,7 @@ public:
     [[nodiscard]] bool mayHold(const QString &target) const;
 
 private:
+    QString m_named;
     QString m_design;
     QString m_folder;
     QString m_name;

@@ -66,13 +66,16 @@ bool FileTransaction::prepareFile(const Replacement &file, const JournalEntry &e
         return m_work.fail(entry.target, QStringLiteral("was changed since it was read"));
     }
     const FileStatus like = m_work.status(entry.target);
-    if (like.kind != FileStatus::Kind::File || !m_work.writeFile(entry.prepared, *file.after, like) ||
-        !m_work.writeFile(entry.saved, *previous, like)) {
+    if (like.kind != FileStatus::Kind::File ||
+        !m_work.writeFile(file.path, entry.prepared, *file.after, like) ||
+        !m_work.writeFile(file.path, entry.saved, *previous, like)) {
         return false;
     }
     return (m_work.status(entry.prepared).size == entry.after.size &&
             m_work.status(entry.saved).size == entry.before.size) ||
-           m_work.fail(entry.prepared, QStringLiteral("does not hold what was written to it"));
+           m_work.fail(file.path, QStringLiteral("cannot be written: ") + entry.prepared +
+                                      QStringLiteral(" or ") + entry.saved +
+                                      QStringLiteral(" does not hold what was written to it"));
 }
 
 bool FileTransaction::prepareRecord()
@@ -86,7 +89,7 @@ bool FileTransaction::prepareRecord()
     }
     const FileStatus like = m_work.status(m_paths.design());
     return like.kind != FileStatus::Kind::Other &&
-           m_work.writeFile(m_journal.newRecord, record.toJson(m_paths), like);
+           m_work.writeFile(m_paths.design(), m_journal.newRecord, record.toJson(m_paths), like);
 }
 
 bool FileTransaction::saveJournal(Journal::State state)
@@ -95,7 +98,7 @@ bool FileTransaction::saveJournal(Journal::State state)
     journal.state = state;
     const FileStatus like = m_work.status(m_paths.design());
     if (like.kind == FileStatus::Kind::Other || !m_work.removeIfThere(m_paths.newJournal()) ||
-        !m_work.writeFile(m_paths.newJournal(), journal.toJson(m_paths), like) ||
+        !m_work.writeFile(m_paths.design(), m_paths.newJournal(), journal.toJson(m_paths), like) ||
         !m_work.rename(m_paths.newJournal(), m_paths.journal())) {
         return false;
     }
@@ -185,7 +188,7 @@ bool FileTransaction::restore(const JournalEntry &entry)
                                              entry.saved);
     }
     return m_work.removeIfThere(entry.prepared) &&
-           m_work.writeFile(entry.prepared, *previous, m_work.status(entry.saved)) &&
+           m_work.writeFile(entry.target, entry.prepared, *previous, m_work.status(entry.saved)) &&
            m_work.rename(entry.prepared, entry.target);
 }
 

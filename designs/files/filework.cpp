@@ -25,7 +25,7 @@ bool FileWork::did(int failure, const QString &path, const QString &what)
     return failure == 0 || fail(path, what + QStringLiteral(": ") + qt_error_string(failure));
 }
 
-bool FileWork::writeFile(const QString &path, const QByteArray &bytes, const FileStatus &like)
+bool FileWork::makeFile(const QString &path, const QByteArray &bytes, const FileStatus &like)
 {
     int file = -1;
     if (!did(m_system.create(path, &file), path, QStringLiteral("cannot be created"))) {
@@ -33,6 +33,18 @@ bool FileWork::writeFile(const QString &path, const QByteArray &bytes, const Fil
     }
     const bool filled = fill(file, path, bytes, like);
     return did(m_system.close(file), path, QStringLiteral("cannot be written")) && filled;
+}
+
+bool FileWork::writeFile(const QString &owner, const QString &path, const QByteArray &bytes,
+                         const FileStatus &like)
+{
+    const std::size_t before = m_problems.size();
+    const bool isWritten = makeFile(path, bytes, like);
+    for (std::size_t number = before; number < m_problems.size(); ++number) {
+        Problem &problem = m_problems[number];
+        problem = {owner, 0, QStringLiteral("cannot be written: ") + problem.file + u' ' + problem.text};
+    }
+    return isWritten;
 }
 
 bool FileWork::fill(int file, const QString &path, const QByteArray &bytes, const FileStatus &like)

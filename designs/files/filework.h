@@ -27,8 +27,10 @@ public:
     /// Adds a problem; always false.
     bool fail(const QString &path, const QString &text);
 
-    /// A file with that content and the permissions of another, on the disk when this returns.
-    bool writeFile(const QString &path, const QByteArray &bytes, const FileStatus &like);
+    /// A file with that content and the permissions of another, on the disk when this returns. Problems name
+    /// the owner first, the file that people know and that it is written for.
+    bool writeFile(const QString &owner, const QString &path, const QByteArray &bytes,
+                   const FileStatus &like);
     bool rename(const QString &from, const QString &to);
     bool makeFolder(const QString &path);
     /// Makes the changes in the folders of these files last.
@@ -45,6 +47,7 @@ public:
     [[nodiscard]] bool exists(const QString &path);
 
 private:
+    bool makeFile(const QString &path, const QByteArray &bytes, const FileStatus &like);
     bool did(int failure, const QString &path, const QString &what);
     bool fill(int file, const QString &path, const QByteArray &bytes, const FileStatus &like);
 

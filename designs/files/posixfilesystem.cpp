@@ -54,6 +54,12 @@ FileStatus::Kind kindOf(mode_t mode)
     return S_ISDIR(mode) ? FileStatus::Kind::Folder : FileStatus::Kind::Other;
 }
 
+bool isPlain(int file)
+{
+    struct stat opened = {};
+    return ::fstat(file, &opened) == 0 && S_ISREG(opened.st_mode);
+}
+
 /// Whether the path still leads to the open file: whoever had the lock before may have removed it.
 bool isStillThere(const QByteArray &path, int file)
 {
@@ -162,8 +168,16 @@ int PosixFileSystem::lock(const QString &path, int *file)
 {
     const QByteArray name = QFile::encodeName(path);
     while (true) {
-        Descriptor opened(::open(name.constData(), O_RDONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666));
-        if (opened.number() < 0 || ::flock(opened.number(), LOCK_EX | LOCK_NB) != 0) {
+        // Opening a pipe would wait for its other end.
+        Descriptor opened(
+            ::open(name.constData(), O_RDONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
+        if (opened.number() < 0) {
+            return errno;
+        }
+        if (!isPlain(opened.number())) {
+            return EEXIST;
+        }
+        if (::flock(opened.number(), LOCK_EX | LOCK_NB) != 0) {
             return errno;
         }
         if (isStillThere(name, opened.number())) {

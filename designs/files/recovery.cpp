@@ -10,8 +10,12 @@ namespace designs {
 
 bool Recovery::isNeeded()
 {
-    return m_work.exists(m_paths.journal()) || m_work.exists(m_paths.newJournal()) ||
-           m_work.exists(m_paths.lock());
+    return isWaiting() || m_work.exists(m_paths.newJournal()) || m_work.exists(m_paths.lock());
+}
+
+bool Recovery::isWaiting()
+{
+    return m_work.exists(m_paths.journal());
 }
 
 bool Recovery::run()
@@ -118,15 +122,15 @@ bool Recovery::giveUp(FileTransaction &transaction)
 
 bool Recovery::checkNotOpen(const Journal &journal)
 {
-    QStringList files = {m_paths.design()};
+    QStringList paths{m_paths.named(), m_paths.design()};
     for (const JournalEntry &entry : journal.entries) {
-        files << entry.target;
+        paths << entry.target;
     }
-    files.removeDuplicates();
+    paths.removeDuplicates();
     bool closed = true;
-    for (const QString &file : std::as_const(files)) {
-        if (const auto who = openElsewhere(file)) {
-            closed = m_work.fail(file, QStringLiteral("a write was interrupted, but this file ") + *who);
+    for (const QString &path : std::as_const(paths)) {
+        if (const auto who = openElsewhere(path)) {
+            closed = m_work.fail(path, QStringLiteral("a write was interrupted, but this file ") + *who);
         }
     }
     return closed;

@@ -18,6 +18,8 @@ public:
 
     /// Whether there is anything to look at; needs no lock.
     [[nodiscard]] bool isNeeded();
+    /// Whether there is a write that has begun and not ended.
+    [[nodiscard]] bool isWaiting();
 
     /// With the lock taken. False when an interrupted write stays; the work's problems tell why. What was
     /// done is told in report().

@@ -19,21 +19,26 @@ constexpr quint32 anyWriteBit = 0222;
 bool WriteCheck::run(std::span<const FileEdit> files, bool keepsBackups)
 {
     bool possible = true;
-    bool withDesign = false;
     for (const FileEdit &file : files) {
         possible = checkFile(file, keepsBackups) && possible;
-        withDesign = withDesign || QFileInfo(file.path).canonicalFilePath() == m_paths.design();
     }
-    // KiCad marks the root sheet alone when it has them all open.
-    possible = (withDesign || checkClosed(m_paths.design(), m_paths.design())) && possible;
+    possible = checkDesignClosed() && possible;
     return checkFolders(keepsBackups) && possible;
 }
 
 bool WriteCheck::checkStillClosed()
 {
-    return checkClosed(m_paths.design(), m_paths.design()) &&
-           std::ranges::all_of(m_replacements,
-                               [this](const auto &file) { return checkClosed(file.path, file.target); });
+    return checkDesignClosed() && std::ranges::all_of(m_replacements, [this](const auto &file) {
+               return checkClosed(file.path, file.target);
+           });
+}
+
+/// KiCad marks the sheet that it was asked to open, and holds those below it in memory, too.
+bool WriteCheck::checkDesignClosed()
+{
+    const bool isTold = std::ranges::any_of(
+        m_work.problems(), [this](const Problem &problem) { return problem.file == m_paths.named(); });
+    return isTold || checkClosed(m_paths.named(), m_paths.design());
 }
 
 bool WriteCheck::checkClosed(const QString &path, const QString &target)

@@ -23,7 +23,7 @@ public:
     /// False when one of them cannot; the work's problems tell why.
     bool run(std::span<const FileEdit> files, bool keepsBackups);
 
-    /// False when one of them was opened in KiCad meanwhile.
+    /// False when one of them, or the design, was opened in KiCad meanwhile.
     bool checkStillClosed();
 
     /// The files as they are to be replaced, links followed; of files that stay valid and unmoved.
@@ -31,6 +31,7 @@ public:
 
 private:
     bool checkClosed(const QString &path, const QString &target);
+    bool checkDesignClosed();
     bool checkFile(const FileEdit &file, bool keepsBackups);
     bool checkKind(const FileEdit &file, const QString &target);
     bool checkWritable(const QString &path, const QString &target);

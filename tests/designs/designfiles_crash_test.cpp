@@ -104,6 +104,12 @@ TEST_F(DesignFilesCrashTest, EveryFailureIsReportedAndLeavesAllOldOrAllNew)
             ASSERT_EQ(version(), design.replaced() ? 1 : 0) << joined(problems);
             if (!design.replaced()) {
                 EXPECT_THAT(joined(problems), HasSubstr(failure == EIO ? "error" : "space"));
+                for (const Problem &problem : problems) {
+                    const QString name = QFileInfo(problem.file).fileName();
+                    EXPECT_FALSE(name.startsWith(QLatin1String(".bom-")) &&
+                                 problem.text.contains(QLatin1String("written")))
+                        << problem.message().toStdString();
+                }
                 EXPECT_EQ(listing(), "a.kicad_sch\nboard.kicad_sch\nsub\nsub/a.kicad_sch");
             }
             static_cast<void>(files().recover());

@@ -52,9 +52,11 @@ TEST_F(DesignFilesTest, RefusesWhatWouldLoseOthersWork)
     refused("sub/a.kicad_sch: is open in KiCad (anna on desk)");
     QFile::remove(path("sub/~a.kicad_sch.lck"));
 
-    put("~board.kicad_sch.lck", R"({"username":"ben"})");
-    const std::vector<FileEdit> subSheet(planned.end() - 1, planned.end());
-    EXPECT_THAT(joined(files().check(subSheet)), HasSubstr("board.kicad_sch: is open in KiCad (ben)"));
+    // KiCad marks only the sheet at the top of those that it holds.
+    put("~board.kicad_sch.lck", "{}");
+    EXPECT_THAT(joined(files().write(std::span(planned).subspan(1), Backups::Keep)),
+                HasSubstr("board.kicad_sch: is open in KiCad (somebody)"));
+    EXPECT_EQ(files().check(planned).size(), 1U);
     QFile::remove(path("~board.kicad_sch.lck"));
 
     put(names[2], "changed");
@@ -126,6 +128,18 @@ TEST_F(DesignFilesTest, HostileJournalsAreRefused)
         EXPECT_EQ(listing(), before);
         EXPECT_EQ(version(), 0);
     }
+}
+
+TEST_F(DesignFilesTest, WhatIsInTheWayIsNamedAndNeverWaitedFor)
+{
+    const QByteArray lock = path(".board.kicad_sch.bom-lock").toLocal8Bit();
+    ASSERT_EQ(::mkfifo(lock.constData(), 0600), 0);
+    EXPECT_THAT(joined(files().write(edits(1), Backups::Keep)),
+                HasSubstr("board.kicad_sch: cannot be written: " + lock.toStdString()));
+    ASSERT_EQ(::unlink(lock.constData()), 0);
+
+    ASSERT_EQ(::mkfifo(path("pipe.kicad_sch").toLocal8Bit().constData(), 0600), 0);
+    EXPECT_FALSE(fingerprintOfFile(path("pipe.kicad_sch")));
 }
 
 TEST_F(DesignFilesTest, OneProcessWritesAtATime)

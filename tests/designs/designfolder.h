@@ -34,7 +34,10 @@ public:
     load(const QString &name = QStringLiteral("root.kicad_sch"), const QString &variant = {}) const;
 
 private:
-    QTemporaryDir m_folder;
+    /// In memory where the system has a place for that: the tests write thousands of small files.
+    static QString form();
+
+    QTemporaryDir m_folder{form()};
 };
 
 /// The references of all components in their order, separated by blanks.
