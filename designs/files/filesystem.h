@@ -48,12 +48,18 @@ public:
 
     /// Creates a file that must not exist, readable by its owner alone.
     [[nodiscard]] virtual int create(const QString &path, int *file) = 0;
+    /// Opens a file that is there, for sync() only.
+    [[nodiscard]] virtual int open(const QString &path, int *file) = 0;
     [[nodiscard]] virtual int write(int file, std::string_view bytes, std::size_t *written) = 0;
     /// Gives the file the permissions and, as far as this user may, the owner and group of another.
     [[nodiscard]] virtual int setAttributes(int file, const FileStatus &like) = 0;
+    /// Begins to bring what was written to the disk, without waiting.
+    virtual void startSync(int file) = 0;
     [[nodiscard]] virtual int sync(int file) = 0;
     [[nodiscard]] virtual int close(int file) = 0;
 
+    /// Gives the file a further name, which must be free.
+    [[nodiscard]] virtual int link(const QString &file, const QString &name) = 0;
     [[nodiscard]] virtual int rename(const QString &from, const QString &to) = 0;
     [[nodiscard]] virtual int remove(const QString &path) = 0;
     [[nodiscard]] virtual int makeFolder(const QString &path) = 0;
