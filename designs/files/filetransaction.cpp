@@ -55,8 +55,9 @@ bool FileTransaction::prepare(const std::vector<Replacement> &files, bool keepsB
         }
     }
     // The folder of the design holds that of the backups, which may be new.
-    return prepareRecord() && m_work.syncFoldersOf(all(&JournalEntry::prepared)
-                                                   << all(&JournalEntry::saved) << m_paths.design());
+    return prepareRecord() && m_work.syncWritten() &&
+           m_work.syncFoldersOf(all(&JournalEntry::prepared)
+                                << all(&JournalEntry::saved) << m_paths.design());
 }
 
 bool FileTransaction::prepareFile(const Replacement &file, const JournalEntry &entry)
@@ -67,8 +68,8 @@ bool FileTransaction::prepareFile(const Replacement &file, const JournalEntry &e
     }
     const FileStatus like = m_work.status(entry.target);
     if (like.kind != FileStatus::Kind::File ||
-        !m_work.writeFile(file.path, entry.prepared, *file.after, like) ||
-        !m_work.writeFile(file.path, entry.saved, *previous, like)) {
+        !m_work.writeLater(file.path, entry.prepared, *file.after, like) ||
+        !m_work.keep(file.path, entry.target, entry.saved, *previous, like)) {
         return false;
     }
     return (m_work.status(entry.prepared).size == entry.after.size &&

@@ -5,6 +5,7 @@
 #include "designs/files/designpaths.h"
 
 #include <cerrno>
+#include <utility>
 
 namespace designs {
 
@@ -25,29 +26,47 @@ bool FileWork::did(int failure, const QString &path, const QString &what)
     return failure == 0 || fail(path, what + QStringLiteral(": ") + qt_error_string(failure));
 }
 
-bool FileWork::makeFile(const QString &path, const QByteArray &bytes, const FileStatus &like)
+bool FileWork::writeFile(const QString &owner, const QString &path, const QByteArray &bytes,
+                         const FileStatus &like)
+{
+    return make(owner, path, bytes, like, Sync::Now);
+}
+
+bool FileWork::writeLater(const QString &owner, const QString &path, const QByteArray &bytes,
+                          const FileStatus &like)
+{
+    m_unsynced.push_back({owner, path});
+    return make(owner, path, bytes, like, Sync::Later);
+}
+
+bool FileWork::make(const QString &owner, const QString &path, const QByteArray &bytes,
+                    const FileStatus &like, Sync sync)
+{
+    const std::size_t before = m_problems.size();
+    const bool isWritten = makeFile(path, bytes, like, sync);
+    tellOwner(owner, before);
+    return isWritten;
+}
+
+void FileWork::tellOwner(const QString &owner, std::size_t firstProblem)
+{
+    for (std::size_t number = firstProblem; number < m_problems.size(); ++number) {
+        Problem &problem = m_problems[number];
+        problem = {owner, 0, QStringLiteral("cannot be written: ") + problem.file + u' ' + problem.text};
+    }
+}
+
+bool FileWork::makeFile(const QString &path, const QByteArray &bytes, const FileStatus &like, Sync sync)
 {
     int file = -1;
     if (!did(m_system.create(path, &file), path, QStringLiteral("cannot be created"))) {
         return false;
     }
-    const bool filled = fill(file, path, bytes, like);
+    const bool filled = fill(file, path, bytes, like, sync);
     return did(m_system.close(file), path, QStringLiteral("cannot be written")) && filled;
 }
 
-bool FileWork::writeFile(const QString &owner, const QString &path, const QByteArray &bytes,
-                         const FileStatus &like)
-{
-    const std::size_t before = m_problems.size();
-    const bool isWritten = makeFile(path, bytes, like);
-    for (std::size_t number = before; number < m_problems.size(); ++number) {
-        Problem &problem = m_problems[number];
-        problem = {owner, 0, QStringLiteral("cannot be written: ") + problem.file + u' ' + problem.text};
-    }
-    return isWritten;
-}
-
-bool FileWork::fill(int file, const QString &path, const QByteArray &bytes, const FileStatus &like)
+bool FileWork::fill(int file, const QString &path, const QByteArray &bytes, const FileStatus &like, Sync sync)
 {
     std::string_view rest(bytes.constData(), std::size_t(bytes.size()));
     while (!rest.empty()) {
@@ -58,8 +77,41 @@ bool FileWork::fill(int file, const QString &path, const QByteArray &bytes, cons
         }
         rest.remove_prefix(written);
     }
-    return did(m_system.setAttributes(file, like), path, QStringLiteral("cannot get its permissions")) &&
-           did(m_system.sync(file), path, QStringLiteral("cannot be written"));
+    if (!did(m_system.setAttributes(file, like), path, QStringLiteral("cannot get its permissions"))) {
+        return false;
+    }
+    if (sync == Sync::Later) {
+        m_system.startSync(file);
+        return true;
+    }
+    return did(m_system.sync(file), path, QStringLiteral("cannot be written"));
+}
+
+bool FileWork::syncWritten()
+{
+    bool done = true;
+    for (const Written &written : std::exchange(m_unsynced, {})) {
+        const std::size_t before = m_problems.size();
+        done = syncFile(written.path) && done;
+        tellOwner(written.owner, before);
+    }
+    return done;
+}
+
+bool FileWork::syncFile(const QString &path)
+{
+    int file = -1;
+    if (!did(m_system.open(path, &file), path, QStringLiteral("cannot be opened again"))) {
+        return false;
+    }
+    const bool isSynced = did(m_system.sync(file), path, QStringLiteral("cannot be written"));
+    return did(m_system.close(file), path, QStringLiteral("cannot be written")) && isSynced;
+}
+
+bool FileWork::keep(const QString &owner, const QString &file, const QString &name, const QByteArray &content,
+                    const FileStatus &like)
+{
+    return m_system.link(file, name) == 0 || writeLater(owner, name, content, like);
 }
 
 bool FileWork::rename(const QString &from, const QString &to)

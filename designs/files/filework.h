@@ -31,6 +31,14 @@ public:
     /// the owner first, the file that people know and that it is written for.
     bool writeFile(const QString &owner, const QString &path, const QByteArray &bytes,
                    const FileStatus &like);
+    /// The same, but on the disk only after syncWritten().
+    bool writeLater(const QString &owner, const QString &path, const QByteArray &bytes,
+                    const FileStatus &like);
+    /// Brings to the disk what was written for later, all at once.
+    bool syncWritten();
+    /// The file under a further name, or a copy of its content where it can have but one.
+    bool keep(const QString &owner, const QString &file, const QString &name, const QByteArray &content,
+              const FileStatus &like);
     bool rename(const QString &from, const QString &to);
     bool makeFolder(const QString &path);
     /// Makes the changes in the folders of these files last.
@@ -47,12 +55,29 @@ public:
     [[nodiscard]] bool exists(const QString &path);
 
 private:
-    bool makeFile(const QString &path, const QByteArray &bytes, const FileStatus &like);
+    enum class Sync
+    {
+        Now,
+        Later
+    };
+    struct Written
+    {
+        QString owner;
+        QString path;
+    };
+
+    bool make(const QString &owner, const QString &path, const QByteArray &bytes, const FileStatus &like,
+              Sync sync);
+    bool makeFile(const QString &path, const QByteArray &bytes, const FileStatus &like, Sync sync);
+    bool syncFile(const QString &path);
+    /// Tells the problems from that one on of the file that the user knows.
+    void tellOwner(const QString &owner, std::size_t firstProblem);
     bool did(int failure, const QString &path, const QString &what);
-    bool fill(int file, const QString &path, const QByteArray &bytes, const FileStatus &like);
+    bool fill(int file, const QString &path, const QByteArray &bytes, const FileStatus &like, Sync sync);
 
     FileSystem &m_system;
     std::vector<Problem> m_problems;
+    std::vector<Written> m_unsynced;
 };
 
 } // namespace designs

@@ -103,6 +103,12 @@ int PosixFileSystem::create(const QString &path, int *file)
     return failureOf(*file);
 }
 
+int PosixFileSystem::open(const QString &path, int *file)
+{
+    *file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    return failureOf(*file);
+}
+
 int PosixFileSystem::write(int file, std::string_view bytes, std::size_t *written)
 {
     const ssize_t count = ::write(file, bytes.data(), bytes.size());
@@ -124,6 +130,13 @@ int PosixFileSystem::setAttributes(int file, const FileStatus &like)
     return failureOf(::fchmod(file, like.mode));
 }
 
+void PosixFileSystem::startSync([[maybe_unused]] int file)
+{
+#ifdef SYNC_FILE_RANGE_WRITE
+    (void)::sync_file_range(file, 0, 0, SYNC_FILE_RANGE_WRITE);
+#endif
+}
+
 int PosixFileSystem::sync(int file)
 {
     return failureOf(::fsync(file));
@@ -132,6 +145,11 @@ int PosixFileSystem::sync(int file)
 int PosixFileSystem::close(int file)
 {
     return failureOf(::close(file));
+}
+
+int PosixFileSystem::link(const QString &file, const QString &name)
+{
+    return failureOf(::link(QFile::encodeName(file).constData(), QFile::encodeName(name).constData()));
 }
 
 int PosixFileSystem::rename(const QString &from, const QString &to)

@@ -35,6 +35,15 @@ public:
     {
         return run([&] { return PosixFileSystem::create(path, file); });
     }
+    int open(const QString &path, int *file) override
+    {
+        return run([&] { return PosixFileSystem::open(path, file); });
+    }
+    int link(const QString &file, const QString &name) override
+    {
+        return run([&] { return PosixFileSystem::link(file, name); });
+    }
+    void startSync(int) override {}
     int write(int file, std::string_view bytes, std::size_t *written) override
     {
         // In small pieces, so that a file can be left half written.
