@@ -185,6 +185,7 @@ void PartListPlanner::writeRow(std::string *out, std::size_t row)
     if (m_nextChange < m_changes.size() && m_changes[m_nextChange].component < m_nextComponent) {
         m_order.resize(m_order.size() - (m_nextComponent - first));
         m_nextComponent = first;
+        m_rowEdit = m_changes[m_nextChange].edit;
         writeGroups(out, row, groupsOf(row));
         return;
     }
@@ -256,7 +257,7 @@ bool PartListPlanner::nameReferences(const CsvRow &record, std::vector<Group> *g
                 QStringLiteral("the references ") + inMessage(cell) +
                 QStringLiteral(" cannot be parted into rows of their own: write each with its "
                                "letters");
-            m_plan.problems.push_back({std::nullopt, {m_list.info().file, int(record.line), why}});
+            m_plan.problems.push_back({m_rowEdit, {m_list.info().file, int(record.line), why}});
             return false;
         }
         group.cells.push_back({columns.reference, *text});

@@ -68,6 +68,8 @@ private:
     /// Sorted by component and column, the last of each.
     std::vector<Change> m_changes;
     std::size_t m_nextChange = 0;
+    /// One of the edits of the row that is written.
+    std::size_t m_rowEdit = 0;
     std::size_t m_nextComponent = 0;
     std::vector<std::string> m_newColumns;
     std::unordered_map<std::string, std::size_t> m_newColumnIndices;

@@ -73,10 +73,9 @@ void EditPlanner::refuse(std::size_t edit, const QString &why)
         m_plan.problems.push_back({edit, {m_model.hierarchy().files().front().path, 0, why}});
         return;
     }
-    m_plan.problems.push_back(
-        {edit,
-         {m_model.sheetOf(m_model.places(asked.component).front()).path, m_model.lineOf(asked.component),
-          referenceOf(asked.component) + u' ' + toText(asked.name) + QStringLiteral(": ") + why}});
+    m_plan.problems.push_back({edit,
+                               {m_model.sheetOf(m_model.places(asked.component).front()).path,
+                                m_model.lineOf(asked.component), why}});
 }
 
 /// Of several edits of one property of one component the last counts.

@@ -31,9 +31,10 @@ private:
     void refuseConflicts();
     [[nodiscard]] std::vector<std::string> sharedKeys(const ResolvedEdit &edit) const;
     void apply(std::size_t edit);
-    void applyProperty(const ResolvedEdit &edit, const SymbolUse &place);
-    void applyNotFitted(bool wanted, const SymbolUse &place, std::size_t component);
-    void applyNotInBom(bool wanted, const SymbolUse &place);
+    /// These tell whether anything becomes of the symbol.
+    bool applyProperty(const ResolvedEdit &edit, const SymbolUse &place);
+    bool applyNotFitted(bool wanted, const SymbolUse &place, std::size_t component);
+    bool applyNotInBom(bool wanted, const SymbolUse &place);
     void setText(const SymbolUse &place, std::string_view name, const std::optional<std::string> &text);
     void setRows(const SymbolUse &place, std::string_view name, const std::string &text);
     [[nodiscard]] std::vector<std::size_t> alsoChanges(const ResolvedEdit &edit) const;

@@ -47,27 +47,34 @@ void EditPlanner::apply(std::size_t number)
 {
     const ResolvedEdit &edit = m_edits.at(number);
     const auto places = m_model.places(edit.component);
+    const SymbolUse *site = nullptr;
     for (const SymbolUse &place : places) {
+        bool changes = false;
         if (edit.target == EditTarget::NotFitted) {
-            applyNotFitted(edit.wanted.has_value(), place, edit.component);
+            changes = applyNotFitted(edit.wanted.has_value(), place, edit.component);
         } else if (edit.target == EditTarget::NotInBom) {
-            applyNotInBom(edit.wanted.has_value(), place);
+            changes = applyNotInBom(edit.wanted.has_value(), place);
         } else {
-            applyProperty(edit, place);
+            changes = applyProperty(edit, place);
         }
+        site = changes && !site ? &place : site;
     }
-    changeOf(places.front()).effects.push_back(m_plan.effects.size());
-    m_plan.effects.push_back({number, edit.name, edit.before, edit.wanted,
-                              m_model.sheetOf(places.front()).path, 0, alsoChanges(edit)});
+    site = site ? site : &places.front();
+    changeOf(*site).effects.push_back(m_plan.effects.size());
+    m_plan.effects.push_back(
+        {number, edit.name, edit.before, edit.wanted, m_model.sheetOf(*site).path, 0, alsoChanges(edit)});
 }
 
-void EditPlanner::applyProperty(const ResolvedEdit &edit, const SymbolUse &place)
+bool EditPlanner::applyProperty(const ResolvedEdit &edit, const SymbolUse &place)
 {
     const auto own = m_model.nameIn(place, edit.name);
     const bool isVariant = !m_model.variant().empty();
-    if (own || (edit.wanted && !isVariant)) {
-        setText(place, own.value_or(edit.name), edit.wanted ? std::optional(edit.written) : std::nullopt);
+    if (!own && (!edit.wanted || isVariant)) {
+        return false;
     }
+    const auto text = edit.wanted ? std::optional(edit.written) : std::nullopt;
+    setText(place, own.value_or(edit.name), text);
+    return !own || m_model.usedText(place, *own) != text;
 }
 
 void EditPlanner::setText(const SymbolUse &place, std::string_view name,
@@ -97,13 +104,15 @@ void EditPlanner::setRows(const SymbolUse &place, std::string_view name, const s
 }
 
 /// The flag, and properties of that name so that they do not say otherwise.
-void EditPlanner::applyNotFitted(bool wanted, const SymbolUse &place, std::size_t component)
+bool EditPlanner::applyNotFitted(bool wanted, const SymbolUse &place, std::size_t component)
 {
     const PlacedSymbol &symbol = m_model.symbolOf(place);
     const bool hasFlag = knowsNotFitted(m_model.sheetOf(place), symbol);
-    if (!m_model.variant().empty()) {
+    const bool isVariant = !m_model.variant().empty();
+    bool changes = isVariant || (hasFlag && symbol.dnp != wanted);
+    if (isVariant) {
         variantChangeOf(place).dnp = wanted;
-    } else if (hasFlag && symbol.dnp != wanted) {
+    } else if (changes) {
         changeOf(place).dnp = wanted;
     }
     const auto ids = m_model.names().candidates("DNP");
@@ -115,6 +124,7 @@ void EditPlanner::applyNotFitted(bool wanted, const SymbolUse &place, std::size_
         if (!text || saysNotFitted(m_model.resolved(component, *text)) == wanted) {
             continue;
         }
+        changes = true;
         if (wanted) {
             setText(place, name, "1");
         } else {
@@ -123,22 +133,28 @@ void EditPlanner::applyNotFitted(bool wanted, const SymbolUse &place, std::size_
     }
     if (wanted && !hasFlag && !hasProperty) {
         setText(place, ids.empty() ? std::string_view("DNP") : m_model.names().name(ids.front()), "1");
+        changes = true;
     }
+    return changes;
 }
 
-void EditPlanner::applyNotInBom(bool wanted, const SymbolUse &place)
+bool EditPlanner::applyNotInBom(bool wanted, const SymbolUse &place)
 {
-    if (!m_model.variant().empty()) {
+    const bool isVariant = !m_model.variant().empty();
+    bool changes = isVariant || m_model.symbolOf(place).inBom == wanted;
+    if (isVariant) {
         variantChangeOf(place).inBom = !wanted;
-    } else if (m_model.symbolOf(place).inBom == wanted) {
+    } else if (changes) {
         changeOf(place).inBom = !wanted;
     }
     for (const NameId id : m_model.names().candidates("BOMSKIP")) {
         const std::string_view name = m_model.names().name(id);
         if (!wanted && m_model.usedText(place, name)) {
             setText(place, name, std::nullopt);
+            changes = true;
         }
     }
+    return changes;
 }
 
 } // namespace designs::kicad

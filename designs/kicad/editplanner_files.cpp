@@ -46,6 +46,8 @@ public:
     }
 
     [[nodiscard]] const Problem &problem() const { return m_problem; }
+    /// The edit that the problem is one of; nothing for one of the file.
+    [[nodiscard]] std::optional<std::size_t> refused() const { return m_refused; }
 
 private:
     bool fail(std::size_t offset, const QString &text)
@@ -62,6 +64,8 @@ private:
         }
         const QString refusal = m_writer.write(*node, placed, change, m_names);
         if (!refusal.isEmpty()) {
+            m_refused = change.effects.empty() ? std::nullopt
+                                               : std::optional(plan->effects[change.effects.front()].edit);
             return fail(placed.offset, refusal);
         }
         m_lists.push_back({node->begin, node->end});
@@ -130,6 +134,7 @@ private:
     std::size_t m_lineOffset = 0;
     int m_line = 1;
     Problem m_problem;
+    std::optional<std::size_t> m_refused;
 };
 
 } // namespace
@@ -157,7 +162,7 @@ void EditPlanner::buildFile(quint32 number, const SheetChange &change)
     }
     SheetRewriter rewriter(m_buffer.text(), sheet, m_model.names(), m_model.variant());
     if (!rewriter.write(change, &m_plan)) {
-        m_plan.problems.push_back({std::nullopt, rewriter.problem()});
+        m_plan.problems.push_back({rewriter.refused(), rewriter.problem()});
     }
 }
 

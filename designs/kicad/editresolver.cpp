@@ -211,11 +211,23 @@ void EditResolver::resolveFlag(const Edit &edit, ResolvedEdit *resolved)
             resolved->before = std::string(*text);
         }
     }
-    resolved->changes = *wanted != resolved->before.has_value();
+    resolved->changes = *wanted != resolved->before.has_value() || (*wanted && unitsDiffer(*resolved));
     resolved->wanted = *wanted ? std::optional(std::string("1")) : std::nullopt;
     if (resolved->changes && !*wanted) {
         resolved->refusal = outsideRefusal(*resolved);
     }
+}
+
+/// Whether some of the component's symbols have the flag and others do not.
+bool EditResolver::unitsDiffer(const ResolvedEdit &resolved) const
+{
+    const auto places = m_model.places(resolved.component);
+    const auto isMarked = [&](const SymbolUse &place) {
+        const PlacedSymbol &symbol = m_model.symbolOf(place);
+        return resolved.target == EditTarget::NotFitted ? symbol.dnp : !symbol.inBom;
+    };
+    return m_model.variant().empty() && std::any_of(places.begin(), places.end(), isMarked) &&
+           !std::all_of(places.begin(), places.end(), isMarked);
 }
 
 QString EditResolver::outsideRefusal(const ResolvedEdit &resolved) const

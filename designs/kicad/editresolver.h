@@ -54,6 +54,7 @@ private:
     [[nodiscard]] QString removalRefusal(ResolvedEdit *resolved) const;
     [[nodiscard]] QString textRefusal(ResolvedEdit *resolved) const;
     [[nodiscard]] QString variantRefusal(const ResolvedEdit &resolved) const;
+    [[nodiscard]] bool unitsDiffer(const ResolvedEdit &resolved) const;
     [[nodiscard]] QString outsideRefusal(const ResolvedEdit &resolved) const;
     [[nodiscard]] std::optional<std::string> readText(std::size_t component, NameId id) const;
     [[nodiscard]] bool allPlacesRead(const ResolvedEdit &resolved) const;

@@ -40,11 +40,27 @@ private:
         while (node->gap > 0 && std::string_view(" \t\r\n").find(m_bytes[node->gap - 1]) != npos) {
             --node->gap;
         }
+        keepComment(node);
         const bool complete = node->keyword == "pin" || depth > SexprScanner::maximumDepth
                                   ? m_scanner.skipList()
                                   : walk(node, depth);
         node->end = m_offset + m_scanner.offset();
         return complete;
+    }
+
+    /// A comment goes to the end of its line, which therefore is not the list's own.
+    void keepComment(SexprNode *node) const
+    {
+        const std::size_t lineEnd = m_bytes.substr(0, node->begin).find('\n', node->gap);
+        if (lineEnd == npos || node->gap == 0) {
+            return;
+        }
+        const std::size_t before = m_bytes.rfind('\n', node->gap - 1);
+        const std::size_t line = before == npos ? 0 : before + 1;
+        const std::size_t first = m_bytes.find_first_not_of(" \t", line);
+        if (m_bytes[first] == '#') {
+            node->gap = lineEnd + 1;
+        }
     }
 
     bool walk(SexprNode *node, int depth)

@@ -197,3 +197,18 @@ TEST(KicadEditLayout, AStaleFileIsNotTouched)
               file.toStdString() + ": was changed since it was read; read the design again\n");
     EXPECT_EQ(plan.problems.at(0).edit, std::nullopt);
 }
+
+TEST(KicadEditLayout, CommentsSwallowNothing)
+{
+    const std::string before = tabs(20250114, "") + "\n  # (property \"X\" \"1\")\n" +
+                               "  (property \"A\" \"1\" (at 0 0 0)) (property \"B\" \"2\" (at 0 0 0))" +
+                               tabTail;
+    const DesignFolder folder;
+    const QString path = folder.write(root, before);
+    makeEdits(folder, {{"R1", "A"}});
+    EXPECT_EQ(contentOf(path), replaced(before, "  (property \"A\" \"1\" (at 0 0 0))", ""));
+    EXPECT_EQ(property(*folder.load(), "R1", "B"), "2");
+    makeEdits(folder, {{"R1", "B"}, {"R1", "C", "3"}});
+    EXPECT_EQ(property(*folder.load(), "R1", "B"), std::nullopt);
+    EXPECT_EQ(property(*folder.load(), "R1", "C"), "3");
+}

@@ -76,6 +76,21 @@ TEST(KicadEditShared, UnitsThatDifferAreMended)
     EXPECT_EQ(warnings(*folder.load()), "");
 }
 
+TEST(KicadEditShared, TellsTheFileThatChanges)
+{
+    const DesignFolder folder;
+    folder.write(root, schematic(v9, "top", sheet(v9, {.uuid = "h1"}) + unit(v9, 1, {}, "/top")));
+    std::string below = schematic(v9, "s", unit(v9, 2, {{"A", "1"}}, "/top/h1"));
+    below.insert(below.find("(unit 2)"), "(dnp yes) ");
+    const QString path = folder.write(sub, below);
+    // The second unit alone says so, which makes the first one wrong.
+    const auto plan = makeEdits(folder, {{"U1", "DNP", "1"}, {"U1", "A"}});
+    ASSERT_EQ(effectsOf(plan), "DNP: 1 > 1; A: 1 > -");
+    EXPECT_EQ(plan.effects[0].file, folder.path(root));
+    EXPECT_EQ(plan.effects[1].file, path);
+    EXPECT_EQ(warnings(*folder.load()), "");
+}
+
 TEST(KicadEditShared, ASheetUsedTwice)
 {
     for (const int version : {v7, v9, v10}) {
