@@ -19,7 +19,7 @@ std::string_view lastLine(std::string_view gap)
 
 } // namespace
 
-std::string quotedToken(std::string_view text)
+std::string quotedText(std::string_view text)
 {
     std::string result = "\"";
     result.reserve(text.size() + 2);

@@ -10,7 +10,7 @@
 namespace designs::kicad {
 
 /// The text as a quoted token, escaped as KiCad writes it.
-[[nodiscard]] std::string quotedToken(std::string_view text);
+[[nodiscard]] std::string quotedText(std::string_view text);
 
 /// How lists inside a list are set in a file: each on a line of its own, or all on one.
 class ListLayout

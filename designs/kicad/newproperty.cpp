@@ -91,7 +91,7 @@ private:
         const SexprAtom &first = m_sibling.atoms.front();
         const SexprAtom &last = m_sibling.atoms[std::min(name + 1, m_sibling.atoms.size() - 1)];
         m_splices.push_back(
-            {first.begin, last.end, quotedToken(property.name) + ' ' + quotedToken(property.value)});
+            {first.begin, last.end, quotedText(property.name) + ' ' + quotedText(property.value)});
     }
 
     void adapt(const SexprNode &list, int id)

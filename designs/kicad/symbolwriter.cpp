@@ -116,9 +116,9 @@ void SymbolWriter::replaceValue(const SexprNode &property, std::string_view text
 {
     const std::size_t value = isPrivate(m_bytes, property) ? 2 : 1;
     if (value < property.atoms.size()) {
-        m_splices->push_back({property.atoms[value].begin, property.atoms[value].end, quotedToken(text)});
+        m_splices->push_back({property.atoms[value].begin, property.atoms[value].end, quotedText(text)});
     } else {
-        m_splices->push_back({property.atoms.back().end, property.atoms.back().end, ' ' + quotedToken(text)});
+        m_splices->push_back({property.atoms.back().end, property.atoms.back().end, ' ' + quotedText(text)});
     }
 }
 
@@ -205,7 +205,7 @@ void SymbolWriter::write(const SexprNode &row, const RowChange &change)
     const auto replace = [&](std::string_view word, const std::optional<std::string> &text) {
         const SexprNode *list = row.last(word);
         if (text && list && !list->atoms.empty()) {
-            m_splices->push_back({list->atoms.front().begin, list->atoms.front().end, quotedToken(*text)});
+            m_splices->push_back({list->atoms.front().begin, list->atoms.front().end, quotedText(*text)});
         }
     };
     replace("value", change.value);

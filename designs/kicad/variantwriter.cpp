@@ -83,15 +83,15 @@ void VariantWriter::takeField(const TextChange &change, const Base &base)
     }
     const SexprNode *value = field->last("value");
     if (value && !value->atoms.empty()) {
-        m_inside.push_back({value->atoms.front().begin, value->atoms.front().end, quotedToken(*change.text)});
+        m_inside.push_back({value->atoms.front().begin, value->atoms.front().end, quotedText(*change.text)});
     } else if (value) {
         const std::size_t at = value->begin + std::string_view("(value").size();
-        m_inside.push_back({at, at, ' ' + quotedToken(*change.text)});
+        m_inside.push_back({at, at, ' ' + quotedText(*change.text)});
     } else {
         const std::size_t at = field->lists.back().end;
         m_inside.push_back(
             {at, at,
-             std::string(gapOf(m_bytes, field->lists.back())) + "(value " + quotedToken(*change.text) + ')'});
+             std::string(gapOf(m_bytes, field->lists.back())) + "(value " + quotedText(*change.text) + ')'});
     }
 }
 
@@ -130,16 +130,16 @@ void VariantWriter::insertLists(const SexprNode &path)
     const int level = isNew ? 1 : 0;
     std::string text;
     if (isNew) {
-        text = layout.gap() + "(variant" + layout.gap(1) + "(name " + quotedToken(m_variant) + ')';
+        text = layout.gap() + "(variant" + layout.gap(1) + "(name " + quotedText(m_variant) + ')';
     }
     for (const auto &[word, flag] : m_newFlags) {
         text += layout.gap(level) + '(' + word + (flag ? " yes)" : " no)");
     }
     for (const TextChange &field : m_newFields) {
         text +=
-            layout.gap(level) + "(field" + layout.gap(level + 1) + "(name " + quotedToken(field.name) + ')';
+            layout.gap(level) + "(field" + layout.gap(level + 1) + "(name " + quotedText(field.name) + ')';
         text +=
-            layout.gap(level + 1) + "(value " + quotedToken(*field.text) + ')' + layout.closing(level) + ')';
+            layout.gap(level + 1) + "(value " + quotedText(*field.text) + ')' + layout.closing(level) + ')';
     }
     text += isNew ? layout.closing(0) + ')' : std::string();
     m_splices->push_back({like.end, like.end, text});
