@@ -62,10 +62,13 @@ private:
             const auto cell = std::ranges::find(of, column, &PlannedCell::column);
             const auto text =
                 cell != of.end() ? std::string_view(cell->text) : m_list.cellText(index, column).value_or("");
-            if (column == columns.value) {
+            const std::string_view added = column < columns.names.size()
+                                               ? std::string_view()
+                                               : m_newColumns[column - columns.names.size()];
+            if (column == columns.value || isValueHeading(added)) {
                 m_value = text;
-            } else if (!text.empty() && column >= columns.names.size()) {
-                m_expected.emplace_back(m_newColumns[column - columns.names.size()], text);
+            } else if (!text.empty() && !added.empty()) {
+                m_expected.emplace_back(added, text);
             } else if (!text.empty() && columns.isProperty(column)) {
                 m_expected.emplace_back(columns.names[column], text);
             }

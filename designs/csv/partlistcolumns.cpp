@@ -303,6 +303,16 @@ bool isRoleHeading(std::string_view heading)
     return has(referenceHeadings) || has(valueHeadings) || has(footprintHeadings) || has(quantityHeadings);
 }
 
+bool isValueHeading(std::string_view heading)
+{
+    return std::ranges::find(valueHeadings, compact(heading)) != valueHeadings.end();
+}
+
+bool isFootprintHeading(std::string_view heading)
+{
+    return std::ranges::find(footprintHeadings, compact(heading)) != footprintHeadings.end();
+}
+
 bool isMarkerHeading(std::string_view heading)
 {
     const auto is = [](std::string_view text, std::string_view known) {

@@ -39,6 +39,9 @@ struct PartListColumns
 
 /// Whether a column with that heading would be taken for the references, value, footprint or quantity.
 [[nodiscard]] bool isRoleHeading(std::string_view heading);
+/// Whether it would be taken for the values, or for the footprints.
+[[nodiscard]] bool isValueHeading(std::string_view heading);
+[[nodiscard]] bool isFootprintHeading(std::string_view heading);
 
 /// Whether a column with that heading (BOMSKIP, BOMLINKS, BOMPART...) marks the parts in it by having
 /// contents: an empty cell is no property then.

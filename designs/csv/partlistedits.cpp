@@ -52,8 +52,11 @@ std::optional<QString> uncarried(std::string_view text, const CsvDialect &dialec
 }
 
 /// Why a heading cannot be added.
-std::optional<QString> unusableHeading(std::string_view name, const CsvDialect &dialect)
+std::optional<QString> unusableHeading(std::string_view name, const PartListColumns &columns,
+                                       const CsvDialect &dialect)
 {
+    const bool isMissing =
+        (isValueHeading(name) && !columns.value) || (isFootprintHeading(name) && !columns.footprint);
     const QString quoted = inMessage(name);
     if (name.empty() || isBlank(name.substr(0, 1)) || isBlank(name.substr(name.size() - 1))) {
         return QStringLiteral("the name ") + quoted + QStringLiteral(" is empty or has blanks around it");
@@ -61,7 +64,7 @@ std::optional<QString> unusableHeading(std::string_view name, const CsvDialect &
     if (name.find_first_of("\r\n") != std::string_view::npos) {
         return QStringLiteral("the name ") + quoted + QStringLiteral(" has a line break in it");
     }
-    if (isRoleHeading(name)) {
+    if (isRoleHeading(name) && !isMissing) {
         return QStringLiteral("the list has no column ") + quoted +
                QStringLiteral(", and one cannot be added under this name, which has a meaning of its own");
     }
@@ -120,7 +123,7 @@ std::optional<QString> PartList::checkEdit(const Edit &edit) const
     }
     const std::string_view text = edit.value ? std::string_view(*edit.value) : std::string_view();
     if (!column && !text.empty()) {
-        if (const auto why = unusableHeading(edit.name, m_dialect)) {
+        if (const auto why = unusableHeading(edit.name, m_columns, m_dialect)) {
             return why;
         }
     }

@@ -104,6 +104,9 @@ TEST_F(CsvEditTest, AddsAColumnForANewName)
     EXPECT_EQ(edited("Ref\nR1\n\nR2", {{"R2", "A", "x"}}), "Ref,A\nR1,\n\nR2,x");
     EXPECT_EQ(edited("Ref\nR1\n", {{"R1", "A", "x"}, {"R1", "B", "y"}, {"R1", "A", {}}}), "Ref,B\nR1,y\n");
     EXPECT_EQ(edited("Ref\nR1\n", {{"R1", "A", ""}, {"R1", "B", {}}}), "unchanged");
+    EXPECT_EQ(edited("Ref\nR1\n", {{"R1", "VALUE", "1k"}, {"R1", "PACKAGE", "0603"}}),
+              "Ref,VALUE,PACKAGE\nR1,1k,0603\n");
+    EXPECT_THAT(edited("Ref\nR1\n", {{"R1", "Qty", "1"}}), HasSubstr("no column \"Qty\""));
 }
 
 TEST_F(CsvEditTest, KeepsWindows1252AndRefusesWhatItLacks)
