@@ -205,6 +205,7 @@ public Q_SLOTS:
 private:
     class BulkChange;
     friend class CategoryGroups;
+    friend class PropertyAssignments;
 
     /// Takes links and definitions of BOM-only parts from components. Parts are made when all components are
     /// there.

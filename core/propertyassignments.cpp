@@ -5,6 +5,8 @@
 #include "core/bomlinks.h"
 #include "core/bompart.h"
 #include "core/bompartsdatabase.h"
+#include "core/bulkchange.h"
+#include "core/hostbatch.h"
 #include "core/reportstream.h"
 #include "core/storedconversion.h"
 #include "host/framework/hosttext.h"
@@ -43,30 +45,6 @@ void append(const QString &text, QString *result)
 
 } // namespace
 
-/// A batch of the host's. It is not written when it goes out of scope without commit().
-class PropertyAssignments::Batch final
-{
-public:
-    Batch() { getcdb()->beginbatch(); }
-    Batch(const Batch &) = delete;
-    Batch &operator=(const Batch &) = delete;
-    ~Batch()
-    {
-        if (!m_isDone) {
-            getcdb()->dropbatch();
-        }
-    }
-
-    [[nodiscard]] bool commit()
-    {
-        m_isDone = true;
-        return getcdb()->commitbatch();
-    }
-
-private:
-    bool m_isDone = false;
-};
-
 PropertyAssignments::PropertyAssignments(BOMPartsDatabase *database, QObject *parent)
     : QObject(parent)
     , m_database(database)
@@ -84,8 +62,13 @@ void PropertyAssignments::assignNow(const QString &reference, const QString &pro
         append(tr("There is no component database"), &m_result);
         return;
     }
+    HostBatch batch;
+    const QString problem = scriptProblem(reference, property, value);
+    if (!problem.isEmpty()) {
+        append(CDBPROBLEM{reference, property, {}, 0, problem}.message(), &m_result);
+        return;
+    }
     ReportStream report;
-    Batch batch;
     std::istringstream text(toHostText(script(reference, {{property, value}})).toStdString());
     getcdb()->adi(text, report, 0);
     const bool isWritten = batch.commit();
@@ -127,12 +110,12 @@ QString PropertyAssignments::apply()
     if (m_problems.isEmpty()) {
         run(batch, formerDefinitions);
     }
+    if (!bomParts.isEmpty() && (m_isDryRun || !m_problems.isEmpty())) {
+        // They were changed already, to see whether that can be written.
+        m_database->reload();
+    }
     if (!m_problems.isEmpty()) {
         m_pending = wanted;
-        if (!bomParts.isEmpty()) {
-            // They were changed already, to see whether that can be written.
-            m_database->reload();
-        }
         if (m_result.isEmpty()) {
             for (const CDBPROBLEM &problem : std::as_const(m_problems)) {
                 append((m_result.isEmpty() ? QString() : QStringLiteral("\n")) + problem.message(),
@@ -172,16 +155,22 @@ void PropertyAssignments::refuse(const QString &reference, const QString &proper
     m_problems.append({reference, property, {}, 0, reason});
 }
 
+bool PropertyAssignments::canCarry(const QString &reference, const QString &property, const QString &value)
+{
+    const QString problem = scriptProblem(reference, property, value);
+    if (!problem.isEmpty()) {
+        refuse(reference, property, problem);
+    }
+    return problem.isEmpty();
+}
+
 void PropertyAssignments::collectPlaced(const QString &reference, const Values &values,
                                         QMap<QString, Values> *batch)
 {
     for (auto it = values.cbegin(); it != values.cend(); ++it) {
         const QString stored = storedValue(it.key(), it.value());
-        const QString problem = scriptProblem(reference, it.key(), stored);
-        if (problem.isEmpty()) {
+        if (canCarry(reference, it.key(), stored)) {
             (*batch)[reference].insert(it.key(), stored.isEmpty() ? removal() : stored);
-        } else {
-            refuse(reference, it.key(), problem);
         }
     }
 }
@@ -191,6 +180,7 @@ void PropertyAssignments::collectBOMParts(const QMap<QString, Values> &assignmen
                                           QMap<QString, Values> *batch,
                                           QMap<QString, QStringList> *formerDefinitions)
 {
+    const BOMPartsDatabase::BulkChange change(m_database);
     for (auto it = assignments.cbegin(); it != assignments.cend(); ++it) {
         const auto *part = static_cast<const BOMPart *>(m_database->part(it.key()));
         const QString parent = part->parentReference();
@@ -203,13 +193,12 @@ void PropertyAssignments::collectBOMParts(const QMap<QString, Values> &assignmen
         }
     }
     for (auto it = formerDefinitions->cbegin(); it != formerDefinitions->cend(); ++it) {
+        refuseBlockedDefinitions(it.key(), *it, batch->value(it.key()));
         const auto definitions = m_database->rewrittenDefinitions(it.key());
         for (const DefinitionProperty &definition : definitions.value_or(QList<DefinitionProperty>())) {
-            const QString problem = scriptProblem(it.key(), definition.name, definition.text);
-            if (!problem.isEmpty()) {
-                refuse(it.key(), definition.name, problem);
+            if (canCarry(it.key(), definition.name, definition.text)) {
+                (*batch)[it.key()].insert(definition.name, definition.text);
             }
-            (*batch)[it.key()].insert(definition.name, definition.text);
         }
         if (!definitions) {
             refuse(it.key(), bomPartPropertyStart(),
@@ -218,10 +207,24 @@ void PropertyAssignments::collectBOMParts(const QMap<QString, Values> &assignmen
     }
 }
 
+/// What keeps the definitions of a parent from being written anew.
+void PropertyAssignments::refuseBlockedDefinitions(const QString &parent, const QStringList &former,
+                                                   const Values &placed)
+{
+    for (const QString &name : former) {
+        (void)canCarry(parent, name, removal());
+    }
+    for (auto it = placed.cbegin(); it != placed.cend(); ++it) {
+        if (it.key().startsWith(bomPartPropertyStart(), Qt::CaseInsensitive)) {
+            refuse(parent, it.key(), tr("A part that this defines is changed as well"));
+        }
+    }
+}
+
 void PropertyAssignments::run(const QMap<QString, Values> &batch,
                               const QMap<QString, QStringList> &formerDefinitions)
 {
-    Batch hostBatch;
+    HostBatch hostBatch;
     for (auto it = formerDefinitions.cbegin(); it != formerDefinitions.cend(); ++it) {
         for (const QString &name : *it) {
             assignNow(it.key(), name, removal());

@@ -63,13 +63,14 @@ public:
                                                const QString &value);
 
 private:
-    class Batch;
-
     void defineLinksProperty() const;
     void refuse(const QString &reference, const QString &property, const QString &reason);
+    /// Whether a script can; refuses the text otherwise.
+    bool canCarry(const QString &reference, const QString &property, const QString &value);
     void collectPlaced(const QString &reference, const Values &values, QMap<QString, Values> *batch);
     void collectBOMParts(const QMap<QString, Values> &assignments, QMap<QString, Values> *batch,
                          QMap<QString, QStringList> *formerDefinitions);
+    void refuseBlockedDefinitions(const QString &parent, const QStringList &former, const Values &placed);
     void run(const QMap<QString, Values> &batch, const QMap<QString, QStringList> &formerDefinitions);
 
     BOMPartsDatabase *m_database;

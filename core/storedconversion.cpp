@@ -51,6 +51,7 @@ QString wholeNumber(QString text)
 StoredConversion::StoredConversion(std::optional<PropType> type)
     : m_type(type)
     , m_decimalPoint(HostUi::current().locale().decimalPoint())
+    , m_minus(HostUi::current().locale().negativeSign())
 {
 }
 
@@ -65,7 +66,7 @@ bool StoredConversion::accepts(const QString &shown) const
     }
     bool isNumber = true;
     if (*m_type == PropType::Int) {
-        (void)wholeNumber(shown).toLongLong(&isNumber);
+        (void)(*this)(shown).toLongLong(&isNumber);
     } else if (*m_type == PropType::Float) {
         isNumber = std::isfinite((*this)(shown).toDouble(&isNumber)) && isNumber;
     }
@@ -80,11 +81,16 @@ QString StoredConversion::operator()(const QString &shown) const
     if (const auto states = statesOf(*m_type)) {
         return isOneOf(shown, states->upper, QLatin1Char('1')) ? QStringLiteral("1") : QStringLiteral("0");
     }
-    if (*m_type == PropType::Int) {
-        return wholeNumber(shown);
+    if (*m_type != PropType::Int && *m_type != PropType::Float) {
+        return shown;
     }
+    // Swedish and others have a minus sign of their own, perhaps with a mark of direction.
     QString stored = shown;
-    if (*m_type == PropType::Float && m_decimalPoint != u'.') {
+    stored.replace(m_minus, QStringLiteral("-"));
+    if (*m_type == PropType::Int) {
+        return wholeNumber(stored);
+    }
+    if (m_decimalPoint != u'.') {
         stored.replace(m_decimalPoint, QStringLiteral("."));
     }
     return stored;

@@ -25,4 +25,5 @@ public:
 private:
     std::optional<PropType> m_type;
     QString m_decimalPoint;
+    QString m_minus;
 };

@@ -135,6 +135,52 @@ TEST_F(Assignments, ofBomOnlyPartsRewriteTheDefinitionsOfTheirParent)
     EXPECT_EQ(cdb.calls.last(), u"commit"_s);
 }
 
+TEST_F(Assignments, neverLetNamesOfTheDesignIntoAScript)
+{
+    // A name that ends a record, begins another and takes a value of R1 away.
+    const QString name = u"BOMPARTX\"   :   \"1\"\nEND\n\nDATA NAME : R1-\n\"CODE"_s;
+    netlist.add("U2", "reg", {{name.toUtf8().constData(), "1,'NUT','M3'"}});
+    netlist.add("U3", "reg", {{"BOMPART\"   :   \"y", "1,'BLT','M4'"}});
+    database.reload();
+    for (const QString &reference : {u"NUT1"_s, u"BLT1"_s}) {
+        assignments.assign(reference, u"LEN"_s, u"9"_s);
+        (void)assignments.apply();
+        EXPECT_EQ(assignments.problems().size(), 1) << reference.toStdString();
+        EXPECT_EQ(assignments.pending().size(), 1) << reference.toStdString();
+        assignments.clear();
+    }
+    assignments.assignNow(u"U2"_s, name, u"x"_s);
+    EXPECT_TRUE(assignments.result().contains(u"A line break cannot be written"_s));
+    EXPECT_TRUE(scripts().isEmpty()) << scripts().join(u'|').toStdString();
+    EXPECT_EQ(cdb.calls, (QStringList{u"begin"_s, u"drop"_s}));
+}
+
+TEST_F(Assignments, ofBomOnlyPartsAndTheirDefinitionExcludeEachOther)
+{
+    assignments.assign(u"SCR1"_s, u"LEN"_s, u"9"_s);
+    assignments.assign(u"U1"_s, u"bompart0"_s, u"1,'SCR','M4'"_s);
+    (void)assignments.apply();
+    ASSERT_EQ(assignments.problems().size(), 1);
+    EXPECT_EQ(assignments.problems().front().property, u"bompart0"_s);
+    EXPECT_TRUE(scripts().isEmpty());
+}
+
+TEST_F(Assignments, ofBomOnlyPartsAreToldOnceAndADryRunKeepsThem)
+{
+    int notices = 0;
+    QObject::connect(&database, &BOMPartsDatabase::dataChanged, [&notices] { ++notices; });
+    assignments.assign(u"SCR1"_s, u"LEN"_s, u"9"_s);
+    assignments.assign(u"SCR2"_s, u"LEN"_s, u"9"_s);
+    assignments.assign(u"SCR2"_s, u"VALUE"_s, u"M4"_s);
+    EXPECT_EQ(assignments.apply(), u"Applied successfully"_s);
+    EXPECT_EQ(notices, 1);
+    database.reload();
+    assignments.setDryRun(true);
+    assignments.assign(u"SCR1"_s, u"LEN"_s, u"10"_s);
+    EXPECT_EQ(assignments.apply(), u"Applied successfully"_s);
+    EXPECT_EQ(database.property(u"SCR1"_s, u"LEN"_s), u"8"_s);
+}
+
 TEST_F(Assignments, areStoredByTheTypeOfTheirProperty)
 {
     ui.numberFormat = QLocale(QLocale::German);
@@ -151,6 +197,10 @@ TEST_F(Assignments, areStoredByTheTypeOfTheirProperty)
     EXPECT_EQ(stored("AMOUNT", u"1 234.567,8"_s), u"12345678"_s);
     EXPECT_EQ(stored("COST", u"4,7"_s), u"4.7"_s);
     EXPECT_EQ(stored("NAME", u"4,7"_s), u"4,7"_s);
+    ui.numberFormat = QLocale(QLocale::Swedish);
+    EXPECT_EQ(stored("COST", u"−4,7"_s) + stored("AMOUNT", u"−5"_s), u"-4.7-5"_s);
+    EXPECT_EQ(stored("NAME", u"−5"_s), u"−5"_s);
+    ui.numberFormat = QLocale(QLocale::German);
     for (const char *refused : {"maybe", "2", "Hig h"}) {
         EXPECT_FALSE(assignments.accepts(u"FIT"_s, QString::fromLatin1(refused))) << refused;
     }
