@@ -41,6 +41,11 @@ private:
     {
         m_script.error =
             QStringLiteral("script line ") + QString::number(m_number) + QStringLiteral(": ") + text;
+        m_script.reference = m_reference;
+        const std::size_t middle = m_line.find(separator, 1);
+        if (!m_reference.empty() && m_line.starts_with('"') && middle != std::string::npos) {
+            m_script.property = m_line.substr(1, middle - 1);
+        }
         return false;
     }
 
@@ -69,6 +74,7 @@ private:
 
     bool takeRecord()
     {
+        m_reference.clear();
         if (!takeLine() || !takeReference()) {
             return false;
         }

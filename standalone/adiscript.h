@@ -34,6 +34,9 @@ struct AdiScript
     std::vector<AdiAssignment> assignments;
     /// "script line N: what is wrong", empty when nothing is.
     QString error;
+    /// What the line with the error is about, as far as it says so.
+    std::string reference;
+    std::string property;
 };
 
 /// Reads a script that writes properties: any number of records, each

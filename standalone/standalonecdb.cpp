@@ -18,7 +18,8 @@ QString text(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
 }
 
-/// The name under which the component has the property, or would.
+/// The name under which the component has the property, or would; in one letter case where the design has no
+/// such name.
 std::string storedName(const designs::Design &design, const designs::Edit &edit)
 {
     const designs::Component &component = design.components()[edit.component];
@@ -30,6 +31,14 @@ std::string storedName(const designs::Design &design, const designs::Edit &edit)
         return text(edit.name).toCaseFolded().toStdString();
     }
     return std::string(design.names().name(found == candidates.end() ? candidates.front() : *found));
+}
+
+/// Whether a definition of BOM-only parts would be stored under a name that makes it none.
+bool losesDefinition(const designs::Design &design, const designs::Edit &edit)
+{
+    constexpr std::string_view start = "BOMPART";
+    return edit.value && edit.name.starts_with(start) && !design.names().candidates(edit.name).empty() &&
+           !storedName(design, edit).starts_with(start);
 }
 
 /// One line per problem, or "No Errors".
@@ -59,9 +68,8 @@ void StandaloneCdb::setDesign(std::shared_ptr<const LoadedDesign> design)
 {
     m_design = std::move(design);
     if (m_depth > 0 && !m_staged.empty()) {
-        m_staged.clear();
-        m_problems.append(
-            {{}, {}, {}, 0, QStringLiteral("the design was read again before all was written")});
+        forget();
+        fail(QStringLiteral("the design was read again before all was written"));
     }
     m_board.reset();
 }
@@ -107,7 +115,7 @@ void StandaloneCdb::run(std::istream &script, int mode)
     }
     const AdiScript read = readAdiScript(script);
     if (!read.error.isEmpty()) {
-        fail(read.error);
+        m_problems.append({text(read.reference), text(read.property), {}, 0, read.error});
     }
     for (const AdiAssignment &assignment : read.assignments) {
         stage(assignment);
@@ -132,6 +140,12 @@ void StandaloneCdb::stage(const AdiAssignment &assignment)
         m_problems.append({text(assignment.reference), text(assignment.property),
                            design.files().value(qsizetype(component.file)), design.lineOf(component),
                            *reason});
+        return;
+    }
+    if (losesDefinition(m_design->design(), edit)) {
+        refuse(assignment, QStringLiteral("the design spells this name ") +
+                               text(storedName(m_design->design(), edit)) +
+                               QStringLiteral(", which defines no BOM-only parts: rename it there first"));
         return;
     }
     if (const designs::Edit *other = contradicted(edit)) {

@@ -185,6 +185,28 @@ TEST_F(Batch, RefusesByName)
     EXPECT_EQ(changes(), Texts());
 }
 
+TEST_F(Batch, RefusesWhatWouldBeNoDefinitionOfBomOnlyParts)
+{
+    auto spelt = std::make_unique<TableDesign>();
+    spelt->add("R1", "10k", {{"bompart1", "mine"}});
+    spelt->add("R2", "10k");
+    session.open(std::move(spelt));
+    for (const char *reference : {"R1", "R2"}) {
+        EXPECT_THAT(adi(record(reference, "BOMPART1", "1,'SCR','M3'")),
+                    testing::HasSubstr("the design spells this name bompart1"));
+    }
+    EXPECT_EQ(adi(record("R1", "bompart1", "yours")), "No Errors\n");
+    EXPECT_EQ(adi(record("R2", "BOMPART2", "1,'SCR','M3'")), "No Errors\n");
+}
+
+TEST_F(Batch, NamesThePartOfALineThatIsTooLong)
+{
+    (void)adi(record("R1", "A", "1") + record("R2", "NOTE", std::string(2'000'000, 'x')));
+    ASSERT_EQ(getcdb()->problems().size(), 1);
+    EXPECT_EQ(getcdb()->problems().front().message(),
+              QStringLiteral("R2, NOTE: script line 6: the line is longer than 1048576 bytes"));
+}
+
 TEST_F(Batch, OfNestedOnesTheOutermostWrites)
 {
     getcdb()->beginbatch();
@@ -221,6 +243,7 @@ TEST_F(Batch, WithAnythingRefusedOrGivenUpIsNotWritten)
     getcdb()->beginbatch();
     (void)adi(record("R1", "A", "1"));
     EXPECT_TRUE(session.reread());
+    EXPECT_EQ(adi(record("R1", "A", "2")), "No Errors\n");
     EXPECT_FALSE(getcdb()->commitbatch()) << "it was made for the design before";
     EXPECT_EQ(content(), before);
 }
