@@ -7,6 +7,7 @@
 #include "cli/opendesign.h"
 #include "cli/writeoptions.h"
 #include "core/bompart.h"
+#include "core/propertyquery.h"
 #include "core/reference.h"
 #include "standalone/loadeddesign.h"
 
@@ -73,6 +74,11 @@ void DesignEdits::add(const QString &reference, const QString &property, const Q
 {
     const QString front = (origin.isEmpty() ? QString() : origin + QStringLiteral(": ")) + reference +
                           QStringLiteral(", ") + property + QStringLiteral(": ");
+    const QString fixed = fixedReason(reference, property);
+    if (!fixed.isEmpty()) {
+        refuse(front + fixed);
+        return;
+    }
     const auto type = m_design.database().propertyTypes().type(property);
     const QString value = m_design.database().isNumeric(property) ? withoutThousands(typed) : typed;
     const bool isNumber =
@@ -86,19 +92,42 @@ void DesignEdits::add(const QString &reference, const QString &property, const Q
         refuse(front + QStringLiteral("two values are asked for"));
         return;
     }
+    if (!origin.isEmpty()) {
+        m_origins.insert({reference, property}, origin);
+    }
     const Part *part = m_design.database().part(reference);
-    if (part) {
+    if (part && part->isBOMPart()) {
+        addToBOMPart(*part, property, value);
+    } else if (part) {
         m_assignments.assign(reference, property, value);
     } else {
         addDirect(reference, property, value, front);
     }
-    if (part && part->isBOMPart()) {
-        const QString shown = value == PropertyAssignments::removal() ? QString() : value;
-        m_bomPartLines.append(reference + u' ' + property + QStringLiteral(": ") +
-                              quoted(part->property(property), {}) + QStringLiteral(" -> ") +
-                              quoted(shown, {}) + QStringLiteral(" (a BOM-only part of ") +
-                              static_cast<const BOMPart *>(part)->parentReference() + u')');
+}
+
+QString DesignEdits::fixedReason(const QString &reference, const QString &property) const
+{
+    if (property == placedProperty() || property == nameProperty()) {
+        return QStringLiteral("this tells what cannot be changed here");
     }
+    const Part *part = m_design.database().part(reference);
+    return part && part->isBOMPart() && !m_design.design().references().find(reference.toStdString()).empty()
+               ? QStringLiteral("a symbol that is left out and a BOM-only part have this reference")
+               : QString();
+}
+
+void DesignEdits::addToBOMPart(const Part &part, const QString &property, const QString &value)
+{
+    const QString before = part.property(property.toUpper());
+    const QString after = value == PropertyAssignments::removal() ? QString() : value;
+    if (before == after) {
+        return;
+    }
+    m_assignments.assign(part.reference(), property, value);
+    m_bomPartLines.append(part.reference() + u' ' + property + QStringLiteral(": ") + quoted(before, {}) +
+                          QStringLiteral(" -> ") + quoted(after, {}) +
+                          QStringLiteral(" (a BOM-only part of ") +
+                          static_cast<const BOMPart &>(part).parentReference() + u')');
 }
 
 bool DesignEdits::isContradicted(const QString &reference, const QString &property,
@@ -138,13 +167,28 @@ ExitStatus DesignEdits::write(const WriteOptions &options)
     QStringList messages;
     bool areFilesOnly = true;
     for (const CDBPROBLEM &problem : problems) {
-        messages.append(problem.message());
+        messages.append(messageOf(problem));
         areFilesOnly = areFilesOnly && problem.reference.isEmpty();
     }
     if (!messages.isEmpty()) {
         return tellRefused(messages, areFilesOnly ? ExitStatus::UnwritableOutput : ExitStatus::DesignProblem);
     }
     return tellChanges(options.isDryRun);
+}
+
+QString DesignEdits::messageOf(const CDBPROBLEM &problem) const
+{
+    const QString origin = m_origins.value({problem.reference, problem.property});
+    if (origin.isEmpty()) {
+        return problem.message();
+    }
+    QString text = origin + QStringLiteral(": ") +
+                   CDBPROBLEM{problem.reference, problem.property, {}, 0, problem.reason}.message();
+    if (!problem.file.isEmpty()) {
+        text += QStringLiteral(" (") + problem.file +
+                (problem.line > 0 ? u':' + QString::number(problem.line) : QString()) + u')';
+    }
+    return text;
 }
 
 QList<CDBPROBLEM> DesignEdits::runBatch(bool isDryRun)

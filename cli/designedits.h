@@ -5,11 +5,15 @@
 #include "cli/exitstatus.h"
 #include "core/propertyassignments.h"
 
+#include <QHash>
 #include <QMap>
 #include <QString>
 #include <QStringList>
 
+#include <utility>
+
 class OpenDesign;
+class Part;
 struct WriteOptions;
 
 /// Edits of the open design that a command collects, and then writes all of them or none.
@@ -33,10 +37,14 @@ public:
     [[nodiscard]] ExitStatus write(const WriteOptions &options);
 
 private:
+    /// Why the reference or the property cannot be changed, whatever the value; empty when it can.
+    [[nodiscard]] QString fixedReason(const QString &reference, const QString &property) const;
     [[nodiscard]] bool isContradicted(const QString &reference, const QString &property,
                                       const QString &value) const;
     void addDirect(const QString &reference, const QString &property, const QString &value,
                    const QString &front);
+    void addToBOMPart(const Part &part, const QString &property, const QString &value);
+    [[nodiscard]] QString messageOf(const CDBPROBLEM &problem) const;
     [[nodiscard]] QList<CDBPROBLEM> runBatch(bool isDryRun);
     [[nodiscard]] static ExitStatus tellRefused(const QStringList &messages, ExitStatus status);
     [[nodiscard]] ExitStatus tellChanges(bool isDryRun) const;
@@ -46,6 +54,8 @@ private:
     /// Stored values of components that the parts database does not hold.
     QMap<QString, PropertyAssignments::Values> m_direct;
     QStringList m_refusals;
+    /// Where edits come from, by reference and property.
+    QHash<std::pair<QString, QString>, QString> m_origins;
     /// What is asked of BOM-only parts: their definitions, which the design holds, do not name them.
     QStringList m_bomPartLines;
 };

@@ -61,19 +61,54 @@ bool ReportCells::isProperty(const QString &name) const
     });
 }
 
+namespace {
+
+enum class Meaning
+{
+    Values,
+    /// Category or quantity, as a report writes them.
+    Own,
+    Unclear
+};
+
+/// A report has its own columns in front of the references, but people move columns.
+Meaning meaningOf(const QString &heading, qsizetype index, const Table &table, const ReportCells &cells,
+                  const std::optional<EditColumn> &column)
+{
+    const QStringList own = cells.columnHeadings(true);
+    if (!own.first(2).contains(heading, Qt::CaseInsensitive)) {
+        return Meaning::Values;
+    }
+    if (index < table.referenceColumn || !column) {
+        return Meaning::Own;
+    }
+    const bool isOfReport = table.headings.value(table.referenceColumn) == own.at(2);
+    const bool isMoved =
+        std::none_of(table.headings.begin(), table.headings.begin() + table.referenceColumn,
+                     [&heading](const QString &other) { return other.trimmed() == heading; });
+    return isOfReport && isMoved && !column->isField ? Meaning::Unclear : Meaning::Values;
+}
+
+} // namespace
+
 std::vector<EditColumn> editColumns(const Table &table, const ReportCells &cells, QStringList *problems)
 {
-    // Category and quantity stand in front of the references.
-    const QStringList own = cells.columnHeadings(true);
     std::vector<EditColumn> found;
     QSet<QString> met;
     for (qsizetype index = 0; index < table.headings.size(); ++index) {
         const QString heading = table.headings.at(index).trimmed();
-        const bool isOwn = index < table.referenceColumn && own.first(2).contains(heading);
-        if (index == table.referenceColumn || isOwn) {
+        auto column = cells.columnOf(heading);
+        const Meaning meaning = meaningOf(heading, index, table, cells, column);
+        if (index == table.referenceColumn || meaning == Meaning::Own) {
             continue;
         }
-        auto column = cells.columnOf(heading);
+        if (meaning == Meaning::Unclear) {
+            problems->append(
+                QStringLiteral("column %1 \"").arg(index + 1) + heading +
+                QStringLiteral("\" may be the report's own or the property: delete it, or put it "
+                               "in front of the references if it is the report's"));
+            continue;
+        }
         const bool isBlank = std::all_of(table.rows.begin(), table.rows.end(), [index](const TableRow &row) {
             return row.cells.value(index).trimmed().isEmpty();
         });

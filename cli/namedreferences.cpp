@@ -9,6 +9,15 @@ namespace {
 
 using Known = std::function<bool(const QString &)>;
 
+/// The reference between the ends of a range: with as many digits as the first has, else without zeros in
+/// front.
+QString between(const QString &first, const SplitReference &from, int number, const Known &isKnown)
+{
+    const auto digits = int(first.size() - from.prefix.size());
+    const QString padded = from.prefix.toString() + QString::number(number).rightJustified(digits, u'0');
+    return isKnown(padded) ? padded : from.prefix.toString() + QString::number(number);
+}
+
 /// The references of a range whose ends are references of the design, hyphens in them or not: "X1-1-X1-3".
 QStringList rangeBetween(const QString &text, const Known &isKnown)
 {
@@ -24,7 +33,7 @@ QStringList rangeBetween(const QString &text, const Known &isKnown)
         }
         QStringList references{first};
         for (int number = from.number + 1; number < to.number; ++number) {
-            references << from.prefix.toString() + QString::number(number);
+            references << between(first, from, number, isKnown);
         }
         return from.number == to.number ? references : references << last;
     }

@@ -62,6 +62,10 @@ std::optional<QList<SetCommand::Assignment>> SetCommand::assignments() const
     QList<Assignment> found;
     for (const std::string &argument : m_assignments) {
         const QString text = QString::fromStdString(argument);
+        if (text.toStdString() != argument) {
+            console::message(u'"' + text + QStringLiteral("\" is no text in UTF-8"));
+            return std::nullopt;
+        }
         const qsizetype sign = text.indexOf(u'=');
         if (sign <= 0) {
             console::message(u'"' + text + QStringLiteral("\" is no NAME=VALUE (bom set --help tells more)"));

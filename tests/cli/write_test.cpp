@@ -28,9 +28,12 @@ protected:
                               {"R2", "10k"},
                               {"R3", "10k", {}, "(in_bom no) (on_board yes) (dnp no)"},
                               {"R4", "10k", {}, "(in_bom yes) (on_board yes) (dnp yes)"},
-                              {"J1-2", "Plug", "(property \"BOMPART1\" \"2,SCR,M3\" (at 0 0 0))"},
+                              {"J1-2", "Plug",
+                               "(property \"BOMPART1\" \"2,SCR,M3\" (at 0 0 0))(property \"BOMPART2\" "
+                               "\"1,N,Nut\" (at 0 0 0))"},
                               {"U1", "Dual", {}, "(in_bom yes) (on_board yes) (dnp no)", "Amplifier:Dual", 1},
                               {"U1", "Dual", {}, "(in_bom yes) (on_board yes) (dnp no)", "Amplifier:Dual", 2},
+                              {"N1", "hidden", {}, "(in_bom no) (on_board yes) (dnp no)"},
                               {"C7", "1u"},
                               {"C7", "2u"}}));
         m_before = read(schematic);
@@ -105,6 +108,10 @@ TEST_F(Write, EditsAreRefusedByNameAllOrNone)
         {"set amp.kicad_sch R1 PINS=1.5 --propdefs defs.ini", "a whole number"},
         {"set amp.kicad_sch R1 PACKAGE=0402 Footprint=0805", "another text is asked for"},
         {"set amp.kicad_sch R1 MPN=a\nb", "R1, MPN"},
+        {"set amp.kicad_sch R1 .Placed=Top", "R1, .Placed: this tells what cannot be changed"},
+        {"set amp.kicad_sch SCR2 .Name=x", "SCR2, .Name: this tells what cannot be changed"},
+        {"set amp.kicad_sch N1 MPN=A", "N1, MPN: a symbol that is left out and a BOM-only part"},
+        {"set amp.kicad_sch J1-2,SCR1 BOMPART1=1,S,x VALUE=M4", "J1-2, BOMPART1: "},
         {"set amp.kicad_sch R3 MPN=x\"\nEND\n\nDATA", "R3, MPN"},
     };
     for (const auto &[arguments, message] : cases) {
@@ -177,6 +184,35 @@ TEST_F(Write, ApplyTakesTheCellsThatDiffer)
                       HasSubstr("changed 2 properties of 1 part")));
 }
 
+TEST_F(Write, ApplyPassesOverTheReportsOwnColumnsWhereverTheyStand)
+{
+    write(schematic, kicadSchematic({{"R1", "10k", "(property \"QUANTITY\" \"7\" (at 0 0 0))"}}));
+    write(edits, "References,Value,Category\nR1,11k,Resistors\n");
+    EXPECT_THAT(run("apply amp.kicad_sch edits.csv").out, HasSubstr("changed 1 property"));
+    write(edits, "References,Quantity\nR1,1\n");
+    EXPECT_THAT(run("apply amp.kicad_sch edits.csv").err,
+                HasSubstr("edits.csv:1: column 2 \"Quantity\" may be"));
+    write(edits, "CATEGORY,Quantity,References,Value,Quantity\nResistors,3,R1,12k,8\n");
+    EXPECT_THAT(run("apply amp.kicad_sch edits.csv").out,
+                AllOf(HasSubstr("R1 QUANTITY: \"7\" -> \"8\""), HasSubstr("changed 2 properties")));
+}
+
+TEST_F(Write, ARangeHasAsManyDigitsAsItsEnds)
+{
+    write(schematic,
+          kicadSchematic({{"R01", "1"}, {"R02", "1"}, {"R03", "1"}, {"R1", "2"}, {"R2", "2"}, {"R3", "2"}}));
+    EXPECT_THAT(run("set amp.kicad_sch R01-R03 MPN=A").out,
+                AllOf(HasSubstr("R02 MPN"), HasSubstr("changed 3 properties")));
+    EXPECT_THAT(run("set amp.kicad_sch R1-R3 MPN=A").out,
+                AllOf(HasSubstr("R2 MPN"), HasSubstr("changed 3 properties")));
+}
+
+TEST_F(Write, WhatABomOnlyPartHasAlreadyIsNotWritten)
+{
+    EXPECT_EQ(run("set amp.kicad_sch SCR2 value=M3 MPN=").out, "nothing to change\n");
+    EXPECT_EQ(read(schematic), m_before);
+}
+
 TEST_F(Write, ApplyStripsWhatTheFieldPutsAround)
 {
     ASSERT_EQ(run("template new Shop").status, 0);
@@ -219,7 +255,9 @@ TEST_F(Write, ApplyRefusesWhatItDoesNotUnderstandWithItsLine)
         {"References,Value\nR1,10k,x\n", "edits.csv:2: there is a text behind the last column"},
         {"References,COST\nR1,cheap\n", "edits.csv:2: R1, COST: \"cheap\""},
         {"References,Value\nC7,5u\n", "C7, VALUE: several symbols"},
-        {"References,Value\nR1,\n", "VALUE"},
+        {"References,Value\nR1,\n",
+         "edits.csv:2: R1, VALUE: a part cannot be without a value (DIR/amp.kicad_sch:"},
+        {"References,MPN\nR1,\"a\nb\"\n", "edits.csv:2: R1, MPN: A line break"},
     };
     for (const auto &[table, message] : cases) {
         write(edits, table);
