@@ -124,10 +124,14 @@ void DesignEdits::addToBOMPart(const Part &part, const QString &property, const 
         return;
     }
     m_assignments.assign(part.reference(), property, value);
+    const QString parent = static_cast<const BOMPart &>(part).parentReference();
+    if (m_design.database().bomParts(parent).size() > 1) {
+        m_isMoreRenumbered = m_isMoreRenumbered || (!m_renumbered.isEmpty() && m_renumbered != parent);
+        m_renumbered = m_renumbered.isEmpty() ? parent : m_renumbered;
+    }
     m_bomPartLines.append(part.reference() + u' ' + property + QStringLiteral(": ") + quoted(before, {}) +
                           QStringLiteral(" -> ") + quoted(after, {}) +
-                          QStringLiteral(" (a BOM-only part of ") +
-                          static_cast<const BOMPart &>(part).parentReference() + u')');
+                          QStringLiteral(" (a BOM-only part of ") + parent + u')');
 }
 
 bool DesignEdits::isContradicted(const QString &reference, const QString &property,
@@ -238,5 +242,11 @@ ExitStatus DesignEdits::tellChanges(bool isDryRun) const
         text += changeLine(change);
     }
     text += summary(changes, isDryRun);
+    if (!m_renumbered.isEmpty()) {
+        console::message(
+            QStringLiteral("BOM-only parts are numbered in the order of their definitions: those of ") +
+            m_renumbered + (m_isMoreRenumbered ? QStringLiteral(" and others") : QString()) +
+            QStringLiteral(" may change places (bom parts tells)"));
+    }
     return console::write(text.toUtf8()) ? ExitStatus::Done : ExitStatus::UnwritableOutput;
 }

@@ -58,4 +58,7 @@ private:
     QHash<std::pair<QString, QString>, QString> m_origins;
     /// What is asked of BOM-only parts: their definitions, which the design holds, do not name them.
     QStringList m_bomPartLines;
+    /// The first parent whose BOM-only parts may be numbered anew, and whether there are others.
+    QString m_renumbered;
+    bool m_isMoreRenumbered = false;
 };
