@@ -53,14 +53,24 @@ EmptyPage::EmptyPage(QAction *open, QWidget *parent)
     column->addSpacing(2 * column->spacing());
     column->addWidget(m_recent);
     auto *page = new QVBoxLayout(this);
+    // An alignment would not give the wrapped texts their heights.
+    auto *middle = new QHBoxLayout;
+    middle->addStretch(1);
+    middle->addWidget(content);
+    middle->addStretch(1);
     page->addStretch(1);
-    page->addWidget(content, 0, Qt::AlignHCenter);
+    page->addLayout(middle);
     page->addStretch(2);
 }
 
 void EmptyPage::setRecentFiles(const QStringList &paths)
 {
-    qDeleteAll(m_recent->findChildren<QCommandLinkButton *>(QString(), Qt::FindDirectChildrenOnly));
+    // One of them may be in the middle of telling that it was pressed.
+    for (auto *button : m_recent->findChildren<QCommandLinkButton *>(QString(), Qt::FindDirectChildrenOnly)) {
+        m_recentLayout->removeWidget(button);
+        button->hide();
+        button->deleteLater();
+    }
     for (const QString &path : paths.mid(0, mostRecent)) {
         const QFileInfo file(path);
         QString name = file.fileName();

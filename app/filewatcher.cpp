@@ -8,6 +8,8 @@ namespace {
 
 /// Editors write several files of a design within this time.
 constexpr int settleMilliseconds = 300;
+/// Something else in the folder, such as a log, may never settle.
+constexpr int longestMilliseconds = 3000;
 
 } // namespace
 
@@ -16,7 +18,10 @@ FileWatcher::FileWatcher(QObject *parent)
 {
     m_settled.setSingleShot(true);
     m_settled.setInterval(settleMilliseconds);
+    m_longest.setSingleShot(true);
+    m_longest.setInterval(longestMilliseconds);
     connect(&m_settled, &QTimer::timeout, this, &FileWatcher::settle);
+    connect(&m_longest, &QTimer::timeout, this, &FileWatcher::settle);
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &FileWatcher::touchLater);
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &FileWatcher::touchLater);
 }
@@ -29,6 +34,15 @@ void FileWatcher::setFiles(const QStringList &files)
         m_watcher.removePaths(before);
     }
     watchAgain();
+    touchLater();
+}
+
+void FileWatcher::touchLater()
+{
+    m_settled.start();
+    if (!m_longest.isActive()) {
+        m_longest.start();
+    }
 }
 
 void FileWatcher::watchAgain()
@@ -51,6 +65,8 @@ void FileWatcher::watchAgain()
 
 void FileWatcher::settle()
 {
+    m_settled.stop();
+    m_longest.stop();
     watchAgain();
     Q_EMIT touched();
 }

@@ -8,6 +8,7 @@
 #include "host/framework/applnwindow.h"
 #include "host/framework/hostsettings.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QMenu>
@@ -162,7 +163,10 @@ void FrameWindow::setDesignName(const QString &name)
 
 void FrameWindow::updateTitle()
 {
-    setWindowTitle(m_designName.isEmpty() ? m_title : m_designName + QStringLiteral(" \u2013 ") + m_title);
+    // "[*]" would be taken for the mark of unsaved changes.
+    QString name = m_designName;
+    name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+    setWindowTitle(name.isEmpty() ? m_title : name + QStringLiteral(" \u2013 ") + m_title);
 }
 
 bool FrameWindow::isDesignName(const QString &path)
@@ -175,7 +179,7 @@ bool FrameWindow::isDesignName(const QString &path)
 
 void FrameWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!droppedDesign(*event->mimeData()).isEmpty()) {
+    if (!QApplication::activeModalWidget() && !droppedDesign(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
     }
 }
@@ -185,7 +189,8 @@ void FrameWindow::dropEvent(QDropEvent *event)
     const QString path = droppedDesign(*event->mimeData());
     if (!path.isEmpty()) {
         event->acceptProposedAction();
-        Q_EMIT fileDropped(path);
+        QMetaObject::invokeMethod(
+            this, [this, path] { Q_EMIT fileDropped(path); }, Qt::QueuedConnection);
     }
 }
 

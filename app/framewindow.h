@@ -50,6 +50,7 @@ public:
     [[nodiscard]] static bool isDesignName(const QString &path);
 
 Q_SIGNALS:
+    /// When the event loop gets to it: whoever holds the file is not kept waiting for it to be read.
     void fileDropped(const QString &path);
 
 protected:

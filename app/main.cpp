@@ -10,6 +10,10 @@
 #include <QCommandLineParser>
 #include <QTextStream>
 
+#include <algorithm>
+#include <span>
+#include <string_view>
+
 namespace {
 
 /// The exit status for something that cannot be read.
@@ -17,10 +21,23 @@ constexpr int unreadable = 3;
 /// The one for wrong usage.
 constexpr int wrongUsage = 2;
 
+/// Whether the arguments ask for a text only, which needs no display.
+bool asksForText(int argc, char **argv)
+{
+    const std::span<char *const> arguments(argv, std::size_t(argc));
+    return std::any_of(arguments.begin(), arguments.end(), [](std::string_view argument) {
+        return argument == "--help" || argument == "-h" || argument == "--help-all" ||
+               argument == "--version" || argument == "-v";
+    });
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    if (asksForText(argc, argv)) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("bomviewer"));
     QCoreApplication::setApplicationVersion(QStringLiteral(BOM_VERSION));

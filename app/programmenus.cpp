@@ -45,6 +45,12 @@ void ProgramMenus::buildFile()
     m_open->setStatusTip(tr("Open a schematic, a project or a part list"));
     connect(m_open, &QAction::triggered, this, &ProgramMenus::openRequested);
     m_recent = file->addMenu(tr("Open &Recent"));
+    m_undo = file->addAction(tr("&Undo Last Write…"));
+    m_undo->setStatusTip(
+        tr("Give the files of the design the content that they had before they were written last"));
+    m_undo->setEnabled(false);
+    connect(m_undo, &QAction::triggered, this, &ProgramMenus::undoRequested);
+    connect(file, &QMenu::aboutToShow, this, &ProgramMenus::fileMenuOpening);
     file->addSeparator();
     QAction *quit = file->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
@@ -118,6 +124,11 @@ void ProgramMenus::setRecentFiles(const QStringList &paths)
     m_recent->addSeparator();
     connect(m_recent->addAction(tr("&Clear This List")), &QAction::triggered, this,
             &ProgramMenus::recentCleared);
+}
+
+void ProgramMenus::setUndoEnabled(bool isEnabled)
+{
+    m_undo->setEnabled(isEnabled);
 }
 
 void ProgramMenus::setDnpChoice(DnpChoice choice)

@@ -31,6 +31,7 @@ public:
     void removeFromHelp(const QList<QAction *> &actions);
 
     void setRecentFiles(const QStringList &paths);
+    void setUndoEnabled(bool isEnabled);
     void setDnpChoice(DnpChoice choice);
     /// The variants that can be chosen; the menu is hidden without any. `current` is empty for the design as
     /// drawn.
@@ -40,6 +41,9 @@ Q_SIGNALS:
     void openRequested();
     void recentChosen(const QString &path);
     void recentCleared();
+    /// The File menu is about to be seen.
+    void fileMenuOpening();
+    void undoRequested();
     void dnpChosen(DnpChoice choice);
     /// Empty for the design as drawn.
     void variantChosen(const QString &variant);
@@ -54,6 +58,7 @@ private:
     QMainWindow *m_window;
     QAction *m_open = nullptr;
     QMenu *m_recent = nullptr;
+    QAction *m_undo = nullptr;
     QMenu *m_view = nullptr;
     QMenu *m_notFitted = nullptr;
     QMenu *m_variants = nullptr;

@@ -29,6 +29,13 @@ QToolButton *statusButton(QMainWindow *window, const QString &name, QStyle::Stan
     return button;
 }
 
+/// A tool tip that shows the text as it is, in several lines when it is long.
+QString plainTip(const QString &text)
+{
+    return text.isEmpty() ? QString()
+                          : QStringLiteral("<qt>") + text.toHtmlEscaped() + QStringLiteral("</qt>");
+}
+
 } // namespace
 
 StatusNotes::StatusNotes(QMainWindow *window)
@@ -61,14 +68,14 @@ void StatusNotes::setWarnings(const QStringList &warnings)
     m_warningsButton->setVisible(!warnings.isEmpty());
     m_warningsButton->setText(warnings.size() == 1 ? tr("1 warning")
                                                    : tr("%1 warnings").arg(warnings.size()));
-    m_warningsButton->setToolTip(warnings.isEmpty() ? QString() : warnings.constFirst().toHtmlEscaped());
+    m_warningsButton->setToolTip(warnings.isEmpty() ? QString() : plainTip(warnings.constFirst()));
 }
 
 void StatusNotes::setProblem(const QString &problem)
 {
     m_problem = problem;
     m_problemButton->setVisible(!problem.isEmpty());
-    m_problemButton->setToolTip(problem.toHtmlEscaped());
+    m_problemButton->setToolTip(plainTip(problem));
 }
 
 void StatusNotes::show(const QString &title, const QStringList &lines)

@@ -60,6 +60,9 @@ void Workbench::connectWindow()
     connect(&menus, &ProgramMenus::openRequested, this, &Workbench::chooseFile);
     connect(&menus, &ProgramMenus::recentChosen, this, &Workbench::open);
     connect(&menus, &ProgramMenus::recentCleared, this, &Workbench::clearRecentFiles);
+    connect(&menus, &ProgramMenus::fileMenuOpening, this,
+            [this] { m_window.menus().setUndoEnabled(m_session.canUndo()); });
+    connect(&menus, &ProgramMenus::undoRequested, this, &Workbench::undoLastWrite);
     connect(&menus, &ProgramMenus::dnpChosen, this, &Workbench::chooseDnp);
     connect(&menus, &ProgramMenus::variantChosen, this, &Workbench::openVariant);
     connect(&menus, &ProgramMenus::aboutRequested, this, &Workbench::showAbout);
@@ -195,6 +198,30 @@ void Workbench::clearRecentFiles()
 {
     RecentFiles::clear();
     updateRecentFiles();
+}
+
+void Workbench::undoLastWrite()
+{
+    const QString question = tr("Take back what was written last into the design \"%1\"?");
+    if (!m_session.design() ||
+        !HostUi::current().question(&m_window, tr("Undo Last Write"),
+                                    question.arg(QFileInfo(m_path).fileName()), false)) {
+        return;
+    }
+    const DesignSession::Undone undone = m_session.undo();
+    if (!undone.files.isEmpty()) {
+        if (m_session.changedFiles().isEmpty()) {
+            showDesign();
+        }
+        QStringList names;
+        for (const QString &file : undone.files) {
+            names << QFileInfo(file).fileName();
+        }
+        m_window.setstatustext(tr("Restored: ") + names.join(QStringLiteral(", ")));
+    }
+    if (!undone.problems.isEmpty()) {
+        HostUi::current().warning(&m_window, tr("Undo Last Write"), undone.problems.join(u'\n'));
+    }
 }
 
 void Workbench::updateRecentFiles()

@@ -44,6 +44,7 @@ private:
     void openVariant(const QString &variant);
     void chooseDnp(DnpChoice choice);
     void clearRecentFiles();
+    void undoLastWrite();
     void showAbout();
     [[nodiscard]] bool mayClose();
 

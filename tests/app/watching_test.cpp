@@ -32,6 +32,26 @@ TEST_F(WorkbenchTest, DoesNotReadAgainWhatIsTheSame)
     EXPECT_EQ(bench->session().design(), before);
 }
 
+TEST_F(WorkbenchTest, LooksAtFilesInAFolderThatNeverSettles)
+{
+    ASSERT_TRUE(bench->open(partList()));
+    bench->watcher().setDelay(patience);
+    bench->watcher().setLongest(1);
+    const auto change = [&] { write(QStringLiteral("parts.csv"), "Reference,Value\nR1,33k\n"); };
+    EXPECT_TRUE(waitFor(change, [&] { return isReported("33k"); }));
+}
+
+TEST_F(WorkbenchTest, FollowsWhatHappenedBeforeItWatched)
+{
+    ASSERT_TRUE(bench->open(partList()));
+    // All that the system has told of the folder is forgotten.
+    bench->watcher().setFiles({});
+    write(QStringLiteral("parts.csv"), "Reference,Value\nR1,33k\n");
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(waitFor([&] { bench->watcher().setFiles(bench->session().files()); },
+                        [&] { return isReported("33k"); }));
+}
+
 TEST_F(WorkbenchTest, DoesNotReadItsOwnWritesTwice)
 {
     ASSERT_TRUE(bench->open(partList()));

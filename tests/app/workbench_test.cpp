@@ -55,6 +55,8 @@ TEST_F(WorkbenchTest, AsksForAFileAndTakesDroppedOnes)
     QCoreApplication::sendEvent(target, &enter);
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(target, &drop);
+    EXPECT_TRUE(isReported("10k"));
+    QCoreApplication::processEvents();
     EXPECT_TRUE(isReported("4u7"));
     EXPECT_EQ(RecentFiles::list(), QStringList({dropped, path(QStringLiteral("parts.csv"))}));
 }
