@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QTextStream>
+#include <QTimer>
 
 #include <algorithm>
 #include <span>
@@ -70,7 +71,8 @@ int main(int argc, char **argv)
         if (workbench.start(parser.value(module))) {
             workbench.window().show();
             if (!designs.isEmpty()) {
-                (void)workbench.open(designs.constFirst());
+                // Behind the window, which can be seen while the design is read.
+                QTimer::singleShot(0, &workbench, [&] { (void)workbench.open(designs.constFirst()); });
             }
             status = QApplication::exec();
         } else {

@@ -2,25 +2,92 @@
 // SPDX-License-Identifier: MIT
 #include "host/widgets/qthostui.h"
 
+#include <QCursor>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QGuiApplication>
+#include <QList>
 #include <QMessageBox>
+
+#include <algorithm>
+
+namespace {
+
+/// A longer text would push the buttons off the screen.
+constexpr qsizetype mostCharacters = 1500;
+constexpr qsizetype mostLines = 20;
+
+/// The pointer of every day while a dialog is open, whoever waits behind it.
+class EverydayCursor final
+{
+public:
+    EverydayCursor()
+    {
+        while (const QCursor *cursor = QGuiApplication::overrideCursor()) {
+            m_cursors.append(*cursor);
+            QGuiApplication::restoreOverrideCursor();
+        }
+    }
+    EverydayCursor(const EverydayCursor &) = delete;
+    EverydayCursor &operator=(const EverydayCursor &) = delete;
+    ~EverydayCursor()
+    {
+        while (!m_cursors.isEmpty()) {
+            QGuiApplication::setOverrideCursor(m_cursors.takeLast());
+        }
+    }
+
+private:
+    QList<QCursor> m_cursors;
+};
+
+/// How much of a text the box itself shows.
+qsizetype shownLength(const QString &text)
+{
+    qsizetype end = -1;
+    for (qsizetype line = 0; line < mostLines; ++line) {
+        end = text.indexOf(u'\n', end + 1);
+        if (end < 0) {
+            break;
+        }
+    }
+    return std::min(end < 0 ? text.size() : end, mostCharacters);
+}
+
+/// Shows the text as it is, and what is too long behind a button.
+QMessageBox::StandardButton show(QMessageBox &box, const QString &text)
+{
+    const EverydayCursor cursor;
+    box.setTextFormat(Qt::PlainText);
+    const qsizetype shown = shownLength(text);
+    box.setText(shown < text.size() ? text.left(shown) + QChar(0x2026) : text);
+    if (shown < text.size()) {
+        box.setDetailedText(text);
+    }
+    box.exec();
+    // Escape presses Cancel or No; a box with none of them tells nothing.
+    return box.standardButton(box.clickedButton());
+}
+
+} // namespace
 
 void QtHostUi::information(QWidget *parent, const QString &title, const QString &text)
 {
-    QMessageBox::information(parent, title, text);
+    QMessageBox box(QMessageBox::Information, title, {}, QMessageBox::Ok, parent);
+    (void)show(box, text);
 }
 
 void QtHostUi::warning(QWidget *parent, const QString &title, const QString &text)
 {
-    QMessageBox::warning(parent, title, text);
+    QMessageBox box(QMessageBox::Warning, title, {}, QMessageBox::Ok, parent);
+    (void)show(box, text);
 }
 
 bool QtHostUi::question(QWidget *parent, const QString &title, const QString &text, bool defaultYes)
 {
-    const auto answer = QMessageBox::question(parent, title, text, QMessageBox::Yes | QMessageBox::No,
-                                              defaultYes ? QMessageBox::Yes : QMessageBox::No);
-    return answer == QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Question, title, {}, QMessageBox::Yes | QMessageBox::No, parent);
+    box.setDefaultButton(defaultYes ? QMessageBox::Yes : QMessageBox::No);
+    return show(box, text) == QMessageBox::Yes;
 }
 
 HostUi::SaveAnswer QtHostUi::saveQuestion(QWidget *parent, const QString &title, const QString &text,
@@ -28,8 +95,10 @@ HostUi::SaveAnswer QtHostUi::saveQuestion(QWidget *parent, const QString &title,
 {
     QMessageBox::StandardButtons buttons = QMessageBox::Save | QMessageBox::Discard;
     buttons.setFlag(QMessageBox::Cancel, withCancel);
+    QMessageBox box(QMessageBox::Question, title, {}, buttons, parent);
+    box.setDefaultButton(QMessageBox::Save);
     // Closing a box that has no Cancel must not throw changes away.
-    switch (QMessageBox::question(parent, title, text, buttons, QMessageBox::Save)) {
+    switch (show(box, text)) {
     case QMessageBox::Discard:
         return SaveAnswer::Discard;
     case QMessageBox::Cancel:
@@ -42,12 +111,14 @@ HostUi::SaveAnswer QtHostUi::saveQuestion(QWidget *parent, const QString &title,
 QString QtHostUi::saveFileName(QWidget *parent, const QString &caption, const QString &path,
                                const QString &filter)
 {
+    const EverydayCursor cursor;
     return QFileDialog::getSaveFileName(parent, caption, path, filter);
 }
 
 QString QtHostUi::openFileName(QWidget *parent, const QString &caption, const QString &path,
                                const QString &filter)
 {
+    const EverydayCursor cursor;
     return QFileDialog::getOpenFileName(parent, caption, path, filter);
 }
 
