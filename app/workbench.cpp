@@ -140,6 +140,7 @@ void Workbench::watchDesign()
         }
     }
     m_watcher.setFiles(files);
+    m_isBehind = false;
     m_window.notes().setProblem({});
 }
 
@@ -153,8 +154,7 @@ void Workbench::checkFiles()
     if (m_session.design()) {
         const bool isOtherProject = m_project.hasChanged();
         // After a failure the design that is shown is an old one, whatever the files look like.
-        const bool isBehind = !m_window.notes().problem().isEmpty();
-        if (isOtherProject || isBehind || !m_session.changedFiles().isEmpty()) {
+        if (isOtherProject || m_isBehind || !m_session.changedFiles().isEmpty()) {
             rereadDesign();
         } else if (m_board.hasChanged()) {
             rereadBoard();
@@ -171,6 +171,7 @@ void Workbench::rereadDesign()
     if (m_session.reread()) {
         showDesign();
     } else {
+        m_isBehind = true;
         // It may be half written; the next change of a file is the next try.
         m_window.notes().setProblem(m_session.error());
     }
@@ -179,6 +180,7 @@ void Workbench::rereadDesign()
 void Workbench::rereadBoard()
 {
     if (m_session.rereadBoard()) {
+        m_window.notes().setProblem({});
         m_library.module()->onvalidate();
         updateNotes();
     } else {

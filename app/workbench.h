@@ -64,6 +64,8 @@ private:
     FileWatcher m_watcher;
     FileLook m_board;
     FileLook m_project;
+    /// The files of the design could not be read when they had changed.
+    bool m_isBehind = false;
     /// The stamp of the reading that the notes are about.
     quint64 m_noted = 0;
     /// As the user named it, absolute.

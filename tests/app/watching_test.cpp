@@ -133,4 +133,15 @@ TEST_F(WorkbenchTest, FollowsTheBoardBesideTheSchematic)
     EXPECT_TRUE(waitFor(spoil, [&] { return !notes().problem().isEmpty(); }));
     EXPECT_TRUE(notes().problem().startsWith(boards[0]));
     EXPECT_EQ(getcdb()->getpart(identifier)->layout()->name(), QByteArray("Bottom"));
+
+    // Something else in the folder does not make it a good one.
+    int looks = 0;
+    QObject::connect(bench.get(), &Workbench::filesChecked, [&looks] { ++looks; });
+    EXPECT_TRUE(waitFor([&] { write(QStringLiteral("other.txt"), "x"); }, [&] { return looks > 0; }));
+    EXPECT_TRUE(notes().problem().startsWith(boards[0])) << notes().problem().toStdString();
+    EXPECT_EQ(bench->session().design(), before);
+    const quint64 now = bench->session().design()->components()[0]->identifier;
+    ASSERT_NE(getcdb()->getpart(now)->layout(), nullptr);
+    EXPECT_TRUE(waitFor(place, [&] { return notes().problem().isEmpty(); }));
+    EXPECT_EQ(getcdb()->getpart(now)->layout()->name(), QByteArray("Bottom"));
 }
