@@ -53,6 +53,10 @@ int main(int argc, char **argv)
     const QCommandLineOption module(QStringLiteral("module"), QStringLiteral("The library of the module."),
                                     QStringLiteral("FILE"));
     parser.addOption(module);
+    if (!parser.parse(QCoreApplication::arguments())) {
+        QTextStream(stderr) << "bomviewer: " << parser.errorText() << '\n';
+        return wrongUsage;
+    }
     parser.process(application);
     const QStringList designs = parser.positionalArguments();
     if (designs.size() > 1) {

@@ -28,6 +28,11 @@ QStringList ModuleLibrary::candidates()
 bool ModuleLibrary::load(const QString &path, APPLNPROCESS *process)
 {
     unload();
+    if (!QFileInfo::exists(path)) {
+        // Asked for it, the system would tell of files with other names.
+        m_error = path + QStringLiteral(": there is no such file");
+        return false;
+    }
     m_library.setFileName(QFileInfo(path).absoluteFilePath());
     if (!m_library.load()) {
         m_error = m_library.errorString();

@@ -49,9 +49,14 @@ bool Workbench::start(const QString &modulePath)
     const bool isLoaded =
         modulePath.isEmpty() ? m_library.loadFirst(process) : m_library.load(modulePath, process);
     if (!isLoaded) {
+        m_error = m_library.error();
         return false;
     }
-    return m_library.module()->system_init() && m_library.module()->load();
+    if (!m_library.module()->system_init() || !m_library.module()->load()) {
+        m_error = tr("the module \"%1\" cannot be started").arg(m_library.module()->getapplnname());
+        return false;
+    }
+    return true;
 }
 
 void Workbench::connectWindow()
@@ -102,6 +107,12 @@ bool Workbench::open(const QString &path)
     RecentFiles::add(file);
     updateRecentFiles();
     showDesign();
+    if (!m_library.module()->getprimarywindow()) {
+        HostUi::current().warning(&m_window, tr("Open Failed"),
+                                  tr("The module \"%1\" has no window to show the design in.")
+                                      .arg(m_library.module()->getapplnname()));
+        return false;
+    }
     return true;
 }
 

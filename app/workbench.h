@@ -24,7 +24,7 @@ public:
     /// Loads the module from a file, or from where it is installed when the name is empty. On failure
     /// error() says why, and there is nothing to show.
     [[nodiscard]] bool start(const QString &modulePath = {});
-    [[nodiscard]] const QString &error() const { return m_library.error(); }
+    [[nodiscard]] const QString &error() const { return m_error; }
 
     [[nodiscard]] FrameWindow &window() { return m_window; }
     [[nodiscard]] DesignSession &session() { return m_session; }
@@ -68,6 +68,7 @@ private:
     bool m_isBehind = false;
     /// The stamp of the reading that the notes are about.
     quint64 m_noted = 0;
+    QString m_error;
     /// As the user named it, absolute.
     QString m_path;
     QString m_variant;

@@ -29,6 +29,18 @@ TEST(Program, TellsVersionAndUsageWithoutADisplay)
     }
 }
 
+TEST(Program, TellsWrongUsage)
+{
+    for (const QStringList &arguments :
+         {QStringList{QStringLiteral("--bogus")}, QStringList{QStringLiteral("a"), QStringLiteral("b")}}) {
+        QProcess program;
+        program.start(QStringLiteral(BOM_BINARY_DIR "/bin/bomviewer"), arguments);
+        ASSERT_TRUE(program.waitForFinished());
+        EXPECT_EQ(program.exitCode(), 2);
+        EXPECT_TRUE(program.readAllStandardError().contains("bomviewer: "));
+    }
+}
+
 TEST(EmptyPageTest, ShowsItsTextsInFull)
 {
     QAction open;

@@ -119,10 +119,30 @@ TEST(ModuleLibraryTest, SaysWhyAModuleCannotBeLoaded)
 {
     ModuleLibrary library;
     EXPECT_FALSE(library.load(QStringLiteral("/nowhere/libbom.so"), nullptr));
-    EXPECT_TRUE(library.error().contains(QStringLiteral("/nowhere/libbom.so")));
+    EXPECT_EQ(library.error(), QStringLiteral("/nowhere/libbom.so: there is no such file"));
     EXPECT_FALSE(library.load(QStringLiteral(BOM_BINARY_DIR "/lib/libhost.so"), nullptr));
     EXPECT_TRUE(library.error().contains(QStringLiteral("this is no module")));
+    EXPECT_FALSE(library.load(QStringLiteral(BOM_BINARY_DIR "/lib/libothermodule.so"), nullptr));
+    EXPECT_TRUE(library.error().contains(QStringLiteral("the module cannot be started")));
     EXPECT_EQ(library.module(), nullptr);
+}
+
+TEST_F(WorkbenchTest, SaysThatAModuleCannotStartOrHasNoWindow)
+{
+    const QString other = QStringLiteral(BOM_BINARY_DIR "/lib/libothermodule.so");
+    bench.reset();
+    bench = std::make_unique<Workbench>();
+    EXPECT_FALSE(bench->start(other));
+    EXPECT_TRUE(bench->error().contains(QStringLiteral("cannot be started")));
+
+    qputenv("OTHER_MODULE_NAME", "ABC");
+    bench.reset();
+    bench = std::make_unique<Workbench>();
+    ASSERT_TRUE(bench->start(other)) << bench->error().toStdString();
+    EXPECT_FALSE(bench->open(partList()));
+    ASSERT_EQ(ui.warnings.size(), 1);
+    EXPECT_TRUE(ui.warnings[0].text.contains(QStringLiteral("\"ABC\"")));
+    qunsetenv("OTHER_MODULE_NAME");
 }
 
 TEST(FrameWindowTest, PutsTheHelpOfAModuleIntoItsOwn)
