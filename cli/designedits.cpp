@@ -35,21 +35,19 @@ QString changeLine(const PropertyChange &change)
     return line + u'\n';
 }
 
-QString summary(const QList<PropertyChange> &changes, bool isDryRun)
+QString summary(const QList<PropertyChange> &changes, qsizetype files, bool isDryRun)
 {
     QSet<QString> parts;
-    QSet<QString> files;
     for (const PropertyChange &change : changes) {
         parts.insert(change.reference);
         for (const QString &reference : change.alsoChanges) {
             parts.insert(reference);
         }
-        files.insert(change.file);
     }
     const QString what =
         counted(changes.size(), QStringLiteral("property"), QStringLiteral("properties")) +
         QStringLiteral(" of ") + counted(parts.size(), QStringLiteral("part"), QStringLiteral("parts")) +
-        QStringLiteral(" in ") + counted(files.size(), QStringLiteral("file"), QStringLiteral("files"));
+        QStringLiteral(" in ") + counted(files, QStringLiteral("file"), QStringLiteral("files"));
     return (isDryRun ? QStringLiteral("would change ") + what + QStringLiteral("; nothing was written")
                      : QStringLiteral("changed ") + what) +
            u'\n';
@@ -241,7 +239,7 @@ ExitStatus DesignEdits::tellChanges(bool isDryRun) const
     for (const PropertyChange &change : std::as_const(changes)) {
         text += changeLine(change);
     }
-    text += summary(changes, isDryRun);
+    text += summary(changes, m_design.session().lastFileCount(), isDryRun);
     if (!m_renumbered.isEmpty()) {
         console::message(
             QStringLiteral("BOM-only parts are numbered in the order of their definitions: those of ") +

@@ -60,6 +60,8 @@ public:
     /// which it was asked for.
     [[nodiscard]] const QList<PropertyChange> &lastChanges() const { return m_writer.changes(); }
     /// The files that the last batch replaced.
+    /// How many that were, or would have been in a dry run.
+    [[nodiscard]] qsizetype lastFileCount() const { return m_writer.fileCount(); }
     [[nodiscard]] const QStringList &lastWrittenFiles() const { return m_writer.writtenFiles(); }
     /// The files of the design whose content is not what was read, also those that cannot be read any more.
     [[nodiscard]] QStringList changedFiles() const;

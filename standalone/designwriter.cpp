@@ -66,6 +66,7 @@ void DesignWriter::clear()
 {
     m_changes.clear();
     m_writtenFiles.clear();
+    m_fileCount = 0;
     m_notices.clear();
 }
 
@@ -91,6 +92,7 @@ QList<CDBPROBLEM> DesignWriter::write(const designs::Design &design, std::span<c
     for (const designs::EditEffect &effect : plan.effects) {
         m_changes.append(changeOf(design, edits, effect));
     }
+    m_fileCount = qsizetype(plan.files.size());
     for (const designs::FileEdit &file : plan.files) {
         if (!m_isDryRun) {
             m_writtenFiles << file.path;

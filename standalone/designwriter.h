@@ -52,6 +52,8 @@ public:
     [[nodiscard]] const QList<PropertyChange> &changes() const { return m_changes; }
     /// The files that the last write() replaced.
     [[nodiscard]] const QStringList &writtenFiles() const { return m_writtenFiles; }
+    /// The files that the last write() replaced, or would have in a dry run.
+    [[nodiscard]] qsizetype fileCount() const { return m_fileCount; }
     /// What went wrong although the files were replaced, such as that the previous content could not be kept.
     [[nodiscard]] const QStringList &notices() const { return m_notices; }
     void clear();
@@ -61,5 +63,6 @@ private:
     bool m_keepsBackups = true;
     QList<PropertyChange> m_changes;
     QStringList m_writtenFiles;
+    qsizetype m_fileCount = 0;
     QStringList m_notices;
 };

@@ -131,14 +131,14 @@ void EditResolver::resolveProperty(const Edit &edit, ResolvedEdit *resolved)
     }
 }
 
-/// Whether every symbol of the component that has the property says what is wanted.
+/// Whether every symbol of the component says what is wanted.
 bool EditResolver::allPlacesRead(const ResolvedEdit &resolved) const
 {
     const auto places = m_model.places(resolved.component);
     return !resolved.wanted || std::all_of(places.begin(), places.end(), [&](const SymbolUse &place) {
         const auto name = m_model.nameIn(place, resolved.name);
         const auto text = name ? m_model.usedText(place, *name) : std::nullopt;
-        return !text || m_model.resolved(resolved.component, *text) == *resolved.wanted;
+        return text && m_model.resolved(resolved.component, *text) == *resolved.wanted;
     });
 }
 

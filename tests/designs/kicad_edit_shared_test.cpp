@@ -69,11 +69,13 @@ TEST(KicadEditShared, AllUnitsInAllFiles)
 TEST(KicadEditShared, UnitsThatDifferAreMended)
 {
     const DesignFolder folder;
-    folder.write(
-        root,
-        schematic(v9, "top", unit(v9, 1, {{"A", "1"}}, "/top") + unit(v9, 2, {{"A", "2"}}, "/top", "other")));
-    makeEdits(folder, {{"U1", "A", "1"}, {"U1", "VALUE", "TL074"}});
+    folder.write(root, schematic(v9, "top",
+                                 unit(v9, 1, {{"A", "1"}, {"B", "1"}}, "/top") +
+                                     unit(v9, 2, {{"A", "2"}}, "/top", "other")));
+    const auto plan = makeEdits(folder, {{"U1", "A", "1"}, {"U1", "VALUE", "TL074"}, {"U1", "B", "1"}});
+    EXPECT_EQ(effectsOf(plan), "A: 1 > 1; Value: TL074 > TL074; B: 1 > 1");
     EXPECT_EQ(warnings(*folder.load()), "");
+    EXPECT_TRUE(makeEdits(folder, {{"U1", "A", "1"}, {"U1", "B", "1"}}).files.empty());
 }
 
 TEST(KicadEditShared, TellsTheFileThatChanges)
