@@ -24,7 +24,7 @@ endif()
 add_compile_options(-Wall -Wextra -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # It sees overlaps where a string takes a short literal, https://gcc.gnu.org/bugzilla/show_bug.cgi?id=105651
-  add_compile_options(-Wno-restrict)
+  add_compile_options($<$<CONFIG:Release>:-Wno-restrict>)
 endif()
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
                         QT_DISABLE_DEPRECATED_BEFORE=0x060400)

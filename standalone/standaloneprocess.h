@@ -43,6 +43,9 @@ private:
             : m_document(document)
         {
         }
+        Project(const Project &) = delete;
+        Project &operator=(const Project &) = delete;
+        virtual ~Project() = default;
         IMODULE *queryinterface(unsigned id) override;
         [[nodiscard]] APPLNDOCUMENT *getprojectdocument() override;
 

@@ -50,18 +50,21 @@ public:
 private:
     void expect(std::size_t index, const Component &before)
     {
-        const auto of = std::ranges::equal_range(m_planned, index, {}, &PlannedCell::component);
+        const auto first = std::ranges::lower_bound(m_planned, index, {}, &PlannedCell::component);
+        const auto last = std::find_if(first, m_planned.end(),
+                                       [index](const PlannedCell &cell) { return cell.component != index; });
         m_value = before.value;
         fill(&m_expected, m_list, before);
-        if (of.empty()) {
+        if (first == last) {
             return;
         }
         const PartListColumns &columns = m_list.columns();
         m_expected.clear();
         for (std::size_t column = 0; column < columns.names.size() + m_newColumns.size(); ++column) {
-            const auto cell = std::ranges::find(of, column, &PlannedCell::column);
+            const auto cell = std::find_if(
+                first, last, [column](const PlannedCell &planned) { return planned.column == column; });
             const auto text =
-                cell != of.end() ? std::string_view(cell->text) : m_list.cellText(index, column).value_or("");
+                cell != last ? std::string_view(cell->text) : m_list.cellText(index, column).value_or("");
             const std::string_view added = column < columns.names.size()
                                                ? std::string_view()
                                                : m_newColumns[column - columns.names.size()];

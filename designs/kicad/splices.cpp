@@ -23,7 +23,7 @@ QByteArray spliced(std::string_view text, const std::vector<Splice> &splices)
         std::accumulate(splices.begin(), splices.end(), std::size_t(0),
                         [](std::size_t sum, const Splice &splice) { return sum + splice.text.size(); });
     QByteArray result;
-    result.reserve(qsizetype(text.size() + more));
+    result.reserve(qsizetype(text.size()) + qsizetype(more));
     std::size_t at = 0;
     for (const Splice &splice : splices) {
         result.append(text.data() + at, qsizetype(splice.begin - at));
