@@ -42,7 +42,8 @@ bool write(QByteArrayView bytes)
 {
     errno = 0;
     const std::size_t size = std::size_t(bytes.size());
-    if (std::fwrite(bytes.data(), 1, size, stdout) == size && std::fflush(stdout) == 0) {
+    const bool isTaken = size == 0 || std::fwrite(bytes.data(), 1, size, stdout) == size;
+    if (isTaken && std::fflush(stdout) == 0) {
         return true;
     }
     message(QStringLiteral("standard output: ") + QString::fromLocal8Bit(std::strerror(errno)));
