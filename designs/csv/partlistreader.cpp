@@ -5,12 +5,12 @@
 #include "designs/csv/messagetext.h"
 #include "designs/csv/partlist.h"
 #include "designs/csv/referencecell.h"
+#include "designs/notfitted.h"
 
 #include <QByteArray>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 
 namespace designs {
@@ -33,15 +33,6 @@ bool equalIgnoringCase(std::string_view text, std::string_view other)
 {
     return QByteArrayView(text.data(), qsizetype(text.size()))
                .compare(QByteArrayView(other.data(), qsizetype(other.size())), Qt::CaseInsensitive) == 0;
-}
-
-/// Whether the text of a property DNP says that the part is not fitted.
-bool saysNotFitted(std::string_view text)
-{
-    static constexpr std::array<std::string_view, 6> fitted = {"", "0", "no", "n", "false", "~"};
-    const std::string_view said = trimmed(text);
-    return std::ranges::none_of(fitted,
-                                [said](std::string_view word) { return equalIgnoringCase(said, word); });
 }
 
 QString counted(std::size_t references)
