@@ -10,7 +10,7 @@
 #include "host/framework/applnmodule.h"
 #include "host/framework/applnwindow.h"
 #include "host/framework/hostui.h"
-#include "host/richtext/pagepainter.h"
+#include "richtext/paper/pagepainter.h"
 #include "standalone/loadeddesign.h"
 
 #include <QApplication>

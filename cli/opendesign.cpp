@@ -6,7 +6,7 @@
 #include "cli/templatechoice.h"
 #include "host/netlist/netlist.h"
 #include "host/propdefs/propdefsfile.h"
-#include "host/richtext/pagepainter.h"
+#include "richtext/paper/pagepainter.h"
 #include "standalone/environment.h"
 #include "templates/templatestore.h"
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "designs/designfiles.h"
 
-#include "designs/files/designlock.h"
-#include "designs/files/recovery.h"
-#include "designs/files/undorecord.h"
-#include "designs/files/writecheck.h"
+#include "designs/transaction/designlock.h"
+#include "designs/transaction/recovery.h"
+#include "designs/transaction/undorecord.h"
+#include "designs/transaction/writecheck.h"
 
 namespace designs {
 

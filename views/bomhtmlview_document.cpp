@@ -4,7 +4,7 @@
 
 #include "core/bompartsdatabase.h"
 #include "host/framework/hostui.h"
-#include "host/richtext/tidylibwrapper.h"
+#include "richtext/xhtml/tidylibwrapper.h"
 #include "views/htmltext.h"
 #include "views/reportlink.h"
 

@@ -3,8 +3,8 @@
 #include "views/bomhtmlview.h"
 
 #include "core/bompartsdatabase.h"
-#include "host/richtext/textedit.h"
-#include "host/richtext/textstyleeditor.h"
+#include "richtext/editor/textedit.h"
+#include "richtext/editor/textstyleeditor.h"
 #include "templates/defaultstylesheet.h"
 #include "views/bomtemplateeditor.h"
 #include "views/oldhtmltemplate.h"

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "views/bomtemplateeditor.h"
 
-#include "host/richtext/cssscan.h"
-#include "host/richtext/documentmarkup.h"
-#include "host/richtext/pagegeometry.h"
-#include "host/richtext/textedit.h"
-#include "host/richtext/textedithruler.h"
-#include "host/richtext/textedittoolbars.h"
+#include "richtext/css/cssscan.h"
+#include "richtext/editor/textedit.h"
+#include "richtext/editor/textedithruler.h"
+#include "richtext/editor/textedittoolbars.h"
+#include "richtext/paper/pagegeometry.h"
+#include "richtext/xhtml/documentmarkup.h"
 #include "ui_bomtemplateeditor.h"
 #include "views/htmltext.h"
 

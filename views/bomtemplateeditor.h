@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/richtext/stylesheet.h"
+#include "richtext/css/stylesheet.h"
 
 #include <QDialog>
 #include <QString>

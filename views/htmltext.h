@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/richtext/xmltext.h"
+#include "richtext/xhtml/xmltext.h"
 
 #include <QString>
 

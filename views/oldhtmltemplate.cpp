@@ -3,8 +3,8 @@
 #include "views/oldhtmltemplate.h"
 
 #include "host/framework/hostui.h"
-#include "host/richtext/documentmarkup.h"
-#include "host/richtext/tidylibwrapper.h"
+#include "richtext/xhtml/documentmarkup.h"
+#include "richtext/xhtml/tidylibwrapper.h"
 
 #include <QCoreApplication>
 #include <QDebug>

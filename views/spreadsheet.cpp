@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "views/spreadsheet.h"
 
-#include "host/richtext/xmltext.h"
+#include "richtext/xhtml/xmltext.h"
 
 #include <QFile>
 #include <QRegularExpression>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/kicaddesign.h"
 
-#include "designs/kicad/editmodel.h"
+#include "designs/kicad/edit/editmodel.h"
 #include "designs/kicad/symbolrecount.h"
 #include "designs/kicad/textvariables.h"
 #include "designs/notfitted.h"

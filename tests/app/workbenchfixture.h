@@ -6,7 +6,7 @@
 
 #include "app/statusnotes.h"
 #include "host/framework/hostsettings.h"
-#include "host/richtext/textedit.h"
+#include "richtext/editor/textedit.h"
 #include "support/scriptedui.h"
 
 #include <QCoreApplication>

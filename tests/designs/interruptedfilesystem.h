@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "designs/files/posixfilesystem.h"
+#include "designs/transaction/posixfilesystem.h"
 
 #include <unistd.h>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "designs/kicad/editcheck.h"
+#include "designs/kicad/edit/editcheck.h"
 #include "designs/kicad/sheetparser.h"
 #include "designs/kicadtext.h"
 

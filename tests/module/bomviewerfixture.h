@@ -5,8 +5,8 @@
 #include "module/bomviewer.h"
 
 #include "core/bompartsdatabase.h"
-#include "host/richtext/textedit.h"
 #include "module/bommainwindow.h"
+#include "richtext/editor/textedit.h"
 #include "support/scriptedui.h"
 #include "tests/module/modulehost.h"
 

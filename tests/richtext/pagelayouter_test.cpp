@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "host/richtext/pagelayouter.h"
+#include "richtext/paper/pagelayouter.h"
 
-#include "host/richtext/pdfoutput.h"
+#include "richtext/paper/pdfoutput.h"
 
 #include <QPageLayout>
 #include <QTextBlock>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "host/richtext/documentmarkup.h"
-#include "host/richtext/shownstyle.h"
-#include "host/richtext/stylesheet.h"
-#include "host/richtext/textdocument.h"
+#include "richtext/css/stylesheet.h"
+#include "richtext/editor/textdocument.h"
+#include "richtext/xhtml/documentmarkup.h"
+#include "richtext/xhtml/shownstyle.h"
 
 #include <QTextCursor>
 #include <QTextTable>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "host/richtext/stylesheet.h"
+#include "richtext/css/stylesheet.h"
 
 #include "richtext/sheettext.h"
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "host/richtext/cssvalue.h"
-#include "host/richtext/pagegeometry.h"
-#include "host/richtext/pdfoutput.h"
-#include "host/richtext/stylesheet.h"
-#include "host/richtext/textedit.h"
+#include "richtext/css/cssvalue.h"
+#include "richtext/css/stylesheet.h"
+#include "richtext/editor/textedit.h"
+#include "richtext/paper/pagegeometry.h"
+#include "richtext/paper/pdfoutput.h"
 #include "support/pdftext.h"
 #include "support/scriptedprintui.h"
 #include "support/scriptedui.h"

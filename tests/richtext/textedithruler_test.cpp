@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "host/richtext/textedithruler.h"
+#include "richtext/editor/textedithruler.h"
 
-#include "host/richtext/textedit.h"
+#include "richtext/editor/textedit.h"
 #include "support/scriptedui.h"
 
 #include <gtest/gtest.h>

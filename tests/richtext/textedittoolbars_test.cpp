@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "host/richtext/textedittoolbars.h"
+#include "richtext/editor/textedittoolbars.h"
 
-#include "host/richtext/textedit.h"
-#include "host/richtext/xhtmlwriter.h"
+#include "richtext/editor/textedit.h"
+#include "richtext/xhtml/xhtmlwriter.h"
 #include "support/printtext.h"
 #include "support/scriptedui.h"
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/richtext/textstyleeditor.h"
+#include "richtext/editor/textstyleeditor.h"
 
-#include "host/richtext/stylesheet.h"
+#include "richtext/css/stylesheet.h"
 #include "richtext/sheettext.h"
 
 #include <gtest/gtest.h>

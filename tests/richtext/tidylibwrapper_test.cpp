@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "host/richtext/tidylibwrapper.h"
+#include "richtext/xhtml/tidylibwrapper.h"
 #include "support/printtext.h"
 
 #include <gtest/gtest.h>

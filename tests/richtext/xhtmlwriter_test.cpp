@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "host/richtext/xhtmlwriter.h"
-#include "host/richtext/xmltext.h"
+#include "richtext/xhtml/xhtmlwriter.h"
+#include "richtext/xhtml/xmltext.h"
 #include "support/printtext.h"
 
 #include <gtest/gtest.h>

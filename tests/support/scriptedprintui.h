@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/richtext/printui.h"
+#include "richtext/paper/printui.h"
 
 #include <QPageLayout>
 #include <QPrinter>

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "views/bomtemplateeditor.h"
 
-#include "host/richtext/textedit.h"
-#include "host/richtext/textedithruler.h"
-#include "host/richtext/textedittoolbars.h"
+#include "richtext/editor/textedit.h"
+#include "richtext/editor/textedithruler.h"
+#include "richtext/editor/textedittoolbars.h"
 #include "support/printtext.h"
 #include "support/scriptedui.h"
 #include "templates/defaultstylesheet.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "host/richtext/textedit.h"
+#include "richtext/editor/textedit.h"
 #include "views/bomhtmlview.h"
 #include "views/viewfixture.h"
 

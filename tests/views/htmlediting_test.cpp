@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "host/richtext/textedit.h"
-#include "host/richtext/textstyleeditor.h"
+#include "richtext/editor/textedit.h"
+#include "richtext/editor/textstyleeditor.h"
 #include "support/pdftext.h"
 #include "support/scriptedprintui.h"
 #include "templates/defaultstylesheet.h"

@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/kicad/edit/editplanner.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace designs::kicad {
+
+namespace {
+
+/// References that a message names before it only counts.
+constexpr std::size_t namedReferences = 12;
+
+QString toText(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), qsizetype(text.size()));
+}
+
+/// The names between the braces of the variables in a text, without a reference before a colon.
+QStringList variableNames(std::string_view text)
+{
+    constexpr std::size_t longestName = 200;
+    QStringList names;
+    for (std::size_t at = text.find("${"); at != std::string_view::npos; at = text.find("${", at + 2)) {
+        const std::string_view rest = text.substr(at + 2, longestName);
+        const QString name = toText(rest.substr(0, rest.find('}')));
+        names << name.mid(name.indexOf(u':') + 1).toCaseFolded();
+    }
+    return names;
+}
+
+} // namespace
+
+EditPlanner::EditPlanner(const EditModel &model)
+    : m_model(model)
+    , m_resolver(model)
+{
+}
+
+EditPlan EditPlanner::plan(std::span<const Edit> edits)
+{
+    resolveAll(edits);
+    refuseCrossing();
+    refuseConflicts();
+    if (m_plan.problems.empty()) {
+        for (const auto &[number, edit] : m_edits) {
+            if (edit.changes) {
+                apply(number);
+            }
+        }
+        buildFiles();
+    }
+    std::stable_sort(m_plan.problems.begin(), m_plan.problems.end(),
+                     [](const EditProblem &a, const EditProblem &b) { return a.edit < b.edit; });
+    if (!m_plan.problems.empty()) {
+        m_plan.files.clear();
+    }
+    return std::move(m_plan);
+}
+
+QString EditPlanner::referenceOf(std::size_t component) const
+{
+    return toText(m_model.components()[component].reference);
+}
+
+void EditPlanner::refuse(std::size_t edit, const QString &why)
+{
+    const ResolvedEdit &asked = m_edits.at(edit);
+    if (asked.component >= m_model.components().size()) {
+        m_plan.problems.push_back({edit, {m_model.hierarchy().files().front().path, 0, why}});
+        return;
+    }
+    m_plan.problems.push_back({edit,
+                               {m_model.sheetOf(m_model.places(asked.component).front()).path,
+                                m_model.lineOf(asked.component), why}});
+}
+
+/// Of several edits of one property of one component the last counts.
+void EditPlanner::resolveAll(std::span<const Edit> edits)
+{
+    std::unordered_map<std::string, std::size_t> last;
+    for (std::size_t number = 0; number < edits.size(); ++number) {
+        ResolvedEdit edit = m_resolver.resolve(edits[number]);
+        const std::string key = std::to_string(edit.component) + ' ' + edit.name;
+        const auto [known, isNew] = last.try_emplace(key, number);
+        if (!isNew) {
+            m_edits.erase(known->second);
+            known->second = number;
+        }
+        m_edits.emplace_hint(m_edits.end(), number, std::move(edit));
+    }
+    for (const auto &[number, edit] : m_edits) {
+        if (!edit.refusal.isEmpty()) {
+            refuse(number, edit.refusal);
+        }
+    }
+}
+
+/// A text whose variables stand for what the same batch changes has no meaning that could be promised.
+void EditPlanner::refuseCrossing()
+{
+    QSet<QString> changed;
+    for (const auto &[number, edit] : m_edits) {
+        changed.insert(toText(edit.name).toCaseFolded());
+    }
+    for (const auto &[number, edit] : m_edits) {
+        for (const QString &name : variableNames(edit.changes ? edit.written : std::string())) {
+            if (changed.contains(name)) {
+                refuse(number, QStringLiteral("the text holds a variable for a property that is changed with "
+                                              "it; change one after the other"));
+                break;
+            }
+        }
+    }
+}
+
+/// What an edit changes that other components may share.
+std::vector<std::string> EditPlanner::sharedKeys(const ResolvedEdit &edit) const
+{
+    std::vector<std::string> keys;
+    if (!m_model.variant().empty() || edit.component >= m_model.components().size()) {
+        return keys;
+    }
+    for (const SymbolUse &place : m_model.places(edit.component)) {
+        if (m_model.sharers(place).size() > 1) {
+            const auto own = edit.target == EditTarget::Property ? m_model.nameIn(place, edit.name)
+                                                                 : std::optional<std::string_view>();
+            keys.push_back(std::to_string(m_model.fileOf(place)) + ' ' + std::to_string(place.symbol) + ' ' +
+                           std::string(own.value_or(edit.name)));
+        }
+    }
+    return keys;
+}
+
+void EditPlanner::refuseConflicts()
+{
+    struct Group
+    {
+        std::vector<std::size_t> edits;
+        bool differs = false;
+        QString references;
+    };
+    std::unordered_map<std::string, Group> groups;
+    for (const auto &[number, edit] : m_edits) {
+        for (const std::string &key : sharedKeys(edit)) {
+            Group &group = groups[key];
+            group.differs |= !group.edits.empty() && m_edits.at(group.edits.front()).wanted != edit.wanted;
+            if (group.edits.size() < namedReferences) {
+                group.references += group.edits.empty() ? QString() : QStringLiteral(", ");
+                group.references += referenceOf(edit.component);
+            }
+            group.edits.push_back(number);
+        }
+    }
+    for (const auto &[number, edit] : m_edits) {
+        for (const std::string &key : sharedKeys(edit)) {
+            const Group &group = groups.at(key);
+            if (group.differs) {
+                const std::size_t more = group.edits.size() - std::min(group.edits.size(), namedReferences);
+                refuse(number,
+                       QStringLiteral("drawn by one symbol of a sheet that is used several times, and asked "
+                                      "to differ: ") +
+                           group.references + (more ? QStringLiteral(" and %1 more").arg(more) : QString()));
+                break;
+            }
+        }
+    }
+}
+
+} // namespace designs::kicad

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "designs/transaction/designpaths.h"
+#include "designs/transaction/filework.h"
+
+namespace designs {
+
+/// The right to write the files of one design, for one process at a time. It ends with the process.
+class DesignLock final
+{
+public:
+    DesignLock(FileWork &work, const DesignPaths &paths);
+    DesignLock(const DesignLock &) = delete;
+    DesignLock &operator=(const DesignLock &) = delete;
+    ~DesignLock();
+
+    /// Waits some seconds for another process that writes. False adds the reason to the work's problems.
+    [[nodiscard]] bool take();
+
+private:
+    FileWork &m_work;
+    QString m_design;
+    QString m_path;
+    int m_file = -1;
+};
+
+} // namespace designs

@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/transaction/recovery.h"
+
+#include "designs/transaction/editorlock.h"
+
+#include <algorithm>
+
+namespace designs {
+
+bool Recovery::isNeeded()
+{
+    return isWaiting() || m_work.exists(m_paths.newJournal()) || m_work.exists(m_paths.lock());
+}
+
+bool Recovery::isWaiting()
+{
+    return m_work.exists(m_paths.journal());
+}
+
+bool Recovery::run()
+{
+    FileStatus found;
+    if (!m_work.look(m_paths.journal(), &found)) {
+        return false;
+    }
+    if (found.kind == FileStatus::Kind::Missing) {
+        return m_work.removeIfThere(m_paths.newJournal());
+    }
+    QString why;
+    std::optional<Journal> journal = Journal::read(m_paths, &why);
+    if (!journal) {
+        return m_work.fail(m_paths.journal(),
+                           QStringLiteral("tells of an interrupted write, but cannot be used: ") + why +
+                               QStringLiteral(". Nothing was touched. Check the files of the design, then "
+                                              "delete this one"));
+    }
+    FileTransaction transaction(m_work, m_paths, std::move(*journal));
+    return resolve(transaction);
+}
+
+bool Recovery::resolve(FileTransaction &transaction)
+{
+    const Journal &journal = transaction.journal();
+    if (journal.state == Journal::State::Preparing) {
+        tell(m_paths.design(), QStringLiteral("a write was interrupted before it changed any file: what it "
+                                              "had prepared was removed"));
+        return transaction.discard();
+    }
+    if (!checkNotOpen(journal)) {
+        return false;
+    }
+    if (journal.state == Journal::State::TakingBack) {
+        return takeBack(transaction);
+    }
+    switch (wayFor(transaction)) {
+    case Way::Forward:
+        return complete(transaction);
+    case Way::Back:
+        return takeBack(transaction);
+    case Way::Neither:
+        break;
+    }
+    return giveUp(transaction);
+}
+
+bool Recovery::complete(FileTransaction &transaction)
+{
+    for (const JournalEntry &entry : transaction.journal().entries) {
+        if (transaction.isPlaced(entry) && fingerprintOfPlainFile(entry.target) != entry.after) {
+            tell(entry.target,
+                 QStringLiteral("was changed after an interrupted write had replaced it: it was "
+                                "left as it is now"));
+        }
+    }
+    if (!transaction.place() || !transaction.finish()) {
+        return false;
+    }
+    tell(m_paths.design(), QStringLiteral("an interrupted write was completed"));
+    return true;
+}
+
+bool Recovery::takeBack(FileTransaction &transaction)
+{
+    for (const JournalEntry &entry : transaction.journal().entries) {
+        const auto now = fingerprintOfPlainFile(entry.target);
+        if (now != entry.after && now != entry.before) {
+            tell(entry.target, QStringLiteral("was changed while a write was interrupted: it was left as it "
+                                              "is now"));
+        }
+    }
+    if (!transaction.takeBack()) {
+        return false;
+    }
+    tell(m_paths.design(),
+         QStringLiteral("an interrupted write was taken back: none of its changes is in the "
+                        "files, make them again"));
+    return true;
+}
+
+/// The user must decide: files of both kinds, and no way to either.
+bool Recovery::giveUp(FileTransaction &transaction)
+{
+    for (const JournalEntry &entry : transaction.journal().entries) {
+        const auto now = fingerprintOfPlainFile(entry.target);
+        const QString holds = now == entry.after    ? QStringLiteral("holds the new content")
+                              : now == entry.before ? QStringLiteral("holds the previous content")
+                                                    : QStringLiteral("was changed meanwhile");
+        const auto standsIn = [this](const QString &what, const QString &path) {
+            return m_work.exists(path) ? what + path : QString();
+        };
+        m_work.fail(entry.target,
+                    holds + standsIn(QStringLiteral("; the new content stands in "), entry.prepared) +
+                        standsIn(QStringLiteral("; the previous content stands in "), entry.saved));
+    }
+    return m_work.fail(m_paths.design(),
+                       QStringLiteral("a write was interrupted and files were changed since, so that it can "
+                                      "neither be completed nor taken back. Nothing was touched. Bring the "
+                                      "files named above into order, then delete ") +
+                           m_paths.journal());
+}
+
+bool Recovery::checkNotOpen(const Journal &journal)
+{
+    QStringList paths{m_paths.named(), m_paths.design()};
+    for (const JournalEntry &entry : journal.entries) {
+        paths << entry.target;
+    }
+    paths.removeDuplicates();
+    bool closed = true;
+    for (const QString &path : std::as_const(paths)) {
+        if (const auto who = openElsewhere(path)) {
+            closed = m_work.fail(path, QStringLiteral("a write was interrupted, but this file ") + *who);
+        }
+    }
+    return closed;
+}
+
+Recovery::Way Recovery::wayFor(FileTransaction &transaction)
+{
+    const auto &entries = transaction.journal().entries;
+    if (std::ranges::all_of(entries, [&](const auto &entry) { return canComplete(transaction, entry); })) {
+        return Way::Forward;
+    }
+    const bool back =
+        std::ranges::all_of(entries, [&](const auto &entry) { return canTakeBack(transaction, entry); });
+    return back ? Way::Back : Way::Neither;
+}
+
+bool Recovery::canComplete(FileTransaction &transaction, const JournalEntry &entry)
+{
+    const auto now = fingerprintOfPlainFile(entry.target);
+    if (transaction.isPlaced(entry)) {
+        return now == entry.after || now != entry.before;
+    }
+    return (now == entry.before || now == entry.after) &&
+           fingerprintOfPlainFile(entry.prepared) == entry.after;
+}
+
+bool Recovery::canTakeBack(FileTransaction &transaction, const JournalEntry &entry)
+{
+    const auto now = fingerprintOfPlainFile(entry.target);
+    if (!transaction.isPlaced(entry) || now == entry.before) {
+        return true;
+    }
+    return now == entry.after && fingerprintOfPlainFile(entry.saved) == entry.before;
+}
+
+} // namespace designs

@@ -1,0 +1,137 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/transaction/writecheck.h"
+
+#include "designs/transaction/editorlock.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace designs {
+
+namespace {
+
+constexpr quint32 anyWriteBit = 0222;
+
+} // namespace
+
+bool WriteCheck::run(std::span<const FileEdit> files, bool keepsBackups)
+{
+    bool possible = true;
+    for (const FileEdit &file : files) {
+        possible = checkFile(file, keepsBackups) && possible;
+    }
+    possible = checkDesignClosed() && possible;
+    return checkFolders(keepsBackups) && possible;
+}
+
+bool WriteCheck::checkStillClosed()
+{
+    return checkDesignClosed() && std::ranges::all_of(m_replacements, [this](const auto &file) {
+               return checkClosed(file.path, file.target);
+           });
+}
+
+/// KiCad marks the sheet that it was asked to open, and holds those below it in memory, too.
+bool WriteCheck::checkDesignClosed()
+{
+    const bool isTold = std::ranges::any_of(
+        m_work.problems(), [this](const Problem &problem) { return problem.file == m_paths.named(); });
+    return isTold || checkClosed(m_paths.named(), m_paths.design());
+}
+
+bool WriteCheck::checkClosed(const QString &path, const QString &target)
+{
+    for (const QString &name : {path, target}) {
+        if (const auto who = openElsewhere(name)) {
+            return m_work.fail(path, *who);
+        }
+    }
+    return true;
+}
+
+bool WriteCheck::checkFile(const FileEdit &file, bool keepsBackups)
+{
+    const QString target = QFileInfo(file.path).canonicalFilePath();
+    if (target.isEmpty()) {
+        return m_work.fail(file.path, QStringLiteral("does not exist any more"));
+    }
+    if (!checkClosed(file.path, target)) {
+        return false;
+    }
+    if (std::ranges::any_of(m_replacements, [&](const auto &other) { return other.target == target; })) {
+        return m_work.fail(file.path, QStringLiteral("is named twice among the files to write"));
+    }
+    if (!checkKind(file, target) || !checkWritable(file.path, target) ||
+        (keepsBackups && !checkBackup(m_paths.backupOf(target)))) {
+        return false;
+    }
+    const auto now = fingerprintOfFile(target);
+    if (now != file.before) {
+        return m_work.fail(file.path, now ? QStringLiteral("was changed since it was read")
+                                          : QStringLiteral("cannot be read any more"));
+    }
+    m_replacements.push_back({file.path, target, file.before, &file.after});
+    return true;
+}
+
+bool WriteCheck::checkKind(const FileEdit &file, const QString &target)
+{
+    const FileStatus status = m_work.status(target);
+    if (status.kind != FileStatus::Kind::File) {
+        return m_work.fail(file.path, QStringLiteral("is no ordinary file"));
+    }
+    if (status.names > 1) {
+        return m_work.fail(file.path,
+                           QStringLiteral("has %1 names (hard links), and writing would separate them: put a "
+                                          "copy in its place, or work on the copy")
+                               .arg(status.names));
+    }
+    return m_paths.mayHold(target) ||
+           m_work.fail(file.path, QStringLiteral("lies outside the design's folder and is of another kind"));
+}
+
+bool WriteCheck::checkWritable(const QString &path, const QString &target)
+{
+    if (const int failure = m_work.system().checkWritable(target); failure != 0) {
+        return m_work.fail(path, QStringLiteral("may not be written: ") + qt_error_string(failure));
+    }
+    // An administrator may write everything, but a file that nobody may write is meant to stay as it is.
+    FileStatus status;
+    if (!m_work.look(target, &status) || (status.mode & anyWriteBit) == 0) {
+        return m_work.fail(path, QStringLiteral("may not be written: it is read-only"));
+    }
+    const QString folder = folderOf(target);
+    const int failure = m_work.system().checkWritable(folder);
+    return failure == 0 ||
+           m_work.fail(path, QStringLiteral("cannot be replaced, because its folder may not be "
+                                            "written: ") +
+                                 qt_error_string(failure));
+}
+
+bool WriteCheck::checkBackup(const QString &target)
+{
+    const FileStatus::Kind kind = m_work.status(target).kind;
+    return kind == FileStatus::Kind::Missing || kind == FileStatus::Kind::File ||
+           m_work.fail(target, QStringLiteral("is in the way of a backup"));
+}
+
+bool WriteCheck::checkFolders(bool keepsBackups)
+{
+    const int failure = m_work.system().checkWritable(m_paths.folder());
+    if (failure != 0) {
+        return m_work.fail(m_paths.folder(),
+                           QStringLiteral("the folder may not be written: ") + qt_error_string(failure));
+    }
+    if (!keepsBackups) {
+        return true;
+    }
+    const FileStatus::Kind kind = m_work.status(m_paths.backupFolder()).kind;
+    if (kind != FileStatus::Kind::Missing && kind != FileStatus::Kind::Folder) {
+        return m_work.fail(m_paths.backupFolder(), QStringLiteral("is in the way of the folder for backups"));
+    }
+    return checkBackup(m_paths.record());
+}
+
+} // namespace designs

@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "richtext/editor/textdocument.h"
+
+#include "richtext/css/stylesheet.h"
+#include "richtext/paper/pagegeometry.h"
+#include "richtext/xhtml/documentmarkup.h"
+#include "richtext/xhtml/shownmarkup.h"
+#include "richtext/xhtml/shownstyle.h"
+#include "richtext/xhtml/xhtmlstyle.h"
+#include "richtext/xhtml/xhtmlwriter.h"
+#include "richtext/xhtml/xmltext.h"
+
+#include <QElapsedTimer>
+#include <QStringBuilder>
+#include <QTextCursor>
+#include <QTextFrame>
+#include <QTextFrameFormat>
+
+namespace {
+
+constexpr double pointsPerPixel = 0.75;
+
+// In ms.
+constexpr int noticeableEffort = 300;
+constexpr int pauseBetweenChanges = 250;
+
+/// QTextDocument leaves the margins of the body to its root frame.
+void applyBodyMargins(QTextDocument &document, const StyleSheet &css)
+{
+    const QMarginsF margins = pageMargins(css) / pointsPerPixel;
+    QTextFrameFormat format = document.rootFrame()->frameFormat();
+    format.setLeftMargin(margins.left());
+    format.setTopMargin(margins.top());
+    format.setRightMargin(margins.right());
+    format.setBottomMargin(margins.bottom());
+    document.rootFrame()->setFrameFormat(format);
+}
+
+} // namespace
+
+TextDocument::TextDocument(QObject *parent)
+    : QTextDocument(parent)
+{
+    setDocumentMargin(0);
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(pauseBetweenChanges);
+    connect(&m_pause, &QTimer::timeout, this, &TextDocument::makeContent);
+}
+
+TextDocument::~TextDocument() = default;
+
+void TextDocument::setSource(const QString &xhtml)
+{
+    m_source = xhtml;
+    m_css = takeApart(xhtml).css;
+    m_shownCss = m_css;
+    m_title.clear();
+    suspend();
+    setModified(false);
+}
+
+void TextDocument::show()
+{
+    if (!m_isShown) {
+        makeContent();
+    }
+}
+
+void TextDocument::suspend()
+{
+    m_isShown = false;
+    m_pause.stop();
+}
+
+void TextDocument::setTitle(const QString &title)
+{
+    m_title = title;
+    setMetaInformation(DocumentTitle, title);
+}
+
+QString TextDocument::getHtml() const
+{
+    const DocumentParts parts = takeApart(m_source);
+    const QString css = styleElementText(m_css);
+    if (!isModified()) {
+        return parts.css == m_css ? m_source : parts.head + css + parts.tail;
+    }
+    const QStringView tail(parts.tail);
+    const QStringView body = bodyOf(tail);
+    const qsizetype start = body.data() - tail.data();
+    return parts.head % css % tail.first(start) %
+           xhtmlBody(*this, m_paragraphClass, ShownStyle(StyleSheet(m_shownCss)).css()) %
+           tail.sliced(start + body.size());
+}
+
+void TextDocument::beginPlainParagraph(QTextCursor cursor) const
+{
+    TextDocument sample;
+    sample.setDefaultFont(defaultFont());
+    sample.setSource(QStringLiteral("<html><head><style type=\"text/css\">") + styleElementText(m_shownCss) +
+                     QStringLiteral("</style></head><body><p") +
+                     xhtmlAttribute(QStringLiteral("class"), m_paragraphClass) +
+                     QStringLiteral(">x</p></body></html>"));
+    sample.show();
+    const QTextCursor found = sample.find(QStringLiteral("x"));
+    cursor.insertBlock(found.blockFormat(), found.charFormat());
+}
+
+void TextDocument::loadCss(const QString &css, bool preview)
+{
+    const bool isSame = css == m_shownCss;
+    if (isModified()) {
+        m_source = getHtml();
+    }
+    m_shownCss = css;
+    if (!preview) {
+        m_css = css;
+    }
+    if (!isSame) {
+        changeLook();
+    }
+}
+
+void TextDocument::highlightSelector(const QString &selector)
+{
+    const bool isSame = selector == m_highlighted;
+    if (isModified()) {
+        m_source = getHtml();
+    }
+    m_highlighted = selector;
+    if (!isSame) {
+        changeLook();
+    }
+}
+
+void TextDocument::changeLook()
+{
+    if (!m_isShown) {
+        return;
+    }
+    if (m_effort < noticeableEffort) {
+        makeContent();
+    } else {
+        m_pause.start();
+    }
+}
+
+void TextDocument::makeContent()
+{
+    QElapsedTimer effort;
+    effort.start();
+    if (isModified()) {
+        m_source = getHtml();
+    }
+    Q_EMIT aboutToMakeContent();
+    m_isShown = true;
+    const StyleSheet css(m_shownCss);
+    const bool keepsUndo = isUndoRedoEnabled();
+    setUndoRedoEnabled(false);
+    // In one go, so that a document that is shown is laid out once.
+    QTextCursor cursor(this);
+    cursor.beginEditBlock();
+    showMarkup(*this, shownMarkup(m_source, css, Medium::Window, m_highlighted));
+    applyBodyMargins(*this, css);
+    cursor.endEditBlock();
+    setUndoRedoEnabled(keepsUndo);
+    if (!m_title.isEmpty()) {
+        setMetaInformation(DocumentTitle, m_title);
+    }
+    setModified(false);
+    Q_EMIT contentMade();
+    m_effort = effort.elapsed();
+}

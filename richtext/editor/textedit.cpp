@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "richtext/editor/textedit.h"
+
+#include "host/framework/hostui.h"
+#include "host/framework/reportfile.h"
+#include "richtext/css/stylesheet.h"
+#include "richtext/editor/textcommands.h"
+#include "richtext/paper/pagegeometry.h"
+#include "richtext/paper/pdfoutput.h"
+#include "richtext/paper/printui.h"
+
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPalette>
+#include <QPrinter>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextList>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace {
+
+/// Fine enough for paper, see PdfOutput.
+constexpr int printerResolution = 600;
+
+/// Paper is white, whatever the desktop's colours: documents bring colours that are made for it.
+QPalette paperPalette(QPalette palette)
+{
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    return palette;
+}
+
+} // namespace
+
+TextEdit::TextEdit(QWidget *parent)
+    : QTextEdit(parent)
+    , m_document(new TextDocument(this))
+{
+    setDocument(m_document);
+    setPalette(paperPalette(palette()));
+    setAccessibleName(tr("Document"));
+    connect(m_document, &TextDocument::aboutToMakeContent, this,
+            [this] { m_place = verticalScrollBar()->value(); });
+    connect(m_document, &TextDocument::contentMade, this, [this] {
+        moveCursor(QTextCursor::Start);
+        verticalScrollBar()->setValue(m_place);
+    });
+}
+
+TextEdit::~TextEdit() = default;
+
+void TextEdit::loadDocument(const QString &xhtml)
+{
+    m_document->setSource(xhtml);
+    if (isVisible()) {
+        m_document->show();
+    }
+}
+
+void TextEdit::setPageFragments(const QString &header, const QString &footer)
+{
+    m_pageHeader = header;
+    m_pageFooter = footer;
+}
+
+void TextEdit::pageSetup()
+{
+    StyleSheet css(m_document->getCss());
+    QPageLayout layout = pageLayout(css);
+    if (PrintUi::current().choosePaper(this, layout)) {
+        setPageLayout(css, layout);
+        m_document->loadCss(css.text(), false);
+    }
+}
+
+bool TextEdit::print(QPainter &painter)
+{
+    m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    m_printer->setResolution(printerResolution);
+    m_printer->setPageLayout(pageLayout(StyleSheet(m_document->getCss())));
+    m_printer->setDocName(pagedText().title);
+    const auto preview = [this](QPrinter &printer) {
+        QPainter previewPainter(&printer);
+        paintDocument(previewPainter, printer, 0, 0);
+        Q_EMIT previewPainted(&previewPainter);
+    };
+    if (!PrintUi::current().choosePrinter(this, *m_printer, preview)) {
+        return false;
+    }
+    if (!painter.begin(m_printer.get())) {
+        HostUi::current().warning(this, tr("Print Failed"), tr("The printer cannot be used."));
+        return false;
+    }
+    paintDocument(painter, *m_printer, m_printer->fromPage(), m_printer->toPage());
+    return true;
+}
+
+bool TextEdit::printToPdf(const QString &suggestedName, bool asksForFile, bool opensFile, QPainter &painter)
+{
+    m_pdfPath = suggestedName;
+    if (asksForFile) {
+        m_pdfPath = HostUi::current().saveFileName(this, tr("PDF file to save"), suggestedName,
+                                                   tr("PDF documents (*.pdf)"));
+    }
+    if (m_pdfPath.isEmpty()) {
+        return false;
+    }
+    m_opensPdf = opensFile;
+    m_pdf = std::make_unique<PdfOutput>(pageLayout(StyleSheet(m_document->getCss())), pagedText().title);
+    painter.begin(&m_pdf->device());
+    paintDocument(painter, m_pdf->device(), 0, 0);
+    return true;
+}
+
+QString TextEdit::finishPdf()
+{
+    if (!m_pdf) {
+        return {};
+    }
+    const QByteArray bytes = std::exchange(m_pdf, nullptr)->bytes();
+    QString reason;
+    HostUi &ui = HostUi::current();
+    const ReportFileResult result = writeReportFile(m_pdfPath, bytes, &reason);
+    if (result != ReportFileResult::Written) {
+        ui.warning(this, tr("Output Failed"), reportFileMessage(result, m_pdfPath, reason));
+        return {};
+    }
+    if (m_opensPdf) {
+        ui.openUrl(QUrl::fromLocalFile(QFileInfo(m_pdfPath).absoluteFilePath()));
+    }
+    return m_pdfPath;
+}
+
+void TextEdit::showEvent(QShowEvent *event)
+{
+    m_document->show();
+    QTextEdit::showEvent(event);
+}
+
+void TextEdit::mouseMoveEvent(QMouseEvent *event)
+{
+    QTextEdit::mouseMoveEvent(event);
+    if (isReadOnly()) {
+        const bool isOnLink = !anchorAt(event->pos()).isEmpty();
+        viewport()->setCursor(isOnLink ? Qt::PointingHandCursor : Qt::IBeamCursor);
+    }
+}
+
+void TextEdit::mousePressEvent(QMouseEvent *event)
+{
+    m_pressedLink = isReadOnly() && event->button() == Qt::LeftButton ? anchorAt(event->pos()) : QString();
+    QTextEdit::mousePressEvent(event);
+}
+
+void TextEdit::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTextEdit::mouseReleaseEvent(event);
+    const QString pressed = std::exchange(m_pressedLink, QString());
+    if (event->button() == Qt::LeftButton && !pressed.isEmpty() && !textCursor().hasSelection() &&
+        anchorAt(event->pos()) == pressed) {
+        Q_EMIT linkActivated(pressed);
+    }
+}
+
+void TextEdit::beginParagraph()
+{
+    QTextCursor cursor = textCursor();
+    const bool isEmptyItem = cursor.currentList() && cursor.block().length() == 1 && !cursor.hasSelection();
+    if (isEmptyItem) {
+        changeIndent(*this, -1);
+    } else if (cursor.blockFormat().headingLevel() > 0 && cursor.atBlockEnd() && !cursor.hasSelection()) {
+        m_document->beginPlainParagraph(cursor);
+    } else {
+        cursor.insertBlock();
+    }
+    ensureCursorVisible();
+}
+
+void TextEdit::keyPressEvent(QKeyEvent *event)
+{
+    if (!isReadOnly() && event->matches(QKeySequence::InsertParagraphSeparator)) {
+        beginParagraph();
+        return;
+    }
+    const bool opens = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const QString link = isReadOnly() && opens ? textCursor().charFormat().anchorHref() : QString();
+    if (link.isEmpty()) {
+        QTextEdit::keyPressEvent(event);
+    } else {
+        Q_EMIT linkActivated(link);
+    }
+}
+
+PagedText TextEdit::pagedText() const
+{
+    PagedText text;
+    text.xhtml = m_document->getHtml();
+    text.title = m_document->metaInformation(QTextDocument::DocumentTitle);
+    text.header = m_pageHeader;
+    text.footer = m_pageFooter;
+    return text;
+}
+
+void TextEdit::paintDocument(QPainter &painter, QPagedPaintDevice &device, int first, int last) const
+{
+    PagePainter pages(pagedText());
+    const int count = pages.layOut(device);
+    const int from = std::clamp(first, 1, count);
+    pages.paint(painter, from, last == 0 ? count : std::clamp(last, from, count));
+}

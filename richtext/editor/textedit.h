@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "richtext/editor/textdocument.h"
+#include "richtext/paper/pagepainter.h"
+
+#include <QTextEdit>
+
+#include <memory>
+
+class PdfOutput;
+class QPrinter;
+
+/// Shows and edits a rich-text document, prints it and makes PDF files of it.
+class TextEdit : public QTextEdit
+{
+    Q_OBJECT
+
+public:
+    explicit TextEdit(QWidget *parent = nullptr);
+    ~TextEdit() override;
+
+    /// Takes an XHTML document. It is laid out when the widget is, or becomes, visible. What was shown before
+    /// is gone; the place that the view was scrolled to stays.
+    void loadDocument(const QString &xhtml);
+
+    /// The document shown, never null; owned by the widget.
+    [[nodiscard]] TextDocument *document() const { return m_document; }
+
+    /// Fragments for the top and bottom of printed pages, see PagedText.
+    void setPageFragments(const QString &header, const QString &footer);
+
+    /// Lets the user choose the paper, which the document's style sheet then names.
+    void pageSetup();
+
+    /// Lets the user choose a printer and prints the document; false when cancelled. The painter, inactive
+    /// before, stays on the printer's last page so that more can follow; end it before the next printing.
+    bool print(QPainter &painter);
+
+    /// Makes a PDF file of the document under a name that the user is asked for, or `suggestedName` when not
+    /// `asksForFile`; false when cancelled. The painter stays as after print(); the file is written by
+    /// finishPdf() after its end, which opens it too when `opensFile`.
+    bool printToPdf(const QString &suggestedName, bool asksForFile, bool opensFile, QPainter &painter);
+
+    /// Writes the file that printToPdf() has begun. Its name, or empty, after a message, when it cannot be
+    /// written; the old file then stays.
+    QString finishPdf();
+
+Q_SIGNALS:
+    /// A link was clicked, or opened with the keyboard.
+    void linkActivated(const QString &link);
+    /// The preview of a print shows the document; what the print appends is to be painted after it.
+    void previewPainted(QPainter *painter);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    /// What Return does: no look is lost, but a heading and a list end.
+    void beginParagraph();
+    [[nodiscard]] PagedText pagedText() const;
+    void paintDocument(QPainter &painter, QPagedPaintDevice &device, int first, int last) const;
+
+    TextDocument *m_document = nullptr;
+    /// Where the view was scrolled to before the content changed.
+    int m_place = 0;
+    QString m_pageHeader;
+    QString m_pageFooter;
+    QString m_pressedLink;
+    std::unique_ptr<QPrinter> m_printer;
+    std::unique_ptr<PdfOutput> m_pdf;
+    QString m_pdfPath;
+    bool m_opensPdf = false;
+};

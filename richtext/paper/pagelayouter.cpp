@@ -1,0 +1,260 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "richtext/paper/pagelayouter.h"
+
+#include "richtext/css/stylesheet.h"
+#include "richtext/xhtml/documentmarkup.h"
+#include "richtext/xhtml/shownmarkup.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextFrame>
+#include <QTextLayout>
+#include <QTextTable>
+
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
+namespace {
+
+/// Each break lays the rest out again; more sections than this are not looked after.
+constexpr int mostMovedSections = 200;
+
+std::vector<QTextTable *> tablesOf(const QTextDocument &document)
+{
+    std::vector<QTextTable *> tables;
+    for (QTextFrame *frame : document.rootFrame()->childFrames()) {
+        if (auto *table = qobject_cast<QTextTable *>(frame)) {
+            tables.push_back(table);
+        }
+    }
+    return tables;
+}
+
+QRectF cellRect(const QTextDocument &document, const QTextTableCell &cell)
+{
+    return document.documentLayout()->blockBoundingRect(cell.firstCursorPosition().block());
+}
+
+/// The row of a table whose cells span one column each, or -1.
+int plainRow(const QTextTable &table)
+{
+    for (int row = 0; row < table.rows(); ++row) {
+        bool isPlain = true;
+        for (int column = 0; isPlain && column < table.columns(); ++column) {
+            isPlain = table.cellAt(row, column).columnSpan() == 1;
+        }
+        if (isPlain) {
+            return row;
+        }
+    }
+    return -1;
+}
+
+/// The widths of columns from the places of their cells' texts; the table's width is that of the columns and
+/// the gaps around them.
+std::vector<double> measuredWidths(const std::vector<QRectF> &texts, double tableWidth)
+{
+    const double padding = texts.size() < 2 ? 0 : texts[1].left() - texts[0].right();
+    const double withGap = texts.back().right() + padding - texts.front().left();
+    const double gap = std::clamp(tableWidth - withGap, 0.0, padding);
+    std::vector<double> widths;
+    widths.reserve(texts.size());
+    for (const QRectF &text : texts) {
+        widths.push_back(text.width() + padding - gap);
+    }
+    return widths;
+}
+
+/// Lengths in percent are rounded: the widest column gives the others a pixel, so that no text is wrapped for
+/// it.
+QList<QTextLength> asPercentages(std::vector<double> widths)
+{
+    const auto widest = std::max_element(widths.begin(), widths.end());
+    for (auto width = widths.begin(); width != widths.end(); ++width) {
+        if (width != widest) {
+            *width += 1;
+            *widest -= 1;
+        }
+    }
+    const double whole = std::accumulate(widths.begin(), widths.end(), 0.0);
+    QList<QTextLength> percentages;
+    for (const double width : widths) {
+        percentages.append(QTextLength(QTextLength::PercentageLength, 100 * width / whole));
+    }
+    return whole > 0 ? percentages : QList<QTextLength>();
+}
+
+/// The widths of a table's columns in percent; empty when it has no plain row.
+QList<QTextLength> columnWidths(const QTextDocument &document, const QTextTable &table)
+{
+    const int row = plainRow(table);
+    if (row < 0) {
+        return {};
+    }
+    std::vector<QRectF> texts;
+    texts.reserve(size_t(table.columns()));
+    for (int column = 0; column < table.columns(); ++column) {
+        texts.push_back(cellRect(document, table.cellAt(row, column)));
+    }
+    const QRectF frame = document.documentLayout()->frameBoundingRect(const_cast<QTextTable *>(&table));
+    return asPercentages(measuredWidths(texts, frame.width()));
+}
+
+/// Gives the tables that were one table in `whole` the columns that they have there.
+void shareColumns(QTextDocument &pages, const QTextDocument &whole)
+{
+    const std::vector<QTextTable *> wholes = tablesOf(whole);
+    auto source = wholes.begin();
+    QList<QTextLength> widths;
+    const QTextTable *measured = nullptr;
+    for (QTextTable *table : tablesOf(pages)) {
+        while (source != wholes.end() && (*source)->columns() != table->columns()) {
+            ++source;
+        }
+        if (source == wholes.end()) {
+            return;
+        }
+        if (measured != *source) {
+            measured = *source;
+            widths = columnWidths(whole, *measured);
+        }
+        if (table->rows() < measured->rows() && !widths.isEmpty()) {
+            QTextTableFormat format = table->format();
+            format.setColumnWidthConstraints(widths);
+            table->setFormat(format);
+        }
+    }
+}
+
+/// Where the text of a cell begins: its first line may stand on the page after that of its top.
+double textTop(const QTextDocument &document, const QTextTableCell &cell)
+{
+    const QTextBlock block = cell.firstCursorPosition().block();
+    const double top = document.documentLayout()->blockBoundingRect(block).top();
+    return block.layout()->lineCount() > 0 ? top + block.layout()->lineAt(0).y() : top;
+}
+
+bool startsAtFoot(const QTextDocument &document, const QTextTable &table, double pageHeight)
+{
+    const int headings = table.format().headerRowCount();
+    if (headings == 0 || headings >= table.rows()) {
+        return false;
+    }
+    const double title = textTop(document, table.cellAt(0, 0));
+    const double firstRow = textTop(document, table.cellAt(headings, 0));
+    return int(title / pageHeight) != int(firstRow / pageHeight);
+}
+
+void keepHeadingsWithRows(QTextDocument &document, double pageHeight)
+{
+    int moved = 0;
+    for (QTextTable *table : tablesOf(document)) {
+        if (moved < mostMovedSections && startsAtFoot(document, *table, pageHeight)) {
+            ++moved;
+            QTextTableFormat format = table->format();
+            format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+            table->setFormat(format);
+        }
+    }
+}
+
+/// The PDF engine writes addresses as they stand, between brackets.
+QString encodedAddress(const QString &address)
+{
+    return QString::fromLatin1(address.toUtf8().toPercentEncoding("!#$%&'*+,/:;=?@[]~"));
+}
+
+void encodeAddresses(QTextDocument &document)
+{
+    struct Link
+    {
+        int position;
+        int length;
+        QString address;
+    };
+    std::vector<Link> links;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QString address = it.fragment().charFormat().anchorHref();
+            if (const QString encoded = encodedAddress(address); encoded != address) {
+                links.push_back({it.fragment().position(), it.fragment().length(), encoded});
+            }
+        }
+    }
+    QTextCursor cursor(&document);
+    for (const Link &link : links) {
+        QTextCharFormat format;
+        format.setAnchorHref(link.address);
+        cursor.setPosition(link.position);
+        cursor.setPosition(link.position + link.length, QTextCursor::KeepAnchor);
+        cursor.mergeCharFormat(format);
+    }
+}
+
+/// The background of a paragraph that goes on over pages hides the headings that are repeated on them; that
+/// of its cell does not.
+void giveBackgroundsToCells(QTextDocument &document)
+{
+    QTextCursor cursor(&document);
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        QTextBlockFormat format = block.blockFormat();
+        if (!format.hasProperty(QTextFormat::BackgroundBrush)) {
+            continue;
+        }
+        cursor.setPosition(block.position());
+        const QTextTable *table = cursor.currentTable();
+        if (!table) {
+            continue;
+        }
+        QTextTableCell cell = table->cellAt(cursor);
+        QTextCharFormat cellFormat = cell.format();
+        if (!cellFormat.hasProperty(QTextFormat::BackgroundBrush)) {
+            cellFormat.setBackground(format.background());
+            cell.setFormat(cellFormat);
+        }
+        if (cellFormat.background() == format.background()) {
+            format.clearBackground();
+            cursor.setBlockFormat(format);
+        }
+    }
+}
+
+/// Otherwise every single change lays the document out again.
+template<typename Changes>
+void changeAtOnce(QTextDocument &document, Changes changes)
+{
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    changes();
+    cursor.endEditBlock();
+}
+
+void fill(QTextDocument &document, const QString &markup, QPaintDevice &device)
+{
+    document.setUndoRedoEnabled(false);
+    document.setDocumentMargin(0);
+    showMarkup(document, markup);
+    document.documentLayout()->setPaintDevice(&device);
+}
+
+} // namespace
+
+void layOutPages(QTextDocument &document, const QString &xhtml, QPaintDevice &device, const QSizeF &page)
+{
+    const StyleSheet css(takeApart(xhtml).css);
+    QTextDocument whole;
+    fill(whole, shownMarkup(xhtml, css, Medium::Window), device);
+    whole.setTextWidth(page.width());
+    fill(document, shownMarkup(xhtml, css, Medium::Pages), device);
+    changeAtOnce(document, [&] {
+        encodeAddresses(document);
+        giveBackgroundsToCells(document);
+        shareColumns(document, whole);
+    });
+    document.setPageSize(page);
+    keepHeadingsWithRows(document, page.height());
+}

@@ -1,0 +1,186 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "richtext/xhtml/shownstyle.h"
+
+#include "richtext/css/cssbox.h"
+#include "richtext/css/cssvalue.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr double pointsPerPixel = 0.75;
+constexpr double defaultFontSize = 12;
+/// The margin above and below a heading, in its font size, as browsers have it.
+constexpr std::array<double, 6> headingMargins{0.67, 0.83, 1.0, 1.33, 1.67, 2.33};
+/// The sizes of headings, in the font size of the body.
+constexpr std::array<double, 6> headingSizes{2.0, 1.5, 1.17, 1.0, 0.83, 0.67};
+
+bool isBoxProperty(const QString &property)
+{
+    return property.startsWith(QLatin1String("padding")) || property.startsWith(QLatin1String("border"));
+}
+
+/// Absolute lengths in `unit`; others as they are.
+QString inUnit(const QString &value, QLatin1String unit, double pointsPerUnit)
+{
+    static const QRegularExpression length(
+        QStringLiteral("(?<![\\w.#-])-?(?:\\d+\\.?\\d*|\\.\\d+)(?:pt|pc|mm|cm|in)\\b"),
+        QRegularExpression::CaseInsensitiveOption);
+    QString result;
+    qsizetype copied = 0;
+    for (auto matches = length.globalMatch(value); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        const double points = css::points(match.captured(), 0, 0).value_or(0.0);
+        result += QStringView(value).sliced(copied, match.capturedStart() - copied);
+        result += QString::number(points / pointsPerUnit, 'f', 2) + unit;
+        copied = match.capturedEnd();
+    }
+    return result + value.mid(copied);
+}
+
+QString shownDeclaration(const StyleSheet::Declaration &declaration)
+{
+    const bool isFont = declaration.property.startsWith(QLatin1String("font"));
+    const QString value = isFont ? inUnit(declaration.value, QLatin1String("pt"), 1.0)
+                                 : inUnit(declaration.value, QLatin1String("px"), pointsPerPixel);
+    return declaration.property + QStringLiteral(": ") + value + QStringLiteral("; ");
+}
+
+/// The tag of "p.name" and "h1.name", or of "h1"; empty for other selectors.
+QString paragraphTag(const QString &selector)
+{
+    static const QRegularExpression pattern(QStringLiteral("^(p|h[1-6])(?:\\.[\\w-]+)?$"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    return pattern.match(selector).captured(1).toLower();
+}
+
+double fontSize(const StyleSheet::Rule &rule)
+{
+    for (const StyleSheet::Declaration &declaration : rule.declarations) {
+        if (declaration.property == QLatin1String("font-size")) {
+            return css::points(css::withoutImportant(declaration.value), defaultFontSize, defaultFontSize)
+                .value_or(defaultFontSize);
+        }
+    }
+    return defaultFontSize;
+}
+
+/// The margin above and below that a heading has where its rule says nothing, in pixels; 0 for paragraphs.
+double defaultMargin(const StyleSheet::Rule &rule, const QString &tag)
+{
+    return tag.size() == 2 ? headingMargins[size_t(tag[1].unicode() - u'1')] * fontSize(rule) / pointsPerPixel
+                           : 0;
+}
+
+QString defaultMarginDeclarations(double margin)
+{
+    const QString length = QString::number(margin, 'f', 2) + QStringLiteral("px; ");
+    return margin > 0 ? QStringLiteral("margin-top: ") + length + QStringLiteral("margin-bottom: ") + length
+                      : QString();
+}
+
+/// The sizes of headings, which QTextDocument gives up once the body has a font size.
+QString headingRules(const StyleSheet &css)
+{
+    const QString bodySize =
+        css::withoutImportant(css.value(QStringLiteral("body"), QStringLiteral("font-size")));
+    const std::optional<double> points = css::points(bodySize, defaultFontSize, defaultFontSize);
+    QString rules;
+    for (size_t i = 0; points && i < headingSizes.size(); ++i) {
+        const double size = *points * headingSizes[i];
+        rules += QStringLiteral("h") + QString::number(i + 1) + QStringLiteral(" { font-size: ") +
+                 css::inPoints(size) + QStringLiteral("; ") +
+                 defaultMarginDeclarations(size * headingMargins[i] / pointsPerPixel) + QStringLiteral("}\n");
+    }
+    return rules;
+}
+
+/// The margin of the body is that of the page, and no one's inside.
+bool isPageMargin(const StyleSheet::Rule &rule, const StyleSheet::Declaration &declaration)
+{
+    return rule.selector == QLatin1String("body") && declaration.property.startsWith(QLatin1String("margin"));
+}
+
+/// What a rule declares, all of it and what its cells take over.
+struct Declarations
+{
+    QString all;
+    QString ofCell;
+    bool hasBox = false;
+};
+
+Declarations shownDeclarations(const StyleSheet::Rule &rule)
+{
+    Declarations result;
+    for (const StyleSheet::Declaration &declaration : rule.declarations) {
+        if (isPageMargin(rule, declaration)) {
+            continue;
+        }
+        const QString shown = shownDeclaration(declaration);
+        const bool isBox = isBoxProperty(declaration.property);
+        result.hasBox = result.hasBox || isBox;
+        result.all += shown;
+        if (isBox || declaration.property == QLatin1String("vertical-align")) {
+            result.ofCell += shown;
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+ShownStyle::ShownStyle(const StyleSheet &css)
+    : m_css(headingRules(css))
+{
+    QSet<QString> known;
+    for (const StyleSheet::Rule &rule : css.rules()) {
+        const QString tag = paragraphTag(rule.selector);
+        const bool isFirst = !known.contains(rule.selector);
+        known.insert(rule.selector);
+        const double margin = isFirst ? defaultMargin(rule, tag) : 0;
+        const Declarations shown = shownDeclarations(rule);
+        m_css += rule.selector + QStringLiteral(" { ") + defaultMarginDeclarations(margin) + shown.all +
+                 QStringLiteral("}\n");
+        const qsizetype dot = rule.selector.indexOf(u'.');
+        if (tag.isEmpty() || dot < 0) {
+            continue;
+        }
+        const QString name = rule.selector.mid(dot + 1);
+        if (shown.hasBox) {
+            m_boxes.insert(name);
+            m_css += QStringLiteral("td.") + name + QStringLiteral(", th.") + name + QStringLiteral(" { ") +
+                     shown.ofCell + QStringLiteral("}\n");
+        }
+        if (isFirst) {
+            m_marginsAbove.insert(name, margin);
+            m_marginsBelow.insert(name, margin);
+        }
+        takeMargins(rule, name);
+    }
+}
+
+void ShownStyle::takeMargins(const StyleSheet::Rule &rule, const QString &name)
+{
+    using cssbox::Side;
+    const cssbox::Lengths lengths = cssbox::lengths(cssbox::Family::Margin, rule, fontSize(rule), 0);
+    if (const std::optional<double> above = lengths[size_t(Side::Top)]) {
+        m_marginsAbove.insert(name, std::max(*above, 0.0) / pointsPerPixel);
+    }
+    if (const std::optional<double> below = lengths[size_t(Side::Bottom)]) {
+        m_marginsBelow.insert(name, std::max(*below, 0.0) / pointsPerPixel);
+    }
+}
+
+double ShownStyle::marginAbove(QStringView className) const
+{
+    return m_marginsAbove.value(className.toString());
+}
+
+double ShownStyle::marginBelow(QStringView className) const
+{
+    return m_marginsBelow.value(className.toString());
+}

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "richtext/css/stylesheet.h"
+
+#include <QHash>
+#include <QSet>
+#include <QString>
+#include <QStringView>
+
+/// A style sheet in the terms of QTextDocument, which measures boxes in pixels only, knows paddings and
+/// borders for table cells only, and gives headings with a rule no margins of their own.
+class ShownStyle final
+{
+public:
+    explicit ShownStyle(const StyleSheet &css);
+
+    [[nodiscard]] const QString &css() const { return m_css; }
+
+    /// Whether a paragraph of that class has a padding or border, which its cell then has to get: the style
+    /// sheet has rules for cells of that class.
+    [[nodiscard]] bool isBoxed(QStringView className) const { return m_boxes.contains(className.toString()); }
+    /// The margin above or below paragraphs of that class in pixels, 0 without one.
+    [[nodiscard]] double marginAbove(QStringView className) const;
+    [[nodiscard]] double marginBelow(QStringView className) const;
+
+private:
+    void takeMargins(const StyleSheet::Rule &rule, const QString &name);
+
+    QString m_css;
+    QSet<QString> m_boxes;
+    QHash<QString, double> m_marginsAbove;
+    QHash<QString, double> m_marginsBelow;
+};
