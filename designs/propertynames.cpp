@@ -2,20 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "designs/propertynames.h"
 
+#include "designs/utf8.h"
+
 #include <QString>
 
 #include <algorithm>
 
 namespace designs {
-
-namespace {
-
-std::string folded(std::string_view name)
-{
-    return QString::fromUtf8(name.data(), qsizetype(name.size())).toCaseFolded().toStdString();
-}
-
-} // namespace
 
 NameId PropertyNames::intern(std::string_view name)
 {
@@ -28,7 +21,7 @@ NameId PropertyNames::intern(std::string_view name)
     const auto id = NameId(m_names.size());
     m_names.push_back(view);
     m_ids.emplace(view, id);
-    m_folded[folded(view)].push_back(id);
+    m_folded[caseFolded(view)].push_back(id);
     return id;
 }
 
@@ -52,7 +45,7 @@ std::vector<NameId> PropertyNames::candidates(std::string_view name) const
     if (const auto alias = m_aliases.find(name); alias != m_aliases.end()) {
         add(alias->second);
     }
-    if (const auto twins = m_folded.find(folded(name)); twins != m_folded.end()) {
+    if (const auto twins = m_folded.find(caseFolded(name)); twins != m_folded.end()) {
         std::for_each(twins->second.begin(), twins->second.end(), add);
     }
     return ids;

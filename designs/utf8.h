@@ -2,11 +2,26 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArrayView>
+#include <QString>
+
+#include <string>
 #include <string_view>
 
 namespace designs {
 
 /// Whether the bytes are well-formed UTF-8 (RFC 3629).
 [[nodiscard]] bool isUtf8(std::string_view text);
+
+[[nodiscard]] inline QString fromUtf8(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), qsizetype(text.size()));
+}
+
+/// The form in which names that differ in letter case only are equal.
+[[nodiscard]] inline std::string caseFolded(std::string_view name)
+{
+    return fromUtf8(name).toCaseFolded().toStdString();
+}
 
 } // namespace designs

@@ -4,22 +4,18 @@
 
 #include "designs/design.h"
 #include "designs/designfiles.h"
+#include "designs/utf8.h"
 
 namespace {
 
-QString text(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
-}
-
 std::optional<QString> text(const std::optional<std::string> &utf8)
 {
-    return utf8 ? std::optional(text(std::string_view(*utf8))) : std::nullopt;
+    return utf8 ? std::optional(designs::fromUtf8(*utf8)) : std::nullopt;
 }
 
 QString reference(const designs::Design &design, std::size_t component)
 {
-    return text(design.components()[component].reference);
+    return designs::fromUtf8(design.components()[component].reference);
 }
 
 QList<CDBPROBLEM> problemsOf(const designs::Design &design, std::span<const designs::Edit> edits,
@@ -29,7 +25,7 @@ QList<CDBPROBLEM> problemsOf(const designs::Design &design, std::span<const desi
     for (const designs::EditProblem &problem : problems) {
         const designs::Edit *edit = problem.edit ? &edits[*problem.edit] : nullptr;
         found.append({edit ? reference(design, edit->component) : QString(),
-                      edit ? text(std::string_view(edit->name)) : QString(), problem.problem.file,
+                      edit ? designs::fromUtf8(edit->name) : QString(), problem.problem.file,
                       problem.problem.line, problem.problem.text});
     }
     return found;
@@ -48,7 +44,7 @@ PropertyChange changeOf(const designs::Design &design, std::span<const designs::
                         const designs::EditEffect &effect)
 {
     PropertyChange change{reference(design, edits[effect.edit].component),
-                          text(std::string_view(effect.name)),
+                          designs::fromUtf8(effect.name),
                           text(effect.before),
                           text(effect.after),
                           effect.file,

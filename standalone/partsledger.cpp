@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/partsledger.h"
 
+#include "designs/utf8.h"
 #include "standalone/loadeddesign.h"
 
 #include <QHash>
@@ -13,11 +14,6 @@ namespace {
 
 using designs::Component;
 using designs::MarkedBy;
-
-QString text(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
-}
 
 bool holdsVariable(const Component &component)
 {
@@ -74,7 +70,7 @@ qsizetype PartsLedger::components() const
 
 QString PartsLedger::reference(qsizetype index) const
 {
-    return text(at(index).reference);
+    return designs::fromUtf8(at(index).reference);
 }
 
 bool PartsLedger::isListed(qsizetype index) const
@@ -202,7 +198,7 @@ std::vector<RepeatedReference> PartsLedger::repeated() const
         }
         const auto [known, isNew] = entry.emplace(component.reference, found.size());
         if (isNew) {
-            found.push_back({text(component.reference), {}, 0, 0});
+            found.push_back({designs::fromUtf8(component.reference), {}, 0, 0});
         }
         found[known->second].places.append(place(component));
         found[known->second].listed += isListed(i) ? 1 : 0;
@@ -255,7 +251,8 @@ QString PartsLedger::notFittedText(const Component &component) const
         mark = QStringLiteral("property");
         for (const designs::NameId id : m_design.design().names().candidates("DNP")) {
             if (const auto value = m_design.design().stored(component, id)) {
-                mark += u' ' + text(m_design.design().names().name(id)) + u'=' + text(*value);
+                mark += u' ' + designs::fromUtf8(m_design.design().names().name(id)) + u'=' +
+                        designs::fromUtf8(*value);
                 break;
             }
         }

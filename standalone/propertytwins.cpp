@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/propertytwins.h"
 
+#include "designs/utf8.h"
 #include "standalone/loadeddesign.h"
 
 #include <QHash>
@@ -10,11 +11,6 @@ namespace {
 
 using designs::Component;
 using designs::NameId;
-
-QString text(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
-}
 
 /// Numbers the names so that twins have the same number.
 class Groups
@@ -27,12 +23,12 @@ public:
         for (const char *alias : {"PACKAGE", "VALUE"}) {
             const quint32 group = m_count++;
             for (const NameId id : names.candidates(alias)) {
-                known.insert(text(names.name(id)).toCaseFolded(), group);
+                known.insert(designs::fromUtf8(names.name(id)).toCaseFolded(), group);
             }
         }
         m_groups.reserve(names.size());
         for (NameId id = 0; id < names.size(); ++id) {
-            const QString key = text(names.name(id)).toCaseFolded();
+            const QString key = designs::fromUtf8(names.name(id)).toCaseFolded();
             const auto found = known.constFind(key);
             m_groups.push_back(found == known.constEnd() ? *known.insert(key, m_count++) : *found);
         }
@@ -92,7 +88,7 @@ public:
             if (twins.names.isEmpty()) {
                 order.push_back(m_groups[id]);
             }
-            twins.names.append(text(m_design.names().name(id)));
+            twins.names.append(designs::fromUtf8(m_design.names().name(id)));
             twins.counts.append(m_uses[id]);
         }
         std::vector<PropertyTwins> found;
@@ -117,7 +113,7 @@ private:
             sight = {index, value, false};
         } else if (!sight.isReported && differs(sight.value, value)) {
             sight.isReported = true;
-            m_hiding[m_groups[name]].append(text(component.reference));
+            m_hiding[m_groups[name]].append(designs::fromUtf8(component.reference));
         }
     }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/standalonecdb.h"
 
+#include "designs/utf8.h"
 #include "standalone/adiscript.h"
 #include "standalone/loadeddesign.h"
 
@@ -13,11 +14,6 @@
 
 namespace {
 
-QString text(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
-}
-
 /// The name under which the component has the property, or would; in one letter case where the design has no
 /// such name.
 std::string storedName(const designs::Design &design, const designs::Edit &edit)
@@ -28,7 +24,7 @@ std::string storedName(const designs::Design &design, const designs::Edit &edit)
         return design.stored(component, id).has_value();
     });
     if (candidates.empty()) {
-        return text(edit.name).toCaseFolded().toStdString();
+        return designs::fromUtf8(edit.name).toCaseFolded().toStdString();
     }
     return std::string(design.names().name(found == candidates.end() ? candidates.front() : *found));
 }
@@ -115,7 +111,8 @@ void StandaloneCdb::run(std::istream &script, int mode)
     }
     const AdiScript read = readAdiScript(script);
     if (!read.error.isEmpty()) {
-        m_problems.append({text(read.reference), text(read.property), {}, 0, read.error});
+        m_problems.append(
+            {designs::fromUtf8(read.reference), designs::fromUtf8(read.property), {}, 0, read.error});
     }
     for (const AdiAssignment &assignment : read.assignments) {
         stage(assignment);
@@ -137,19 +134,20 @@ void StandaloneCdb::stage(const AdiAssignment &assignment)
     if (const auto reason = m_design->design().checkEdit(edit)) {
         const designs::Design &design = m_design->design();
         const designs::Component &component = design.components()[edit.component];
-        m_problems.append({text(assignment.reference), text(assignment.property),
+        m_problems.append({designs::fromUtf8(assignment.reference), designs::fromUtf8(assignment.property),
                            design.files().value(qsizetype(component.file)), design.lineOf(component),
                            *reason});
         return;
     }
     if (losesDefinition(m_design->design(), edit)) {
         refuse(assignment, QStringLiteral("the design spells this name ") +
-                               text(storedName(m_design->design(), edit)) +
+                               designs::fromUtf8(storedName(m_design->design(), edit)) +
                                QStringLiteral(", which defines no BOM-only parts: rename it there first"));
         return;
     }
     if (const designs::Edit *other = contradicted(edit)) {
-        refuse(assignment, QStringLiteral("another text is asked for under the name ") + text(other->name));
+        refuse(assignment,
+               QStringLiteral("another text is asked for under the name ") + designs::fromUtf8(other->name));
         return;
     }
     m_staged.push_back(std::move(edit));
@@ -190,7 +188,8 @@ void StandaloneCdb::fail(const QString &reason)
 
 void StandaloneCdb::refuse(const AdiAssignment &assignment, const QString &reason)
 {
-    m_problems.append({text(assignment.reference), text(assignment.property), {}, 0, reason});
+    m_problems.append(
+        {designs::fromUtf8(assignment.reference), designs::fromUtf8(assignment.property), {}, 0, reason});
 }
 
 void StandaloneCdb::forget()

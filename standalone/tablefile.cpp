@@ -4,6 +4,7 @@
 
 #include "designs/csv/csvfile.h"
 #include "designs/csv/partlistcolumns.h"
+#include "designs/utf8.h"
 
 #include <algorithm>
 #include <span>
@@ -13,8 +14,7 @@ namespace {
 QString cellText(const designs::CsvFile &file, const designs::CsvCell &cell)
 {
     designs::TextArena arena;
-    const std::string_view text = file.text(cell, arena);
-    return QString::fromUtf8(text.data(), qsizetype(text.size()));
+    return designs::fromUtf8(file.text(cell, arena));
 }
 
 QStringList rowTexts(const designs::CsvFile &file, const designs::CsvRow &row)

@@ -2,16 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/componentbuilder.h"
 
+#include "designs/utf8.h"
+
 #include <algorithm>
 
 namespace designs::kicad {
 
 namespace {
-
-QString toText(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), qsizetype(text.size()));
-}
 
 std::string_view nameOfLibId(std::string_view libId)
 {
@@ -292,7 +289,7 @@ QStringList ComponentBuilder::joinProperties(const Group &group, Component *join
     for (const auto &[place, unit] : group.members) {
         for (const Property &property : unit.properties) {
             if (m_scratch[places.at(property.name)].value != property.value) {
-                differing << toText(m_names->name(property.name));
+                differing << fromUtf8(m_names->name(property.name));
             }
         }
     }
@@ -312,7 +309,8 @@ void ComponentBuilder::warnAboutUnits(const Group &group, const Component &joine
     }
     differing.removeDuplicates();
     if (!differing.isEmpty()) {
-        warn(group.members.front().first, toText(first.reference) + QStringLiteral(": its units differ in ") +
+        warn(group.members.front().first, fromUtf8(first.reference) +
+                                              QStringLiteral(": its units differ in ") +
                                               differing.join(QStringLiteral(", ")) +
                                               QStringLiteral("; the lowest unit that says something counts"));
     }
@@ -335,7 +333,8 @@ void ComponentBuilder::warnAboutLibraries()
         const QString others =
             missing.count > 1 ? QStringLiteral(" and %1 more").arg(missing.count - 1) : QString();
         warn(missing.first,
-             toText(missing.reference) + others + QStringLiteral(": the symbol ") + toText(missing.libId) +
+             fromUtf8(missing.reference) + others + QStringLiteral(": the symbol ") +
+                 fromUtf8(missing.libId) +
                  QStringLiteral(" is missing in the sheet's library cache; KiCad leaves such parts "
                                 "out of its own lists, here they count"));
     }

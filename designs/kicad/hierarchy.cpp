@@ -3,6 +3,7 @@
 #include "designs/kicad/hierarchy.h"
 
 #include "designs/kicad/sheetparser.h"
+#include "designs/utf8.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -12,11 +13,6 @@
 namespace designs::kicad {
 
 namespace {
-
-QString toText(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), qsizetype(text.size()));
-}
 
 int lineAt(std::string_view text, std::size_t offset)
 {
@@ -119,7 +115,7 @@ bool Hierarchy::addChild(quint32 parent, const SheetSymbol &sheet, int depth, Pr
     const QString path = childPath(parentFile, sheet);
     const auto refuse = [&](const QString &text) {
         *problem = {parentFile.path, lineOf(parentFile.path, sheet.offset),
-                    QStringLiteral("sheet \"") + toText(sheet.name) + QStringLiteral("\" ") + text};
+                    QStringLiteral("sheet \"") + fromUtf8(sheet.name) + QStringLiteral("\" ") + text};
         return false;
     };
     if (sheet.file.empty()) {
@@ -141,13 +137,13 @@ bool Hierarchy::addChild(quint32 parent, const SheetSymbol &sheet, int depth, Pr
     use.uuidPath = above.uuidPath;
     use.uuidPath += '/';
     use.uuidPath += sheet.uuid;
-    use.namePath = (above.symbol ? above.namePath : QString()) + u'/' + toText(sheet.name);
+    use.namePath = (above.symbol ? above.namePath : QString()) + u'/' + fromUtf8(sheet.name);
     return addUse(std::move(use), depth, problem);
 }
 
 QString Hierarchy::childPath(const SheetFile &parent, const SheetSymbol &sheet) const
 {
-    QString name = toText(sheet.file);
+    QString name = fromUtf8(sheet.file);
     name.replace(QLatin1String("${KIPRJMOD}"), m_projectFolder);
     name.replace(u'\\', u'/');
     return QDir::cleanPath(QFileInfo(parent.path).absoluteDir().absoluteFilePath(name));
@@ -171,7 +167,7 @@ bool Hierarchy::refuseLoop(quint32 parent, const SheetSymbol &sheet, quint32 fil
     chain.prepend(nameOf(file));
     const QString &path = m_files[m_uses[parent].file].path;
     *problem = {path, lineOf(path, sheet.offset),
-                QStringLiteral("sheet \"") + toText(sheet.name) +
+                QStringLiteral("sheet \"") + fromUtf8(sheet.name) +
                     QStringLiteral("\" makes the sheets contain themselves: ") +
                     chain.join(QStringLiteral(" > "))};
     return true;

@@ -2,16 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/textvariables.h"
 
+#include "designs/utf8.h"
+
 #include <QFileInfo>
 
 namespace designs::kicad {
 
 namespace {
-
-QString toText(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), qsizetype(text.size()));
-}
 
 bool same(const QString &name, QLatin1String other)
 {
@@ -179,7 +176,7 @@ TextVariables::Answer TextVariables::variable(std::string_view name, const Conte
     if (!spend(context.component ? workPerProperty * context.component->properties.size() : 0)) {
         return std::nullopt;
     }
-    const QString key = toText(name);
+    const QString key = fromUtf8(name);
     Answer answer;
     if (context.component) {
         answer = ofComponent(key, context, depth);
@@ -201,7 +198,7 @@ TextVariables::Answer TextVariables::ofComponent(const QString &name, const Cont
         return expand(component.value, context, depth);
     }
     for (const Property &property : component.properties) {
-        if (toText(m_names.name(property.name)).compare(name, Qt::CaseInsensitive) == 0) {
+        if (fromUtf8(m_names.name(property.name)).compare(name, Qt::CaseInsensitive) == 0) {
             return expand(property.value, context, depth);
         }
     }
@@ -255,7 +252,7 @@ TextVariables::Answer TextVariables::ofSymbol(const QString &name, const Context
 QString TextVariables::pageOf(quint32 use) const
 {
     const InstanceRecord *instance = m_hierarchy.uses()[use].instance;
-    return instance && !instance->page.empty() ? toText(instance->page) : QString::number(use + 1);
+    return instance && !instance->page.empty() ? fromUtf8(instance->page) : QString::number(use + 1);
 }
 
 TextVariables::Answer TextVariables::ofSheets(const QString &name, const Context &context, int depth) const
@@ -282,7 +279,7 @@ TextVariables::Answer TextVariables::ofSheets(const QString &name, const Context
     }
     for (; use->symbol; use = &m_hierarchy.uses()[use->parent]) {
         for (const Property &property : use->symbol->properties) {
-            if (toText(m_names.name(property.name)).compare(name, Qt::CaseInsensitive) == 0) {
+            if (fromUtf8(m_names.name(property.name)).compare(name, Qt::CaseInsensitive) == 0) {
                 return expand(property.value, context, depth);
             }
         }
@@ -343,7 +340,7 @@ TextVariables::Answer TextVariables::ofOtherPart(std::string_view name, int dept
         return std::nullopt;
     }
     const Context context = contextOf((*m_components)[found->second]);
-    const QString field = toText(name.substr(colon + 1));
+    const QString field = fromUtf8(name.substr(colon + 1));
     const Answer answer = ofComponent(field, context, depth);
     return answer ? answer : ofSymbol(field, context);
 }

@@ -3,6 +3,7 @@
 #include "designs/csv/edit/partlistplanner.h"
 #include "designs/csv/messagetext.h"
 #include "designs/csv/partlist.h"
+#include "designs/utf8.h"
 
 #include <QByteArrayView>
 
@@ -15,8 +16,7 @@ namespace {
 
 bool equalIgnoringCase(std::string_view text, std::string_view other)
 {
-    return QString::fromUtf8(text.data(), qsizetype(text.size()))
-               .compare(QString::fromUtf8(other.data(), qsizetype(other.size())), Qt::CaseInsensitive) == 0;
+    return fromUtf8(text).compare(fromUtf8(other), Qt::CaseInsensitive) == 0;
 }
 
 template<std::size_t Count>

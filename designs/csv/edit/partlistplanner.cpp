@@ -6,17 +6,13 @@
 #include "designs/csv/edit/referencetext.h"
 #include "designs/csv/messagetext.h"
 #include "designs/csv/referencecell.h"
+#include "designs/utf8.h"
 
 #include <algorithm>
 
 namespace designs {
 
 namespace {
-
-std::string folded(std::string_view name)
-{
-    return QString::fromUtf8(name.data(), qsizetype(name.size())).toCaseFolded().toStdString();
-}
 
 /// What tells one set of changes of a row from another.
 std::string keyOf(const std::vector<CellText> &cells)
@@ -87,7 +83,7 @@ std::optional<std::size_t> PartListPlanner::columnFor(const Edit &edit)
     if (const auto column = m_list.columnOf(edit.name)) {
         return column;
     }
-    const std::string key = folded(edit.name);
+    const std::string key = caseFolded(edit.name);
     if (edit.value.value_or("").empty() && !m_newColumnIndices.contains(key)) {
         return std::nullopt;
     }

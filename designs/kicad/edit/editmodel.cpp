@@ -3,20 +3,12 @@
 #include "designs/kicad/edit/editmodel.h"
 
 #include "designs/kicad/mandatorynames.h"
+#include "designs/utf8.h"
 
 #include <algorithm>
 #include <numeric>
 
 namespace designs::kicad {
-
-namespace {
-
-QString folded(std::string_view name)
-{
-    return QString::fromUtf8(name.data(), qsizetype(name.size())).toCaseFolded();
-}
-
-} // namespace
 
 EditModel::EditModel(Source source)
     : m_source(std::move(source))
@@ -104,9 +96,9 @@ std::optional<std::string_view> EditModel::nameIn(const SymbolUse &place, std::s
     if (name == "Value" || usedText(place, name)) {
         return name;
     }
-    const QString wanted = folded(name);
+    const std::string wanted = caseFolded(name);
     for (const Property &property : symbolOf(place).properties) {
-        if (folded(names().name(property.name)) == wanted) {
+        if (caseFolded(names().name(property.name)) == wanted) {
             return names().name(property.name);
         }
     }

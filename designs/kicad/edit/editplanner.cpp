@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/edit/editplanner.h"
 
+#include "designs/utf8.h"
+
 #include <QSet>
 
 #include <algorithm>
@@ -14,11 +16,6 @@ namespace {
 /// References that a message names before it only counts.
 constexpr std::size_t namedReferences = 12;
 
-QString toText(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), qsizetype(text.size()));
-}
-
 /// The names between the braces of the variables in a text, without a reference before a colon.
 QStringList variableNames(std::string_view text)
 {
@@ -26,7 +23,7 @@ QStringList variableNames(std::string_view text)
     QStringList names;
     for (std::size_t at = text.find("${"); at != std::string_view::npos; at = text.find("${", at + 2)) {
         const std::string_view rest = text.substr(at + 2, longestName);
-        const QString name = toText(rest.substr(0, rest.find('}')));
+        const QString name = fromUtf8(rest.substr(0, rest.find('}')));
         names << name.mid(name.indexOf(u':') + 1).toCaseFolded();
     }
     return names;
@@ -63,7 +60,7 @@ EditPlan EditPlanner::plan(std::span<const Edit> edits)
 
 QString EditPlanner::referenceOf(std::size_t component) const
 {
-    return toText(m_model.components()[component].reference);
+    return fromUtf8(m_model.components()[component].reference);
 }
 
 void EditPlanner::refuse(std::size_t edit, const QString &why)
@@ -104,7 +101,7 @@ void EditPlanner::refuseCrossing()
 {
     QSet<QString> changed;
     for (const auto &[number, edit] : m_edits) {
-        changed.insert(toText(edit.name).toCaseFolded());
+        changed.insert(fromUtf8(edit.name).toCaseFolded());
     }
     for (const auto &[number, edit] : m_edits) {
         for (const QString &name : variableNames(edit.changes ? edit.written : std::string())) {

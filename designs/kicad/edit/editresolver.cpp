@@ -4,6 +4,7 @@
 
 #include "designs/kicad/edit/writabletext.h"
 #include "designs/kicad/mandatorynames.h"
+#include "designs/utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -11,11 +12,6 @@
 namespace designs::kicad {
 
 namespace {
-
-QString toText(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), qsizetype(text.size()));
-}
 
 /// Yes or no in the words of tables and files; nothing for any other text.
 std::optional<bool> yesOrNo(std::string_view text)
@@ -104,7 +100,7 @@ void EditResolver::findName(const std::string &name, ResolvedEdit *resolved)
     const bool isDescription =
         sameAscii(name, "Description") && sheet.formatVersion >= version::descriptionField;
     const std::string spelled = isDescription ? "Description" : std::string(mandatoryName(name));
-    const std::string folded = toText(name).toCaseFolded().toStdString();
+    const std::string folded = fromUtf8(name).toCaseFolded().toStdString();
     resolved->name = m_newNames.try_emplace(folded, spelled).first->second;
 }
 
@@ -182,7 +178,7 @@ QString EditResolver::removalRefusal(ResolvedEdit *resolved) const
                     return m_model.names().name(field.name) == resolved->name;
                 });
                 if (has) {
-                    return QStringLiteral("the variant \"") + toText(variant.name) +
+                    return QStringLiteral("the variant \"") + fromUtf8(variant.name) +
                            QStringLiteral("\" has a text of its own for it; it must go from there first");
                 }
             }
@@ -199,7 +195,7 @@ void EditResolver::resolveFlag(const Edit &edit, ResolvedEdit *resolved)
     const auto wanted = yesOrNo(edit.value.value_or(std::string()));
     if (!wanted) {
         resolved->refusal = QString::fromLatin1(flagName(resolved->target)) +
-                            QStringLiteral(" is yes or no; \"") + toText(*edit.value) +
+                            QStringLiteral(" is yes or no; \"") + fromUtf8(*edit.value) +
                             QStringLiteral("\" is neither");
         return;
     }
