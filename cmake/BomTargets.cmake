@@ -69,20 +69,25 @@ function(bom_library name)
   bom_precompile(${name} corepch.h)
 endfunction()
 
-# bom_test(FOLDER LINKS targets...): the test program of one folder, run with Qt's hash seed fixed and with a random one
-# (Qt 6 takes no other), so that an order that comes from hashing shows as a failure.
+# bom_test(FOLDER [WIDGETS] LINKS targets...): the test program of one folder, run with Qt's hash seed fixed and with a random one
+# (Qt 6 takes no other), so that an order that comes from hashing shows as a failure. WIDGETS gives it an application.
 function(bom_test folder)
-  cmake_parse_arguments(arg "" "" "LINKS" ${ARGN})
+  cmake_parse_arguments(arg "WIDGETS" "" "LINKS" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${folder}/*.cpp
                                               ${CMAKE_SOURCE_DIR}/tests/${folder}/*.h)
   if(NOT sources)
     return()
   endif()
+  if(arg_WIDGETS)
+    list(APPEND sources ${CMAKE_SOURCE_DIR}/tests/support/widgetmain.cpp)
+    list(APPEND arg_LINKS Qt6::Widgets Qt6::Test GTest::gtest)
+  else()
+    list(APPEND arg_LINKS GTest::gtest_main)
+  endif()
   add_executable(${folder}_test ${sources})
-  target_include_directories(${folder}_test PRIVATE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/tests)
-  target_link_libraries(${folder}_test PRIVATE ${arg_LINKS} GTest::gtest GTest::gmock)
-  target_compile_definitions(${folder}_test PRIVATE BOM_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
-                                                    BOM_BINARY_DIR="${CMAKE_BINARY_DIR}")
+  target_include_directories(${folder}_test PRIVATE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/tests
+                                                     ${CMAKE_BINARY_DIR}/tests)
+  target_link_libraries(${folder}_test PRIVATE ${arg_LINKS} GTest::gmock)
   bom_precompile(${folder}_test testpch.h)
   set(environment "QT_QPA_PLATFORM=set:offscreen" "TZ=set:UTC" "LC_ALL=set:C.UTF-8")
   add_test(NAME ${folder} COMMAND ${folder}_test)

@@ -3,6 +3,7 @@
 #include "app/emptypage.h"
 #include "app/framewindow.h"
 #include "app/statusnotes.h"
+#include "support/testpaths.h"
 
 #include <QAction>
 #include <QCommandLinkButton>

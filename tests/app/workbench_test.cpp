@@ -6,6 +6,7 @@
 #include "app/programmenus.h"
 #include "app/recentfiles.h"
 #include "host/framework/applnmodule.h"
+#include "support/testpaths.h"
 
 #include <QDragEnterEvent>
 #include <QMenu>

@@ -8,6 +8,7 @@
 #include "host/framework/hostsettings.h"
 #include "richtext/editor/textedit.h"
 #include "support/scriptedui.h"
+#include "support/testpaths.h"
 
 #include <QCoreApplication>
 #include <QDir>

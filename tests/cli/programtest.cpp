@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "tests/cli/programtest.h"
+#include "support/testpaths.h"
 
 #include <QDir>
 #include <QFile>

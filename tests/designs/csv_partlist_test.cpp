@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/partlist.h"
 #include "designs/csv/partlistreader.h"
+#include "support/testpaths.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

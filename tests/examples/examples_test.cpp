@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 // The example designs through the real program: its files against the stored ones, and its account of the
 // parts against a ledger that was made from the drawings and not by the program.
+#include "support/testpaths.h"
 
 #include <QFile>
 #include <QFileInfo>

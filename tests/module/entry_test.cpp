@@ -3,6 +3,7 @@
 #include "host/framework/applnmodule.h"
 #include "host/framework/moduleentry.h"
 #include "support/scriptedui.h"
+#include "support/testpaths.h"
 #include "tests/module/modulehost.h"
 
 #include <QCoreApplication>

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/testpaths.h"
+
 #include <gtest/gtest.h>
 
 #include <QFile>
