@@ -5,6 +5,7 @@
 #include "core/bompartsdatabase.h"
 #include "support/scopeddefinitions.h"
 #include "support/scriptedui.h"
+#include "support/testfiles.h"
 #include "templates/templatepaths.h"
 #include "templates/templatestore.h"
 
@@ -13,7 +14,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -35,8 +35,7 @@ protected:
     {
         setTemplatePaths({m_folder.filePath(QStringLiteral("templates"))});
         store.reload();
-        QFile file(path());
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(scripts) > 0);
+        writeFile(path(), scripts);
         dialog.open();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
     }

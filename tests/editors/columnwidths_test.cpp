@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "editors/columnwidths.h"
 
+#include "support/randominputs.h"
+
 #include <gtest/gtest.h>
 
 #include <numeric>
-#include <random>
 
 namespace {
 
@@ -76,17 +77,17 @@ void balanceStepByStep(std::vector<Box> &boxes, int k)
 
 TEST(ColumnWidths, FollowTheRuleForAnyInput)
 {
-    std::mt19937 random(7);
+    RandomInputs random(7);
     for (int round = 0; round < 50'000; ++round) {
-        const int columns = 2 + int(random() % 60);
+        const int columns = 2 + random.below(60);
         std::vector<Box> boxes;
         QList<int> widths;
-        const int widest = 3 + int(random() % 120);
+        const int widest = 3 + random.below(120);
         for (int i = 0; i < columns; ++i) {
-            boxes.emplace_back(int(random() % widest), columns);
+            boxes.emplace_back(random.below(widest), columns);
             widths.append(boxes.back().value());
         }
-        const int changed = int(random() % columns);
+        const int changed = random.below(columns);
         balanceStepByStep(boxes, changed);
         QList<int> expected;
         for (const Box &box : boxes) {
@@ -99,16 +100,16 @@ TEST(ColumnWidths, FollowTheRuleForAnyInput)
 
 TEST(ColumnWidths, FillTheTableAfterAnyChangeOnceTheyDid)
 {
-    std::mt19937 random(8);
+    RandomInputs random(8);
     for (int columns = 2; columns <= 50; ++columns) {
         const WidthRange range = columnWidthRange(columns);
         QList<int> widths(columns, range.least);
         widths.last() = range.most;
         for (int round = 0; round < 200; ++round) {
-            const int changed = int(random() % columns);
+            const int changed = random.below(columns);
             const int room = std::accumulate(widths.begin() + changed, widths.end(), 0) -
                              range.least * (columns - changed - 1);
-            widths[changed] = range.least + int(random() % (range.most - range.least + 1));
+            widths[changed] = range.least + random.below(range.most - range.least + 1);
             const int wanted = std::min(widths[changed], room);
             widths = balancedWidths(widths, changed);
             ASSERT_EQ(std::accumulate(widths.begin(), widths.end(), 0), 100) << columns << ' ' << changed;

@@ -5,12 +5,12 @@
 #include "core/bompartsdatabase.h"
 #include "host/propdefs/propdefsfile.h"
 #include "support/scriptedui.h"
+#include "support/testfiles.h"
 
 #include <gtest/gtest.h>
 
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -26,17 +26,7 @@ protected:
     ~PropertyCreator() override { setpropdefsfile({}); }
 
     [[nodiscard]] QString path() const { return m_folder.filePath(QStringLiteral("PROPDEFS.INI")); }
-    void write(const QByteArray &bytes)
-    {
-        QFile file(path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-    [[nodiscard]] QByteArray read() const
-    {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    [[nodiscard]] QByteArray definitions() const { return readFile(path()); }
 
     template<class Widget>
     Widget *child(const char *name)
@@ -75,7 +65,7 @@ protected:
 
 TEST_F(PropertyCreator, AddsALineAndKeepsTheRestOfTheFile)
 {
-    write("; mine\n[PROPDEFS]\n\"A\",INT\n\n[Other]\nx=1\n");
+    writeFile(path(), "; mine\n[PROPDEFS]\n\"A\",INT\n\n[Other]\nx=1\n");
     open();
     QSignalSpy changed(&database, &BOMPartsDatabase::dataChanged);
     QTest::keyClicks(creator.focusWidget(), QStringLiteral("Weight_1"));
@@ -86,7 +76,7 @@ TEST_F(PropertyCreator, AddsALineAndKeepsTheRestOfTheFile)
     QTest::keyClick(creator.focusWidget(), Qt::Key_Return);
     EXPECT_EQ(creator.result(), QDialog::Accepted);
     EXPECT_EQ(
-        read(),
+        definitions(),
         "; mine\n[PROPDEFS]\n\"A\",INT\n\"Weight_1\",FLOAT,\"Gewicht \xC3\xA4 (kg/m)\"\n\n[Other]\nx=1\n");
     EXPECT_TRUE(database.isNumeric(QStringLiteral("WEIGHT_1")));
     EXPECT_EQ(changed.size(), 1);
@@ -106,9 +96,9 @@ TEST_F(PropertyCreator, WritesTheKeywordOfEachType)
         types->setCurrentIndex(i);
         click(QDialogButtonBox::Ok);
         const QString line = QStringLiteral("\n\"P%1\",%2\n").arg(QString::number(i), keywords[i]);
-        EXPECT_TRUE(QString::fromUtf8(read()).contains(line)) << qPrintable(line);
+        EXPECT_TRUE(QString::fromUtf8(definitions()).contains(line)) << qPrintable(line);
     }
-    EXPECT_TRUE(read().startsWith("[PROPDEFS]\n\"PACKAGE\",STRING\n"))
+    EXPECT_TRUE(definitions().startsWith("[PROPDEFS]\n\"PACKAGE\",STRING\n"))
         << "the shipped definitions come along";
 }
 
@@ -126,12 +116,12 @@ TEST_F(PropertyCreator, TakesNamesOf63CharactersThatBeginWithALetter)
     EXPECT_EQ(child<QLineEdit>("descEdit")->text(), QStringLiteral("abc\u03a9_-./()"));
     click(QDialogButtonBox::Ok);
     EXPECT_EQ(creator.result(), QDialog::Accepted);
-    EXPECT_TRUE(read().contains('"' + QByteArray(63, 'x') + "\",STRING,\"abc"));
+    EXPECT_TRUE(definitions().contains('"' + QByteArray(63, 'x') + "\",STRING,\"abc"));
 }
 
 TEST_F(PropertyCreator, TellsWhatIsWrongAndStaysOpen)
 {
-    write("[PROPDEFS]\n\"COST\",FLOAT\n");
+    writeFile(path(), "[PROPDEFS]\n\"COST\",FLOAT\n");
     open();
     click(QDialogButtonBox::Ok);
     EXPECT_EQ(warning(), QStringLiteral("You must enter a valid property name"));
@@ -144,7 +134,7 @@ TEST_F(PropertyCreator, TellsWhatIsWrongAndStaysOpen)
     EXPECT_EQ(warning(), QStringLiteral("Creation failed.  Please ensure 'PROPDEFS.INI' is writeable."));
     EXPECT_TRUE(creator.isVisible());
     EXPECT_EQ(child<QLineEdit>("nameEdit")->text(), QStringLiteral("Cost2"));
-    EXPECT_EQ(read(), "[PROPDEFS]\n\"COST\",FLOAT\n");
+    EXPECT_EQ(definitions(), "[PROPDEFS]\n\"COST\",FLOAT\n");
     click(QDialogButtonBox::Cancel);
     EXPECT_EQ(creator.result(), QDialog::Rejected);
 }
@@ -177,7 +167,7 @@ TEST_F(PropertyCreator, AsksForOneNameAfterTheOther)
     EXPECT_TRUE(creator.isVisible());
     click(QDialogButtonBox::Ok);
     EXPECT_EQ(creator.result(), QDialog::Accepted);
-    EXPECT_TRUE(read().endsWith("\"MPN\",INT\n\"Maker\",STRING\n")) << read().constData();
+    EXPECT_TRUE(definitions().endsWith("\"MPN\",INT\n\"Maker\",STRING\n")) << definitions().constData();
 }
 
 } // namespace

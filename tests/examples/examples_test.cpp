@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 // The example designs through the real program: its files against the stored ones, and its account of the
 // parts against a ledger that was made from the drawings and not by the program.
+#include "support/testfiles.h"
 #include "support/testpaths.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -41,13 +40,6 @@ Outcome runBom(const QStringList &arguments)
     process.start(QStringLiteral(BOM_BINARY_DIR "/bin/bom"), arguments);
     process.waitForFinished(60'000);
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
-    return file.readAll();
 }
 
 QStringList texts(const QJsonValue &array)
@@ -109,10 +101,7 @@ protected:
         EXPECT_EQ(run.status, 0) << run.err.constData();
         return QJsonDocument::fromJson(run.out).object();
     }
-    QJsonObject ledger() const
-    {
-        return QJsonDocument::fromJson(contentOf(expected("ledger.json"))).object();
-    }
+    QJsonObject ledger() const { return QJsonDocument::fromJson(readFile(expected("ledger.json"))).object(); }
 };
 
 TEST_P(Examples, ReportsAreTheStoredOnes)
@@ -123,8 +112,8 @@ TEST_P(Examples, ReportsAreTheStoredOnes)
     const Outcome run = runBom({QStringLiteral("report"), design(), QStringLiteral("--csv"), csv,
                                 QStringLiteral("--full-csv"), full});
     ASSERT_EQ(run.status, 0) << run.err.constData();
-    EXPECT_EQ(contentOf(csv), contentOf(expected("report.csv")));
-    EXPECT_EQ(contentOf(full), contentOf(expected("report-full.csv")));
+    EXPECT_EQ(readFile(csv), readFile(expected("report.csv")));
+    EXPECT_EQ(readFile(full), readFile(expected("report-full.csv")));
 }
 
 TEST_P(Examples, EveryReferenceOfTheLedgerIsListedOrSkipped)
@@ -149,7 +138,7 @@ TEST_P(Examples, CheckFindsTheSymbolsOfTheLedger)
 {
     const Outcome run = runBom({QStringLiteral("check"), design()});
     EXPECT_EQ(run.status, 0) << run.out.constData() << run.err.constData();
-    EXPECT_EQ(run.out, contentOf(expected("check.txt")));
+    EXPECT_EQ(run.out, readFile(expected("check.txt")));
 }
 
 TEST_P(Examples, PlacementIsWhatTheBoardSays)

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "fuzz/fuzztarget.h"
+#include "support/randominputs.h"
 
 #include <algorithm>
 #include <csignal>
 #include <fstream>
 #include <iterator>
-#include <random>
 
 #include <unistd.h>
 
@@ -49,7 +49,7 @@ public:
 
     std::string next()
     {
-        std::string text = pick(m_seeds);
+        std::string text = m_random.oneOf(m_seeds);
         for (std::size_t changes = 1 + below(4); changes > 0; --changes) {
             change(&text);
         }
@@ -57,8 +57,7 @@ public:
     }
 
 private:
-    std::size_t below(std::size_t limit) { return limit == 0 ? 0 : m_random() % limit; }
-    const std::string &pick(const std::vector<std::string> &list) { return list[below(list.size())]; }
+    std::size_t below(std::size_t limit) { return m_random.below(limit); }
 
     std::string part(const std::string &text, std::size_t length)
     {
@@ -83,10 +82,10 @@ private:
             text->insert(at, std::string(1, char(below(256))));
             break;
         case 4:
-            text->insert(at, std::string(below(3000), pick(m_words).front()));
+            text->insert(at, std::string(below(3000), m_random.oneOf(m_words).front()));
             break;
         case 5:
-            text->replace(at, length, part(pick(m_seeds), length));
+            text->replace(at, length, part(m_random.oneOf(m_seeds), length));
             break;
         case 6:
             if (at < text->size()) {
@@ -94,12 +93,12 @@ private:
             }
             break;
         default:
-            text->insert(at, pick(m_words));
+            text->insert(at, m_random.oneOf(m_words));
             break;
         }
     }
 
-    std::mt19937 m_random{20261};
+    RandomInputs m_random{20261};
     std::vector<std::string> m_seeds;
     std::vector<std::string> m_words;
 };

@@ -3,11 +3,11 @@
 #include "host/framework/applnmodule.h"
 #include "host/framework/moduleentry.h"
 #include "support/scriptedui.h"
+#include "support/testfiles.h"
 #include "support/testpaths.h"
 #include "tests/module/modulehost.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QLibrary>
 #include <QProcess>
 
@@ -23,9 +23,7 @@ QString library()
 /// Whether the library's code is in this process.
 bool isMapped()
 {
-    QFile maps(QStringLiteral("/proc/self/maps"));
-    EXPECT_TRUE(maps.open(QIODevice::ReadOnly));
-    return maps.readAll().contains("/libbom.so");
+    return readFile(QStringLiteral("/proc/self/maps")).contains("/libbom.so");
 }
 
 } // namespace

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "host/propdefs/propdefsfile.h"
+#include "support/testfiles.h"
 
 #include <QByteArray>
-#include <QFile>
 #include <QTemporaryDir>
 
 /// A definitions file with these lines, in force while it lives.
@@ -14,11 +14,8 @@ class ScopedDefinitions final
 public:
     explicit ScopedDefinitions(const QByteArray &lines)
     {
-        QFile file(m_folder.filePath(QStringLiteral("PROPDEFS.INI")));
-        if (file.open(QIODevice::WriteOnly)) {
-            file.write("[PROPDEFS]\n" + lines + '\n');
-        }
-        setpropdefsfile(file.fileName());
+        const QString path = m_folder.filePath(QStringLiteral("PROPDEFS.INI"));
+        setpropdefsfile(writeFile(path, "[PROPDEFS]\n" + lines + '\n'));
     }
     ScopedDefinitions(const ScopedDefinitions &) = delete;
     ScopedDefinitions &operator=(const ScopedDefinitions &) = delete;

@@ -253,7 +253,7 @@ TEST_F(BomTemplate, UnreadableFileGivesDefaultsAMessageAndStaysAsItIs)
               QStringLiteral("The BOM template '") + file +
                   QStringLiteral("' could not be loaded.  Default settings loaded."));
     EXPECT_TRUE(m_messages.first().detail.startsWith(file + QStringLiteral(":2: ")));
-    EXPECT_EQ(TemplateFixture::read(file), broken);
+    EXPECT_EQ(readFile(file), broken);
 }
 
 TEST_F(BomTemplate, VersionZeroLoadsNothing)

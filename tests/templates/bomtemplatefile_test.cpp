@@ -66,7 +66,7 @@ TEST_F(BomTemplateFile, DocumentOfTheDefaultsHasTheKnownForm)
     made.setCss(QStringLiteral("a<b"));
     made.setName(QStringLiteral("Default"));
     ASSERT_TRUE(made.save());
-    const QByteArray text = TemplateFixture::read(made.filePath());
+    const QByteArray text = readFile(made.filePath());
     const QByteArray start = R"(<?xml version="1.0" encoding="UTF-8"?>
 <BOMTemplate version="5">
     <AlwaysQuoteRefs Type="bool" Value="false"/>
@@ -312,12 +312,12 @@ TEST_F(BomTemplateFile, CharactersThatXmlLacksAreRefusedAndTheOldFileStays)
     BOMTemplate made;
     made.setName(QStringLiteral("x"));
     ASSERT_TRUE(made.save());
-    const QByteArray before = TemplateFixture::read(made.filePath());
+    const QByteArray before = readFile(made.filePath());
     for (const ushort code : {0x0, 0x1, 0x1b, 0xd800, 0xdc00, 0xfffe, 0xffff}) {
         SCOPED_TRACE(code);
         made.setDocumentHeader(QLatin1Char('a') + QString(QChar(code)) + QLatin1Char('b'));
         EXPECT_FALSE(made.save());
-        EXPECT_EQ(TemplateFixture::read(made.filePath()), before);
+        EXPECT_EQ(readFile(made.filePath()), before);
     }
     ASSERT_EQ(m_messages.size(), 7);
     EXPECT_EQ(m_messages.last().title, QStringLiteral("BOM Template Save Failed"));
@@ -354,7 +354,7 @@ TEST_F(BomTemplateFile, AnUnwritablePlaceIsRefused)
         EXPECT_FALSE(made.save());
         EXPECT_TRUE(m_messages.last().detail.startsWith(made.filePath() + QStringLiteral(": ")));
     }
-    EXPECT_EQ(TemplateFixture::read(path(QStringLiteral("file"))), "x");
+    EXPECT_EQ(readFile(path(QStringLiteral("file"))), "x");
     EXPECT_EQ(m_messages.size(), 3);
 }
 
@@ -364,7 +364,7 @@ TEST_F(BomTemplateFile, AWriteThatBreaksOffKeepsTheOldFile)
     BOMTemplate made;
     made.setName(QStringLiteral("full"));
     ASSERT_TRUE(made.save());
-    const QByteArray before = TemplateFixture::read(made.filePath());
+    const QByteArray before = readFile(made.filePath());
     made.setDocumentHeader(QString(100000, u'x'));
 
     // A limit on the size of files stands for a full disk.
@@ -379,7 +379,7 @@ TEST_F(BomTemplateFile, AWriteThatBreaksOffKeepsTheOldFile)
 
     EXPECT_FALSE(saved);
     EXPECT_EQ(m_messages.size(), 1);
-    EXPECT_EQ(TemplateFixture::read(made.filePath()), before);
+    EXPECT_EQ(readFile(made.filePath()), before);
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files).size(), 1);
 }
 #endif

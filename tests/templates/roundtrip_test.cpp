@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
+#include "support/randominputs.h"
 #include "templates/bomtemplate.h"
 #include "templates/bomtemplatefile.h"
 #include "templates/templatefixture.h"
@@ -7,8 +8,6 @@
 #include <QBuffer>
 #include <QScopeGuard>
 #include <QStringList>
-
-#include <random>
 
 using namespace Qt::StringLiterals;
 
@@ -110,9 +109,9 @@ private:
         return numbers[below(8)];
     }
     bool flag() { return below(2) == 1; }
-    unsigned below(unsigned limit) { return unsigned(m_random() % limit); }
+    unsigned below(unsigned limit) { return m_random.below(limit); }
 
-    std::mt19937 m_random{1};
+    RandomInputs m_random{1};
     bool m_isClean = true;
 };
 
@@ -127,7 +126,7 @@ TEST_F(RoundTrip, EveryTemplateReadsAsItWasWritten)
         written.setFilePath(file);
         ASSERT_TRUE(written.save()) << i;
         const BOMTemplate again(u"t"_s, file);
-        ASSERT_EQ(again.toVariantMap(), written.toVariantMap()) << i << '\n' << read(file).toStdString();
+        ASSERT_EQ(again.toVariantMap(), written.toVariantMap()) << i << '\n' << readFile(file).toStdString();
     }
     EXPECT_TRUE(m_messages.isEmpty());
 }
@@ -138,7 +137,7 @@ TEST_F(RoundTrip, WhatCannotBeWrittenLeavesTheOldFile)
     BOMTemplate old = templates.next(true);
     old.setFilePath(path(u"t.bomt"_s));
     ASSERT_TRUE(old.save());
-    const QByteArray oldBytes = read(old.filePath());
+    const QByteArray oldBytes = readFile(old.filePath());
     int refused = 0;
     for (int i = 0; i < 300; ++i) {
         BOMTemplate written = templates.next(false);
@@ -147,7 +146,7 @@ TEST_F(RoundTrip, WhatCannotBeWrittenLeavesTheOldFile)
             ASSERT_EQ(BOMTemplate(u"t"_s, old.filePath()).toVariantMap(), written.toVariantMap()) << i;
             ASSERT_TRUE(old.save());
         } else {
-            ASSERT_EQ(read(old.filePath()), oldBytes) << i;
+            ASSERT_EQ(readFile(old.filePath()), oldBytes) << i;
             ++refused;
         }
     }
@@ -161,7 +160,7 @@ TEST_F(RoundTrip, AFileCutAnywhereIsRefusedOrWhole)
     whole.setFilePath(path(u"whole.bomt"_s));
     whole.setCss(u"p { color: red; }"_s);
     ASSERT_TRUE(whole.save());
-    const QByteArray bytes = read(whole.filePath());
+    const QByteArray bytes = readFile(whole.filePath());
     const qsizetype end = bytes.lastIndexOf('>') + 1;
     const BOMTemplate defaults;
     const auto debugLines =
@@ -181,7 +180,7 @@ TEST_F(RoundTrip, AFileCutAnywhereIsRefusedOrWhole)
         const BOMTemplate cut(u"cut"_s, file);
         ASSERT_EQ(cut.toVariantMap(), (size < end ? defaults : whole).toVariantMap()) << size;
         ASSERT_EQ(m_messages.isEmpty(), size >= end) << size;
-        ASSERT_EQ(read(file), start);
+        ASSERT_EQ(readFile(file), start);
     }
 }
 
@@ -205,7 +204,7 @@ TEST_F(RoundTrip, EachVersionReadsItsKeysAndAMissingOneIsEmpty)
     const QVariantMap defaults = BOMTemplate().toVariantMap();
     for (int version = 1; version <= 5; ++version) {
         for (const QString &missing : full.toVariantMap().keys()) {
-            QByteArray bytes = read(full.filePath());
+            QByteArray bytes = readFile(full.filePath());
             bytes.replace("version=\"5\"", "version=\"" + QByteArray::number(version) + '"');
             bytes.replace('<' + missing.toUtf8() + ' ', "<other ");
             bytes.replace("</" + missing.toUtf8() + '>', "</other>");

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/testfiles.h"
 #include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
 
 #include <QDir>
-#include <QFile>
 #include <QList>
 #include <QTemporaryDir>
 
@@ -30,19 +30,9 @@ protected:
 
     [[nodiscard]] QString path(const QString &fileName) const { return m_folder.filePath(fileName); }
 
-    QString write(const QString &fileName, const QByteArray &content) const
+    QString write(const QString &fileName, QByteArrayView content) const
     {
-        QFile file(path(fileName));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(file.write(content), content.size());
-        return file.fileName();
-    }
-
-    [[nodiscard]] static QByteArray read(const QString &filePath)
-    {
-        QFile file(filePath);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(filePath);
-        return file.readAll();
+        return writeFile(path(fileName), content);
     }
 
     QTemporaryDir m_folder;

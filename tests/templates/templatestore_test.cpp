@@ -171,13 +171,13 @@ TEST_F(TemplateStoreTest, SelectingAnOldFileDoesNotRewriteIt)
 {
     const QString file = write(QStringLiteral("Old.bomt"), "<BOMTemplate version=\"4\"><AsciiRefWidth "
                                                            "Type=\"int\" Value=\"44\"/></BOMTemplate>");
-    const QByteArray before = read(file);
+    const QByteArray before = readFile(file);
     m_store.reload();
     m_store.select(QStringLiteral("Old"));
     EXPECT_EQ(m_working.m_settings.asciiRefWidth(), 44);
-    EXPECT_EQ(read(file), before);
+    EXPECT_EQ(readFile(file), before);
     EXPECT_TRUE(m_store.saveCurrent());
-    EXPECT_TRUE(read(file).contains("version=\"5\""));
+    EXPECT_TRUE(readFile(file).contains("version=\"5\""));
 }
 
 TEST_F(TemplateStoreTest, LegacyEntriesMoveToFilesWhenSavedAndFilesHideThem)
@@ -269,7 +269,7 @@ TEST_F(TemplateStoreTest, DeletingNeverReachesFilesOfOthers)
     QTemporaryDir elsewhere;
     const QString foreign = elsewhere.filePath(QStringLiteral("x.html"));
     addFile("Other", 11);
-    QFile(foreign).open(QIODevice::WriteOnly);
+    writeFile(foreign, {});
     const QStringList victims{foreign, path(QStringLiteral("Other.bomt"))};
     for (const QString &victim : victims) {
         write(QStringLiteral("Mine.bomt"),
@@ -369,7 +369,7 @@ TEST_F(TemplateStoreTest, ExportReplacesTheFileAndWritesATemplateThatHasNone)
     m_store.select(mine);
     m_ui.fileName += QStringLiteral(".bomt");
     EXPECT_TRUE(m_store.exportTemplate());
-    EXPECT_EQ(read(m_ui.fileName), read(path(QStringLiteral("Mine.bomt"))));
+    EXPECT_EQ(readFile(m_ui.fileName), readFile(path(QStringLiteral("Mine.bomt"))));
     EXPECT_EQ(m_ui.fileRequests.value(0).caption, QStringLiteral("Export BOM Template"));
 }
 
