@@ -12,7 +12,7 @@ namespace designs {
 namespace {
 
 /// With the lock taken. Whether the files are replaced; problems are added to the work's.
-bool replaceFiles(FileWork &work, const DesignPaths &paths, std::span<const FileEdit> files,
+bool replaceFiles(FileWork &work, const DesignPaths &paths, std::span<const FileReplacement> files,
                   bool keepsBackups)
 {
     WriteCheck check(work, paths);
@@ -39,10 +39,10 @@ bool replaceFiles(FileWork &work, const DesignPaths &paths, std::span<const File
 }
 
 /// What gives the files their previous content again; empty, with problems, when it cannot be done.
-std::vector<FileEdit> editsBack(FileWork &work, const DesignPaths &paths, const UndoRecord &record)
+std::vector<FileReplacement> editsBack(FileWork &work, const DesignPaths &paths, const UndoRecord &record)
 {
-    std::vector<FileEdit> edits;
-    for (const FileChange &change : record.files) {
+    std::vector<FileReplacement> edits;
+    for (const RecordedReplacement &change : record.files) {
         const QString backup = paths.backupOf(change.target);
         if (fingerprintOfPlainFile(change.target) != change.after) {
             work.fail(change.target,
@@ -53,7 +53,7 @@ std::vector<FileEdit> editsBack(FileWork &work, const DesignPaths &paths, const 
             work.fail(backup, QStringLiteral("is missing or damaged: nothing is taken back"));
         }
     }
-    return work.problems().empty() ? edits : std::vector<FileEdit>();
+    return work.problems().empty() ? edits : std::vector<FileReplacement>();
 }
 
 /// With the lock taken. False, with problems, when there was an interrupted write: what the caller wants to
@@ -102,7 +102,7 @@ std::vector<Problem> DesignFiles::recover()
     return all;
 }
 
-std::vector<Problem> DesignFiles::check(std::span<const FileEdit> files) const
+std::vector<Problem> DesignFiles::check(std::span<const FileReplacement> files) const
 {
     const DesignPaths paths(m_design);
     FileWork work(*m_system);
@@ -110,7 +110,7 @@ std::vector<Problem> DesignFiles::check(std::span<const FileEdit> files) const
     return work.problems();
 }
 
-std::vector<Problem> DesignFiles::write(std::span<const FileEdit> files, Backups backups)
+std::vector<Problem> DesignFiles::write(std::span<const FileReplacement> files, Backups backups)
 {
     m_replaced = false;
     if (files.empty()) {
@@ -139,9 +139,9 @@ DesignFiles::Undone DesignFiles::undo()
     QString why;
     if (lock.take() && isUndisturbed(work, paths)) {
         if (const auto record = UndoRecord::read(paths, &why)) {
-            const std::vector<FileEdit> edits = editsBack(work, paths, *record);
+            const std::vector<FileReplacement> edits = editsBack(work, paths, *record);
             m_replaced = !edits.empty() && replaceFiles(work, paths, edits, false);
-            for (const FileEdit &edit : m_replaced ? edits : std::vector<FileEdit>()) {
+            for (const FileReplacement &edit : m_replaced ? edits : std::vector<FileReplacement>()) {
                 undone.files << edit.path;
             }
         } else {

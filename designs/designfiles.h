@@ -35,12 +35,12 @@ public:
     [[nodiscard]] std::vector<Problem> recover();
 
     /// Why the files could not be replaced now: locked, changed meanwhile, not writable. Writes nothing.
-    [[nodiscard]] std::vector<Problem> check(std::span<const FileEdit> files) const;
+    [[nodiscard]] std::vector<Problem> check(std::span<const FileReplacement> files) const;
 
     /// Replaces the files. Keeps permissions, follows symbolic links; a file with several names (hard links)
     /// is refused. Without problems all are replaced; with any of them none is, unless replaced() says
     /// otherwise.
-    [[nodiscard]] std::vector<Problem> write(std::span<const FileEdit> files, Backups backups);
+    [[nodiscard]] std::vector<Problem> write(std::span<const FileReplacement> files, Backups backups);
 
     /// Whether the last write() or undo() replaced the files. Where it reported problems nevertheless,
     /// backups or cleaning up failed; the next recover() completes that.

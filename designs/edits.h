@@ -14,7 +14,7 @@
 
 namespace designs {
 
-/// A change of one property of one component that is asked for. Texts are UTF-8.
+/// What is asked for: one property of one component. Texts are UTF-8.
 struct Edit
 {
     /// Index into Design::components().
@@ -36,8 +36,8 @@ struct EditProblem
     Problem problem;
 };
 
-/// What an edit does to the design.
-struct EditEffect
+/// What an edit does to a stored property.
+struct Change
 {
     /// Index into the edits.
     std::size_t edit = 0;
@@ -54,7 +54,7 @@ struct EditEffect
 };
 
 /// New content for a file.
-struct FileEdit
+struct FileReplacement
 {
     QString path;
     /// Of the content that the edits were worked out on.
@@ -62,13 +62,13 @@ struct FileEdit
     QByteArray after;
 };
 
-/// Edits worked out. Files may be written only when there are no problems.
+/// What edits come to. Files may be written only when there are no problems.
 struct EditPlan
 {
     /// In the order of the edits; one that asks for what is there already has none.
-    std::vector<EditEffect> effects;
+    std::vector<Change> changes;
     std::vector<EditProblem> problems;
-    std::vector<FileEdit> files;
+    std::vector<FileReplacement> files;
 };
 
 } // namespace designs

@@ -43,7 +43,7 @@ QStringList messagesOf(const std::vector<designs::Problem> &problems)
 /// Whether the files as they are now could be written.
 bool canBeReplaced(const designs::Design &design)
 {
-    std::vector<designs::FileEdit> same;
+    std::vector<designs::FileReplacement> same;
     for (const QString &path : design.files()) {
         QFile file(path);
         const auto fingerprint = designs::fingerprintOfFile(path);

@@ -41,16 +41,16 @@ QList<CDBPROBLEM> problemsOf(std::span<const designs::Problem> problems)
 }
 
 PropertyChange changeOf(const designs::Design &design, std::span<const designs::Edit> edits,
-                        const designs::EditEffect &effect)
+                        const designs::Change &planned)
 {
-    PropertyChange change{reference(design, edits[effect.edit].component),
-                          designs::fromUtf8(effect.name),
-                          text(effect.before),
-                          text(effect.after),
-                          effect.file,
-                          effect.line,
+    PropertyChange change{reference(design, edits[planned.edit].component),
+                          designs::fromUtf8(planned.name),
+                          text(planned.before),
+                          text(planned.after),
+                          planned.file,
+                          planned.line,
                           {}};
-    for (const std::size_t component : effect.alsoChanges) {
+    for (const std::size_t component : planned.alsoChanges) {
         change.alsoChanges << reference(design, component);
     }
     return change;
@@ -85,11 +85,11 @@ QList<CDBPROBLEM> DesignWriter::write(const designs::Design &design, std::span<c
             m_notices << problem.message();
         }
     }
-    for (const designs::EditEffect &effect : plan.effects) {
-        m_changes.append(changeOf(design, edits, effect));
+    for (const designs::Change &planned : plan.changes) {
+        m_changes.append(changeOf(design, edits, planned));
     }
     m_fileCount = qsizetype(plan.files.size());
-    for (const designs::FileEdit &file : plan.files) {
+    for (const designs::FileReplacement &file : plan.files) {
         if (!m_isDryRun) {
             m_writtenFiles << file.path;
         }

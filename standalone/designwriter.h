@@ -16,7 +16,7 @@ namespace designs {
 class Design;
 }
 
-/// A property of a component that was changed, or would be.
+/// A change (designs::Change) in the words of the host: what was done to a property, or would be.
 struct PropertyChange
 {
     QString reference;

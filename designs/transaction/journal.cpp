@@ -30,7 +30,7 @@ std::optional<Journal::State> stateOf(const QString &name)
 
 } // namespace
 
-void Journal::add(const DesignPaths &paths, FileChange change)
+void Journal::add(const DesignPaths &paths, RecordedReplacement change)
 {
     const QString folder = folderOf(change.target);
     const QString name = QStringLiteral("/.bom-") + token + u'-' + QString::number(entries.size());
@@ -46,7 +46,7 @@ QString Journal::recordName(const DesignPaths &paths) const
 
 QByteArray Journal::toJson(const DesignPaths &paths) const
 {
-    const std::vector<FileChange> changes(entries.begin(), entries.end());
+    const std::vector<RecordedReplacement> changes(entries.begin(), entries.end());
     return QJsonDocument(QJsonObject{{QStringLiteral("version"), 1},
                                      {QStringLiteral("state"), stateNames()[std::size_t(state)]},
                                      {QStringLiteral("token"), token},
@@ -64,7 +64,7 @@ std::optional<Journal> Journal::read(const DesignPaths &paths, QString *why)
         return std::nullopt;
     }
     const std::optional<State> state = stateOf(object->value(QLatin1String("state")).toString());
-    const auto changes = changesFrom(object->value(QLatin1String("files")).toArray(), paths);
+    const auto changes = replacementsFrom(object->value(QLatin1String("files")).toArray(), paths);
     Journal journal;
     journal.token = object->value(QLatin1String("token")).toString();
     if (!state || !changes || !tokenForm.match(journal.token).hasMatch()) {
@@ -75,7 +75,7 @@ std::optional<Journal> Journal::read(const DesignPaths &paths, QString *why)
     journal.keepsBackups = object->value(QLatin1String("backups")).toBool();
     journal.makesBackupFolder = object->value(QLatin1String("makesFolder")).toBool();
     journal.newRecord = journal.recordName(paths);
-    for (const FileChange &change : *changes) {
+    for (const RecordedReplacement &change : *changes) {
         journal.add(paths, change);
     }
     return journal;

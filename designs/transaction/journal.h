@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "designs/transaction/filechange.h"
+#include "designs/transaction/recordedreplacement.h"
 
 namespace designs {
 
 /// One file that is replaced.
-struct JournalEntry : FileChange
+struct JournalEntry : RecordedReplacement
 {
     /// The new content, beside the target; gone when the target is replaced.
     QString prepared;
@@ -39,7 +39,7 @@ struct Journal
     std::vector<JournalEntry> entries;
 
     /// Adds a file; the names of its copies follow from its place in the journal.
-    void add(const DesignPaths &paths, FileChange change);
+    void add(const DesignPaths &paths, RecordedReplacement change);
 
     [[nodiscard]] QByteArray toJson(const DesignPaths &paths) const;
     /// The journal of a design; nothing, with the reason in `why`, when it cannot be used.

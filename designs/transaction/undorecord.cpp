@@ -19,7 +19,7 @@ std::optional<UndoRecord> UndoRecord::read(const DesignPaths &paths, QString *wh
     if (!object) {
         return std::nullopt;
     }
-    auto files = changesFrom(object->value(QLatin1String("files")).toArray(), paths);
+    auto files = replacementsFrom(object->value(QLatin1String("files")).toArray(), paths);
     if (!files) {
         *why = QStringLiteral("it is damaged or names files that are none of this design");
         return std::nullopt;

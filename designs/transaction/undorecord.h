@@ -2,15 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "designs/transaction/filechange.h"
+#include "designs/transaction/recordedreplacement.h"
 
 namespace designs {
 
 /// The last write, as far as it can be taken back.
 struct UndoRecord
 {
-    /// FileChange::before is of the backup, too.
-    std::vector<FileChange> files;
+    /// RecordedReplacement::before is of the backup, too.
+    std::vector<RecordedReplacement> files;
 
     [[nodiscard]] QByteArray toJson(const DesignPaths &paths) const;
     /// The record of a design; nothing, with the reason in `why`, when it cannot be used.

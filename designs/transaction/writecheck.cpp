@@ -16,10 +16,10 @@ constexpr quint32 anyWriteBit = 0222;
 
 } // namespace
 
-bool WriteCheck::run(std::span<const FileEdit> files, bool keepsBackups)
+bool WriteCheck::run(std::span<const FileReplacement> files, bool keepsBackups)
 {
     bool possible = true;
-    for (const FileEdit &file : files) {
+    for (const FileReplacement &file : files) {
         possible = checkFile(file, keepsBackups) && possible;
     }
     possible = checkDesignClosed() && possible;
@@ -51,7 +51,7 @@ bool WriteCheck::checkClosed(const QString &path, const QString &target)
     return true;
 }
 
-bool WriteCheck::checkFile(const FileEdit &file, bool keepsBackups)
+bool WriteCheck::checkFile(const FileReplacement &file, bool keepsBackups)
 {
     const QString target = QFileInfo(file.path).canonicalFilePath();
     if (target.isEmpty()) {
@@ -76,7 +76,7 @@ bool WriteCheck::checkFile(const FileEdit &file, bool keepsBackups)
     return true;
 }
 
-bool WriteCheck::checkKind(const FileEdit &file, const QString &target)
+bool WriteCheck::checkKind(const FileReplacement &file, const QString &target)
 {
     const FileStatus status = m_work.status(target);
     if (status.kind != FileStatus::Kind::File) {

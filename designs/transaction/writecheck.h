@@ -21,7 +21,7 @@ public:
     }
 
     /// False when one of them cannot; the work's problems tell why.
-    bool run(std::span<const FileEdit> files, bool keepsBackups);
+    bool run(std::span<const FileReplacement> files, bool keepsBackups);
 
     /// False when one of them, or the design, was opened in KiCad meanwhile.
     bool checkStillClosed();
@@ -32,8 +32,8 @@ public:
 private:
     bool checkClosed(const QString &path, const QString &target);
     bool checkDesignClosed();
-    bool checkFile(const FileEdit &file, bool keepsBackups);
-    bool checkKind(const FileEdit &file, const QString &target);
+    bool checkFile(const FileReplacement &file, bool keepsBackups);
+    bool checkKind(const FileReplacement &file, const QString &target);
     bool checkWritable(const QString &path, const QString &target);
     bool checkBackup(const QString &target);
     bool checkFolders(bool keepsBackups);

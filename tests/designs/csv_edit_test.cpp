@@ -156,22 +156,22 @@ TEST_F(CsvEditTest, TellsWhatEachEditDoes)
                                                               {"R2", "BOMSKIP", "No"},
                                                               {"R1", "New", "n"}}));
     const QString file = design->info().file;
-    std::vector<EditEffect> effects = plan.effects;
-    ASSERT_EQ(effects.size(), 4U);
-    const auto is = [&](const EditEffect &effect, std::size_t edit, const char *name,
+    std::vector<Change> changes = plan.changes;
+    ASSERT_EQ(changes.size(), 4U);
+    const auto is = [&](const Change &change, std::size_t edit, const char *name,
                         const std::optional<std::string> &before, const std::optional<std::string> &after,
                         int line) {
-        EXPECT_EQ(effect.edit, edit);
-        EXPECT_EQ(effect.name, name);
-        EXPECT_EQ(effect.before, before);
-        EXPECT_EQ(effect.after, after);
-        EXPECT_EQ(effect.line, line);
-        EXPECT_EQ(effect.file, file);
+        EXPECT_EQ(change.edit, edit);
+        EXPECT_EQ(change.name, name);
+        EXPECT_EQ(change.before, before);
+        EXPECT_EQ(change.after, after);
+        EXPECT_EQ(change.line, line);
+        EXPECT_EQ(change.file, file);
     };
-    is(effects[0], 0, "Dnp", "Yes", std::nullopt, 3);
-    is(effects[1], 3, "Value", "1k", "3k", 2);
-    is(effects[2], 4, "BOMSKIP", "x", std::nullopt, 3);
-    is(effects[3], 5, "New", std::nullopt, "n", 2);
+    is(changes[0], 0, "Dnp", "Yes", std::nullopt, 3);
+    is(changes[1], 3, "Value", "1k", "3k", 2);
+    is(changes[2], 4, "BOMSKIP", "x", std::nullopt, 3);
+    is(changes[3], 5, "New", std::nullopt, "n", 2);
 }
 
 } // namespace

@@ -107,13 +107,13 @@ std::vector<std::string> recordsOf(const std::string &text)
     return records;
 }
 
-/// Whether all records but those of the effects stand in the new text as they were.
+/// Whether all records but those that change stand in the new text as they were.
 void expectOthersUntouched(const std::string &before, const Design &design, const EditPlan &plan)
 {
     const std::vector<std::string> records = recordsOf(before);
     std::vector<bool> touched(records.size(), false);
-    for (const EditEffect &effect : plan.effects) {
-        const auto at = std::ranges::find(design.components(), quint32(effect.line), &Component::line);
+    for (const Change &change : plan.changes) {
+        const auto at = std::ranges::find(design.components(), quint32(change.line), &Component::line);
         touched[at->origin] = true;
     }
     const std::vector<std::string> after = recordsOf(plan.files.front().after.toStdString());
@@ -164,10 +164,10 @@ TEST(CsvEditByChance, ReadingAgainGivesWhatWasAsked)
             const auto changed = read(plan.files.front().after.toStdString());
             EXPECT_EQ(textsOf(*changed), expected) << plan.files.front().after.toStdString();
             EXPECT_EQ(changed->warnings(), design->warnings());
-            const auto isOld = [&](const EditEffect &effect) {
-                return !design->names().candidates(effect.name).empty();
+            const auto isOld = [&](const Change &change) {
+                return !design->names().candidates(change.name).empty();
             };
-            if (std::ranges::all_of(plan.effects, isOld)) {
+            if (std::ranges::all_of(plan.changes, isOld)) {
                 expectOthersUntouched(text, *design, plan);
             }
             ++written;

@@ -42,7 +42,7 @@ TEST_F(DesignFilesTest, WithoutBackupsThereIsNothingToTakeBack)
 TEST_F(DesignFilesTest, RefusesWhatWouldLoseOthersWork)
 {
     const std::string before = listing();
-    const std::vector<FileEdit> planned = edits(1);
+    const std::vector<FileReplacement> planned = edits(1);
     const auto refused = [&](const char *why) {
         EXPECT_THAT(joined(files().check(planned)), HasSubstr(why));
         EXPECT_THAT(joined(files().write(planned, Backups::Keep)), HasSubstr(why));

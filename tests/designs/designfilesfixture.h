@@ -58,9 +58,9 @@ protected:
                std::string(std::size_t(version) * 10, '.');
     }
 
-    [[nodiscard]] std::vector<designs::FileEdit> edits(int version) const
+    [[nodiscard]] std::vector<designs::FileReplacement> edits(int version) const
     {
-        std::vector<designs::FileEdit> files;
+        std::vector<designs::FileReplacement> files;
         for (const char *name : names) {
             files.push_back({path(name),
                              designs::fingerprintOfFile(path(name)).value_or(designs::FileFingerprint()),

@@ -36,7 +36,7 @@ designs::EditPlan makeEdits(const DesignFolder &folder, const std::vector<AskedE
     const auto design = folder.load(QStringLiteral("root.kicad_sch"), variant);
     designs::EditPlan plan = planned(*design, edits);
     EXPECT_EQ(problemsOf(plan), "");
-    for (const designs::FileEdit &file : plan.files) {
+    for (const designs::FileReplacement &file : plan.files) {
         QFile target(file.path);
         EXPECT_TRUE(target.open(QIODevice::WriteOnly));
         EXPECT_EQ(target.write(file.after), file.after.size());
@@ -63,12 +63,12 @@ std::string refusal(const designs::Design &design, const AskedEdit &edit)
     return alone.value_or(QString()).toStdString();
 }
 
-std::string effectsOf(const designs::EditPlan &plan)
+std::string changesOf(const designs::EditPlan &plan)
 {
     std::string text;
-    for (const designs::EditEffect &effect : plan.effects) {
+    for (const designs::Change &change : plan.changes) {
         text += text.empty() ? "" : "; ";
-        text += effect.name + ": " + effect.before.value_or("-") + " > " + effect.after.value_or("-");
+        text += change.name + ": " + change.before.value_or("-") + " > " + change.after.value_or("-");
     }
     return text;
 }

@@ -30,7 +30,7 @@ designs::EditPlan makeEdits(const DesignFolder &folder, const std::vector<AskedE
 /// What is refused of one edit, both when it is checked alone and in a batch; empty when nothing is.
 [[nodiscard]] std::string refusal(const designs::Design &design, const AskedEdit &edit);
 
-/// Each effect as "NAME: BEFORE > AFTER", "-" for nothing.
-[[nodiscard]] std::string effectsOf(const designs::EditPlan &plan);
+/// Each change as "NAME: BEFORE > AFTER", "-" for nothing.
+[[nodiscard]] std::string changesOf(const designs::EditPlan &plan);
 
 [[nodiscard]] std::string contentOf(const QString &path);

@@ -106,7 +106,7 @@ TEST(KicadEditLayout, ChangeAddAndRemove)
         const DesignFolder folder;
         const QString file = folder.write(root, layout.before);
         const auto plan = makeEdits(folder, {{"R1", "VALUE", "22k"}});
-        EXPECT_EQ(effectsOf(plan), "Value: 10k > 22k");
+        EXPECT_EQ(changesOf(plan), "Value: 10k > 22k");
         EXPECT_EQ(contentOf(file), layout.changed);
         makeEdits(folder, {{"R1", "Value", "10k"}, {"R1", "MPN", "x"}});
         EXPECT_EQ(replaced(contentOf(file), "\"10k\"", "10k"), replaced(layout.added, "\"10k\"", "10k"));
@@ -120,11 +120,11 @@ TEST(KicadEditLayout, WhereThingsStandIsTold)
     const DesignFolder folder;
     const QString file = folder.write(root, tabs(v8, "") + tabTail);
     const auto plan = planned(*folder.load(), {{"R1", "New", "x"}, {"R1", "Value", "1"}});
-    ASSERT_EQ(plan.effects.size(), 2u);
-    EXPECT_EQ(plan.effects[0].file, file);
-    EXPECT_EQ(plan.effects[0].line, 4) << "the symbol";
-    EXPECT_EQ(plan.effects[1].line, 11) << "the property";
-    EXPECT_EQ(plan.effects[1].edit, 1u);
+    ASSERT_EQ(plan.changes.size(), 2u);
+    EXPECT_EQ(plan.changes[0].file, file);
+    EXPECT_EQ(plan.changes[0].line, 4) << "the symbol";
+    EXPECT_EQ(plan.changes[1].line, 11) << "the property";
+    EXPECT_EQ(plan.changes[1].edit, 1u);
     EXPECT_EQ(plan.files.at(0).before, designs::fingerprintOf(tabs(v8, "") + tabTail));
 }
 
@@ -142,7 +142,7 @@ TEST(KicadEditLayout, NamesAreFoundAndSpelledAsStored)
                                          {"R3", "Mpn", "9"},
                                          {"R3", "New One", "n"},
                                          {"R2", "new one", "n"}});
-    EXPECT_EQ(effectsOf(plan),
+    EXPECT_EQ(changesOf(plan),
               "Footprint: a > b; mpn: 1 > 7; MPN: 1 > 8; mpn: - > 9; New One: - > n; New One: "
               "- > n");
     const std::string text = contentOf(folder.path(root));
@@ -159,11 +159,11 @@ TEST(KicadEditLayout, TheLastEditCountsAndNothingIsDoneForNothing)
     const auto design = folder.load();
     const auto none =
         planned(*design, {{"R1", "A", "2"}, {"R1", "Value", "10k"}, {"R1", "Gone"}, {"R1", "a", "1"}});
-    EXPECT_EQ(effectsOf(none) + problemsOf(none), "");
+    EXPECT_EQ(changesOf(none) + problemsOf(none), "");
     EXPECT_TRUE(none.files.empty());
     const auto last =
         planned(*design, {{"R1", "Value", ""}, {"R1", "A"}, {"R1", "VALUE", "1"}, {"R1", "A", "3"}});
-    EXPECT_EQ(effectsOf(last) + problemsOf(last), "Value: 10k > 1; A: 1 > 3");
+    EXPECT_EQ(changesOf(last) + problemsOf(last), "Value: 10k > 1; A: 1 > 3");
 }
 
 TEST(KicadEditLayout, WhatEverySymbolHasBecomesEmpty)

@@ -48,8 +48,8 @@ TEST(KicadEditShared, AllUnitsInAllFiles)
     const QString below = folder.write(sub, schematic(v9, "s", unit(v9, 3, {}, "/top/h1")));
     const auto plan = makeEdits(folder, {{"U1", "MPN", "b"}, {"U1", "Value", "TL084"}, {"U1", "DNP", "Yes"}});
     EXPECT_EQ(plan.files.size(), 2u);
-    EXPECT_EQ(effectsOf(plan), "MPN: a > b; Value: TL074 > TL084; DNP: - > 1");
-    EXPECT_TRUE(plan.effects[0].alsoChanges.empty());
+    EXPECT_EQ(changesOf(plan), "MPN: a > b; Value: TL074 > TL084; DNP: - > 1");
+    EXPECT_TRUE(plan.changes[0].alsoChanges.empty());
     const std::string text = contentOf(folder.path(root)) + contentOf(below);
     for (const char *twice : {"\"TL084\"", "(dnp yes)"}) {
         std::size_t count = 0;
@@ -73,7 +73,7 @@ TEST(KicadEditShared, UnitsThatDifferAreMended)
                                  unit(v9, 1, {{"A", "1"}, {"B", "1"}}, "/top") +
                                      unit(v9, 2, {{"A", "2"}}, "/top", "other")));
     const auto plan = makeEdits(folder, {{"U1", "A", "1"}, {"U1", "VALUE", "TL074"}, {"U1", "B", "1"}});
-    EXPECT_EQ(effectsOf(plan), "A: 1 > 1; Value: TL074 > TL074; B: 1 > 1");
+    EXPECT_EQ(changesOf(plan), "A: 1 > 1; Value: TL074 > TL074; B: 1 > 1");
     EXPECT_EQ(warnings(*folder.load()), "");
     EXPECT_TRUE(makeEdits(folder, {{"U1", "A", "1"}, {"U1", "B", "1"}}).files.empty());
 }
@@ -87,9 +87,9 @@ TEST(KicadEditShared, TellsTheFileThatChanges)
     const QString path = folder.write(sub, below);
     // The second unit alone says so, which makes the first one wrong.
     const auto plan = makeEdits(folder, {{"U1", "DNP", "1"}, {"U1", "A"}});
-    ASSERT_EQ(effectsOf(plan), "DNP: 1 > 1; A: 1 > -");
-    EXPECT_EQ(plan.effects[0].file, folder.path(root));
-    EXPECT_EQ(plan.effects[1].file, path);
+    ASSERT_EQ(changesOf(plan), "DNP: 1 > 1; A: 1 > -");
+    EXPECT_EQ(plan.changes[0].file, folder.path(root));
+    EXPECT_EQ(plan.changes[1].file, path);
     EXPECT_EQ(warnings(*folder.load()), "");
 }
 
@@ -99,8 +99,8 @@ TEST(KicadEditShared, ASheetUsedTwice)
         const DesignFolder folder = usedTwice(version, {{"MPN", "a"}});
         const auto design = folder.load();
         const auto plan = planned(*design, {{"R2", "MPN", "b"}});
-        ASSERT_EQ(plan.effects.size(), 1u);
-        EXPECT_EQ(plan.effects[0].alsoChanges, std::vector<std::size_t>{0});
+        ASSERT_EQ(plan.changes.size(), 1u);
+        EXPECT_EQ(plan.changes[0].alsoChanges, std::vector<std::size_t>{0});
         EXPECT_EQ(problemsOf(planned(*design, {{"R1", "MPN", "b"}, {"R2", "MPN", "b"}})), "");
         const std::vector<std::vector<AskedEdit>> conflicts{
             {{"R1", "MPN", "b"}, {"R2", "mpn", "c"}}, {{"R1", "MPN"}, {"R2", "MPN", "b"}},
@@ -131,7 +131,7 @@ TEST(KicadEditShared, Version6RepeatsValueAndFootprint)
     folder.write(sub, schematic(v6, "s", symbol(v6, {.value = "old", .fields = {{"Footprint", "f"}}})));
     EXPECT_EQ(property(*folder.load(), "R2", "Value"), "47k");
     const auto plan = makeEdits(folder, {{"R1", "Value", "1\"k"}, {"R1", "PACKAGE"}});
-    EXPECT_EQ(effectsOf(plan), "Value: 10k > 1\"k; Footprint: f > ");
+    EXPECT_EQ(changesOf(plan), "Value: 10k > 1\"k; Footprint: f > ");
     EXPECT_EQ(contentOf(top), rows("1\"k", ""));
     const auto design = folder.load();
     EXPECT_EQ(property(*design, "R2", "Value"), "1\"k");
@@ -154,7 +154,7 @@ TEST(KicadEditFlags, AreSetWhereTheVersionKnowsThem)
                                              {"R2", "DNP", "true"},
                                              {"R3", "DNP", "No"},
                                              {"R3", "BOMSKIP"}});
-        EXPECT_EQ(effectsOf(plan), "DNP: - > 1; BOMSKIP: - > 1; DNP: - > 1; DNP: 1 > -; BOMSKIP: 1 > -");
+        EXPECT_EQ(changesOf(plan), "DNP: - > 1; BOMSKIP: - > 1; DNP: - > 1; DNP: 1 > -; BOMSKIP: 1 > -");
         const std::string after =
             schematic(version, "top",
                       symbol(version, {.reference = "R1", .inBom = "no", .dnp = "yes"}) +
@@ -165,7 +165,7 @@ TEST(KicadEditFlags, AreSetWhereTheVersionKnowsThem)
         EXPECT_EQ(property(*folder.load(), "R2", "dnp"), "");
         EXPECT_EQ(part(*folder.load(), "R2").notFitted, designs::MarkedBy::Nothing);
         EXPECT_NE(refusal(*folder.load(), {"R1", "DNP", "maybe"}), "");
-        EXPECT_EQ(effectsOf(planned(*folder.load(), {{"R2", "DNP"}, {"R1", "DNP", "1"}})), "");
+        EXPECT_EQ(changesOf(planned(*folder.load(), {{"R2", "DNP"}, {"R1", "DNP", "1"}})), "");
     }
 }
 
@@ -191,7 +191,7 @@ TEST(KicadEditFlags, AStoredBomskipGoesWithTheFlag)
     folder.write(
         root,
         schematic(v9, "top", symbol(v9, {.reference = "R1", .inBom = "no", .fields = {{"BomSkip", "x"}}})));
-    EXPECT_EQ(effectsOf(makeEdits(folder, {{"R1", "BOMSKIP"}})), "BOMSKIP: x > -");
+    EXPECT_EQ(changesOf(makeEdits(folder, {{"R1", "BOMSKIP"}})), "BOMSKIP: x > -");
     EXPECT_EQ(contentOf(folder.path(root)), schematic(v9, "top", symbol(v9, {.reference = "R1"})));
 }
 

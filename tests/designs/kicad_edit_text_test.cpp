@@ -192,19 +192,19 @@ TEST(KicadEditText, AnyEditsReadBack)
             }
             Model wanted = everything(*design);
             const auto plan = makeEdits(folder, edits);
-            for (const designs::EditEffect &effect : plan.effects) {
-                const AskedEdit &edit = edits[effect.edit];
+            for (const designs::Change &change : plan.changes) {
+                const AskedEdit &edit = edits[change.edit];
                 std::vector<std::string> changed{edit.reference};
-                for (const std::size_t other : effect.alsoChanges) {
+                for (const std::size_t other : change.alsoChanges) {
                     changed.emplace_back(design->components()[other].reference);
                 }
                 for (const std::string &reference : changed) {
-                    wanted[reference].erase(effect.name);
-                    if (effect.after) {
-                        wanted[reference][effect.name] = *effect.after;
+                    wanted[reference].erase(change.name);
+                    if (change.after) {
+                        wanted[reference][change.name] = *change.after;
                     }
                 }
-                EXPECT_EQ(effect.after.value_or(""), edit.value.value_or(""));
+                EXPECT_EQ(change.after.value_or(""), edit.value.value_or(""));
             }
             EXPECT_EQ(everything(*folder.load()), wanted);
         }

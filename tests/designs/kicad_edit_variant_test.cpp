@@ -36,7 +36,7 @@ TEST(KicadEditVariant, IsMadeChangedAndLeftWithoutTrace)
     folder.write(root, design(""));
     const auto plan =
         makeEdits(folder, {{"R1", "Value", "1\"k"}, {"R1", "DNP", "1"}, {"R1", "BOMSKIP", "Yes"}}, lite);
-    EXPECT_EQ(effectsOf(plan), "Value: 10k > 1\"k; DNP: - > 1; BOMSKIP: - > 1");
+    EXPECT_EQ(changesOf(plan), "Value: 10k > 1\"k; DNP: - > 1; BOMSKIP: - > 1");
     EXPECT_EQ(contentOf(folder.path(root)),
               design(" (variant (name \"Lite\") (dnp yes) (in_bom no)" + field("Value", "1\\\"k") + ")"));
     makeEdits(folder, {{"R1", "Value", "10k"}, {"R1", "mpn", "b"}, {"R1", "BOMSKIP"}}, lite);
@@ -112,7 +112,7 @@ TEST(KicadEditVariant, OneUseOfASheetOnly)
                                                   .reference = "R2",
                                                   .more = "(variant (name \"Lite\") (dnp yes))"}}})));
     const auto plan = makeEdits(folder, {{"R1", "Value", "1"}, {"R2", "Value", "2"}}, lite);
-    EXPECT_TRUE(plan.effects.at(0).alsoChanges.empty());
+    EXPECT_TRUE(plan.changes.at(0).alsoChanges.empty());
     const auto again = folder.load(root, lite);
     EXPECT_EQ(part(*again, "R1").value, "1");
     EXPECT_EQ(part(*again, "R2").value, "2");

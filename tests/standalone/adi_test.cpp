@@ -224,7 +224,7 @@ TEST_F(Batch, ThatCannotBeWrittenChangesNothing)
     EXPECT_EQ(cache.components.size(), 4U);
 
     design->planning = [this](designs::EditPlan &plan) {
-        plan.effects.clear();
+        plan.changes.clear();
         plan.problems.push_back({0, {path, 3, QStringLiteral("shared")}});
     };
     getcdb()->beginbatch();

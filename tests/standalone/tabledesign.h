@@ -55,7 +55,7 @@ public:
     }
 
     /// What is wrong with an edit, and how edits are worked out; without it no edit is refused, and each has
-    /// an effect and changes no file.
+    /// a change and replaces no file.
     std::function<std::optional<QString>(const designs::Edit &)> editCheck;
     std::function<void(designs::EditPlan &)> planning;
 
@@ -67,7 +67,7 @@ public:
     {
         designs::EditPlan plan;
         for (std::size_t edit = 0; edit < edits.size(); ++edit) {
-            plan.effects.push_back({edit, edits[edit].name, "old", edits[edit].value, m_info.file, 7, {}});
+            plan.changes.push_back({edit, edits[edit].name, "old", edits[edit].value, m_info.file, 7, {}});
         }
         if (planning) {
             planning(plan);

@@ -32,13 +32,13 @@ EditPlan PartListPlanner::run(std::span<const Edit> edits)
     if (m_changes.empty()) {
         return std::move(m_plan);
     }
-    FileEdit file;
+    FileReplacement file;
     writeFile(&file);
     if (!m_plan.problems.empty()) {
         return std::move(m_plan);
     }
     std::vector<PlannedCell> planned;
-    for (const Change &change : m_changes) {
+    for (const CellChange &change : m_changes) {
         planned.push_back({change.component, change.cell.column, change.cell.text});
     }
     if (const auto problem = checkPartList(m_list, m_newColumns, m_order, planned, file.after)) {
@@ -58,24 +58,26 @@ void PartListPlanner::collect(std::span<const Edit> edits)
                 {asked.component, {*column, m_list.storedText(asked.name, asked.value.value_or(""))}, edit});
         }
     }
-    const auto place = [](const Change &change) { return std::pair(change.component, change.cell.column); };
+    const auto place = [](const CellChange &change) {
+        return std::pair(change.component, change.cell.column);
+    };
     std::ranges::stable_sort(m_changes, {}, place);
-    const auto isRepeated = [&](const Change &change) {
-        const Change *next = &change + 1;
+    const auto isRepeated = [&](const CellChange &change) {
+        const CellChange *next = &change + 1;
         return next != m_changes.data() + m_changes.size() && place(*next) == place(change);
     };
-    std::vector<Change> kept;
-    for (Change &change : m_changes) {
+    std::vector<CellChange> kept;
+    for (CellChange &change : m_changes) {
         if (!isRepeated(change) && change.cell.text != textBefore(change.component, change.cell.column)) {
             kept.push_back(std::move(change));
         }
     }
     m_changes = std::move(kept);
     dropUnusedColumns();
-    for (const Change &change : m_changes) {
-        addEffect(change, edits[change.edit]);
+    for (const CellChange &change : m_changes) {
+        addChange(change, edits[change.edit]);
     }
-    std::ranges::sort(m_plan.effects, {}, &EditEffect::edit);
+    std::ranges::sort(m_plan.changes, {}, &Change::edit);
 }
 
 std::optional<std::size_t> PartListPlanner::columnFor(const Edit &edit)
@@ -99,7 +101,7 @@ void PartListPlanner::dropUnusedColumns()
 {
     const std::size_t old = m_list.columns().names.size();
     std::vector<bool> used(m_newColumns.size(), false);
-    for (const Change &change : m_changes) {
+    for (const CellChange &change : m_changes) {
         if (change.cell.column >= old) {
             used[change.cell.column - old] = true;
         }
@@ -112,7 +114,7 @@ void PartListPlanner::dropUnusedColumns()
             names.push_back(m_newColumns[column]);
         }
     }
-    for (Change &change : m_changes) {
+    for (CellChange &change : m_changes) {
         if (change.cell.column >= old) {
             change.cell.column = moved[change.cell.column - old];
         }
@@ -125,26 +127,26 @@ std::string PartListPlanner::textBefore(std::size_t component, std::size_t colum
     return std::string(m_list.cellText(component, column).value_or(""));
 }
 
-void PartListPlanner::addEffect(const Change &change, const Edit &edit)
+void PartListPlanner::addChange(const CellChange &asked, const Edit &edit)
 {
     const std::vector<std::string> &names = m_list.columns().names;
-    const Component &component = m_list.components()[change.component];
-    EditEffect effect;
-    effect.edit = change.edit;
-    effect.name = change.cell.column < names.size() ? names[change.cell.column]
-                                                    : m_newColumns[change.cell.column - names.size()];
-    if (const auto before = m_list.cellText(change.component, change.cell.column)) {
-        effect.before = std::string(*before);
+    const Component &component = m_list.components()[asked.component];
+    Change change;
+    change.edit = asked.edit;
+    change.name = asked.cell.column < names.size() ? names[asked.cell.column]
+                                                   : m_newColumns[asked.cell.column - names.size()];
+    if (const auto before = m_list.cellText(asked.component, asked.cell.column)) {
+        change.before = std::string(*before);
     }
-    if (edit.value && !(change.cell.text.empty() && isMarkerHeading(effect.name))) {
-        effect.after = change.cell.text;
+    if (edit.value && !(asked.cell.text.empty() && isMarkerHeading(change.name))) {
+        change.after = asked.cell.text;
     }
-    effect.file = m_list.info().file;
-    effect.line = int(component.line);
-    m_plan.effects.push_back(std::move(effect));
+    change.file = m_list.info().file;
+    change.line = int(component.line);
+    m_plan.changes.push_back(std::move(change));
 }
 
-void PartListPlanner::writeFile(FileEdit *file)
+void PartListPlanner::writeFile(FileReplacement *file)
 {
     const std::vector<CsvRow> &rows = m_file.rows();
     const QByteArray &bytes = m_file.bytes();

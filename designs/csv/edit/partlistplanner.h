@@ -26,7 +26,7 @@ public:
 
 private:
     /// A cell of one component that changes, and who asked for it.
-    struct Change
+    struct CellChange
     {
         std::size_t component = 0;
         CellText cell;
@@ -45,9 +45,9 @@ private:
     [[nodiscard]] std::optional<std::size_t> columnFor(const Edit &edit);
     void dropUnusedColumns();
     [[nodiscard]] std::string textBefore(std::size_t component, std::size_t column) const;
-    void addEffect(const Change &change, const Edit &edit);
+    void addChange(const CellChange &asked, const Edit &edit);
 
-    void writeFile(FileEdit *file);
+    void writeFile(FileReplacement *file);
     void writeHeading(std::string *out) const;
     void writeRow(std::string *out, std::size_t row);
     [[nodiscard]] std::vector<Group> groupsOf(std::size_t row);
@@ -66,7 +66,7 @@ private:
     TextArena m_arena;
     EditPlan m_plan;
     /// Sorted by component and column, the last of each.
-    std::vector<Change> m_changes;
+    std::vector<CellChange> m_changes;
     std::size_t m_nextChange = 0;
     /// One of the edits of the row that is written.
     std::size_t m_rowEdit = 0;

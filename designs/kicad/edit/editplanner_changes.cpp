@@ -60,8 +60,8 @@ void EditPlanner::apply(std::size_t number)
         site = changes && !site ? &place : site;
     }
     site = site ? site : &places.front();
-    changeOf(*site).effects.push_back(m_plan.effects.size());
-    m_plan.effects.push_back(
+    changeOf(*site).planned.push_back(m_plan.changes.size());
+    m_plan.changes.push_back(
         {number, edit.name, edit.before, edit.wanted, m_model.sheetOf(*site).path, 0, alsoChanges(edit)});
 }
 

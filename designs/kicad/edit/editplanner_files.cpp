@@ -64,13 +64,13 @@ private:
         }
         const QString refusal = m_writer.write(*node, placed, change, m_names);
         if (!refusal.isEmpty()) {
-            m_refused = change.effects.empty() ? std::nullopt
-                                               : std::optional(plan->effects[change.effects.front()].edit);
+            m_refused = change.planned.empty() ? std::nullopt
+                                               : std::optional(plan->changes[change.planned.front()].edit);
             return fail(placed.offset, refusal);
         }
         m_lists.push_back({node->begin, node->end});
-        for (const std::size_t effect : change.effects) {
-            m_sites.emplace_back(siteOf(*node, plan->effects[effect].name), effect);
+        for (const std::size_t index : change.planned) {
+            m_sites.emplace_back(siteOf(*node, plan->changes[index].name), index);
         }
         return true;
     }
@@ -101,8 +101,8 @@ private:
     bool finish(const SheetChange &change, EditPlan *plan)
     {
         std::sort(m_sites.begin(), m_sites.end());
-        for (const auto &[offset, effect] : m_sites) {
-            plan->effects[effect].line = lineOf(offset);
+        for (const auto &[offset, index] : m_sites) {
+            plan->changes[index].line = lineOf(offset);
         }
         std::sort(m_lists.begin(), m_lists.end(),
                   [](const ChangedList &a, const ChangedList &b) { return a.begin < b.begin; });
@@ -129,7 +129,7 @@ private:
     std::vector<Splice> m_splices;
     SymbolWriter m_writer;
     std::vector<ChangedList> m_lists;
-    /// Offset and effect.
+    /// Offset, and index into the plan's changes.
     std::vector<std::pair<std::size_t, std::size_t>> m_sites;
     std::size_t m_lineOffset = 0;
     int m_line = 1;

@@ -37,8 +37,8 @@ struct SymbolChange
     std::optional<bool> inBom;
     /// By the instance path.
     std::map<std::string, VariantChange, std::less<>> variants;
-    /// The effects that are told of this symbol.
-    std::vector<std::size_t> effects;
+    /// The plan's changes that stand in this symbol, as indices into EditPlan::changes.
+    std::vector<std::size_t> planned;
 };
 
 /// What becomes of an entry in version 6's table of instances.

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "designs/transaction/filechange.h"
+#include "designs/transaction/recordedreplacement.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -20,10 +20,10 @@ bool isPlainFile(const QString &path)
 
 } // namespace
 
-QJsonArray toJson(const std::vector<FileChange> &changes, const DesignPaths &paths)
+QJsonArray toJson(const std::vector<RecordedReplacement> &changes, const DesignPaths &paths)
 {
     QJsonArray array;
-    for (const FileChange &change : changes) {
+    for (const RecordedReplacement &change : changes) {
         array << QJsonObject{{QStringLiteral("file"), paths.relative(change.target)},
                              {QStringLiteral("before"), change.before.toString()},
                              {QStringLiteral("after"), change.after.toString()}};
@@ -31,9 +31,10 @@ QJsonArray toJson(const std::vector<FileChange> &changes, const DesignPaths &pat
     return array;
 }
 
-std::optional<std::vector<FileChange>> changesFrom(const QJsonArray &array, const DesignPaths &paths)
+std::optional<std::vector<RecordedReplacement>> replacementsFrom(const QJsonArray &array,
+                                                                 const DesignPaths &paths)
 {
-    std::vector<FileChange> changes;
+    std::vector<RecordedReplacement> changes;
     for (const QJsonValue &value : array) {
         const QJsonObject object = value.toObject();
         const QString target = paths.resolved(object.value(QLatin1String("file")).toString());

@@ -15,18 +15,18 @@
 namespace designs {
 
 /// A file and its content before and after a write, as journal and undo record name it.
-struct FileChange
+struct RecordedReplacement
 {
     QString target;
     FileFingerprint before;
     FileFingerprint after;
 };
 
-[[nodiscard]] QJsonArray toJson(const std::vector<FileChange> &changes, const DesignPaths &paths);
+[[nodiscard]] QJsonArray toJson(const std::vector<RecordedReplacement> &changes, const DesignPaths &paths);
 
 /// Nothing for what toJson() does not write, above all for files that are none of the design.
-[[nodiscard]] std::optional<std::vector<FileChange>> changesFrom(const QJsonArray &array,
-                                                                 const DesignPaths &paths);
+[[nodiscard]] std::optional<std::vector<RecordedReplacement>> replacementsFrom(const QJsonArray &array,
+                                                                               const DesignPaths &paths);
 
 /// Of a file that is no link, pipe or folder; nothing for those and what cannot be read.
 [[nodiscard]] std::optional<FileFingerprint> fingerprintOfPlainFile(const QString &path);
