@@ -3,8 +3,8 @@
 #include "cli/bomjsonview.h"
 
 #include "cli/designjson.h"
-#include "cli/jsonwriter.h"
 #include "core/bompartsdatabase.h"
+#include "views/report/jsonwriter.h"
 
 namespace {
 

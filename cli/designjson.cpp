@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/designjson.h"
 
-#include "cli/jsonwriter.h"
 #include "core/bompartsdatabase.h"
+#include "views/report/jsonwriter.h"
 
 void writeDesign(JsonWriter &json, const BOMPartsDatabase &database)
 {

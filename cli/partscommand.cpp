@@ -4,9 +4,9 @@
 
 #include "cli/console.h"
 #include "cli/designjson.h"
-#include "cli/jsonwriter.h"
 #include "cli/opendesign.h"
 #include "cli/partslisting.h"
+#include "views/report/jsonwriter.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,7 +3,7 @@
 #include "views/bomcsvview.h"
 
 #include "core/bompartsdatabase.h"
-#include "views/csvtext.h"
+#include "views/report/csvtext.h"
 #include "views/savereport.h"
 
 BOMCsvView::BOMCsvView(QWidget *parent, bool full)

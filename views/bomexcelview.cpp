@@ -4,10 +4,10 @@
 
 #include "core/bompartsdatabase.h"
 #include "host/framework/hostui.h"
-#include "views/numberformat.h"
-#include "views/reportlink.h"
+#include "views/report/numberformat.h"
+#include "views/report/reportlink.h"
+#include "views/report/spreadsheet.h"
 #include "views/savereport.h"
-#include "views/spreadsheet.h"
 
 #include <QFileInfo>
 

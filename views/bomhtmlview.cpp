@@ -10,8 +10,8 @@
 #include "richtext/paper/pagegeometry.h"
 #include "richtext/paper/pdfoutput.h"
 #include "richtext/xhtml/xmltext.h"
-#include "views/htmltext.h"
-#include "views/reportlink.h"
+#include "views/report/htmltext.h"
+#include "views/report/reportlink.h"
 #include "views/savereport.h"
 
 #include <QFileInfo>

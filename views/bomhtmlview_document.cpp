@@ -5,8 +5,8 @@
 #include "core/bompartsdatabase.h"
 #include "host/framework/hostui.h"
 #include "richtext/xhtml/tidylibwrapper.h"
-#include "views/htmltext.h"
-#include "views/reportlink.h"
+#include "views/report/htmltext.h"
+#include "views/report/reportlink.h"
 
 #include <algorithm>
 #include <array>

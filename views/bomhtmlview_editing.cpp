@@ -7,7 +7,7 @@
 #include "richtext/editor/textstyleeditor.h"
 #include "templates/defaultstylesheet.h"
 #include "views/bomtemplateeditor.h"
-#include "views/oldhtmltemplate.h"
+#include "views/report/oldhtmltemplate.h"
 
 // What changes the template's look.
 

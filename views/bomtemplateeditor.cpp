@@ -9,7 +9,7 @@
 #include "richtext/paper/pagegeometry.h"
 #include "richtext/xhtml/documentmarkup.h"
 #include "ui_bomtemplateeditor.h"
-#include "views/htmltext.h"
+#include "views/report/htmltext.h"
 
 #include <QPushButton>
 #include <QTabBar>

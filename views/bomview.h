@@ -4,7 +4,7 @@
 
 #include "core/groupedlines.h"
 #include "templates/bomfields.h"
-#include "views/reportcolumn.h"
+#include "views/report/reportcolumn.h"
 
 #include <QList>
 #include <QLocale>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/views/xlsxfile.h"
 #include "views/bomexcelview.h"
-#include "views/numberformat.h"
-#include "views/spreadsheet.h"
+#include "views/report/numberformat.h"
+#include "views/report/spreadsheet.h"
 #include "views/viewfixture.h"
 
 #include <QFile>

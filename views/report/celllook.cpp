@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "views/celllook.h"
+#include "views/report/celllook.h"
 
 #include <xlsxwriter.h>
 

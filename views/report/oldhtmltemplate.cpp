@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "views/oldhtmltemplate.h"
+#include "views/report/oldhtmltemplate.h"
 
 #include "host/framework/hostui.h"
 #include "richtext/xhtml/documentmarkup.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "views/htmltext.h"
+#include "views/report/htmltext.h"
 
 #include <gtest/gtest.h>
 

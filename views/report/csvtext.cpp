@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "views/csvtext.h"
+#include "views/report/csvtext.h"
 
 #include <QStringEncoder>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "views/celllook.h"
+#include "views/report/celllook.h"
 
 #include <QByteArray>
 #include <QCoreApplication>

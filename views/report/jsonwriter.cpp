@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "cli/jsonwriter.h"
+#include "views/report/jsonwriter.h"
 
 #include <algorithm>
 #include <cstdio>

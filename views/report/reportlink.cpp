@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "views/reportlink.h"
+#include "views/report/reportlink.h"
 
 #include <QDir>
 

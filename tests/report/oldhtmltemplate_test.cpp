@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "views/oldhtmltemplate.h"
+#include "views/report/oldhtmltemplate.h"
 
 #include "support/printtext.h"
 #include "support/scriptedui.h"

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "views/spreadsheet.h"
+#include "views/report/spreadsheet.h"
 
 #include "richtext/xhtml/xmltext.h"
 
