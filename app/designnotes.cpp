@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/designnotes.h"
 
+#include "account/design/partsledger.h"
 #include "host/propdefs/propdefsfile.h"
 #include "standalone/designsession.h"
 #include "standalone/loadeddesign.h"
-#include "standalone/partsledger.h"
 
 #include <QCoreApplication>
 

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "cli/designcheck.h"
 
+#include "account/design/designtally.h"
+#include "account/design/propertytwins.h"
 #include "cli/console.h"
 #include "cli/opendesign.h"
 #include "cli/referencetext.h"
 #include "cli/reportnotices.h"
 #include "core/propertyquery.h"
-#include "standalone/designtally.h"
 #include "standalone/loadeddesign.h"
-#include "standalone/propertytwins.h"
 
 #include <algorithm>
 

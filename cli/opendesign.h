@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "account/design/partsledger.h"
 #include "cli/cliui.h"
 #include "cli/designarguments.h"
 #include "cli/exitstatus.h"
 #include "core/bompartsdatabase.h"
 #include "host/netlist/netcache.h"
 #include "standalone/designsession.h"
-#include "standalone/partsledger.h"
 
 /// A design that was opened for a command, with its parts database under the template that was asked for.
 class OpenDesign final

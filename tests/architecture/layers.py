@@ -27,19 +27,21 @@ REACH = {
     "standalone": {"designs"} | HOST,
     "templates": HOST,
     "core": {"templates"} | HOST,
+    "account/design": {"standalone"} | HOST,
     "views/report": {"core", "templates", "richtext/css", "richtext/xhtml"} | HOST,
     "views": {"views/report", "core", "templates"} | RICHTEXT | HOST,
     "editors": {"core", "templates"} | HOST,
     "module": {"editors", "views", "views/report", "core", "templates"} | RICHTEXT | HOST,
-    "cli": {"views", "views/report", "core", "templates", "standalone"} | RICHTEXT | HOST,
-    "app": {"standalone"} | RICHTEXT | HOST,
+    "cli": {"account/design", "views", "views/report", "core", "templates", "standalone"} | RICHTEXT | HOST,
+    "app": {"account/design", "standalone"} | RICHTEXT | HOST,
 }
 # What a room reaches through one that stands between: standalone is built on designs, and who uses standalone sees
 # its headers.
-THROUGH = {"cli": {"designs"}, "app": {"designs"}}
+THROUGH = {"account/design": {"designs"}, "cli": {"designs"}, "app": {"designs"}}
 # Rooms, or folders of one, that do without Qt's widgets.
 NO_WIDGETS = {
-    "designs", "standalone", "templates", "core", "views/report", "host/framework", "host/netlist", "host/propdefs",
+    "designs", "standalone", "templates", "core", "account", "views/report", "host/framework", "host/netlist",
+    "host/propdefs",
 }
 WIDGET_HEADER = re.compile(
     r"^(QWidget|QDialog|QMainWindow|QMessageBox|QFileDialog|QApplication|QDesktopServices|QTable\w+|QTree\w+|QLabel"

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "standalone/designtally.h"
+#include "account/design/designtally.h"
+#include "account/design/partsledger.h"
+#include "account/design/propertytwins.h"
 #include "standalone/loadeddesign.h"
-#include "standalone/partsledger.h"
-#include "standalone/propertytwins.h"
 #include "tests/standalone/tabledesign.h"
 
 #include <gtest/gtest.h>

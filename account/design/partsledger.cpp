@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "standalone/partsledger.h"
+#include "account/design/partsledger.h"
 
-#include "designs/utf8.h"
+#include "host/framework/hosttext.h"
 #include "standalone/loadeddesign.h"
 
 #include <QHash>
@@ -70,7 +70,7 @@ qsizetype PartsLedger::components() const
 
 QString PartsLedger::reference(qsizetype index) const
 {
-    return designs::fromUtf8(at(index).reference);
+    return fromHostText(at(index).reference);
 }
 
 bool PartsLedger::isListed(qsizetype index) const
@@ -198,7 +198,7 @@ std::vector<RepeatedReference> PartsLedger::repeated() const
         }
         const auto [known, isNew] = entry.emplace(component.reference, found.size());
         if (isNew) {
-            found.push_back({designs::fromUtf8(component.reference), {}, 0, 0});
+            found.push_back({fromHostText(component.reference), {}, 0, 0});
         }
         found[known->second].places.append(place(component));
         found[known->second].listed += isListed(i) ? 1 : 0;
@@ -251,8 +251,7 @@ QString PartsLedger::notFittedText(const Component &component) const
         mark = QStringLiteral("property");
         for (const designs::NameId id : m_design.design().names().candidates("DNP")) {
             if (const auto value = m_design.design().stored(component, id)) {
-                mark += u' ' + designs::fromUtf8(m_design.design().names().name(id)) + u'=' +
-                        designs::fromUtf8(*value);
+                mark += u' ' + fromHostText(m_design.design().names().name(id)) + u'=' + fromHostText(*value);
                 break;
             }
         }

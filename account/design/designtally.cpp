@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "standalone/designtally.h"
+#include "account/design/designtally.h"
 
 #include "standalone/loadeddesign.h"
 

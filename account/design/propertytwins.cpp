@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "standalone/propertytwins.h"
+#include "account/design/propertytwins.h"
 
-#include "designs/utf8.h"
+#include "host/framework/hosttext.h"
 #include "standalone/loadeddesign.h"
 
 #include <QHash>
@@ -23,12 +23,12 @@ public:
         for (const char *alias : {"PACKAGE", "VALUE"}) {
             const quint32 group = m_count++;
             for (const NameId id : names.candidates(alias)) {
-                known.insert(designs::fromUtf8(names.name(id)).toCaseFolded(), group);
+                known.insert(fromHostText(names.name(id)).toCaseFolded(), group);
             }
         }
         m_groups.reserve(names.size());
         for (NameId id = 0; id < names.size(); ++id) {
-            const QString key = designs::fromUtf8(names.name(id)).toCaseFolded();
+            const QString key = fromHostText(names.name(id)).toCaseFolded();
             const auto found = known.constFind(key);
             m_groups.push_back(found == known.constEnd() ? *known.insert(key, m_count++) : *found);
         }
@@ -88,7 +88,7 @@ public:
             if (twins.names.isEmpty()) {
                 order.push_back(m_groups[id]);
             }
-            twins.names.append(designs::fromUtf8(m_design.names().name(id)));
+            twins.names.append(fromHostText(m_design.names().name(id)));
             twins.counts.append(m_uses[id]);
         }
         std::vector<PropertyTwins> found;
@@ -113,7 +113,7 @@ private:
             sight = {index, value, false};
         } else if (!sight.isReported && differs(sight.value, value)) {
             sight.isReported = true;
-            m_hiding[m_groups[name]].append(designs::fromUtf8(component.reference));
+            m_hiding[m_groups[name]].append(fromHostText(component.reference));
         }
     }
 
