@@ -4,7 +4,6 @@
 
 #include "designs/kicad/braceescapes.h"
 #include "designs/kicad/mandatorynames.h"
-#include "designs/utf8.h"
 
 #include <algorithm>
 #include <charconv>
@@ -12,13 +11,6 @@
 namespace designs::kicad {
 
 namespace {
-
-int leadingInt(std::string_view text, int otherwise)
-{
-    int number = otherwise;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number;
-}
 
 /// The unit of a library symbol's part "NAME_UNIT_STYLE"; 0 for what all units share.
 int unitOfPart(std::string_view name)
@@ -32,55 +24,35 @@ int unitOfPart(std::string_view name)
 } // namespace
 
 SheetParser::SheetParser(std::string_view bytes, SheetFile *sheet, TextArena *arena, PropertyNames *names)
-    : m_scanner(bytes)
+    : m_lists(bytes, *sheet, arena)
+    , m_scanner(m_lists.scanner())
+    , m_instances(m_lists, sheet, arena, names)
     , m_sheet(sheet)
     , m_arena(arena)
     , m_names(names)
-    , m_bytes(bytes)
 {
-}
-
-Problem SheetParser::problem() const
-{
-    if (!m_refusal.isEmpty()) {
-        const auto before = m_bytes.substr(0, m_refusalOffset);
-        return {m_sheet->path, 1 + int(std::count(before.begin(), before.end(), '\n')), m_refusal};
-    }
-    return {m_sheet->path, m_scanner.errorLine(), m_scanner.error()};
-}
-
-bool SheetParser::refuse(const QString &text)
-{
-    m_refusal = text;
-    m_refusalOffset = m_scanner.tokenOffset();
-    return false;
-}
-
-bool SheetParser::limitProperties(std::size_t count)
-{
-    return count <= maximumProperties ||
-           refuse(QStringLiteral("a symbol has more than %1 properties").arg(maximumProperties));
 }
 
 bool SheetParser::parse()
 {
     if (m_scanner.next() != SexprScanner::Token::Open || m_scanner.keyword() != "kicad_sch") {
-        return refuse(QStringLiteral("this is no KiCad schematic: it does not begin with \"(kicad_sch\""));
+        return m_lists.refuse(
+            QStringLiteral("this is no KiCad schematic: it does not begin with \"(kicad_sch\""));
     }
-    if (!readChildren([this](std::string_view keyword) { return readTopLevel(keyword); })) {
+    if (!m_lists.readChildren([this](std::string_view keyword) { return readTopLevel(keyword); })) {
         return false;
     }
     if (m_sheet->formatVersion == 0) {
-        return refuse(QStringLiteral("the schematic has no version, or none that can be read"));
+        return m_lists.refuse(QStringLiteral("the schematic has no version, or none that can be read"));
     }
     if (m_sheet->formatVersion < version::oldest) {
-        return refuse(
+        return m_lists.refuse(
             QStringLiteral("the schematic is of version %1, before KiCad 6; open it in KiCad 6 or later and "
                            "save it")
                 .arg(m_sheet->formatVersion));
     }
     if (m_scanner.next() != SexprScanner::Token::End) {
-        return refuse(QStringLiteral("there is text behind the end of the schematic"));
+        return m_lists.refuse(QStringLiteral("there is text behind the end of the schematic"));
     }
     return true;
 }
@@ -97,7 +69,7 @@ bool SheetParser::readTopLevel(std::string_view keyword)
         return readLibrary();
     }
     if (keyword == "symbol_instances") {
-        return readInstanceTable();
+        return m_instances.readTable();
     }
     if (keyword == "rule_area") {
         return readRuleArea();
@@ -106,29 +78,29 @@ bool SheetParser::readTopLevel(std::string_view keyword)
         return readTitleBlock();
     }
     if (keyword == "version") {
-        m_sheet->formatVersion = takeInt(0);
+        m_sheet->formatVersion = m_lists.takeInt(0);
     } else if (keyword == "uuid") {
-        m_sheet->uuid = takeKept();
+        m_sheet->uuid = m_lists.takeKept();
     }
     return false;
 }
 
 bool SheetParser::readTitleBlock()
 {
-    return readChildren([this](std::string_view keyword) {
+    return m_lists.readChildren([this](std::string_view keyword) {
         TitleBlock &title = m_sheet->title;
         if (keyword == "title") {
-            title.title = takeValue();
+            title.title = m_lists.takeValue();
         } else if (keyword == "date") {
-            title.date = takeValue();
+            title.date = m_lists.takeValue();
         } else if (keyword == "rev") {
-            title.revision = takeValue();
+            title.revision = m_lists.takeValue();
         } else if (keyword == "company") {
-            title.company = takeValue();
+            title.company = m_lists.takeValue();
         } else if (keyword == "comment") {
-            const int number = takeInt(0);
+            const int number = m_lists.takeInt(0);
             if (number >= 1 && number <= 9) {
-                title.comments[number - 1] = takeValue();
+                title.comments[number - 1] = m_lists.takeValue();
             }
         }
         return false;
@@ -137,15 +109,15 @@ bool SheetParser::readTitleBlock()
 
 bool SheetParser::readLibrary()
 {
-    return readChildren(
+    return m_lists.readChildren(
         [this](std::string_view keyword) { return keyword == "symbol" && readLibrarySymbol(); });
 }
 
 bool SheetParser::readLibrarySymbol()
 {
-    const std::string_view name = takeKept();
+    const std::string_view name = m_lists.takeKept();
     LibrarySymbol symbol;
-    const bool complete = readChildren([this, &symbol](std::string_view keyword) {
+    const bool complete = m_lists.readChildren([this, &symbol](std::string_view keyword) {
         if (keyword == "power") {
             symbol.power = true;
         } else if (keyword == "symbol") {
@@ -153,9 +125,9 @@ bool SheetParser::readLibrarySymbol()
         } else if (keyword == "property" && m_scanner.takeText()) {
             const std::string_view property = m_scanner.raw();
             if (property == "ki_description" || property == "Description") {
-                symbol.description = takeValue();
+                symbol.description = m_lists.takeValue();
             } else if (property == "ki_keywords") {
-                symbol.keywords = takeValue();
+                symbol.keywords = m_lists.takeValue();
             }
         }
         return false;
@@ -169,32 +141,34 @@ bool SheetParser::readSymbol()
     PlacedSymbol symbol;
     symbol.offset = quint32(m_scanner.tokenOffset());
     m_properties.clear();
-    m_variantHasVariables = false;
-    const bool complete = readChildren([this, &symbol](std::string_view keyword) {
+    const bool complete = m_lists.readChildren([this, &symbol](std::string_view keyword) {
         if (keyword == "property") {
             addSymbolProperty(&symbol, &m_properties);
         } else if (keyword == "pin") {
             return false;
         } else if (keyword == "instances") {
-            return readInstances(&symbol.instances);
+            InstanceList list;
+            const bool isRead = m_instances.readInstances(&list);
+            symbol.instances = list.records;
+            symbol.hasVariables |= list.hasVariables;
+            return isRead;
         } else if (keyword == "lib_id") {
-            symbol.libId = takeKept();
+            symbol.libId = m_lists.takeKept();
         } else if (keyword == "uuid") {
-            symbol.uuid = takeKept();
+            symbol.uuid = m_lists.takeKept();
         } else if (keyword == "at") {
-            symbol.at = takePoint();
+            symbol.at = m_lists.takePoint();
         } else if (keyword == "unit") {
-            symbol.unit = takeInt(1);
+            symbol.unit = m_lists.takeInt(1);
         } else if (keyword == "in_bom") {
-            symbol.inBom = takeFlag();
+            symbol.inBom = m_lists.takeFlag();
         } else if (keyword == "dnp") {
-            symbol.dnp = takeFlag();
+            symbol.dnp = m_lists.takeFlag();
         } else if (keyword == "lib_name") {
-            symbol.libName = takeKept();
+            symbol.libName = m_lists.takeKept();
         }
         return false;
     });
-    symbol.hasVariables |= m_variantHasVariables;
     symbol.properties = m_arena->copy(std::span<const Property>(m_properties));
     m_sheet->symbols.push_back(symbol);
     return complete;
@@ -217,16 +191,16 @@ void SheetParser::addSymbolProperty(PlacedSymbol *symbol, std::vector<Property> 
 {
     const std::string_view name = mandatoryName(readProperty().name);
     if (name == "Reference") {
-        symbol->reference = takeValue();
+        symbol->reference = m_lists.takeValue();
         return;
     }
     if (name == "Value") {
-        symbol->value = takeValue();
+        symbol->value = m_lists.takeValue();
         symbol->hasVariables |= m_scanner.mayHoldBrace() && holdsVariable(symbol->value);
         return;
     }
     const NameId id = m_names->intern(name);
-    const std::string_view value = takeValue();
+    const std::string_view value = m_lists.takeValue();
     symbol->hasVariables |= m_scanner.mayHoldBrace() && holdsVariable(value);
     const auto same = std::find_if(properties->begin(), properties->end(),
                                    [id](const Property &other) { return other.name == id; });
@@ -234,7 +208,7 @@ void SheetParser::addSymbolProperty(PlacedSymbol *symbol, std::vector<Property> 
         same->value = value;
     } else {
         properties->push_back({id, value});
-        limitProperties(properties->size());
+        m_lists.limitProperties(properties->size());
     }
 }
 
@@ -243,30 +217,33 @@ bool SheetParser::readSheet()
     SheetSymbol sheet;
     sheet.offset = quint32(m_scanner.tokenOffset());
     std::vector<PropertyText> texts;
-    const bool complete = readChildren([this, &sheet, &texts](std::string_view keyword) {
+    const bool complete = m_lists.readChildren([this, &sheet, &texts](std::string_view keyword) {
         if (keyword == "property") {
             PropertyText property;
-            property.name = keep(readProperty().name);
-            property.value = takeValue();
+            property.name = m_lists.keep(readProperty().name);
+            property.value = m_lists.takeValue();
             texts.push_back(property);
-            return readChildren([this, &texts](std::string_view inner) {
+            return m_lists.readChildren([this, &texts](std::string_view inner) {
                 if (inner == "id") {
-                    texts.back().id = takeInt(-1);
+                    texts.back().id = m_lists.takeInt(-1);
                 }
                 return false;
             });
         }
         if (keyword == "instances") {
-            return readInstances(&sheet.instances);
+            InstanceList list;
+            const bool isRead = m_instances.readInstances(&list);
+            sheet.instances = list.records;
+            return isRead;
         }
         if (keyword == "uuid") {
-            sheet.uuid = takeKept();
+            sheet.uuid = m_lists.takeKept();
         } else if (keyword == "at") {
-            sheet.at = takePoint();
+            sheet.at = m_lists.takePoint();
         } else if (keyword == "in_bom") {
-            sheet.inBom = takeFlag();
+            sheet.inBom = m_lists.takeFlag();
         } else if (keyword == "dnp") {
-            sheet.dnp = takeFlag();
+            sheet.dnp = m_lists.takeFlag();
         }
         return false;
     });
@@ -299,11 +276,11 @@ void SheetParser::nameSheet(SheetSymbol *sheet, const std::vector<PropertyText> 
 bool SheetParser::readRuleArea()
 {
     RuleArea area;
-    const bool complete = readChildren([this, &area](std::string_view keyword) {
+    const bool complete = m_lists.readChildren([this, &area](std::string_view keyword) {
         if (keyword == "in_bom") {
-            area.inBom = takeFlag();
+            area.inBom = m_lists.takeFlag();
         } else if (keyword == "dnp") {
-            area.dnp = takeFlag();
+            area.dnp = m_lists.takeFlag();
         } else if (keyword == "polyline") {
             return readOutline(&area.outline);
         }
@@ -312,7 +289,8 @@ bool SheetParser::readRuleArea()
     if (!area.inBom || area.dnp) {
         m_corners += area.outline.size();
         if (m_corners > maximumCorners) {
-            return refuse(QStringLiteral("the rule areas have more than %1 corners").arg(maximumCorners));
+            return m_lists.refuse(
+                QStringLiteral("the rule areas have more than %1 corners").arg(maximumCorners));
         }
         m_sheet->ruleAreas.push_back(std::move(area));
     }
@@ -321,68 +299,14 @@ bool SheetParser::readRuleArea()
 
 bool SheetParser::readOutline(std::vector<Point> *outline)
 {
-    return readChildren([this, outline](std::string_view keyword) {
-        return keyword == "pts" && readChildren([this, outline](std::string_view point) {
-                   if (point == "xy") {
-                       outline->push_back(takePoint());
-                   }
-                   return false;
-               });
+    return m_lists.readChildren([this, outline](std::string_view keyword) {
+        return keyword == "pts" && m_lists.readChildren([this, outline](std::string_view point) {
+            if (point == "xy") {
+                outline->push_back(m_lists.takePoint());
+            }
+            return false;
+        });
     });
-}
-
-std::string_view SheetParser::takeKept()
-{
-    return m_scanner.takeText() ? keep(m_scanner.text()) : std::string_view();
-}
-
-std::string_view SheetParser::takeValue()
-{
-    if (!m_scanner.takeText()) {
-        return {};
-    }
-    const std::string_view text = m_scanner.text();
-    const bool tilde = text == "~" && m_sheet->formatVersion < version::tildeIsText;
-    return tilde ? std::string_view() : keep(text);
-}
-
-/// Keeps the scanner's text.
-std::string_view SheetParser::keep(std::string_view text)
-{
-    if (!m_scanner.isAscii() && !isUtf8(text)) {
-        m_badTexts.push_back(m_scanner.tokenOffset());
-    }
-    if (m_scanner.mayHoldBrace() && mayHaveBraceEscape(text)) {
-        return m_arena->copy(std::string_view(resolveBraceEscapes(text)));
-    }
-    return m_arena->copy(text);
-}
-
-int SheetParser::takeInt(int otherwise)
-{
-    return m_scanner.takeText() ? leadingInt(m_scanner.raw(), otherwise) : otherwise;
-}
-
-/// A flag without a word counts as set.
-bool SheetParser::takeFlag()
-{
-    return !m_scanner.takeText() || m_scanner.raw() == "yes" || m_scanner.raw() == "true";
-}
-
-/// Only rule areas, which came late, need positions.
-Point SheetParser::takePoint()
-{
-    Point point;
-    if (m_sheet->formatVersion < version::ruleAreaFlags) {
-        return point;
-    }
-    for (double *coordinate : {&point.x, &point.y}) {
-        if (m_scanner.takeText()) {
-            const std::string_view text = m_scanner.raw();
-            std::from_chars(text.data(), text.data() + text.size(), *coordinate);
-        }
-    }
-    return point;
 }
 
 } // namespace designs::kicad
