@@ -80,7 +80,8 @@ struct BlockMasks
 #endif
 
 /// The bytes that stand inside quotes, for a block that begins outside: every bit from an opening quote up
-/// to, not including, its closing one (the parity of the quotes so far).
+/// to, not including, its closing one. A byte is inside when an odd number of quotes stands at or before it;
+/// the doubling shifts sum these parities up for all 64 bytes in six steps.
 [[nodiscard]] inline std::uint64_t insideQuotes(std::uint64_t quotes)
 {
     for (int shift = 1; shift < 64; shift *= 2) {

@@ -114,7 +114,10 @@ const TableInstance *ComponentBuilder::tableEntry(quint32 use, const PlacedSymbo
     return table->second.find(m_key);
 }
 
-/// Where nothing is said of this use of the sheet, the symbol's own Reference counts.
+/// What counts is the record for the path of identifiers that leads to this use, never the one that names the
+/// project: names go stale when a project is copied or renamed, and a file can be used by several projects.
+/// Version 6 has no records but a table in the root, by the path with the symbol's identifier behind it.
+/// Where neither says anything of this use, the symbol's own Reference counts, which holds for one use only.
 ComponentBuilder::Instance ComponentBuilder::instanceOf(quint32 use, const PlacedSymbol &symbol,
                                                         std::optional<quint32> path)
 {

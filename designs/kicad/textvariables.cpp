@@ -84,7 +84,7 @@ void TextVariables::resolve(std::vector<Component> *components, const std::vecto
                 return true;
             }
         }
-        // Values of version 6's table of instances are no texts of the symbol.
+        // A value from version 6's table of instances is not among the symbol's texts.
         return component.value.find("${") != std::string_view::npos;
     };
     m_budget = workPerDesign + workPerComponent * components->size();
@@ -103,7 +103,7 @@ void TextVariables::resolve(std::vector<Component> *components, const std::vecto
         copy.properties = arena->copy(std::span<const Property>(properties));
         resolved.emplace_back(&component, copy);
     }
-    // Only now: a component may be named in another one's variables.
+    // Replaced only at the end, because variables that name other components read their unresolved texts.
     for (const auto &[component, copy] : resolved) {
         *component = copy;
     }
@@ -128,6 +128,11 @@ std::string TextVariables::titleText(std::string_view text) const
     return expand(text, Context(), 0);
 }
 
+/// Variables may stand in the name of a variable ("${A${B}}") and in what one stands for, so both are
+/// expanded in turn. Files come from anywhere: variables that name each other in a circle are cut off by the
+/// depth, and ones that each name several others, which grow like a power of the depth, by the length and by
+/// the budget of work for the whole design. What is cut off stays as it stands in the file, and leftSome()
+/// says so.
 std::string TextVariables::expand(std::string_view text, const Context &context, int depth) const
 {
     if (text.find("${") == std::string_view::npos) {
@@ -163,6 +168,8 @@ std::string TextVariables::expand(std::string_view text, const Context &context,
     return result;
 }
 
+/// Takes work out of the budget; false for good once it does not suffice, so that which variables are
+/// resolved does not depend on how large the next one happens to be.
 bool TextVariables::spend(std::size_t work) const
 {
     work += workPerVariable;
