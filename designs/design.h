@@ -136,8 +136,4 @@ struct ReadResult
     Problem error;
 };
 
-/// Reads a design file: a KiCad schematic (.kicad_sch) or project (.kicad_pro), or a CSV part list (any other
-/// name).
-[[nodiscard]] ReadResult readDesign(const QString &path, const ReadOptions &options = {});
-
 } // namespace designs

@@ -21,4 +21,14 @@ bool isUtf8(std::string_view text)
     return !decoder.hasError();
 }
 
+QString quotedForMessage(std::string_view text)
+{
+    constexpr qsizetype longest = 60;
+    QString shown = fromUtf8(text.substr(0, 4 * longest)).simplified();
+    if (shown.size() > longest) {
+        shown = shown.left(longest) + QStringLiteral("…");
+    }
+    return u'"' + shown + u'"';
+}
+
 } // namespace designs

@@ -18,6 +18,9 @@ namespace designs {
     return QString::fromUtf8(text.data(), qsizetype(text.size()));
 }
 
+/// The text as it stands in a message: in quotes, on one line, cut after 60 characters.
+[[nodiscard]] QString quotedForMessage(std::string_view text);
+
 /// The form in which names that differ in letter case only are equal.
 [[nodiscard]] inline std::string caseFolded(std::string_view name)
 {

@@ -3,6 +3,7 @@
 #include "standalone/designsession.h"
 
 #include "designs/designfiles.h"
+#include "designs/formats/designreader.h"
 #include "host/framework/hostui.h"
 #include "standalone/companionfiles.h"
 #include "standalone/loadeddesign.h"

@@ -3,8 +3,11 @@
 #include "designs/csv/partlist.h"
 
 #include "designs/csv/csvfile.h"
+#include "designs/utf8.h"
 
 #include <QRegularExpression>
+
+#include <algorithm>
 
 namespace designs {
 
@@ -148,7 +151,46 @@ private:
                        R"((?:-((?=[^-./]*(?:[A-Za-z]|[^\x00-\x7F]))[^-./]*[^-./0-9])?([0-9]++))?\z)")};
 };
 
+bool equalIgnoringCase(std::string_view text, std::string_view other)
+{
+    return fromUtf8(text).compare(fromUtf8(other), Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
+
+std::optional<std::size_t> PartList::columnOf(std::string_view name) const
+{
+    const auto of = [this](std::string_view known) -> std::optional<std::size_t> {
+        const auto at = std::ranges::find(m_columns.names, known);
+        return at != m_columns.names.end() && !known.empty()
+                   ? std::optional(std::size_t(at - m_columns.names.begin()))
+                   : std::nullopt;
+    };
+    if (m_columns.quantity && equalIgnoringCase(name, m_columns.names[*m_columns.quantity])) {
+        return m_columns.quantity;
+    }
+    for (const NameId id : m_names.candidates(name)) {
+        if (const auto column = of(m_names.name(id))) {
+            return column;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string_view> PartList::cellText(std::size_t component, std::size_t column) const
+{
+    const Component &part = m_components[component];
+    if (column == m_columns.value) {
+        return part.value;
+    }
+    if (column >= m_columns.names.size()) {
+        return std::nullopt;
+    }
+    const auto found = std::ranges::find_if(part.properties, [&](const Property &property) {
+        return m_names.name(property.name) == m_columns.names[column];
+    });
+    return found != part.properties.end() ? std::optional(found->value) : std::nullopt;
+}
 
 SymbolCount PartList::recount(Problem *error) const
 {

@@ -13,7 +13,7 @@ namespace designs {
 /// A design read from a list of parts in a file of delimited cells.
 ///
 /// The components of one row share their properties. Component::origin is the row's index in CsvFile::rows().
-class PartList final : public Design
+class PartList : public Design
 {
 public:
     [[nodiscard]] const CsvDialect &dialect() const { return m_dialect; }
@@ -22,19 +22,10 @@ public:
     /// Counts the references in the file as it is now, with a reader of its own.
     [[nodiscard]] SymbolCount recount(Problem *error) const override;
 
-    [[nodiscard]] std::optional<QString> checkEdit(const Edit &edit) const override;
-    /// Changes cells. A row of several references is split where they are to differ: those that stay as they
-    /// are keep the row, each group of equals among the others gets a row behind it; quantities follow. A
-    /// property without a column gets one at the end, and with it every row that had a cell for each heading;
-    /// rows that were short are filled up only as far as a text needs it. An empty cell is no property.
-    [[nodiscard]] EditPlan planEdits(std::span<const Edit> edits) const override;
-
     /// The column that a name stands for: exactly, by alias (VALUE, PACKAGE), ignoring letter case.
     [[nodiscard]] std::optional<std::size_t> columnOf(std::string_view name) const;
     /// What the cell of a component says; nothing where it has no such property.
     [[nodiscard]] std::optional<std::string_view> cellText(std::size_t component, std::size_t column) const;
-    /// How a text is stored under a name: a "no" in BOMSKIP is an empty cell, as any text there means yes.
-    [[nodiscard]] static std::string storedText(std::string_view name, std::string_view text);
 
 private:
     friend class PartListReader;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/partlistcolumns.h"
 
-#include "designs/csv/messagetext.h"
+#include "designs/utf8.h"
 
 #include <QByteArrayView>
 #include <QStringList>
@@ -169,7 +169,7 @@ private:
         }
         QStringList shown;
         for (const std::string &heading : headingsOf(m_file, *first)) {
-            shown << inMessage(heading);
+            shown << quotedForMessage(heading);
         }
         if (shown.size() > 10) {
             shown = shown.first(10) << QStringLiteral("…");
@@ -219,7 +219,7 @@ private:
     [[nodiscard]] QString bothOf(const Matches &matches) const
     {
         const auto shown = [this](std::size_t column) {
-            return QString::number(column + 1) + u' ' + inMessage(m_headings[column]);
+            return QString::number(column + 1) + u' ' + quotedForMessage(m_headings[column]);
         };
         return shown(matches.columns[0]) + QStringLiteral(" and ") + shown(matches.columns[1]);
     }
@@ -235,11 +235,12 @@ private:
             if (name.empty() && used[column]) {
                 name = freeName("Column " + std::to_string(column + 1), &taken, &numbers);
                 warn(QStringLiteral("column %1 has no heading: it is read as ").arg(column + 1) +
-                     inMessage(name));
+                     quotedForMessage(name));
             } else if (!name.empty() && !seen.insert(name).second) {
                 name = freeName(name, &taken, &numbers);
                 warn(QStringLiteral("column %1 repeats the heading ").arg(column + 1) +
-                     inMessage(m_headings[column]) + QStringLiteral(": it is read as ") + inMessage(name));
+                     quotedForMessage(m_headings[column]) + QStringLiteral(": it is read as ") +
+                     quotedForMessage(name));
             }
             m_columns.names.push_back(std::move(name));
         }

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/partlistreader.h"
 
-#include "designs/csv/messagetext.h"
-#include "designs/csv/partlist.h"
 #include "designs/csv/referencecell.h"
 #include "designs/notfitted.h"
+#include "designs/utf8.h"
 
 #include <QByteArray>
 #include <QFileInfo>
@@ -65,10 +64,10 @@ struct WarningKind
 class PartListReader
 {
 public:
-    PartListReader(const QString &path, CsvFile file)
+    PartListReader(const QString &path, CsvFile file, std::unique_ptr<PartList> list)
         : m_path(path)
         , m_file(std::move(file))
-        , m_list(std::make_unique<PartList>())
+        , m_list(std::move(list))
         , m_cell(m_list->m_arena)
     {
     }
@@ -198,7 +197,7 @@ private:
         const auto cells = m_file.cells(row);
         const auto said =
             std::ranges::find_if(cells, [this](const CsvCell &c) { return !m_file.isBlank(c); });
-        return QStringLiteral("the row (") + inMessage(m_file.text(*said, m_list->m_arena)) +
+        return QStringLiteral("the row (") + quotedForMessage(m_file.text(*said, m_list->m_arena)) +
                QStringLiteral(" …) has no reference: give it one, or delete the row if it is no part");
     }
 
@@ -213,7 +212,7 @@ private:
         const std::size_t named = m_cell.references().size();
         if (quantity != named) {
             warn(row, &m_quantity,
-                 QStringLiteral("the quantity is ") + inMessage(text) +
+                 QStringLiteral("the quantity is ") + quotedForMessage(text) +
                      QStringLiteral(", but the row names ") + counted(named) +
                      QStringLiteral(": the references count"));
         }
@@ -320,14 +319,15 @@ private:
                        "number of their references")};
 };
 
-ReadResult readPartList(const QString &path, const ReadOptions &options, const CsvLimits &limits)
+ReadResult readPartList(const QString &path, const ReadOptions &options, const CsvLimits &limits,
+                        std::unique_ptr<PartList> list)
 {
     const QString absolutePath = QFileInfo(path).absoluteFilePath();
     if (!options.variant.isEmpty()) {
         return {nullptr,
                 {absolutePath, 0,
                  QStringLiteral("a part list has no variants: leave out the variant ") +
-                     inMessage(options.variant.toStdString())}};
+                     quotedForMessage(options.variant.toStdString())}};
     }
     Problem error;
     std::optional<QByteArray> bytes = CsvFile::load(absolutePath, &error, limits);
@@ -335,10 +335,11 @@ ReadResult readPartList(const QString &path, const ReadOptions &options, const C
         error.file = absolutePath;
         return {nullptr, error};
     }
-    return readPartListBytes(absolutePath, std::move(*bytes), limits);
+    return readPartListBytes(absolutePath, std::move(*bytes), limits, std::move(list));
 }
 
-ReadResult readPartListBytes(const QString &absolutePath, QByteArray bytes, const CsvLimits &limits)
+ReadResult readPartListBytes(const QString &absolutePath, QByteArray bytes, const CsvLimits &limits,
+                             std::unique_ptr<PartList> list)
 {
     Problem error;
     std::optional<CsvFile> file = CsvFile::parse(std::move(bytes), &error, limits);
@@ -346,7 +347,7 @@ ReadResult readPartListBytes(const QString &absolutePath, QByteArray bytes, cons
         error.file = absolutePath;
         return {nullptr, error};
     }
-    return PartListReader(absolutePath, std::move(*file)).run();
+    return PartListReader(absolutePath, std::move(*file), std::move(list)).run();
 }
 
 } // namespace designs

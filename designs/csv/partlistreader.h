@@ -3,7 +3,7 @@
 #pragma once
 
 #include "designs/csv/csvfile.h"
-#include "designs/design.h"
+#include "designs/csv/partlist.h"
 
 namespace designs {
 
@@ -22,11 +22,15 @@ namespace designs {
 /// file itself refuses. Warnings are rows with too few cells, quantities that differ from the number of
 /// references, references that begin with "#", a missing value column, and headings that had to be settled by
 /// choice. All of them name the file by its absolute path.
+///
+/// `list` is what is filled, an empty list of a class that can do more with it.
 [[nodiscard]] ReadResult readPartList(const QString &path, const ReadOptions &options = {},
-                                      const CsvLimits &limits = {});
+                                      const CsvLimits &limits = {},
+                                      std::unique_ptr<PartList> list = std::make_unique<PartList>());
 
 /// Reads what a part list would hold.
 [[nodiscard]] ReadResult readPartListBytes(const QString &absolutePath, QByteArray bytes,
-                                           const CsvLimits &limits = {});
+                                           const CsvLimits &limits = {},
+                                           std::unique_ptr<PartList> list = std::make_unique<PartList>());
 
 } // namespace designs

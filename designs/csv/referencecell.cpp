@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/referencecell.h"
 
-#include "designs/csv/messagetext.h"
+#include "designs/utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -355,7 +355,7 @@ bool ReferenceCell::addSingle(std::string_view text)
 
 bool ReferenceCell::fail(std::string_view text, const QString &why)
 {
-    m_error = inMessage(text) + u' ' + why;
+    m_error = quotedForMessage(text) + u' ' + why;
     return false;
 }
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "designs/filebuffer.h"
-#include "designs/kicad/projectfile.h"
 #include "designs/kicad/sheetfile.h"
 #include "designs/problem.h"
 #include "designs/textarena.h"

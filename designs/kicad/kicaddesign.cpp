@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/kicaddesign.h"
 
-#include "designs/kicad/edit/editmodel.h"
 #include "designs/kicad/symbolrecount.h"
 #include "designs/kicad/textvariables.h"
 #include "designs/notfitted.h"
@@ -45,8 +44,6 @@ KicadDesign::KicadDesign()
     m_names.setAlias("VALUE", m_valueName);
     m_names.setAlias("PACKAGE", m_names.intern("Footprint"));
 }
-
-KicadDesign::~KicadDesign() = default;
 
 bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem *problem)
 {
@@ -212,20 +209,10 @@ SymbolCount KicadDesign::recount(Problem *error) const
     }
     SymbolCount count;
     Problem problem;
-    if (!recountSymbols(roots, &count, &problem) && error) {
+    if (!SymbolRecount().count(roots, &count, &problem) && error) {
         *error = problem;
     }
     return count;
-}
-
-ReadResult readKicadDesign(const QString &path, const ReadOptions &options)
-{
-    auto design = std::make_unique<KicadDesign>();
-    ReadResult result;
-    if (design->read(path, options, &result.error)) {
-        result.design = std::move(design);
-    }
-    return result;
 }
 
 } // namespace designs::kicad

@@ -3,24 +3,20 @@
 #pragma once
 
 #include "designs/design.h"
-#include "designs/kicad/boardfile.h"
 #include "designs/kicad/componentbuilder.h"
 #include "designs/kicad/hierarchy.h"
-#include "designs/kicad/projectfile.h"
+#include "designs/kicad/projectfiles.h"
 #include "designs/linenumbers.h"
 
 #include <memory>
 
 namespace designs::kicad {
 
-class EditModel;
-
-/// A schematic of KiCad 6 to 10.
-class KicadDesign final : public Design
+/// A schematic of KiCad 6 to 10 as it was read.
+class KicadDesign : public Design
 {
 public:
     KicadDesign();
-    ~KicadDesign() override;
 
     /// Reads a .kicad_sch or .kicad_pro; false fills `problem`.
     bool read(const QString &path, const ReadOptions &options, Problem *problem);
@@ -28,8 +24,14 @@ public:
     [[nodiscard]] Side placement(std::string_view reference) const override;
     [[nodiscard]] SymbolCount recount(Problem *error) const override;
     [[nodiscard]] int lineOf(const Component &component) const override;
-    [[nodiscard]] std::optional<QString> checkEdit(const Edit &edit) const override;
-    [[nodiscard]] EditPlan planEdits(std::span<const Edit> edits) const override;
+
+    /// What the components were made of.
+    [[nodiscard]] const Hierarchy &hierarchy() const { return *m_hierarchy; }
+    [[nodiscard]] const ProjectFile &project() const { return m_project; }
+    /// The symbols of the components: `units` entries from Component::origin on.
+    [[nodiscard]] const std::vector<SymbolUse> &symbolUses() const { return m_symbolUses; }
+    /// The variant that was chosen for reading, empty for none.
+    [[nodiscard]] const std::string &variant() const { return m_variant; }
 
 private:
     bool findProject(const QString &path, Problem *problem);
@@ -38,7 +40,6 @@ private:
     void collectVariants();
     void collectSheets();
     void fillInfo();
-    [[nodiscard]] const EditModel &editModel() const;
 
     ProjectFile m_project;
     /// Root sheets as (file, identifier that instance paths begin with).
@@ -48,13 +49,7 @@ private:
     mutable LineNumbers m_lines{"(kicad_sch"};
     mutable bool m_boardRead = false;
     mutable BoardSides m_sides;
-    /// The variant that was chosen for reading.
     std::string m_variant;
-    /// Made at the first question about an edit.
-    mutable std::unique_ptr<EditModel> m_editModel;
 };
-
-/// Reads a KiCad design.
-[[nodiscard]] ReadResult readKicadDesign(const QString &path, const ReadOptions &options);
 
 } // namespace designs::kicad

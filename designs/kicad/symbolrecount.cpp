@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QHash>
 #include <QSet>
 
 namespace designs::kicad {
@@ -152,55 +151,43 @@ private:
     FileTally m_tally;
 };
 
-/// Sums of a file and everything below it, each file walked once.
-class Recount
-{
-public:
-    bool add(const QString &path, int depth, SymbolCount *sum, Problem *problem)
-    {
-        const QString key = QFileInfo(path).canonicalFilePath();
-        if (const auto known = m_sums.constFind(key); known != m_sums.constEnd()) {
-            *sum = *known;
-            return true;
-        }
-        QFile file(path);
-        if (depth > 200 || !file.open(QIODevice::ReadOnly)) {
-            *problem = {path, 0, QStringLiteral("cannot be read again for the count: ") + file.errorString()};
-            return false;
-        }
-        const FileTally tally = Tallier(file.readAll()).tally();
-        sum->placed = tally.symbols;
-        sum->power = tally.power;
-        for (QString name : tally.sheetFiles) {
-            name.replace(QLatin1String("${KIPRJMOD}"), m_folder).replace(u'\\', u'/');
-            SymbolCount below;
-            if (!add(QFileInfo(path).absoluteDir().absoluteFilePath(name), depth + 1, &below, problem)) {
-                return false;
-            }
-            sum->placed += below.placed;
-            sum->power += below.power;
-        }
-        m_sums.insert(key, *sum);
-        return true;
-    }
-
-    void setFolder(const QString &folder) { m_folder = folder; }
-
-private:
-    QHash<QString, SymbolCount> m_sums;
-    QString m_folder;
-};
-
 } // namespace
 
-bool recountSymbols(const QStringList &roots, SymbolCount *count, Problem *problem)
+bool SymbolRecount::add(const QString &path, int depth, SymbolCount *sum, Problem *problem)
 {
-    Recount recount;
+    const QString key = QFileInfo(path).canonicalFilePath();
+    if (const auto known = m_sums.constFind(key); known != m_sums.constEnd()) {
+        *sum = *known;
+        return true;
+    }
+    QFile file(path);
+    if (depth > 200 || !file.open(QIODevice::ReadOnly)) {
+        *problem = {path, 0, QStringLiteral("cannot be read again for the count: ") + file.errorString()};
+        return false;
+    }
+    const FileTally tally = Tallier(file.readAll()).tally();
+    sum->placed = tally.symbols;
+    sum->power = tally.power;
+    for (QString name : tally.sheetFiles) {
+        name.replace(QLatin1String("${KIPRJMOD}"), m_folder).replace(u'\\', u'/');
+        SymbolCount below;
+        if (!add(QFileInfo(path).absoluteDir().absoluteFilePath(name), depth + 1, &below, problem)) {
+            return false;
+        }
+        sum->placed += below.placed;
+        sum->power += below.power;
+    }
+    m_sums.insert(key, *sum);
+    return true;
+}
+
+bool SymbolRecount::count(const QStringList &roots, SymbolCount *count, Problem *problem)
+{
     *count = {};
     for (const QString &root : roots) {
-        recount.setFolder(QFileInfo(root).absolutePath());
+        m_folder = QFileInfo(root).absolutePath();
         SymbolCount sum;
-        if (!recount.add(root, 0, &sum, problem)) {
+        if (!add(root, 0, &sum, problem)) {
             return false;
         }
         count->placed += sum.placed;

@@ -5,7 +5,7 @@
 #include "designs/design.h"
 #include "designs/kicad/componentbuilder.h"
 #include "designs/kicad/hierarchy.h"
-#include "designs/kicad/projectfile.h"
+#include "designs/kicad/projectfiles.h"
 
 #include <string>
 #include <unordered_map>

@@ -17,14 +17,22 @@ import tempfile
 # docs/architecture.md.
 HOST = {"host"}
 RICHTEXT = {"richtext/css", "richtext/xhtml", "richtext/paper", "richtext/editor"}
+FORMATS = {"designs/kicad", "designs/kicad/edit", "designs/csv", "designs/csv/edit"}
 REACH = {
     "host": set(),
     "richtext/css": set(),
     "richtext/xhtml": {"richtext/css"},
     "richtext/paper": {"richtext/css", "richtext/xhtml"} | HOST,
     "richtext/editor": RICHTEXT | HOST,
-    "designs": set(),
-    "standalone": {"designs"} | HOST,
+    # The model, and DesignFiles in front of the transaction.
+    "designs": {"designs/transaction"},
+    "designs/kicad": {"designs"},
+    "designs/kicad/edit": {"designs", "designs/kicad"},
+    "designs/csv": {"designs"},
+    "designs/csv/edit": {"designs", "designs/csv"},
+    "designs/formats": {"designs"} | FORMATS,
+    "designs/transaction": {"designs"},
+    "standalone": {"designs", "designs/formats", "designs/csv"} | HOST,
     "templates": HOST,
     "core": {"templates"} | HOST,
     "account/design": {"standalone"} | HOST,
@@ -134,6 +142,8 @@ PLANTS = [
     ("views/report/planted.cpp", "#include <QTextDocument>\n", "views/report/ does without <QTextDocument>"),
     ("views/report/planted2.cpp", '#include "richtext/paper/pagepainter.h"\n',
      "views/report/ may not include richtext/paper"),
+    ("designs/kicad/planted.cpp", '#include "designs/kicad/edit/splices.h"\n', "designs/kicad/ may not include"),
+    ("designs/planted2.cpp", '#include "designs/csv/csvfile.h"\n', "designs/ may not include designs/csv/csvfile.h"),
     ("cli/planted.cpp", '#include "designs/design.h"\n', "cli/ may not include designs/design.h"),
 ]
 

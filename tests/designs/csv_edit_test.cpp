@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/partlistreader.h"
 #include "designs/designfolder.h"
+#include "designs/formats/designreader.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

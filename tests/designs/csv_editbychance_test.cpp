@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/csvfile.h"
 #include "designs/designfolder.h"
+#include "designs/formats/designreader.h"
 
 #include <gtest/gtest.h>
 

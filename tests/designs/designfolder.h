@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "designs/kicad/kicaddesign.h"
+#include "designs/kicad/edit/editablekicaddesign.h"
 
 #include <QTemporaryDir>
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "designs/designfolder.h"
+#include "designs/formats/designreader.h"
 #include "designs/kicadtext.h"
 
 #include <gtest/gtest.h>

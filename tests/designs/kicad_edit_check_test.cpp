@@ -46,7 +46,7 @@ TEST(KicadEditCheck, TheNewTextMustSayWhatWasAsked)
     designs::PropertyNames names;
     SheetFile sheet;
     ASSERT_TRUE(SheetParser(old, &sheet, &arena, &names).parse());
-    SheetChange change;
+    SheetRewrite change;
     change.symbols[0].properties = {{"Value", "2"}};
     EXPECT_EQ(compareSheets(sheet, names, change, {}, text("2", "x")), QString());
     EXPECT_NE(compareSheets(sheet, names, change, {}, text("3", "x")), QString());

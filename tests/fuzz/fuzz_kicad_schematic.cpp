@@ -78,7 +78,7 @@ void recount(std::string_view text)
     file.close();
     designs::SymbolCount count;
     designs::Problem problem;
-    promise(designs::kicad::recountSymbols({path}, &count, &problem) || !problem.text.isEmpty(),
+    promise(designs::kicad::SymbolRecount().count({path}, &count, &problem) || !problem.text.isEmpty(),
             "a count that fails says why");
 }
 

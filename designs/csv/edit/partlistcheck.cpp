@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/edit/partlistcheck.h"
 
-#include "designs/csv/messagetext.h"
 #include "designs/csv/partlistreader.h"
+#include "designs/utf8.h"
 
 #include <algorithm>
 
@@ -35,7 +35,7 @@ public:
     {
     }
 
-    /// Whether a component of the changed list is what becomes of one of the list.
+    /// Whether a component of the changed list says what the component at `index` is to say.
     bool isAsPlanned(std::size_t index, const Design &changed, const Component &now)
     {
         const Component &before = m_list.components()[index];
@@ -62,9 +62,9 @@ private:
         m_expected.clear();
         for (std::size_t column = 0; column < columns.names.size() + m_newColumns.size(); ++column) {
             const auto cell = std::find_if(
-                first, last, [column](const PlannedCell &planned) { return planned.column == column; });
-            const auto text =
-                cell != last ? std::string_view(cell->text) : m_list.cellText(index, column).value_or("");
+                first, last, [column](const PlannedCell &planned) { return planned.cell.column == column; });
+            const auto text = cell != last ? std::string_view(cell->cell.text)
+                                           : m_list.cellText(index, column).value_or("");
             const std::string_view added = column < columns.names.size()
                                                ? std::string_view()
                                                : m_newColumns[column - columns.names.size()];
@@ -106,7 +106,7 @@ std::optional<Problem> checkPartList(const PartList &list, const std::vector<std
             const Component &part = list.components()[order[at]];
             return Problem{file, int(part.line),
                            QStringLiteral("the changed list would not be read as it is meant, at ") +
-                               inMessage(part.reference)};
+                               quotedForMessage(part.reference)};
         }
     }
     if (now.size() != order.size() || read.design->symbols().power != list.symbols().power) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "designs/csv/edit/csvwriter.h"
 #include "designs/csv/partlist.h"
 
 #include <optional>
@@ -10,13 +11,13 @@
 
 namespace designs {
 
-/// What one cell of one component is to say.
+/// What one cell of one component is to say. Columns are counted on behind those of the list for new ones.
 struct PlannedCell
 {
     std::size_t component = 0;
-    /// Counted on behind those of the list for new columns.
-    std::size_t column = 0;
-    std::string text;
+    CellText cell;
+    /// The edit that asks for it.
+    std::size_t edit = 0;
 };
 
 /// Reads a changed part list and compares: the components are those of the list in the given order, with the

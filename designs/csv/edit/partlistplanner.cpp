@@ -2,19 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/edit/partlistplanner.h"
 
-#include "designs/csv/edit/partlistcheck.h"
-#include "designs/csv/edit/referencetext.h"
-#include "designs/csv/messagetext.h"
+#include "designs/csv/edit/referencestyle.h"
 #include "designs/csv/referencecell.h"
 #include "designs/utf8.h"
 
 #include <algorithm>
+#include <array>
 
 namespace designs {
 
 namespace {
 
-/// What tells one set of changes of a row from another.
+/// Equal for references that are to get the same cells.
 std::string keyOf(const std::vector<CellText> &cells)
 {
     std::string key;
@@ -24,12 +23,31 @@ std::string keyOf(const std::vector<CellText> &cells)
     return key;
 }
 
+bool equalIgnoringCase(std::string_view text, std::string_view other)
+{
+    return fromUtf8(text).compare(fromUtf8(other), Qt::CaseInsensitive) == 0;
+}
+
+/// How a text is stored under a name: any text in BOMSKIP means yes, so a "no" there is an empty cell.
+std::string storedText(const Edit &edit)
+{
+    const std::string text = edit.value.value_or(std::string());
+    return equalIgnoringCase(edit.name, "BOMSKIP") && PartListPlanner::saysNo(text) ? std::string() : text;
+}
+
 } // namespace
+
+bool PartListPlanner::saysNo(std::string_view text)
+{
+    static constexpr std::array<std::string_view, 4> words = {"", "0", "no", "false"};
+    return std::ranges::any_of(words,
+                               [text](std::string_view word) { return equalIgnoringCase(text, word); });
+}
 
 EditPlan PartListPlanner::run(std::span<const Edit> edits)
 {
     collect(edits);
-    if (m_changes.empty()) {
+    if (m_planned.empty()) {
         return std::move(m_plan);
     }
     FileReplacement file;
@@ -37,11 +55,7 @@ EditPlan PartListPlanner::run(std::span<const Edit> edits)
     if (!m_plan.problems.empty()) {
         return std::move(m_plan);
     }
-    std::vector<PlannedCell> planned;
-    for (const CellChange &change : m_changes) {
-        planned.push_back({change.component, change.cell.column, change.cell.text});
-    }
-    if (const auto problem = checkPartList(m_list, m_newColumns, m_order, planned, file.after)) {
+    if (const auto problem = checkPartList(m_list, m_newColumns, m_order, m_planned, file.after)) {
         m_plan.problems.push_back({std::nullopt, *problem});
         return std::move(m_plan);
     }
@@ -54,28 +68,27 @@ void PartListPlanner::collect(std::span<const Edit> edits)
     for (std::size_t edit = 0; edit < edits.size(); ++edit) {
         const Edit &asked = edits[edit];
         if (const auto column = columnFor(asked)) {
-            m_changes.push_back(
-                {asked.component, {*column, m_list.storedText(asked.name, asked.value.value_or(""))}, edit});
+            m_planned.push_back({asked.component, {*column, storedText(asked)}, edit});
         }
     }
-    const auto place = [](const CellChange &change) {
-        return std::pair(change.component, change.cell.column);
+    const auto place = [](const PlannedCell &planned) {
+        return std::pair(planned.component, planned.cell.column);
     };
-    std::ranges::stable_sort(m_changes, {}, place);
-    const auto isRepeated = [&](const CellChange &change) {
-        const CellChange *next = &change + 1;
-        return next != m_changes.data() + m_changes.size() && place(*next) == place(change);
+    std::ranges::stable_sort(m_planned, {}, place);
+    const auto isRepeated = [&](const PlannedCell &planned) {
+        const PlannedCell *next = &planned + 1;
+        return next != m_planned.data() + m_planned.size() && place(*next) == place(planned);
     };
-    std::vector<CellChange> kept;
-    for (CellChange &change : m_changes) {
-        if (!isRepeated(change) && change.cell.text != textBefore(change.component, change.cell.column)) {
-            kept.push_back(std::move(change));
+    std::vector<PlannedCell> kept;
+    for (PlannedCell &planned : m_planned) {
+        if (!isRepeated(planned) && planned.cell.text != textBefore(planned.component, planned.cell.column)) {
+            kept.push_back(std::move(planned));
         }
     }
-    m_changes = std::move(kept);
+    m_planned = std::move(kept);
     dropUnusedColumns();
-    for (const CellChange &change : m_changes) {
-        addChange(change, edits[change.edit]);
+    for (const PlannedCell &planned : m_planned) {
+        addChange(planned, edits[planned.edit]);
     }
     std::ranges::sort(m_plan.changes, {}, &Change::edit);
 }
@@ -96,14 +109,14 @@ std::optional<std::size_t> PartListPlanner::columnFor(const Edit &edit)
     return found->second;
 }
 
-/// A later edit may have taken back all that a new column was for.
+/// Removes new columns that no cell needs because a later edit of the batch took the text back.
 void PartListPlanner::dropUnusedColumns()
 {
     const std::size_t old = m_list.columns().names.size();
     std::vector<bool> used(m_newColumns.size(), false);
-    for (const CellChange &change : m_changes) {
-        if (change.cell.column >= old) {
-            used[change.cell.column - old] = true;
+    for (const PlannedCell &planned : m_planned) {
+        if (planned.cell.column >= old) {
+            used[planned.cell.column - old] = true;
         }
     }
     std::vector<std::size_t> moved;
@@ -114,9 +127,9 @@ void PartListPlanner::dropUnusedColumns()
             names.push_back(m_newColumns[column]);
         }
     }
-    for (CellChange &change : m_changes) {
-        if (change.cell.column >= old) {
-            change.cell.column = moved[change.cell.column - old];
+    for (PlannedCell &planned : m_planned) {
+        if (planned.cell.column >= old) {
+            planned.cell.column = moved[planned.cell.column - old];
         }
     }
     m_newColumns = std::move(names);
@@ -127,19 +140,19 @@ std::string PartListPlanner::textBefore(std::size_t component, std::size_t colum
     return std::string(m_list.cellText(component, column).value_or(""));
 }
 
-void PartListPlanner::addChange(const CellChange &asked, const Edit &edit)
+void PartListPlanner::addChange(const PlannedCell &planned, const Edit &edit)
 {
     const std::vector<std::string> &names = m_list.columns().names;
-    const Component &component = m_list.components()[asked.component];
+    const Component &component = m_list.components()[planned.component];
     Change change;
-    change.edit = asked.edit;
-    change.name = asked.cell.column < names.size() ? names[asked.cell.column]
-                                                   : m_newColumns[asked.cell.column - names.size()];
-    if (const auto before = m_list.cellText(asked.component, asked.cell.column)) {
+    change.edit = planned.edit;
+    change.name = planned.cell.column < names.size() ? names[planned.cell.column]
+                                                     : m_newColumns[planned.cell.column - names.size()];
+    if (const auto before = m_list.cellText(planned.component, planned.cell.column)) {
         change.before = std::string(*before);
     }
-    if (edit.value && !(asked.cell.text.empty() && isMarkerHeading(change.name))) {
-        change.after = asked.cell.text;
+    if (edit.value && !(planned.cell.text.empty() && isMarkerHeading(change.name))) {
+        change.after = planned.cell.text;
     }
     change.file = m_list.info().file;
     change.line = int(component.line);
@@ -180,10 +193,10 @@ void PartListPlanner::writeRow(std::string *out, std::size_t row)
     while (m_nextComponent < components.size() && components[m_nextComponent].origin == row) {
         m_order.push_back(m_nextComponent++);
     }
-    if (m_nextChange < m_changes.size() && m_changes[m_nextChange].component < m_nextComponent) {
+    if (m_nextPlanned < m_planned.size() && m_planned[m_nextPlanned].component < m_nextComponent) {
         m_order.resize(m_order.size() - (m_nextComponent - first));
         m_nextComponent = first;
-        m_rowEdit = m_changes[m_nextChange].edit;
+        m_rowEdit = m_planned[m_nextPlanned].edit;
         writeGroups(out, row, groupsOf(row));
         return;
     }
@@ -199,14 +212,14 @@ std::vector<PartListPlanner::Group> PartListPlanner::groupsOf(std::size_t row)
     std::vector<Group> groups(1);
     std::unordered_map<std::string, std::size_t> known = {{std::string(), 0}};
     for (const std::string_view reference : cell.references()) {
-        // What begins so is no component, and stays.
+        // Rows whose reference starts with # are not components; keep them unchanged.
         if (reference.starts_with('#')) {
             groups[0].references.push_back(reference);
             continue;
         }
         std::vector<CellText> wanted;
-        while (m_nextChange < m_changes.size() && m_changes[m_nextChange].component == m_nextComponent) {
-            wanted.push_back(m_changes[m_nextChange++].cell);
+        while (m_nextPlanned < m_planned.size() && m_planned[m_nextPlanned].component == m_nextComponent) {
+            wanted.push_back(m_planned[m_nextPlanned++].cell);
         }
         const auto [found, isNew] = known.try_emplace(keyOf(wanted), groups.size());
         if (isNew) {
@@ -252,7 +265,7 @@ bool PartListPlanner::nameReferences(const CsvRow &record, std::vector<Group> *g
         const auto text = style.text(group.references);
         if (!text) {
             const QString why =
-                QStringLiteral("the references ") + inMessage(cell) +
+                QStringLiteral("the references ") + quotedForMessage(cell) +
                 QStringLiteral(" cannot be parted into rows of their own: write each with its "
                                "letters");
             m_plan.problems.push_back({m_rowEdit, {m_list.info().file, int(record.line), why}});
@@ -267,7 +280,7 @@ bool PartListPlanner::nameReferences(const CsvRow &record, std::vector<Group> *g
     return true;
 }
 
-/// A row that had a cell for each heading gets one for each new heading. Others have been short before.
+/// A row that had a cell for each heading gets one for each new heading; a row that was short stays short.
 std::size_t PartListPlanner::leastCells(const CsvRow &row) const
 {
     const std::size_t before = m_list.columns().names.size();

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "designs/csv/edit/csvwriter.h"
+#include "designs/csv/edit/partlistcheck.h"
 #include "designs/csv/partlist.h"
 
 #include <span>
@@ -24,15 +24,10 @@ public:
     /// Of edits that each can be made by itself.
     [[nodiscard]] EditPlan run(std::span<const Edit> edits);
 
-private:
-    /// A cell of one component that changes, and who asked for it.
-    struct CellChange
-    {
-        std::size_t component = 0;
-        CellText cell;
-        std::size_t edit = 0;
-    };
+    /// Whether a text is one of the words that switch BOMSKIP or DNP off.
+    [[nodiscard]] static bool saysNo(std::string_view text);
 
+private:
     /// References of a row that stay together.
     struct Group
     {
@@ -45,7 +40,7 @@ private:
     [[nodiscard]] std::optional<std::size_t> columnFor(const Edit &edit);
     void dropUnusedColumns();
     [[nodiscard]] std::string textBefore(std::size_t component, std::size_t column) const;
-    void addChange(const CellChange &asked, const Edit &edit);
+    void addChange(const PlannedCell &planned, const Edit &edit);
 
     void writeFile(FileReplacement *file);
     void writeHeading(std::string *out) const;
@@ -66,8 +61,8 @@ private:
     TextArena m_arena;
     EditPlan m_plan;
     /// Sorted by component and column, the last of each.
-    std::vector<CellChange> m_changes;
-    std::size_t m_nextChange = 0;
+    std::vector<PlannedCell> m_planned;
+    std::size_t m_nextPlanned = 0;
     /// One of the edits of the row that is written.
     std::size_t m_rowEdit = 0;
     std::size_t m_nextComponent = 0;

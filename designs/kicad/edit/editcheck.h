@@ -3,7 +3,7 @@
 #pragma once
 
 #include "designs/kicad/edit/splices.h"
-#include "designs/kicad/edit/symbolchange.h"
+#include "designs/kicad/edit/symbolrewrite.h"
 #include "designs/kicad/sheetfile.h"
 
 #include <QString>
@@ -28,7 +28,7 @@ struct ChangedList
 /// Reads the new text of a sheet and compares it with what the old one would be after the change. Empty when
 /// it says exactly that. `names` are those of `before`.
 [[nodiscard]] QString compareSheets(const SheetFile &before, const PropertyNames &names,
-                                    const SheetChange &change, std::string_view variant,
+                                    const SheetRewrite &change, std::string_view variant,
                                     std::string_view after);
 
 } // namespace designs::kicad

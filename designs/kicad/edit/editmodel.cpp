@@ -10,12 +10,12 @@
 
 namespace designs::kicad {
 
-EditModel::EditModel(Source source)
-    : m_source(std::move(source))
-    , m_outer(m_source.hierarchy, m_source.variant)
-    , m_variables(m_source.hierarchy, m_source.project, m_source.names, m_source.variantText)
+EditModel::EditModel(const KicadDesign &design)
+    : m_design(design)
+    , m_outer(design.hierarchy(), design.variant())
+    , m_variables(design.hierarchy(), design.project(), design.names(), design.info().variant)
 {
-    m_variables.setComponents(m_source.components, m_source.symbols);
+    m_variables.setComponents(design.components(), design.symbolUses());
     const auto &uses = hierarchy().uses();
     m_usesOfFile.resize(hierarchy().files().size());
     for (quint32 use = 0; use < uses.size(); ++use) {
@@ -28,7 +28,7 @@ EditModel::EditModel(Source source)
 std::span<const SymbolUse> EditModel::places(std::size_t component) const
 {
     const Component &part = components()[component];
-    return {m_source.symbols.data() + part.origin, part.units};
+    return {m_design.symbolUses().data() + part.origin, part.units};
 }
 
 quint32 EditModel::fileOf(const SymbolUse &place) const
@@ -74,7 +74,7 @@ std::optional<std::string_view> EditModel::ownText(const SymbolUse &place, std::
 std::optional<std::string_view> EditModel::usedText(const SymbolUse &place, std::string_view name) const
 {
     const InstanceRecord *record = recordOf(place);
-    if (const VariantRecord *variant = findVariant(record, m_source.variant)) {
+    if (const VariantRecord *variant = findVariant(record, m_design.variant())) {
         for (auto field = variant->fields.rbegin(); field != variant->fields.rend(); ++field) {
             if (names().name(field->name) == name) {
                 return field->value;

@@ -2,13 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "designs/design.h"
-#include "designs/kicad/componentbuilder.h"
-#include "designs/kicad/hierarchy.h"
+#include "designs/kicad/kicaddesign.h"
 #include "designs/kicad/outermarks.h"
 #include "designs/kicad/textvariables.h"
 
-#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -28,37 +25,23 @@ struct TableRow
 class EditModel
 {
 public:
-    /// What the model looks at; all of it must outlive the model.
-    struct Source
-    {
-        const Hierarchy &hierarchy;
-        const ProjectFile &project;
-        const std::vector<Component> &components;
-        const std::vector<SymbolUse> &symbols;
-        const PropertyNames &names;
-        const std::vector<SheetUse> &sheets;
-        /// The variant that was chosen for reading, and what texts call the variant.
-        std::string variant;
-        QString variantText;
-        /// The line of a component's symbol in its file, 0 when it cannot be told.
-        std::function<int(const Component &)> lineOf;
-    };
+    /// The design must outlive the model.
+    explicit EditModel(const KicadDesign &design);
 
-    explicit EditModel(Source source);
-
-    [[nodiscard]] const std::vector<Component> &components() const { return m_source.components; }
-    [[nodiscard]] const PropertyNames &names() const { return m_source.names; }
-    [[nodiscard]] const std::string &variant() const { return m_source.variant; }
-    [[nodiscard]] const Hierarchy &hierarchy() const { return m_source.hierarchy; }
+    [[nodiscard]] const std::vector<Component> &components() const { return m_design.components(); }
+    [[nodiscard]] const PropertyNames &names() const { return m_design.names(); }
+    [[nodiscard]] const std::string &variant() const { return m_design.variant(); }
+    [[nodiscard]] const Hierarchy &hierarchy() const { return m_design.hierarchy(); }
     [[nodiscard]] const OuterMarks &outerMarks() const { return m_outer; }
-    [[nodiscard]] QString sheetName(quint32 use) const { return m_source.sheets[use].path; }
+    [[nodiscard]] QString sheetName(quint32 use) const { return m_design.sheets()[use].path; }
 
-    [[nodiscard]] int lineOf(std::size_t component) const { return m_source.lineOf(components()[component]); }
+    [[nodiscard]] int lineOf(std::size_t component) const { return m_design.lineOf(components()[component]); }
     /// The symbols that make up a component.
     [[nodiscard]] std::span<const SymbolUse> places(std::size_t component) const;
     [[nodiscard]] quint32 fileOf(const SymbolUse &place) const;
     [[nodiscard]] const SheetFile &sheetOf(const SymbolUse &place) const;
     [[nodiscard]] const PlacedSymbol &symbolOf(const SymbolUse &place) const;
+    /// The instance path of the use that a symbol is drawn in.
     [[nodiscard]] const std::string &pathOf(const SymbolUse &place) const;
     /// The symbol's record for this use of its sheet, null when there is none.
     [[nodiscard]] const InstanceRecord *recordOf(const SymbolUse &place) const;
@@ -95,7 +78,7 @@ private:
     [[nodiscard]] std::size_t symbolNumber(const SymbolUse &place) const;
     [[nodiscard]] std::span<const quint32> entriesOf(quint32 use, const PlacedSymbol &symbol) const;
 
-    Source m_source;
+    const KicadDesign &m_design;
     OuterMarks m_outer;
     TextVariables m_variables;
     std::vector<std::vector<quint32>> m_usesOfFile;

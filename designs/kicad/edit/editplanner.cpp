@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/edit/editplanner.h"
 
+#include "designs/kicad/edit/sheetrewriter.h"
 #include "designs/utf8.h"
 
 #include <QSet>
@@ -34,6 +35,7 @@ QStringList variableNames(std::string_view text)
 EditPlanner::EditPlanner(const EditModel &model)
     : m_model(model)
     , m_resolver(model)
+    , m_rewrites(model)
 {
 }
 
@@ -45,7 +47,7 @@ EditPlan EditPlanner::plan(std::span<const Edit> edits)
     if (m_plan.problems.empty()) {
         for (const auto &[number, edit] : m_edits) {
             if (edit.changes) {
-                apply(number);
+                m_plan.changes.push_back(m_rewrites.add(number, edit, m_plan.changes.size()));
             }
         }
         buildFiles();
@@ -96,7 +98,8 @@ void EditPlanner::resolveAll(std::span<const Edit> edits)
     }
 }
 
-/// A text whose variables stand for what the same batch changes has no meaning that could be promised.
+/// Refuses texts with variables for properties that the same batch changes: it is not defined whether such a
+/// variable means the text before or after.
 void EditPlanner::refuseCrossing()
 {
     QSet<QString> changed;
@@ -164,6 +167,33 @@ void EditPlanner::refuseConflicts()
                 break;
             }
         }
+    }
+}
+
+void EditPlanner::buildFiles()
+{
+    for (const auto &[number, rewrite] : m_rewrites.sheets()) {
+        buildFile(number, rewrite);
+    }
+}
+
+void EditPlanner::buildFile(quint32 number, const SheetRewrite &rewrite)
+{
+    const SheetFile &sheet = m_model.hierarchy().files()[number];
+    Problem problem;
+    if (!m_buffer.read(sheet.path, "(kicad_sch", &problem)) {
+        m_plan.problems.push_back({std::nullopt, problem});
+        return;
+    }
+    if (m_buffer.fingerprint() != sheet.fingerprint) {
+        m_plan.problems.push_back(
+            {std::nullopt,
+             {sheet.path, 0, QStringLiteral("was changed since it was read; read the design again")}});
+        return;
+    }
+    SheetRewriter rewriter(m_buffer.text(), sheet, m_model.names(), m_model.variant());
+    if (auto problem = rewriter.run(rewrite, &m_plan)) {
+        m_plan.problems.push_back(std::move(*problem));
     }
 }
 

@@ -6,7 +6,7 @@
 #include "designs/filebuffer.h"
 #include "designs/kicad/edit/editmodel.h"
 #include "designs/kicad/edit/editresolver.h"
-#include "designs/kicad/edit/symbolchange.h"
+#include "designs/kicad/edit/rewritecollector.h"
 
 #include <map>
 #include <span>
@@ -15,7 +15,8 @@
 
 namespace designs::kicad {
 
-/// Works a batch of edits out: from what is asked for to what changes where.
+/// Works a batch of edits out: resolves them, refuses those that contradict each other, and has the others
+/// collected per symbol and written into the files' new texts.
 class EditPlanner
 {
 public:
@@ -30,25 +31,15 @@ private:
     void refuseCrossing();
     void refuseConflicts();
     [[nodiscard]] std::vector<std::string> sharedKeys(const ResolvedEdit &edit) const;
-    void apply(std::size_t edit);
-    /// These tell whether anything becomes of the symbol.
-    bool applyProperty(const ResolvedEdit &edit, const SymbolUse &place);
-    bool applyNotFitted(bool wanted, const SymbolUse &place, std::size_t component);
-    bool applyNotInBom(bool wanted, const SymbolUse &place);
-    void setText(const SymbolUse &place, std::string_view name, const std::optional<std::string> &text);
-    void setRows(const SymbolUse &place, std::string_view name, const std::string &text);
-    [[nodiscard]] std::vector<std::size_t> alsoChanges(const ResolvedEdit &edit) const;
-    [[nodiscard]] SymbolChange &changeOf(const SymbolUse &place);
-    [[nodiscard]] VariantChange &variantChangeOf(const SymbolUse &place);
     [[nodiscard]] QString referenceOf(std::size_t component) const;
     void buildFiles();
-    void buildFile(quint32 number, const SheetChange &change);
+    void buildFile(quint32 number, const SheetRewrite &rewrite);
 
     const EditModel &m_model;
     EditResolver m_resolver;
     /// The edits that count, with their number; sorted by it.
     std::map<std::size_t, ResolvedEdit> m_edits;
-    std::map<quint32, SheetChange> m_changes;
+    RewriteCollector m_rewrites;
     FileBuffer m_buffer;
     EditPlan m_plan;
 };

@@ -154,7 +154,7 @@ bool EditResolver::isInBase(std::size_t component, std::string_view name) const
     });
 }
 
-/// What every symbol must have becomes empty.
+/// Why a property cannot be removed. One that every symbol must have is emptied instead.
 QString EditResolver::removalRefusal(ResolvedEdit *resolved) const
 {
     const auto places = m_model.places(resolved->component);
@@ -252,7 +252,8 @@ QString EditResolver::outsideRefusal(const ResolvedEdit &resolved) const
     return {};
 }
 
-/// In a variant only what the symbol has can be changed, and only where its use of the sheet is on record.
+/// A variant can only change properties that the symbol has, and only where the file has a record for this
+/// use of its sheet.
 QString EditResolver::variantRefusal(const ResolvedEdit &resolved) const
 {
     if (m_model.variant().empty()) {

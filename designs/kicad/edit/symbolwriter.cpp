@@ -74,11 +74,11 @@ SymbolWriter::SymbolWriter(std::string_view bytes, const SheetFile &file, std::s
 {
 }
 
-QString SymbolWriter::write(const SexprNode &symbol, const PlacedSymbol &placed, const SymbolChange &change,
+QString SymbolWriter::write(const SexprNode &symbol, const PlacedSymbol &placed, const SymbolRewrite &change,
                             const PropertyNames &names)
 {
     m_nextId = highestId(m_bytes, symbol) + 1;
-    for (const TextChange &property : change.properties) {
+    for (const WantedText &property : change.properties) {
         if (!writeProperty(symbol, property)) {
             return QStringLiteral("the symbol has no property that shows how one is laid out");
         }
@@ -94,7 +94,7 @@ QString SymbolWriter::write(const SexprNode &symbol, const PlacedSymbol &placed,
                : QStringLiteral("the symbol's record of this use of the sheet cannot be found again");
 }
 
-bool SymbolWriter::writeProperty(const SexprNode &symbol, const TextChange &change)
+bool SymbolWriter::writeProperty(const SexprNode &symbol, const WantedText &change)
 {
     if (!change.text) {
         for (const SexprNode &list : symbol.lists) {
@@ -122,7 +122,7 @@ void SymbolWriter::replaceValue(const SexprNode &property, std::string_view text
     }
 }
 
-bool SymbolWriter::addProperty(const SexprNode &symbol, const TextChange &change)
+bool SymbolWriter::addProperty(const SexprNode &symbol, const WantedText &change)
 {
     const bool isFootprint = change.name == "Footprint";
     const bool isDatasheet = change.name == "Datasheet";
@@ -174,7 +174,7 @@ void SymbolWriter::insertFlag(const SexprNode &symbol, std::string_view word, st
 }
 
 bool SymbolWriter::writeVariants(const SexprNode &symbol, const PlacedSymbol &placed,
-                                 const SymbolChange &change, const PropertyNames &names)
+                                 const SymbolRewrite &change, const PropertyNames &names)
 {
     VariantWriter::Base base;
     base.dnp = placed.dnp;
@@ -200,7 +200,7 @@ bool SymbolWriter::writeVariants(const SexprNode &symbol, const PlacedSymbol &pl
     });
 }
 
-void SymbolWriter::write(const SexprNode &row, const RowChange &change)
+void SymbolWriter::write(const SexprNode &row, const RowRewrite &change)
 {
     const auto replace = [&](std::string_view word, const std::optional<std::string> &text) {
         const SexprNode *list = row.last(word);

@@ -4,7 +4,7 @@
 
 #include "designs/kicad/edit/sexprnode.h"
 #include "designs/kicad/edit/splices.h"
-#include "designs/kicad/edit/symbolchange.h"
+#include "designs/kicad/edit/symbolrewrite.h"
 #include "designs/kicad/sheetfile.h"
 
 #include <QString>
@@ -24,17 +24,17 @@ public:
 
     /// Nothing, or why the change cannot be made. `names` resolves the symbol's property numbers.
     [[nodiscard]] QString write(const SexprNode &symbol, const PlacedSymbol &placed,
-                                const SymbolChange &change, const PropertyNames &names);
-    void write(const SexprNode &row, const RowChange &change);
+                                const SymbolRewrite &change, const PropertyNames &names);
+    void write(const SexprNode &row, const RowRewrite &change);
 
 private:
-    [[nodiscard]] bool writeProperty(const SexprNode &symbol, const TextChange &change);
+    [[nodiscard]] bool writeProperty(const SexprNode &symbol, const WantedText &change);
     void replaceValue(const SexprNode &property, std::string_view text);
-    [[nodiscard]] bool addProperty(const SexprNode &symbol, const TextChange &change);
+    [[nodiscard]] bool addProperty(const SexprNode &symbol, const WantedText &change);
     void writeFlag(const SexprNode &symbol, std::string_view word, bool wanted);
     void insertFlag(const SexprNode &symbol, std::string_view word, std::string_view text);
     [[nodiscard]] bool writeVariants(const SexprNode &symbol, const PlacedSymbol &placed,
-                                     const SymbolChange &change, const PropertyNames &names);
+                                     const SymbolRewrite &change, const PropertyNames &names);
 
     std::string_view m_bytes;
     const SheetFile &m_file;

@@ -15,7 +15,7 @@ VariantWriter::VariantWriter(std::string_view bytes, int formatVersion, std::str
 {
 }
 
-void VariantWriter::write(const SexprNode &path, const VariantChange &change, const Base &base)
+void VariantWriter::write(const SexprNode &path, const VariantRewrite &change, const Base &base)
 {
     for (const SexprNode &list : path.lists) {
         const SexprNode *name = list.keyword == "variant" ? list.first("name") : nullptr;
@@ -25,7 +25,7 @@ void VariantWriter::write(const SexprNode &path, const VariantChange &change, co
     }
     collect(change, base);
     const bool hasNew = !m_newFlags.empty() || !m_newFields.empty();
-    // The name is a list too.
+    // All that would stay is the list with the name: the variant goes as a whole.
     if (m_node && !hasNew && m_dropped > 0 && m_node->lists.size() == m_dropped + 1) {
         m_splices->push_back({m_node->gap, m_node->end, {}});
         return;
@@ -36,7 +36,7 @@ void VariantWriter::write(const SexprNode &path, const VariantChange &change, co
     }
 }
 
-void VariantWriter::collect(const VariantChange &change, const Base &base)
+void VariantWriter::collect(const VariantRewrite &change, const Base &base)
 {
     if (change.dnp) {
         takeFlag("dnp", *change.dnp, base.dnp);
@@ -44,7 +44,7 @@ void VariantWriter::collect(const VariantChange &change, const Base &base)
     if (change.inBom) {
         takeFlag("in_bom", *change.inBom, base.inBom);
     }
-    for (const TextChange &field : change.fields) {
+    for (const WantedText &field : change.fields) {
         takeField(field, base);
     }
 }
@@ -61,7 +61,7 @@ const SexprNode *VariantWriter::findField(std::string_view name) const
     return found;
 }
 
-void VariantWriter::takeField(const TextChange &change, const Base &base)
+void VariantWriter::takeField(const WantedText &change, const Base &base)
 {
     const std::string_view *inSymbol = base.property(change.name);
     const bool isBase = !change.text || (inSymbol && *inSymbol == *change.text);
@@ -135,7 +135,7 @@ void VariantWriter::insertLists(const SexprNode &path)
     for (const auto &[word, flag] : m_newFlags) {
         text += layout.gap(level) + '(' + word + (flag ? " yes)" : " no)");
     }
-    for (const TextChange &field : m_newFields) {
+    for (const WantedText &field : m_newFields) {
         text +=
             layout.gap(level) + "(field" + layout.gap(level + 1) + "(name " + quotedText(field.name) + ')';
         text +=

@@ -4,7 +4,7 @@
 
 #include "designs/kicad/edit/sexprnode.h"
 #include "designs/kicad/edit/splices.h"
-#include "designs/kicad/edit/symbolchange.h"
+#include "designs/kicad/edit/symbolrewrite.h"
 #include "designs/kicad/sheetfile.h"
 
 #include <functional>
@@ -30,11 +30,11 @@ public:
                   std::vector<Splice> *splices);
 
     /// What equals the symbol is taken out; a variant that says nothing more is taken out whole.
-    void write(const SexprNode &path, const VariantChange &change, const Base &base);
+    void write(const SexprNode &path, const VariantRewrite &change, const Base &base);
 
 private:
-    void collect(const VariantChange &change, const Base &base);
-    void takeField(const TextChange &change, const Base &base);
+    void collect(const VariantRewrite &change, const Base &base);
+    void takeField(const WantedText &change, const Base &base);
     void takeFlag(std::string_view word, bool wanted, bool base);
     void drop(const SexprNode &list);
     void insertLists(const SexprNode &path);
@@ -49,7 +49,7 @@ private:
     std::vector<Splice> m_inside;
     std::size_t m_dropped = 0;
     std::vector<std::pair<std::string, bool>> m_newFlags;
-    std::vector<TextChange> m_newFields;
+    std::vector<WantedText> m_newFields;
 };
 
 } // namespace designs::kicad

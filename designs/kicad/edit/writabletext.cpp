@@ -12,7 +12,8 @@ namespace designs::kicad {
 
 namespace {
 
-/// An empty name is filled in with nothing. What KiCad fills in that a bill of materials has no use for.
+/// Whether KiCad replaces a variable that this reader leaves as it stands, because a bill of materials has no
+/// use for it. KiCad replaces "${}" by nothing.
 bool isOnlyKnownToKiCad(const QString &name)
 {
     static constexpr std::array<QLatin1String, 6> known{QLatin1String("OP"),

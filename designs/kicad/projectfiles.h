@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "designs/design.h"
 #include "designs/problem.h"
 
 #include <QHash>
 #include <QString>
 #include <QStringList>
 
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace designs::kicad {
@@ -31,5 +34,11 @@ struct ProjectFile
 
 /// Reads a project file; false fills `problem`. A missing file is a problem too.
 [[nodiscard]] bool readProjectFile(const QString &path, ProjectFile *project, Problem *problem);
+
+/// The sides of the footprints on a board, by reference.
+using BoardSides = std::unordered_map<std::string, Side>;
+
+/// Reads a KiCad board (.kicad_pcb); false fills `problem`.
+[[nodiscard]] bool readBoardSides(const QString &path, BoardSides *sides, Problem *problem);
 
 } // namespace designs::kicad

@@ -12,8 +12,8 @@
 
 namespace designs::kicad {
 
-/// One text that becomes another. Texts are free of the file's escapes.
-struct TextChange
+/// The text that a property is to have. Texts are free of the file's escapes.
+struct WantedText
 {
     /// As the reader calls it.
     std::string name;
@@ -22,50 +22,50 @@ struct TextChange
 };
 
 /// What becomes of one use of a symbol in the chosen variant.
-struct VariantChange
+struct VariantRewrite
 {
-    std::vector<TextChange> fields;
+    std::vector<WantedText> fields;
     std::optional<bool> dnp;
     std::optional<bool> inBom;
 };
 
 /// What becomes of one symbol as drawn.
-struct SymbolChange
+struct SymbolRewrite
 {
-    std::vector<TextChange> properties;
+    std::vector<WantedText> properties;
     std::optional<bool> dnp;
     std::optional<bool> inBom;
     /// By the instance path.
-    std::map<std::string, VariantChange, std::less<>> variants;
-    /// The plan's changes that stand in this symbol, as indices into EditPlan::changes.
-    std::vector<std::size_t> planned;
+    std::map<std::string, VariantRewrite, std::less<>> variants;
+    /// The plan's changes that are told of this symbol, as indices into EditPlan::changes.
+    std::vector<std::size_t> changes;
 };
 
 /// What becomes of an entry in version 6's table of instances.
-struct RowChange
+struct RowRewrite
 {
     std::optional<std::string> value;
     std::optional<std::string> footprint;
 };
 
 /// What becomes of one file: symbols and rows by their number.
-struct SheetChange
+struct SheetRewrite
 {
-    std::map<quint32, SymbolChange> symbols;
-    std::map<quint32, RowChange> rows;
+    std::map<quint32, SymbolRewrite> symbols;
+    std::map<quint32, RowRewrite> rows;
 };
 
-/// Sets a text that may be among the changes already.
-inline void setChange(std::vector<TextChange> *changes, std::string_view name,
-                      const std::optional<std::string> &text)
+/// Sets a text that may be among the wanted ones already.
+inline void setText(std::vector<WantedText> *texts, std::string_view name,
+                    const std::optional<std::string> &text)
 {
-    for (TextChange &change : *changes) {
-        if (change.name == name) {
-            change.text = text;
+    for (WantedText &wanted : *texts) {
+        if (wanted.name == name) {
+            wanted.text = text;
             return;
         }
     }
-    changes->push_back({std::string(name), text});
+    texts->push_back({std::string(name), text});
 }
 
 } // namespace designs::kicad

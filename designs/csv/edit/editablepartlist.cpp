@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
+#include "designs/csv/edit/editablepartlist.h"
+
 #include "designs/csv/edit/partlistplanner.h"
-#include "designs/csv/messagetext.h"
-#include "designs/csv/partlist.h"
+#include "designs/csv/partlistreader.h"
 #include "designs/utf8.h"
 
 #include <QByteArrayView>
@@ -27,7 +28,6 @@ bool isOneOf(std::string_view text, const std::array<std::string_view, Count> &w
 }
 
 constexpr std::array<std::string_view, 3> yesWords = {"1", "yes", "true"};
-constexpr std::array<std::string_view, 4> noWords = {"", "0", "no", "false"};
 constexpr std::array<std::string_view, 2> yesNoNames = {"DNP", "BOMSKIP"};
 
 bool isBlank(std::string_view text)
@@ -40,10 +40,10 @@ std::optional<QString> uncarried(std::string_view text, const CsvDialect &dialec
 {
     if (text.find('\0') != std::string_view::npos ||
         !QByteArrayView(text.data(), qsizetype(text.size())).isValidUtf8()) {
-        return QStringLiteral("the text ") + inMessage(text) + QStringLiteral(" is no valid text");
+        return QStringLiteral("the text ") + quotedForMessage(text) + QStringLiteral(" is no valid text");
     }
     if (dialect.encoding == CsvDialect::Encoding::Windows1252 && !windows1252FromUtf8(text)) {
-        return QStringLiteral("the text ") + inMessage(text) +
+        return QStringLiteral("the text ") + quotedForMessage(text) +
                QStringLiteral(
                    " has characters that the file, which is in Windows-1252, cannot hold: save the "
                    "file in UTF-8 first");
@@ -57,7 +57,7 @@ std::optional<QString> unusableHeading(std::string_view name, const PartListColu
 {
     const bool isMissing =
         (isValueHeading(name) && !columns.value) || (isFootprintHeading(name) && !columns.footprint);
-    const QString quoted = inMessage(name);
+    const QString quoted = quotedForMessage(name);
     if (name.empty() || isBlank(name.substr(0, 1)) || isBlank(name.substr(name.size() - 1))) {
         return QStringLiteral("the name ") + quoted + QStringLiteral(" is empty or has blanks around it");
     }
@@ -73,71 +73,34 @@ std::optional<QString> unusableHeading(std::string_view name, const PartListColu
 
 } // namespace
 
-std::optional<std::size_t> PartList::columnOf(std::string_view name) const
-{
-    const auto of = [this](std::string_view known) -> std::optional<std::size_t> {
-        const auto at = std::ranges::find(m_columns.names, known);
-        return at != m_columns.names.end() && !known.empty()
-                   ? std::optional(std::size_t(at - m_columns.names.begin()))
-                   : std::nullopt;
-    };
-    if (m_columns.quantity && equalIgnoringCase(name, m_columns.names[*m_columns.quantity])) {
-        return m_columns.quantity;
-    }
-    for (const NameId id : m_names.candidates(name)) {
-        if (const auto column = of(m_names.name(id))) {
-            return column;
-        }
-    }
-    return std::nullopt;
-}
-
-std::optional<std::string_view> PartList::cellText(std::size_t component, std::size_t column) const
-{
-    const Component &part = m_components[component];
-    if (column == m_columns.value) {
-        return part.value;
-    }
-    if (column >= m_columns.names.size()) {
-        return std::nullopt;
-    }
-    const auto found = std::ranges::find_if(part.properties, [&](const Property &property) {
-        return m_names.name(property.name) == m_columns.names[column];
-    });
-    return found != part.properties.end() ? std::optional(found->value) : std::nullopt;
-}
-
-std::string PartList::storedText(std::string_view name, std::string_view text)
-{
-    return equalIgnoringCase(name, "BOMSKIP") && isOneOf(text, noWords) ? std::string() : std::string(text);
-}
-
-std::optional<QString> PartList::checkEdit(const Edit &edit) const
+std::optional<QString> EditablePartList::checkEdit(const Edit &edit) const
 {
     const std::optional<std::size_t> column = columnOf(edit.name);
-    if (column == m_columns.reference) {
+    if (column == columns().reference) {
         return QStringLiteral("the reference of a part cannot be changed");
     }
-    if (column && column == m_columns.quantity) {
+    if (column && column == columns().quantity) {
         return QStringLiteral("the quantity cannot be changed: it follows from the references");
     }
     const std::string_view text = edit.value ? std::string_view(*edit.value) : std::string_view();
     if (!column && !text.empty()) {
-        if (const auto why = unusableHeading(edit.name, m_columns, m_dialect)) {
+        if (const auto why = unusableHeading(edit.name, columns(), dialect())) {
             return why;
         }
     }
-    const std::string_view name = column ? std::string_view(m_columns.names[*column]) : edit.name;
-    if (isOneOf(name, yesNoNames) && !isOneOf(text, yesWords) && !isOneOf(text, noWords)) {
-        return inMessage(name) + QStringLiteral(" can be Yes or No, but not ") + inMessage(text);
+    const std::string_view name = column ? std::string_view(columns().names[*column]) : edit.name;
+    if (isOneOf(name, yesNoNames) && !isOneOf(text, yesWords) && !PartListPlanner::saysNo(text)) {
+        return quotedForMessage(name) + QStringLiteral(" can be Yes or No, but not ") +
+               quotedForMessage(text);
     }
     if (!text.empty() && isBlank(text) && isMarkerHeading(name)) {
-        return inMessage(name) + QStringLiteral(" cannot hold blanks alone: they would be read as nothing");
+        return quotedForMessage(name) +
+               QStringLiteral(" cannot hold blanks alone: they would be read as nothing");
     }
-    return uncarried(text, m_dialect);
+    return uncarried(text, dialect());
 }
 
-EditPlan PartList::planEdits(std::span<const Edit> edits) const
+EditPlan EditablePartList::planEdits(std::span<const Edit> edits) const
 {
     EditPlan plan;
     for (std::size_t edit = 0; edit < edits.size(); ++edit) {
@@ -162,6 +125,11 @@ EditPlan PartList::planEdits(std::span<const Edit> edits) const
         return plan;
     }
     return PartListPlanner(*this, *file).run(edits);
+}
+
+ReadResult readEditablePartList(const QString &path, const ReadOptions &options)
+{
+    return readPartList(path, options, {}, std::make_unique<EditablePartList>());
 }
 
 } // namespace designs

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "designs/csv/edit/referencetext.h"
+#include "designs/csv/edit/referencestyle.h"
 
 #include "designs/csv/referencecell.h"
 

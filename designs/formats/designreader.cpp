@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "designs/csv/partlistreader.h"
-#include "designs/design.h"
-#include "designs/kicad/kicaddesign.h"
+#include "designs/formats/designreader.h"
+
+#include "designs/csv/edit/editablepartlist.h"
+#include "designs/kicad/edit/editablekicaddesign.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -58,7 +59,7 @@ ReadResult readDesign(const QString &path, const ReadOptions &options)
         return {nullptr, {path, 0, text}};
     }
     return isKicad(info.suffix().toLower(), start) ? kicad::readKicadDesign(path, options)
-                                                   : readPartList(path, options);
+                                                   : readEditablePartList(path, options);
 }
 
 } // namespace designs

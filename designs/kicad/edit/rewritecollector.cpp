@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-// From an edit that can be made to what changes where.
-#include "designs/kicad/edit/editplanner.h"
+#include "designs/kicad/edit/rewritecollector.h"
+
 #include "designs/notfitted.h"
 
 #include <algorithm>
@@ -17,17 +17,22 @@ bool knowsNotFitted(const SheetFile &sheet, const PlacedSymbol &symbol)
 
 } // namespace
 
-SymbolChange &EditPlanner::changeOf(const SymbolUse &place)
+RewriteCollector::RewriteCollector(const EditModel &model)
+    : m_model(model)
 {
-    return m_changes[m_model.fileOf(place)].symbols[place.symbol];
 }
 
-VariantChange &EditPlanner::variantChangeOf(const SymbolUse &place)
+SymbolRewrite &RewriteCollector::rewriteOf(const SymbolUse &place)
 {
-    return changeOf(place).variants[m_model.pathOf(place)];
+    return m_sheets[m_model.fileOf(place)].symbols[place.symbol];
 }
 
-std::vector<std::size_t> EditPlanner::alsoChanges(const ResolvedEdit &edit) const
+VariantRewrite &RewriteCollector::variantRewriteOf(const SymbolUse &place)
+{
+    return rewriteOf(place).variants[m_model.pathOf(place)];
+}
+
+std::vector<std::size_t> RewriteCollector::alsoChanges(const ResolvedEdit &edit) const
 {
     std::vector<std::size_t> others;
     if (!m_model.variant().empty()) {
@@ -43,29 +48,27 @@ std::vector<std::size_t> EditPlanner::alsoChanges(const ResolvedEdit &edit) cons
     return others;
 }
 
-void EditPlanner::apply(std::size_t number)
+Change RewriteCollector::add(std::size_t number, const ResolvedEdit &edit, std::size_t index)
 {
-    const ResolvedEdit &edit = m_edits.at(number);
     const auto places = m_model.places(edit.component);
     const SymbolUse *site = nullptr;
     for (const SymbolUse &place : places) {
         bool changes = false;
         if (edit.target == EditTarget::NotFitted) {
-            changes = applyNotFitted(edit.wanted.has_value(), place, edit.component);
+            changes = addNotFitted(edit.wanted.has_value(), place, edit.component);
         } else if (edit.target == EditTarget::NotInBom) {
-            changes = applyNotInBom(edit.wanted.has_value(), place);
+            changes = addNotInBom(edit.wanted.has_value(), place);
         } else {
-            changes = applyProperty(edit, place);
+            changes = addProperty(edit, place);
         }
         site = changes && !site ? &place : site;
     }
     site = site ? site : &places.front();
-    changeOf(*site).planned.push_back(m_plan.changes.size());
-    m_plan.changes.push_back(
-        {number, edit.name, edit.before, edit.wanted, m_model.sheetOf(*site).path, 0, alsoChanges(edit)});
+    rewriteOf(*site).changes.push_back(index);
+    return {number, edit.name, edit.before, edit.wanted, m_model.sheetOf(*site).path, 0, alsoChanges(edit)};
 }
 
-bool EditPlanner::applyProperty(const ResolvedEdit &edit, const SymbolUse &place)
+bool RewriteCollector::addProperty(const ResolvedEdit &edit, const SymbolUse &place)
 {
     const auto own = m_model.nameIn(place, edit.name);
     const bool isVariant = !m_model.variant().empty();
@@ -77,43 +80,44 @@ bool EditPlanner::applyProperty(const ResolvedEdit &edit, const SymbolUse &place
     return !own || m_model.usedText(place, *own) != text;
 }
 
-void EditPlanner::setText(const SymbolUse &place, std::string_view name,
-                          const std::optional<std::string> &text)
+void RewriteCollector::setText(const SymbolUse &place, std::string_view name,
+                               const std::optional<std::string> &text)
 {
     if (!m_model.variant().empty()) {
-        setChange(&variantChangeOf(place).fields, name, text);
+        designs::kicad::setText(&variantRewriteOf(place).fields, name, text);
         return;
     }
-    setChange(&changeOf(place).properties, name, text);
+    designs::kicad::setText(&rewriteOf(place).properties, name, text);
     if (text && (name == "Value" || name == "Footprint")) {
         setRows(place, name, *text);
     }
 }
 
-/// Version 6 repeats value and footprint for every use; a text there counts before the symbol's.
-void EditPlanner::setRows(const SymbolUse &place, std::string_view name, const std::string &text)
+/// Version 6 repeats value and footprint in the table of instances, for every use; a text there overrides the
+/// symbol's, so it must follow.
+void RewriteCollector::setRows(const SymbolUse &place, std::string_view name, const std::string &text)
 {
     for (const TableRow &row : m_model.rowsOf(m_model.fileOf(place), m_model.symbolOf(place))) {
         const TableInstance &old = m_model.hierarchy().files()[row.file].instanceTable[row.entry];
         if (name == "Value" && !old.value.empty()) {
-            m_changes[row.file].rows[row.entry].value = text;
+            m_sheets[row.file].rows[row.entry].value = text;
         } else if (name == "Footprint" && !old.footprint.empty()) {
-            m_changes[row.file].rows[row.entry].footprint = text;
+            m_sheets[row.file].rows[row.entry].footprint = text;
         }
     }
 }
 
-/// The flag, and properties of that name so that they do not say otherwise.
-bool EditPlanner::applyNotFitted(bool wanted, const SymbolUse &place, std::size_t component)
+/// Sets the flag, and the properties named DNP that would contradict it.
+bool RewriteCollector::addNotFitted(bool wanted, const SymbolUse &place, std::size_t component)
 {
     const PlacedSymbol &symbol = m_model.symbolOf(place);
     const bool hasFlag = knowsNotFitted(m_model.sheetOf(place), symbol);
     const bool isVariant = !m_model.variant().empty();
     bool changes = isVariant || (hasFlag && symbol.dnp != wanted);
     if (isVariant) {
-        variantChangeOf(place).dnp = wanted;
+        variantRewriteOf(place).dnp = wanted;
     } else if (changes) {
-        changeOf(place).dnp = wanted;
+        rewriteOf(place).dnp = wanted;
     }
     const auto ids = m_model.names().candidates("DNP");
     bool hasProperty = false;
@@ -138,14 +142,14 @@ bool EditPlanner::applyNotFitted(bool wanted, const SymbolUse &place, std::size_
     return changes;
 }
 
-bool EditPlanner::applyNotInBom(bool wanted, const SymbolUse &place)
+bool RewriteCollector::addNotInBom(bool wanted, const SymbolUse &place)
 {
     const bool isVariant = !m_model.variant().empty();
     bool changes = isVariant || m_model.symbolOf(place).inBom == wanted;
     if (isVariant) {
-        variantChangeOf(place).inBom = !wanted;
+        variantRewriteOf(place).inBom = !wanted;
     } else if (changes) {
-        changeOf(place).inBom = !wanted;
+        rewriteOf(place).inBom = !wanted;
     }
     for (const NameId id : m_model.names().candidates("BOMSKIP")) {
         const std::string_view name = m_model.names().name(id);

@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/kicad/edit/sheetrewriter.h"
+
+#include <algorithm>
+
+namespace designs::kicad {
+
+SheetRewriter::SheetRewriter(std::string_view bytes, const SheetFile &sheet, const PropertyNames &names,
+                             std::string_view variant)
+    : m_bytes(bytes)
+    , m_sheet(sheet)
+    , m_names(names)
+    , m_variant(variant)
+    , m_writer(bytes, sheet, variant, &m_splices)
+{
+}
+
+std::optional<EditProblem> SheetRewriter::run(const SheetRewrite &rewrite, EditPlan *plan)
+{
+    return write(rewrite, plan) ? std::nullopt : std::optional(m_problem);
+}
+
+bool SheetRewriter::fail(std::size_t offset, const QString &text)
+{
+    m_problem.problem = {m_sheet.path, lineOf(offset), text};
+    return false;
+}
+
+bool SheetRewriter::write(const SheetRewrite &rewrite, EditPlan *plan)
+{
+    for (const auto &[number, symbol] : rewrite.symbols) {
+        if (!writeSymbol(m_sheet.symbols[number], symbol, plan)) {
+            return false;
+        }
+    }
+    for (const auto &[number, row] : rewrite.rows) {
+        const std::size_t offset = m_sheet.instanceTable[number].offset;
+        const auto node = nodeAt(m_bytes, offset);
+        if (!node || node->keyword != "path") {
+            return fail(offset, QStringLiteral("the row of the table of instances is not found again"));
+        }
+        m_lists.push_back({node->begin, node->end});
+        m_writer.write(*node, row);
+    }
+    return finish(rewrite, plan);
+}
+
+bool SheetRewriter::writeSymbol(const PlacedSymbol &placed, const SymbolRewrite &rewrite, EditPlan *plan)
+{
+    const auto node = nodeAt(m_bytes, placed.offset);
+    if (!node || node->keyword != "symbol") {
+        return fail(placed.offset, QStringLiteral("the symbol is not found again"));
+    }
+    const QString refusal = m_writer.write(*node, placed, rewrite, m_names);
+    if (!refusal.isEmpty()) {
+        if (!rewrite.changes.empty()) {
+            m_problem.edit = plan->changes[rewrite.changes.front()].edit;
+        }
+        return fail(placed.offset, refusal);
+    }
+    m_lists.push_back({node->begin, node->end});
+    for (const std::size_t change : rewrite.changes) {
+        m_sites.emplace_back(siteOf(*node, plan->changes[change].name), change);
+    }
+    return true;
+}
+
+/// Where a property or flag stands; the symbol where it has none yet.
+std::size_t SheetRewriter::siteOf(const SexprNode &symbol, std::string_view name) const
+{
+    const SexprNode *site = findProperty(m_bytes, symbol, name);
+    if (!site && (name == "DNP" || name == "BOMSKIP")) {
+        site = symbol.last(name == "DNP" ? "dnp" : "in_bom");
+    }
+    return site ? site->begin : symbol.begin;
+}
+
+/// Counts on from the last offset that was asked for; only messages ask for earlier ones.
+int SheetRewriter::lineOf(std::size_t offset)
+{
+    if (offset < m_lineOffset) {
+        m_lineOffset = 0;
+        m_line = 1;
+    }
+    const auto from = m_bytes.begin() + std::ptrdiff_t(m_lineOffset);
+    m_line += int(std::count(from, m_bytes.begin() + std::ptrdiff_t(offset), '\n'));
+    m_lineOffset = offset;
+    return m_line;
+}
+
+bool SheetRewriter::finish(const SheetRewrite &rewrite, EditPlan *plan)
+{
+    std::sort(m_sites.begin(), m_sites.end());
+    for (const auto &[offset, change] : m_sites) {
+        plan->changes[change].line = lineOf(offset);
+    }
+    std::sort(m_lists.begin(), m_lists.end(),
+              [](const ChangedList &a, const ChangedList &b) { return a.begin < b.begin; });
+    if (!sortSplices(&m_splices)) {
+        return fail(0, QStringLiteral("the changes to the file get in each other's way"));
+    }
+    const QByteArray after = spliced(m_bytes, m_splices);
+    const std::string_view text(after.constData(), std::size_t(after.size()));
+    QString wrong = compareTexts(m_bytes, text, m_splices, m_lists);
+    wrong = wrong.isEmpty() ? compareSheets(m_sheet, m_names, rewrite, m_variant, text) : wrong;
+    if (!wrong.isEmpty()) {
+        return fail(0, QStringLiteral("the file's new text did not stand the check: ") + wrong);
+    }
+    if (text != m_bytes) {
+        plan->files.push_back({m_sheet.path, m_sheet.fingerprint, after});
+    }
+    return true;
+}
+
+} // namespace designs::kicad
