@@ -42,7 +42,7 @@ ComponentBuilder::ComponentBuilder(const Hierarchy &hierarchy, std::string varia
 {
 }
 
-void ComponentBuilder::build()
+BuiltComponents ComponentBuilder::build()
 {
     collectTables();
     reserve();
@@ -51,6 +51,7 @@ void ComponentBuilder::build()
     }
     finishGroups();
     warnAboutLibraries();
+    return std::move(m_built);
 }
 
 /// Version 6 keeps the instances in a table of the root.
@@ -72,8 +73,8 @@ void ComponentBuilder::reserve()
     for (const HierarchyUse &use : m_hierarchy.uses()) {
         total += m_hierarchy.files()[use.file].symbols.size();
     }
-    components.reserve(total);
-    symbols.reserve(total);
+    m_built.components.reserve(total);
+    m_built.symbols.reserve(total);
 }
 
 void ComponentBuilder::addUse(quint32 use)
@@ -81,14 +82,14 @@ void ComponentBuilder::addUse(quint32 use)
     const HierarchyUse &sheet = m_hierarchy.uses()[use];
     const SheetFile &file = m_hierarchy.files()[sheet.file];
     const std::optional<quint32> path = file.pathNumber(sheet.uuidPath);
-    count.placed += qsizetype(file.symbols.size());
+    m_built.count.placed += qsizetype(file.symbols.size());
     quint32 first = 0;
     qsizetype without = 0;
     for (quint32 symbol = 0; symbol < file.symbols.size(); ++symbol) {
         m_hasInstance = true;
-        const qsizetype power = count.power;
+        const qsizetype power = m_built.count.power;
         addSymbol(use, symbol, path);
-        if (!m_hasInstance && power == count.power && without++ == 0) {
+        if (!m_hasInstance && power == m_built.count.power && without++ == 0) {
             first = symbol;
         }
     }
@@ -139,7 +140,7 @@ void ComponentBuilder::addSymbol(quint32 use, quint32 symbol, std::optional<quin
     const Instance instance = instanceOf(use, placed, path);
     const LibrarySymbol *library = file.librarySymbol(placed);
     if (instance.reference.starts_with('#') || (library && library->power)) {
-        ++count.power;
+        ++m_built.count.power;
         return;
     }
     const Component component = makeComponent(use, placed, instance);
@@ -151,9 +152,9 @@ void ComponentBuilder::addSymbol(quint32 use, quint32 symbol, std::optional<quin
     if (severalUnits && joinGroup(component, place, placed.libId)) {
         return;
     }
-    components.push_back(component);
-    components.back().origin = quint32(symbols.size());
-    symbols.push_back(place);
+    m_built.components.push_back(component);
+    m_built.components.back().origin = quint32(m_built.symbols.size());
+    m_built.symbols.push_back(place);
 }
 
 Component ComponentBuilder::makeComponent(quint32 use, const PlacedSymbol &symbol, const Instance &instance)
@@ -227,13 +228,13 @@ bool ComponentBuilder::joinGroup(const Component &component, const SymbolUse &pl
     if (free != candidates.end()) {
         m_takenUnits.insert(unitOf(*free));
         m_groups[*free].members.emplace_back(place, component);
-        ++count.mergedUnits;
+        ++m_built.count.mergedUnits;
         return true;
     }
     const auto number = quint32(m_groups.size());
     candidates.push_back(number);
     m_takenUnits.insert(unitOf(number));
-    m_groups.push_back({quint32(components.size()), {{place, component}}});
+    m_groups.push_back({quint32(m_built.components.size()), {{place, component}}});
     return false;
 }
 
@@ -252,9 +253,9 @@ void ComponentBuilder::finishGroup(Group *group)
                      [](const auto &a, const auto &b) { return a.first.unit < b.first.unit; });
     Component joined = group->members.front().second;
     joined.units = quint32(group->members.size());
-    joined.origin = quint32(symbols.size());
+    joined.origin = quint32(m_built.symbols.size());
     for (const auto &[place, unit] : group->members) {
-        symbols.push_back(place);
+        m_built.symbols.push_back(place);
         if (joined.notInBom == MarkedBy::Nothing) {
             joined.notInBom = unit.notInBom;
             joined.notInBomSheet = unit.notInBomSheet;
@@ -268,7 +269,7 @@ void ComponentBuilder::finishGroup(Group *group)
         }
     }
     warnAboutUnits(*group, joined, joinProperties(*group, &joined));
-    components[group->component] = joined;
+    m_built.components[group->component] = joined;
 }
 
 /// A property is what the lowest unit says of it that does not leave it empty. Gives the names of those in
@@ -356,7 +357,8 @@ void ComponentBuilder::warnAboutInstances(quint32 use, quint32 first, qsizetype 
 void ComponentBuilder::warn(const SymbolUse &place, const QString &text)
 {
     const SheetFile &file = m_hierarchy.files()[m_hierarchy.uses()[place.use].file];
-    warnings.push_back({file.path, m_lines->line(file.path, file.symbols[place.symbol].offset), text});
+    m_built.warnings.push_back(
+        {file.path, m_lines->line(file.path, file.symbols[place.symbol].offset), text});
 }
 
 } // namespace designs::kicad

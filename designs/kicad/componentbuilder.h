@@ -26,6 +26,16 @@ struct SymbolUse
     qint32 unit = 1;
 };
 
+/// What a hierarchy's symbols come to.
+struct BuiltComponents
+{
+    std::vector<Component> components;
+    /// The symbols of each component: `units` entries from `origin` on, the lowest unit first.
+    std::vector<SymbolUse> symbols;
+    SymbolCount count;
+    std::vector<Problem> warnings;
+};
+
 /// Makes one component per part out of the symbols of a hierarchy: references by instance, the units of a
 /// part joined, flags of sheets, rule areas and the variant applied.
 class ComponentBuilder
@@ -34,13 +44,8 @@ public:
     ComponentBuilder(const Hierarchy &hierarchy, std::string variant, TextArena *arena, PropertyNames *names,
                      LineNumbers *lines);
 
-    void build();
-
-    std::vector<Component> components;
-    /// The symbols of each component: `units` entries from `origin` on, the lowest unit first.
-    std::vector<SymbolUse> symbols;
-    SymbolCount count;
-    std::vector<Problem> warnings;
+    /// Once.
+    [[nodiscard]] BuiltComponents build();
 
 private:
     /// What an instance says of a symbol.
@@ -87,6 +92,7 @@ private:
         qsizetype count = 0;
     };
 
+    BuiltComponents m_built;
     const Hierarchy &m_hierarchy;
     LineNumbers *m_lines;
     std::map<std::pair<quint32, std::string_view>, MissingLibrary> m_missing;

@@ -56,13 +56,12 @@ bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem 
     }
     collectSheets();
     m_variant = options.variant.toStdString();
-    ComponentBuilder builder(*m_hierarchy, m_variant, &m_arena, &m_names, &m_lines);
-    builder.build();
-    m_components = std::move(builder.components);
-    m_symbolUses = std::move(builder.symbols);
-    m_symbols = builder.count;
+    BuiltComponents built = ComponentBuilder(*m_hierarchy, m_variant, &m_arena, &m_names, &m_lines).build();
+    m_components = std::move(built.components);
+    m_symbolUses = std::move(built.symbols);
+    m_symbols = built.count;
     m_warnings.insert(m_warnings.end(), m_hierarchy->warnings().begin(), m_hierarchy->warnings().end());
-    m_warnings.insert(m_warnings.end(), builder.warnings.begin(), builder.warnings.end());
+    m_warnings.insert(m_warnings.end(), built.warnings.begin(), built.warnings.end());
     TextVariables variables(*m_hierarchy, m_project, m_names, m_info.variant);
     variables.resolve(&m_components, m_symbolUses, &m_arena);
     if (variables.leftSome()) {
