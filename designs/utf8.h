@@ -21,6 +21,12 @@ namespace designs {
 /// The text as it stands in a message: in quotes, on one line, cut after 60 characters.
 [[nodiscard]] QString quotedForMessage(std::string_view text);
 
+/// Whether two texts differ in letter case only.
+[[nodiscard]] inline bool equalIgnoringCase(std::string_view text, std::string_view other)
+{
+    return fromUtf8(text).compare(fromUtf8(other), Qt::CaseInsensitive) == 0;
+}
+
 /// The form in which names that differ in letter case only are equal.
 [[nodiscard]] inline std::string caseFolded(std::string_view name)
 {

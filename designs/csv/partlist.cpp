@@ -151,11 +151,6 @@ private:
                        R"((?:-((?=[^-./]*(?:[A-Za-z]|[^\x00-\x7F]))[^-./]*[^-./0-9])?([0-9]++))?\z)")};
 };
 
-bool equalIgnoringCase(std::string_view text, std::string_view other)
-{
-    return fromUtf8(text).compare(fromUtf8(other), Qt::CaseInsensitive) == 0;
-}
-
 } // namespace
 
 std::optional<std::size_t> PartList::columnOf(std::string_view name) const

@@ -28,12 +28,6 @@ std::string_view trimmed(std::string_view text)
                                            : text.substr(first, text.find_last_not_of(" \t\r\n") + 1 - first);
 }
 
-bool equalIgnoringCase(std::string_view text, std::string_view other)
-{
-    return QByteArrayView(text.data(), qsizetype(text.size()))
-               .compare(QByteArrayView(other.data(), qsizetype(other.size())), Qt::CaseInsensitive) == 0;
-}
-
 QString counted(std::size_t references)
 {
     return references == 1 ? QStringLiteral("1 reference") : QStringLiteral("%1 references").arg(references);

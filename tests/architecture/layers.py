@@ -32,7 +32,7 @@ REACH = {
     "designs/csv/edit": {"designs", "designs/csv"},
     "designs/formats": {"designs"} | FORMATS,
     "designs/transaction": {"designs"},
-    "standalone": {"designs", "designs/formats", "designs/csv"} | HOST,
+    "standalone": {"designs", "designs/formats", "designs/csv", "designs/transaction"} | HOST,
     "templates": HOST,
     "core": {"templates"} | HOST,
     "account/design": {"standalone"} | HOST,

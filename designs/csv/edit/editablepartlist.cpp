@@ -15,11 +15,6 @@ namespace designs {
 
 namespace {
 
-bool equalIgnoringCase(std::string_view text, std::string_view other)
-{
-    return fromUtf8(text).compare(fromUtf8(other), Qt::CaseInsensitive) == 0;
-}
-
 template<std::size_t Count>
 bool isOneOf(std::string_view text, const std::array<std::string_view, Count> &words)
 {

@@ -23,11 +23,6 @@ std::string keyOf(const std::vector<CellText> &cells)
     return key;
 }
 
-bool equalIgnoringCase(std::string_view text, std::string_view other)
-{
-    return fromUtf8(text).compare(fromUtf8(other), Qt::CaseInsensitive) == 0;
-}
-
 /// How a text is stored under a name: any text in BOMSKIP means yes, so a "no" there is an empty cell.
 std::string storedText(const Edit &edit)
 {
