@@ -1,66 +1,137 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "designs/csv/partlistreader.h"
-#include "designs/designfolder.h"
-#include "designs/formats/designreader.h"
+#include "designs/csv/csvfile.h"
+#include "designs/editfixture.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
+
+#include <algorithm>
 
 using namespace designs;
 using testing::HasSubstr;
 
 namespace {
 
-/// An edit that names its part by the reference.
-struct Asked
-{
-    std::string reference;
-    std::string name;
-    std::optional<std::string> value;
-};
-
-class CsvEditTest : public testing::Test
+class CsvEdit : public EditTest
 {
 protected:
-    std::unique_ptr<Design> read(const std::string &text)
-    {
-        ReadResult result = readDesign(m_folder.write(QStringLiteral("list.csv"), text));
-        EXPECT_TRUE(result.design) << result.error.message().toStdString();
-        return result.design ? std::move(result.design) : std::make_unique<Design>();
-    }
-
-    static std::vector<Edit> editsOf(const Design &design, const std::vector<Asked> &asked)
-    {
-        std::vector<Edit> edits;
-        for (const Asked &one : asked) {
-            const auto &parts = design.components();
-            const auto at = std::ranges::find(parts, std::string_view(one.reference), &Component::reference);
-            EXPECT_NE(at, parts.end()) << one.reference;
-            edits.push_back({std::size_t(at - parts.begin()), one.name, one.value});
-        }
-        return edits;
-    }
+    CsvEdit() { m_file = QStringLiteral("list.csv"); }
 
     /// The list after the edits; the messages where they are refused, "unchanged" where nothing is to do.
-    std::string edited(const std::string &text, const std::vector<Asked> &asked)
+    [[nodiscard]] std::string edited(const std::string &text, const std::vector<AskedEdit> &asked) const
     {
-        const auto design = read(text);
-        const EditPlan plan = design->planEdits(editsOf(*design, asked));
-        std::string messages;
-        for (const EditProblem &problem : plan.problems) {
-            messages += problem.problem.message().toStdString() + '\n';
-        }
-        EXPECT_TRUE(messages.empty() || plan.files.empty());
-        return !plan.problems.empty() ? messages
+        write(text);
+        const EditPlan plan = planned(*load(), asked);
+        return !plan.problems.empty() ? problemsOf(plan)
                : plan.files.empty()   ? "unchanged"
                                       : plan.files.front().after.toStdString();
     }
-
-    DesignFolder m_folder;
 };
 
-TEST_F(CsvEditTest, ChangesOnlyTheCellAndKeepsTheManner)
+/// Lists of parts at random.
+class RandomList
+{
+public:
+    explicit RandomList(RandomInputs *random)
+        : m_random(*random)
+    {
+    }
+
+    static const std::string &text(RandomInputs *random)
+    {
+        // clang-format off
+        static const std::vector<std::string> texts = {
+            "", "10k", "1,5", "a;b", "say \"5%1\"", "\"", "two\nlines", "\r", " blank ", " front", "back ", "\t", "'",
+            "=1+1", "R1-R4", "0603", "\xC2\xB5", "a|b\tc", "\r\n", "~", "Ref", "\xC3\x84;\"\n"};
+        // clang-format on
+        return random->oneOf(texts);
+    }
+
+    std::string list()
+    {
+        static const std::vector<std::string> ends = {"\n", "\r\n", "\r"};
+        m_delimiter = m_random.oneOf(std::string_view(",;\t|"));
+        const std::string common = m_random.oneOf(ends);
+        std::string out = m_random.flag() ? "\xEF\xBB\xBF" : "";
+        out += "Ref,Qty,Value,Footprint,MPN" + common;
+        std::ranges::replace(out, ',', m_delimiter);
+        int number = 1;
+        for (int row = 0; row < 12; ++row) {
+            const int count = m_random.below(6) + 1;
+            out += references(number, count) + m_delimiter + std::to_string(count);
+            for (int column = 0; column < 3; ++column) {
+                out += m_delimiter + quoted(text(&m_random));
+            }
+            out += row < 11 ? (m_random.once(5) ? m_random.oneOf(ends) : common) : "";
+            number += count;
+        }
+        return out;
+    }
+
+private:
+    std::string references(int first, int count)
+    {
+        if (m_random.once(3) && count > 1) {
+            return "R" + std::to_string(first) + "-R" + std::to_string(first + count - 1);
+        }
+        std::string text;
+        for (int number = first; number < first + count; ++number) {
+            text += (text.empty() ? "R" : ", R") + std::to_string(number);
+        }
+        return quoted(text);
+    }
+
+    [[nodiscard]] std::string quoted(const std::string &text) const
+    {
+        const bool isPlain = text.find_first_of("\"\r\n\t ") == std::string::npos &&
+                             text.find(m_delimiter) == std::string::npos;
+        std::string out;
+        for (const char c : text) {
+            out.append(c == '"' ? 2 : 1, c);
+        }
+        return isPlain ? out : '"' + out + '"';
+    }
+
+    RandomInputs &m_random;
+    char m_delimiter = ',';
+};
+
+/// The records, each with its line end.
+std::vector<std::string> recordsOf(const std::string &text)
+{
+    Problem problem;
+    const auto file = CsvFile::parse(QByteArray::fromStdString(text), &problem);
+    std::vector<std::string> records;
+    for (std::size_t row = 0; file && row < file->rows().size(); ++row) {
+        const bool isLast = row + 1 == file->rows().size();
+        const std::size_t end = isLast ? text.size() : file->rows()[row + 1].begin;
+        records.push_back(text.substr(file->rows()[row].begin, end - file->rows()[row].begin));
+    }
+    return records;
+}
+
+/// Whether all records but those of the changes stand in the new text as they were.
+void expectOthersUntouched(const std::string &before, const Design &design, const EditPlan &plan)
+{
+    const std::vector<std::string> records = recordsOf(before);
+    std::vector<bool> touched(records.size(), false);
+    for (const Change &change : plan.changes) {
+        const auto at = std::ranges::find(design.components(), quint32(change.line), &Component::line);
+        touched[at->origin] = true;
+    }
+    const std::vector<std::string> after = recordsOf(plan.files.front().after.toStdString());
+    auto next = after.begin();
+    for (std::size_t row = 0; row < touched.size(); ++row) {
+        if (!touched[row]) {
+            next = std::find(next, after.end(), records[row]);
+            ASSERT_NE(next++, after.end()) << records[row];
+        }
+    }
+}
+
+} // namespace
+
+TEST_F(CsvEdit, ChangesOnlyTheCellAndKeepsTheManner)
 {
     EXPECT_EQ(edited("\xEF\xBB\xBF"
                      "My board;;\r\n\r\nRef;\"Value\";MPN\nR1; 10k ;\"a\"\r\n\"R2\";1k;'b'",
@@ -76,7 +147,7 @@ TEST_F(CsvEditTest, ChangesOnlyTheCellAndKeepsTheManner)
               "Ref,Value,Package\nR1,,0805\n");
 }
 
-TEST_F(CsvEditTest, SplitsARowWhereReferencesDiffer)
+TEST_F(CsvEdit, SplitsARowWhereReferencesDiffer)
 {
     const std::string list = "Qty,Ref,Value,MPN\n7,\"R1,R2, R4-R7,#X,R9\",10k,a\n1,C1,1u,\n";
     EXPECT_EQ(edited(list, {{"R5", "MPN", "b"}, {"R1", "MPN", "b"}, {"R9", "MPN", "c"}}),
@@ -95,7 +166,7 @@ TEST_F(CsvEditTest, SplitsARowWhereReferencesDiffer)
                 HasSubstr("list.csv:2: the ref"));
 }
 
-TEST_F(CsvEditTest, AddsAColumnForANewName)
+TEST_F(CsvEdit, AddsAColumnForANewName)
 {
     EXPECT_EQ(edited("Title\nRef,Value\nR1,1k\n\nR2\n\"R3,R4\",2k\n",
                      {{"R1", "MPN", "a"}, {"R4", "mpn", "b"}, {"R4", "BOMSKIP", "Yes"}}),
@@ -110,7 +181,7 @@ TEST_F(CsvEditTest, AddsAColumnForANewName)
     EXPECT_THAT(edited("Ref\nR1\n", {{"R1", "Qty", "1"}}), HasSubstr("no column \"Qty\""));
 }
 
-TEST_F(CsvEditTest, KeepsWindows1252AndRefusesWhatItLacks)
+TEST_F(CsvEdit, KeepsWindows1252AndRefusesWhatItLacks)
 {
     EXPECT_EQ(edited("Ref,Value,Maker\nR1,1k,M\xFCller\n", {{"R1", "Value", "5\xE2\x82\xAC \xC2\xB5"}}),
               "Ref,Value,Maker\nR1,5\x80 \xB5,M\xFCller\n");
@@ -121,10 +192,10 @@ TEST_F(CsvEditTest, KeepsWindows1252AndRefusesWhatItLacks)
                 HasSubstr("would not be read as it is meant"));
 }
 
-TEST_F(CsvEditTest, RefusesByNameAndReason)
+TEST_F(CsvEdit, RefusesByNameAndReason)
 {
     const std::string list = "Ref,Qty,Value,Footprint\nR1,1,1k,0603\n";
-    const std::vector<std::pair<Asked, const char *>> refused = {
+    const std::vector<std::pair<AskedEdit, const char *>> refused = {
         {{"R1", "ref", "R2"}, "reference of a part cannot be changed"},
         {{"R1", "Qty", "2"}, "quantity cannot be changed"},
         {{"R1", "qty", {}}, "quantity cannot be changed"},
@@ -140,39 +211,55 @@ TEST_F(CsvEditTest, RefusesByNameAndReason)
         const std::string messages = edited(list, {{"R1", "Value", "2k"}, asked});
         EXPECT_THAT(messages, testing::AllOf(HasSubstr("list.csv:2: "), HasSubstr(why)));
     }
-    const auto design = read(list);
-    m_folder.write(QStringLiteral("list.csv"), list + "R2,1,1k,0603\n");
-    const EditPlan plan = design->planEdits(editsOf(*design, {{"R1", "Value", "2k"}}));
-    ASSERT_EQ(plan.problems.size(), 1U);
-    EXPECT_EQ(plan.problems[0].problem.text, QStringLiteral("was changed since it was read"));
+    write(list);
+    const auto design = load();
+    write(list + "R2,1,1k,0603\n");
+    EXPECT_THAT(problemsOf(planned(*design, {{"R1", "Value", "2k"}})),
+                testing::EndsWith("list.csv: was changed since it was read\n"));
 }
 
-TEST_F(CsvEditTest, TellsWhatEachEditDoes)
+TEST_F(CsvEdit, TellsWhatEachEditDoes)
 {
-    const auto design = read("Ref,Value,Dnp,BOMSKIP\nR1,1k,,\n\"R2,R3\",2k,Yes,x\n");
-    const EditPlan plan = design->planEdits(editsOf(*design, {{"R3", "DNP", {}},
-                                                              {"R1", "Value", "9k"},
-                                                              {"R2", "value", "2k"},
-                                                              {"R1", "VALUE", "3k"},
-                                                              {"R2", "BOMSKIP", "No"},
-                                                              {"R1", "New", "n"}}));
-    const QString file = design->info().file;
-    std::vector<Change> changes = plan.changes;
-    ASSERT_EQ(changes.size(), 4U);
-    const auto is = [&](const Change &change, std::size_t edit, const char *name,
-                        const std::optional<std::string> &before, const std::optional<std::string> &after,
-                        int line) {
-        EXPECT_EQ(change.edit, edit);
-        EXPECT_EQ(change.name, name);
-        EXPECT_EQ(change.before, before);
-        EXPECT_EQ(change.after, after);
-        EXPECT_EQ(change.line, line);
+    const QString file = write("Ref,Value,Dnp,BOMSKIP\nR1,1k,,\n\"R2,R3\",2k,Yes,x\n");
+    const EditPlan plan = planned(*load(), {{"R3", "DNP", {}},
+                                            {"R1", "Value", "9k"},
+                                            {"R2", "value", "2k"},
+                                            {"R1", "VALUE", "3k"},
+                                            {"R2", "BOMSKIP", "No"},
+                                            {"R1", "New", "n"}});
+    EXPECT_EQ(changesOf(plan), "Dnp: Yes > -; Value: 1k > 3k; BOMSKIP: x > -; New: - > n");
+    std::vector<std::pair<std::size_t, int>> editsAndLines;
+    for (const Change &change : plan.changes) {
+        editsAndLines.emplace_back(change.edit, change.line);
         EXPECT_EQ(change.file, file);
-    };
-    is(changes[0], 0, "Dnp", "Yes", std::nullopt, 3);
-    is(changes[1], 3, "Value", "1k", "3k", 2);
-    is(changes[2], 4, "BOMSKIP", "x", std::nullopt, 3);
-    is(changes[3], 5, "New", std::nullopt, "n", 2);
+    }
+    EXPECT_THAT(editsAndLines, testing::ElementsAre(testing::Pair(0, 3), testing::Pair(3, 2),
+                                                    testing::Pair(4, 3), testing::Pair(5, 2)));
 }
 
-} // namespace
+TEST_F(CsvEdit, RandomEditsReadBack)
+{
+    const std::vector<std::string> names = {"Value", "Footprint", "MPN", "New", "BOMPART1", "A;,\"\t|"};
+    RandomInputs random{20};
+    int written = 0;
+    for (int round = 0; round < 400; ++round) {
+        SCOPED_TRACE(round);
+        const std::string text = RandomList(&random).list();
+        write(text);
+        const auto design = load();
+        const EditPlan plan =
+            makeRandom(&random, random.below(12) + 1, names, [&] { return RandomList::text(&random); });
+        if (plan.files.empty()) {
+            continue;
+        }
+        ++written;
+        EXPECT_EQ(warnings(*load()), warnings(*design));
+        const auto isOld = [&](const Change &change) {
+            return !design->names().candidates(change.name).empty();
+        };
+        if (std::ranges::all_of(plan.changes, isOld)) {
+            expectOthersUntouched(text, *design, plan);
+        }
+    }
+    EXPECT_GT(written, 300);
+}

@@ -40,6 +40,8 @@ Table tableOf(std::string_view bytes)
     return table;
 }
 
+} // namespace
+
 TEST(CsvFile, ReadsCells)
 {
     const struct
@@ -151,5 +153,3 @@ TEST(CsvFile, LoadsOrdinaryFilesOnly)
         EXPECT_FALSE(error.text.isEmpty());
     }
 }
-
-} // namespace

@@ -2,38 +2,23 @@
 // SPDX-License-Identifier: MIT
 #include "designs/designfolder.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include "designs/csv/edit/editablepartlist.h"
+#include "designs/kicad/edit/editablekicaddesign.h"
+#include "designs/kicadtext.h"
+#include "support/testfiles.h"
+#include "support/testpaths.h"
 
-#include <gtest/gtest.h>
+namespace {
 
-QString DesignFolder::form()
+designs::ReadResult readAny(const QString &path, const QString &variant)
 {
-    const QString memory = QStringLiteral("/dev/shm");
-    const bool isUsable = QFileInfo(memory).isDir() && QFileInfo(memory).isWritable();
-    return (isUsable ? memory : QDir::tempPath()) + QStringLiteral("/design-XXXXXX");
+    return path.endsWith(QLatin1String(".csv")) ? designs::readEditablePartList(path, {variant})
+                                                : designs::kicad::readKicadDesign(path, {variant});
 }
 
-QString DesignFolder::write(const QString &name, std::string_view text) const
+std::unique_ptr<designs::Design> counted(designs::ReadResult result)
 {
-    const QString full = path(name);
-    QDir().mkpath(QFileInfo(full).absolutePath());
-    QFile file(full);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    EXPECT_EQ(file.write(text.data(), qint64(text.size())), qint64(text.size()));
-    return full;
-}
-
-designs::ReadResult DesignFolder::read(const QString &name, const QString &variant) const
-{
-    return designs::kicad::readKicadDesign(path(name), {variant});
-}
-
-std::unique_ptr<designs::Design> DesignFolder::load(const QString &name, const QString &variant) const
-{
-    designs::ReadResult result = read(name, variant);
-    EXPECT_TRUE(result.design) << result.error.message().toStdString();
+    EXPECT_TRUE(result.design) << errorOf(result);
     if (!result.design) {
         return std::make_unique<designs::Design>();
     }
@@ -47,12 +32,76 @@ std::unique_ptr<designs::Design> DesignFolder::load(const QString &name, const Q
     return std::move(result.design);
 }
 
+} // namespace
+
+QString DesignFolder::form()
+{
+    const QString memory = QStringLiteral("/dev/shm");
+    const bool isUsable = QFileInfo(memory).isDir() && QFileInfo(memory).isWritable();
+    return (isUsable ? memory : QDir::tempPath()) + QStringLiteral("/design-XXXXXX");
+}
+
+QString DesignFolder::write(const QString &name, std::string_view text) const
+{
+    return writeFile(path(name), text);
+}
+
+designs::ReadResult DesignFolder::read(const QString &name, const QString &variant) const
+{
+    return readAny(path(name), variant);
+}
+
+std::unique_ptr<designs::Design> DesignFolder::load(const QString &name, const QString &variant) const
+{
+    return counted(read(name, variant));
+}
+
+QString dataPath(const QString &name)
+{
+    return QStringLiteral(BOM_SOURCE_DIR "/tests/designs/data/") + name;
+}
+
+std::string dataText(const QString &name)
+{
+    return readFile(dataPath(name)).toStdString();
+}
+
+designs::ReadResult readData(const QString &name, const QString &variant)
+{
+    return readAny(dataPath(name), variant);
+}
+
+std::unique_ptr<designs::Design> loadData(const QString &name, const QString &variant)
+{
+    return counted(readData(name, variant));
+}
+
+std::unique_ptr<designs::Design> designOf(int version, std::string_view body)
+{
+    const DesignFolder folder;
+    folder.write(QStringLiteral("root.kicad_sch"), kicadtext::schematic(version, "top", body));
+    return folder.load();
+}
+
 std::string references(const designs::Design &design)
 {
     std::string text;
     for (const designs::Component &component : design.components()) {
         text += text.empty() ? "" : " ";
         text += component.reference;
+    }
+    return text;
+}
+
+std::string marks(const designs::Design &design)
+{
+    // In the order of designs::MarkedBy.
+    static constexpr std::string_view letters = "-shap";
+    std::string text;
+    for (const designs::Component &component : design.components()) {
+        text += text.empty() ? "" : " ";
+        text += std::string(component.reference) + ':' + letters[std::size_t(component.notInBom)] +
+                letters[std::size_t(component.notFitted)];
     }
     return text;
 }
@@ -81,6 +130,16 @@ std::optional<std::string> property(const designs::Design &design, std::string_v
     return std::nullopt;
 }
 
+std::string properties(const designs::Design &design, std::string_view reference,
+                       std::initializer_list<std::string_view> names)
+{
+    std::string text;
+    for (const std::string_view name : names) {
+        text += (text.empty() ? "" : " ") + property(design, reference, name).value_or("-");
+    }
+    return text;
+}
+
 std::string warnings(const designs::Design &design)
 {
     std::string text;
@@ -89,4 +148,9 @@ std::string warnings(const designs::Design &design)
                 warning.text.toStdString() + '\n';
     }
     return text;
+}
+
+std::string errorOf(const designs::ReadResult &result)
+{
+    return result.design ? "read" : result.error.message().toStdString();
 }

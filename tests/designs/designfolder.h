@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "designs/kicad/edit/editablekicaddesign.h"
+#include "designs/design.h"
 
 #include <QTemporaryDir>
 
@@ -26,6 +26,7 @@ public:
     QString write(const QString &name, std::string_view text) const;
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
 
+    /// Reads a part list (.csv) or a KiCad design, whatever it holds.
     [[nodiscard]] designs::ReadResult read(const QString &name, const QString &variant = {}) const;
 
     /// Reads a design that must be readable, and checks that the independent count of its symbols agrees.
@@ -40,8 +41,23 @@ private:
     QTemporaryDir m_folder{form()};
 };
 
+/// Absolute path of a file or folder of the test data.
+[[nodiscard]] QString dataPath(const QString &name);
+[[nodiscard]] std::string dataText(const QString &name);
+
+[[nodiscard]] designs::ReadResult readData(const QString &name, const QString &variant = {});
+/// A design of the test data, checked as DesignFolder::load() does.
+[[nodiscard]] std::unique_ptr<designs::Design> loadData(const QString &name, const QString &variant = {});
+
+/// A schematic of one sheet with the identifier "top".
+[[nodiscard]] std::unique_ptr<designs::Design> designOf(int version, std::string_view body);
+
 /// The references of all components in their order, separated by blanks.
 [[nodiscard]] std::string references(const designs::Design &design);
+
+/// "R1:sh R2:--": for each component what marks it as not in the bill of materials and as not fitted:
+/// nothing, its s(ymbol), a s(h)eet, a rule (a)rea or a (p)roperty.
+[[nodiscard]] std::string marks(const designs::Design &design);
 
 /// The first component with that reference; the test fails and an empty one comes back when there is none.
 [[nodiscard]] designs::Component part(const designs::Design &design, std::string_view reference);
@@ -50,5 +66,12 @@ private:
 [[nodiscard]] std::optional<std::string> property(const designs::Design &design, std::string_view reference,
                                                   std::string_view name);
 
+/// Several of them with blanks between, "-" for one that the component lacks.
+[[nodiscard]] std::string properties(const designs::Design &design, std::string_view reference,
+                                     std::initializer_list<std::string_view> names);
+
 /// All warnings, one line each, without the folder.
 [[nodiscard]] std::string warnings(const designs::Design &design);
+
+/// What was refused: the message, or "read" for a design that came out.
+[[nodiscard]] std::string errorOf(const designs::ReadResult &result);

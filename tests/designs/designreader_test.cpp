@@ -4,51 +4,40 @@
 #include "designs/formats/designreader.h"
 #include "designs/kicadtext.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
 
-namespace {
-
-const std::string small = kicadtext::schematic(
-    kicadtext::v8, "top", kicadtext::symbol(kicadtext::v8, {.uses = {{.path = "/top", .reference = "R1"}}}));
-
-std::string errorOf(const QString &path)
-{
-    const designs::ReadResult read = designs::readDesign(path);
-    return read.design ? "no error" : read.error.text.toStdString();
-}
+using namespace Qt::StringLiterals;
+using testing::HasSubstr;
 
 TEST(DesignReader, GoesByTheNameAndThenByTheContent)
 {
+    const std::string small =
+        kicadtext::schematic(kicadtext::v8, "top", kicadtext::symbol(kicadtext::v8, {.reference = "R1"}));
     const DesignFolder folder;
-    folder.write(QStringLiteral("named.kicad_sch"), small);
-    folder.write(QStringLiteral("other.txt"), small);
-    folder.write(QStringLiteral("list.txt"), "Reference,Value\nR1,10k\n");
-    for (const char *name : {"named.kicad_sch", "other.txt", "list.txt"}) {
-        const auto read = designs::readDesign(folder.path(QString::fromLatin1(name)));
-        ASSERT_TRUE(read.design) << name << ": " << read.error.text.toStdString();
-        EXPECT_EQ(references(*read.design), "R1") << name;
+    for (const QString &path :
+         {folder.write(u"named.kicad_sch"_s, small), folder.write(u"other.txt"_s, small),
+          folder.write(u"list.txt"_s, "Reference,Value\nR1,10k\n")}) {
+        const auto read = designs::readDesign(path);
+        ASSERT_TRUE(read.design) << errorOf(read);
+        EXPECT_EQ(references(*read.design), "R1") << path.toStdString();
     }
 }
 
-TEST(DesignReader, SaysWhatAFileIsThatIsNoDesign)
+TEST(DesignReader, SaysWhatAFileIsThatIsNoDesignAndDoesNotWaitForAPipe)
 {
     const DesignFolder folder;
-    folder.write(QStringLiteral("old.sch"), "EESchema Schematic File Version 4\n");
-    folder.write(QStringLiteral("board.kicad_pcb"), "(kicad_pcb (version 20240108))");
-    EXPECT_NE(errorOf(folder.path(QStringLiteral("old.sch"))).find("KiCad 5"), std::string::npos);
-    EXPECT_NE(errorOf(folder.path(QStringLiteral("board.kicad_pcb"))).find("a board"), std::string::npos);
-    EXPECT_NE(errorOf(folder.path(QStringLiteral("missing.csv"))).find("no such file"), std::string::npos);
-    EXPECT_NE(errorOf(folder.path(QString())).find("a folder"), std::string::npos);
+    folder.write(u"old.sch"_s, "EESchema Schematic File Version 4\n");
+    folder.write(u"board.kicad_pcb"_s, "(kicad_pcb (version 20240108))");
+    ASSERT_EQ(mkfifo(qPrintable(folder.path(u"pipe.kicad_sch"_s)), 0600), 0);
+    const std::vector<std::pair<QString, std::string>> cases{{u"old.sch"_s, "KiCad 5"},
+                                                             {u"board.kicad_pcb"_s, "a board"},
+                                                             {u"missing.csv"_s, "no such file"},
+                                                             {QString(), "a folder"},
+                                                             {u"pipe.kicad_sch"_s, "pipe"}};
+    for (const auto &[name, says] : cases) {
+        EXPECT_THAT(errorOf(designs::readDesign(folder.path(name))), HasSubstr(says)) << name.toStdString();
+    }
 }
-
-TEST(DesignReader, DoesNotWaitForAPipe)
-{
-    const DesignFolder folder;
-    const QString pipe = folder.path(QStringLiteral("pipe.kicad_sch"));
-    ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
-    EXPECT_NE(errorOf(pipe).find("pipe"), std::string::npos);
-}
-
-} // namespace

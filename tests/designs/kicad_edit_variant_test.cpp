@@ -1,26 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "designs/editbatch.h"
-#include "designs/kicadtext.h"
+#include "designs/editfixture.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 using namespace kicadtext;
+using testing::HasSubstr;
 
 namespace {
 
-const QString root = QStringLiteral("root.kicad_sch");
-const QString lite = QStringLiteral("Lite");
-
-std::string design(const std::string &variant, int version = v10)
+std::string variant(const std::string &what)
 {
-    return schematic(version, "top",
-                     symbol(version, {.fields = {{"Footprint", "f"}, {"MPN", "a"}},
-                                      .uses = {{.path = "/top", .reference = "R1", .more = variant}}}) +
-                         symbol(version, {.uuid = "s2",
-                                          .uses = {{.path = "/top",
-                                                    .reference = "R2",
-                                                    .more = " (variant (name \"Lite\") (dnp no))"}}}));
+    return " (variant (name \"Lite\")" + what + ")";
 }
 
 std::string field(const std::string &name, const std::string &value)
@@ -28,93 +19,90 @@ std::string field(const std::string &name, const std::string &value)
     return " (field (name \"" + name + "\") (value \"" + value + "\"))";
 }
 
+/// R1 with what is given for its use; R2 makes the variant known.
+std::string design(const std::string &more, int version = v10)
+{
+    const std::vector<Use> first{{.path = "/top", .reference = "R1", .more = more}};
+    const std::vector<Use> second{{.path = "/top", .reference = "R2", .more = variant(" (dnp no)")}};
+    return schematic(version, "top",
+                     symbol(version, {.fields = {{"Footprint", "f"}, {"MPN", "a"}}, .uses = first}) +
+                         symbol(version, {.uuid = "s2", .uses = second}));
+}
+
+class KicadEditVariant : public EditTest
+{
+protected:
+    KicadEditVariant() { m_variant = QStringLiteral("Lite"); }
+
+    [[nodiscard]] std::unique_ptr<designs::Design> withoutVariant() const { return m_folder.load(); }
+};
+
 } // namespace
 
-TEST(KicadEditVariant, IsMadeChangedAndLeftWithoutTrace)
+TEST_F(KicadEditVariant, IsMadeChangedAndLeftWithoutTrace)
 {
-    const DesignFolder folder;
-    folder.write(root, design(""));
-    const auto plan =
-        makeEdits(folder, {{"R1", "Value", "1\"k"}, {"R1", "DNP", "1"}, {"R1", "BOMSKIP", "Yes"}}, lite);
+    write(design(""));
+    const auto plan = make({{"R1", "Value", "1\"k"}, {"R1", "DNP", "1"}, {"R1", "BOMSKIP", "Yes"}});
     EXPECT_EQ(changesOf(plan), "Value: 10k > 1\"k; DNP: - > 1; BOMSKIP: - > 1");
-    EXPECT_EQ(contentOf(folder.path(root)),
-              design(" (variant (name \"Lite\") (dnp yes) (in_bom no)" + field("Value", "1\\\"k") + ")"));
-    makeEdits(folder, {{"R1", "Value", "10k"}, {"R1", "mpn", "b"}, {"R1", "BOMSKIP"}}, lite);
-    EXPECT_EQ(contentOf(folder.path(root)),
-              design(" (variant (name \"Lite\") (dnp yes)" + field("MPN", "b") + ")"));
-    makeEdits(folder, {{"R1", "MPN", "c"}}, lite);
-    EXPECT_EQ(property(*folder.load(root, lite), "R1", "MPN"), "c");
-    EXPECT_EQ(property(*folder.load(), "R1", "MPN"), "a");
-    makeEdits(folder, {{"R1", "MPN", "a"}, {"R1", "DNP"}}, lite);
-    EXPECT_EQ(contentOf(folder.path(root)), design(""));
+    EXPECT_EQ(content(), design(variant(" (dnp yes) (in_bom no)" + field("Value", "1\\\"k"))));
+    make({{"R1", "Value", "10k"}, {"R1", "mpn", "b"}, {"R1", "BOMSKIP"}});
+    EXPECT_EQ(content(), design(variant(" (dnp yes)" + field("MPN", "b"))));
+    make({{"R1", "MPN", "c"}});
+    EXPECT_EQ(property(*load(), "R1", "MPN"), "c");
+    EXPECT_EQ(property(*withoutVariant(), "R1", "MPN"), "a");
+    make({{"R1", "MPN", "a"}, {"R1", "DNP"}});
+    EXPECT_EQ(content(), design(""));
 }
 
-TEST(KicadEditVariant, KeepsWhatElseItSays)
+TEST_F(KicadEditVariant, KeepsWhatElseItSays)
 {
-    const DesignFolder folder;
     const std::string other = " (variant (name \"Full\") (dnp yes))";
-    folder.write(root, design(other + " (variant (name \"Lite\") (on_board no)" + field("MPN", "b") + ")"));
-    makeEdits(folder, {{"R1", "MPN", "a"}}, lite);
-    EXPECT_EQ(contentOf(folder.path(root)), design(other + " (variant (name \"Lite\") (on_board no))"));
+    write(design(other + variant(" (on_board no)" + field("MPN", "b"))));
+    make({{"R1", "MPN", "a"}});
+    EXPECT_EQ(content(), design(other + variant(" (on_board no)")));
 }
 
-TEST(KicadEditVariant, InLines)
+TEST_F(KicadEditVariant, StandsOnLinesWhereTheFileDoes)
 {
-    const std::string start =
-        "(kicad_sch\r\n\t(version 20260306)\r\n\t(uuid \"t\")\r\n\t(symbol\r\n\t\t(lib_id \"a:b\")"
-        "\r\n\t\t(uuid \"s\")\r\n\t\t(property \"Value\" \"1\")\r\n\t\t(instances\r\n\t\t\t(project "
-        "\"\"\r\n\t\t\t\t(path \"/t\"\r\n\t\t\t\t\t(reference \"R1\")\r\n\t\t\t\t\t(unit 1)";
-    const std::string end = "\r\n\t\t\t\t)\r\n\t\t\t)\r\n\t\t)\r\n\t)\r\n)\r\n";
-    const DesignFolder folder;
-    folder.write(root, start + end);
-    folder.write(QStringLiteral("root.kicad_pro"), "{\"schematic\": {\"variants\": [\"Lite\"]}}");
-    makeEdits(folder, {{"R1", "Value", "2"}}, lite);
-    const std::string in = "\r\n\t\t\t\t\t";
-    EXPECT_EQ(contentOf(folder.path(root)), start + in + "(variant" + in + "\t(name \"Lite\")" + in +
-                                                "\t(field" + in + "\t\t(name \"Value\")" + in +
-                                                "\t\t(value \"2\")" + in + "\t)" + in + ")" + end);
-    makeEdits(folder, {{"R1", "Value", "1"}}, lite);
-    EXPECT_EQ(contentOf(folder.path(root)), start + end);
+    const std::string before = dataText(QStringLiteral("kicad/edit/variant-on-lines-before.kicad_sch"));
+    write(before);
+    write(project, "{\"schematic\": {\"variants\": [\"Lite\"]}}");
+    make({{"R1", "Value", "2"}});
+    EXPECT_EQ(content(), dataText(QStringLiteral("kicad/edit/variant-on-lines-after.kicad_sch")));
+    make({{"R1", "Value", "1"}});
+    EXPECT_EQ(content(), before);
 }
 
-TEST(KicadEditVariant, InBomWasTurnedOnce)
+TEST_F(KicadEditVariant, InBomWasTurnedOnce)
 {
-    const DesignFolder folder;
-    folder.write(root, design("", 20260101));
-    makeEdits(folder, {{"R1", "BOMSKIP", "1"}}, lite);
-    EXPECT_EQ(contentOf(folder.path(root)), design(" (variant (name \"Lite\") (in_bom yes))", 20260101));
-    EXPECT_EQ(part(*folder.load(root, lite), "R1").notInBom, designs::MarkedBy::Symbol);
+    write(design("", 20260101));
+    make({{"R1", "BOMSKIP", "1"}});
+    EXPECT_EQ(content(), design(variant(" (in_bom yes)"), 20260101));
+    EXPECT_EQ(marks(*load()), "R1:s- R2:--");
 }
 
-TEST(KicadEditVariant, WhatItCannotSayIsRefused)
+TEST_F(KicadEditVariant, WhatItCannotSayIsRefused)
 {
-    const DesignFolder folder;
-    folder.write(root, design(" (variant (name \"Lite\")" + field("MPN", "b") + ")"));
-    const auto chosen = folder.load(root, lite);
-    EXPECT_NE(refusal(*chosen, {"R1", "MPN"}).find("without the variant"), std::string::npos);
-    EXPECT_NE(refusal(*chosen, {"R1", "New", "x"}).find("without the variant"), std::string::npos);
-    EXPECT_EQ(refusal(*chosen, {"R1", "PACKAGE"}), "") << "becomes empty";
-    EXPECT_NE(refusal(*folder.load(), {"R1", "MPN"}).find("variant \"Lite\""), std::string::npos);
-    folder.write(root, schematic(v9, "top", symbol(v9, {.reference = "R1"})));
-    folder.write(QStringLiteral("root.kicad_pro"), "{\"schematic\": {\"variants\": [\"Lite\"]}}");
-    EXPECT_NE(refusal(*folder.load(root, lite), {"R1", "Value", "1"}).find("save the design in KiCad 10"),
-              std::string::npos);
+    write(design(variant(field("MPN", "b"))));
+    EXPECT_THAT(refusal({"R1", "MPN"}), HasSubstr("without the variant"));
+    EXPECT_THAT(refusal({"R1", "New", "x"}), HasSubstr("without the variant"));
+    EXPECT_EQ(refusal({"R1", "PACKAGE"}), "") << "becomes empty";
+    const auto design = withoutVariant();
+    EXPECT_THAT(problemsOf(planned(*design, {{"R1", "MPN"}})), HasSubstr("variant \"Lite\""));
+    write(schematic(v9, "top", symbol(v9, {.reference = "R1"})));
+    write(project, "{\"schematic\": {\"variants\": [\"Lite\"]}}");
+    EXPECT_THAT(refusal({"R1", "Value", "1"}), HasSubstr("save the design in KiCad 10"));
 }
 
-TEST(KicadEditVariant, OneUseOfASheetOnly)
+TEST_F(KicadEditVariant, ChangesOneUseOfASheetOnly)
 {
-    const DesignFolder folder;
-    folder.write(root, schematic(v10, "top", sheet(v10, {.uuid = "h1"}) + sheet(v10, {.uuid = "h2"})));
-    folder.write(QStringLiteral("sub.kicad_sch"),
-                 schematic(v10, "s",
-                           symbol(v10, {.uses = {{.path = "/top/h1", .reference = "R1"},
-                                                 {.path = "/top/h2",
-                                                  .reference = "R2",
-                                                  .more = "(variant (name \"Lite\") (dnp yes))"}}})));
-    const auto plan = makeEdits(folder, {{"R1", "Value", "1"}, {"R2", "Value", "2"}}, lite);
+    write(schematic(v10, "top", sheet(v10, {.uuid = "h1"}) + sheet(v10, {.uuid = "h2"})));
+    const std::vector<Use> uses{{.path = "/top/h1", .reference = "R1"},
+                                {.path = "/top/h2", .reference = "R2", .more = variant(" (dnp yes)")}};
+    write(sub, schematic(v10, "s", symbol(v10, {.uses = uses})));
+    const auto plan = make({{"R1", "Value", "1"}, {"R2", "Value", "2"}});
     EXPECT_TRUE(plan.changes.at(0).alsoChanges.empty());
-    const auto again = folder.load(root, lite);
-    EXPECT_EQ(part(*again, "R1").value, "1");
-    EXPECT_EQ(part(*again, "R2").value, "2");
-    EXPECT_EQ(part(*folder.load(), "R2").value, "10k");
+    EXPECT_EQ(part(*load(), "R1").value, "1");
+    EXPECT_EQ(part(*load(), "R2").value, "2");
+    EXPECT_EQ(part(*withoutVariant(), "R2").value, "10k");
 }

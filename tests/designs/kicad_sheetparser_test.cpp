@@ -6,15 +6,13 @@
 
 #include <QFileInfo>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using namespace kicadtext;
-using designs::kicad::SheetFile;
-using designs::kicad::SheetParser;
+using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString root = QStringLiteral("root.kicad_sch");
 
 /// A file read on its own, with what its texts live in.
 struct Parsed
@@ -22,41 +20,38 @@ struct Parsed
     explicit Parsed(std::string text)
         : bytes(std::move(text))
         , parser(bytes, &file, &arena, &names)
-        , ok(parser.parse())
     {
+        EXPECT_TRUE(parser.parse()) << parser.problem().message().toStdString() << bytes;
+    }
+
+    /// "NAME=VALUE" for each property of the first symbol but reference and value.
+    std::string properties() const
+    {
+        std::string text;
+        for (const designs::Property &property : file.symbols.at(0).properties) {
+            text += text.empty() ? "" : "; ";
+            text += std::string(names.name(property.name)) + '=' + std::string(property.value);
+        }
+        return text;
     }
 
     std::string bytes;
     designs::TextArena arena;
     designs::PropertyNames names;
-    SheetFile file;
-    SheetParser parser;
-    bool ok;
+    designs::kicad::SheetFile file;
+    designs::kicad::SheetParser parser;
 };
 
-std::string crlf(const std::string &text)
+Parsed parsed(int version, const Part &part)
 {
-    std::string result;
-    for (const char c : text) {
-        result += c == '\n' ? std::string("\r\n") : std::string{c};
-    }
-    return result;
+    return Parsed(schematic(version, "top", symbol(version, part)));
 }
 
 } // namespace
 
 TEST(KicadSheet, ReadsASymbol)
 {
-    const Parsed parsed(schematic(v9, "top",
-                                  symbol(v9, {.reference = "R1",
-                                              .value = "4k7 \"E96\"",
-                                              .uuid = "s1",
-                                              .libName = "R_1",
-                                              .inBom = "no",
-                                              .dnp = "yes",
-                                              .unit = 2,
-                                              .fields = {{"Tolerance", "1 %"}}})));
-    ASSERT_TRUE(parsed.ok) << parsed.parser.problem().message().toStdString();
+    const Parsed parsed(dataText(u"kicad/sheet/symbol.kicad_sch"_s));
     EXPECT_EQ(parsed.file.formatVersion, v9);
     EXPECT_EQ(parsed.file.uuid, "top");
     ASSERT_EQ(parsed.file.symbols.size(), 1u);
@@ -69,21 +64,14 @@ TEST(KicadSheet, ReadsASymbol)
     EXPECT_EQ(symbol.unit, 2);
     EXPECT_FALSE(symbol.inBom);
     EXPECT_TRUE(symbol.dnp);
-    ASSERT_EQ(symbol.properties.size(), 1u);
-    EXPECT_EQ(parsed.names.name(symbol.properties[0].name), "Tolerance");
-    EXPECT_EQ(symbol.properties[0].value, "1 %");
+    // Private properties count, a name may be the word "private", and names may be bare words.
+    EXPECT_EQ(parsed.properties(), "Tolerance=1 %; Note=for us; private=mine; bare=word");
     EXPECT_EQ(parsed.bytes.substr(symbol.offset, 7), "(symbol");
 }
 
 TEST(KicadSheet, LocalizedSheetPropertiesOfVersion6)
 {
-    const Parsed parsed(schematic(v6, "top",
-                                  sheet(v6, {.name = "Alim",
-                                             .file = "alim.kicad_sch",
-                                             .fields = {{"Sheet file", "not this one"}},
-                                             .nameProperty = "Nom feuille",
-                                             .fileProperty = "Fichier de feuille"})));
-    ASSERT_TRUE(parsed.ok);
+    const Parsed parsed(dataText(u"kicad/sheet/localized-version-6.kicad_sch"_s));
     EXPECT_EQ(parsed.file.sheets.at(0).name, "Alim");
     EXPECT_EQ(parsed.file.sheets.at(0).file, "alim.kicad_sch");
     EXPECT_EQ(parsed.file.sheets.at(0).properties.size(), 1u);
@@ -92,59 +80,28 @@ TEST(KicadSheet, LocalizedSheetPropertiesOfVersion6)
 TEST(KicadSheet, ATildeMeantEmptyOnce)
 {
     for (const int version : {v6, v9, 20250317, 20250318, v10}) {
-        const Parsed parsed(
-            schematic(version, "top", symbol(version, {.value = "~", .fields = {{"Datasheet", "~"}}})));
-        ASSERT_TRUE(parsed.ok);
-        const auto &symbol = parsed.file.symbols.front();
+        const Parsed tilde = parsed(version, {.value = "~", .fields = {{"Datasheet", "~"}}});
         const std::string expected = version < 20250318 ? "" : "~";
-        EXPECT_EQ(symbol.value, expected) << version;
-        EXPECT_EQ(symbol.properties[0].value, expected) << version;
+        EXPECT_EQ(tilde.file.symbols.at(0).value, expected) << version;
+        EXPECT_EQ(tilde.properties(), "Datasheet=" + expected) << version;
     }
 }
 
-TEST(KicadSheet, OfFieldsWithTheSameNameTheLastWins)
+TEST(KicadSheet, OfFieldsWithTheSameNameTheLastWinsAndMandatoryOnesAreKnownInAnyLetterCase)
 {
-    const Parsed parsed(schematic(
-        v9, "top",
-        symbol(v9, {.fields = {{"mnp", "a"}, {"MNP", "b"}, {"mnp", "c"}, {"Value", "22k"}, {"MNP", ""}}})));
-    ASSERT_TRUE(parsed.ok);
-    const auto &symbol = parsed.file.symbols.front();
-    ASSERT_EQ(symbol.properties.size(), 2u);
-    EXPECT_EQ(symbol.properties[0].value, "c");
-    EXPECT_EQ(symbol.properties[1].value, "");
-    EXPECT_EQ(symbol.value, "22k");
+    const Parsed twice = parsed(v9, {.fields = {{"mnp", "a"},
+                                                {"MNP", "b"},
+                                                {"mnp", "c"},
+                                                {"VALUE", "22k"},
+                                                {"footprint", "R:0402"},
+                                                {"MNP", ""}}});
+    EXPECT_EQ(twice.properties(), "mnp=c; MNP=; Footprint=R:0402");
+    EXPECT_EQ(twice.file.symbols.front().value, "22k");
 }
 
-TEST(KicadSheet, PrivateAndBarePropertyNames)
+TEST(KicadSheet, UnknownTokensAndEmbeddedFilesAreSkipped)
 {
-    const Parsed parsed(schematic(v9, "top",
-                                  symbol(v9, {.more = "(property private \"Note\" \"for us\" (at 0 0 0))"
-                                                      "(property \"private\" \"mine\" (at 0 0 0))"
-                                                      "(property bare word)"})));
-    ASSERT_TRUE(parsed.ok);
-    const auto &properties = parsed.file.symbols.front().properties;
-    ASSERT_EQ(properties.size(), 3u);
-    EXPECT_EQ(parsed.names.name(properties[0].name), "Note");
-    EXPECT_EQ(properties[0].value, "for us");
-    EXPECT_EQ(parsed.names.name(properties[1].name), "private");
-    EXPECT_EQ(properties[1].value, "mine");
-    EXPECT_EQ(properties[2].value, "word");
-}
-
-TEST(KicadSheet, UnknownTokensAreSkipped)
-{
-    const std::string unknown =
-        "\n(novelty yes \"(\" (deep (deeper \")\")) \"\\\"\") bare \"text\" (in_pos_files yes)"
-        "\n# a comment (with \" parentheses\n";
-    const Parsed parsed(
-        schematic(v10, "top",
-                  unknown +
-                      symbol(v10, {.reference = "R1",
-                                   .more = unknown,
-                                   .uses = {{.path = "/top", .reference = "R2", .more = unknown}}}) +
-                      sheet(v10, {.uses = {{.path = "/top", .more = unknown}}}) + unknown,
-                  "\n  (lib_symbols" + unknown + librarySymbol("Device:R", 1, unknown) + ")"));
-    ASSERT_TRUE(parsed.ok) << parsed.parser.problem().message().toStdString();
+    const Parsed parsed(dataText(u"kicad/sheet/unknown-tokens.kicad_sch"_s));
     ASSERT_EQ(parsed.file.symbols.size(), 1u);
     EXPECT_EQ(parsed.file.symbols[0].instances[0].reference, "R2");
     EXPECT_EQ(parsed.file.sheets.size(), 1u);
@@ -155,16 +112,17 @@ TEST(KicadSheet, LayoutDoesNotMatter)
 {
     const std::string text =
         schematic(v7, "top", symbol(v7, {.reference = "R1", .value = "a  b"}) + sheet(v7, {}));
-    std::string oneLine = text;
+    std::string oneLine;
+    std::string crlf;
     std::string tabs;
-    for (char &c : oneLine) {
-        tabs += c == ' ' ? std::string(" ") : c == '(' ? std::string("\n\t\t(") : std::string{c};
-        c = c == '\n' ? ' ' : c;
+    for (const char c : text) {
+        oneLine += c == '\n' ? ' ' : c;
+        crlf += c == '\n' ? std::string("\r\n") : std::string{c};
+        tabs += c == '(' ? std::string("\n\t\t(") : std::string{c};
     }
     for (const std::string &layout :
-         {text, crlf(text), oneLine, tabs, text.substr(0, text.size() - 1), "\xEF\xBB\xBF" + text}) {
+         {text, crlf, oneLine, tabs, text.substr(0, text.size() - 1), "\xEF\xBB\xBF" + text}) {
         const Parsed parsed(layout);
-        ASSERT_TRUE(parsed.ok) << parsed.parser.problem().message().toStdString() << layout;
         EXPECT_EQ(parsed.file.symbols.at(0).value, "a  b");
         EXPECT_EQ(parsed.file.sheets.at(0).file, "sub.kicad_sch");
     }
@@ -172,52 +130,29 @@ TEST(KicadSheet, LayoutDoesNotMatter)
 
 TEST(KicadSheet, TextsLoseTheirEscapes)
 {
-    const Parsed parsed(schematic(
-        v9, "top",
-        symbol(v9, {.value = "1{slash}2 ${A}{dblquote}", .fields = {{"N", "C:\\x\ny\"\tÄ{unknown}"}}})));
-    ASSERT_TRUE(parsed.ok);
-    EXPECT_EQ(parsed.file.symbols[0].value, "1/2 ${A}\"");
-    EXPECT_EQ(parsed.file.symbols[0].properties[0].value, "C:\\x\ny\"\tÄ{unknown}");
-    EXPECT_TRUE(parsed.file.symbols[0].hasVariables);
-}
-
-TEST(KicadSheet, EmbeddedFilesAreSkipped)
-{
-    const Parsed parsed(
-        schematic(v9, "top",
-                  "\n  (embedded_fonts no)\n  (embedded_files (file (name \"a.pdf\") (type datasheet)\n"
-                  "    (data |KLUv/WD\n      AAAA+//=\n    |)\n (checksum \"AB\")))" +
-                      symbol(v9, {.reference = "R1"})));
-    ASSERT_TRUE(parsed.ok);
-    EXPECT_EQ(parsed.file.symbols.size(), 1u);
+    const Parsed escaped =
+        parsed(v9, {.value = "1{slash}2 ${A}{dblquote}", .fields = {{"N", "C:\\x\ny\"\tÄ{unknown}"}}});
+    EXPECT_EQ(escaped.file.symbols[0].value, "1/2 ${A}\"");
+    EXPECT_EQ(escaped.properties(), "N=C:\\x\ny\"\tÄ{unknown}");
+    EXPECT_TRUE(escaped.file.symbols[0].hasVariables);
 }
 
 TEST(KicadSheet, TextThatIsNotUtf8IsReadWithAWarning)
 {
-    const DesignFolder folder;
-    folder.write(root,
-                 schematic(v9, "top", symbol(v9, {.reference = "R1", .value = "10\xB5 F", .uses = {}})));
-    const auto design = folder.load();
+    const auto design = designOf(v9, symbol(v9, {.reference = "R1", .value = "10\xB5 F"}));
     EXPECT_EQ(references(*design), "R1");
-    EXPECT_NE(warnings(*design).find("not UTF-8"), std::string::npos);
-    EXPECT_EQ(warnings(*design).find("root.kicad_sch:0:"), std::string::npos) << "the line is missing";
+    EXPECT_THAT(warnings(*design), testing::ContainsRegex("root.kicad_sch:[1-9].*not UTF-8"));
 }
 
 TEST(KicadSheet, TitleBlock)
 {
-    const DesignFolder folder;
-    const QString path = folder.write(
-        root,
-        schematic(
-            v8, "top",
-            "\n(title_block (title \"Amp\") (date \"2026-01-02\") (rev \"B\") (company \"Us {slash} Co\")"
-            " (comment 1 \"DOC-7\") (comment 9 \"last\") (comment 12 \"no such\"))"));
-    const auto design = folder.load();
-    EXPECT_EQ(design->info().title, QStringLiteral("Amp"));
-    EXPECT_EQ(design->info().created, QStringLiteral("2026-01-02"));
-    EXPECT_EQ(design->info().revision, QStringLiteral("B"));
-    EXPECT_EQ(design->info().author, QStringLiteral("Us / Co"));
-    EXPECT_EQ(design->info().documentNumber, QStringLiteral("DOC-7"));
+    const QString path = dataPath(u"kicad/sheet/title-block.kicad_sch"_s);
+    const auto design = loadData(u"kicad/sheet/title-block.kicad_sch"_s);
+    EXPECT_EQ(design->info().title, u"Amp"_s);
+    EXPECT_EQ(design->info().created, u"2026-01-02"_s);
+    EXPECT_EQ(design->info().revision, u"B"_s);
+    EXPECT_EQ(design->info().author, u"Us / Co"_s);
+    EXPECT_EQ(design->info().documentNumber, u"DOC-7"_s);
     EXPECT_EQ(design->info().file, path);
     EXPECT_EQ(design->info().modified, QFileInfo(path).lastModified());
 }

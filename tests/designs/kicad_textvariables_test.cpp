@@ -3,50 +3,27 @@
 #include "designs/designfolder.h"
 #include "designs/kicadtext.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using namespace kicadtext;
+using namespace Qt::StringLiterals;
+using testing::StartsWith;
 
 namespace {
 
-const QString root = QStringLiteral("root.kicad_sch");
-
-/// The text that a field of R1 shows in a design with a bit of everything.
-std::string shown(const std::string &text)
+/// The text that a field shows in a design with a bit of everything; R1 and R2 are one symbol of a sheet that
+/// is used twice.
+std::string shown(const std::string &text, std::string_view reference = "R1")
 {
     const DesignFolder folder;
-    folder.write(
-        QStringLiteral("root.kicad_pro"),
-        R"({"text_variables": {"REV": "7", "Mixed": "case", "DEEP": "<${REV}>", "TITLE": "not this"}})");
-    folder.write(root, schematic(v9, "top",
-                                 "(title_block (title \"Demo ${REV}\") (rev \"B\") (comment 3 \"third\"))" +
-                                     symbol(v9, {.reference = "C9",
-                                                 .value = "100n",
-                                                 .uuid = "uuid-of-c9",
-                                                 .fields = {{"Voltage", "${REV}V"}}}) +
-                                     sheet(v9, {.name = "Outer",
-                                                .file = "outer.kicad_sch",
-                                                .uuid = "h1",
-                                                .fields = {{"Channel", "outer"}, {"Rail", "+5V"}}})));
-    folder.write(QStringLiteral("outer.kicad_sch"), schematic(v9, "o",
-                                                              sheet(v9, {.name = "Inner",
-                                                                         .file = "inner.kicad_sch",
-                                                                         .uuid = "h2",
-                                                                         .fields = {{"channel", "inner"}}})));
-    const Fields fields{{"Footprint", "R_SMD:R_0402"},
-                        {"Tol", "1%"},
-                        {"Nested", "${Tol}/${VALUE}"},
-                        {"LoopA", "a${LoopB}"},
-                        {"LoopB", "b${LoopA}"},
-                        {"Name", "Tol"},
-                        {"Text", text}};
-    folder.write(QStringLiteral("inner.kicad_sch"),
-                 schematic(v9, "i",
-                           "(title_block (title \"Inner title\"))" +
-                               symbol(v9, {.uuid = "s",
-                                           .fields = fields,
-                                           .uses = {{.path = "/top/h1/h2", .reference = "R1", .unit = 2}}})));
-    return property(*folder.load(), "R1", "Text").value_or("nothing");
+    for (const QString &name : {root, project, u"outer.kicad_sch"_s}) {
+        folder.write(name, dataText(u"kicad/variables/"_s + name));
+    }
+    std::string inner = dataText(u"kicad/variables/inner.kicad_sch"_s);
+    inner.replace(inner.find("\"@TEXT@\""), 8, inQuotes(text));
+    folder.write(u"inner.kicad_sch"_s, inner);
+    return property(*folder.load(), reference, "Text").value_or("nothing");
 }
 
 } // namespace
@@ -75,16 +52,25 @@ TEST(KicadTextVariables, AreLookedUpFromTheInsideOut)
         {"~{RESET} $Tol {Tol} }", "~{RESET} $Tol {Tol} }"},
         {"{dollar}{slash}", "$/"},
         {"@{1+1}", "@{1+1}"},
+        {"\\${VALUE}", "\\10k"},
     };
     for (const auto &[text, expected] : cases) {
         EXPECT_EQ(shown(text), expected) << text;
     }
+    EXPECT_EQ(shown("${RAIL} ${SHEETPATH} ${REFERENCE}", "R2"), "+3V3 /Twin/Inner/ R2")
+        << "another use of the sheet";
+}
+
+TEST(KicadTextVariables, AnEscapedOneIsLiteralFromVersion10On)
+{
+    const auto design = designOf(v10, symbol(v10, {.reference = "R1", .fields = {{"Note", "\\${VALUE}"}}}));
+    EXPECT_EQ(property(*design, "R1", "Note"), "${VALUE}");
 }
 
 TEST(KicadTextVariables, RecursionEnds)
 {
-    EXPECT_EQ(shown("${LoopA}").substr(0, 4), "abab");
-    EXPECT_EQ(shown("x${TEXT}").substr(0, 3), "xxx");
+    EXPECT_THAT(shown("${LoopA}"), StartsWith("abab"));
+    EXPECT_THAT(shown("x${TEXT}"), StartsWith("xxx"));
 }
 
 TEST(KicadTextVariables, ManyBracesTakeLinearTime)
@@ -108,48 +94,15 @@ TEST(KicadTextVariables, ABombOfVariablesIsLeftAsItStands)
         }
         fields.emplace_back("F" + std::to_string(level), text);
     }
-    const DesignFolder folder;
-    folder.write(root, schematic(v9, "top", symbol(v9, {.reference = "R1", .fields = fields})));
-    const auto design = folder.load();
+    const auto design = designOf(v9, symbol(v9, {.reference = "R1", .fields = fields}));
     EXPECT_EQ(property(*design, "R1", "F1"), "");
-    EXPECT_NE(warnings(*design).find("text variables"), std::string::npos);
-}
-
-TEST(KicadTextVariables, AreResolvedPerInstance)
-{
-    const DesignFolder folder;
-    folder.write(root, schematic(v9, "top",
-                                 sheet(v9, {.name = "Left", .uuid = "h1", .fields = {{"Gain", "10"}}}) +
-                                     sheet(v9, {.name = "Right", .uuid = "h2", .fields = {{"Gain", "20"}}})));
-    folder.write(QStringLiteral("sub.kicad_sch"),
-                 schematic(v9, "s",
-                           symbol(v9, {.value = "${GAIN}k ${SHEETNAME} ${REFERENCE}",
-                                       .uses = {{.path = "/top/h1", .reference = "R1"},
-                                                {.path = "/top/h2", .reference = "R2"}}})));
-    const auto design = folder.load();
-    EXPECT_EQ(part(*design, "R1").value, "10k Left R1");
-    EXPECT_EQ(part(*design, "R2").value, "20k Right R2");
-}
-
-TEST(KicadTextVariables, InVersion6sTableOfInstances)
-{
-    const DesignFolder folder;
-    folder.write(root, schematic(v6, "top",
-                                 symbol(v6, {.uuid = "s1", .fields = {{"Ohm", "47"}}}) +
-                                     instanceTable({{"/s1", "R1", "${OHM}k", ""}})));
-    EXPECT_EQ(part(*folder.load(), "R1").value, "47k");
+    EXPECT_THAT(warnings(*design), testing::HasSubstr("text variables"));
 }
 
 TEST(KicadTextVariables, OfTheTitleBlock)
 {
-    const DesignFolder folder;
-    folder.write(QStringLiteral("root.kicad_pro"), R"({"text_variables": {"NO": "42", "AUTHOR": "Ann"}})");
-    folder.write(root,
-                 schematic(v9, "top",
-                           "(title_block (title \"${PROJECTNAME} ${NO} ${REVISION} ${VALUE}\") (rev \"C\")"
-                           " (company \"Us\") (comment 1 \"D-${NO}\"))"));
-    const auto design = folder.load();
-    EXPECT_EQ(design->info().title, QStringLiteral("root 42 C ${VALUE}"));
-    EXPECT_EQ(design->info().author, QStringLiteral("Ann"));
-    EXPECT_EQ(design->info().documentNumber, QStringLiteral("D-42"));
+    const auto design = loadData(u"kicad/variables/root.kicad_sch"_s);
+    EXPECT_EQ(design->info().title, u"root 7 B ${VALUE}"_s);
+    EXPECT_EQ(design->info().author, u"Ann"_s);
+    EXPECT_EQ(design->info().documentNumber, u"D-7"_s);
 }

@@ -3,14 +3,14 @@
 #include "designs/designfolder.h"
 #include "designs/kicadtext.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using namespace kicadtext;
-using designs::MarkedBy;
+using testing::HasSubstr;
+using testing::Not;
 
 namespace {
-
-const QString root = QStringLiteral("root.kicad_sch");
 
 Part amplifier(std::string reference, int unit, Fields fields = {})
 {
@@ -23,13 +23,11 @@ Part amplifier(std::string reference, int unit, Fields fields = {})
 
 std::unique_ptr<designs::Design> design(const std::vector<Part> &parts)
 {
-    const DesignFolder folder;
     std::string body;
     for (const Part &part : parts) {
         body += symbol(v9, part);
     }
-    folder.write(root, schematic(v9, "top", body));
-    return folder.load();
+    return designOf(v9, body);
 }
 
 } // namespace
@@ -42,7 +40,7 @@ TEST(KicadUnits, OfOneReferenceAreOnePart)
     EXPECT_EQ(part(*read, "U1").units, 3u);
     EXPECT_EQ(part(*read, "U2").units, 1u);
     EXPECT_EQ(read->symbols().mergedUnits, 2);
-    EXPECT_FALSE(QString::fromStdString(warnings(*read)).contains(QLatin1String("differ")));
+    EXPECT_THAT(warnings(*read), Not(HasSubstr("differ")));
 }
 
 TEST(KicadUnits, AreJoinedAcrossSheets)
@@ -51,21 +49,22 @@ TEST(KicadUnits, AreJoinedAcrossSheets)
     Part part1 = amplifier("U?", 1);
     part1.uses = {{.path = "/top", .reference = "U1", .unit = 3}};
     Part part2 = amplifier("U?", 1);
-    part2.uses = {{.path = "/top/a", .reference = "U1", .unit = 1},
-                  {.path = "/top/b", .reference = "U2", .unit = 1}};
-    folder.write(root, schematic(v9, "top",
-                                 symbol(v9, part1) + sheet(v9, {.name = "A", .uuid = "a"}) +
-                                     sheet(v9, {.name = "B", .uuid = "b"})));
-    folder.write(QStringLiteral("sub.kicad_sch"), schematic(v9, "s", symbol(v9, part2)));
+    part2.uses = {{.path = "/top/a", .reference = "U1"}, {.path = "/top/b", .reference = "U2"}};
+    folder.write(
+        root, schematic(v9, "top", symbol(v9, part1) + sheet(v9, {.uuid = "a"}) + sheet(v9, {.uuid = "b"})));
+    folder.write(sub, schematic(v9, "s", symbol(v9, part2)));
     const auto read = folder.load();
     EXPECT_EQ(references(*read), "U1 U2");
     EXPECT_EQ(part(*read, "U1").units, 2u);
     EXPECT_EQ(part(*read, "U1").sheet, 1u) << "the lowest unit speaks for the part";
 }
 
-TEST(KicadUnits, TheSameUnitTwiceIsADuplicate)
+TEST(KicadUnits, OthersUnderOneReferenceAreDuplicates)
 {
-    EXPECT_EQ(references(*design({amplifier("U1", 1), amplifier("U1", 1)})), "U1 U1");
+    Part other = amplifier("U1", 2);
+    other.lib = "Amp:LM324";
+    EXPECT_EQ(references(*design({amplifier("U1", 1), other})), "U1 U1") << "another symbol";
+    EXPECT_EQ(references(*design({amplifier("U1", 1), amplifier("U1", 1)})), "U1 U1") << "the same unit";
     const auto read =
         design({amplifier("U1", 1), amplifier("U1", 1), amplifier("U1", 2), amplifier("U1", 2)});
     EXPECT_EQ(references(*read), "U1 U1");
@@ -76,15 +75,8 @@ TEST(KicadUnits, TheSameUnitTwiceIsADuplicate)
 
 TEST(KicadUnits, ManyDuplicatesTakeNoLongerEach)
 {
-    std::vector<Part> parts(20'000, amplifier("U1", 1));
+    const std::vector<Part> parts(20'000, amplifier("U1", 1));
     EXPECT_EQ(design(parts)->components().size(), parts.size());
-}
-
-TEST(KicadUnits, DifferentSymbolsUnderOneReferenceAreDuplicates)
-{
-    Part other = amplifier("U1", 2);
-    other.lib = "Amp:LM324";
-    EXPECT_EQ(references(*design({amplifier("U1", 1), other})), "U1 U1");
 }
 
 TEST(KicadUnits, PartsWithoutNumberAreNeverJoined)
@@ -94,41 +86,32 @@ TEST(KicadUnits, PartsWithoutNumberAreNeverJoined)
     EXPECT_EQ(read->symbols().mergedUnits, 0);
 }
 
-TEST(KicadUnits, ThePropertiesOfTheLowestUnitThatSaysSomething)
+TEST(KicadUnits, ThePropertiesAreThoseOfTheLowestUnitThatSaysSomething)
 {
     const auto read =
         design({amplifier("U1", 3, {{"Order", "c"}, {"Note", "c"}, {"Only", "c"}}),
                 amplifier("U1", 2, {{"Note", ""}, {"Order", "b"}}), amplifier("U1", 1, {{"Order", ""}})});
-    EXPECT_EQ(property(*read, "U1", "Order"), "b");
-    EXPECT_EQ(property(*read, "U1", "Note"), "c");
-    EXPECT_EQ(property(*read, "U1", "Only"), "c");
-    EXPECT_NE(warnings(*read).find("U1: its units differ in"), std::string::npos);
+    EXPECT_EQ(properties(*read, "U1", {"Order", "Note", "Only"}), "b c c");
+    EXPECT_THAT(warnings(*read), HasSubstr("U1: its units differ in"));
 }
 
-TEST(KicadUnits, DifferencesBetweenLaterUnitsWarnToo)
+TEST(KicadUnits, DifferencesWarnInLaterUnitsTooAndInValuesAndFlags)
 {
-    const auto read = design(
+    const auto later = design(
         {amplifier("U1", 1), amplifier("U1", 2, {{"Order", "b"}}), amplifier("U1", 3, {{"Order", "c"}})});
-    EXPECT_EQ(property(*read, "U1", "Order"), "b");
-    EXPECT_NE(warnings(*read).find("Order"), std::string::npos) << warnings(*read);
-}
+    EXPECT_EQ(property(*later, "U1", "Order"), "b");
+    EXPECT_THAT(warnings(*later), HasSubstr("Order"));
 
-TEST(KicadUnits, DifferentValuesWarn)
-{
     Part other = amplifier("U1", 2);
     other.value = "LM324";
-    const auto read = design({other, amplifier("U1", 1)});
-    EXPECT_EQ(part(*read, "U1").value, "TL074");
-    EXPECT_NE(warnings(*read).find("U1: its units differ in Value"), std::string::npos) << warnings(*read);
-}
+    const auto values = design({other, amplifier("U1", 1)});
+    EXPECT_EQ(part(*values, "U1").value, "TL074");
+    EXPECT_THAT(warnings(*values), HasSubstr("U1: its units differ in Value"));
 
-TEST(KicadUnits, AFlagOfOneUnitCountsForThePart)
-{
     Part flagged = amplifier("U1", 2);
     flagged.dnp = "yes";
     flagged.inBom = "no";
-    const auto read = design({amplifier("U1", 1), flagged});
-    EXPECT_EQ(part(*read, "U1").notFitted, MarkedBy::Symbol);
-    EXPECT_EQ(part(*read, "U1").notInBom, MarkedBy::Symbol);
-    EXPECT_NE(warnings(*read).find("flags"), std::string::npos);
+    const auto flags = design({amplifier("U1", 1), flagged});
+    EXPECT_EQ(marks(*flags), "U1:ss") << "a flag of one unit counts for the part";
+    EXPECT_THAT(warnings(*flags), HasSubstr("flags"));
 }

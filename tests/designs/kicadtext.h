@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 #include <string>
 #include <string_view>
 #include <utility>
@@ -16,6 +18,11 @@ constexpr int v7 = 20230121;
 constexpr int v8 = 20231120;
 constexpr int v9 = 20250114;
 constexpr int v10 = 20260306;
+
+/// The names of files that most designs have.
+inline const QString root = QStringLiteral("root.kicad_sch");
+inline const QString sub = QStringLiteral("sub.kicad_sch");
+inline const QString project = QStringLiteral("root.kicad_pro");
 
 inline std::string inQuotes(std::string_view text)
 {
@@ -42,7 +49,6 @@ struct Use
     std::string path = {};
     std::string reference = {};
     int unit = 1;
-    std::string project = "demo";
     /// Further lists inside the path, such as variants.
     std::string more = {};
 };
@@ -78,9 +84,9 @@ inline std::string uses(const std::vector<Use> &list)
     }
     std::string text = "\n    (instances";
     for (const Use &use : list) {
-        text += "\n      (project " + inQuotes(use.project) + "\n        (path " + inQuotes(use.path) +
-                " (reference " + inQuotes(use.reference) + ") (unit " + std::to_string(use.unit) + ")" +
-                use.more + ")\n      )";
+        text += "\n      (project \"demo\"\n        (path " + inQuotes(use.path) + " (reference " +
+                inQuotes(use.reference) + ") (unit " + std::to_string(use.unit) + ")" + use.more +
+                ")\n      )";
     }
     return text + "\n    )";
 }
@@ -114,9 +120,6 @@ struct Sheet
     std::string dnp = {};
     Fields fields = {};
     std::vector<Use> uses = {};
-    /// Names of the two properties; empty for those of the version.
-    std::string nameProperty = {};
-    std::string fileProperty = {};
 };
 
 inline std::string sheet(int version, const Sheet &sheet)
@@ -126,16 +129,8 @@ inline std::string sheet(int version, const Sheet &sheet)
     text += sheet.inBom.empty() ? "" : " (in_bom " + sheet.inBom + ")";
     text += sheet.dnp.empty() ? "" : " (dnp " + sheet.dnp + ")";
     text += "\n    " + uuid(version, sheet.uuid);
-    text += property(version,
-                     !sheet.nameProperty.empty() ? sheet.nameProperty
-                     : old                       ? "Sheet name"
-                                                 : "Sheetname",
-                     sheet.name, 0);
-    text += property(version,
-                     !sheet.fileProperty.empty() ? sheet.fileProperty
-                     : old                       ? "Sheet file"
-                                                 : "Sheetfile",
-                     sheet.file, 1);
+    text += property(version, old ? "Sheet name" : "Sheetname", sheet.name, 0);
+    text += property(version, old ? "Sheet file" : "Sheetfile", sheet.file, 1);
     int id = 2;
     for (const auto &[name, value] : sheet.fields) {
         text += property(version, name, value, id++);
