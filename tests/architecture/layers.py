@@ -45,7 +45,8 @@ REACH = {
 }
 # What a room reaches through one that stands between: standalone is built on designs, and who uses standalone sees
 # its headers.
-THROUGH = {"account/design": {"designs"}, "cli": {"designs"}, "app": {"designs"}}
+DESIGNS = {"designs", "designs/transaction"}
+THROUGH = {"account/design": DESIGNS, "cli": DESIGNS, "app": DESIGNS}
 # Rooms, or folders of one, that do without Qt's widgets.
 NO_WIDGETS = {
     "designs", "standalone", "templates", "core", "account", "views/report", "host/framework", "host/netlist",
