@@ -64,7 +64,7 @@ void BOMJsonView::writeCategory(JsonWriter &json, const QString &category) const
     json.number(database()->partCount(category));
     json.key(u"lines");
     json.beginArray();
-    const ReportLines report = database()->reportLines(category, true);
+    const ReportLines report = database()->categories().reportLines(category, true);
     for (const BomLine line : report.lines) {
         writeLine(json, line);
     }
@@ -86,7 +86,7 @@ void BOMJsonView::writeLine(JsonWriter &json, BomLine line) const
         json.text(part->reference());
     }
     json.endArray();
-    json.entry(u"text", database()->formatReferences(line, UnlimitedWidth, 1));
+    json.entry(u"text", database()->categories().formatReferences(line, UnlimitedWidth, 1));
     json.key(u"values");
     json.beginArray();
     for (const ReportColumn &column : columns()) {

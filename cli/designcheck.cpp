@@ -50,7 +50,7 @@ Bill billOf(const BOMPartsDatabase &database)
 {
     Bill bill;
     for (const QString &category : database.categoryNames()) {
-        const ReportLines report = database.reportLines(category, true);
+        const ReportLines report = database.categories().reportLines(category, true);
         bill.lines += qsizetype(report.lines.size());
         for (const BomLine line : report.lines) {
             const auto bomParts =
@@ -95,7 +95,7 @@ public:
     {
         const BOMPartsDatabase &database = m_design.database();
         const qsizetype repeated =
-            database.duplicateReferences().size() - database.duplicateBOMParts().size();
+            database.duplicateReferences().size() - database.bomOnlyParts().duplicates().size();
         const qsizetype skipped = m_ledger.components() - m_ledger.listed();
         m_check.account.append({QStringLiteral("in the bill"), m_bill.text()});
         if (!m_bill.replaced.isEmpty()) {
@@ -147,7 +147,7 @@ public:
     void findReplacedLines()
     {
         m_check.findings << replacedLineNotices(m_design, true);
-        for (const ReplacedLine &replaced : m_design.database().replacedLines(false)) {
+        for (const ReplacedLine &replaced : m_design.database().categories().replacedLines(false)) {
             if (!m_bill.replaced.contains(replaced.references.value(0))) {
                 m_check.findings << replacedLineNotice(replaced, false);
             }
@@ -182,9 +182,9 @@ public:
     void findEmpty(const QString &name)
     {
         QStringList empty;
-        const PropertyQuery query = m_design.database().propertyQuery(name);
+        const PropertyQuery query(name, &m_design.database().propertyTypes());
         for (const Part *part : m_design.database().parts()) {
-            if (isMissing(name, part->isBOMPart() ? part->property(name) : query.text(*part))) {
+            if (isMissing(name, part->property(query))) {
                 empty.append(part->reference());
             }
         }

@@ -78,7 +78,8 @@ void DesignEdits::add(const QString &reference, const QString &property, const Q
         return;
     }
     const auto type = m_design.database().propertyTypes().type(property);
-    const QString value = m_design.database().isNumeric(property) ? withoutThousands(typed) : typed;
+    const QString value =
+        m_design.database().propertyTypes().isNumeric(property) ? withoutThousands(typed) : typed;
     const bool isNumber =
         value.isEmpty() || value == PropertyAssignments::removal() || !type || isNumberOf(*type, value);
     if (!isNumber || !m_assignments.accepts(property, value)) {
@@ -202,9 +203,7 @@ QList<CDBPROBLEM> DesignEdits::runBatch(bool isDryRun)
         std::ostringstream report;
         host.adi(script, report, 0);
     }
-    m_assignments.setDryRun(isDryRun);
-    (void)m_assignments.apply();
-    QList<CDBPROBLEM> problems = m_assignments.problems();
+    const QList<CDBPROBLEM> problems = m_assignments.apply({isDryRun}).problems;
     if (problems.isEmpty()) {
         (void)host.commitbatch();
     } else {

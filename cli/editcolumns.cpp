@@ -36,21 +36,19 @@ std::optional<EditColumn> ReportCells::columnOf(const QString &heading) const
     BOMField field;
     field.fieldName = heading;
     field.propertyName = heading;
-    return EditColumn{0,
-                      heading,
-                      {field, database()->propertyQuery(heading), database()->isNumeric(heading)},
-                      false,
-                      isFixed};
+    const PropertyTypes &types = database()->propertyTypes();
+    return EditColumn{
+        0, heading, {field, PropertyQuery(heading, &types), types.isNumeric(heading)}, false, isFixed};
 }
 
 QString ReportCells::text(const Part &part, const EditColumn &column) const
 {
-    return column.isField ? cellText(part, column.report, true) : column.report.property.text(part);
+    return column.isField ? cellText(part, column.report, true) : part.property(column.report.property);
 }
 
 bool ReportCells::isProperty(const QString &name) const
 {
-    const QStringList standard = BOMPartsDatabase::standardPropertyNames();
+    const QStringList standard = standardPropertyNames();
     if (standard.contains(name, Qt::CaseInsensitive) || database()->propertyTypes().type(name) ||
         !m_design.design().design().names().candidates(name.toStdString()).empty()) {
         return true;

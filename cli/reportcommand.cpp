@@ -161,7 +161,7 @@ bool ReportCommand::mayGoOn(OpenDesign &design) const
     if (m_allowDuplicates || design.database().duplicateReferences().isEmpty()) {
         return true;
     }
-    QStringList bomParts = design.database().duplicateBOMParts();
+    QStringList bomParts = design.database().bomOnlyParts().duplicates();
     bomParts.removeDuplicates();
     count += bomParts.size();
     if (!bomParts.isEmpty()) {

@@ -125,11 +125,11 @@ QStringList definedPartProblems(OpenDesign &design)
 {
     QStringList problems;
     const BOMPartsDatabase &database = design.database();
-    for (const DefinitionProblem &problem : database.definitionProblems()) {
+    for (const DefinitionProblem &problem : database.bomOnlyParts().problems()) {
         problems.append(problem.parentReference + QStringLiteral(": ") + problem.property +
                         QStringLiteral(": ") + faultText(problem.fault));
     }
-    QStringList repeated = database.duplicateBOMParts();
+    QStringList repeated = database.bomOnlyParts().duplicates();
     repeated.removeDuplicates();
     for (const QString &reference : std::as_const(repeated)) {
         problems.append(reference +
@@ -163,7 +163,7 @@ QString replacedLineNotice(const ReplacedLine &replaced, bool grouped)
 QStringList replacedLineNotices(OpenDesign &design, bool grouped)
 {
     QStringList notices;
-    for (const ReplacedLine &replaced : design.database().replacedLines(grouped)) {
+    for (const ReplacedLine &replaced : design.database().categories().replacedLines(grouped)) {
         notices.append(replacedLineNotice(replaced, grouped));
     }
     return notices;

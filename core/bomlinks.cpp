@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <algorithm>
+
 QString bomLinksProperty()
 {
     return QStringLiteral("BOMLINKS");
@@ -35,4 +37,26 @@ std::optional<QString> bomLinksText(const QMap<QString, QString> &links)
         items.append(it.key() + u'=' + QString::fromLatin1(QUrl::toPercentEncoding(it.value())));
     }
     return items.join(u',');
+}
+
+void LinkTable::insert(const QString &reference, const QMap<QString, QString> &links)
+{
+    if (!links.isEmpty()) {
+        m_links.insert(reference, links);
+    }
+}
+
+QString LinkTable::link(const QString &reference, const QString &propertyName) const
+{
+    const auto links = m_links.constFind(reference);
+    if (links == m_links.cend()) {
+        return {};
+    }
+    if (const auto exact = links->constFind(propertyName); exact != links->cend()) {
+        return *exact;
+    }
+    const auto found = std::find_if(links->keyBegin(), links->keyEnd(), [&](const QString &name) {
+        return name.compare(propertyName, Qt::CaseInsensitive) == 0;
+    });
+    return found == links->keyEnd() ? QString() : *found.base();
 }

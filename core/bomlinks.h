@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QHash>
 #include <QMap>
 #include <QString>
 
@@ -16,3 +17,24 @@
 /// The same as text, in the order of the names; links without a URL are left out. Nothing when a name is
 /// empty or holds "," or "=".
 [[nodiscard]] std::optional<QString> bomLinksText(const QMap<QString, QString> &links);
+
+/// The links of all parts, by reference.
+class LinkTable final
+{
+public:
+    /// Takes the links of a part in place of those it had; without any nothing changes.
+    void insert(const QString &reference, const QMap<QString, QString> &links);
+    void remove(const QString &reference) { m_links.remove(reference); }
+    void clear() { m_links.clear(); }
+
+    /// The URLs by property name.
+    [[nodiscard]] QMap<QString, QString> links(const QString &reference) const
+    {
+        return m_links.value(reference);
+    }
+    /// The URL for one property, whatever the letter case of its name; empty when there is none.
+    [[nodiscard]] QString link(const QString &reference, const QString &propertyName) const;
+
+private:
+    QHash<QString, QMap<QString, QString>> m_links;
+};

@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "core/bompart.h"
 
-#include "core/bompartsdatabase.h"
 #include "core/propertyquery.h"
 #include "core/reference.h"
 
-BOMPart::BOMPart(const BOMPartsDatabase *database, const QString &reference, const QString &value,
+BOMPart::BOMPart(const PartDatabase *database, const QString &reference, const QString &value,
                  const QString &parentReference, const QMap<QString, QString> &properties)
     : Part(nullptr, database, reference, value)
     , m_parentReference(parentReference)
@@ -17,7 +16,7 @@ BOMPart::BOMPart(const BOMPartsDatabase *database, const QString &reference, con
     }
 }
 
-BOMPart::BOMPart(const BOMPartsDatabase *database, const QString &reference, const QString &parentReference,
+BOMPart::BOMPart(const PartDatabase *database, const QString &reference, const QString &parentReference,
                  const BOMPartDefinition &definition)
     : Part(nullptr, database, reference, definition.value)
     , m_properties(definition.properties)

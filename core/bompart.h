@@ -13,17 +13,18 @@ class BOMPart final : public Part
 {
 public:
     /// Names of properties are turned into upper case.
-    BOMPart(const BOMPartsDatabase *database, const QString &reference, const QString &value,
+    BOMPart(const PartDatabase *database, const QString &reference, const QString &value,
             const QString &parentReference, const QMap<QString, QString> &properties = {});
     /// One of those that a definition makes. They share its texts.
-    BOMPart(const BOMPartsDatabase *database, const QString &reference, const QString &parentReference,
+    BOMPart(const PartDatabase *database, const QString &reference, const QString &parentReference,
             const BOMPartDefinition &definition);
 
     [[nodiscard]] bool isBOMPart() const override;
 
-    /// As people entered it; names are compared ignoring case. ".Placed" is where the parent stands, empty
-    /// when the database holds no placed part of that reference.
+    /// The text as people entered it; names are compared ignoring case. ".Placed" is where the parent stands,
+    /// empty when the database holds no placed part of that reference.
     [[nodiscard]] QString property(const QString &name) const override;
+    using Part::property;
 
     [[nodiscard]] const QString &parentReference() const { return m_parentReference; }
 

@@ -126,8 +126,8 @@ void readCount(const QString &field, ReadDefinition *read)
     read->definition.count = count;
 }
 
-/// In single quotes when that can be; a text that ends in a backslash stands without, where nothing in it
-/// divides fields.
+/// A text in single quotes. One that ends in a backslash, which would escape the closing quote, is written
+/// without quotes, unless something in it would then be read as the end of the field.
 std::optional<QString> writtenField(const QString &escaped)
 {
     if (!escaped.endsWith(u'\\')) {

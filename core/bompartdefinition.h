@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// What the name of every property begins with that defines BOM-only parts.
+/// The beginning of the names of all properties that define BOM-only parts.
 [[nodiscard]] QString bomPartPropertyStart();
 
 /// What one definition of BOM-only parts says.
@@ -24,7 +24,7 @@ struct BOMPartDefinition
 constexpr int mostPartsOfADefinition = 100'000;
 constexpr int mostBOMParts = 1'000'000;
 
-/// Why a definition makes no parts, or not all that it says counts.
+/// Why a definition makes no parts, or is not followed in all that it says.
 enum class DefinitionFault
 {
     TooFewFields,
@@ -32,9 +32,9 @@ enum class DefinitionFault
     TooManyParts,
     /// One of the further fields is not NAME=VALUE; the parts are made without it.
     NoAssignment,
-    /// The design has its most BOM-only parts already.
+    /// The design would have more than mostBOMParts.
     DesignIsFull,
-    /// The numbers of the references end.
+    /// The references would need numbers that do not fit into 32 bits.
     NumbersEnd
 };
 

@@ -2,21 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include "core/bompartsdatabase.h"
 
-#include "core/bulkchange.h"
 #include "core/designinfo.h"
-#include "core/reference.h"
-#include "core/referenceformat.h"
-#include "core/templatelayout.h"
-#include "core/templaterepair.h"
+#include "core/propertyquery.h"
+#include "core/templatesettings.h"
 #include "host/framework/applndocument.h"
 #include "host/framework/applnprocess.h"
 #include "host/framework/hosttext.h"
+#include "host/netlist/component.h"
 #include "host/netlist/netcache.h"
+#include "host/netlist/proplist.h"
 
-#include <QSet>
+#include <QHash>
 
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -26,11 +26,84 @@ std::unique_ptr<BOMPartsDatabase> &theDatabase()
     return database;
 }
 
+PROPPREFIX definitionPrefix()
+{
+    return PROPPREFIX(toHostText(bomPartPropertyStart()));
+}
+
+/// Takes from components, besides the parts, their links and the definitions of BOM-only parts. Definitions
+/// of components with one reference are put together.
+class ComponentReader
+{
+public:
+    explicit ComponentReader(LinkTable *links)
+        : m_links(links)
+        , m_linksName(toHostText(bomLinksProperty()))
+        , m_definitionPrefix(definitionPrefix())
+    {
+    }
+
+    void read(const COMPONENT &component)
+    {
+        if (!component.properties) {
+            return;
+        }
+        const std::vector<PROPERTY> definitions = component.properties->startingwith(m_definitionPrefix);
+        const auto links = component.properties->find(m_linksName);
+        if (definitions.empty() && !links) {
+            return;
+        }
+        const QString reference = fromHostText(component.reference);
+        if (links) {
+            m_links->insert(reference, readBOMLinks(fromHostText(*links)));
+        }
+        if (!definitions.empty()) {
+            collect(reference, definitions);
+        }
+    }
+
+    [[nodiscard]] const QList<ParentDefinitions> &parents() const { return m_parents; }
+
+private:
+    void collect(const QString &reference, const std::vector<PROPERTY> &definitions)
+    {
+        const auto known = m_indices.constFind(reference);
+        const qsizetype index = known == m_indices.cend() ? m_parents.size() : *known;
+        if (known == m_indices.cend()) {
+            m_indices.insert(reference, index);
+            m_parents.append({reference, {}});
+        }
+        for (const PROPERTY &property : definitions) {
+            m_parents[index].definitions.append({fromHostText(property.name), fromHostText(property.value)});
+        }
+    }
+
+    LinkTable *m_links;
+    PROPNAME m_linksName;
+    PROPPREFIX m_definitionPrefix;
+    QList<ParentDefinitions> m_parents;
+    QHash<QString, qsizetype> m_indices;
+};
+
 } // namespace
+
+BOMPartsDatabase::BulkChange::BulkChange(BOMPartsDatabase *database)
+    : m_database(std::exchange(database->m_isUpdating, true) ? nullptr : database)
+{
+}
+
+BOMPartsDatabase::BulkChange::~BulkChange()
+{
+    if (m_database) {
+        m_database->m_isUpdating = false;
+        m_database->notify();
+    }
+}
 
 BOMPartsDatabase::BOMPartsDatabase()
     : m_parts(this)
-    , m_miscCategoryName(tr("Miscellaneous"))
+    , m_categories(&m_template, &m_parts, &m_propertyTypes)
+    , m_bomOnlyParts(this, &m_parts, &m_categories, &m_links)
 {
 }
 
@@ -51,13 +124,10 @@ void BOMPartsDatabase::destroyInstance()
 
 void BOMPartsDatabase::clear()
 {
-    for (auto &[heading, groups] : m_categories) {
-        groups.clear();
-    }
-    m_storeOfPrefix.clear();
+    m_categories.clear();
+    m_bomOnlyParts.clear();
+    m_links.clear();
     m_parts.clear();
-    m_duplicateReferences.clear();
-    clearBOMParts();
     notify();
 }
 
@@ -70,20 +140,27 @@ void BOMPartsDatabase::load()
     m_notes = designNotes();
     m_propertyTypes.load();
     if (m_netlist->isValid()) {
-        const PROPNAME skipMark("BOMSKIP");
-        ComponentReader reader(this);
-        m_referenceNumbers.reset();
-        m_parts.reserve(m_netlist->components.size());
-        for (const COMPONENT *component : m_netlist->components) {
-            if (component && !(component->properties && component->properties->find(skipMark))) {
-                addPart(*component);
-                reader.read(*component);
-            }
-        }
-        m_parts.endLoading();
-        reader.makeBOMParts();
+        readNetlist();
     }
     updateFieldGrouping();
+}
+
+void BOMPartsDatabase::readNetlist()
+{
+    const PROPNAME skipMark("BOMSKIP");
+    ComponentReader reader(&m_links);
+    m_parts.reserve(m_netlist->components.size());
+    for (const COMPONENT *component : m_netlist->components) {
+        if (!component || (component->properties && component->properties->find(skipMark))) {
+            continue;
+        }
+        if (Part *added = m_parts.add(*component, fromHostText(component->reference))) {
+            m_categories.add(*added);
+        }
+        reader.read(*component);
+    }
+    m_parts.endLoading();
+    m_bomOnlyParts.load(reader.parents());
 }
 
 void BOMPartsDatabase::reload()
@@ -129,24 +206,80 @@ QString BOMPartsDatabase::property(const QString &reference, const QString &name
     return found ? found->property(name) : QString();
 }
 
-QString BOMPartsDatabase::displayValue(const QString &name, const QString &stored) const
+void BOMPartsDatabase::updatePropertyTypes()
 {
-    return DisplayConversion(m_propertyTypes.type(name))(stored);
+    m_propertyTypes.load();
+    updateFieldGrouping();
 }
 
-PropertyQuery BOMPartsDatabase::propertyQuery(const QString &name) const
+QStringList BOMPartsDatabase::bomPartDefinitions(const COMPONENT &component)
 {
-    return PropertyQuery(name, &m_propertyTypes);
+    QStringList texts;
+    if (component.properties) {
+        for (const PROPERTY &property : component.properties->startingwith(definitionPrefix())) {
+            texts.append(fromHostText(property.value));
+        }
+    }
+    return texts;
 }
 
-QMap<QString, QString> BOMPartsDatabase::pseudoPropertyNames()
+void BOMPartsDatabase::createBOMParts(const QString &parentReference, const QStringList &definitions)
 {
-    return {{placedProperty(), tr("Placed")}, {nameProperty(), tr("Name")}};
+    const BulkChange change(this);
+    ParentDefinitions parent{parentReference, {}};
+    for (const QString &text : definitions) {
+        parent.definitions.append({QString(), text});
+    }
+    m_bomOnlyParts.make(parent);
 }
 
-QStringList BOMPartsDatabase::standardPropertyNames()
+std::optional<DefinitionProperty> BOMPartsDatabase::addBOMParts(const QString &parentReference, int count,
+                                                                const QString &escapedPrefix,
+                                                                const QString &escapedValue)
 {
-    return pseudoPropertyNames().keys() << valueProperty() << QStringLiteral("PACKAGE");
+    auto added = m_bomOnlyParts.add(parentReference, count, escapedPrefix, escapedValue);
+    if (added) {
+        updateFieldGrouping();
+    }
+    return added;
+}
+
+bool BOMPartsDatabase::setBOMPartProperty(const QString &reference, const QString &name, const QString &text)
+{
+    const bool isChanged = m_bomOnlyParts.setProperty(reference, name, text);
+    if (isChanged) {
+        updateFieldGrouping();
+    }
+    return isChanged;
+}
+
+bool BOMPartsDatabase::removeBOMPart(const QString &parentReference, const QString &reference)
+{
+    const bool isRemoved = m_bomOnlyParts.remove(parentReference, reference);
+    if (isRemoved) {
+        updateFieldGrouping();
+    }
+    return isRemoved;
+}
+
+QList<BOMPart *> BOMPartsDatabase::bomParts(const QString &parentReference) const
+{
+    return m_bomOnlyParts.parts(parentReference);
+}
+
+void BOMPartsDatabase::setLinks(const QString &reference, const QString &text)
+{
+    m_links.insert(reference, readBOMLinks(text));
+}
+
+QMap<QString, QString> BOMPartsDatabase::links(const QString &reference) const
+{
+    return m_links.links(reference);
+}
+
+QString BOMPartsDatabase::link(const QString &reference, const QString &propertyName) const
+{
+    return m_links.link(reference, propertyName);
 }
 
 QString BOMPartsDatabase::designInfo(const char *key) const
@@ -159,31 +292,6 @@ QString BOMPartsDatabase::designTitle() const
     return ::designTitle();
 }
 
-QString BOMPartsDatabase::designAuthor() const
-{
-    return designInfo("AUTHOR");
-}
-
-QString BOMPartsDatabase::designDocumentNumber() const
-{
-    return designInfo("DOCNO");
-}
-
-QString BOMPartsDatabase::designRevision() const
-{
-    return designInfo("REV");
-}
-
-QString BOMPartsDatabase::designCreated() const
-{
-    return designInfo("WL_CDATE");
-}
-
-QString BOMPartsDatabase::designModified() const
-{
-    return designInfo("WL_MDATE");
-}
-
 QString BOMPartsDatabase::designVariant() const
 {
     return ::designVariant();
@@ -192,6 +300,19 @@ QString BOMPartsDatabase::designVariant() const
 QString BOMPartsDatabase::defaultOutputPath(const QString &extension) const
 {
     return designOutputPath(extension);
+}
+
+std::optional<QString> BOMPartsDatabase::setNotes(const QString &text)
+{
+    if (text == m_notes) {
+        return std::nullopt;
+    }
+    if (auto problem = setDesignNotes(text)) {
+        return problem;
+    }
+    m_notes = text;
+    notify();
+    return std::nullopt;
 }
 
 void BOMPartsDatabase::setCurrentTemplate(const BOMTemplate &settings)
@@ -205,20 +326,16 @@ void BOMPartsDatabase::setCurrentTemplate(const BOMTemplate &settings)
 
 void BOMPartsDatabase::setTemplateLook(const BOMTemplate &settings)
 {
-    m_template.setCss(settings.css());
-    m_template.setDocumentHeader(settings.documentHeader());
-    m_template.setDocumentFooter(settings.documentFooter());
-    m_template.setHtmlTemplateFileName(settings.htmlTemplateFileName());
+    takeLook(settings, &m_template);
 }
 
 bool BOMPartsDatabase::setTemplateLayout(const BOMTemplate &settings)
 {
-    const Qt::CaseSensitivity oldRule = caseRule();
+    const bool wasCaseSensitive = m_template.caseSensitiveGrouping();
     if (!takeLayout(settings, &m_template)) {
         return false;
     }
-    m_fields = m_template.fields();
-    if (caseRule() != oldRule) {
+    if (m_template.caseSensitiveGrouping() != wasCaseSensitive) {
         updateFieldGrouping();
     }
     Q_EMIT currentTemplateModified(true);
@@ -231,10 +348,61 @@ void BOMPartsDatabase::restoreTemplateLayout(const BOMTemplate &settings, bool w
     Q_EMIT currentTemplateModified(wasModified);
 }
 
-void BOMPartsDatabase::updatePropertyTypes()
+void BOMPartsDatabase::applyFields(const BOMFields &fields)
 {
-    m_propertyTypes.load();
+    BOMFields columns;
+    for (const BOMField &field : fields.fields()) {
+        columns.add(field);
+    }
+    m_template.setFields(columns);
+}
+
+void BOMPartsDatabase::applyCategories(const QList<BOMCategory> &categories)
+{
+    const BulkChange change(this);
+    m_template.setCategories(categories);
+    m_categories.rebuild();
     updateFieldGrouping();
+}
+
+QStringList BOMPartsDatabase::categoryValues(const QString &category) const
+{
+    return m_categories.values(category);
+}
+
+QStringList BOMPartsDatabase::categoryReferences(const QString &category) const
+{
+    return m_categories.references(category);
+}
+
+QStringList BOMPartsDatabase::valueReferences(const QString &category, const QString &value) const
+{
+    return m_categories.references(category, value);
+}
+
+QList<QStringList> BOMPartsDatabase::groupLines(const QString &category, const QString &value) const
+{
+    return m_categories.lines(category, value);
+}
+
+QStringList BOMPartsDatabase::formattedLines(const QString &category, const QString &value, int width,
+                                             int lines) const
+{
+    QStringList texts;
+    for (const QStringList &line : groupLines(category, value)) {
+        texts.append(m_categories.formatReferences(line, width, lines));
+    }
+    return texts;
+}
+
+QList<QPair<QString, int>> BOMPartsDatabase::lineSummaries(const QString &category) const
+{
+    return m_categories.lineSummaries(category);
+}
+
+QString BOMPartsDatabase::groupingKey(const QString &reference) const
+{
+    return m_categories.groupingKey(reference);
 }
 
 void BOMPartsDatabase::updateBOMFields(const BOMFields &fields)
@@ -253,9 +421,7 @@ void BOMPartsDatabase::updateBOMCategories(const QList<BOMCategory> &categories)
 void BOMPartsDatabase::updateFieldGrouping()
 {
     const BulkChange change(this);
-    for (auto &[heading, groups] : m_categories) {
-        groups.regroup();
-    }
+    m_categories.regroup();
 }
 
 void BOMPartsDatabase::nimProjectChanged(APPLNDOCUMENT *document)
@@ -268,140 +434,4 @@ void BOMPartsDatabase::nimProjectChanged(APPLNDOCUMENT *document)
     } else if (m_netlist) {
         m_netlist->invalidate();
     }
-}
-
-void BOMPartsDatabase::addPart(const COMPONENT &component)
-{
-    const QString reference = fromHostText(component.reference);
-    Part *added = m_parts.add(component, reference);
-    if (!added) {
-        m_duplicateReferences.append(reference);
-        return;
-    }
-    putIntoCategory(*added);
-    notify();
-}
-
-void BOMPartsDatabase::putIntoCategory(Part &part)
-{
-    storeOfPart(part).add(part);
-}
-
-void BOMPartsDatabase::putPartsIntoCategories()
-{
-    for (Part *held : m_parts.parts()) {
-        putIntoCategory(*held);
-    }
-}
-
-void BOMPartsDatabase::applyFields(const BOMFields &fields)
-{
-    const QList<BOMField> columns = fields.fields();
-    m_fields.clear();
-    m_groupingFieldNames.clear();
-    for (const BOMField &field : columns) {
-        if (m_fields.add(field)) {
-            m_groupingFieldNames.append(field.propertyName);
-        }
-    }
-    m_template.setFields(m_fields);
-}
-
-void BOMPartsDatabase::applyCategories(const QList<BOMCategory> &categories)
-{
-    const BulkChange change(this);
-    m_template.setCategories(categories);
-    for (auto &[heading, groups] : m_categories) {
-        groups.clear();
-    }
-    m_categories.clear();
-    m_headingOfPrefix.clear();
-    m_storeOfPrefix.clear();
-    m_categoryOrder.clear();
-    for (const BOMCategory &category : categories) {
-        if (category.isMiscCategory) {
-            m_miscCategoryName = category.heading;
-        }
-    }
-    miscCategory();
-    QSet<QString> headings;
-    for (const BOMCategory &category : categories) {
-        if (!headings.contains(category.heading)) {
-            headings.insert(category.heading);
-            m_categoryOrder.append(category.heading);
-        }
-        addCategory(category);
-    }
-    putPartsIntoCategories();
-    updateFieldGrouping();
-}
-
-void BOMPartsDatabase::addCategory(const BOMCategory &category)
-{
-    if (category.isMiscCategory || m_categories.contains(category.heading)) {
-        return;
-    }
-    for (const QString &prefix : category.references) {
-        if (m_headingOfPrefix.contains(prefix)) {
-            return;
-        }
-    }
-    m_categories.try_emplace(category.heading, this);
-    for (const QString &prefix : category.references) {
-        m_headingOfPrefix.insert(prefix, category.heading);
-    }
-}
-
-CategoryGroups &BOMPartsDatabase::miscCategory()
-{
-    return m_categories.try_emplace(m_miscCategoryName, this).first->second;
-}
-
-const CategoryGroups *BOMPartsDatabase::category(const QString &heading) const
-{
-    const auto found = m_categories.find(heading);
-    return found == m_categories.end() ? nullptr : &found->second;
-}
-
-QString BOMPartsDatabase::headingOfPrefix(QStringView prefix) const
-{
-    return m_headingOfPrefix.value(prefix.toString(), m_miscCategoryName);
-}
-
-CategoryGroups &BOMPartsDatabase::storeOfPart(const Part &part)
-{
-    const auto number = part.key().prefix;
-    if (number < m_storeOfPrefix.size() && m_storeOfPrefix[number]) {
-        return *m_storeOfPrefix[number];
-    }
-    const QStringView prefix = categoryPrefix(part.reference());
-    const auto found = m_categories.find(headingOfPrefix(prefix));
-    CategoryGroups &groups = found == m_categories.end() ? miscCategory() : found->second;
-    // Not so for references with a digit in the middle such as U1A2.
-    if (prefix == m_parts.prefixes().text(number)) {
-        m_storeOfPrefix.resize(m_parts.prefixes().size());
-        m_storeOfPrefix[number] = &groups;
-    }
-    return groups;
-}
-
-Qt::CaseSensitivity BOMPartsDatabase::caseRule() const
-{
-    return m_template.caseSensitiveGrouping() ? Qt::CaseSensitive : Qt::CaseInsensitive;
-}
-
-GroupingRule BOMPartsDatabase::groupingRule() const
-{
-    GroupingRule rule{caseRule(), {}};
-    for (const QString &name : m_groupingFieldNames) {
-        if (name != valueProperty()) {
-            rule.properties.push_back(propertyQuery(name));
-        }
-    }
-    return rule;
-}
-
-GroupedLines BOMPartsDatabase::groupParts(std::span<Part *const> parts) const
-{
-    return makeLines(parts, m_parts, groupingRule());
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/categorygroups.h"
 
-#include "core/bompartsdatabase.h"
+#include "core/grouping.h"
 #include "core/part.h"
 
 #include <QDebug>
@@ -39,7 +39,7 @@ void CategoryGroups::clear()
 
 void CategoryGroups::regroup()
 {
-    if (!m_database) {
+    if (!m_grouping) {
         qDebug("BOM: Use of bad CatParts with null database");
         return;
     }
@@ -48,8 +48,8 @@ void CategoryGroups::regroup()
 
 const GroupedLines &CategoryGroups::lines() const
 {
-    if (!m_isGrouped && m_database) {
-        m_lines = m_database->groupParts(m_parts);
+    if (!m_isGrouped && m_grouping) {
+        m_lines = m_grouping->lines(m_parts);
         m_isGrouped = true;
     }
     return m_lines;

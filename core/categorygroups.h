@@ -9,17 +9,17 @@
 #include <span>
 #include <vector>
 
-class BOMPartsDatabase;
+class Grouping;
 class Part;
 
 /// The parts of one category, and the lines they make. Lines are made at the first read after a change.
 class CategoryGroups final
 {
 public:
-    /// `database` is not owned and may be null. A part remembers the address of its groups: they stay where
-    /// they are.
-    explicit CategoryGroups(const BOMPartsDatabase *database)
-        : m_database(database)
+    /// `grouping` belongs to the database and may be null. A part remembers the address of its groups: they
+    /// stay where they are.
+    explicit CategoryGroups(const Grouping *grouping)
+        : m_grouping(grouping)
     {
     }
     CategoryGroups(const CategoryGroups &) = delete;
@@ -30,7 +30,7 @@ public:
     void remove(Part &part);
     void clear();
 
-    /// Groups the parts anew. Without a database that cannot be done: a debug line says so and the lines
+    /// Groups the parts anew. Without a grouping that cannot be done: a debug line says so and the lines
     /// stay.
     void regroup();
 
@@ -39,7 +39,7 @@ public:
     [[nodiscard]] const GroupedLines &lines() const;
 
 private:
-    const BOMPartsDatabase *m_database;
+    const Grouping *m_grouping;
     std::vector<Part *> m_parts;
     mutable GroupedLines m_lines;
     mutable bool m_isGrouped = false;

@@ -55,7 +55,7 @@ private:
     qsizetype m_last = 0;
 };
 
-/// Parts of one definition share its properties, so that this is quickly said.
+/// Fast for parts of one definition, which share its properties.
 bool agree(const BOMPart &left, const BOMPart &right)
 {
     return left.prefix() == right.prefix() && left.value() == right.value() &&

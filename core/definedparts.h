@@ -44,9 +44,9 @@ public:
     [[nodiscard]] const QList<BOMPart *> &parts() const { return m_parts; }
     void add(BOMPart *part) { m_parts.append(part); }
     void remove(BOMPart *part) { m_parts.removeOne(part); }
-    /// Parts that are not held, because others have their references.
+    /// Remembers parts that are not held, because others have their references, so that they are written.
     void addRepeated(const BOMPartDefinition &definition, int count);
-    /// A definition that makes no parts.
+    /// Remembers a definition that makes no parts, so that it is written.
     void addUnread(const QString &text) { m_unread.append(text); }
 
     /// The definitions BOMPART0, BOMPART1, ... of all the parts as they are now; those that make no parts

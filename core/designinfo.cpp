@@ -68,16 +68,14 @@ QString designNotes()
     return document ? document->readattachment(notesAttachment) : QString();
 }
 
-bool setDesignNotes(const QString &text, QString *reason)
+std::optional<QString> setDesignNotes(const QString &text)
 {
     APPLNDOCUMENT *document = currentDesign();
     if (!document) {
-        *reason = QCoreApplication::translate("BOMPartsDatabase", "No design is open");
-        return false;
+        return QCoreApplication::translate("BOMPartsDatabase", "No design is open");
     }
-    const bool isWritten = document->writeattachment(notesAttachment, text);
-    *reason = isWritten ? QString() : document->attachmenterror();
-    return isWritten;
+    return document->writeattachment(notesAttachment, text) ? std::nullopt
+                                                            : std::optional(document->attachmenterror());
 }
 
 QString designOutputPath(const QString &extension)

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <optional>
+
 /// What the current design document of the host says. Without a document everything is empty.
 
 /// A value of the information block; "<NONE>" counts as empty.
@@ -14,8 +16,8 @@
 [[nodiscard]] QString designVariant();
 /// The text of the attachment with the notes on the bill of materials.
 [[nodiscard]] QString designNotes();
-/// Writes them; `reason` takes why that failed.
-[[nodiscard]] bool setDesignNotes(const QString &text, QString *reason);
+/// Writes them; gives why that failed, nothing when it did not.
+[[nodiscard]] std::optional<QString> setDesignNotes(const QString &text);
 
 /// The absolute path proposed for a report of the design, `extension` with its dot. The folder is the working
 /// folder, or the user's when the program's own folder is that one or is known by a relative path only; it is

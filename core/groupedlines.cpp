@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/groupedlines.h"
 
-#include "core/linebuilder.h"
+#include "core/part.h"
 
 #include <algorithm>
 
@@ -19,13 +19,8 @@ BomString groupingKey(const Part &part, const GroupingRule &rule)
 {
     QString key;
     for (const PropertyQuery &property : rule.properties) {
-        key += property.text(part);
+        key += part.property(property);
         key += u',';
     }
     return BomString(key, rule.caseRule);
-}
-
-GroupedLines makeLines(std::span<Part *const> parts, const PartStore &store, const GroupingRule &rule)
-{
-    return LineBuilder(parts, store, rule).build();
 }

@@ -9,7 +9,6 @@
 #include <vector>
 
 class Part;
-class PartStore;
 
 /// The parts of one line of the bill of materials, in reference order.
 using BomLine = std::span<Part *const>;
@@ -64,7 +63,3 @@ struct GroupingRule
 
 /// The texts of the rule's properties, each with a comma behind it.
 [[nodiscard]] BomString groupingKey(const Part &part, const GroupingRule &rule);
-
-/// Makes lines of the parts of a category, which come in the order in which they were added.
-[[nodiscard]] GroupedLines makeLines(std::span<Part *const> parts, const PartStore &store,
-                                     const GroupingRule &rule);

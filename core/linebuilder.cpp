@@ -93,9 +93,9 @@ void LineBuilder::describe(quint32 part)
     m_description.assign(reinterpret_cast<const char *>(head), sizeof head);
     for (const PropertyQuery &property : m_rule.properties) {
         if (isBOMPart) {
-            describe(toHostText(property.text(described)));
+            describe(toHostText(described.property(property)));
         } else {
-            describe(property.hostText(described));
+            describe(property.hostText(described.component()));
         }
     }
 }

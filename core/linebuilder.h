@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+class PartStore;
+
 /// Groups the parts of one category. Parts are first put into drafts by hash, on host text, so that most
 /// texts are never made; only drafts of one value are then compared by their grouping keys, ordered and
 /// joined.

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "core/part.h"
 
-#include "core/bompartsdatabase.h"
 #include "core/propertyquery.h"
 
-Part::Part(const COMPONENT *component, const BOMPartsDatabase *database, const QString &reference,
+Part::Part(const COMPONENT *component, const PartDatabase *database, const QString &reference,
            const QString &value)
     : m_component(component)
     , m_database(database)
@@ -23,5 +22,11 @@ bool Part::isBOMPart() const
 
 QString Part::property(const QString &name) const
 {
-    return PropertyQuery(name, m_database ? &m_database->propertyTypes() : nullptr).placedText(*this);
+    return PropertyQuery(name, m_database ? &m_database->propertyTypes() : nullptr)
+        .text(m_component, m_value);
+}
+
+QString Part::property(const PropertyQuery &query) const
+{
+    return isBOMPart() ? property(query.name()) : query.text(m_component, m_value);
 }

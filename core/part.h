@@ -4,9 +4,27 @@
 
 #include <QString>
 
-class BOMPartsDatabase;
 class CategoryGroups;
+class Part;
+class PropertyQuery;
+class PropertyTypes;
 struct COMPONENT;
+
+/// What parts ask of the database that holds them.
+class PartDatabase
+{
+public:
+    /// The types by which stored values are converted for display.
+    [[nodiscard]] virtual const PropertyTypes &propertyTypes() const = 0;
+    /// Null when no part has that reference.
+    [[nodiscard]] virtual Part *part(const QString &reference) const = 0;
+
+protected:
+    PartDatabase() = default;
+    PartDatabase(const PartDatabase &) = default;
+    PartDatabase &operator=(const PartDatabase &) = default;
+    ~PartDatabase() = default;
+};
 
 /// What the parts database works out once about a part, so that ordering and grouping compare numbers.
 struct PartKey
@@ -24,7 +42,7 @@ class Part
 public:
     /// `component` belongs to the netlist and may be null; `database` may be null, stored values are then not
     /// converted for display.
-    Part(const COMPONENT *component, const BOMPartsDatabase *database, const QString &reference,
+    Part(const COMPONENT *component, const PartDatabase *database, const QString &reference,
          const QString &value);
     Part(const Part &) = delete;
     Part &operator=(const Part &) = delete;
@@ -36,9 +54,11 @@ public:
     /// The value of a property as people see it, empty when the part does not have it. "VALUE" is the value,
     /// ".Placed" the side of the board or "Not placed", ".Name" the component's own name.
     [[nodiscard]] virtual QString property(const QString &name) const;
+    /// The same for a property that is asked of many parts.
+    [[nodiscard]] QString property(const PropertyQuery &query) const;
 
     [[nodiscard]] const COMPONENT *component() const { return m_component; }
-    [[nodiscard]] const BOMPartsDatabase *database() const { return m_database; }
+    [[nodiscard]] const PartDatabase *database() const { return m_database; }
     [[nodiscard]] const QString &reference() const { return m_reference; }
     [[nodiscard]] const QString &value() const { return m_value; }
     [[nodiscard]] const PartKey &key() const { return m_key; }
@@ -48,10 +68,10 @@ private:
     friend class CategoryGroups;
 
     const COMPONENT *m_component = nullptr;
-    const BOMPartsDatabase *m_database = nullptr;
+    const PartDatabase *m_database = nullptr;
     QString m_reference;
     QString m_value;
     PartKey m_key;
-    /// The store that holds the part; it is the proof of membership.
+    /// The groups that hold the part, by which they know it without a search; null for none.
     const CategoryGroups *m_category = nullptr;
 };

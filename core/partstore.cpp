@@ -18,6 +18,7 @@ Part *PartStore::add(const COMPONENT &component, const QString &reference)
 {
     const quint64 hash = hashText(reference);
     if (indexOf(hash, reference) != HashIndex::None) {
+        m_duplicates.append(reference);
         return nullptr;
     }
     const quint32 value = m_values.hostNumber(component.value);
@@ -29,6 +30,7 @@ BOMPart *PartStore::add(std::unique_ptr<BOMPart> part)
 {
     const quint64 hash = hashText(part->reference());
     if (indexOf(hash, part->reference()) != HashIndex::None) {
+        m_duplicates.append(part->reference());
         return nullptr;
     }
     insert(hash, part.get(), m_values.number(part->value()));
@@ -56,6 +58,7 @@ void PartStore::remove(const BOMPart *part)
 void PartStore::clear()
 {
     m_parts = {};
+    m_duplicates.clear();
     m_index.clear();
     m_placed.clear();
     m_unplaced.clear();

@@ -7,6 +7,7 @@
 #include "core/part.h"
 #include "core/texttable.h"
 
+#include <QStringList>
 #include <QStringView>
 
 #include <deque>
@@ -19,7 +20,7 @@
 class PartStore final
 {
 public:
-    explicit PartStore(const BOMPartsDatabase *database)
+    explicit PartStore(const PartDatabase *database)
         : m_database(database)
     {
     }
@@ -27,23 +28,25 @@ public:
     /// Makes room for that many more parts.
     void reserve(size_t count);
 
-    /// Makes a part of a component; null when its reference is held already.
+    /// Makes a part of a component. Null when its reference is held already; it is then a duplicate.
     Part *add(const COMPONENT &component, const QString &reference);
-    /// Takes a part; null, and the part is gone, when its reference is held already.
+    /// Takes a part. Null, and the part is gone, when its reference is held already; it is then a duplicate.
     BOMPart *add(std::unique_ptr<BOMPart> part);
     /// Gives a part another value and other properties, by upper-case name.
     void change(BOMPart *part, const QString &value, const QMap<QString, QString> &properties);
-    /// Lets go of a part. Costs as much as all parts that are held.
+    /// Lets go of a part. Takes time in proportion to all parts that are held.
     void remove(const BOMPart *part);
 
-    /// The bytes of the components' values are not looked at any more.
+    /// To be called when all components were added: their bytes are not compared any more and may go.
     void endLoading() { m_values.forgetHostTexts(); }
     void clear();
 
     [[nodiscard]] Part *find(QStringView reference) const;
     [[nodiscard]] std::span<Part *const> parts() const { return m_parts; }
+    /// References that came again, once per extra occurrence.
+    [[nodiscard]] const QStringList &duplicates() const { return m_duplicates; }
 
-    /// References order as these numbers do. A further part may change them.
+    /// A number that orders parts as their references do. Adding a part may change the numbers of others.
     [[nodiscard]] quint64 orderKey(const Part &part) const
     {
         return quint64(prefixRanks()[part.key().prefix]) << 32 | quint32(part.key().number);
@@ -58,10 +61,11 @@ private:
     void insert(quint64 hash, Part *part, quint32 value);
     [[nodiscard]] quint32 prefixNumber(QStringView prefix);
 
-    const BOMPartsDatabase *m_database;
+    const PartDatabase *m_database;
     std::deque<Part> m_placed;
     std::vector<std::unique_ptr<BOMPart>> m_unplaced;
     std::vector<Part *> m_parts;
+    QStringList m_duplicates;
     HashIndex m_index;
     TextTable m_prefixes;
     TextTable m_values;

@@ -5,9 +5,7 @@
 #include "core/bomlinks.h"
 #include "core/bompart.h"
 #include "core/bompartsdatabase.h"
-#include "core/bulkchange.h"
-#include "core/hostbatch.h"
-#include "core/reportstream.h"
+#include "core/resultstream.h"
 #include "core/storedconversion.h"
 #include "host/framework/hosttext.h"
 #include "host/framework/hostui.h"
@@ -22,7 +20,7 @@
 namespace {
 
 constexpr qsizetype longestResult = 80;
-/// What parts name and value in a line of a script.
+/// What stands between name and value in a line of a script.
 constexpr char separator[] = "\"   :   \"";
 
 QString line(const QString &property, const QString &value)
@@ -35,7 +33,7 @@ bool breaksLine(const QString &text)
     return text.contains(u'\n') || text.contains(u'\r') || text.contains(QChar(u'\0'));
 }
 
-/// The text of a report may be long, but no more of the result is shown.
+/// What the host tells may be long, but no more of the result is shown.
 void append(const QString &text, QString *result)
 {
     if (result->size() <= longestResult) {
@@ -43,7 +41,178 @@ void append(const QString &text, QString *result)
     }
 }
 
+QString joinedMessages(const QList<CDBPROBLEM> &problems)
+{
+    QString text;
+    for (const CDBPROBLEM &problem : problems) {
+        append((text.isEmpty() ? QString() : QStringLiteral("\n")) + problem.message(), &text);
+    }
+    return text;
+}
+
+/// A batch of the host's component database, of which there must be one. It is not written when it goes out
+/// of scope without commit().
+class HostBatch final
+{
+public:
+    HostBatch() { getcdb()->beginbatch(); }
+    HostBatch(const HostBatch &) = delete;
+    HostBatch &operator=(const HostBatch &) = delete;
+    ~HostBatch()
+    {
+        if (!m_isDone) {
+            getcdb()->dropbatch();
+        }
+    }
+
+    [[nodiscard]] bool commit()
+    {
+        m_isDone = true;
+        return getcdb()->commitbatch();
+    }
+
+private:
+    bool m_isDone = false;
+};
+
+void defineLinksProperty()
+{
+    DIDX defined;
+    PROPTEXT text;
+    bool isKnown = load_defaultdefs(&defined, &text);
+    if (isKnown && !defined.find(bomLinksProperty())) {
+        text.add(QStringLiteral("PROPDEFS"),
+                 format_propdefs({bomLinksProperty(), PropType::String,
+                                  QStringLiteral("External links set in the BOM")}));
+        isKnown = save_defaultdefs(text);
+    }
+    if (!isKnown) {
+        HostUi::current().warning(
+            nullptr, PropertyAssignments::tr("Property Definitions"),
+            PropertyAssignments::tr(
+                "The property BOMLINKS could not be defined.  Please ensure 'PROPDEFS.INI' is writeable."));
+    }
+}
+
 } // namespace
+
+/// What pending assignments come to: the stored values that are to be written, or why they cannot be.
+/// BOM-only parts are changed in the database right away, which tells what their definitions must say.
+class PropertyAssignments::Batch
+{
+public:
+    Batch(const PropertyAssignments &assignments, const QMap<QString, Values> &wanted)
+        : m_assignments(assignments)
+        , m_database(assignments.m_database)
+    {
+        QMap<QString, Values> ofBOMParts;
+        for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
+            const Part *part = m_database->part(it.key());
+            if (part && part->isBOMPart()) {
+                ofBOMParts.insert(it.key(), it.value());
+            } else if (part) {
+                addPlaced(it.key(), it.value());
+            }
+        }
+        hasBOMParts = !ofBOMParts.isEmpty();
+        if (problems.isEmpty()) {
+            changeBOMParts(ofBOMParts);
+        }
+    }
+
+    void refuse(const QString &reference, const QString &property, const QString &reason)
+    {
+        problems.append({reference, property, {}, 0, reason});
+    }
+
+    /// By reference, what is written.
+    QMap<QString, Values> stored;
+    /// By parent, the properties that defined its BOM-only parts until now.
+    QMap<QString, QStringList> formerDefinitions;
+    QList<CDBPROBLEM> problems;
+    bool hasBOMParts = false;
+
+private:
+    void addPlaced(const QString &reference, const Values &values);
+    void changeBOMParts(const QMap<QString, Values> &wanted);
+    void changeBOMPart(const QString &reference, const Values &values);
+    void rewriteDefinitions(const QString &parent, const QStringList &former);
+    void add(const QString &reference, const QString &property, const QString &value);
+    /// Whether a script can carry the texts; otherwise they are refused.
+    bool canCarry(const QString &reference, const QString &property, const QString &value);
+
+    const PropertyAssignments &m_assignments;
+    BOMPartsDatabase *m_database;
+};
+
+void PropertyAssignments::Batch::addPlaced(const QString &reference, const Values &values)
+{
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        const QString text = m_assignments.storedValue(it.key(), it.value());
+        add(reference, it.key(), text.isEmpty() ? removal() : text);
+    }
+}
+
+void PropertyAssignments::Batch::add(const QString &reference, const QString &property, const QString &value)
+{
+    if (canCarry(reference, property, value)) {
+        stored[reference].insert(property, value);
+    }
+}
+
+bool PropertyAssignments::Batch::canCarry(const QString &reference, const QString &property,
+                                          const QString &value)
+{
+    const QString problem = scriptProblem(reference, property, value);
+    if (!problem.isEmpty()) {
+        refuse(reference, property, problem);
+    }
+    return problem.isEmpty();
+}
+
+/// The definitions of a parent that has changed parts are written anew, all of them.
+void PropertyAssignments::Batch::changeBOMParts(const QMap<QString, Values> &wanted)
+{
+    const BOMPartsDatabase::BulkChange change(m_database);
+    for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
+        changeBOMPart(it.key(), it.value());
+    }
+    for (auto it = formerDefinitions.cbegin(); it != formerDefinitions.cend(); ++it) {
+        rewriteDefinitions(it.key(), it.value());
+    }
+}
+
+void PropertyAssignments::Batch::changeBOMPart(const QString &reference, const Values &values)
+{
+    const QString parent = static_cast<const BOMPart *>(m_database->part(reference))->parentReference();
+    formerDefinitions.insert(parent, m_database->bomOnlyParts().propertyNames(parent));
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        const QString text = it.value() == removal() ? QString() : it.value();
+        if (breaksLine(text) || !m_database->setBOMPartProperty(reference, it.key(), text)) {
+            refuse(reference, it.key(), tr("A definition of BOM-only parts cannot hold this text"));
+        }
+    }
+}
+
+void PropertyAssignments::Batch::rewriteDefinitions(const QString &parent, const QStringList &former)
+{
+    for (const QString &name : former) {
+        (void)canCarry(parent, name, removal());
+    }
+    const Values placed = stored.value(parent);
+    for (auto it = placed.cbegin(); it != placed.cend(); ++it) {
+        if (it.key().startsWith(bomPartPropertyStart(), Qt::CaseInsensitive)) {
+            refuse(parent, it.key(), tr("A part that this defines is changed as well"));
+        }
+    }
+    const auto definitions = m_database->bomOnlyParts().rewritten(parent);
+    for (const DefinitionProperty &definition : definitions.value_or(QList<DefinitionProperty>())) {
+        add(parent, definition.name, definition.text);
+    }
+    if (!definitions) {
+        refuse(parent, bomPartPropertyStart(), tr("A definition of BOM-only parts cannot hold this text"));
+    }
+}
 
 PropertyAssignments::PropertyAssignments(BOMPartsDatabase *database, QObject *parent)
     : QObject(parent)
@@ -68,12 +237,12 @@ void PropertyAssignments::assignNow(const QString &reference, const QString &pro
         append(CDBPROBLEM{reference, property, {}, 0, problem}.message(), &m_result);
         return;
     }
-    ReportStream report;
+    ResultStream output;
     std::istringstream text(toHostText(script(reference, {{property, value}})).toStdString());
-    getcdb()->adi(text, report, 0);
+    getcdb()->adi(text, output, 0);
     const bool isWritten = batch.commit();
-    if (!report.saysNoErrors()) {
-        append(report.text(), &m_result);
+    if (!output.saysNoErrors()) {
+        append(output.text(), &m_result);
     } else if (!isWritten) {
         append(getcdb()->problems().value(0).message(), &m_result);
     }
@@ -81,46 +250,34 @@ void PropertyAssignments::assignNow(const QString &reference, const QString &pro
 
 QString PropertyAssignments::apply()
 {
+    return apply(ApplyOptions()).text;
+}
+
+ApplyResult PropertyAssignments::apply(const ApplyOptions &options)
+{
     m_result.clear();
-    m_problems.clear();
     if (m_pending.isEmpty()) {
-        return m_result;
+        return {};
     }
-    if (!m_isDryRun) {
+    if (!options.isDryRun) {
         defineLinksProperty();
     }
     const QMap<QString, Values> wanted = std::exchange(m_pending, {});
-    QMap<QString, Values> batch;
-    QMap<QString, Values> bomParts;
-    for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
-        const Part *part = m_database->part(it.key());
-        if (part && part->isBOMPart()) {
-            bomParts.insert(it.key(), it.value());
-        } else if (part) {
-            collectPlaced(it.key(), it.value(), &batch);
-        }
-    }
-    QMap<QString, QStringList> formerDefinitions;
-    if (m_problems.isEmpty()) {
-        collectBOMParts(bomParts, &batch, &formerDefinitions);
-    }
+    Batch batch(*this, wanted);
     if (!getcdb()) {
-        refuse({}, {}, tr("There is no component database"));
+        batch.refuse({}, {}, tr("There is no component database"));
     }
-    if (m_problems.isEmpty()) {
-        run(batch, formerDefinitions);
+    if (batch.problems.isEmpty()) {
+        run(&batch);
     }
-    if (!bomParts.isEmpty() && (m_isDryRun || !m_problems.isEmpty())) {
-        // They were changed already, to see whether that can be written.
+    if (batch.hasBOMParts && (options.isDryRun || !batch.problems.isEmpty())) {
+        // The batch changed them to see what their definitions must say.
         m_database->reload();
     }
-    if (!m_problems.isEmpty()) {
+    if (!batch.problems.isEmpty()) {
         m_pending = wanted;
         if (m_result.isEmpty()) {
-            for (const CDBPROBLEM &problem : std::as_const(m_problems)) {
-                append((m_result.isEmpty() ? QString() : QStringLiteral("\n")) + problem.message(),
-                       &m_result);
-            }
+            m_result = joinedMessages(batch.problems);
         }
     }
     if (m_result.isEmpty()) {
@@ -129,120 +286,31 @@ QString PropertyAssignments::apply()
     if (m_result.size() > longestResult) {
         m_result = m_result.left(longestResult) + QStringLiteral("...");
     }
-    return m_result;
+    return {m_result, batch.problems};
 }
 
-void PropertyAssignments::defineLinksProperty() const
-{
-    DIDX defined;
-    PROPTEXT text;
-    bool isKnown = load_defaultdefs(&defined, &text);
-    if (isKnown && !defined.find(bomLinksProperty())) {
-        text.add(QStringLiteral("PROPDEFS"),
-                 format_propdefs({bomLinksProperty(), PropType::String,
-                                  QStringLiteral("External links set in the BOM")}));
-        isKnown = save_defaultdefs(text);
-    }
-    if (!isKnown) {
-        HostUi::current().warning(
-            nullptr, tr("Property Definitions"),
-            tr("The property BOMLINKS could not be defined.  Please ensure 'PROPDEFS.INI' is writeable."));
-    }
-}
-
-void PropertyAssignments::refuse(const QString &reference, const QString &property, const QString &reason)
-{
-    m_problems.append({reference, property, {}, 0, reason});
-}
-
-bool PropertyAssignments::canCarry(const QString &reference, const QString &property, const QString &value)
-{
-    const QString problem = scriptProblem(reference, property, value);
-    if (!problem.isEmpty()) {
-        refuse(reference, property, problem);
-    }
-    return problem.isEmpty();
-}
-
-void PropertyAssignments::collectPlaced(const QString &reference, const Values &values,
-                                        QMap<QString, Values> *batch)
-{
-    for (auto it = values.cbegin(); it != values.cend(); ++it) {
-        const QString stored = storedValue(it.key(), it.value());
-        if (canCarry(reference, it.key(), stored)) {
-            (*batch)[reference].insert(it.key(), stored.isEmpty() ? removal() : stored);
-        }
-    }
-}
-
-/// The definitions of a parent that has changed parts are written anew, all of them.
-void PropertyAssignments::collectBOMParts(const QMap<QString, Values> &assignments,
-                                          QMap<QString, Values> *batch,
-                                          QMap<QString, QStringList> *formerDefinitions)
-{
-    const BOMPartsDatabase::BulkChange change(m_database);
-    for (auto it = assignments.cbegin(); it != assignments.cend(); ++it) {
-        const auto *part = static_cast<const BOMPart *>(m_database->part(it.key()));
-        const QString parent = part->parentReference();
-        formerDefinitions->insert(parent, m_database->bomPartPropertyNames(parent));
-        for (auto value = it->cbegin(); value != it->cend(); ++value) {
-            const QString text = *value == removal() ? QString() : *value;
-            if (breaksLine(text) || !m_database->setBOMPartProperty(it.key(), value.key(), text)) {
-                refuse(it.key(), value.key(), tr("A definition of BOM-only parts cannot hold this text"));
-            }
-        }
-    }
-    for (auto it = formerDefinitions->cbegin(); it != formerDefinitions->cend(); ++it) {
-        refuseBlockedDefinitions(it.key(), *it, batch->value(it.key()));
-        const auto definitions = m_database->rewrittenDefinitions(it.key());
-        for (const DefinitionProperty &definition : definitions.value_or(QList<DefinitionProperty>())) {
-            if (canCarry(it.key(), definition.name, definition.text)) {
-                (*batch)[it.key()].insert(definition.name, definition.text);
-            }
-        }
-        if (!definitions) {
-            refuse(it.key(), bomPartPropertyStart(),
-                   tr("A definition of BOM-only parts cannot hold this text"));
-        }
-    }
-}
-
-/// What keeps the definitions of a parent from being written anew.
-void PropertyAssignments::refuseBlockedDefinitions(const QString &parent, const QStringList &former,
-                                                   const Values &placed)
-{
-    for (const QString &name : former) {
-        (void)canCarry(parent, name, removal());
-    }
-    for (auto it = placed.cbegin(); it != placed.cend(); ++it) {
-        if (it.key().startsWith(bomPartPropertyStart(), Qt::CaseInsensitive)) {
-            refuse(parent, it.key(), tr("A part that this defines is changed as well"));
-        }
-    }
-}
-
-void PropertyAssignments::run(const QMap<QString, Values> &batch,
-                              const QMap<QString, QStringList> &formerDefinitions)
+void PropertyAssignments::run(Batch *batch)
 {
     HostBatch hostBatch;
-    for (auto it = formerDefinitions.cbegin(); it != formerDefinitions.cend(); ++it) {
+    for (auto it = batch->formerDefinitions.cbegin(); it != batch->formerDefinitions.cend(); ++it) {
         for (const QString &name : *it) {
             assignNow(it.key(), name, removal());
         }
     }
-    ReportStream report;
-    for (auto it = batch.cbegin(); it != batch.cend(); ++it) {
+    ResultStream output;
+    for (auto it = batch->stored.cbegin(); it != batch->stored.cend(); ++it) {
         std::istringstream text(toHostText(script(it.key(), *it)).toStdString());
-        getcdb()->adi(text, report, 0);
-        if (!report.saysNoErrors() && m_result.size() <= longestResult) {
-            append(report.text(), &m_result);
+        getcdb()->adi(text, output, 0);
+        if (!output.saysNoErrors() && m_result.size() <= longestResult) {
+            append(output.text(), &m_result);
         }
-        report.clear();
+        // Clears the state flags only: what was written stays and is looked at again.
+        output.clear();
     }
     if (!hostBatch.commit()) {
-        m_problems = getcdb()->problems();
-        if (m_problems.isEmpty()) {
-            refuse({}, {}, tr("The component database did not say why nothing was written"));
+        batch->problems = getcdb()->problems();
+        if (batch->problems.isEmpty()) {
+            batch->refuse({}, {}, tr("The component database did not say why nothing was written"));
         }
     }
 }

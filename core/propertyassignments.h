@@ -11,8 +11,26 @@
 
 class BOMPartsDatabase;
 
+/// How assignments are written.
+struct ApplyOptions
+{
+    /// The host is only asked what would be written; nothing else is written either.
+    bool isDryRun = false;
+};
+
+/// What came of writing assignments.
+struct ApplyResult
+{
+    /// To be shown, at most 80 characters and "..."; empty when nothing was pending.
+    QString text;
+    /// All that kept the assignments from being written, uncut. They are written when there is none.
+    QList<CDBPROBLEM> problems;
+
+    bool operator==(const ApplyResult &) const = default;
+};
+
 /// Property values that people have set and that are not in the design yet. They are written in one batch
-/// through the host's component database; what the design is then, the host tells as with any other change.
+/// through the host's component database, which then reports the changed design as after any other change.
 class PropertyAssignments final : public QObject
 {
     Q_OBJECT
@@ -37,18 +55,14 @@ public:
     [[nodiscard]] const QMap<QString, Values> &pending() const { return m_pending; }
     void clear() { m_pending.clear(); }
 
-    /// The host is only asked what would be written; nothing else is written either.
-    void setDryRun(bool isDryRun) { m_isDryRun = isDryRun; }
-
     /// Writes all pending assignments, placed parts by script, BOM-only parts into the definitions of their
     /// parents; references that the database does not hold are passed over. All or nothing is written; what
-    /// is refused stays pending. Gives the text to be shown, at most 80 characters and "..."; empty when
-    /// nothing was pending.
+    /// is refused stays pending.
+    ApplyResult apply(const ApplyOptions &options);
+    /// The same without options; gives the text to be shown.
     QString apply();
-    /// What the last apply() gave, and what assignNow() reported since.
+    /// The text of the last apply(), with what assignNow() reported since.
     [[nodiscard]] const QString &result() const { return m_result; }
-    /// All that kept the last apply() from writing, uncut.
-    [[nodiscard]] const QList<CDBPROBLEM> &problems() const { return m_problems; }
 
     /// Whether people may enter that text for a property: a property of two states takes them as shown or as
     /// stored (Yes or 1), a number must be one. Empty and removal() are always accepted.
@@ -63,19 +77,11 @@ public:
                                                const QString &value);
 
 private:
-    void defineLinksProperty() const;
-    void refuse(const QString &reference, const QString &property, const QString &reason);
-    /// Whether a script can; refuses the text otherwise.
-    bool canCarry(const QString &reference, const QString &property, const QString &value);
-    void collectPlaced(const QString &reference, const Values &values, QMap<QString, Values> *batch);
-    void collectBOMParts(const QMap<QString, Values> &assignments, QMap<QString, Values> *batch,
-                         QMap<QString, QStringList> *formerDefinitions);
-    void refuseBlockedDefinitions(const QString &parent, const QStringList &former, const Values &placed);
-    void run(const QMap<QString, Values> &batch, const QMap<QString, QStringList> &formerDefinitions);
+    class Batch;
+
+    void run(Batch *batch);
 
     BOMPartsDatabase *m_database;
-    bool m_isDryRun = false;
     QMap<QString, Values> m_pending;
     QString m_result;
-    QList<CDBPROBLEM> m_problems;
 };

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "core/propertyquery.h"
 
-#include "core/part.h"
 #include "host/framework/hosttext.h"
 #include "host/netlist/cdbcore.h"
 #include "host/netlist/component.h"
+
+#include <QCoreApplication>
 
 namespace {
 
@@ -33,6 +34,17 @@ QString nameProperty()
     return QStringLiteral(".Name");
 }
 
+QMap<QString, QString> pseudoPropertyNames()
+{
+    return {{placedProperty(), QCoreApplication::translate("BOMPartsDatabase", "Placed")},
+            {nameProperty(), QCoreApplication::translate("BOMPartsDatabase", "Name")}};
+}
+
+QStringList standardPropertyNames()
+{
+    return pseudoPropertyNames().keys() << valueProperty() << QStringLiteral("PACKAGE");
+}
+
 PropertyQuery::PropertyQuery(const QString &name, const PropertyTypes *types)
     : m_name(name)
     , m_source(sourceOf(name))
@@ -41,19 +53,13 @@ PropertyQuery::PropertyQuery(const QString &name, const PropertyTypes *types)
 {
 }
 
-QString PropertyQuery::text(const Part &part) const
+QString PropertyQuery::text(const COMPONENT *component, const QString &value) const
 {
-    return part.isBOMPart() ? part.property(m_name) : placedText(part);
+    return m_source == Source::Value ? value : m_display(fromHostText(hostText(component)));
 }
 
-QString PropertyQuery::placedText(const Part &part) const
+QByteArrayView PropertyQuery::hostText(const COMPONENT *component) const
 {
-    return m_source == Source::Value ? part.value() : m_display(fromHostText(hostText(part)));
-}
-
-QByteArrayView PropertyQuery::hostText(const Part &part) const
-{
-    const COMPONENT *component = part.component();
     if (!component) {
         return {};
     }

@@ -6,17 +6,25 @@
 #include "host/netlist/proplist.h"
 
 #include <QByteArrayView>
+#include <QMap>
 #include <QString>
+#include <QStringList>
 
-class Part;
+struct COMPONENT;
 
-/// The names of properties that are no stored ones.
+/// The names of properties that every part has: the value, and the pseudo-properties for where it is placed
+/// and what the component is called.
 [[nodiscard]] QString valueProperty();
 [[nodiscard]] QString placedProperty();
 [[nodiscard]] QString nameProperty();
 
-/// One property, prepared for being asked of many parts. Serves until the definitions or the number format
-/// change.
+/// The pseudo-properties with the names that people see.
+[[nodiscard]] QMap<QString, QString> pseudoPropertyNames();
+/// The properties that are offered for every design.
+[[nodiscard]] QStringList standardPropertyNames();
+
+/// One property, prepared for being asked of many parts; see Part::property(). Serves until the definitions
+/// or the number format change.
 class PropertyQuery final
 {
 public:
@@ -25,15 +33,12 @@ public:
 
     [[nodiscard]] const QString &name() const { return m_name; }
 
-    /// What Part::property() answers.
-    [[nodiscard]] QString text(const Part &part) const;
+    /// The text for a part of the design; `value` is the part's value, without a component all else is empty.
+    [[nodiscard]] QString text(const COMPONENT *component, const QString &value) const;
 
-    /// The same for a part of the design.
-    [[nodiscard]] QString placedText(const Part &part) const;
-
-    /// The host text that text() is made from, for a part of the design and any property but the value: equal
-    /// host texts of one property give equal texts.
-    [[nodiscard]] QByteArrayView hostText(const Part &part) const;
+    /// The host text that text() is made from, for any property but the value: equal host texts of one
+    /// property give equal texts.
+    [[nodiscard]] QByteArrayView hostText(const COMPONENT *component) const;
 
 private:
     enum class Source

@@ -18,8 +18,8 @@ struct ReferenceStyle
     int lines = 1;
 };
 
-/// The references as one text. They are put into reference order first where limits or ranges apply; without
-/// ranges and with less than two text lines they are joined as they come, whatever the width.
+/// The references as one text, sorted by reference order. Without ranges and with less than two text lines,
+/// and without limits, they are joined as they come, whatever the width.
 [[nodiscard]] QString formatReferences(const QStringList &references, const ReferenceStyle &style);
 
 /// The same for references that stand in reference order already.

@@ -7,7 +7,7 @@
 
 void ReferenceNumbers::note(QStringView reference)
 {
-    // Longer ones are no 32-bit numbers, except those with many zeros in front, which nobody writes.
+    // More digits make no 32-bit number, except with many zeros in front, which nobody writes.
     constexpr int mostDigits = 18;
     qint64 number = 0;
     qint64 weight = 1;

@@ -10,6 +10,8 @@
 
 #include <vector>
 
+class PartStore;
+
 /// A line that a report leaves out: its first reference compares equal to that of a later one.
 struct ReplacedLine
 {

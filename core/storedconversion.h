@@ -19,7 +19,8 @@ public:
     /// letter case, or a number in the user's format. An empty text always is.
     [[nodiscard]] bool accepts(const QString &shown) const;
 
-    /// Another text than the ones accepted counts as the lower state; in numbers it stays.
+    /// The stored text. One that is not accepted gives the lower state of a type with two, and stays in a
+    /// number.
     [[nodiscard]] QString operator()(const QString &shown) const;
 
 private:

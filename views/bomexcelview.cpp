@@ -159,7 +159,7 @@ BOMExcelView::Block BOMExcelView::writeCategory(Spreadsheet &sheet, const QStrin
     sheet.text(categoryColumn, tr("%1 %2", "BOM category headings in spreadsheets").arg(count, category),
                CellLook::Section);
     fillRow(sheet, categoryColumn + 1, lastColumn(), CellLook::Section);
-    const ReportLines report = database()->reportLines(category, true);
+    const ReportLines report = database()->categories().reportLines(category, true);
     Block block;
     block.firstRow = sheet.row() + 1;
     block.isComplete = report.replaced.isEmpty();
@@ -182,7 +182,7 @@ void BOMExcelView::writeLine(Spreadsheet &sheet, const QString &category, BomLin
     for (int i = 0; i < int(m_columns.size()); ++i) {
         writeValue(sheet, i, *line.front());
     }
-    writeReferences(sheet, database()->formatReferences(line, UnlimitedWidth, 1));
+    writeReferences(sheet, database()->categories().formatReferences(line, UnlimitedWidth, 1));
 }
 
 void BOMExcelView::writeValue(Spreadsheet &sheet, int column, const Part &part) const

@@ -216,7 +216,7 @@ QList<int> BOMHTMLView::manualWidths() const
     QList<int> widths{clamped(settings.prettyQuantityWidth()), clamped(settings.prettyRefWidth())};
     qint64 sum = widths[0] + widths[1];
     // A field without a width leaves its place to the next one.
-    for (const BOMField &field : database()->fields().fields()) {
+    for (const BOMField &field : database()->currentTemplate().fields().fields()) {
         const int width = clamped(field.manualWidth);
         sum += width;
         if (sum <= 100 && width > 0) {

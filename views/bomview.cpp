@@ -52,7 +52,7 @@ void BOMView::updateFields()
     if (!m_isValid) {
         return;
     }
-    m_fields = m_database->fields();
+    m_fields = m_database->currentTemplate().fields();
     m_locale = HostUi::current().locale();
     m_hasColumns = false;
 }
@@ -137,7 +137,7 @@ QString BOMView::truncateToFieldWidth(const QString &value, const QString &field
 
 QString BOMView::cellText(const Part &part, const ReportColumn &column, bool formatted) const
 {
-    const QString value = column.property.text(part);
+    const QString value = part.property(column.property);
     return formatted ? formatCell(value, column) : value;
 }
 
@@ -176,9 +176,10 @@ const std::vector<ReportColumn> &BOMView::columns() const
     }
     m_columns.clear();
     if (m_database) {
+        const PropertyTypes &types = m_database->propertyTypes();
         for (const BOMField &field : m_fields.fields()) {
-            m_columns.push_back({field, m_database->propertyQuery(field.propertyName),
-                                 m_database->isNumeric(field.propertyName)});
+            m_columns.push_back(
+                {field, PropertyQuery(field.propertyName, &types), types.isNumeric(field.propertyName)});
         }
     }
     m_columnsGeneration = generation;
@@ -202,13 +203,14 @@ void BOMView::visitRows(const QString &category, bool grouped, int width, int li
         return;
     }
     const std::vector<ReportColumn> &cells = columns();
-    const ReportLines report = m_database->reportLines(category, grouped);
+    const ReportLines report = m_database->categories().reportLines(category, grouped);
     for (const BomLine line : report.lines) {
         const Part &first = *line.front();
         QStringList row;
         row.reserve(qsizetype(cells.size()) + 2);
         if (grouped) {
-            row << QString::number(line.size()) << m_database->formatReferences(line, width, lines);
+            row << QString::number(line.size())
+                << m_database->categories().formatReferences(line, width, lines);
         } else {
             row << first.reference();
         }
@@ -237,7 +239,7 @@ QString BOMView::numberText(double number, const BOMField &field) const
 
 void BOMView::addToSums(const QString &category, std::vector<double> &sums) const
 {
-    const GroupedLines *lines = m_database->categoryLines(category);
+    const GroupedLines *lines = m_database->categories().groupedLines(category);
     const std::vector<ReportColumn> &all = columns();
     for (size_t i = 0; i < all.size(); ++i) {
         if (!all[i].field.generateTotals || !lines) {

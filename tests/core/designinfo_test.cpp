@@ -1,39 +1,26 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "core/bompartsdatabase.h"
-#include "support/fakeprocess.h"
-#include "support/printtext.h"
-
-#include <gtest/gtest.h>
+#include "core/coredesign.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-class DesignInfo : public testing::Test
-{
-protected:
-    FakeProcess process;
-    BOMPartsDatabase database;
-};
+using DesignInfo = CoreDesign;
 
-TEST_F(DesignInfo, asksTheDocument)
+TEST_F(DesignInfo, AsksTheDocument)
 {
     process.design.info = {{"AUTHOR", u"A"_s},   {"DOCNO", u"D"_s},    {"REV", u"<NONE>"_s},
                            {"WL_CDATE", u"c"_s}, {"WL_MDATE", u"m"_s}, {"OTHER", u"o"_s}};
-    EXPECT_EQ(database.designAuthor(), u"A"_s);
-    EXPECT_EQ(database.designDocumentNumber(), u"D"_s);
-    EXPECT_EQ(database.designRevision(), QString());
-    EXPECT_EQ(database.designCreated(), u"c"_s);
-    EXPECT_EQ(database.designModified(), u"m"_s);
-    EXPECT_EQ(database.designInfo("OTHER"), u"o"_s);
+    const QStringList all{database.designAuthor(),   database.designDocumentNumber(),
+                          database.designRevision(), database.designCreated(),
+                          database.designModified(), database.designInfo("OTHER")};
+    EXPECT_EQ(joined(all), "A | D |  | c | m | o");
 }
 
-TEST_F(DesignInfo, isEmptyWithoutDocumentOrProcess)
+TEST_F(DesignInfo, IsEmptyWithoutDocumentOrProcess)
 {
     process.hasDesign = false;
     EXPECT_EQ(database.designInfo("TITLE"), QString());
@@ -45,7 +32,7 @@ TEST_F(DesignInfo, isEmptyWithoutDocumentOrProcess)
               QDir::currentPath() + u"/Bill Of Materials unknown.csv"_s);
 }
 
-TEST_F(DesignInfo, titleFallsBackOnTheFileName)
+TEST_F(DesignInfo, TakesTheFileNameWithoutATitle)
 {
     process.design.info = {{"TITLE", u"Amplifier"_s}, {"FILENAME", u"C:/x/amp.rev2.dsn"_s}};
     EXPECT_EQ(database.designTitle(), u"Amplifier"_s);
@@ -55,7 +42,7 @@ TEST_F(DesignInfo, titleFallsBackOnTheFileName)
     }
 }
 
-TEST_F(DesignInfo, aBoardHasNoVariant)
+TEST_F(DesignInfo, HasNoVariantForABoard)
 {
     process.design.properties["VARIANT"] = "Economy \xc2\xb5";
     EXPECT_EQ(database.designVariant(), u"Economy µ"_s);
@@ -63,25 +50,20 @@ TEST_F(DesignInfo, aBoardHasNoVariant)
     EXPECT_EQ(database.designVariant(), QString());
 }
 
-TEST_F(DesignInfo, outputNameHasNoForbiddenCharacters)
+TEST_F(DesignInfo, NamesOutputsWithoutForbiddenCharacters)
 {
-    const struct
-    {
-        const char16_t *title, *name;
-    } cases[] = {
-        {u"a/b:c?d", u"Bill Of Materials abcd.csv"},   {u"\\/:*?\"<>|", u"Bill Of Materials.csv"},
-        {u"<NONE>", u"Bill Of Materials unknown.csv"}, {u"", u"Bill Of Materials unknown.csv"},
-        {u" amp ", u"Bill Of Materials  amp.csv"},     {u"5%1 #2", u"Bill Of Materials 5%1 #2.csv"},
-        {u"..", u"Bill Of Materials ...csv"},
+    const std::pair<QString, QString> cases[] = {
+        {u"a/b:c?d"_s, u"Bill Of Materials abcd.csv"_s},   {u"\\/:*?\"<>|"_s, u"Bill Of Materials.csv"_s},
+        {u"<NONE>"_s, u"Bill Of Materials unknown.csv"_s}, {u" amp "_s, u"Bill Of Materials  amp.csv"_s},
+        {u"5%1 #2"_s, u"Bill Of Materials 5%1 #2.csv"_s},  {u".."_s, u"Bill Of Materials ...csv"_s},
     };
-    for (const auto &expected : cases) {
-        process.design.info["TITLE"] = QString::fromUtf16(expected.title);
-        EXPECT_EQ(database.defaultOutputPath(u".csv"_s),
-                  QDir::currentPath() + u'/' + QString::fromUtf16(expected.name));
+    for (const auto &[title, name] : cases) {
+        process.design.info["TITLE"] = title;
+        EXPECT_EQ(database.defaultOutputPath(u".csv"_s), QDir::currentPath() + u'/' + name);
     }
 }
 
-TEST_F(DesignInfo, outputFolderIsTheUsersWhenStartedInPlace)
+TEST_F(DesignInfo, PutsOutputsIntoTheUsersFolderWhenStartedInPlace)
 {
     const QTemporaryDir folder;
     process.design.info["TITLE"] = u"amp"_s;

@@ -1,18 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "core/bompartsdatabase.h"
 #include "core/bomstring.h"
+#include "core/coredesign.h"
 #include "core/reference.h"
-#include "support/fakenetlist.h"
-#include "support/printtext.h"
-
-#include <gtest/gtest.h>
-
-#include <QMap>
 
 #include <random>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -45,14 +37,22 @@ void expectPlainLines(const BOMPartsDatabase &database, const QString &category)
 {
     const Lines lines = plainLines(database, category);
     QStringList values;
+    QStringList all;
     QList<QPair<QString, int>> summaries;
     for (auto value = lines.cbegin(); value != lines.cend(); ++value) {
         values << value.key();
         EXPECT_EQ(database.groupLines(category, value.key()), value.value().values());
+        QStringList references;
         for (const QStringList &line : value.value()) {
+            references << line;
             summaries.append({line.first(), int(line.size())});
         }
+        sortReferences(references);
+        EXPECT_EQ(database.valueReferences(category, value.key()), references);
+        all << references;
     }
+    sortReferences(all);
+    EXPECT_EQ(database.categoryReferences(category), all);
     EXPECT_EQ(database.categoryValues(category), values);
     EXPECT_EQ(database.lineSummaries(category), summaries);
     EXPECT_EQ(database.lineCount(category), int(summaries.size()));
@@ -84,31 +84,33 @@ void fill(FakeNetlist &netlist, std::mt19937 &random)
     }
 }
 
-TEST(GroupingModel, agreesWithThePlainOneOnRandomDesigns)
+TEST(GroupingModel, AgreesWithThePlainOneOnRandomDesigns)
 {
     std::mt19937 random(20261);
+    BOMTemplate settings;
+    BOMFields fields = settings.fields();
+    BOMField fitted;
+    fitted.fieldName = fitted.propertyName = u"DNP"_s;
+    fields.add(fitted);
+    settings.setFields(fields);
     for (int round = 0; round < 60; ++round) {
         FakeNetlist netlist;
         fill(netlist, random);
-        BOMTemplate settings;
-        settings.setCaseSensitiveGrouping(round % 2 == 0);
-        BOMFields fields = settings.fields();
-        BOMField fitted;
-        fitted.fieldName = fitted.propertyName = u"DNP"_s;
-        fields.add(fitted);
-        settings.setFields(fields);
         BOMPartsDatabase database;
-        database.setCurrentTemplate(settings);
         database.setNetlist(netlist.cache());
         database.load();
-        qsizetype held = 0;
-        for (const QString &category : database.categoryNames()) {
-            expectPlainLines(database, category);
-            held += database.partCount(category);
+        for (const bool isCaseSensitive : {round % 2 == 0, round % 2 != 0}) {
+            settings.setCaseSensitiveGrouping(isCaseSensitive);
+            database.setCurrentTemplate(settings);
+            qsizetype held = 0;
+            for (const QString &category : database.categoryNames()) {
+                expectPlainLines(database, category);
+                held += database.partCount(category);
+            }
+            EXPECT_EQ(held, qsizetype(database.parts().size()));
+            EXPECT_EQ(held + database.duplicateReferences().size(),
+                      qsizetype(netlist.cache()->components.size()));
         }
-        EXPECT_EQ(held, qsizetype(database.parts().size()));
-        EXPECT_EQ(held + database.duplicateReferences().size(),
-                  qsizetype(netlist.cache()->components.size()));
     }
 }
 

@@ -1,26 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "core/bomlinks.h"
-#include "core/bompartsdatabase.h"
-#include "support/fakenetlist.h"
-#include "support/fakeprocess.h"
-#include "support/printtext.h"
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
+#include "core/coredesign.h"
 
 namespace {
 
 using Links = QMap<QString, QString>;
+using LinksOfParts = CoreDesign;
+using Notes = CoreDesign;
 
-TEST(Links, areReadItemByItem)
+TEST(Links, AreReadItemByItem)
 {
     EXPECT_EQ(readBOMLinks(u"DATASHEET=docs%2Fa%2Cb.pdf,none,=x,B=a=b,,C=gr%C3%B6\u00dfe"_s),
               (Links{{u"DATASHEET"_s, u"docs/a,b.pdf"_s}, {u"B"_s, u"a=b"_s}, {u"C"_s, u"größe"_s}}));
 }
 
-TEST(Links, areWrittenSoThatTheyReadTheSame)
+TEST(Links, AreWrittenSoThatTheyReadTheSame)
 {
     const Links links{{u"MPN"_s, u"https://x.org/a,b?c=d&e=%2C#f"_s}, {u"CODE"_s, u"Größe.pdf"_s}};
     const auto text = bomLinksText(links);
@@ -32,22 +27,15 @@ TEST(Links, areWrittenSoThatTheyReadTheSame)
     EXPECT_FALSE(bomLinksText({{u"a=b"_s, u"x"_s}}));
 }
 
-TEST(Links, belongToParts)
+TEST_F(LinksOfParts, AreFoundWhateverTheLetterCase)
 {
-    FakeNetlist netlist;
-    netlist.add("U1", "reg", {{"BOMLINKS", "Mpn=a.pdf,MPN=b.pdf"}});
-    netlist.add("U2", "reg", {{"BOMLINKS", ""}});
-    BOMPartsDatabase database;
-    database.setNetlist(netlist.cache());
-    database.load();
-    EXPECT_EQ(database.links(u"U1"_s).size(), 2);
+    load({{"U1", "reg", {{"BOMLINKS", "Mpn=a.pdf,MPN=b.pdf"}}}, {"U2", "reg", {{"BOMLINKS", ""}}}});
     EXPECT_EQ(database.link(u"U1"_s, u"MPN"_s), u"b.pdf"_s);
     EXPECT_EQ(database.link(u"U1"_s, u"Mpn"_s), u"a.pdf"_s);
     EXPECT_NE(database.link(u"U1"_s, u"mpn"_s), QString());
     EXPECT_EQ(database.link(u"U1"_s, u"CODE"_s), QString());
     EXPECT_EQ(database.link(u"U2"_s, u"MPN"_s), QString());
     database.setLinks(u"U1"_s, u"no link"_s);
-    database.setLinks(u"U1"_s, QString());
     EXPECT_EQ(database.links(u"U1"_s).size(), 2);
     database.setLinks(u"U1"_s, u"CODE=c"_s);
     EXPECT_EQ(database.links(u"U1"_s), (Links{{u"CODE"_s, u"c"_s}}));
@@ -55,31 +43,23 @@ TEST(Links, belongToParts)
     EXPECT_TRUE(database.links(u"U1"_s).isEmpty());
 }
 
-TEST(Notes, areWrittenIntoTheDesignWhenTheyDiffer)
+TEST_F(Notes, AreWrittenIntoTheDesignWhenTheyDiffer)
 {
-    FakeProcess process;
-    FakeNetlist netlist;
-    BOMPartsDatabase database;
-    database.setNetlist(netlist.cache());
     process.design.attachments["BOMNOTES.TXT"] = u"old"_s;
     database.load();
-    int changes = 0;
-    QObject::connect(&database, &BOMPartsDatabase::dataChanged, &database, [&changes] { ++changes; });
+    takeChanges();
     process.design.attachmentProblem = u"disk full"_s;
-    EXPECT_TRUE(database.setNotes(u"old"_s)) << "nothing to write";
-    EXPECT_FALSE(database.setNotes(u"new"_s));
+    EXPECT_EQ(database.setNotes(u"old"_s), std::nullopt) << "nothing to write";
+    EXPECT_EQ(database.setNotes(u"new"_s), u"disk full"_s);
     EXPECT_EQ(database.notes(), u"old"_s);
-    EXPECT_EQ(database.notesError(), u"disk full"_s);
-    EXPECT_EQ(changes, 0);
+    EXPECT_EQ(takeChanges(), 0);
     process.design.attachmentProblem.clear();
-    EXPECT_TRUE(database.setNotes(u"new"_s));
+    EXPECT_EQ(database.setNotes(u"new"_s), std::nullopt);
     EXPECT_EQ(process.design.attachments["BOMNOTES.TXT"], u"new"_s);
     EXPECT_EQ(database.notes(), u"new"_s);
-    EXPECT_EQ(database.notesError(), QString());
-    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(takeChanges(), 1);
     process.hasDesign = false;
-    EXPECT_FALSE(database.setNotes(u"x"_s));
-    EXPECT_FALSE(database.notesError().isEmpty());
+    EXPECT_NE(database.setNotes(u"x"_s).value_or(QString()), QString());
 }
 
 } // namespace

@@ -1,99 +1,64 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "core/bompartsdatabase.h"
-#include "host/netlist/component.h"
-#include "support/fakenetlist.h"
-#include "support/fakeprocess.h"
-#include "support/printtext.h"
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
+#include "core/coredesign.h"
 
 namespace {
 
-class Loading : public testing::Test
+class Loading : public CoreDesign
 {
 protected:
     Loading()
     {
-        database.setNetlist(netlist.cache());
-        QObject::connect(&database, &BOMPartsDatabase::dataChanged, &database, [this] { ++changes; });
         QObject::connect(&database, &BOMPartsDatabase::currentTemplateModified, &database,
                          [this](bool modified) { modifications.append(modified); });
     }
 
-    [[nodiscard]] QStringList references() const
-    {
-        QStringList all;
-        for (const Part *part : database.parts()) {
-            all << part->reference();
-        }
-        return all;
-    }
-    int takeChanges() { return std::exchange(changes, 0); }
-
-    FakeProcess process;
-    FakeNetlist netlist;
-    BOMPartsDatabase database;
-    int changes = 0;
     QList<bool> modifications;
 };
 
-TEST_F(Loading, takesEveryComponentThatIsNotSkipped)
+TEST_F(Loading, TakesEveryComponentThatIsNotSkipped)
 {
-    netlist.add("R2", "1k");
     netlist.addNull();
-    netlist.add("R1", "10k", {{"BOMSKIP", ""}});
-    netlist.add("C1", "1\xc2\xb5", {{"bomskip", "1"}});
-    database.load();
-    EXPECT_EQ(references(), (QStringList{u"R2"_s, u"C1"_s}));
-    ASSERT_NE(database.part(u"C1"_s), nullptr);
-    EXPECT_EQ(database.part(u"C1"_s)->value(), u"1µ"_s);
-    EXPECT_EQ(database.part(u"R1"_s), nullptr);
+    load({{"R2", "1k"},
+          {"R1", "10k", {{"BOMSKIP", ""}, {"BOMPART1", "1,SCR,M3"}, {"BOMLINKS", "A=b"}}},
+          {"C1", "1\xc2\xb5", {{"bomskip", "1"}}}});
+    EXPECT_EQ(references(), "R2 | C1");
+    EXPECT_EQ(database.property(u"C1"_s, u"VALUE"_s), u"1µ"_s);
+    EXPECT_TRUE(database.links(u"R1"_s).isEmpty());
     EXPECT_EQ(takeChanges(), 1);
 }
 
-TEST_F(Loading, recordsEveryExtraOccurrence)
+TEST_F(Loading, RecordsEveryExtraOccurrence)
 {
-    for (const char *value : {"1k", "2k", "3k"}) {
-        netlist.add("R1", value);
-    }
-    netlist.add("r1", "4k");
-    database.load();
-    EXPECT_EQ(references(), (QStringList{u"R1"_s, u"r1"_s}));
+    load({{"R1", "1k"}, {"R1", "2k"}, {"R1", "3k"}, {"r1", "4k"}});
+    EXPECT_EQ(references(), "R1 | r1");
     EXPECT_EQ(database.property(u"R1"_s, u"VALUE"_s), u"1k"_s);
-    EXPECT_EQ(database.duplicateReferences(), (QStringList{u"R1"_s, u"R1"_s}));
+    EXPECT_EQ(joined(database.duplicateReferences()), "R1 | R1");
     database.clear();
-    EXPECT_EQ(database.duplicateReferences(), QStringList());
+    EXPECT_EQ(joined(database.duplicateReferences()), "");
 }
 
-TEST_F(Loading, needsACommonBitInTheMasks)
+TEST_F(Loading, NeedsACommonBitInTheMasks)
 {
-    netlist.add("R1", "1k");
     netlist.cache()->validMask = 6;
     netlist.cache()->wantedMask = 8;
-    database.load();
-    EXPECT_EQ(references(), QStringList());
+    load({{"R1", "1k"}});
+    EXPECT_EQ(references(), "");
     netlist.cache()->wantedMask = 12;
     database.reload();
-    EXPECT_EQ(references(), QStringList{u"R1"_s});
+    EXPECT_EQ(references(), "R1");
 }
 
-TEST_F(Loading, withoutNetlistDoesNothing)
+TEST_F(Loading, ReadsTheNotesOfADesignWithANetlist)
 {
-    process.design.attachments["BOMNOTES.TXT"] = u"note"_s;
+    process.design.attachments["BOMNOTES.TXT"] = u"first\nsecond"_s;
     database.setNetlist(nullptr);
     database.load();
     EXPECT_EQ(takeChanges(), 0);
     EXPECT_EQ(database.notes(), QString());
     database.reload();
     EXPECT_EQ(takeChanges(), 1);
-}
-
-TEST_F(Loading, readsTheNotes)
-{
-    process.design.attachments["BOMNOTES.TXT"] = u"first\nsecond"_s;
+    database.setNetlist(netlist.cache());
     database.load();
     EXPECT_EQ(database.notes(), u"first\nsecond"_s);
     process.hasDesign = false;
@@ -101,25 +66,9 @@ TEST_F(Loading, readsTheNotes)
     EXPECT_EQ(database.notes(), QString());
 }
 
-TEST_F(Loading, replacesTheDesignWithOneNotice)
+TEST_F(Loading, SendsOneNoticePerBulkChange)
 {
-    netlist.add("R1", "1k");
-    database.load();
-    takeChanges();
-    netlist.clear();
-    netlist.add("R2", "2k");
-    database.reload();
-    EXPECT_EQ(references(), QStringList{u"R2"_s});
-    EXPECT_EQ(database.part(u"R1"_s), nullptr);
-    EXPECT_EQ(takeChanges(), 1);
-}
-
-TEST_F(Loading, sendsOneNoticePerBulkChange)
-{
-    for (int i = 0; i < 10; ++i) {
-        netlist.add("R" + QByteArray::number(i), "1k");
-    }
-    database.load();
+    load({{"R1", "1k"}, {"R2", "1k"}, {"C1", "1u", {{"BOMPART1", "2,SCR,M3"}}}});
     EXPECT_EQ(takeChanges(), 1);
     database.setCurrentTemplate(BOMTemplate());
     EXPECT_EQ(takeChanges(), 1);
@@ -137,12 +86,17 @@ TEST_F(Loading, sendsOneNoticePerBulkChange)
     EXPECT_EQ(takeChanges(), 1);
 }
 
-TEST_F(Loading, staysSilentWhileSuspended)
+TEST_F(Loading, ReplacesTheDesignWithOneNoticeEvenWhenSuspended)
 {
-    netlist.add("R1", "1k");
-    database.load();
+    load({{"R1", "1k"}});
     takeChanges();
+    netlist.clear();
+    add({{"R2", "2k"}});
+    database.reload();
+    EXPECT_EQ(references(), "R2");
+    EXPECT_EQ(takeChanges(), 1);
     database.clearAndSuspend();
+    EXPECT_EQ(references(), "");
     database.updateFieldGrouping();
     database.updateBOMCategories(BOMCategory::defaults());
     database.notify();
@@ -150,20 +104,22 @@ TEST_F(Loading, staysSilentWhileSuspended)
     EXPECT_EQ(takeChanges(), 0);
     database.reload();
     EXPECT_FALSE(database.isUpdating());
-    EXPECT_EQ(references(), QStringList{u"R1"_s});
+    EXPECT_EQ(references(), "R2");
     EXPECT_EQ(takeChanges(), 1);
 }
 
-TEST_F(Loading, aSavedBoardRegroupsOrMarksTheNetlistStale)
+struct QuietServer final : INETSERVER
+{
+    IMODULE *queryinterface(unsigned) override { return nullptr; }
+    bool sendnetlist(NETCACHE &, int, int) override { return true; }
+    void addcache(NETCACHE *) override {}
+    void removecache(NETCACHE *) override {}
+};
+
+TEST_F(Loading, RegroupsWhenABoardIsSavedOrMarksTheNetlistStale)
 {
     FakeDocument board;
-    struct StaleMark final : INETSERVER
-    {
-        IMODULE *queryinterface(unsigned) override { return nullptr; }
-        bool sendnetlist(NETCACHE &, int, int) override { return true; }
-        void addcache(NETCACHE *) override {}
-        void removecache(NETCACHE *) override {}
-    } server;
+    QuietServer server;
     NETCACHE *cache = netlist.cache();
     cache->setsource(&server);
     cache->validate(1);
@@ -189,25 +145,42 @@ TEST_F(Loading, aSavedBoardRegroupsOrMarksTheNetlistStale)
     cache->setsource(nullptr);
 }
 
-TEST_F(Loading, theModulesDatabaseIsOneUntilItIsDestroyed)
+class Viewer final : public INETCLIENT
+{
+public:
+    IMODULE *queryinterface(unsigned) override { return this; }
+    bool isvisible() override { return false; }
+    void designChanged(bool reload) override { calls << reload; }
+    QList<bool> calls;
+};
+
+TEST_F(Loading, IsAskedForOnceByTheModuleWhenWritingEnds)
+{
+    database.setWriting(true);
+    database.setWriting(false);
+    Viewer viewer;
+    process.viewer = &viewer;
+    database.setWriting(false);
+    database.setWriting(true);
+    database.setWriting(true);
+    EXPECT_TRUE(database.isWriting());
+    EXPECT_TRUE(viewer.calls.isEmpty());
+    database.setWriting(false);
+    database.setWriting(false);
+    EXPECT_EQ(viewer.calls, QList<bool>{true});
+}
+
+TEST(DatabaseOfTheModule, IsOneUntilItIsDestroyed)
 {
     BOMPartsDatabase *first = BOMPartsDatabase::instance();
     EXPECT_EQ(BOMPartsDatabase::instance(), first);
     EXPECT_EQ(first->parent(), nullptr);
-    QObject watcher;
     bool isDestroyed = false;
-    QObject::connect(first, &QObject::destroyed, &watcher, [&isDestroyed] { isDestroyed = true; });
+    QObject::connect(first, &QObject::destroyed, [&isDestroyed] { isDestroyed = true; });
     BOMPartsDatabase::destroyInstance();
     EXPECT_TRUE(isDestroyed);
     EXPECT_TRUE(BOMPartsDatabase::instance()->parts().empty());
     BOMPartsDatabase::destroyInstance();
-}
-
-TEST(PropertyNames, areOfferedInThisOrder)
-{
-    EXPECT_EQ(BOMPartsDatabase::standardPropertyNames(),
-              (QStringList{u".Name"_s, u".Placed"_s, u"VALUE"_s, u"PACKAGE"_s}));
-    EXPECT_EQ(BOMPartsDatabase::pseudoPropertyNames().value(u".Placed"_s), u"Placed"_s);
 }
 
 } // namespace

@@ -1,21 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "core/bompart.h"
-#include "core/bompartsdatabase.h"
-#include "host/netlist/component.h"
-#include "support/fakecdb.h"
-#include "support/fakenetlist.h"
-#include "support/printtext.h"
+#include "core/coredesign.h"
+#include "core/propertyquery.h"
 #include "support/scopeddefinitions.h"
 #include "support/scriptedui.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
-TEST(Part, answersValueFirstAndNothingElseWithoutComponent)
+using PartOfDesign = CoreDesign;
+using DisplayValue = CoreDesign;
+
+TEST(Part, AnswersOnlyItsValueWithoutAComponent)
 {
     const Part part(nullptr, nullptr, u"R1"_s, u"10k"_s);
     EXPECT_FALSE(part.isBOMPart());
@@ -25,7 +21,7 @@ TEST(Part, answersValueFirstAndNothingElseWithoutComponent)
     }
 }
 
-TEST(Part, answersFromTheComponent)
+TEST(Part, AnswersFromTheComponent)
 {
     FakeNetlist netlist;
     const COMPONENT *component = netlist.add(
@@ -36,47 +32,38 @@ TEST(Part, answersFromTheComponent)
     EXPECT_EQ(part.property(u"CODE"_s), u"Röhm"_s);
     EXPECT_EQ(part.property(u"COST"_s), u"1,5"_s) << "without a database nothing is converted";
     EXPECT_EQ(part.property(u"MISSING"_s), QString());
+    COMPONENT withoutProperties;
+    withoutProperties.name = "RES";
+    const Part bare(&withoutProperties, nullptr, u"R1"_s, u"10k"_s);
+    EXPECT_EQ(bare.property(u"CODE"_s), QString());
+    EXPECT_EQ(bare.property(u".Name"_s), u"RES"_s);
 }
 
-TEST(Part, answersWithoutPropertyList)
+TEST_F(PartOfDesign, AsksTheComponentDatabaseForThePlacement)
 {
-    COMPONENT component;
-    component.name = "RES";
-    const Part part(&component, nullptr, u"R1"_s, u"10k"_s);
-    EXPECT_EQ(part.property(u"CODE"_s), QString());
-    EXPECT_EQ(part.property(u".Name"_s), u"RES"_s);
-}
-
-TEST(Part, asksTheComponentDatabaseForThePlacement)
-{
-    FakeNetlist netlist;
-    for (const char *reference : {"R1", "R2", "R3"}) {
-        netlist.add(reference, "1k");
-    }
-    std::vector<std::unique_ptr<Part>> parts;
-    for (const COMPONENT *component : netlist.cache()->components) {
-        parts.push_back(std::make_unique<Part>(component, nullptr, u"R"_s, QString()));
-    }
-    EXPECT_EQ(parts[0]->property(u".Placed"_s), u"Not placed"_s) << "no component database";
+    load({{"R1", "1k"}, {"R2", "1k"}, {"R3", "1k"}, {"C5", "1u", {{"BOMPART1", "1,SCR,M3"}}}});
+    const auto placed = [this](const QString &reference) {
+        return database.property(reference, u".Placed"_s);
+    };
+    EXPECT_EQ(placed(u"R1"_s), u"Not placed"_s) << "no component database";
     FakeCdb cdb;
     cdb.place(1, "Unterseite \xc3\xa4");
     cdb.addUnplaced(2);
-    EXPECT_EQ(parts[0]->property(u".Placed"_s), u"Unterseite ä"_s);
-    EXPECT_EQ(parts[1]->property(u".Placed"_s), u"Not placed"_s) << "a record without placement";
-    EXPECT_EQ(parts[2]->property(u".Placed"_s), u"Not placed"_s) << "no record";
+    cdb.place(4, "Bottom");
+    EXPECT_EQ(placed(u"R1"_s), u"Unterseite ä"_s);
+    EXPECT_EQ(placed(u"R2"_s), u"Not placed"_s) << "a record without placement";
+    EXPECT_EQ(placed(u"R3"_s), u"Not placed"_s) << "no record";
+    EXPECT_EQ(placed(u"SCR1"_s), u"Bottom"_s) << "where its parent stands";
+    EXPECT_EQ(BOMPart(&database, u"SCR2"_s, u"M3"_s, u"C6"_s).property(u".Placed"_s), QString());
+    const PropertyQuery query(u".Placed"_s, nullptr);
+    EXPECT_EQ(database.part(u"SCR1"_s)->property(query), u"Bottom"_s);
 }
 
-TEST(Part, isDestroyedThroughItsBase)
-{
-    std::unique_ptr<Part> part = std::make_unique<BOMPart>(nullptr, u"SCR1"_s, u"M3"_s, u"C5"_s,
-                                                           QMap<QString, QString>{{u"a"_s, u"b"_s}});
-    EXPECT_TRUE(part->isBOMPart());
-}
-
-TEST(BOMPart, answersFromItsOwnProperties)
+TEST(BOMPart, AnswersFromItsOwnProperties)
 {
     const BOMPart part(nullptr, u"SCR1"_s, u"M3 screw"_s, u"C5"_s,
                        {{u"Code"_s, u"4711"_s}, {u".PLACED"_s, u"stored"_s}, {u"VALUE"_s, u"other"_s}});
+    EXPECT_TRUE(part.isBOMPart());
     EXPECT_EQ(part.property(u"VALUE"_s), u"M3 screw"_s);
     EXPECT_EQ(part.property(u"CODE"_s), u"4711"_s);
     EXPECT_EQ(part.property(u"cOdE"_s), u"4711"_s);
@@ -84,63 +71,43 @@ TEST(BOMPart, answersFromItsOwnProperties)
     EXPECT_EQ(part.property(u".Placed"_s), u"stored"_s) << "without a database it is a property like others";
 }
 
-TEST(BOMPart, standsWhereItsParentStands)
-{
-    FakeNetlist netlist;
-    netlist.add("C5", "1u");
-    FakeCdb cdb;
-    cdb.place(1, "Bottom");
-    BOMPartsDatabase database;
-    database.setNetlist(netlist.cache());
-    database.load();
-    EXPECT_EQ(BOMPart(&database, u"SCR1"_s, u"M3"_s, u"C5"_s).property(u".Placed"_s), u"Bottom"_s);
-    EXPECT_EQ(BOMPart(&database, u"SCR1"_s, u"M3"_s, u"C6"_s).property(u".Placed"_s), QString());
-}
-
-TEST(DisplayValue, dependsOnTheDefinition)
+TEST_F(DisplayValue, DependsOnTheDefinition)
 {
     const ScopedDefinitions definitions("\"YN\",YESNO\n\"HL\",HIGHLOW\n\"TF\",TRUEFALSE\n\"S\",STRING\n"
                                         "\"I\",INT\n\"F\",FLOAT");
     ScriptedUi ui;
-    FakeNetlist netlist;
-    BOMPartsDatabase database;
-    database.setNetlist(netlist.cache());
-    database.load();
     const struct
     {
-        const char16_t *name, *stored, *shown;
+        QByteArray name, stored;
+        QString shown;
     } cases[] = {
-        {u"YN", u"1", u"Yes"},  {u"YN", u"0", u"No"},     {u"YN", u"yes", u"No"}, {u"YN", u"", u""},
-        {u"HL", u"1", u"High"}, {u"HL", u"2", u"Low"},    {u"TF", u"1", u"True"}, {u"TF", u"0", u"False"},
-        {u"F", u"4,7", u"4.7"}, {u"F", u"1.5", u"1.5"},   {u"F", u"n/a", u"n/a"}, {u"I", u"1,000", u"1,000"},
-        {u"S", u"1", u"1"},     {u"UNKNOWN", u"1", u"1"}, {u"yn", u"1", u"Yes"},  {u"F", u"1,2.3", u"1.2.3"},
+        {"YN", "1", u"Yes"_s},  {"YN", "0", u"No"_s},     {"YN", "yes", u"No"_s}, {"YN", "", u""_s},
+        {"HL", "1", u"High"_s}, {"HL", "2", u"Low"_s},    {"TF", "1", u"True"_s}, {"TF", "0", u"False"_s},
+        {"F", "4,7", u"4.7"_s}, {"F", "1.5", u"1.5"_s},   {"F", "n/a", u"n/a"_s}, {"I", "1,000", u"1,000"_s},
+        {"S", "1", u"1"_s},     {"UNKNOWN", "1", u"1"_s}, {"yn", "1", u"Yes"_s},  {"F", "1,2.3", u"1.2.3"_s},
     };
-    for (const auto &expected : cases) {
-        EXPECT_EQ(
-            database.displayValue(QString::fromUtf16(expected.name), QString::fromUtf16(expected.stored)),
-            QString::fromUtf16(expected.shown))
-            << QString::fromUtf16(expected.name).toStdString();
+    for (qsizetype i = 0; i < std::ssize(cases); ++i) {
+        add({{"R" + QByteArray::number(i), "1k", {{cases[i].name, cases[i].stored}}}});
     }
-    EXPECT_TRUE(database.isNumeric(u"I"_s));
-    EXPECT_TRUE(database.isNumeric(u"F"_s));
-    EXPECT_FALSE(database.isNumeric(u"S"_s));
-    EXPECT_FALSE(database.isNumeric(u"UNKNOWN"_s));
-
+    database.load();
+    for (qsizetype i = 0; i < std::ssize(cases); ++i) {
+        EXPECT_EQ(database.property(u'R' + QString::number(i), QString::fromUtf8(cases[i].name)),
+                  cases[i].shown)
+            << cases[i].name.toStdString() << ' ' << cases[i].stored.toStdString();
+    }
+    EXPECT_EQ(database.property(u"R99"_s, u"F"_s), QString());
+    const PropertyTypes &types = database.propertyTypes();
+    EXPECT_TRUE(types.isNumeric(u"I"_s) && types.isNumeric(u"F"_s));
+    EXPECT_FALSE(types.isNumeric(u"S"_s) || types.isNumeric(u"UNKNOWN"_s));
     ui.numberFormat = QLocale(QLocale::German);
-    EXPECT_EQ(database.displayValue(u"F"_s, u"4.7"_s), u"4,7"_s);
-    EXPECT_EQ(database.displayValue(u"F"_s, u"1,2.3"_s), u"1,2,3"_s);
+    EXPECT_EQ(database.property(u"R8"_s, u"F"_s), u"4,7"_s);
+    EXPECT_EQ(database.property(u"R15"_s, u"F"_s), u"1,2,3"_s);
 }
 
-TEST(DisplayValue, isWhatPartsAnswer)
+TEST(PropertyNames, AreOfferedInThisOrder)
 {
-    FakeNetlist netlist;
-    netlist.add("R1", "1k", {{"DNP", "1"}, {"COST", "0,5"}});
-    BOMPartsDatabase database;
-    database.setNetlist(netlist.cache());
-    database.load();
-    EXPECT_EQ(database.property(u"R1"_s, u"DNP"_s), u"Yes"_s);
-    EXPECT_EQ(database.property(u"R1"_s, u"COST"_s), u"0.5"_s);
-    EXPECT_EQ(database.property(u"R2"_s, u"COST"_s), QString());
+    EXPECT_EQ(joined(standardPropertyNames()), ".Name | .Placed | VALUE | PACKAGE");
+    EXPECT_EQ(pseudoPropertyNames().value(u".Placed"_s), u"Placed"_s);
 }
 
 } // namespace

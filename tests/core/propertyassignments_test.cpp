@@ -1,57 +1,53 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "core/bompartsdatabase.h"
+#include "core/coredesign.h"
 #include "core/propertyassignments.h"
-#include "core/reportstream.h"
-#include "support/fakecdb.h"
-#include "support/fakenetlist.h"
-#include "support/fakeprocess.h"
-#include "support/printtext.h"
+#include "core/resultstream.h"
 #include "support/scopeddefinitions.h"
 #include "support/scriptedui.h"
 
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
-class Assignments : public testing::Test
+class Assignments : public CoreDesign
 {
 protected:
     Assignments()
     {
-        netlist.add("R1", "10k");
-        netlist.add("R2", "10k", {{"CODE", "old"}});
-        netlist.add("U1", "reg", {{"BOMPART1", "'2','SCR','M3','LEN=8'"}, {"BOMPART2", "'1','PAD','soft'"}});
-        database.setNetlist(netlist.cache());
         database.setCurrentTemplate(BOMTemplate());
-        database.load();
+        load({{"R1", "10k"},
+              {"R2", "10k", {{"CODE", "old"}}},
+              {"U1", "reg", {{"BOMPART1", "'2','SCR','M3','LEN=8'"}, {"BOMPART2", "'1','PAD','soft'"}}}});
+        takeChanges();
     }
 
     /// The scripts that were run, without the brackets of batches.
     [[nodiscard]] QStringList scripts() const
     {
         QStringList all = cdb.calls;
-        for (const QString &bracket : {u"begin"_s, u"commit"_s, u"drop"_s}) {
-            all.removeAll(bracket);
-        }
+        all.removeIf([](const QString &call) { return !call.startsWith(u"DATA"_s); });
         return all;
+    }
+    /// "R1 CODE" of what is refused when one more is assigned; nothing is pending any more then.
+    [[nodiscard]] std::string refused(const QString &reference, const QString &property, const QString &value)
+    {
+        assignments.assign(reference, property, value);
+        QStringList all;
+        for (const CDBPROBLEM &problem : assignments.apply(ApplyOptions()).problems) {
+            all << problem.reference + u' ' + problem.property;
+        }
+        EXPECT_EQ(assignments.isEmpty(), all.isEmpty());
+        assignments.clear();
+        return joined(all);
     }
 
     ScopedDefinitions definitions{"\"FIT\",YESNO\n\"COST\",FLOAT\n\"AMOUNT\",INT\n\"LEVEL\",HIGHLOW\n"
                                   "\"OK\",TRUEFALSE\n\"BOMLINKS\",STRING"};
     ScriptedUi ui;
-    FakeProcess process;
     FakeCdb cdb;
-    FakeNetlist netlist;
-    BOMPartsDatabase database;
     PropertyAssignments assignments{&database};
 };
 
-TEST_F(Assignments, areWrittenAsOneScriptPerReference)
+TEST_F(Assignments, AreWrittenAsOneScriptPerReference)
 {
     assignments.assign(u"R2"_s, u"CODE"_s, u"first"_s);
     assignments.assign(u"R2"_s, u"CODE"_s, u"100%1 \"ö\""_s);
@@ -70,7 +66,7 @@ TEST_F(Assignments, areWrittenAsOneScriptPerReference)
     EXPECT_TRUE(cdb.calls.isEmpty());
 }
 
-TEST_F(Assignments, showTheReportUntilItOnceSaysNoErrors)
+TEST_F(Assignments, ShowTheReportUntilItOnceSaysNoErrors)
 {
     const auto resultOf = [this](const QStringList &reports) {
         cdb.reports = reports;
@@ -86,38 +82,31 @@ TEST_F(Assignments, showTheReportUntilItOnceSaysNoErrors)
     EXPECT_EQ(resultOf({QString(80, u'e')}), QString(80, u'e'));
 }
 
-TEST_F(Assignments, ofABatchThatIsRefusedStayPending)
+TEST_F(Assignments, OfABatchThatIsRefusedStayPending)
 {
     cdb.refusal = {{u"R1"_s, u"CODE"_s, u"a.kicad_sch"_s, 7, u"is locked"_s}};
     assignments.assign(u"R1"_s, u"CODE"_s, u"x"_s);
     assignments.assign(u"SCR1"_s, u"LEN"_s, u"9"_s);
-    EXPECT_EQ(assignments.apply(), u"a.kicad_sch:7: R1, CODE: is locked"_s);
-    EXPECT_EQ(assignments.problems(), cdb.refusal);
+    const ApplyResult expected{u"a.kicad_sch:7: R1, CODE: is locked"_s, cdb.refusal};
+    EXPECT_EQ(assignments.apply(ApplyOptions()), expected);
     EXPECT_EQ(assignments.pending().size(), 2);
     // Nothing was written, so the part is what the design says.
     EXPECT_EQ(database.property(u"SCR1"_s, u"LEN"_s), u"8"_s);
 }
 
-TEST_F(Assignments, thatAScriptCannotCarryAreRefusedBeforeAnyIsRun)
+TEST_F(Assignments, ThatCannotBeWrittenAreRefusedBeforeAnyScriptIsRun)
 {
     assignments.assign(u"R2"_s, u"CODE"_s, u"fine"_s);
     assignments.assign(u"R1"_s, u"CODE"_s, u"x\"\nEND\n\nDATA NAME : R2-\n\"CODE\"   :   \"stolen"_s);
     assignments.assign(u"R1"_s, u"A\"   :   \"B"_s, u"x"_s);
-    assignments.assign(u"R1"_s, u"A\"   :   "_s, u"x"_s);
-    assignments.assign(u"SCR1"_s, u"LEN"_s, u"a\rb"_s);
-    (void)assignments.apply();
-    EXPECT_TRUE(scripts().isEmpty());
-    EXPECT_EQ(assignments.problems().size(), 3);
-    EXPECT_EQ(assignments.pending().size(), 3);
-    assignments.clear();
-    assignments.assign(u"SCR1"_s, u"LEN"_s, u"a\rb"_s);
-    (void)assignments.apply();
-    ASSERT_EQ(assignments.problems().size(), 1);
-    EXPECT_EQ(assignments.problems().front().reference, u"SCR1"_s);
+    EXPECT_EQ(refused(u"R1"_s, u"A\"   :   "_s, u"x"_s), "R1 A\"   :    | R1 A\"   :   \"B | R1 CODE");
+    EXPECT_EQ(refused(u"SCR1"_s, u"LEN"_s, u"a\rb"_s), "SCR1 LEN");
+    assignments.assign(u"SCR1"_s, u"LEN"_s, u"9"_s);
+    EXPECT_EQ(refused(u"U1"_s, u"bompart0"_s, u"1,'SCR','M4'"_s), "U1 bompart0") << "it would be lost";
     EXPECT_TRUE(scripts().isEmpty());
 }
 
-TEST_F(Assignments, ofBomOnlyPartsRewriteTheDefinitionsOfTheirParent)
+TEST_F(Assignments, OfBomOnlyPartsRewriteTheDefinitionsOfTheirParent)
 {
     assignments.assign(u"SCR2"_s, u"len"_s, u"Bob's"_s);
     assignments.assign(u"SCR2"_s, u"VALUE"_s, u"[REMOVE]"_s);
@@ -135,7 +124,7 @@ TEST_F(Assignments, ofBomOnlyPartsRewriteTheDefinitionsOfTheirParent)
     EXPECT_EQ(cdb.calls.last(), u"commit"_s);
 }
 
-TEST_F(Assignments, neverLetNamesOfTheDesignIntoAScript)
+TEST_F(Assignments, NeverLetNamesOfTheDesignIntoAScript)
 {
     // A name that ends a record, begins another and takes a value of R1 away.
     const QString name = u"BOMPARTX\"   :   \"1\"\nEND\n\nDATA NAME : R1-\n\"CODE"_s;
@@ -143,11 +132,7 @@ TEST_F(Assignments, neverLetNamesOfTheDesignIntoAScript)
     netlist.add("U3", "reg", {{"BOMPART\"   :   \"y", "1,'BLT','M4'"}});
     database.reload();
     for (const QString &reference : {u"NUT1"_s, u"BLT1"_s}) {
-        assignments.assign(reference, u"LEN"_s, u"9"_s);
-        (void)assignments.apply();
-        EXPECT_EQ(assignments.problems().size(), 1) << reference.toStdString();
-        EXPECT_EQ(assignments.pending().size(), 1) << reference.toStdString();
-        assignments.clear();
+        EXPECT_TRUE(refused(reference, u"LEN"_s, u"9"_s).starts_with("U")) << reference.toStdString();
     }
     assignments.assignNow(u"U2"_s, name, u"x"_s);
     EXPECT_TRUE(assignments.result().contains(u"A line break cannot be written"_s));
@@ -155,133 +140,92 @@ TEST_F(Assignments, neverLetNamesOfTheDesignIntoAScript)
     EXPECT_EQ(cdb.calls, (QStringList{u"begin"_s, u"drop"_s}));
 }
 
-TEST_F(Assignments, ofBomOnlyPartsAndTheirDefinitionExcludeEachOther)
+TEST_F(Assignments, OfBomOnlyPartsAreToldOnceAndADryRunKeepsThem)
 {
-    assignments.assign(u"SCR1"_s, u"LEN"_s, u"9"_s);
-    assignments.assign(u"U1"_s, u"bompart0"_s, u"1,'SCR','M4'"_s);
-    (void)assignments.apply();
-    ASSERT_EQ(assignments.problems().size(), 1);
-    EXPECT_EQ(assignments.problems().front().property, u"bompart0"_s);
-    EXPECT_TRUE(scripts().isEmpty());
-}
-
-TEST_F(Assignments, ofBomOnlyPartsAreToldOnceAndADryRunKeepsThem)
-{
-    int notices = 0;
-    QObject::connect(&database, &BOMPartsDatabase::dataChanged, [&notices] { ++notices; });
     assignments.assign(u"SCR1"_s, u"LEN"_s, u"9"_s);
     assignments.assign(u"SCR2"_s, u"LEN"_s, u"9"_s);
     assignments.assign(u"SCR2"_s, u"VALUE"_s, u"M4"_s);
     EXPECT_EQ(assignments.apply(), u"Applied successfully"_s);
-    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(takeChanges(), 1);
     database.reload();
-    assignments.setDryRun(true);
     assignments.assign(u"SCR1"_s, u"LEN"_s, u"10"_s);
-    EXPECT_EQ(assignments.apply(), u"Applied successfully"_s);
+    EXPECT_EQ(assignments.apply({true}), (ApplyResult{u"Applied successfully"_s, {}}));
     EXPECT_EQ(database.property(u"SCR1"_s, u"LEN"_s), u"8"_s);
 }
 
-TEST_F(Assignments, areStoredByTheTypeOfTheirProperty)
+TEST_F(Assignments, AreStoredByTheTypeOfTheirProperty)
+{
+    const auto stored = [this](const QString &property, const QString &text) {
+        return assignments.storedValue(property, text).toStdString();
+    };
+    ui.numberFormat = QLocale(QLocale::German);
+    EXPECT_EQ(stored(u"fit"_s, u"Yes"_s) + stored(u"FIT"_s, u"1"_s) + stored(u"FIT"_s, u"No"_s), "110");
+    EXPECT_EQ(stored(u"FIT"_s, QString()), "");
+    EXPECT_EQ(stored(u"FIT"_s, u"[REMOVE]"_s), "[REMOVE]");
+    EXPECT_EQ(stored(u"LEVEL"_s, u"High"_s) + stored(u"LEVEL"_s, u"Low"_s), "10");
+    EXPECT_EQ(stored(u"OK"_s, u"True"_s) + stored(u"OK"_s, u"false"_s), "10");
+    EXPECT_EQ(stored(u"AMOUNT"_s, u"1 234.567,8"_s), "12345678");
+    EXPECT_EQ(stored(u"COST"_s, u"4,7"_s), "4.7");
+    EXPECT_EQ(stored(u"NAME"_s, u"4,7"_s), "4,7");
+    ui.numberFormat = QLocale(QLocale::Swedish);
+    EXPECT_EQ(stored(u"COST"_s, u"−4,7"_s) + stored(u"AMOUNT"_s, u"−5"_s), "-4.7-5");
+    EXPECT_EQ(stored(u"NAME"_s, u"−5"_s), "−5");
+}
+
+TEST_F(Assignments, AcceptWhatTheTypeOfTheirPropertyHas)
 {
     ui.numberFormat = QLocale(QLocale::German);
-    const auto stored = [this](const char *property, const QString &text) {
-        return assignments.storedValue(QString::fromLatin1(property), text);
-    };
-    EXPECT_EQ(stored("fit", u"Yes"_s), u"1"_s);
-    EXPECT_EQ(stored("FIT", u"1"_s), u"1"_s);
-    EXPECT_EQ(stored("FIT", u"No"_s), u"0"_s);
-    EXPECT_EQ(stored("FIT", QString()), QString());
-    EXPECT_EQ(stored("FIT", u"[REMOVE]"_s), u"[REMOVE]"_s);
-    EXPECT_EQ(stored("LEVEL", u"High"_s) + stored("LEVEL", u"Low"_s), u"10"_s);
-    EXPECT_EQ(stored("OK", u"True"_s) + stored("OK", u"false"_s), u"10"_s);
-    EXPECT_EQ(stored("AMOUNT", u"1 234.567,8"_s), u"12345678"_s);
-    EXPECT_EQ(stored("COST", u"4,7"_s), u"4.7"_s);
-    EXPECT_EQ(stored("NAME", u"4,7"_s), u"4,7"_s);
-    ui.numberFormat = QLocale(QLocale::Swedish);
-    EXPECT_EQ(stored("COST", u"−4,7"_s) + stored("AMOUNT", u"−5"_s), u"-4.7-5"_s);
-    EXPECT_EQ(stored("NAME", u"−5"_s), u"−5"_s);
-    ui.numberFormat = QLocale(QLocale::German);
-    for (const char *refused : {"maybe", "2", "Hig h"}) {
-        EXPECT_FALSE(assignments.accepts(u"FIT"_s, QString::fromLatin1(refused))) << refused;
-    }
     EXPECT_TRUE(assignments.accepts(u"FIT"_s, u"yes"_s));
     EXPECT_TRUE(assignments.accepts(u"COST"_s, u"-4,7"_s));
+    EXPECT_TRUE(assignments.accepts(u"AMOUNT"_s, QString()));
+    for (const QString &text : {u"maybe"_s, u"2"_s, u"Hig h"_s}) {
+        EXPECT_FALSE(assignments.accepts(u"FIT"_s, text)) << text.toStdString();
+    }
     EXPECT_FALSE(assignments.accepts(u"COST"_s, u"1.234,5"_s));
     EXPECT_FALSE(assignments.accepts(u"COST"_s, u"nan"_s));
     EXPECT_FALSE(assignments.accepts(u"AMOUNT"_s, u"many"_s));
-    EXPECT_TRUE(assignments.accepts(u"AMOUNT"_s, QString()));
 }
 
-TEST(AssignmentsAndDefinitions, defineTheLinksOnce)
+TEST(AssignmentsAndDefinitions, DefineTheLinksOnce)
 {
     const ScopedDefinitions definitions("\"COST\",FLOAT");
     ScriptedUi ui;
     FakeCdb cdb;
     BOMPartsDatabase database;
     PropertyAssignments assignments(&database);
-    const auto apply = [&assignments] {
+    const auto apply = [&assignments](const ApplyOptions &options) {
         assignments.assign(u"R1"_s, u"CODE"_s, u"x"_s);
-        (void)assignments.apply();
+        return assignments.apply(options);
     };
     const auto defined = [] {
         DIDX index;
         EXPECT_TRUE(load_defaultdefs(&index, nullptr));
         return index;
     };
-    assignments.setDryRun(true);
-    apply();
-    EXPECT_FALSE(defined().find(u"BOMLINKS"_s));
-    assignments.setDryRun(false);
-    apply();
-    apply();
+    apply({true});
+    EXPECT_FALSE(defined().find(u"BOMLINKS"_s)) << "a dry run";
+    apply({});
+    apply({});
     ASSERT_TRUE(defined().find(u"BOMLINKS"_s));
     EXPECT_EQ(*defined().find(u"BOMLINKS"_s),
               (PROPDEF{u"BOMLINKS"_s, PropType::String, u"External links set in the BOM"_s}));
     EXPECT_EQ(defined().definitions().size(), 2);
     EXPECT_TRUE(ui.warnings.isEmpty());
     setpropdefsfile(u"/proc/no/such/PROPDEFS.INI"_s);
-    apply();
+    EXPECT_EQ(apply({}).text, u"Applied successfully"_s);
     EXPECT_EQ(ui.warnings.size(), 1);
-    EXPECT_EQ(assignments.result(), u"Applied successfully"_s);
 }
 
-TEST(ReportStream, findsTheWordsOverSeveralWrites)
+TEST(ResultStream, FindsTheWordsOverSeveralWrites)
 {
-    ReportStream report;
-    report << "x no Err";
-    EXPECT_FALSE(report.saysNoErrors());
-    report.clear();
-    report << 'O';
-    report << "rS" << 7;
-    EXPECT_TRUE(report.saysNoErrors());
-    EXPECT_EQ(report.text(), u"x no ErrOrS7"_s);
-}
-
-class Viewer final : public INETCLIENT
-{
-public:
-    IMODULE *queryinterface(unsigned) override { return this; }
-    bool isvisible() override { return false; }
-    void designChanged(bool reload) override { calls << reload; }
-    QList<bool> calls;
-};
-
-TEST(Writing, endsWithOneReloadThroughTheModule)
-{
-    FakeProcess process;
-    BOMPartsDatabase database;
-    database.setWriting(true);
-    database.setWriting(false);
-    Viewer viewer;
-    process.viewer = &viewer;
-    database.setWriting(false);
-    database.setWriting(true);
-    database.setWriting(true);
-    EXPECT_TRUE(database.isWriting());
-    EXPECT_TRUE(viewer.calls.isEmpty());
-    database.setWriting(false);
-    database.setWriting(false);
-    EXPECT_EQ(viewer.calls, QList<bool>{true});
+    ResultStream result;
+    result << "x no Err";
+    EXPECT_FALSE(result.saysNoErrors());
+    result.clear();
+    result << 'O';
+    result << "rS" << 7;
+    EXPECT_TRUE(result.saysNoErrors());
+    EXPECT_EQ(result.text(), u"x no ErrOrS7"_s);
 }
 
 } // namespace

@@ -78,7 +78,7 @@ TEST_F(PropertyCreator, AddsALineAndKeepsTheRestOfTheFile)
     EXPECT_EQ(
         definitions(),
         "; mine\n[PROPDEFS]\n\"A\",INT\n\"Weight_1\",FLOAT,\"Gewicht \xC3\xA4 (kg/m)\"\n\n[Other]\nx=1\n");
-    EXPECT_TRUE(database.isNumeric(QStringLiteral("WEIGHT_1")));
+    EXPECT_TRUE(database.propertyTypes().isNumeric(QStringLiteral("WEIGHT_1")));
     EXPECT_EQ(changed.size(), 1);
     EXPECT_TRUE(ui.warnings.isEmpty());
 }

@@ -142,7 +142,7 @@ TEST_F(Rows, cellsByNameAreTheCellsOfRows)
     netlist.add("R1", "1k", {{"COST", "1.5"}, {"CODE", "A"}});
     database.load();
     const QStringList row = rows(resistors).first();
-    const QStringList names = database.fields().names();
+    const QStringList names = database.currentTemplate().fields().names();
     for (qsizetype i = 0; i < names.size(); ++i) {
         EXPECT_EQ(view.fieldValue(u"R1"_s, names.at(i), true), row.at(i + 2));
     }

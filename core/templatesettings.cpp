@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "core/templaterepair.h"
+#include "core/templatesettings.h"
 
 #include "core/propertyquery.h"
 #include "templates/bomtemplate.h"
@@ -68,6 +68,24 @@ void addMiscCategory(BOMTemplate &settings)
     settings.setCategories(categories);
 }
 
+bool takeFieldWidths(const BOMFields &source, BOMTemplate *target)
+{
+    BOMFields fields = target->fields();
+    for (BOMField field : fields.fields()) {
+        if (source.contains(field.fieldName)) {
+            const BOMField other = source.get(field.fieldName);
+            field.manualWidth = other.manualWidth;
+            field.asciiWidth = other.asciiWidth;
+            fields.set(field);
+        }
+    }
+    if (fields == target->fields()) {
+        return false;
+    }
+    target->setFields(fields);
+    return true;
+}
+
 } // namespace
 
 QStringList repairTemplate(BOMTemplate &settings)
@@ -84,4 +102,32 @@ QStringList repairTemplate(BOMTemplate &settings)
             "BOMPartsDatabase", "The template has no miscellaneous category; one was added as the last.");
     }
     return repairs;
+}
+
+void takeLook(const BOMTemplate &source, BOMTemplate *target)
+{
+    target->setCss(source.css());
+    target->setDocumentHeader(source.documentHeader());
+    target->setDocumentFooter(source.documentFooter());
+    target->setHtmlTemplateFileName(source.htmlTemplateFileName());
+}
+
+bool takeLayout(const BOMTemplate &source, BOMTemplate *target)
+{
+    bool isChanged = takeFieldWidths(source.fields(), target);
+    const auto take = [&](auto getter, auto setter) {
+        if ((source.*getter)() != (target->*getter)()) {
+            (target->*setter)((source.*getter)());
+            isChanged = true;
+        }
+    };
+    take(&BOMTemplate::prettyQuantityWidth, &BOMTemplate::setPrettyQuantityWidth);
+    take(&BOMTemplate::prettyRefWidth, &BOMTemplate::setPrettyRefWidth);
+    take(&BOMTemplate::asciiQuantityWidth, &BOMTemplate::setAsciiQuantityWidth);
+    take(&BOMTemplate::asciiRefWidth, &BOMTemplate::setAsciiRefWidth);
+    take(&BOMTemplate::manualPrettyLayout, &BOMTemplate::setManualPrettyLayout);
+    take(&BOMTemplate::alwaysQuoteRefs, &BOMTemplate::setAlwaysQuoteRefs);
+    take(&BOMTemplate::excludeValueField, &BOMTemplate::setExcludeValueField);
+    take(&BOMTemplate::caseSensitiveGrouping, &BOMTemplate::setCaseSensitiveGrouping);
+    return isChanged;
 }

@@ -9,12 +9,12 @@
 #include <string>
 #include <string_view>
 
-/// The stream that the host's component database reports to. It keeps all that was written and knows at any
-/// time, without searching it again, whether "No Errors" is in it.
-class ReportStream final : public std::ostream
+/// The stream into which the host's component database writes the results of scripts. It keeps all of it and
+/// knows at any time, without searching it again, whether "No Errors" is in it.
+class ResultStream final : public std::ostream
 {
 public:
-    ReportStream()
+    ResultStream()
         : std::ostream(&m_buffer)
     {
     }

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "core/reportstream.h"
+#include "core/resultstream.h"
 
 #include "host/framework/hosttext.h"
 
@@ -17,12 +17,12 @@ bool isSame(char written, char lower)
 
 } // namespace
 
-QString ReportStream::text() const
+QString ResultStream::text() const
 {
     return fromHostText(QByteArrayView(m_buffer.text.data(), qsizetype(m_buffer.text.size())));
 }
 
-ReportStream::Buffer::int_type ReportStream::Buffer::overflow(int_type character)
+ResultStream::Buffer::int_type ResultStream::Buffer::overflow(int_type character)
 {
     if (!traits_type::eq_int_type(character, traits_type::eof())) {
         const char written = traits_type::to_char_type(character);
@@ -31,13 +31,13 @@ ReportStream::Buffer::int_type ReportStream::Buffer::overflow(int_type character
     return traits_type::not_eof(character);
 }
 
-std::streamsize ReportStream::Buffer::xsputn(const char *characters, std::streamsize count)
+std::streamsize ResultStream::Buffer::xsputn(const char *characters, std::streamsize count)
 {
     add({characters, std::size_t(count)});
     return count;
 }
 
-void ReportStream::Buffer::add(std::string_view characters)
+void ResultStream::Buffer::add(std::string_view characters)
 {
     const std::size_t before = text.size();
     text += characters;

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+class BOMTemplate;
+
+// What the parts database does to its working copy of a template.
+
+/// Gives a template what no report can do without, the VALUE field (as first column) and a miscellaneous
+/// category (as last one), so that no part is missing from a report. One sentence per change, none when
+/// nothing was missing.
+[[nodiscard]] QStringList repairTemplate(BOMTemplate &settings);
+
+/// Gives `target` the style sheet, header, footer and old HTML file of `source`, which change no line.
+void takeLook(const BOMTemplate &source, BOMTemplate *target);
+
+/// Gives `target` the column widths, the layout and data output flags and the case rule of `source`. A field
+/// takes the widths of the source's field of its name and keeps its own without one. False when nothing
+/// differed.
+[[nodiscard]] bool takeLayout(const BOMTemplate &source, BOMTemplate *target);
