@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The BOM developers
 # SPDX-License-Identifier: MIT
-"""Fails when a source file reaches, directly or through other headers, a folder that the layers put out of its reach.
+"""Fails when a source file reaches, directly or through other headers, a folder that the layers put out of its reach,
+and when header/source pairs of one library include each other in a circle (a.h and a.cpp are one pair).
 
     layers.py             checks the project
     layers.py --self-test plants forbidden includes in a copy and expects each to be found
@@ -118,6 +119,37 @@ def check_file(root, path, known):
     return problems
 
 
+def pair_of(root, path):
+    """A header and its source by their common path; a source X_y.cpp belongs to X where there is an X.h."""
+    pair = path.relative_to(root).with_suffix("")
+    owner = pair.with_name(pair.name.split("_")[0])
+    return owner.as_posix() if (root / f"{owner}.h").is_file() else pair.as_posix()
+
+
+def reachable(start, targets):
+    """The nodes that a step or more leads to."""
+    reached = set()
+    stack = [start]
+    while stack:
+        for target in targets.get(stack.pop(), ()):
+            if target not in reached:
+                reached.add(target)
+                stack.append(target)
+    return reached
+
+
+def check_cycles(root, known):
+    """One problem for each set of pairs of which each reaches all others."""
+    targets = {}
+    for path, headers in known.items():
+        pair = pair_of(root, path)
+        targets.setdefault(pair, set()).update({pair_of(root, header) for header, _ in headers} - {pair})
+    reached = {pair: reachable(pair, targets) for pair in targets}
+    in_circles = [pair for pair in reached if pair in reached[pair]]
+    cycles = {frozenset(other for other in reached[pair] if pair in reached[other]) for pair in in_circles}
+    return [f"{', '.join(sorted(cycle))}: include each other in a circle" for cycle in sorted(cycles, key=sorted)]
+
+
 def folders():
     """The top folders that hold rooms."""
     return sorted({room.split("/")[0] for room in REACH})
@@ -130,7 +162,7 @@ def check(root):
         for path in sorted((root / folder).rglob("*")):
             if path.suffix in {".h", ".cpp"}:
                 problems += check_file(root, path, known)
-    return problems
+    return problems + check_cycles(root, known)
 
 
 PLANTS = [
@@ -146,6 +178,9 @@ PLANTS = [
     ("designs/kicad/planted.cpp", '#include "designs/kicad/edit/splices.h"\n', "designs/kicad/ may not include"),
     ("designs/planted2.cpp", '#include "designs/csv/csvfile.h"\n', "designs/ may not include designs/csv/csvfile.h"),
     ("cli/planted.cpp", '#include "designs/design.h"\n', "cli/ may not include designs/design.h"),
+    ("editors/ring.h", '#include "editors/ring2.h"\n', "editors/ring, editors/ring2, editors/ring3: include each other"),
+    ("editors/ring2_half.cpp", '#include "editors/ring3.h"\n', "editors/ring, editors/ring2, editors/ring3: include each other"),
+    ("editors/ring3.cpp", '#include "editors/ring.h"\n', "editors/ring, editors/ring2, editors/ring3: include each other"),
 ]
 
 
@@ -155,7 +190,7 @@ def self_test(root):
         for name in folders():
             if (root / name).is_dir():
                 shutil.copytree(root / name, copy / name)
-        for name in ("standalone/planted.h", "core/planted2.h"):
+        for name in ("standalone/planted.h", "core/planted2.h", "editors/ring2.h", "editors/ring3.h"):
             (copy / name).write_text("#pragma once\n", encoding="utf-8")
         for name, text, _ in PLANTS:
             (copy / name).write_text(text, encoding="utf-8")
@@ -166,7 +201,7 @@ def self_test(root):
 def main():
     root = pathlib.Path(__file__).resolve().parents[2]
     problems = self_test(root) if "--self-test" in sys.argv else check(root)
-    print("\n".join(problems) if problems else "layers: every include points downwards")
+    print("\n".join(problems) if problems else "layers: every include points downwards, none in a circle")
     return 1 if problems else 0
 
 
