@@ -5,7 +5,7 @@
 #include "app/emptypage.h"
 #include "app/programmenus.h"
 #include "app/statusnotes.h"
-#include "host/framework/applnwindow.h"
+#include "host/framework/applnmodule.h"
 #include "host/framework/hostsettings.h"
 
 #include <QApplication>

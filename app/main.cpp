@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "app/workbench.h"
-#include "host/framework/inihostsettings.h"
+#include "host/framework/hostsettings.h"
 #include "host/propdefs/propdefsfile.h"
 #include "host/widgets/qthostui.h"
 #include "standalone/environment.h"

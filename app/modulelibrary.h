@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/framework/moduleentry.h"
+#include "host/framework/applnmodule.h"
 
 #include <QLibrary>
 #include <QString>

@@ -8,7 +8,6 @@
 #include "app/recentfiles.h"
 #include "app/statusnotes.h"
 #include "host/framework/applnmodule.h"
-#include "host/framework/applnwindow.h"
 #include "host/framework/hostui.h"
 #include "richtext/paper/pagepainter.h"
 #include "standalone/loadeddesign.h"

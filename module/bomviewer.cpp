@@ -5,7 +5,7 @@
 #include "core/bompartsdatabase.h"
 #include "host/framework/applndocument.h"
 #include "host/framework/applnprocess.h"
-#include "host/framework/iproject.h"
+#include "host/framework/imodule.h"
 #include "module/bommainwindow.h"
 #include "module/moduletemplates.h"
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "host/framework/moduleentry.h"
+#include "host/framework/applnmodule.h"
 #include "module/bomviewer.h"
 
 #include <dlfcn.h>

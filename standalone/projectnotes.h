@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/framework/applnobject.h"
+#include "host/framework/applnprocess.h"
 
 #include <QString>
 

@@ -4,7 +4,7 @@
 
 #include "host/framework/applnmodule.h"
 #include "host/framework/hosttext.h"
-#include "host/framework/interfaceids.h"
+#include "host/framework/imodule.h"
 #include "standalone/environment.h"
 #include "standalone/standalonedocument.h"
 #include "standalone/standalonenetlist.h"

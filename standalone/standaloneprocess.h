@@ -3,7 +3,7 @@
 #pragma once
 
 #include "host/framework/applnprocess.h"
-#include "host/framework/iproject.h"
+#include "host/framework/imodule.h"
 #include "standalone/projectnotes.h"
 
 class StandaloneDocument;

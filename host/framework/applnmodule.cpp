@@ -3,12 +3,30 @@
 #include "host/framework/applnmodule.h"
 
 #include "host/framework/applnprocess.h"
-#include "host/framework/applnwindow.h"
 #include "host/framework/hostsettings.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
+
+APPLNWINDOW::~APPLNWINDOW()
+{
+    setowner(nullptr);
+}
+
+void APPLNWINDOW::setowner(APPLNMODULE *module)
+{
+    if (m_owner == module) {
+        return;
+    }
+    if (m_owner) {
+        m_owner->forgetwindow(this);
+    }
+    m_owner = module;
+    if (m_owner) {
+        m_owner->addwindow(this);
+    }
+}
 
 APPLNMODULE::APPLNMODULE(APPLNPROCESS *process)
     : m_process(process)
@@ -52,6 +70,9 @@ void APPLNMODULE::setapplnname(const QString &name, const QString &title)
 {
     m_name = name;
     m_title = title;
+    if (m_process) {
+        m_process->namemodule(this, name);
+    }
 }
 
 void APPLNMODULE::pushcontext()

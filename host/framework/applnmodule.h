@@ -2,15 +2,49 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/framework/icmdtarget.h"
-#include "host/framework/iformfactory.h"
-#include "host/framework/ipalette.h"
-#include "host/framework/iwindowmodule.h"
+#include "host/framework/moduleinterfaces.h"
 
 #include <QHash>
 #include <QList>
 
 class APPLNPROCESS;
+
+/// How a window is shown.
+constexpr unsigned WINDOW_HIDDEN = 0;
+constexpr unsigned WINDOW_NORMAL = 1;
+constexpr unsigned WINDOW_MINIMISED = 2;
+constexpr unsigned WINDOW_MAXIMISED = 3;
+
+/// A window of a module inside a frame of the host.
+class APPLNWINDOW
+{
+public:
+    APPLNWINDOW() = default;
+    APPLNWINDOW(const APPLNWINDOW &) = delete;
+    APPLNWINDOW &operator=(const APPLNWINDOW &) = delete;
+    /// Leaves the module's list of windows.
+    virtual ~APPLNWINDOW();
+
+    /// Enters the module's list of windows, and leaves the one it was in; null for none.
+    void setowner(APPLNMODULE *module);
+    [[nodiscard]] APPLNMODULE *getowner() const { return m_owner; }
+
+    /// Builds the window inside the frame, which must outlive it. False when it cannot be built.
+    virtual bool createwindow(APPLNFRAME *frame) = 0;
+    /// Whether the user can see it.
+    [[nodiscard]] virtual bool isvisible() const = 0;
+    /// One of the WINDOW_ states.
+    virtual void showwindow(unsigned state) = 0;
+    /// Shows anew what the window shows.
+    virtual void updatewindow() = 0;
+
+    /// Whether the window agrees to be closed; it may ask the user.
+    [[nodiscard]] virtual bool canbeclosed() { return true; }
+
+private:
+    friend class APPLNMODULE;
+    APPLNMODULE *m_owner = nullptr;
+};
 
 /// The base of a module: its names, its windows and its place in the process. Whatever a module does not
 /// override means "nothing of that kind here".
@@ -24,8 +58,6 @@ public:
     virtual ~APPLNMODULE();
 
     [[nodiscard]] APPLNPROCESS *getapplnprocess() const { return m_process; }
-    /// In the order in which they were added.
-    [[nodiscard]] const QList<APPLNWINDOW *> &windows() const { return m_windows; }
     void setmoduleinstance(void *instance) { m_instance = instance; }
 
     IMODULE *queryinterface(unsigned id) override;
@@ -93,6 +125,14 @@ private:
     void *m_instance = nullptr;
     QString m_name;
     QString m_title;
+    /// In the order in which they were added.
     QList<APPLNWINDOW *> m_windows;
     QHash<unsigned, IMODULE *> m_interfaces;
 };
+
+/// The two functions that a module's library exports under these names. The instance belongs to the library:
+/// it is deleted by the function that stands beside the one that made it.
+constexpr const char *MODULE_CREATE = "createmoduleinstance";
+constexpr const char *MODULE_DELETE = "deletemoduleinstance";
+using CREATEMODULEINSTANCE = APPLNMODULE *(*)(APPLNPROCESS *process);
+using DELETEMODULEINSTANCE = void (*)(APPLNMODULE *module);

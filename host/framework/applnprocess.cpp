@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/framework/applnprocess.h"
 
-#include "host/framework/applnmodule.h"
 #include "host/framework/hosttext.h"
 
 #include <algorithm>
@@ -28,6 +27,20 @@ APPLNMODULE *APPLNPROCESS::getcontext() const
     return m_contexts.isEmpty() ? nullptr : m_contexts.constLast();
 }
 
+void APPLNPROCESS::namemodule(const APPLNMODULE *module, const QString &name)
+{
+    for (NamedModule &known : m_modules) {
+        if (known.module == module) {
+            known.name = name;
+        }
+    }
+}
+
+void APPLNPROCESS::removemodule(const APPLNMODULE *module)
+{
+    m_modules.removeIf([module](const NamedModule &known) { return known.module == module; });
+}
+
 APPLNMODULE *APPLNPROCESS::findmodule(const char *application) const
 {
     if (!application) {
@@ -35,8 +48,8 @@ APPLNMODULE *APPLNPROCESS::findmodule(const char *application) const
     }
     const QString name = fromHostText(application);
     const auto found = std::find_if(m_modules.cbegin(), m_modules.cend(),
-                                    [&name](APPLNMODULE *module) { return module->getapplnname() == name; });
-    return found == m_modules.cend() ? nullptr : *found;
+                                    [&name](const NamedModule &known) { return known.name == name; });
+    return found == m_modules.cend() ? nullptr : found->module;
 }
 
 APPLNPROCESS *getapplnprocess()

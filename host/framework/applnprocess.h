@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/framework/applnobject.h"
-
 #include <QList>
 #include <QString>
 
@@ -11,9 +9,29 @@ class APPLNDOCUMENT;
 class APPLNFRAME;
 class APPLNMODULE;
 class IMODULE;
+class QPainter;
 
 /// The kinds of document that a process is asked for.
 constexpr int DOCUMENT_KIND_DESIGN = 2;
+
+/// The kinds of object that a process is asked for.
+constexpr int OBJECT_KIND_PROJECT_NOTES = 34;
+
+/// How an object paints itself.
+constexpr int PAINT_MODE_APPEND = 2;
+
+/// Something of the host's that can show itself on a module's output.
+class APPLNOBJECT
+{
+public:
+    APPLNOBJECT() = default;
+    APPLNOBJECT(const APPLNOBJECT &) = delete;
+    APPLNOBJECT &operator=(const APPLNOBJECT &) = delete;
+    virtual ~APPLNOBJECT() = default;
+
+    /// With PAINT_MODE_APPEND: on pages of its own after what the painter has painted, on the same device.
+    virtual void paint(QPainter &painter, int mode) = 0;
+};
 
 /// The application that hosts the modules. A program makes exactly one and installs it with
 /// setapplnprocess().
@@ -52,15 +70,22 @@ public:
     virtual void popcontext();
     [[nodiscard]] APPLNMODULE *getcontext() const;
 
-    /// The modules that live in the process enter and leave by themselves.
-    void addmodule(APPLNMODULE *module) { m_modules.append(module); }
-    void removemodule(APPLNMODULE *module) { m_modules.removeOne(module); }
-    /// The one of that name, null when there is none.
+    /// The modules that live in the process enter, take a name and leave by themselves.
+    void addmodule(APPLNMODULE *module) { m_modules.append(NamedModule{module, {}}); }
+    void namemodule(const APPLNMODULE *module, const QString &name);
+    void removemodule(const APPLNMODULE *module);
+    /// The first one of that name, null when there is none.
     [[nodiscard]] APPLNMODULE *findmodule(const char *application) const;
 
 private:
+    struct NamedModule
+    {
+        APPLNMODULE *module;
+        QString name;
+    };
+
     QList<APPLNMODULE *> m_contexts;
-    QList<APPLNMODULE *> m_modules;
+    QList<NamedModule> m_modules;
 };
 
 /// The installed process, null before a program has installed one.

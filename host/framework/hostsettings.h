@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QHash>
+#include <QSettings>
 #include <QString>
 
 #include <optional>
@@ -38,4 +39,17 @@ public:
 
 private:
     QHash<QString, QHash<QString, QString>> m_groups;
+};
+
+/// Settings in an INI file, one section a group. The file is made when something is set for the first time.
+class IniHostSettings final : public HostSettings
+{
+public:
+    explicit IniHostSettings(const QString &path);
+
+    [[nodiscard]] std::optional<QString> value(const QString &group, const QString &key) const override;
+    void setValue(const QString &group, const QString &key, const QString &value) override;
+
+private:
+    QSettings m_settings;
 };

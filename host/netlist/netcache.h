@@ -3,7 +3,6 @@
 #pragma once
 
 #include "host/framework/imodule.h"
-#include "host/framework/interfaceids.h"
 #include "host/netlist/netlist.h"
 
 class NETCACHE;

@@ -10,5 +10,10 @@ class APPLNDIALOG : public QDialog
     Q_OBJECT
 
 public:
-    explicit APPLNDIALOG(QWidget *parent = nullptr);
+    explicit APPLNDIALOG(QWidget *parent = nullptr)
+        : QDialog(parent)
+    {
+        setModal(true);
+        setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    }
 };

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/framework/applnwindow.h"
+#include "host/framework/applnmodule.h"
 
 #include <QIcon>
 #include <QList>

@@ -17,20 +17,20 @@ namespace {
 constexpr qsizetype mostCharacters = 1500;
 constexpr qsizetype mostLines = 20;
 
-/// The pointer of every day while a dialog is open, whoever waits behind it.
-class EverydayCursor final
+/// Shows the ordinary mouse pointer instead of the wait cursor while a dialog is open.
+class OrdinaryCursor final
 {
 public:
-    EverydayCursor()
+    OrdinaryCursor()
     {
         while (const QCursor *cursor = QGuiApplication::overrideCursor()) {
             m_cursors.append(*cursor);
             QGuiApplication::restoreOverrideCursor();
         }
     }
-    EverydayCursor(const EverydayCursor &) = delete;
-    EverydayCursor &operator=(const EverydayCursor &) = delete;
-    ~EverydayCursor()
+    OrdinaryCursor(const OrdinaryCursor &) = delete;
+    OrdinaryCursor &operator=(const OrdinaryCursor &) = delete;
+    ~OrdinaryCursor()
     {
         while (!m_cursors.isEmpty()) {
             QGuiApplication::setOverrideCursor(m_cursors.takeLast());
@@ -57,7 +57,7 @@ qsizetype shownLength(const QString &text)
 /// Shows the text as it is, and what is too long behind a button.
 QMessageBox::StandardButton show(QMessageBox &box, const QString &text)
 {
-    const EverydayCursor cursor;
+    const OrdinaryCursor cursor;
     box.setTextFormat(Qt::PlainText);
     const qsizetype shown = shownLength(text);
     box.setText(shown < text.size() ? text.left(shown) + QChar(0x2026) : text);
@@ -65,7 +65,7 @@ QMessageBox::StandardButton show(QMessageBox &box, const QString &text)
         box.setDetailedText(text);
     }
     box.exec();
-    // Escape presses Cancel or No; a box with none of them tells nothing.
+    // Escape presses Cancel or No. A box with neither gives NoButton, which counts as no answer.
     return box.standardButton(box.clickedButton());
 }
 
@@ -111,14 +111,14 @@ HostUi::SaveAnswer QtHostUi::saveQuestion(QWidget *parent, const QString &title,
 QString QtHostUi::saveFileName(QWidget *parent, const QString &caption, const QString &path,
                                const QString &filter)
 {
-    const EverydayCursor cursor;
+    const OrdinaryCursor cursor;
     return QFileDialog::getSaveFileName(parent, caption, path, filter);
 }
 
 QString QtHostUi::openFileName(QWidget *parent, const QString &caption, const QString &path,
                                const QString &filter)
 {
-    const EverydayCursor cursor;
+    const OrdinaryCursor cursor;
     return QFileDialog::getOpenFileName(parent, caption, path, filter);
 }
 

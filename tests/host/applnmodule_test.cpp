@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/framework/applnmodule.h"
 
-#include "host/framework/applnwindow.h"
 #include "host/framework/hostsettings.h"
 #include "support/fakeprocess.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -47,7 +48,7 @@ TEST(ApplnModule, IsFoundByItsNameWhileItLives)
     FakeProcess process;
     auto module = std::make_unique<Module>(&process);
     EXPECT_EQ(process.findmodule("ABC"), nullptr);
-    module->setapplnname(QStringLiteral("ABC"), QStringLiteral("Something"));
+    module->setapplnname(u"ABC"_s, u"Something"_s);
     EXPECT_EQ(process.findmodule("ABC"), module.get());
     EXPECT_EQ(process.findmodule("abc"), nullptr);
     EXPECT_EQ(process.findmodule(nullptr), nullptr);
@@ -84,11 +85,11 @@ TEST(ApplnModule, KnowsItsWindowsUntilTheyGo)
         module.updatewindows();
         EXPECT_EQ(first.updates + second.updates, 2);
     }
-    EXPECT_EQ(module.windows(), QList<APPLNWINDOW *>{&first});
+    EXPECT_EQ(module.getprimarywindow(), &first);
     module.showprimarywindow(WINDOW_MAXIMISED);
     EXPECT_EQ(first.state, WINDOW_MAXIMISED);
     first.setowner(&other);
-    EXPECT_TRUE(module.windows().isEmpty());
+    EXPECT_EQ(module.getprimarywindow(), nullptr);
     other.removewindow(&first);
     EXPECT_EQ(first.getowner(), nullptr);
     {
@@ -105,7 +106,7 @@ TEST(ApplnModule, RunsForTheFirstTimeOnce)
     Module module(nullptr);
     Window window;
     window.setowner(&module);
-    module.setapplnname(QStringLiteral("ABC"), {});
+    module.setapplnname(u"ABC"_s, {});
     module.canInitialise = false;
     EXPECT_FALSE(module.run());
     EXPECT_FALSE(window.isvisible());

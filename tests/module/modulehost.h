@@ -5,9 +5,7 @@
 #include "host/framework/applnframe.h"
 #include "host/framework/applnmodule.h"
 #include "host/framework/applnprocess.h"
-#include "host/framework/applnwindow.h"
-#include "host/framework/interfaceids.h"
-#include "host/framework/iproject.h"
+#include "host/framework/imodule.h"
 #include "support/fakedocument.h"
 #include "support/fakenetlist.h"
 

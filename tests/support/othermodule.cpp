@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "host/framework/applnmodule.h"
-#include "host/framework/moduleentry.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "templates/templatestore.h"
 
-#include "host/framework/inihostsettings.h"
+#include "host/framework/hostsettings.h"
 #include "templates/workingtemplate.h"
 #include "tests/support/scriptedui.h"
 #include "tests/templates/templatefixture.h"

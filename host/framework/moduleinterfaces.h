@@ -7,11 +7,17 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
 #include <span>
 
 class APPLNFRAME;
+class APPLNMODULE;
 class APPLNWINDOW;
 class KEYTRANSLATOR;
+class QObject;
+class QTranslator;
+
+// The interfaces that APPLNMODULE is made of.
 
 /// A command of a module by its number.
 struct CMDINFO
@@ -94,4 +100,62 @@ public:
 
 protected:
     ~IWINDOWMODULE() = default;
+};
+
+/// The state of a command in menus and on tool bars, in any combination.
+constexpr unsigned UISTATE_DISABLED = 0;
+constexpr unsigned UISTATE_ENABLED = 1;
+constexpr unsigned UISTATE_CHECKED = 2;
+
+/// Something that carries out commands.
+class ICMDTARGET
+{
+public:
+    /// The module that commands are carried out in.
+    [[nodiscard]] virtual APPLNMODULE *getapplncontext() = 0;
+    /// False for a command that it does not know.
+    virtual bool docommand(unsigned id) = 0;
+    [[nodiscard]] virtual unsigned getuistate(unsigned id) const = 0;
+
+protected:
+    ICMDTARGET() = default;
+    ICMDTARGET(const ICMDTARGET &) = default;
+    ICMDTARGET &operator=(const ICMDTARGET &) = default;
+    ~ICMDTARGET() = default;
+};
+
+/// Where the host gets dialogs from that a module describes by name.
+class IFORMFACTORY
+{
+public:
+    /// The description of a form; empty for one that the module does not have.
+    [[nodiscard]] virtual QByteArray getdialogform(const char *name) = 0;
+    /// Who handles what happens in a form; null when the form does so itself.
+    [[nodiscard]] virtual QObject *getdialogcbf(const char *name) = 0;
+    /// A control of a kind that only the module knows; null for any other.
+    [[nodiscard]] virtual QObject *getdialogctrl(const char *type, QObject *parent) = 0;
+    [[nodiscard]] virtual QByteArray getdialogctrltypename(unsigned type) = 0;
+    /// Translates the texts of forms, in getstringcontext(); null when they are in the user's language.
+    [[nodiscard]] virtual QTranslator *getstringtranslator() = 0;
+    [[nodiscard]] virtual QString getstringcontext() const = 0;
+
+protected:
+    IFORMFACTORY() = default;
+    IFORMFACTORY(const IFORMFACTORY &) = default;
+    IFORMFACTORY &operator=(const IFORMFACTORY &) = default;
+    ~IFORMFACTORY() = default;
+};
+
+/// Colours by number.
+class IPALETTE
+{
+public:
+    /// As 0xRRGGBB; nothing for a number that the palette leaves to the desktop.
+    [[nodiscard]] virtual std::optional<quint32> getcolour(unsigned index) const = 0;
+
+protected:
+    IPALETTE() = default;
+    IPALETTE(const IPALETTE &) = default;
+    IPALETTE &operator=(const IPALETTE &) = default;
+    ~IPALETTE() = default;
 };
