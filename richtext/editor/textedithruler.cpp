@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "richtext/editor/textedithruler.h"
 
+#include "richtext/editor/rulerpainter.h"
 #include "richtext/editor/textedit.h"
 
 #include <QEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextFrame>
@@ -14,13 +16,14 @@
 #include <array>
 #include <cmath>
 
-// What the ruler shows and does; how it is painted stands in textedithruler_paint.cpp.
-
 namespace {
 
 constexpr double pixelsPerPoint = 96.0 / 72.0;
+constexpr int rulerHeight = 24;
+// In pixels: how near to a mark it is grabbed, and the width that margins leave for the text.
 constexpr double reach = 5;
 constexpr double narrowestText = 20;
+/// Marks stop at whole millimetres.
 constexpr double snap = 96.0 / 25.4;
 
 QTextFrameFormat paperFormat(const TextEdit &edit)
@@ -161,6 +164,50 @@ double TextEditHRuler::snapped(double place) const
 double TextEditHRuler::shownPlace(Mark mark) const
 {
     return m_drag && m_drag->mark == mark ? m_drag->place : place(mark);
+}
+
+QList<double> TextEditHRuler::shownTabs() const
+{
+    QList<double> stops = tabs();
+    if (m_drag && m_drag->mark == Mark::Tab) {
+        stops.removeOne(m_drag->placeBefore);
+        if (!m_drag->isOff) {
+            stops.append(m_drag->place);
+        }
+    }
+    return stops;
+}
+
+QSize TextEditHRuler::sizeHint() const
+{
+    return {0, rulerHeight};
+}
+
+QSize TextEditHRuler::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+void TextEditHRuler::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().window());
+    if (m_edit == nullptr) {
+        return;
+    }
+    const QTextFrameFormat paper = paperFormat(*m_edit);
+    RulerContent content;
+    content.origin = originX();
+    content.linesWidth = linesWidth();
+    content.paperLeftMargin = paper.leftMargin();
+    content.paperRightMargin = paper.rightMargin();
+    content.paperLeft = shownPlace(Mark::PaperLeft);
+    content.paperRight = shownPlace(Mark::PaperRight);
+    content.firstLine = shownPlace(Mark::FirstLine);
+    content.left = shownPlace(Mark::Left);
+    content.right = shownPlace(Mark::Right);
+    content.tabStops = shownTabs();
+    RulerPainter(painter, *this, content).paint();
 }
 
 void TextEditHRuler::mousePressEvent(QMouseEvent *event)

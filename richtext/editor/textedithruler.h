@@ -26,7 +26,6 @@ public:
 
     /// The paper's width in points; 0, as at first, for as wide as the text is shown.
     void setPaperWidth(double points);
-    [[nodiscard]] double paperWidth() const { return m_paperWidth; }
 
     /// Texts that are kept as HTML lose their tab stops: there they are better not offered.
     void setHasTabStops(bool has);
@@ -61,22 +60,25 @@ private:
         /// From the left end of the lines, in pixels.
         double place;
         double placeBefore;
+        /// A tab stop that is dragged off the ruler.
         bool isOff = false;
     };
 
     [[nodiscard]] QTextBlockFormat format() const;
+    /// Where the lines of the text begin, on the ruler.
     [[nodiscard]] double originX() const;
     [[nodiscard]] double linesWidth() const;
     [[nodiscard]] double place(Mark mark) const;
     [[nodiscard]] QList<double> tabs() const;
+    /// What a drag from there moves, a new tab stop where nothing is.
     [[nodiscard]] std::optional<Drag> markAt(const QPoint &point) const;
     [[nodiscard]] double snapped(double place) const;
+    /// While a mark is dragged, the place where it is now.
     [[nodiscard]] double shownPlace(Mark mark) const;
+    [[nodiscard]] QList<double> shownTabs() const;
     void apply(const Drag &drag);
     void applyToParagraphs(const Drag &drag);
     void applyToPaper(const Drag &drag);
-    void paintScale(QPainter &painter) const;
-    void paintMarks(QPainter &painter) const;
 
     QPointer<TextEdit> m_edit;
     double m_paperWidth = 0;

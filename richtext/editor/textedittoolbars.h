@@ -5,15 +5,11 @@
 #include <QPointer>
 #include <QWidget>
 
-class ColorMenu;
-class QAction;
-class QComboBox;
-class QFontComboBox;
+#include <memory>
+
 class QTextCharFormat;
-class QTextCursor;
-class QToolBar;
-class QToolButton;
 class TextEdit;
+class TextTools;
 
 /// Tool bars that act on one editor and show what its cursor stands in. Without an editor they are disabled.
 class TextEditToolBars : public QWidget
@@ -33,16 +29,9 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void addFontTools(QToolBar &bar);
-    void addStyleTools(QToolBar &bar);
-    void addParagraphTools(QToolBar &bar);
-    void addInsertTools(QToolBar &bar);
-    void addUndoTools(QToolBar &bar);
-    QAction *addTool(QToolBar &bar, const QString &name, const QString &text, const QString &keys = {});
-    QAction *addFormatTool(QToolBar &bar, const QString &name, const QString &text, const QString &keys,
-                           void (*set)(QTextCharFormat &, bool));
-    void addAlignmentTool(QToolBar &bar, const QString &name, const QString &text, Qt::Alignment alignment);
-    QToolButton *addColorTool(QToolBar &bar, const QString &name, const QString &text, ColorMenu *menu);
+    void connectFontTools();
+    void connectFormatTools();
+    void connectParagraphTools();
 
     void applyFamily(const QString &family);
     void applySize(const QString &text);
@@ -58,19 +47,5 @@ private:
     void drawIcons();
 
     QPointer<TextEdit> m_edit;
-    QFontComboBox *m_family = nullptr;
-    QComboBox *m_size = nullptr;
-    QToolButton *m_textColor = nullptr;
-    QToolButton *m_fillColor = nullptr;
-    ColorMenu *m_textColors = nullptr;
-    ColorMenu *m_fillColors = nullptr;
-    QAction *m_bold = nullptr;
-    QAction *m_italic = nullptr;
-    QAction *m_underline = nullptr;
-    QAction *m_bullets = nullptr;
-    QAction *m_numbers = nullptr;
-    QAction *m_undo = nullptr;
-    QAction *m_redo = nullptr;
-    QList<QAction *> m_alignments;
-    QList<QAction *> m_tools;
+    std::unique_ptr<TextTools> m_tools;
 };
