@@ -14,7 +14,7 @@
 
 #include <algorithm>
 
-PrintPreview::PrintPreview(QPrinter &printer, PrintUi::PaintPages paint, QWidget *parent)
+PrintPreview::PrintPreview(QPrinter &printer, std::function<void(QPrinter &)> paint, QWidget *parent)
     : QDialog(parent)
     , m_printer(printer)
     , m_pages(new QPrintPreviewWidget(&printer, this))

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "richtext/paper/printui.h"
-
 #include <QDialog>
+
+#include <functional>
 
 class QLabel;
 class QPrintPreviewWidget;
@@ -18,8 +18,8 @@ class PrintPreview final : public QDialog
     Q_OBJECT
 
 public:
-    /// The printer must outlive the dialog.
-    PrintPreview(QPrinter &printer, PrintUi::PaintPages paint, QWidget *parent);
+    /// The printer must outlive the dialog. `paint` paints the pages on whatever printer it is given.
+    PrintPreview(QPrinter &printer, std::function<void(QPrinter &)> paint, QWidget *parent);
 
 private:
     [[nodiscard]] QToolBar *makeToolBar();
