@@ -176,7 +176,7 @@ Values read(Family family, const StyleSheet::Declaration &declaration)
             }
         }
         if (family != Family::Border) {
-            break; // has widths only
+            break; // margins and paddings have a width only
         }
     }
     return {};

@@ -37,7 +37,8 @@ constexpr Side allSides[] = {Side::Top, Side::Right, Side::Bottom, Side::Left};
 /// One thing about one side. Margins and paddings have a width only.
 using Slot = std::pair<Aspect, Side>;
 [[nodiscard]] QList<Slot> everySide(Aspect aspect);
-/// What a declaration says; an empty value where it says that nothing is set.
+/// What a declaration says of each slot; an empty value for one that it resets, as "border: solid" does with
+/// the width.
 using Values = QMap<Slot, QString>;
 
 /// Empty for a declaration of another family.
@@ -45,11 +46,12 @@ using Values = QMap<Slot, QString>;
 
 /// A length for each side, in the order of allSides.
 using Lengths = std::array<std::optional<double>, 4>;
-/// The margins or paddings that a rule sets, in points; none for a side that it leaves open, 0 for one that
-/// it sets to what is no length. `em` and `whole` are the points that 1em and 100% stand for.
+/// The margins or paddings that a rule sets, in points: none for a side that it leaves open, 0 where its
+/// value is no length such as "auto". `em` and `whole` are the points that 1em and 100% stand for.
 [[nodiscard]] Lengths lengths(Family family, const StyleSheet::Rule &rule, double em, double whole);
 
-/// The value with which a property says that; empty when it cannot.
+/// The value that gives a property these values, shorthands included; empty when the property cannot express
+/// them.
 [[nodiscard]] QString written(Family family, const QString &property, const Values &values);
 
 /// The property for one slot: "border-left-width".

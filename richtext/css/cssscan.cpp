@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "richtext/css/cssscan.h"
 
-#include "richtext/css/cssreader.h"
+#include <QCoreApplication>
 
 namespace css {
 namespace {
 
 /// One declaration while it is read.
-struct Piece
+struct Candidate
 {
     DeclarationSpans spans;
     qsizetype colon = -1;
@@ -21,7 +21,7 @@ struct Piece
         return !broken && brackets == 0 && colon >= 0 && !spans.property.isEmpty() && !spans.value.isEmpty();
     }
 
-    /// Takes in a piece of the text that is neither blank nor comment.
+    /// Takes in a token that is neither blank nor comment.
     void add(Span at)
     {
         if (colon < 0) {
@@ -35,10 +35,15 @@ struct Piece
     }
 };
 
-class Scanner : private Reader
+/// Reads a style sheet in one pass, from left to right and going back by one token at most, so that even a
+/// text of nothing but braces costs time in proportion to its length. It notes places instead of copying
+/// texts: an edit replaces what stands at a place and leaves every other character as it was written. Where
+/// CSS has a syntax error browsers skip up to the next semicolon or brace of the same level; so does this,
+/// and notes the fault.
+class Scanner : private TokenReader
 {
 public:
-    using Reader::Reader;
+    using TokenReader::TokenReader;
 
     Sheet run()
     {
@@ -54,7 +59,7 @@ public:
                 statement(begin);
             }
         }
-        return std::move(sheet());
+        return {std::move(m_rules), fault(), faultAt(), closer()};
     }
 
 private:
@@ -74,10 +79,10 @@ private:
         }
     }
 
-    /// What begins at `begin`, its first piece being read already.
+    /// A rule, at-rule or stray sign that begins at `begin`; its first token is read already.
     void statement(qsizetype begin)
     {
-        switch (sign()) {
+        switch (character()) {
         case u';':
             return;
         case u'}':
@@ -99,12 +104,12 @@ private:
         while (!atEnd()) {
             const qsizetype at = pos();
             next();
-            if (sign() == u'{') {
+            if (character() == u'{') {
                 ++depth;
-            } else if (sign() == u'}' && depth == 0) {
+            } else if (character() == u'}' && depth == 0) {
                 goTo(at);
                 return;
-            } else if ((sign() == u'}' && --depth == 0) || (sign() == u';' && depth == 0)) {
+            } else if ((character() == u'}' && --depth == 0) || (character() == u';' && depth == 0)) {
                 return;
             }
         }
@@ -122,14 +127,14 @@ private:
         while (!atEnd()) {
             const qsizetype at = pos();
             const Token token = next();
-            if (sign() == u'{') {
+            if (character() == u'{') {
                 block(rule, at);
                 if (!rule.selector.isEmpty()) {
-                    sheet().rules.append(std::move(rule));
+                    m_rules.append(std::move(rule));
                 }
                 return;
             }
-            if (sign() == u';' || sign() == u'}') {
+            if (character() == u';' || character() == u'}') {
                 report(Fault::NoBlock, rule.selector.begin);
                 return;
             }
@@ -150,11 +155,11 @@ private:
         while (!atEnd()) {
             const qsizetype at = pos();
             const Token token = next();
-            if (sign() == u'}') {
+            if (character() == u'}') {
                 rule.body.end = at;
                 return;
             }
-            if (token == Token::Other && sign() != u';') {
+            if (token == Token::Other && character() != u';') {
                 goTo(at);
                 declaration(rule);
             }
@@ -165,70 +170,92 @@ private:
 
     void declaration(RuleSpans &rule)
     {
-        Piece piece;
-        piece.spans.all = {pos(), pos()};
-        piece.spans.property = piece.spans.all;
+        Candidate candidate;
+        candidate.spans.all = {pos(), pos()};
+        candidate.spans.property = candidate.spans.all;
         while (!atEnd()) {
             const qsizetype at = pos();
             const Token token = next();
-            if (sign() == u'}' && piece.braces == 0) {
+            if (character() == u'}' && candidate.braces == 0) {
                 goTo(at);
                 break;
             }
             if (token != Token::Blank) {
-                piece.spans.all.end = pos();
+                candidate.spans.all.end = pos();
             }
-            if (endsDeclaration(piece)) {
+            if (endsDeclaration(candidate)) {
                 break;
             }
-            if (sign() == u':' && piece.colon < 0) {
-                piece.colon = at;
+            if (character() == u':' && candidate.colon < 0) {
+                candidate.colon = at;
             }
             if (token == Token::Other) {
-                piece.add({at, pos()});
+                candidate.add({at, pos()});
             }
         }
-        if (piece.braces > 0) {
-            close(QString(piece.braces, u'}'));
+        if (candidate.braces > 0) {
+            close(QString(candidate.braces, u'}'));
         }
-        if (piece.isGood()) {
-            rule.declarations.append(piece.spans);
+        if (candidate.isGood()) {
+            rule.declarations.append(candidate.spans);
         } else {
-            report(Fault::BadDeclaration, piece.spans.all.begin);
+            report(Fault::BadDeclaration, candidate.spans.all.begin);
         }
     }
 
     /// Counts brackets; true at the semicolon or at the end of a block inside the declaration.
-    [[nodiscard]] bool endsDeclaration(Piece &piece) const
+    [[nodiscard]] bool endsDeclaration(Candidate &candidate) const
     {
-        switch (sign()) {
+        switch (character()) {
         case u'{':
-            ++piece.braces;
-            piece.broken = true;
+            ++candidate.braces;
+            candidate.broken = true;
             return false;
         case u'}':
-            return --piece.braces == 0;
+            return --candidate.braces == 0;
         case u'\n':
-            piece.broken = true;
+            candidate.broken = true;
             return false;
         case u'(':
         case u'[':
-            ++piece.brackets;
+            ++candidate.brackets;
             return false;
         case u')':
         case u']':
-            piece.brackets = qMax<qsizetype>(0, piece.brackets - 1);
+            candidate.brackets = qMax<qsizetype>(0, candidate.brackets - 1);
             return false;
         case u';':
-            piece.spans.semicolon = piece.braces == 0 && piece.brackets == 0;
-            return piece.spans.semicolon;
+            candidate.spans.semicolon = candidate.braces == 0 && candidate.brackets == 0;
+            return candidate.spans.semicolon;
         default:
             return false;
         }
     }
 
+    QList<RuleSpans> m_rules;
     Span m_title;
 };
+
+[[nodiscard]] QString faultText(Fault fault)
+{
+    switch (fault) {
+    case Fault::None:
+        break;
+    case Fault::BadDeclaration:
+        return QCoreApplication::translate("TextStyleEditor", "this is not a property with a value");
+    case Fault::NoBlock:
+        return QCoreApplication::translate("TextStyleEditor", "a style without its braces begins here");
+    case Fault::StrayBrace:
+        return QCoreApplication::translate("TextStyleEditor", "this brace closes nothing");
+    case Fault::OpenString:
+        return QCoreApplication::translate("TextStyleEditor", "this string is not closed");
+    case Fault::OpenComment:
+        return QCoreApplication::translate("TextStyleEditor", "this comment is not closed");
+    case Fault::OpenBlock:
+        return QCoreApplication::translate("TextStyleEditor", "this brace is not closed");
+    }
+    return {};
+}
 
 } // namespace
 
@@ -237,20 +264,15 @@ Sheet scan(QStringView text)
     return Scanner(text).run();
 }
 
-QString plain(QStringView text)
+QString faultMessage(const QString &text)
 {
-    QString out;
-    Reader reader(text);
-    while (!reader.atEnd()) {
-        const qsizetype begin = reader.pos();
-        const Token token = reader.next();
-        if (token == Token::Other) {
-            out += text.mid(begin, reader.pos() - begin);
-        } else if (!out.endsWith(u' ')) {
-            out += u' ';
-        }
+    const Sheet sheet = scan(text);
+    if (sheet.fault == Fault::None) {
+        return {};
     }
-    return out.trimmed();
+    const qsizetype line = QStringView(text).left(sheet.faultAt).count(u'\n') + 1;
+    return QCoreApplication::translate("TextStyleEditor", "Line %1 of the style sheet: %2.")
+        .arg(QString::number(line), faultText(sheet.fault));
 }
 
 } // namespace css

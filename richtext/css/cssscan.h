@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "richtext/css/csstokenreader.h"
+
 #include <QList>
 #include <QString>
 
@@ -33,18 +35,6 @@ struct RuleSpans
     QList<DeclarationSpans> declarations;
 };
 
-/// What is wrong with a text, the graver the later.
-enum class Fault
-{
-    None,
-    BadDeclaration,
-    NoBlock,
-    StrayBrace,
-    OpenString,
-    OpenComment,
-    OpenBlock
-};
-
 struct Sheet
 {
     QList<RuleSpans> rules;
@@ -58,7 +48,7 @@ struct Sheet
 /// Reads any text, in time linear to its length.
 [[nodiscard]] Sheet scan(QStringView text);
 
-/// A selector or property without comments, its runs of blanks made one.
-[[nodiscard]] QString plain(QStringView text);
+/// What is wrong with a style sheet and in which line, for the user; empty when nothing is.
+[[nodiscard]] QString faultMessage(const QString &text);
 
 } // namespace css

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "richtext/css/cssvalue.h"
 
-#include "richtext/css/cssreader.h"
+#include "richtext/css/csstokenreader.h"
 
 #include <QHash>
 #include <QRegularExpression>
@@ -17,7 +17,7 @@ namespace {
     QStringList out;
     QString part;
     qsizetype depth = 0;
-    Reader reader(value);
+    TokenReader reader(value);
     const auto take = [&] {
         if (const QString done = part.trimmed(); !done.isEmpty()) {
             out.append(done);
@@ -27,9 +27,9 @@ namespace {
     while (!reader.atEnd()) {
         const qsizetype begin = reader.pos();
         const Token token = reader.next();
-        const char16_t sign = token == Token::Other ? reader.sign() : u' ';
-        depth += sign == u'(' ? 1 : sign == u')' ? -1 : 0;
-        if (depth <= 0 && sign == separator) {
+        const char16_t character = token == Token::Other ? reader.character() : u' ';
+        depth += character == u'(' ? 1 : character == u')' ? -1 : 0;
+        if (depth <= 0 && character == separator) {
             take();
         } else {
             part += token == Token::Other ? value.mid(begin, reader.pos() - begin) : QStringLiteral(" ");

@@ -16,7 +16,7 @@ namespace {
            part == QLatin1String("lighter") || (number && weight >= 100 && weight <= 900);
 }
 
-/// "italic bold 12pt/1.2 Arial".
+/// One property out of the shorthand "italic bold 12pt/1.2 Arial".
 [[nodiscard]] QString fontPart(const QString &font, const QString &property)
 {
     QString style = QStringLiteral("normal");
@@ -61,7 +61,7 @@ namespace {
     return property == QLatin1String("background-color") ? QStringLiteral("background") : QString();
 }
 
-/// Whether a value says that nothing is set.
+/// Whether a value leaves the property to others, as if there were no declaration.
 [[nodiscard]] bool isOpen(const QString &value)
 {
     static const QStringList words{QStringLiteral("inherit"), QStringLiteral("initial"),
@@ -108,7 +108,7 @@ StyleRule::Declaration StyleRule::effective(const QString &property) const
     return {};
 }
 
-/// Puts a value in the place of the property's last one; stays important when that was.
+/// Replaces the value of the property's last declaration, which stays important if it was.
 void StyleRule::write(const QString &property, const QString &value)
 {
     const bool important = css::isImportant(effective(property).value);
@@ -116,7 +116,7 @@ void StyleRule::write(const QString &property, const QString &value)
                       important && !value.isEmpty() ? value + QStringLiteral(" !important") : value);
 }
 
-/// Puts a value last, where it counts.
+/// Adds the declaration as the last one of the rule, where it wins over all before it.
 void StyleRule::append(const QString &property, const QString &value)
 {
     m_sheet->setValue(m_selector, property, {});
@@ -145,7 +145,7 @@ void StyleRule::setValue(const QString &property, const QString &value)
         write(property, value);
         readDeclarations();
         if (value.isEmpty() && !this->value(property).isEmpty()) {
-            append(property, QStringLiteral("inherit")); // what it hid must not come forth
+            append(property, QStringLiteral("inherit")); // else an earlier rule would count again
         }
     } else {
         append(property, value.isEmpty() ? QStringLiteral("inherit") : value);
@@ -200,7 +200,7 @@ void StyleRule::setBoxValue(cssbox::Family family, const QList<cssbox::Slot> &sl
             return;
         }
     }
-    if (slots.size() > 1) { // what single sides said counts no longer
+    if (slots.size() > 1) { // the declarations of single sides would win over the new one
         for (const cssbox::Slot &slot : slots) {
             m_sheet->setValue(m_selector, cssbox::property(family, slot), {});
         }
@@ -237,7 +237,7 @@ void StyleRule::clearBoxValue(cssbox::Family family, const QList<cssbox::Slot> &
     }
     readDeclarations();
     for (const cssbox::Slot &slot : slots) {
-        if (!boxValue(family, slot).isEmpty()) { // what an earlier rule says must not come forth
+        if (!boxValue(family, slot).isEmpty()) { // else an earlier rule would count again
             append(cssbox::property(family, slot), QStringLiteral("initial"));
         }
     }

@@ -5,8 +5,10 @@
 #include "richtext/css/cssbox.h"
 #include "richtext/css/stylesheet.h"
 
-/// What the rules of a selector say, as an editor shows it: each property with the value that counts,
-/// shorthands taken apart. Changes go to the last rule; what else is said stays.
+/// The rules of one selector as an editor shows them: each property with the value that counts, shorthands
+/// taken apart. Values are set in the last of the rules, and everything else stays as it is written: a
+/// shorthand is rewritten where it can express the new value, otherwise the property gets a declaration of
+/// its own after it.
 class StyleRule final
 {
 public:
@@ -27,7 +29,7 @@ public:
 private:
     struct Declaration : StyleSheet::Declaration
     {
-        /// Whether the last rule says it, which is the one that can be changed.
+        /// Whether it stands in the last rule, the only one that is changed.
         bool own = false;
     };
 

@@ -130,7 +130,7 @@ struct Edit
 {
     const QString wanted = selector.simplified();
     for (auto rule = sheet.rules.crbegin(); rule != sheet.rules.crend(); ++rule) {
-        if (css::plain(rule->selector.in(text)) == wanted) {
+        if (css::withoutComments(rule->selector.in(text)) == wanted) {
             return &*rule;
         }
     }
@@ -165,9 +165,11 @@ QList<StyleSheet::Rule> StyleSheet::rules() const
     QList<Rule> out;
     const css::Sheet sheet = css::scan(m_text);
     for (const css::RuleSpans &spans : sheet.rules) {
-        Rule rule{css::plain(spans.selector.in(m_text)), spans.title.in(m_text).toString().simplified(), {}};
+        Rule rule{css::withoutComments(spans.selector.in(m_text)),
+                  spans.title.in(m_text).toString().simplified(),
+                  {}};
         for (const css::DeclarationSpans &declaration : spans.declarations) {
-            rule.declarations.append({css::plain(declaration.property.in(m_text)).toLower(),
+            rule.declarations.append({css::withoutComments(declaration.property.in(m_text)).toLower(),
                                       declaration.value.in(m_text).toString()});
         }
         out.append(rule);
@@ -175,21 +177,17 @@ QList<StyleSheet::Rule> StyleSheet::rules() const
     return out;
 }
 
-bool StyleSheet::hasRule(const QString &selector) const
-{
-    return lastRule(css::scan(m_text), m_text, selector) != nullptr;
-}
-
 QString StyleSheet::value(const QString &selector, const QString &property) const
 {
     const QString wanted = selector.simplified();
     const css::Sheet sheet = css::scan(m_text);
     for (auto rule = sheet.rules.crbegin(); rule != sheet.rules.crend(); ++rule) {
-        if (css::plain(rule->selector.in(m_text)) != wanted) {
+        if (css::withoutComments(rule->selector.in(m_text)) != wanted) {
             continue;
         }
         for (auto found = rule->declarations.crbegin(); found != rule->declarations.crend(); ++found) {
-            if (css::plain(found->property.in(m_text)).compare(property, Qt::CaseInsensitive) == 0) {
+            if (css::withoutComments(found->property.in(m_text)).compare(property, Qt::CaseInsensitive) ==
+                0) {
                 return found->value.in(m_text).toString();
             }
         }
@@ -204,7 +202,7 @@ void StyleSheet::setValue(const QString &selector, const QString &property, cons
     QList<css::DeclarationSpans> found;
     if (rule) {
         for (const css::DeclarationSpans &spans : rule->declarations) {
-            if (css::plain(spans.property.in(m_text)).compare(property, Qt::CaseInsensitive) == 0) {
+            if (css::withoutComments(spans.property.in(m_text)).compare(property, Qt::CaseInsensitive) == 0) {
                 found.append(spans);
             }
         }

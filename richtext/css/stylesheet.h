@@ -34,8 +34,6 @@ public:
 
     /// The rules in the order of the text; rules inside at-rules are not among them.
     [[nodiscard]] QList<Rule> rules() const;
-    /// Whether there is a rule for exactly that selector.
-    [[nodiscard]] bool hasRule(const QString &selector) const;
 
     /// The last value that the rules of a selector give a property; empty when none does.
     [[nodiscard]] QString value(const QString &selector, const QString &property) const;

@@ -3,7 +3,6 @@
 #include "richtext/editor/textstyleeditor.h"
 
 #include "editor/ui_textstyleeditor.h"
-#include "richtext/css/cssfault.h"
 #include "richtext/css/cssscan.h"
 
 #include <QFontDatabase>
@@ -72,12 +71,12 @@ void TextStyleEditor::loadCSS(const QString &css)
     m_pause.stop();
     m_typed = false;
     m_sheet = StyleSheet(css);
-    m_ui->stylePanel->showRule(StyleSheet(), QString()); // which side of a border was worked on is forgotten
+    m_ui->stylePanel->showRule(StyleSheet(), QString()); // forgets which side of a border was chosen
     showSheet();
     if (m_running) {
         announce();
     } else {
-        m_told = css;
+        m_announced = css;
     }
 }
 
@@ -89,14 +88,14 @@ QString TextStyleEditor::getCSS() const
 bool TextStyleEditor::run()
 {
     m_original = m_sheet.text();
-    m_told = m_original;
+    m_announced = m_original;
     m_running = true;
     Q_EMIT currentSelectorChanged(m_selector);
     const bool accepted = exec() == Accepted;
     m_running = false;
     m_pause.stop();
     if (!accepted) {
-        const bool previewed = m_told != m_original;
+        const bool previewed = m_announced != m_original;
         loadCSS(m_original);
         if (previewed) {
             Q_EMIT currentStyleChanged(m_original, true);
@@ -127,12 +126,12 @@ void TextStyleEditor::take(const QString &css)
 
 void TextStyleEditor::announce()
 {
-    if (m_sheet.text() == m_told) {
+    if (m_sheet.text() == m_announced) {
         return;
     }
-    m_told = m_sheet.text();
-    Q_EMIT currentStyleChanged(m_told);
-    Q_EMIT currentStyleChanged(m_told, true);
+    m_announced = m_sheet.text();
+    Q_EMIT currentStyleChanged(m_announced);
+    Q_EMIT currentStyleChanged(m_announced, true);
 }
 
 void TextStyleEditor::readText()
@@ -173,7 +172,7 @@ void TextStyleEditor::showTextOfRule()
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     const css::Sheet sheet = css::scan(text);
     for (auto rule = sheet.rules.crbegin(); rule != sheet.rules.crend(); ++rule) {
-        if (css::plain(rule->selector.in(text)) == m_selector) {
+        if (css::withoutComments(rule->selector.in(text)) == m_selector) {
             QTextCursor cursor(m_ui->cssEdit->document());
             cursor.movePosition(QTextCursor::End);
             m_ui->cssEdit->setTextCursor(cursor); // so that the rule comes up to the top

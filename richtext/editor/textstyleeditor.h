@@ -53,7 +53,7 @@ Q_SIGNALS:
 
 private:
     void setUp();
-    /// Takes an edit in and tells of it.
+    /// Makes a changed style sheet the present one and announces it.
     void take(const QString &css);
     void announce();
     /// Takes in what was typed on the text tab.
@@ -74,9 +74,11 @@ private:
     QTimer m_pause;
     StyleSheet m_sheet;
     QString m_original;
-    QString m_told;
+    /// The style sheet that was announced last.
+    QString m_announced;
     QString m_selector;
     bool m_hidesUserStyles = false;
     bool m_running = false;
+    /// Whether text was typed that is not read yet.
     bool m_typed = false;
 };

@@ -8,9 +8,14 @@
 #include <ostream>
 
 /// Failures show Qt's texts and lists readably.
+inline std::ostream &operator<<(std::ostream &out, const QString &text)
+{
+    return out << '"' << text.toStdString() << '"';
+}
+
 inline void PrintTo(const QString &text, std::ostream *out)
 {
-    *out << '"' << text.toStdString() << '"';
+    *out << text;
 }
 
 inline void PrintTo(const QStringList &texts, std::ostream *out)

@@ -1,18 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "richtext/css/cssreader.h"
+#include "richtext/css/csstokenreader.h"
 
 namespace css {
 
-bool Reader::looksAt(QLatin1String what, Qt::CaseSensitivity sensitivity) const
+bool TokenReader::looksAt(QLatin1String what, Qt::CaseSensitivity sensitivity) const
 {
     return m_text.mid(m_pos, what.size()).compare(what, sensitivity) == 0;
 }
 
-Token Reader::next()
+Token TokenReader::next()
 {
     const QChar c = m_text.at(m_pos);
-    m_sign = 0;
+    m_character = 0;
     if (c.isSpace()) {
         ++m_pos;
         return Token::Blank;
@@ -28,31 +28,31 @@ Token Reader::next()
     } else if (beginsUrl()) {
         url();
     } else {
-        m_sign = c.unicode();
+        m_character = c.unicode();
         ++m_pos;
     }
     return Token::Other;
 }
 
-void Reader::report(Fault fault, qsizetype at)
+void TokenReader::report(Fault fault, qsizetype at)
 {
-    if (fault > m_sheet.fault) {
-        m_sheet.fault = fault;
-        m_sheet.faultAt = at;
+    if (fault > m_fault) {
+        m_fault = fault;
+        m_faultAt = at;
     }
 }
 
-void Reader::comment()
+void TokenReader::comment()
 {
     const qsizetype end = m_text.indexOf(QLatin1String("*/"), m_pos + 2);
     if (end < 0) {
         report(Fault::OpenComment, m_pos);
-        m_sheet.closer = QStringLiteral("*/");
+        m_closer = QStringLiteral("*/");
     }
     m_pos = end < 0 ? m_text.size() : end + 2;
 }
 
-void Reader::string(QChar quote)
+void TokenReader::string(QChar quote)
 {
     const qsizetype begin = m_pos++;
     QString closer(quote);
@@ -64,7 +64,7 @@ void Reader::string(QChar quote)
         }
         if (c == u'\n') {
             report(Fault::OpenString, begin);
-            m_sign = u'\n';
+            m_character = u'\n';
             return;
         }
         if (c == u'\\' && ++m_pos == m_text.size()) {
@@ -73,26 +73,26 @@ void Reader::string(QChar quote)
         }
     }
     report(Fault::OpenString, begin);
-    m_sheet.closer = closer;
+    m_closer = closer;
 }
 
-void Reader::escape()
+void TokenReader::escape()
 {
     if (m_pos + 1 == m_text.size()) {
-        m_sheet.closer = QStringLiteral("\\");
+        m_closer = QStringLiteral("\\");
     }
     m_pos = qMin(m_pos + 2, m_text.size());
 }
 
 // An address without quotes may hold semicolons and what looks like a comment.
-bool Reader::beginsUrl() const
+bool TokenReader::beginsUrl() const
 {
     const auto inName = [](QChar c) { return c.isLetterOrNumber() || c == u'-' || c == u'_'; };
     return looksAt(QLatin1String("url("), Qt::CaseInsensitive) &&
            (m_pos == 0 || !inName(m_text.at(m_pos - 1)));
 }
 
-void Reader::url()
+void TokenReader::url()
 {
     qsizetype at = m_pos + 4;
     while (at < m_text.size() && m_text.at(at).isSpace()) {
@@ -107,9 +107,24 @@ void Reader::url()
     }
     if (at == m_text.size()) {
         report(Fault::OpenString, m_pos);
-        m_sheet.closer = QStringLiteral(")");
+        m_closer = QStringLiteral(")");
     }
     m_pos = qMin(at + 1, m_text.size());
+}
+
+QString withoutComments(QStringView text)
+{
+    QString out;
+    TokenReader reader(text);
+    while (!reader.atEnd()) {
+        const qsizetype begin = reader.pos();
+        if (reader.next() == Token::Other) {
+            out += text.mid(begin, reader.pos() - begin);
+        } else if (!out.endsWith(u' ')) {
+            out += u' ';
+        }
+    }
+    return out.trimmed();
 }
 
 } // namespace css
