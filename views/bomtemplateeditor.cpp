@@ -7,7 +7,7 @@
 #include "richtext/editor/textedithruler.h"
 #include "richtext/editor/textedittoolbars.h"
 #include "richtext/paper/pagegeometry.h"
-#include "richtext/xhtml/documentmarkup.h"
+#include "richtext/xhtml/xhtmlparts.h"
 #include "ui_bomtemplateeditor.h"
 #include "views/report/htmltext.h"
 

@@ -4,15 +4,13 @@
 
 #include "richtext/css/stylesheet.h"
 #include "richtext/paper/pagegeometry.h"
-#include "richtext/xhtml/documentmarkup.h"
-#include "richtext/xhtml/shownmarkup.h"
-#include "richtext/xhtml/shownstyle.h"
-#include "richtext/xhtml/xhtmlstyle.h"
+#include "richtext/xhtml/qthtmlwriter.h"
+#include "richtext/xhtml/qtstylesheet.h"
+#include "richtext/xhtml/xhtmlparts.h"
 #include "richtext/xhtml/xhtmlwriter.h"
 #include "richtext/xhtml/xmltext.h"
 
 #include <QElapsedTimer>
-#include <QStringBuilder>
 #include <QTextCursor>
 #include <QTextFrame>
 #include <QTextFrameFormat>
@@ -53,7 +51,7 @@ TextDocument::~TextDocument() = default;
 void TextDocument::setSource(const QString &xhtml)
 {
     m_source = xhtml;
-    m_css = takeApart(xhtml).css;
+    m_css = splitXhtml(xhtml).css;
     m_shownCss = m_css;
     m_title.clear();
     suspend();
@@ -81,17 +79,12 @@ void TextDocument::setTitle(const QString &title)
 
 QString TextDocument::getHtml() const
 {
-    const DocumentParts parts = takeApart(m_source);
-    const QString css = styleElementText(m_css);
+    const XhtmlParts parts = splitXhtml(m_source);
     if (!isModified()) {
-        return parts.css == m_css ? m_source : parts.head + css + parts.tail;
+        return parts.css == m_css ? m_source : joinXhtml(parts, m_css, bodyOf(parts.tail));
     }
-    const QStringView tail(parts.tail);
-    const QStringView body = bodyOf(tail);
-    const qsizetype start = body.data() - tail.data();
-    return parts.head % css % tail.first(start) %
-           xhtmlBody(*this, m_paragraphClass, ShownStyle(StyleSheet(m_shownCss)).css()) %
-           tail.sliced(start + body.size());
+    const QString shownLook = QtStyleSheet(StyleSheet(m_shownCss)).text();
+    return joinXhtml(parts, m_css, toXhtml(*this, m_paragraphClass, shownLook));
 }
 
 void TextDocument::beginPlainParagraph(QTextCursor cursor) const
@@ -100,7 +93,7 @@ void TextDocument::beginPlainParagraph(QTextCursor cursor) const
     sample.setDefaultFont(defaultFont());
     sample.setSource(QStringLiteral("<html><head><style type=\"text/css\">") + styleElementText(m_shownCss) +
                      QStringLiteral("</style></head><body><p") +
-                     xhtmlAttribute(QStringLiteral("class"), m_paragraphClass) +
+                     xmlAttribute(QStringLiteral("class"), m_paragraphClass) +
                      QStringLiteral(">x</p></body></html>"));
     sample.show();
     const QTextCursor found = sample.find(QStringLiteral("x"));
@@ -161,7 +154,7 @@ void TextDocument::makeContent()
     // In one go, so that a document that is shown is laid out once.
     QTextCursor cursor(this);
     cursor.beginEditBlock();
-    showMarkup(*this, shownMarkup(m_source, css, Medium::Window, m_highlighted));
+    setQtHtml(*this, toQtHtml(m_source, css, Medium::Window, m_highlighted));
     applyBodyMargins(*this, css);
     cursor.endEditBlock();
     setUndoRedoEnabled(keepsUndo);

@@ -3,8 +3,8 @@
 #include "richtext/paper/pagelayouter.h"
 
 #include "richtext/css/stylesheet.h"
-#include "richtext/xhtml/documentmarkup.h"
-#include "richtext/xhtml/shownmarkup.h"
+#include "richtext/xhtml/qthtmlwriter.h"
+#include "richtext/xhtml/xhtmlparts.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QTextBlock>
@@ -20,7 +20,7 @@
 
 namespace {
 
-/// Each break lays the rest out again; more sections than this are not looked after.
+/// Each moved section lays the rest out again; later ones stay where they are.
 constexpr int mostMovedSections = 200;
 
 std::vector<QTextTable *> tablesOf(const QTextDocument &document)
@@ -54,8 +54,8 @@ int plainRow(const QTextTable &table)
     return -1;
 }
 
-/// The widths of columns from the places of their cells' texts; the table's width is that of the columns and
-/// the gaps around them.
+/// The widths of columns. Qt tells only where the texts of cells stand. Between two of them lie two paddings
+/// and a gap; a table has one gap more than columns, which is what its width has left.
 std::vector<double> measuredWidths(const std::vector<QRectF> &texts, double tableWidth)
 {
     const double padding = texts.size() < 2 ? 0 : texts[1].left() - texts[0].right();
@@ -104,7 +104,9 @@ QList<QTextLength> columnWidths(const QTextDocument &document, const QTextTable 
     return asPercentages(measuredWidths(texts, frame.width()));
 }
 
-/// Gives the tables that were one table in `whole` the columns that they have there.
+/// Gives the tables of `pages` that are one table in `whole` the columns that they have there. Both documents
+/// have their tables in the same order; a table of `whole` stands for those after it that have as many
+/// columns.
 void shareColumns(QTextDocument &pages, const QTextDocument &whole)
 {
     const std::vector<QTextTable *> wholes = tablesOf(whole);
@@ -162,7 +164,7 @@ void keepHeadingsWithRows(QTextDocument &document, double pageHeight)
     }
 }
 
-/// The PDF engine writes addresses as they stand, between brackets.
+/// The PDF engine writes addresses as they stand, between brackets, so that a bracket in one would end it.
 QString encodedAddress(const QString &address)
 {
     return QString::fromLatin1(address.toUtf8().toPercentEncoding("!#$%&'*+,/:;=?@[]~"));
@@ -233,23 +235,35 @@ void changeAtOnce(QTextDocument &document, Changes changes)
     cursor.endEditBlock();
 }
 
-void fill(QTextDocument &document, const QString &markup, QPaintDevice &device)
+void fill(QTextDocument &document, const QString &html, QPaintDevice &device)
 {
     document.setUndoRedoEnabled(false);
     document.setDocumentMargin(0);
-    showMarkup(document, markup);
+    setQtHtml(document, html);
     document.documentLayout()->setPaintDevice(&device);
 }
 
 } // namespace
 
+void layOutStrip(QTextDocument &document, const QString &xhtml, const StyleSheet &css, QPaintDevice &device,
+                 double width)
+{
+    fill(document, toQtHtml(xhtml, css, Medium::Window), device);
+    document.setTextWidth(width);
+}
+
+// QTextDocument repeats the head of a table on every page, but a table has one head only, and the report's
+// tables have one for each category. So every section of a table becomes a table. What the sections lose by
+// that is put back: the columns they had in common are measured in a second document with whole tables, and a
+// section whose first row would not stand on the page of its title is moved to the next page, from the first
+// one on, because each move lays out all that follows. Column widths must be set before the pages are made,
+// or rows would be measured with the wrong heights.
 void layOutPages(QTextDocument &document, const QString &xhtml, QPaintDevice &device, const QSizeF &page)
 {
-    const StyleSheet css(takeApart(xhtml).css);
+    const StyleSheet css(splitXhtml(xhtml).css);
     QTextDocument whole;
-    fill(whole, shownMarkup(xhtml, css, Medium::Window), device);
-    whole.setTextWidth(page.width());
-    fill(document, shownMarkup(xhtml, css, Medium::Pages), device);
+    layOutStrip(whole, xhtml, css, device, page.width());
+    fill(document, toQtHtml(xhtml, css, Medium::Pages), device);
     changeAtOnce(document, [&] {
         encodeAddresses(document);
         giveBackgroundsToCells(document);

@@ -5,8 +5,7 @@
 #include "host/framework/hostui.h"
 #include "richtext/css/stylesheet.h"
 #include "richtext/paper/pagelayouter.h"
-#include "richtext/xhtml/documentmarkup.h"
-#include "richtext/xhtml/shownmarkup.h"
+#include "richtext/xhtml/xhtmlparts.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QPagedPaintDevice>
@@ -31,15 +30,6 @@ void drawDocument(QPainter &painter, const QTextDocument &document, const QRectF
     context.palette.setColor(QPalette::Text, Qt::black);
     painter.setClipRect(part, Qt::IntersectClip);
     document.documentLayout()->draw(&painter, context);
-}
-
-void fillEdge(QTextDocument &document, const QString &markup, QPaintDevice &device, double width)
-{
-    document.setUndoRedoEnabled(false);
-    document.setDocumentMargin(0);
-    showMarkup(document, markup);
-    document.documentLayout()->setPaintDevice(&device);
-    document.setTextWidth(width);
 }
 
 double gapFor(double height, const QPaintDevice &device)
@@ -100,12 +90,11 @@ QString PagePainter::withPlaceholders(const QString &fragment, int page, int pag
     return text;
 }
 
-QString PagePainter::edgeMarkup(const QString &fragment, int page, int pages) const
+void PagePainter::layOutEdge(QTextDocument &edge, const QString &fragment, int page, int pages) const
 {
-    const QString css = takeApart(m_text.xhtml).css;
     const QString xhtml = QStringLiteral("<html><head><style type=\"text/css\"></style></head><body>") +
                           withPlaceholders(fragment, page, pages) + QStringLiteral("</body></html>");
-    return shownMarkup(xhtml, StyleSheet(css), Medium::Window);
+    layOutStrip(edge, xhtml, StyleSheet(splitXhtml(m_text.xhtml).css), *m_device, m_device->width());
 }
 
 double PagePainter::edgeHeight(const QString &fragment) const
@@ -115,7 +104,7 @@ double PagePainter::edgeHeight(const QString &fragment) const
     }
     constexpr int widePageNumber = 999;
     QTextDocument edge;
-    fillEdge(edge, edgeMarkup(fragment, widePageNumber, widePageNumber), *m_device, m_device->width());
+    layOutEdge(edge, fragment, widePageNumber, widePageNumber);
     return std::min(std::ceil(edge.size().height()), m_device->height() * largestEdge);
 }
 
@@ -137,7 +126,7 @@ void PagePainter::paintEdge(QPainter &painter, const QString &fragment, int page
         return;
     }
     QTextDocument edge;
-    fillEdge(edge, edgeMarkup(fragment, page, m_pages), *m_device, m_device->width());
+    layOutEdge(edge, fragment, page, m_pages);
     painter.save();
     painter.translate(0, top);
     drawDocument(painter, edge, QRectF(0, 0, m_device->width(), height));

@@ -24,8 +24,9 @@ struct PagedText
     QString footer;
 };
 
-/// Breaks a document into the pages of a device and paints them. Sections of tables repeat their heading rows
-/// at the top of each page that they reach; links can be clicked where the device knows links.
+/// Breaks a document into the pages of a device, see layOutPages(), and paints them. Sections of tables
+/// repeat their heading rows at the top of each page that they reach; links can be clicked where the device
+/// knows links.
 class PagePainter final
 {
 public:
@@ -41,7 +42,7 @@ public:
 
 private:
     [[nodiscard]] QString withPlaceholders(const QString &fragment, int page, int pages) const;
-    [[nodiscard]] QString edgeMarkup(const QString &fragment, int page, int pages) const;
+    void layOutEdge(QTextDocument &edge, const QString &fragment, int page, int pages) const;
     [[nodiscard]] double edgeHeight(const QString &fragment) const;
     void paintPage(QPainter &painter, int page);
     void paintEdge(QPainter &painter, const QString &fragment, int page, double top, double height) const;

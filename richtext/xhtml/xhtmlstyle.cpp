@@ -4,8 +4,6 @@
 
 #include "richtext/css/cssvalue.h"
 
-#include "richtext/xhtml/xmltext.h"
-
 #include <QMap>
 #include <QStringList>
 
@@ -21,7 +19,7 @@ QString declaration(const char *property, const QString &value)
     return QLatin1String(property) + QStringLiteral(":") + value + QStringLiteral("; ");
 }
 
-/// Margins are whole pixels to those who read them.
+/// Parsers of margins take whole pixels only.
 QString wholePixels(double value)
 {
     return QString::number(qRound(value)) + QStringLiteral("px");
@@ -168,18 +166,11 @@ QString cssColour(const QColor &colour)
     if (colour.alpha() == opaque) {
         return colour.name();
     }
-    // Readers cut the product with 255 down to a whole number.
+    // QTextDocument multiplies by 255 and drops the fraction.
     const double share = colour.alpha() == 0 ? 0 : (colour.alpha() + 0.5) / opaque;
     return QStringLiteral("rgba(%1,%2,%3,%4)")
         .arg(QString::number(colour.red()), QString::number(colour.green()), QString::number(colour.blue()),
              QString::number(share, 'f', 4));
-}
-
-QString xhtmlAttribute(const QString &name, const QString &value)
-{
-    return value.isEmpty() ? QString()
-                           : QStringLiteral(" ") + name + QStringLiteral("=\"") + escapedXmlText(value) +
-                                 QStringLiteral("\"");
 }
 
 QString blockStyle(const QTextBlockFormat &format, const UsualLook &usual, const Surroundings &cell)

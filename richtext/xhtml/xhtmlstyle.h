@@ -35,6 +35,3 @@ struct Surroundings
 [[nodiscard]] bool isUnderlined(const QTextCharFormat &format);
 
 [[nodiscard]] QString cssColour(const QColor &colour);
-
-/// ` name="value"`, escaped; nothing for an empty value.
-[[nodiscard]] QString xhtmlAttribute(const QString &name, const QString &value);

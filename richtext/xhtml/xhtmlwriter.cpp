@@ -3,9 +3,8 @@
 #include "richtext/xhtml/xhtmlwriter.h"
 
 #include "richtext/css/cssvalue.h"
-
 #include "richtext/xhtml/xhtmllists.h"
-#include "richtext/xhtml/xhtmltext.h"
+#include "richtext/xhtml/xhtmlruns.h"
 #include "richtext/xhtml/xmltext.h"
 
 #include <QHash>
@@ -57,7 +56,7 @@ class Writer final
 public:
     Writer(const QTextDocument &document, const QString &paragraphClass, const QString &css)
         : m_looks(document, css)
-        , m_class(xhtmlAttribute(QStringLiteral("class"), paragraphClass))
+        , m_class(xmlAttribute(QStringLiteral("class"), paragraphClass))
     {
     }
 
@@ -98,7 +97,8 @@ private:
         std::swap(outer, m_lists);
     }
 
-    /// A document has an empty block at either side of a table, which every reader of the text adds.
+    /// QTextDocument has an empty block before and after every table; it adds them again when it reads the
+    /// XHTML.
     static bool isTableNeighbour(const QTextBlock &block, bool isBeside)
     {
         return isBeside && block.length() == 1;
@@ -158,7 +158,7 @@ private:
         const UsualLook &usual = m_looks.of(element, attributes);
         const bool isColoured = isVisible(format.background());
         QString style = blockStyle(format, usual, cell);
-        QString text = xhtmlText(block, usual, isColoured ? Surroundings{format.background()} : cell);
+        QString text = xhtmlRuns(block, usual, isColoured ? Surroundings{format.background()} : cell);
         if (text.isEmpty() && (block.textList() != nullptr || isFirstOfCell(block))) {
             // An empty paragraph there would be read as a second one.
             text = QStringLiteral("&#160;");
@@ -170,7 +170,7 @@ private:
         const bool isJustified = style.contains(QLatin1String("text-align:justify"));
         m_result += QStringLiteral("<") + element + attributes +
                     (isJustified ? QStringLiteral(" align=\"justify\"") : QString()) +
-                    xhtmlAttribute(QStringLiteral("style"), style) + QStringLiteral(">") + text +
+                    xmlAttribute(QStringLiteral("style"), style) + QStringLiteral(">") + text +
                     QStringLiteral("</") + element + QStringLiteral(">");
     }
 
@@ -195,11 +195,11 @@ private:
         } else if (format.alignment() & Qt::AlignRight) {
             alignment = QStringLiteral("right");
         }
-        return xhtmlAttribute(QStringLiteral("border"), number(format.border())) +
-               xhtmlAttribute(QStringLiteral("cellspacing"), number(format.cellSpacing())) +
-               xhtmlAttribute(QStringLiteral("cellpadding"), number(format.cellPadding())) +
-               xhtmlAttribute(QStringLiteral("width"), length(format.width())) +
-               xhtmlAttribute(QStringLiteral("align"), alignment);
+        return xmlAttribute(QStringLiteral("border"), number(format.border())) +
+               xmlAttribute(QStringLiteral("cellspacing"), number(format.cellSpacing())) +
+               xmlAttribute(QStringLiteral("cellpadding"), number(format.cellPadding())) +
+               xmlAttribute(QStringLiteral("width"), length(format.width())) +
+               xmlAttribute(QStringLiteral("align"), alignment);
     }
 
     void writeTable(const QTextTable &table)
@@ -231,13 +231,13 @@ private:
         const auto widths = table.format().columnWidthConstraints();
         const bool hasWidth = cell.columnSpan() == 1 && cell.column() < widths.size();
         const QBrush background = backgroundOf(cell);
-        return xhtmlAttribute(QStringLiteral("colspan"), span(cell.columnSpan())) +
-               xhtmlAttribute(QStringLiteral("rowspan"), span(cell.rowSpan())) +
-               xhtmlAttribute(QStringLiteral("width"), hasWidth ? length(widths[cell.column()]) : QString()) +
-               xhtmlAttribute(QStringLiteral("style"),
-                              isVisible(background)
-                                  ? QStringLiteral("background-color:") + cssColour(background.color())
-                                  : QString());
+        return xmlAttribute(QStringLiteral("colspan"), span(cell.columnSpan())) +
+               xmlAttribute(QStringLiteral("rowspan"), span(cell.rowSpan())) +
+               xmlAttribute(QStringLiteral("width"), hasWidth ? length(widths[cell.column()]) : QString()) +
+               xmlAttribute(QStringLiteral("style"),
+                            isVisible(background)
+                                ? QStringLiteral("background-color:") + cssColour(background.color())
+                                : QString());
     }
 
     void writeCell(const QTextTable &table, const QTextTableCell &cell)
@@ -258,7 +258,7 @@ private:
 
 } // namespace
 
-QString xhtmlBody(const QTextDocument &document, const QString &paragraphClass, const QString &css)
+QString toXhtml(const QTextDocument &document, const QString &paragraphClass, const QString &css)
 {
     return Writer(document, paragraphClass, css).write(document);
 }

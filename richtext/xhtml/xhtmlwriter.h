@@ -6,9 +6,9 @@
 
 class QTextDocument;
 
-/// The content of a document as XHTML 1.0 Transitional, without html, head and body. Paragraphs get the
-/// class, if any is given; only what differs from the look that the document's default style sheet and `css`
-/// give them is written as style. Blanks that HTML would drop become non-breaking ones, a tab eight of them;
-/// tab stops are lost.
-[[nodiscard]] QString xhtmlBody(const QTextDocument &document, const QString &paragraphClass,
-                                const QString &css = {});
+/// The content of a document, which people may have edited, as XHTML 1.0 Transitional, without html, head and
+/// body. Paragraphs get the class, if any is given; only what differs from the look that the document's
+/// default style sheet and `css` give them is written as style. Blanks that HTML would drop become
+/// non-breaking ones, a tab eight of them; tab stops are lost.
+[[nodiscard]] QString toXhtml(const QTextDocument &document, const QString &paragraphClass,
+                              const QString &css = {});

@@ -19,7 +19,7 @@ bool isSurrogate(char16_t unit)
     return unit >= firstSurrogate && unit <= lastSurrogate;
 }
 
-/// Whether a single unit, not one of a pair, is none that XML has.
+/// Whether XML lacks the character that a unit outside of pairs stands for.
 bool isMissing(char16_t unit)
 {
     return (unit < firstPrintable && unit != u'\t' && unit != u'\n' && unit != u'\r') || isSurrogate(unit) ||
@@ -101,10 +101,18 @@ QString escapedXmlText(const QString &text)
     return convert(text, true);
 }
 
+QString xmlAttribute(const QString &name, const QString &value)
+{
+    return value.isEmpty() ? QString()
+                           : QStringLiteral(" ") + name + QStringLiteral("=\"") + escapedXmlText(value) +
+                                 QStringLiteral("\"");
+}
+
 QString styleElementText(const QString &css)
 {
     QString text = xmlText(css);
-    // Hides the sheet from readers that know no styles; those of XML would take it for a comment.
+    // Old pages hide the sheet from browsers without styles like that; a parser of XML would take it for a
+    // comment.
     text.remove(QLatin1String("<!--"));
     text.replace(u'<', QLatin1String("\\3C "));
     text.replace(u'&', QLatin1String("\\26 "));

@@ -12,6 +12,9 @@
 /// that needs neither is not copied.
 [[nodiscard]] QString escapedXmlText(const QString &text);
 
+/// ` name="value"`, escaped; nothing for an empty value.
+[[nodiscard]] QString xmlAttribute(const QString &name, const QString &value);
+
 /// A style sheet for the content of a style element, cleaned as by xmlText(). It means the same to readers of
 /// XML and of HTML, and cannot end the element: its markup characters become escapes of CSS. A sheet without
 /// them is not copied.

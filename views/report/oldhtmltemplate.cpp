@@ -3,8 +3,8 @@
 #include "views/report/oldhtmltemplate.h"
 
 #include "host/framework/hostui.h"
-#include "richtext/xhtml/documentmarkup.h"
 #include "richtext/xhtml/tidylibwrapper.h"
+#include "richtext/xhtml/xhtmlparts.h"
 
 #include <QCoreApplication>
 #include <QDebug>

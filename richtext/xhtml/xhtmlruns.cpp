@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "richtext/xhtml/xhtmltext.h"
+#include "richtext/xhtml/xhtmlruns.h"
 
 #include "richtext/xhtml/xmltext.h"
 
@@ -32,11 +32,11 @@ QString dimension(double value)
 QString imageMarkup(const QTextImageFormat &image)
 {
     const QString alternative = image.stringProperty(QTextFormat::ImageAltText);
-    return QStringLiteral("<img") + xhtmlAttribute(QStringLiteral("src"), image.name()) +
+    return QStringLiteral("<img") + xmlAttribute(QStringLiteral("src"), image.name()) +
            QStringLiteral(" alt=\"") + escapedXmlText(alternative) + QStringLiteral("\"") +
-           xhtmlAttribute(QStringLiteral("title"), image.stringProperty(QTextFormat::ImageTitle)) +
-           xhtmlAttribute(QStringLiteral("width"), dimension(image.width())) +
-           xhtmlAttribute(QStringLiteral("height"), dimension(image.height())) + QStringLiteral(" />");
+           xmlAttribute(QStringLiteral("title"), image.stringProperty(QTextFormat::ImageTitle)) +
+           xmlAttribute(QStringLiteral("width"), dimension(image.width())) +
+           xmlAttribute(QStringLiteral("height"), dimension(image.height())) + QStringLiteral(" />");
 }
 
 QString anchorAttributes(const QTextCharFormat &format, const UsualLook &usual)
@@ -45,12 +45,12 @@ QString anchorAttributes(const QTextCharFormat &format, const UsualLook &usual)
         return {};
     }
     const QStringList names = format.anchorNames();
-    // What an element says of underlines, those in it cannot take back.
+    // Elements inside a link cannot take its underline away, so the link itself does.
     const bool isPlain = !format.anchorHref().isEmpty() && isUnderlined(usual.link) && !isUnderlined(format);
-    return xhtmlAttribute(QStringLiteral("href"), format.anchorHref()) +
-           xhtmlAttribute(QStringLiteral("name"), names.isEmpty() ? QString() : names.first()) +
-           xhtmlAttribute(QStringLiteral("style"),
-                          isPlain ? QStringLiteral("text-decoration:none;") : QString());
+    return xmlAttribute(QStringLiteral("href"), format.anchorHref()) +
+           xmlAttribute(QStringLiteral("name"), names.isEmpty() ? QString() : names.first()) +
+           xmlAttribute(QStringLiteral("style"),
+                        isPlain ? QStringLiteral("text-decoration:none;") : QString());
 }
 
 void append(QList<Run> &runs, const Run &run)
@@ -90,8 +90,8 @@ Kind kindOf(QChar unit)
     return isSpecialBlank(unit) ? Kind::SpecialBlank : Kind::Text;
 }
 
-/// Line breaks have the format of what stands before them, as readers give them some other one; special
-/// blanks stand in a span that keeps them.
+/// Line breaks take the format of the text before them, because QTextDocument gives them that when it reads
+/// them; special blanks stand in a span that keeps them.
 void appendText(QList<Run> &runs, const Run &format, const QString &text)
 {
     qsizetype at = 0;
@@ -194,15 +194,14 @@ QString runMarkup(const Run &run)
         return run.markup;
     }
     const QString text = textMarkup(run.text);
-    return run.style.isEmpty()
-               ? text
-               : QStringLiteral("<span") + xhtmlAttribute(QStringLiteral("style"), run.style) +
-                     QStringLiteral(">") + text + QStringLiteral("</span>");
+    return run.style.isEmpty() ? text
+                               : QStringLiteral("<span") + xmlAttribute(QStringLiteral("style"), run.style) +
+                                     QStringLiteral(">") + text + QStringLiteral("</span>");
 }
 
 } // namespace
 
-QString xhtmlText(const QTextBlock &block, const UsualLook &usual, const Surroundings &surroundings)
+QString xhtmlRuns(const QTextBlock &block, const UsualLook &usual, const Surroundings &surroundings)
 {
     QList<Run> runs = runsOf(block, usual, surroundings);
     BlankKeeper(runs).run();

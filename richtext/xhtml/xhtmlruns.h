@@ -8,6 +8,6 @@
 
 class QTextBlock;
 
-/// The text of a block with its formats, links, images and line breaks.
-[[nodiscard]] QString xhtmlText(const QTextBlock &block, const UsualLook &usual,
+/// The text of a block: runs of one format each, links, images and line breaks.
+[[nodiscard]] QString xhtmlRuns(const QTextBlock &block, const UsualLook &usual,
                                 const Surroundings &surroundings);

@@ -11,24 +11,24 @@
 
 /// A style sheet in the terms of QTextDocument, which measures boxes in pixels only, knows paddings and
 /// borders for table cells only, and gives headings with a rule no margins of their own.
-class ShownStyle final
+class QtStyleSheet final
 {
 public:
-    explicit ShownStyle(const StyleSheet &css);
+    explicit QtStyleSheet(const StyleSheet &css);
 
-    [[nodiscard]] const QString &css() const { return m_css; }
+    [[nodiscard]] const QString &text() const { return m_text; }
 
     /// Whether a paragraph of that class has a padding or border, which its cell then has to get: the style
     /// sheet has rules for cells of that class.
-    [[nodiscard]] bool isBoxed(QStringView className) const { return m_boxes.contains(className.toString()); }
+    [[nodiscard]] bool hasBox(QStringView className) const { return m_boxes.contains(className.toString()); }
     /// The margin above or below paragraphs of that class in pixels, 0 without one.
     [[nodiscard]] double marginAbove(QStringView className) const;
     [[nodiscard]] double marginBelow(QStringView className) const;
 
 private:
-    void takeMargins(const StyleSheet::Rule &rule, const QString &name);
+    void readMargins(const StyleSheet::Rule &rule, const QString &name);
 
-    QString m_css;
+    QString m_text;
     QSet<QString> m_boxes;
     QHash<QString, double> m_marginsAbove;
     QHash<QString, double> m_marginsBelow;

@@ -1,13 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "richtext/xhtml/markupwriter.h"
+#include "richtext/xhtml/qthtmlwriter.h"
 
-#include "richtext/xhtml/shownstyle.h"
+#include "richtext/css/stylesheet.h"
+#include "richtext/xhtml/paragraphbreaker.h"
+#include "richtext/xhtml/qtstylesheet.h"
 #include "richtext/xhtml/tagscanner.h"
+#include "richtext/xhtml/xhtmlparts.h"
 
 #include <QStringBuilder>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -17,27 +24,33 @@ constexpr QLatin1String usualCellPadding(" cellpadding='1'");
 /// What a row without paddings takes in pixels: a line in the smallest font and the space between rows.
 constexpr double lowestRow = 4;
 
-constexpr qsizetype longestParagraph = 4000;
+constexpr auto highlightColour = "#ffe08a";
 
-/// Where a text can be cut, at `wanted` or a little behind it: not inside a character or an entity.
-qsizetype breakPosition(QStringView text, qsizetype wanted)
+QString highlightRule(const QString &selector)
 {
-    constexpr qsizetype longestEntity = 12;
-    qsizetype position = std::min(wanted, text.size());
-    const qsizetype start = text.first(position).lastIndexOf(u'&');
-    const qsizetype end = start < 0 || position - start > longestEntity ? -1 : text.indexOf(u';', start);
-    if (end >= position && end - start <= longestEntity) {
-        position = end + 1;
+    // All of it would be marked.
+    if (selector.isEmpty() || selector == QLatin1String("body")) {
+        return {};
     }
-    const bool isInPair = position > 0 && position < text.size() && text[position].isLowSurrogate();
-    return isInPair ? position + 1 : position;
+    return QStringLiteral("\n") + selector + QStringLiteral(" { background-color: ") +
+           QLatin1String(highlightColour) + QStringLiteral("; }\n");
 }
 
-/// Copies a body, changing what its tags say.
-class MarkupWriter final
+/// Copies a body tag by tag and changes what QTextDocument would not show:
+/// - Only table cells have paddings and borders. A paragraph with them hands them to its cell, or gets a
+/// table of
+///   one cell around it.
+/// - Rows and tables have no margins above their first paragraph. A row gets an empty row before it, a table
+/// a
+///   margin of its own.
+/// - Only rows in the head of a table are repeated on every page, and a table has one head. For pages each
+/// section
+///   that begins with heading rows becomes a table; the margin above its first paragraph is then the table's.
+/// It looks ahead with copies of the scanner, never back: what was written stays.
+class BodyWriter final
 {
 public:
-    MarkupWriter(QStringView body, const ShownStyle &style, Medium medium)
+    BodyWriter(QStringView body, const QtStyleSheet &style, Medium medium)
         : m_tags(body)
         , m_style(style)
         , m_medium(medium)
@@ -45,68 +58,20 @@ public:
         m_result.reserve(body.size() + body.size() / 4);
     }
 
-    QString rewrite()
+    QString write()
     {
         while (const auto tag = m_tags.next()) {
-            writeText(tag->textBefore);
-            write(*tag);
+            m_paragraph.writeText(tag->textBefore);
+            writeTag(*tag);
+            if (!(tag->isEnd && tag->isParagraph())) {
+                m_marginBelow = 0;
+            }
         }
         m_result += m_tags.rest();
         return m_result;
     }
 
 private:
-    void write(const Tag &tag)
-    {
-        writeTag(tag);
-        if (!(tag.isEnd && tag.isParagraph())) {
-            m_marginBelow = 0;
-        }
-    }
-
-    /// The time for laying out a paragraph grows with the square of its length: long ones become several.
-    void writeText(QStringView text)
-    {
-        while (mayBreakParagraph() && m_paragraphLength + text.size() > longestParagraph) {
-            const qsizetype part =
-                breakPosition(text, std::max<qsizetype>(longestParagraph - m_paragraphLength, 0));
-            if (part >= text.size()) {
-                break;
-            }
-            m_result += text.first(part);
-            text = text.sliced(part);
-            breakParagraph();
-        }
-        m_result += text;
-        m_paragraphLength += text.size();
-    }
-
-    /// Inside a paragraph, and in no element of it.
-    [[nodiscard]] bool mayBreakParagraph() const { return !m_paragraphStart.isEmpty() && m_inlineDepth == 0; }
-
-    void breakParagraph()
-    {
-        m_result += QStringLiteral("</p>") % m_paragraphStart;
-        m_paragraphLength = 0;
-    }
-
-    /// Text inside a paragraph's elements, and its line breaks.
-    void writeInline(const Tag &tag)
-    {
-        if (tag.is(u"br")) {
-            if (mayBreakParagraph() && m_paragraphLength > longestParagraph) {
-                breakParagraph();
-            } else {
-                m_result += tag.text;
-            }
-            return;
-        }
-        if (!tag.text.endsWith(u"/>")) {
-            m_inlineDepth += tag.isEnd ? -1 : 1;
-        }
-        m_result += tag.text;
-    }
-
     void writeTag(const Tag &tag)
     {
         if (tag.isCell() && !tag.isEnd) {
@@ -120,7 +85,7 @@ private:
         } else if (tag.isParagraph()) {
             writeParagraph(tag);
         } else {
-            writeInline(tag);
+            m_paragraph.writeTag(tag);
         }
     }
 
@@ -130,7 +95,7 @@ private:
         const auto content = m_tags.peek();
         m_isCellStart = content && content->isParagraph() && !content->isEnd;
         const QStringView name = m_isCellStart ? content->className() : QStringView();
-        if (m_style.isBoxed(name) && !tag.hasClass()) {
+        if (m_style.hasBox(name) && !tag.hasClass()) {
             addAttribute(u"class", name);
         }
         // QTextDocument knows widths as attributes only.
@@ -179,7 +144,7 @@ private:
         m_result += m_isInHead ? QStringView(u"<thead>") : tag.text;
     }
 
-    /// The margin above the section's first paragraph is that of the table.
+    /// The margin above the section's first paragraph, which its table gets.
     [[nodiscard]] double marginAboveSection() const
     {
         TagScanner row = m_tags;
@@ -187,7 +152,7 @@ private:
         return spanned ? m_style.marginAbove(spanned->className) : 0;
     }
 
-    /// Tables take the margin below the paragraph before, which QTextDocument drops.
+    /// The margin is also that below the paragraph before the table, which QTextDocument drops.
     void writeTableStart(double margin)
     {
         m_result += m_tableStart.chopped(1);
@@ -215,13 +180,13 @@ private:
             closeHead();
         }
         if (!m_isSplit) {
-            writeSpace();
+            writeSpacingRow();
         }
         m_result += tag.text;
     }
 
-    /// The margin above the first paragraph of a row, which cells do not have.
-    void writeSpace()
+    /// An empty row as high as the margin above the first paragraph of the row that follows.
+    void writeSpacingRow()
     {
         const auto spanned = m_tags.spanningParagraph();
         const double margin = spanned ? m_style.marginAbove(spanned->className) : 0;
@@ -232,44 +197,37 @@ private:
         }
     }
 
-    /// A paragraph with a box that stands in no cell gets one.
+    /// A paragraph with paddings or borders that stands in no cell gets a table of one.
     void writeParagraph(const Tag &tag)
     {
         if (tag.isEnd) {
-            m_result += tag.text;
-            m_paragraphStart = {};
+            m_paragraph.end(tag);
             m_marginBelow = m_style.marginBelow(m_paragraphClass);
-            if (m_isBoxOpen) {
-                m_isBoxOpen = false;
+            if (m_isInOwnCell) {
+                m_isInOwnCell = false;
                 m_result += QStringLiteral("</td></tr></table>");
             }
             return;
         }
         const QStringView name = tag.className();
         m_paragraphClass = name;
-        if (!m_isCellStart && !m_isBoxOpen && m_style.isBoxed(name)) {
-            m_isBoxOpen = true;
+        if (!m_isCellStart && !m_isInOwnCell && m_style.hasBox(name)) {
+            m_isInOwnCell = true;
             m_result +=
                 QStringLiteral("<table width='100%' cellspacing='0' cellpadding='0'><tr><td class='") % name %
                 QStringLiteral("'>");
         }
         m_isCellStart = false;
-        m_paragraphStart = tag.is(u"p") ? tag.text : QStringView();
-        m_paragraphLength = 0;
-        m_inlineDepth = 0;
-        m_result += tag.text;
+        m_paragraph.start(tag);
     }
 
     TagScanner m_tags;
-    const ShownStyle &m_style;
+    const QtStyleSheet &m_style;
     Medium m_medium;
     QString m_result;
+    ParagraphBreaker m_paragraph{m_result};
     QStringView m_tableStart;
     QStringView m_paragraphClass;
-    /// The tag of the paragraph that is open.
-    QStringView m_paragraphStart;
-    qsizetype m_paragraphLength = 0;
-    int m_inlineDepth = 0;
     double m_marginBelow = 0;
     double m_marginAboveTable = 0;
     int m_sections = 0;
@@ -277,12 +235,51 @@ private:
     bool m_isSplit = false;
     bool m_isInHead = false;
     bool m_isCellStart = false;
-    bool m_isBoxOpen = false;
+    bool m_isInOwnCell = false;
 };
+
+[[nodiscard]] bool hasTwoSizes(const QTextCharFormat &format)
+{
+    return format.fontPointSize() > 0 && format.hasProperty(QTextFormat::FontSizeAdjustment);
+}
+
+void dropRelativeSizes(const QTextBlock &block)
+{
+    std::vector<std::pair<int, int>> found;
+    for (auto at = block.begin(); !at.atEnd(); ++at) {
+        if (const QTextFragment part = at.fragment(); hasTwoSizes(part.charFormat())) {
+            found.emplace_back(part.position(), part.position() + part.length());
+        }
+    }
+    QTextCursor cursor(block);
+    for (const auto &[start, end] : found) {
+        cursor.setPosition(start);
+        cursor.setPosition(end, QTextCursor::KeepAnchor);
+        QTextCharFormat format = cursor.charFormat();
+        format.clearProperty(QTextFormat::FontSizeAdjustment);
+        cursor.setCharFormat(format);
+    }
+}
 
 } // namespace
 
-QString markupFor(Medium medium, QStringView body, const ShownStyle &style)
+QString toQtHtml(const QString &xhtml, const StyleSheet &css, Medium medium, const QString &highlighted)
 {
-    return MarkupWriter(body, style, medium).rewrite();
+    const XhtmlParts parts = splitXhtml(xhtml);
+    const QtStyleSheet style(css);
+    // Previews draw soft hyphens everywhere; the space without width that follows is enough to break a line.
+    const QString body =
+        bodyOf(parts.tail).toString().replace(QStringLiteral("&shy;&#8203;"), QStringLiteral("&#8203;"));
+    return joinXhtml(parts, style.text() + highlightRule(highlighted),
+                     BodyWriter(body, style, medium).write());
+}
+
+void setQtHtml(QTextDocument &document, const QString &html)
+{
+    document.setHtml(html);
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (block.blockFormat().headingLevel() > 0) {
+            dropRelativeSizes(block);
+        }
+    }
 }

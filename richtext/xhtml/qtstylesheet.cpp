@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "richtext/xhtml/shownstyle.h"
+#include "richtext/xhtml/qtstylesheet.h"
 
 #include "richtext/css/cssbox.h"
 #include "richtext/css/cssvalue.h"
@@ -42,7 +42,7 @@ QString inUnit(const QString &value, QLatin1String unit, double pointsPerUnit)
     return result + value.mid(copied);
 }
 
-QString shownDeclaration(const StyleSheet::Declaration &declaration)
+QString translated(const StyleSheet::Declaration &declaration)
 {
     const bool isFont = declaration.property.startsWith(QLatin1String("font"));
     const QString value = isFont ? inUnit(declaration.value, QLatin1String("pt"), 1.0)
@@ -99,13 +99,13 @@ QString headingRules(const StyleSheet &css)
     return rules;
 }
 
-/// The margin of the body is that of the page, and no one's inside.
+/// The margin of the body is that of the page; QTextDocument would indent every paragraph by it.
 bool isPageMargin(const StyleSheet::Rule &rule, const StyleSheet::Declaration &declaration)
 {
     return rule.selector == QLatin1String("body") && declaration.property.startsWith(QLatin1String("margin"));
 }
 
-/// What a rule declares, all of it and what its cells take over.
+/// What a rule declares, and the part of it that goes to the cells of its paragraphs.
 struct Declarations
 {
     QString all;
@@ -113,19 +113,19 @@ struct Declarations
     bool hasBox = false;
 };
 
-Declarations shownDeclarations(const StyleSheet::Rule &rule)
+Declarations translatedDeclarations(const StyleSheet::Rule &rule)
 {
     Declarations result;
     for (const StyleSheet::Declaration &declaration : rule.declarations) {
         if (isPageMargin(rule, declaration)) {
             continue;
         }
-        const QString shown = shownDeclaration(declaration);
+        const QString text = translated(declaration);
         const bool isBox = isBoxProperty(declaration.property);
         result.hasBox = result.hasBox || isBox;
-        result.all += shown;
+        result.all += text;
         if (isBox || declaration.property == QLatin1String("vertical-align")) {
-            result.ofCell += shown;
+            result.ofCell += text;
         }
     }
     return result;
@@ -133,8 +133,8 @@ Declarations shownDeclarations(const StyleSheet::Rule &rule)
 
 } // namespace
 
-ShownStyle::ShownStyle(const StyleSheet &css)
-    : m_css(headingRules(css))
+QtStyleSheet::QtStyleSheet(const StyleSheet &css)
+    : m_text(headingRules(css))
 {
     QSet<QString> known;
     for (const StyleSheet::Rule &rule : css.rules()) {
@@ -142,28 +142,28 @@ ShownStyle::ShownStyle(const StyleSheet &css)
         const bool isFirst = !known.contains(rule.selector);
         known.insert(rule.selector);
         const double margin = isFirst ? defaultMargin(rule, tag) : 0;
-        const Declarations shown = shownDeclarations(rule);
-        m_css += rule.selector + QStringLiteral(" { ") + defaultMarginDeclarations(margin) + shown.all +
-                 QStringLiteral("}\n");
+        const Declarations declarations = translatedDeclarations(rule);
+        m_text += rule.selector + QStringLiteral(" { ") + defaultMarginDeclarations(margin) +
+                  declarations.all + QStringLiteral("}\n");
         const qsizetype dot = rule.selector.indexOf(u'.');
         if (tag.isEmpty() || dot < 0) {
             continue;
         }
         const QString name = rule.selector.mid(dot + 1);
-        if (shown.hasBox) {
+        if (declarations.hasBox) {
             m_boxes.insert(name);
-            m_css += QStringLiteral("td.") + name + QStringLiteral(", th.") + name + QStringLiteral(" { ") +
-                     shown.ofCell + QStringLiteral("}\n");
+            m_text += QStringLiteral("td.") + name + QStringLiteral(", th.") + name + QStringLiteral(" { ") +
+                      declarations.ofCell + QStringLiteral("}\n");
         }
         if (isFirst) {
             m_marginsAbove.insert(name, margin);
             m_marginsBelow.insert(name, margin);
         }
-        takeMargins(rule, name);
+        readMargins(rule, name);
     }
 }
 
-void ShownStyle::takeMargins(const StyleSheet::Rule &rule, const QString &name)
+void QtStyleSheet::readMargins(const StyleSheet::Rule &rule, const QString &name)
 {
     using cssbox::Side;
     const cssbox::Lengths lengths = cssbox::lengths(cssbox::Family::Margin, rule, fontSize(rule), 0);
@@ -175,12 +175,12 @@ void ShownStyle::takeMargins(const StyleSheet::Rule &rule, const QString &name)
     }
 }
 
-double ShownStyle::marginAbove(QStringView className) const
+double QtStyleSheet::marginAbove(QStringView className) const
 {
     return m_marginsAbove.value(className.toString());
 }
 
-double ShownStyle::marginBelow(QStringView className) const
+double QtStyleSheet::marginBelow(QStringView className) const
 {
     return m_marginsBelow.value(className.toString());
 }
