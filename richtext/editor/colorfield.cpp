@@ -31,7 +31,7 @@ constexpr int swatchGap = 6;
     return color.name() + (color.alpha() == 255 ? QString() : opacity);
 }
 
-/// A dense pattern shows through what is transparent; what is open is crossed out.
+/// A swatch of a colour, over a pattern where it is transparent; crossed out for no colour.
 [[nodiscard]] QPixmap swatch(const QColor &color, const QSize &size, const QPalette &palette)
 {
     QPixmap pixmap(size);
@@ -120,7 +120,9 @@ void ColorField::showValue(const QString &value)
 void ColorField::choose()
 {
     QColor now = css::color(m_value);
-    now.setAlpha(now.alpha() == 0 ? 255 : now.alpha()); // else the next one would not be seen either
+    now.setAlpha(now.alpha() == 0
+                     ? 255
+                     : now.alpha()); // the dialog keeps the opacity: the chosen one would be invisible too
     const QColor color = m_chooser(this, now, m_subject);
     if (color.isValid()) {
         take(css::colorText(color));
@@ -134,7 +136,7 @@ void ColorField::take(const QString &value)
     }
     m_value = value;
     if (m_none->hasFocus() || m_clear->hasFocus()) {
-        m_button->setFocus(); // as the button that was clicked is disabled next
+        m_button->setFocus(); // the button that was clicked is about to be disabled
     }
     refresh();
     Q_EMIT valueChanged();

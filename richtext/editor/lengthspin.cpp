@@ -25,7 +25,7 @@ LengthSpin::~LengthSpin() = default;
 void LengthSpin::setBounds(double least, double most)
 {
     const QSignalBlocker blocker(this);
-    setRange(least - 1, most); // the least value stands for an open length
+    setRange(least - 1, most); // the minimum stands for an open length
     setValue(minimum());
 }
 
@@ -39,7 +39,7 @@ std::optional<double> LengthSpin::length() const
     return value() <= minimum() ? std::nullopt : std::optional(value());
 }
 
-/// Nothing lies between an open length and the least one.
+/// The range has one value below the least length, which stands for an open one; between the two is nothing.
 void LengthSpin::takeValue(double value)
 {
     if (value > minimum() && value < minimum() + 1) {

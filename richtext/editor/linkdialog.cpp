@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The address with a scheme; empty when it is none that a report can have.
+/// The address with a scheme; empty when a report may not link to it.
 QString completed(const QString &address)
 {
     QString text = address.trimmed();

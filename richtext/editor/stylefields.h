@@ -15,7 +15,7 @@ namespace stylefields {
 void setEntries(QComboBox *combo, const QStringList &values);
 /// Shows the entry of a value; one that has no entry stands there as it is written.
 void showEntry(QComboBox *combo, const QString &value);
-/// Checks a box or not; half for a property that is open.
+/// Checks the box when `on`; a property that is open, without a value, is shown as partially checked.
 void showTrait(QCheckBox *box, const QString &value, bool on);
 
 /// Of a value of font-weight.
@@ -23,7 +23,8 @@ void showTrait(QCheckBox *box, const QString &value, bool on);
 /// A value of text-decoration with the line under the text or without it, other lines kept.
 [[nodiscard]] QString decoration(const QString &now, bool underline);
 
-/// Lets the wheel scroll the page over a field unless that is the one that is worked on.
+/// Turning the wheel over a field scrolls the page instead of changing the value, unless the field has the
+/// focus.
 void guardFromWheel(QWidget *field);
 
 } // namespace stylefields

@@ -64,7 +64,7 @@ private:
     void showFont(const StyleRule &rule);
     void showBoxes(const StyleRule &rule);
     void showBorder(const StyleRule &rule);
-    /// Turns to a side that has a border, to all when they are alike.
+    /// Chooses a side that has a border, or all sides when they are alike.
     void chooseBorderSide();
     [[nodiscard]] QList<cssbox::Slot> borderSlots(cssbox::Aspect aspect) const;
 

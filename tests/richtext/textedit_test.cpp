@@ -1,15 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
+#include "richtext/editor/textedit.h"
+
 #include "richtext/css/cssvalue.h"
 #include "richtext/css/stylesheet.h"
-#include "richtext/editor/textedit.h"
+#include "richtext/documents.h"
 #include "richtext/paper/pagegeometry.h"
-#include "richtext/paper/pdfoutput.h"
 #include "support/pdftext.h"
+#include "support/printtext.h"
 #include "support/scriptedprintui.h"
 #include "support/scriptedui.h"
 
-#include <QFile>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -17,18 +18,12 @@
 
 #include <gmock/gmock.h>
 
-using namespace Qt::StringLiterals;
 using testing::ElementsAre;
+using testing::HasSubstr;
 
 namespace {
 
 const QString sheet = u"body { margin: 20pt; paper-width: 300pt; paper-height: 400pt; }"_s;
-
-QString page(const QString &body)
-{
-    return u"<html><head><style type=\"text/css\">"_s + sheet + u"</style></head><body>"_s + body +
-           u"</body></html>"_s;
-}
 
 QString longTable()
 {
@@ -43,13 +38,6 @@ QString longTable()
 class Edit : public testing::Test
 {
 protected:
-    void print(QPainter &painter)
-    {
-        if (edit.print(painter)) {
-            painter.end();
-        }
-    }
-
     ScriptedUi ui;
     ScriptedPrintUi printUi;
     QTemporaryDir folder;
@@ -64,7 +52,7 @@ TEST_F(Edit, OpensLinksWithMouseAndKeyboard)
     edit.setReadOnly(true);
     edit.setTextInteractionFlags(Qt::TextBrowserInteraction);
     edit.resize(300, 200);
-    edit.loadDocument(page(u"<p><a href='docs/a#1%.pdf'>link</a> text</p>"_s));
+    edit.loadDocument(page(sheet, u"<p><a href='docs/a#1%.pdf'>link</a> text</p>"_s));
     edit.show();
     const QPoint onLink = edit.cursorRect().center() + QPoint(5, 0);
     QTest::mouseClick(edit.viewport(), Qt::LeftButton, {}, onLink);
@@ -81,41 +69,40 @@ TEST_F(Edit, OpensLinksWithMouseAndKeyboard)
 TEST_F(Edit, KeepsItsPlaceWhenTheDocumentIsMadeAnew)
 {
     edit.resize(300, 200);
-    edit.loadDocument(page(longTable()));
+    edit.loadDocument(page(sheet, longTable()));
     edit.show();
     EXPECT_EQ(edit.verticalScrollBar()->value(), 0);
     edit.verticalScrollBar()->setValue(150);
     edit.document()->loadCss(u"p { color: red; }"_s, true);
     EXPECT_EQ(edit.verticalScrollBar()->value(), 150);
-    edit.loadDocument(page(longTable()));
+    edit.loadDocument(page(sheet, longTable()));
     EXPECT_EQ(edit.verticalScrollBar()->value(), 150);
 }
 
 TEST_F(Edit, PrintsPagesWithHeadingsAndFragments)
 {
-    edit.loadDocument(page(longTable()));
+    edit.loadDocument(page(sheet, longTable()));
     edit.document()->setTitle(u"<T&>"_s);
     edit.setPageFragments(u"<p>{title} {page} of {pages} {nothing}</p>"_s, u"<p>foot {date}</p>"_s);
     printUi.printFile = folder.filePath(u"print.pdf"_s);
     printUi.previewFile = folder.filePath(u"preview.pdf"_s);
     QPainter painter;
-    print(painter);
+    ASSERT_TRUE(edit.print(painter));
+    painter.end();
     EXPECT_EQ(printUi.offeredPaper.fullRect(QPageLayout::Point).size(), QSizeF(300, 400));
     EXPECT_EQ(printUi.offeredPaper.margins(QPageLayout::Point), QMarginsF(20, 20, 20, 20));
+    const std::string today = QLocale::c().toString(ui.clock.date(), QLocale::ShortFormat).toStdString();
     for (const QString &file : {printUi.printFile, printUi.previewFile}) {
         const QStringList pages = pdfPages(file);
         ASSERT_GE(pages.size(), 2);
         for (qsizetype i = 0; i < pages.size(); ++i) {
-            const QString top = u"<T&> "_s + QString::number(i + 1) + u" of "_s +
-                                QString::number(pages.size()) + u" {nothing}"_s;
-            EXPECT_TRUE(pages[i].contains(top)) << pages[i].toStdString();
+            EXPECT_THAT(pages[i].toStdString(),
+                        HasSubstr(u"<T&> %1 of %2 {nothing}"_s.arg(i + 1).arg(pages.size()).toStdString()));
+            EXPECT_THAT(pages[i].toStdString(), HasSubstr("foot " + today));
             EXPECT_EQ(pages[i].count(u"Heading"_s), 1);
-            EXPECT_TRUE(
-                pages[i].contains(u"foot "_s + QLocale::c().toString(ui.clock.date(), QLocale::ShortFormat)));
         }
-        const QString all = pages.join(u' ');
         for (int i = 0; i < 60; ++i) {
-            EXPECT_EQ(all.count(QRegularExpression(u"\\bline%1\\b"_s.arg(i))), 1) << i;
+            EXPECT_EQ(pages.join(u' ').count(QRegularExpression(u"\\bline%1\\b"_s.arg(i))), 1) << i;
         }
     }
     printUi.printFile.clear();
@@ -129,18 +116,11 @@ TEST_F(Edit, NeverLeavesAHeadingAloneAtTheFootOfAPage)
         const QString body = u"<p>x</p>"_s.repeated(lines) +
                              u"<table><tbody><tr><th><p>Title</p></th></tr><tr><td><p>alpha</p></td></tr>"
                              "<tr><td><p>beta</p></td></tr></tbody></table>"_s;
-        PagedText text;
-        text.xhtml = page(body);
-        PdfOutput output(pageLayout(StyleSheet(sheet)), {});
-        PagePainter pages(text);
-        QPainter painter(&output.device());
-        pages.paint(painter, 1, pages.layOut(output.device()));
+        edit.loadDocument(page(sheet, body));
+        QPainter painter;
+        ASSERT_TRUE(edit.printToPdf(folder.filePath(u"%1.pdf"_s.arg(lines)), false, false, painter));
         painter.end();
-        QFile file(folder.filePath(u"%1.pdf"_s.arg(lines)));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(output.bytes());
-        file.close();
-        for (const QString &text : pdfPages(file.fileName())) {
+        for (const QString &text : pdfPages(edit.finishPdf())) {
             EXPECT_EQ(text.contains(u"Title"_s), text.contains(u"alpha"_s) || text.contains(u"beta"_s))
                 << lines;
         }
@@ -149,7 +129,7 @@ TEST_F(Edit, NeverLeavesAHeadingAloneAtTheFootOfAPage)
 
 TEST_F(Edit, WritesPdfFilesWithClickableLinksAsAWhole)
 {
-    edit.loadDocument(page(u"<p><a href=\"https://example.com/(x\">site</a></p>"_s));
+    edit.loadDocument(page(sheet, u"<p><a href=\"https://example.com/(x\">site</a></p>"_s));
     ui.fileName = folder.filePath(u"a#1.pdf"_s);
     QPainter painter;
     ASSERT_TRUE(edit.printToPdf(u"/suggested.pdf"_s, true, true, painter));
@@ -159,9 +139,7 @@ TEST_F(Edit, WritesPdfFilesWithClickableLinksAsAWhole)
     EXPECT_EQ(edit.finishPdf(), ui.fileName);
     EXPECT_EQ(ui.fileRequests.value(0).path, u"/suggested.pdf"_s);
     EXPECT_THAT(ui.openedUrls, ElementsAre(QUrl::fromLocalFile(ui.fileName)));
-    QFile file(ui.fileName);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(file.readAll().contains("/URI (https://example.com/%28x)"));
+    EXPECT_TRUE(readFile(ui.fileName).contains("/URI (https://example.com/%28x)"));
     EXPECT_EQ(edit.finishPdf(), QString());
 
     ui.fileName.clear();
@@ -174,37 +152,35 @@ TEST_F(Edit, WritesPdfFilesWithClickableLinksAsAWhole)
 
 TEST_F(Edit, ReturnKeepsTheLookAndEndsListsAndHeadings)
 {
-    const QString start = u"<html><head><style>p.x { font-size: 15pt; color: red; margin-top: 3pt; }</style>"
-                          "</head><body>"_s;
+    const QString css = u"p.x { font-size: 15pt; color: red; margin-top: 3pt; }"_s;
     edit.document()->setParagraphClass(u"x"_s);
-    edit.loadDocument(start + u"<ul><li><p class='x'>item</p></li></ul></body></html>"_s);
+    edit.loadDocument(page(css, u"<ul><li><p class='x'>item</p></li></ul>"_s));
     edit.show();
     const auto type = [&](const QString &text) {
         QTest::keyClick(&edit, Qt::Key_Return);
         QTest::keyClicks(&edit, text);
+        return edit.textCursor().charFormat();
     };
     edit.moveCursor(QTextCursor::End);
     type({});
     EXPECT_TRUE(edit.textCursor().currentList());
-    type(u"after"_s);
+    EXPECT_EQ(type(u"after"_s).fontPointSize(), 15);
     EXPECT_FALSE(edit.textCursor().currentList());
-    EXPECT_EQ(edit.textCursor().charFormat().fontPointSize(), 15);
     type({});
-    type(u"blank"_s);
-    EXPECT_EQ(edit.textCursor().charFormat().fontPointSize(), 15);
-    edit.loadDocument(start + u"<h1>head</h1></body></html>"_s);
+    EXPECT_EQ(type(u"blank"_s).fontPointSize(), 15);
+    edit.loadDocument(page(css, u"<h1>head</h1>"_s));
     edit.moveCursor(QTextCursor::End);
-    type(u"plain"_s);
+    const QTextCharFormat plain = type(u"plain"_s);
     EXPECT_EQ(edit.textCursor().blockFormat().headingLevel(), 0);
     EXPECT_EQ(edit.textCursor().blockFormat().topMargin(), 4);
-    EXPECT_EQ(edit.textCursor().charFormat().fontPointSize(), 15);
-    EXPECT_EQ(edit.textCursor().charFormat().foreground().color(), QColor(Qt::red));
-    EXPECT_LT(edit.textCursor().charFormat().fontWeight(), QFont::Bold);
+    EXPECT_EQ(plain.fontPointSize(), 15);
+    EXPECT_EQ(plain.foreground().color(), QColor(Qt::red));
+    EXPECT_LT(plain.fontWeight(), QFont::Bold);
 }
 
 TEST_F(Edit, PaperIsKeptInTheStyleSheetOnlyWhenItChanges)
 {
-    edit.loadDocument(page(u"<p>x</p>"_s));
+    edit.loadDocument(page(sheet, u"<p>x</p>"_s));
     edit.pageSetup();
     printUi.paper = pageLayout(StyleSheet(sheet));
     edit.pageSetup();
@@ -221,13 +197,13 @@ TEST_F(Edit, PaperIsKeptInTheStyleSheetOnlyWhenItChanges)
 
 TEST(PageGeometry, ReadsLengthsAndDoubtsWhatMakesNoPage)
 {
-    EXPECT_EQ(css::points(u" 25.4mm "_s, 0, 0), 72);
-    EXPECT_EQ(css::points(u"1in"_s, 0, 0), 72);
-    EXPECT_EQ(css::points(u"96PX"_s, 0, 0), 72);
+    for (const QString &inch : {u" 25.4mm "_s, u"1in"_s, u"96PX"_s}) {
+        EXPECT_EQ(css::points(inch, 0, 0), 72) << inch;
+    }
     EXPECT_EQ(css::points(u"0"_s, 0, 0), 0);
     for (const QString &none :
          {u""_s, u"12"_s, u"x"_s, u"1e400pt"_s, u"NaNpt"_s, QString(400, u'9') + u"pt"_s}) {
-        EXPECT_FALSE(css::points(none, 1, 1)) << none.toStdString();
+        EXPECT_FALSE(css::points(none, 1, 1)) << none;
     }
     EXPECT_EQ(pageMargins(StyleSheet(u"body { font-size: 10pt; margin: 1pt 2em 3pt !important; } "
                                      "body { margin-left: -4pt; }"_s)),
