@@ -5,10 +5,8 @@
 #include "cli/console.h"
 #include "host/propdefs/propdefsfile.h"
 #include "standalone/environment.h"
-#include "templates/legacyimport.h"
-#include "templates/legacyscripts.h"
+#include "templates/legacytemplate.h"
 #include "templates/templatestore.h"
-#include "templates/undefinedproperties.h"
 
 ExitStatus importLegacyScript(TemplateStore &store, const QString &path, const QString &script,
                               const QString &name)

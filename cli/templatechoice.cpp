@@ -4,7 +4,6 @@
 
 #include "cli/console.h"
 #include "standalone/environment.h"
-#include "templates/bomtemplatefile.h"
 #include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
 #include "templates/templatestore.h"
@@ -22,19 +21,11 @@ bool isFileName(const QString &text)
 
 std::optional<BOMTemplate> readFile(const QString &path)
 {
-    // Once: the template itself would take the defaults in place of a file that cannot be read, and a pipe
-    // gives its text only once.
-    BOMTemplateFile file(path);
-    QVariantMap map;
-    if (!file.readXmlFile(map)) {
-        console::message(file.errorString());
-        return std::nullopt;
+    QString problem;
+    auto settings = BOMTemplate::fromFile(path, &problem);
+    if (!settings) {
+        console::message(problem);
     }
-    BOMTemplate settings;
-    settings.setVersion(file.version());
-    settings.fromVariantMap(map);
-    settings.setName(QFileInfo(path).completeBaseName());
-    settings.setFilePath(path);
     return settings;
 }
 

@@ -139,9 +139,9 @@ ExitStatus TemplateCommand::reset(TemplateStore &store)
 ExitStatus TemplateCommand::importFile(TemplateStore &store)
 {
     const QString path = QString::fromStdString(m_file);
-    BOMTemplateFile file(path);
-    if (QVariantMap map; !file.readXmlFile(map)) {
-        console::message(file.errorString());
+    QString problem;
+    if (!BOMTemplateFile(path).readXmlFile(&problem)) {
+        console::message(problem);
         return ExitStatus::UnreadableInput;
     }
     store.reload();

@@ -4,7 +4,6 @@
 
 #include "cli/console.h"
 #include "templates/bomtemplate.h"
-#include "templates/defaultstylesheet.h"
 #include "templates/templatepaths.h"
 
 #include <QDir>

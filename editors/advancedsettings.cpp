@@ -4,20 +4,42 @@
 
 #include "core/bompartsdatabase.h"
 #include "editors/columnwidths.h"
-#include "editors/widthspinbox.h"
 #include "ui_advancedsettings.h"
 
 #include <QSignalBlocker>
+#include <QSpinBox>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <iterator>
-
 #include <vector>
 
 namespace {
 
 /// A column of a text file is no wider; one of width 0 is left out.
 constexpr WidthRange asciiRange{0, 1000};
+
+/// A spin box in a list that scrolls: the wheel turns it only while it has the focus. A typed number counts
+/// when it is complete.
+class WidthSpinBox final : public QSpinBox
+{
+public:
+    WidthSpinBox()
+    {
+        setKeyboardTracking(false);
+        setFocusPolicy(Qt::StrongFocus);
+    }
+
+protected:
+    void wheelEvent(QWheelEvent *event) override
+    {
+        if (hasFocus()) {
+            QSpinBox::wheelEvent(event);
+        } else {
+            event->ignore();
+        }
+    }
+};
 
 bool isSameReport(const BOMTemplate &left, const BOMTemplate &right)
 {

@@ -4,9 +4,8 @@
 
 #include "editors/physicalpropertycreator.h"
 #include "host/framework/hostui.h"
-#include "templates/legacyimport.h"
+#include "templates/legacytemplate.h"
 #include "templates/templatestore.h"
-#include "templates/undefinedproperties.h"
 #include "ui_bomtemplateimporter.h"
 
 #include <QDir>

@@ -3,14 +3,13 @@
 #pragma once
 
 #include "templates/templatestore.h"
-#include "templates/workingtemplate.h"
 
 #include <QPointer>
 
 class BOMPartsDatabase;
 
-/// The templates of the module: the folders that the host names, the list of them, and the parts database as
-/// the place where the current one is worked on. What is wrong with a template is told in a box.
+/// The templates of the module: the folders that the host names, and the store, whose current template the
+/// parts database holds. What is wrong with a template is shown in a box.
 class ModuleTemplates final : private WorkingTemplate
 {
 public:
@@ -21,8 +20,6 @@ public:
     /// Reads the list and takes the template that was current last. Boxes stand in front of the window.
     void load(QWidget *window);
     void setDialogParent(QWidget *window);
-
-    [[nodiscard]] TemplateStore &store() { return m_store; }
 
 private:
     [[nodiscard]] BOMTemplate workingTemplate() const override;

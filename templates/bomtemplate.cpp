@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "templates/bomtemplate.h"
 
-#include "templates/bomtemplatefile.h"
-#include "templates/defaultstylesheet.h"
 #include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
 
@@ -122,6 +120,18 @@ BOMTemplate::BOMTemplate(const QString &name, QSettings *legacySettings)
     load();
 }
 
+std::optional<BOMTemplate> BOMTemplate::fromFile(const QString &filePath, QString *problem)
+{
+    const auto document = BOMTemplateFile(filePath).readXmlFile(problem);
+    if (!document)
+        return std::nullopt;
+    BOMTemplate settings;
+    settings.take(*document);
+    settings.m_record.name = QFileInfo(filePath).completeBaseName();
+    settings.m_record.filePath = filePath;
+    return settings;
+}
+
 void BOMTemplate::setDefaults()
 {
     Record defaults;
@@ -152,17 +162,21 @@ bool BOMTemplate::load()
 
 bool BOMTemplate::loadFromFile()
 {
-    BOMTemplateFile file(m_record.filePath);
-    QVariantMap map;
-    if (file.readXmlFile(map)) {
-        m_record.version = file.version();
-        fromVariantMap(map);
+    QString problem;
+    if (const auto document = BOMTemplateFile(m_record.filePath).readXmlFile(&problem)) {
+        take(*document);
         return true;
     }
     const QString text = tr("The BOM template '%1' could not be loaded.  Default settings loaded.");
-    showTemplateMessage({tr("BOM Template Load Failed"), text.arg(m_record.filePath), file.errorString()});
+    showTemplateMessage({tr("BOM Template Load Failed"), text.arg(m_record.filePath), problem});
     setDefaults();
     return false;
+}
+
+void BOMTemplate::take(const BOMTemplateDocument &document)
+{
+    m_record.version = document.version;
+    fromVariantMap(document.map);
 }
 
 void BOMTemplate::loadFromLegacySettings()
@@ -192,11 +206,10 @@ bool BOMTemplate::save()
             << m_record.version << " Requires: " << CurrentVersion;
         return false;
     }
-    BOMTemplateFile file(m_record.filePath);
-    file.setVersion(m_record.version);
-    if (!file.writeXmlFile(toVariantMap())) {
+    QString problem;
+    if (!BOMTemplateFile(m_record.filePath).writeXmlFile(toVariantMap(), &problem)) {
         const QString text = tr("The BOM template '%1' was not saved.  An unknown error occurred.");
-        showTemplateMessage({tr("BOM Template Save Failed"), text.arg(m_record.name), file.errorString()});
+        showTemplateMessage({tr("BOM Template Save Failed"), text.arg(m_record.name), problem});
         return false;
     }
     // Removing the empty key would remove every entry of the group.

@@ -2,14 +2,47 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "templates/bomtemplaterecord.h"
+#include "templates/bomcategory.h"
+#include "templates/bomfields.h"
+#include "templates/bomtemplatefile.h"
 
 #include <QCoreApplication>
 #include <QList>
 #include <QString>
 #include <QVariantMap>
 
+#include <optional>
+
 class QSettings;
+
+/// The data of a template. Member names are the names that files use.
+struct BOMTemplateRecord
+{
+    qint32 version = BOMTemplateFile::CurrentVersion;
+    bool suppressEmptyCategories = false;
+    bool groupReferences = true;
+    bool fullTextOuputs = false;
+    QList<BOMCategory> categories;
+    BOMFields fields;
+    QString CSS;
+    QString DocumentHeader;
+    QString DocumentFooter;
+    QString PageHeader;
+    QString PageFooter;
+    bool AppendNotes = false;
+    int AsciiQuantityWidth = 5;
+    int AsciiRefWidth = 30;
+    int PrettyQuantityWidth = 7;
+    int PrettyRefWidth = 15;
+    bool ManualPrettyLayout = false;
+    bool AlwaysQuoteRefs = false;
+    bool ExcludeValueField = false;
+    bool CaseSensitiveGrouping = true;
+    QString name;
+    QSettings *legacySettings = nullptr;
+    QString htmlTemplateFileName;
+    QString filePath;
+};
 
 /// A named set of report settings: columns, categories, how references are listed, style sheet, header and
 /// footer, layout. A value: copies are independent. Numbers are kept as they were read; who uses them clamps.
@@ -18,7 +51,8 @@ class BOMTemplate
     Q_DECLARE_TR_FUNCTIONS(BOMTemplate)
 
 public:
-    static constexpr qint32 CurrentVersion = BOMTemplateRecord::CurrentVersion;
+    /// The format version that templates have in memory and are written in.
+    static constexpr qint32 CurrentVersion = BOMTemplateFile::CurrentVersion;
 
     /// The default settings, without a name.
     BOMTemplate();
@@ -35,6 +69,10 @@ public:
     BOMTemplate &operator=(const BOMTemplate &) = default;
     BOMTemplate &operator=(BOMTemplate &&) = default;
     virtual ~BOMTemplate() = default;
+
+    /// The settings of a file, named after it. Nothing, with the problem, when it cannot be read: for callers
+    /// that must not take the defaults instead.
+    [[nodiscard]] static std::optional<BOMTemplate> fromFile(const QString &filePath, QString *problem);
 
     /// Puts every setting to its default; name, file path and legacy store stay.
     void setDefaults();
@@ -132,6 +170,7 @@ public:
 
 private:
     bool loadFromFile();
+    void take(const BOMTemplateDocument &document);
     void loadFromLegacySettings();
 
     BOMTemplateRecord m_record;

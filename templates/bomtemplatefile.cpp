@@ -28,79 +28,89 @@ QByteArray readUpTo(QIODevice &device, qint64 limit)
     }
     return content;
 }
+
+/// Reads the root element with everything in it; false, with an error of the reader's, when it is no
+/// template's.
+bool readRoot(QXmlStreamReader &reader, BOMTemplateDocument &document)
+{
+    if (reader.name() != RootName) {
+        reader.raiseError(BOMTemplateFile::tr("the document is no BOM template"));
+        return false;
+    }
+    document.version = reader.attributes().value(VersionName).toInt();
+    if (document.version == 0) {
+        reader.raiseError(BOMTemplateFile::tr("the template has no version"));
+        return false;
+    }
+    return readXML(reader, document.map);
+}
 } // namespace
 
-bool BOMTemplateFile::readXmlFile(QVariantMap &map)
+std::optional<BOMTemplateDocument> BOMTemplateFile::readXmlFile(QString *problem) const
 {
     QFile file(m_filePath);
-    if (!file.open(QIODevice::ReadOnly))
-        return fail(file.errorString());
-    return readDocument(file, map);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *problem = located(file.errorString());
+        return std::nullopt;
+    }
+    return readDocument(file, problem);
 }
 
-bool BOMTemplateFile::readDocument(QIODevice &device, QVariantMap &map)
+std::optional<BOMTemplateDocument> BOMTemplateFile::readDocument(QIODevice &device, QString *problem) const
 {
-    const QByteArray document = readUpTo(device, MaximumSize);
-    if (document.size() > MaximumSize)
-        return fail(tr("the file is too large for a template"));
-
-    QXmlStreamReader reader(document);
+    const QByteArray bytes = readUpTo(device, MaximumSize);
+    if (bytes.size() > MaximumSize) {
+        *problem = located(tr("the file is too large for a template"));
+        return std::nullopt;
+    }
+    BOMTemplateDocument document;
+    QXmlStreamReader reader(bytes);
     while (!reader.atEnd()) {
         reader.readNext();
-        if (reader.isStartElement() && !readRoot(reader, map))
+        if (reader.isStartElement() && !readRoot(reader, document))
             break;
     }
     if (!reader.hasError())
-        return true;
+        return document;
     if (reader.error() != QXmlStreamReader::CustomError)
         qDebug("BOMTemplate::readXmlFile errors encountered during parsing");
-    return fail(reader.errorString(), reader.lineNumber());
+    *problem = located(reader.errorString(), reader.lineNumber());
+    return std::nullopt;
 }
 
-bool BOMTemplateFile::readRoot(QXmlStreamReader &reader, QVariantMap &map)
+bool BOMTemplateFile::writeXmlFile(const QVariantMap &map, QString *problem) const
 {
-    if (reader.name() != RootName) {
-        reader.raiseError(tr("the document is no BOM template"));
+    if (m_filePath.isEmpty()) {
+        *problem = located(tr("the template's name cannot be a file name"));
         return false;
     }
-    m_version = reader.attributes().value(VersionName).toInt();
-    if (m_version == 0) {
-        reader.raiseError(tr("the template has no version"));
-        return false;
-    }
-    return readXML(reader, map);
-}
-
-bool BOMTemplateFile::writeXmlFile(const QVariantMap &map)
-{
-    if (m_filePath.isEmpty())
-        return fail(tr("the template's name cannot be a file name"));
     QSaveFile file(m_filePath);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
-        return fail(file.errorString());
-    if (!writeDocument(file, map))
-        return file.error() == QFileDevice::NoError ? false : fail(file.errorString());
-    return file.commit() || fail(file.errorString());
+    const bool isWritten = file.open(QIODevice::WriteOnly | QIODevice::Text) &&
+                           writeDocument(file, map, problem) && file.commit();
+    if (file.error() != QFileDevice::NoError)
+        *problem = located(file.errorString());
+    return isWritten;
 }
 
-bool BOMTemplateFile::writeDocument(QIODevice &device, const QVariantMap &map)
+bool BOMTemplateFile::writeDocument(QIODevice &device, const QVariantMap &map, QString *problem) const
 {
     QXmlStreamWriter writer(&device);
     writer.setAutoFormatting(true);
     writer.writeStartDocument();
     writer.writeStartElement(RootName);
-    writer.writeAttribute(VersionName, QString::number(m_version));
+    writer.writeAttribute(VersionName, QString::number(CurrentVersion));
     writeXML(map, writer, QString());
     writer.writeEndElement();
     writer.writeEndDocument();
 
-    return !writer.hasError() || fail(tr("a text holds a character that XML cannot carry"));
+    if (writer.hasError())
+        *problem = located(tr("a text holds a character that XML cannot carry"));
+    return !writer.hasError();
 }
 
-bool BOMTemplateFile::fail(const QString &problem, qint64 line)
+QString BOMTemplateFile::located(const QString &problem, qint64 line) const
 {
     const QString path = QDir::toNativeSeparators(m_filePath);
     const QString place = line > 0 ? path + QLatin1Char(':') + QString::number(line) : path;
-    m_error = place.isEmpty() ? problem : place + QLatin1String(": ") + problem;
-    return false;
+    return place.isEmpty() ? problem : place + QLatin1String(": ") + problem;
 }

@@ -6,16 +6,27 @@
 #include <QString>
 #include <QVariantMap>
 
-class QIODevice;
-class QXmlStreamReader;
+#include <optional>
 
-/// Reads and writes the document of one template: an XML root "BOMTemplate" with the format version, and the
-/// template's map inside it.
+class QIODevice;
+
+/// What the file of a template holds: the version of its format, never 0, and the template's map.
+struct BOMTemplateDocument
+{
+    qint32 version = 0;
+    QVariantMap map;
+};
+
+/// Reads and writes the file of one template: an XML root "BOMTemplate" with the format version, and the
+/// template's map inside it. A function that fails puts the reason into `problem`, as "FILE: problem" or
+/// "FILE:LINE: problem".
 class BOMTemplateFile final
 {
     Q_DECLARE_TR_FUNCTIONS(BOMTemplateFile)
 
 public:
+    /// The version in which documents are written.
+    static constexpr qint32 CurrentVersion = 5;
     /// Larger documents are refused.
     static constexpr qint64 MaximumSize = 64 * 1024 * 1024;
 
@@ -24,32 +35,22 @@ public:
     {
     }
 
-    /// The version of the document that was read, or that is to be written; 0 before.
-    [[nodiscard]] qint32 version() const { return m_version; }
-    void setVersion(qint32 version) { m_version = version; }
-
-    /// Reads the whole document. False when it cannot be opened, is not well formed, has another root or no
-    /// version; `map` is then not to be used.
-    [[nodiscard]] bool readXmlFile(QVariantMap &map);
+    /// Reads the whole document. Nothing when it cannot be opened, is not well formed, has another root or no
+    /// version.
+    [[nodiscard]] std::optional<BOMTemplateDocument> readXmlFile(QString *problem) const;
 
     /// As readXmlFile(), from a device that is open for reading.
-    [[nodiscard]] bool readDocument(QIODevice &device, QVariantMap &map);
+    [[nodiscard]] std::optional<BOMTemplateDocument> readDocument(QIODevice &device, QString *problem) const;
 
     /// Replaces the file. False, with the old file kept, when it cannot be written or a text holds a
     /// character that XML cannot carry.
-    [[nodiscard]] bool writeXmlFile(const QVariantMap &map);
+    [[nodiscard]] bool writeXmlFile(const QVariantMap &map, QString *problem) const;
 
     /// As writeXmlFile(), to a device that is open for writing.
-    [[nodiscard]] bool writeDocument(QIODevice &device, const QVariantMap &map);
-
-    /// What the last failed call met, as "FILE: problem" or "FILE:LINE: problem".
-    [[nodiscard]] QString errorString() const { return m_error; }
+    [[nodiscard]] bool writeDocument(QIODevice &device, const QVariantMap &map, QString *problem) const;
 
 private:
-    bool fail(const QString &problem, qint64 line = 0);
-    bool readRoot(QXmlStreamReader &reader, QVariantMap &map);
+    [[nodiscard]] QString located(const QString &problem, qint64 line = 0) const;
 
     QString m_filePath;
-    QString m_error;
-    qint32 m_version = 0;
 };

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "templates/bomtemplate.h"
-
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -38,13 +36,6 @@ constexpr qint64 mostLegacyScriptBytes = 4 * 1024 * 1024;
 /// the only one. Nothing otherwise; `problems` says why.
 [[nodiscard]] std::optional<LegacyScript> readLegacyScript(const QString &path, const QString &name,
                                                            QStringList *problems);
-
-/// The values of a line, the text behind its "=". A part in double quotes is one value, empty or with commas.
-[[nodiscard]] QStringList legacyScriptValues(const QString &text);
-
-/// Categories and fields as a script says, everything else at its default; without a name. Lines that say
-/// nothing to this system are skipped.
-[[nodiscard]] BOMTemplate legacyTemplate(const LegacyScript &script);
 
 /// The scripts that earlier versions kept in their settings, of every program whose group begins with "ORIN";
 /// of several versions the highest. `group` takes the last group that has any, and stays as it is without.

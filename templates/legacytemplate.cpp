@@ -1,7 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "templates/legacyscripts.h"
+#include "templates/legacytemplate.h"
 
+#include "host/propdefs/propdefsfile.h"
+#include "templates/templatestore.h"
+
+#include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
@@ -85,6 +89,11 @@ private:
     BOMFields m_fields;
 };
 
+bool needsNoDefinition(const QString &property)
+{
+    return property.startsWith(u'.') || property.compare(QLatin1String("VALUE"), Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
 
 QStringList legacyScriptValues(const QString &text)
@@ -119,4 +128,29 @@ BOMTemplate legacyTemplate(const LegacyScript &script)
         conversion.read(line);
     }
     return conversion.result();
+}
+
+QString proposedTemplateName(const QString &scriptName, const TemplateStore &store)
+{
+    const QString name = scriptName.isEmpty()
+                             ? QCoreApplication::translate("BOMTemplateImporter", "Imported Template")
+                             : scriptName;
+    return store.contains(name) ? name + QStringLiteral("-copy") : name;
+}
+
+QStringList undefinedProperties(const BOMTemplate &settings)
+{
+    DIDX known;
+    if (!load_defaultdefs(&known, nullptr)) {
+        return {};
+    }
+    QStringList undefined;
+    for (const BOMField &field : settings.fields().fields()) {
+        const QString &name = field.propertyName;
+        // Adding the name keeps a second field of the same property out of the list.
+        if (!name.isEmpty() && !needsNoDefinition(name) && known.add({name, PropType::String, {}})) {
+            undefined.append(name);
+        }
+    }
+    return undefined;
 }

@@ -3,6 +3,7 @@
 #include "templates/templatepaths.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
@@ -10,14 +11,19 @@
 #include <iterator>
 #include <utility>
 
-// The macro declares a function, which may not happen inside a namespace.
-static bool registerResources()
+// A static library's resources are dropped by the linker unless something refers to them. The macro declares
+// a function, which may not happen inside a namespace.
+static void initResources()
 {
     Q_INIT_RESOURCE(bom);
-    return true;
 }
 
 namespace {
+void registerResources()
+{
+    [[maybe_unused]] static const bool isRegistered = (initResources(), true);
+}
+
 QStringList &paths()
 {
     static QStringList list;
@@ -46,11 +52,6 @@ bool isDeviceName(const QString &name)
 }
 } // namespace
 
-QStringList templatePaths()
-{
-    return paths();
-}
-
 void setTemplatePaths(const QStringList &list)
 {
     paths() = list;
@@ -76,13 +77,20 @@ QStringList hostTemplatePaths(const QString &pathList, const QString &dataFolder
 
 QString shippedTemplateFolder()
 {
-    [[maybe_unused]] static const bool registered = registerResources();
+    registerResources();
     return QStringLiteral(":/bom/templates");
 }
 
 bool isShippedTemplateFile(const QString &path)
 {
     return path.startsWith(QLatin1String(":/"));
+}
+
+QString defaultStyleSheet()
+{
+    registerResources();
+    QFile file(QStringLiteral(":/bom/html/userstyle.css"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 QList<TemplateFile> templateFiles()

@@ -6,8 +6,8 @@
 #include <QString>
 #include <QStringList>
 
-/// The folders that hold template files, the primary one first: new files go there. Empty until they are set.
-[[nodiscard]] QStringList templatePaths();
+/// Sets the folders that hold template files, the primary one first: new files go there. There are none until
+/// they are set.
 void setTemplatePaths(const QStringList &paths);
 
 /// The folders that a host names: its own list, separated by ";", its data folder for templates, and the
@@ -20,6 +20,9 @@ void setTemplatePaths(const QStringList &paths);
 /// Whether the file is one of those.
 [[nodiscard]] bool isShippedTemplateFile(const QString &path);
 
+/// The style sheet that a new template has and "reset" brings back; empty when the resource is missing.
+[[nodiscard]] QString defaultStyleSheet();
+
 struct TemplateFile
 {
     QString name;
@@ -28,7 +31,7 @@ struct TemplateFile
     bool operator==(const TemplateFile &) const = default;
 };
 
-/// The template files of templatePaths() in that order, by name inside a folder, but with the suffix in small
+/// The template files of the folders in their order, by name inside a folder, but with the suffix in small
 /// letters first. Of names that differ only in letter case the first stands for all.
 [[nodiscard]] QList<TemplateFile> templateFiles();
 

@@ -3,17 +3,14 @@
 #include "templates/templatestore.h"
 
 #include "host/framework/hostsettings.h"
-#include "templates/savetemplate.h"
+#include "host/framework/reportfile.h"
+#include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
-#include "templates/workingtemplate.h"
 
+#include <QDir>
 #include <QFileInfo>
-#include <QSettings>
 
 #include <algorithm>
-#include <utility>
-
-// What the store holds; the commands that talk to the user stand in templatestore_commands.cpp.
 
 namespace {
 
@@ -21,16 +18,11 @@ const QString settingsGroup = QStringLiteral("BOM");
 const QString currentKey = QStringLiteral("CurrentTemplate");
 const QString importedKey = QStringLiteral("BomScriptsImported");
 
-/// Null when there is no such file: opening one must not make it.
-std::unique_ptr<QSettings> openLegacySettings()
+/// Adds the suffix that a user leaves away, unless that would replace a file unasked.
+QString withSuffix(const QString &path)
 {
-    const QString path = legacyTemplatesFile();
-    if (!QFileInfo(path).isFile()) {
-        return nullptr;
-    }
-    auto settings = std::make_unique<QSettings>(path, QSettings::IniFormat);
-    settings->beginGroup(QStringLiteral("Templates"));
-    return settings;
+    const QString completed = path + QStringLiteral(".bomt");
+    return QFileInfo(path).suffix().isEmpty() && !QFileInfo::exists(completed) ? completed : path;
 }
 
 } // namespace
@@ -41,96 +33,19 @@ TemplateStore::TemplateStore(WorkingTemplate *working, QObject *parent)
 {
 }
 
-TemplateStore::~TemplateStore() = default;
-
 void TemplateStore::reload()
 {
     m_currentName.clear();
-    m_templates.clear();
-    m_names.clear();
-    readFolders();
-    readLegacySettings();
-    arrangeNames();
+    m_list.read();
     setModified(false);
     Q_EMIT namesChanged();
     const QString remembered = HostSettings::current().value(settingsGroup, currentKey).value_or(QString());
-    select(m_names.contains(remembered) ? remembered : m_names.constFirst());
-}
-
-void TemplateStore::readFolders()
-{
-    for (const TemplateFile &file : templateFiles()) {
-        m_templates.insert(file.name, BOMTemplate(file.name, file.path));
-        m_names.append(file.name);
-    }
-}
-
-void TemplateStore::readLegacySettings()
-{
-    m_legacySettings = openLegacySettings();
-    if (!m_legacySettings) {
-        return;
-    }
-    // Ignoring case, because the file that such an entry gets at its next save would hide behind the other.
-    QStringList keys = m_legacySettings->allKeys();
-    keys.removeIf([this](const QString &key) {
-        const QString name = listedName(key);
-        return !name.isEmpty() && !isShipped(name);
-    });
-    for (const QString &key : std::as_const(keys)) {
-        const QString hidden = listedName(key);
-        m_templates.remove(hidden);
-        m_names.removeAll(hidden);
-        m_templates.insert(key, BOMTemplate(key, m_legacySettings.get()));
-        m_names.append(key);
-    }
-}
-
-void TemplateStore::arrangeNames()
-{
-    std::sort(m_names.begin(), m_names.end());
-    const auto isOwn = [this](const QString &name) { return !isShipped(name); };
-    std::stable_partition(m_names.begin(), m_names.end(), isOwn);
-    if (!m_names.contains(defaultName())) {
-        m_names.prepend(defaultName());
-    }
-}
-
-QString TemplateStore::listedName(const QString &name) const
-{
-    if (m_names.contains(name)) {
-        return name;
-    }
-    const auto found = std::find_if(m_names.cbegin(), m_names.cend(), [&name](const QString &listed) {
-        return listed.compare(name, Qt::CaseInsensitive) == 0;
-    });
-    return found == m_names.cend() ? QString() : *found;
-}
-
-BOMTemplate TemplateStore::storedTemplate(const QString &name) const
-{
-    if (const auto found = m_templates.constFind(name); found != m_templates.cend()) {
-        return *found;
-    }
-    BOMTemplate settings;
-    settings.setName(name);
-    return settings;
-}
-
-bool TemplateStore::isShipped(const QString &name) const
-{
-    const auto found = m_templates.constFind(name);
-    return found != m_templates.cend() && isShippedTemplateFile(found->filePath());
+    select(names().contains(remembered) ? remembered : names().constFirst());
 }
 
 bool TemplateStore::canDelete(const QString &name) const
 {
     return name.compare(defaultName(), Qt::CaseInsensitive) != 0 && !isShipped(name);
-}
-
-QString TemplateStore::defaultName()
-{
-    return tr("Default");
 }
 
 void TemplateStore::setModified(bool modified)
@@ -156,16 +71,16 @@ bool TemplateStore::select(const QString &name)
     return true;
 }
 
+HostUi::SaveAnswer TemplateStore::askToSave(bool withCancel) const
+{
+    return HostUi::current().saveQuestion(m_dialogParent, tr("Unsaved BOM Template Changes"),
+                                          tr("Do you want to save the changes you made to the BOM template?"),
+                                          withCancel);
+}
+
 void TemplateStore::list(const BOMTemplate &settings)
 {
-    const QString name = settings.name();
-    const bool wasShipped = isShipped(name);
-    m_templates.insert(name, settings);
-    const bool isNew = !m_names.contains(name);
-    if (isNew) {
-        m_names.append(name);
-    }
-    if (isNew || wasShipped != isShipped(name)) {
+    if (m_list.put(settings)) {
         Q_EMIT namesChanged();
     }
 }
@@ -174,7 +89,7 @@ void TemplateStore::makeCurrent(const QString &name)
 {
     m_currentName = name;
     if (m_working) {
-        BOMTemplate settings = m_templates.value(name);
+        BOMTemplate settings = storedTemplate(name);
         settings.setLegacySettings(nullptr); // it does not outlive a reload
         m_working->takeTemplate(settings);
     }
@@ -193,18 +108,38 @@ BOMTemplate TemplateStore::workingSettings(const QString &name) const
     return settings;
 }
 
-bool TemplateStore::save(const QString &name)
+bool TemplateStore::saveAndList(BOMTemplate settings)
 {
-    if (name.isEmpty()) {
-        return false;
-    }
-    BOMTemplate settings = workingSettings(name);
-    if (!saveTemplate(settings)) {
+    // When the folder cannot be made, saving fails and says so.
+    QDir().mkpath(primaryTemplateFolder());
+    if (!settings.save()) {
         return false;
     }
     list(settings);
+    return true;
+}
+
+bool TemplateStore::save(const QString &name)
+{
+    if (name.isEmpty() || !saveAndList(workingSettings(name))) {
+        return false;
+    }
     setModified(false);
     return true;
+}
+
+bool TemplateStore::mayCreate(const QString &name) const
+{
+    QString problem;
+    if (name.trimmed().isEmpty() || contains(name)) {
+        problem = tr("The name must not be blank or used already");
+    } else if (!isTemplateFileName(name)) {
+        problem = tr("The name must be one that a file can have");
+    }
+    if (!problem.isEmpty()) {
+        HostUi::current().information(m_dialogParent, tr("Could not create template"), problem);
+    }
+    return problem.isEmpty();
 }
 
 bool TemplateStore::createTemplate(const QString &enteredName)
@@ -223,11 +158,115 @@ bool TemplateStore::add(const BOMTemplate &settings)
     added.setVersion(BOMTemplate::CurrentVersion);
     added.setLegacySettings(nullptr);
     added.setName(settings.name());
-    if (!mayCreate(added.name()) || !saveTemplate(added)) {
+    return mayCreate(added.name()) && saveAndList(added) && select(added.name());
+}
+
+bool TemplateStore::refuseToDelete(const QString &name) const
+{
+    if (canDelete(name)) {
         return false;
     }
-    list(added);
-    return select(added.name());
+    const QString problem = isShipped(name) ? tr("Cannot delete a template that comes with the program")
+                                            : tr("Cannot delete default template");
+    HostUi::current().information(m_dialogParent, tr("Template Deletion"), problem);
+    return true;
+}
+
+bool TemplateStore::deleteCurrent()
+{
+    if (m_currentName.isEmpty() || refuseToDelete(m_currentName)) {
+        return false;
+    }
+    const QString question = tr("Delete the template '%1'?").arg(m_currentName);
+    return HostUi::current().question(m_dialogParent, tr("Template Deletion"), question, false) &&
+           remove(m_currentName);
+}
+
+bool TemplateStore::remove(const QString &name)
+{
+    const qsizetype place = names().indexOf(name);
+    if (place < 0 || refuseToDelete(name) || !m_list.remove(name)) {
+        return false;
+    }
+    const bool wasCurrent = name == m_currentName;
+    const bool isReplaced = contains(name);
+    if (wasCurrent) {
+        m_currentName.clear();
+        setModified(false);
+    }
+    Q_EMIT namesChanged();
+    if (wasCurrent) {
+        select(names().at(isReplaced ? place : std::max<qsizetype>(place - 1, 0)));
+    }
+    return true;
+}
+
+bool TemplateStore::resetDefault()
+{
+    return HostUi::current().question(m_dialogParent, tr("Template Reset"), tr("Reset the default template?"),
+                                      false) &&
+           restoreDefault();
+}
+
+bool TemplateStore::restoreDefault()
+{
+    const QString name = defaultName();
+    BOMTemplate settings = storedTemplate(name);
+    settings.setDefaults();
+    settings.setName(name);
+    if (!saveAndList(settings)) {
+        return false;
+    }
+    if (m_currentName == name) {
+        setModified(false);
+        select(name);
+    }
+    return true;
+}
+
+bool TemplateStore::importTemplate()
+{
+    const QString path = HostUi::current().openFileName(
+        m_dialogParent, tr("Import BOM Template"), primaryTemplateFolder(), tr("BOM Templates (*.bomt)"));
+    return !path.isEmpty() && importFile(path);
+}
+
+bool TemplateStore::refuseToImport(const QString &text, const QString &detail) const
+{
+    showTemplateMessage({tr("BOM Template Import Failed"), text, detail});
+    return false;
+}
+
+bool TemplateStore::importFile(const QString &path)
+{
+    const QString name = QFileInfo(path).completeBaseName();
+    const QString target = templateFilePath(name);
+    if (contains(name) || QFileInfo::exists(target)) {
+        HostUi::current().warning(m_dialogParent, tr("BOM Template Import Failed"),
+                                  tr("A BOM template with the name '%1' already exists.").arg(name));
+        return false;
+    }
+    QString problem;
+    auto settings = BOMTemplate::fromFile(path, &problem);
+    if (!settings) {
+        return refuseToImport(tr("The BOM template '%1' could not be loaded.").arg(path), problem);
+    }
+    settings->setName(name);
+    QDir().mkpath(primaryTemplateFolder());
+    if (!BOMTemplateFile(target).writeXmlFile(settings->toVariantMap(), &problem)) {
+        return refuseToImport(tr("Could not import the template to '%1'.").arg(target), problem);
+    }
+    list(*settings);
+    return select(name);
+}
+
+bool TemplateStore::exportTemplate()
+{
+    const QString path = HostUi::current().saveFileName(
+        m_dialogParent, tr("Export BOM Template"), primaryTemplateFolder(), tr("BOM Templates (*.bomt)"));
+    QString reason;
+    const auto content = path.isEmpty() ? std::nullopt : document(m_currentName, &reason);
+    return content && writeReportFile(withSuffix(path), *content, &reason) == ReportFileResult::Written;
 }
 
 bool TemplateStore::isLegacyImportPending()

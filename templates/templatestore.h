@@ -3,23 +3,34 @@
 #pragma once
 
 #include "host/framework/hostui.h"
-#include "templates/bomtemplate.h"
+#include "templates/templatelist.h"
 
-#include <QMap>
 #include <QObject>
 #include <QStringList>
 
-#include <memory>
 #include <optional>
 
-class QSettings;
 class QWidget;
-class WorkingTemplate;
 
-/// The templates that the user can choose from: the files of the template folders (templatePaths()), entries
-/// of the legacy settings file that no file has replaced yet, and "Default", which is always there. One of
-/// them is current. Boxes and dialogs go through HostUi, what a file did wrong through showTemplateMessage().
-/// A name stands for the template spelled exactly so, except where it says that case is ignored.
+/// What holds the settings of the current template while they are edited: the parts database.
+class WorkingTemplate
+{
+public:
+    WorkingTemplate() = default;
+    WorkingTemplate(const WorkingTemplate &) = delete;
+    WorkingTemplate &operator=(const WorkingTemplate &) = delete;
+    virtual ~WorkingTemplate() = default;
+
+    /// The settings as they stand now, with unsaved changes. Name and file path are not used.
+    [[nodiscard]] virtual BOMTemplate workingTemplate() const = 0;
+
+    /// The store has selected this template: its settings replace the working ones and are shown. What this
+    /// does to the store's modified flag does not count.
+    virtual void takeTemplate(const BOMTemplate &settings) = 0;
+};
+
+/// The templates that the user can choose from, and which of them is current: the commands on a TemplateList.
+/// Boxes and dialogs go through HostUi, what a file did wrong through showTemplateMessage().
 ///
 /// An operation that returns false has told the user why, or the user declined, and has changed nothing.
 class TemplateStore final : public QObject
@@ -30,7 +41,6 @@ public:
     /// `working` gives and takes the working settings; it must outlive the store. Without one the stored
     /// settings are the working ones. The store is empty until reload().
     explicit TemplateStore(WorkingTemplate *working = nullptr, QObject *parent = nullptr);
-    ~TemplateStore() override;
 
     /// The window that boxes stand in front of; not owned, may be null.
     void setDialogParent(QWidget *parent) { m_dialogParent = parent; }
@@ -39,23 +49,23 @@ public:
     /// Unsaved changes are dropped without a question.
     void reload();
 
-    /// In the order of the list: the user's own by name, "Default" in front unless it has a place of its own,
-    /// then those that come with the system; new ones at the end.
-    [[nodiscard]] QStringList names() const { return m_names; }
+    /// See TemplateList.
+    [[nodiscard]] QStringList names() const { return m_list.names(); }
+    [[nodiscard]] QString listedName(const QString &name) const { return m_list.listedName(name); }
+    [[nodiscard]] BOMTemplate storedTemplate(const QString &name) const { return m_list.stored(name); }
+    [[nodiscard]] bool isShipped(const QString &name) const { return m_list.isShipped(name); }
+    [[nodiscard]] static QString defaultName() { return TemplateList::defaultName(); }
+    [[nodiscard]] std::optional<QByteArray> document(const QString &name, QString *reason) const
+    {
+        return m_list.document(name, reason);
+    }
     /// Whether the list holds the name, ignoring case.
     [[nodiscard]] bool contains(const QString &name) const { return !listedName(name).isEmpty(); }
-    /// The list's spelling of a name: the exact one, else the first that differs only in case, else empty.
-    [[nodiscard]] QString listedName(const QString &name) const;
-    /// The stored settings, without unsaved changes; the defaults under that name when there are none. May
-    /// point to the legacy settings file, which lives as long as the store and until the next reload().
-    [[nodiscard]] BOMTemplate storedTemplate(const QString &name) const;
-    /// Whether the template is the one that comes with the system. It cannot be deleted, and saving it makes
-    /// the user's own copy, which then stands in its place.
-    [[nodiscard]] bool isShipped(const QString &name) const;
-    /// False for "Default" in any case and for shipped templates.
+    /// False for "Default" in any case and for shipped templates: saving one of those makes the user's own
+    /// copy, which then stands in its place.
     [[nodiscard]] bool canDelete(const QString &name) const;
-    /// The translated name of the template that is always there.
-    [[nodiscard]] static QString defaultName();
+    /// Whether a new template could have the name; says why not.
+    [[nodiscard]] bool mayCreate(const QString &name) const;
 
     /// Empty before the first selection.
     [[nodiscard]] QString currentName() const { return m_currentName; }
@@ -80,9 +90,6 @@ public:
     /// Saves a finished template under its own name and selects it. Refuses like createTemplate().
     bool add(const BOMTemplate &settings);
 
-    /// Whether a new template could have the name; says why not.
-    [[nodiscard]] bool mayCreate(const QString &name) const;
-
     /// Asks, then removes the current template.
     bool deleteCurrent();
     /// Deletes a template with its file, its old HTML file and its legacy entry, without a question. When it
@@ -103,9 +110,6 @@ public:
 
     /// Asks for a destination and copies the current template's file there. Says nothing when that fails.
     bool exportTemplate();
-    /// What the template's file holds; of one without a file, what it would hold. Nothing, with the problem
-    /// in `reason`, when it cannot be read.
-    [[nodiscard]] std::optional<QByteArray> document(const QString &name, QString *reason) const;
 
     /// Asks whether unsaved changes are to be saved. The caller does what was answered.
     [[nodiscard]] HostUi::SaveAnswer askToSave(bool withCancel) const;
@@ -124,23 +128,16 @@ Q_SIGNALS:
     void modifiedChanged(bool modified);
 
 private:
-    void readFolders();
-    void readLegacySettings();
-    void arrangeNames();
     void list(const BOMTemplate &settings);
+    [[nodiscard]] bool saveAndList(BOMTemplate settings);
     void makeCurrent(const QString &name);
     [[nodiscard]] BOMTemplate workingSettings(const QString &name) const;
     [[nodiscard]] bool refuseToDelete(const QString &name) const;
-    [[nodiscard]] bool deleteFile(const QString &path) const;
-    void deleteHtmlFileOf(const QString &name) const;
-    void removeLegacyEntry(const QString &name) const;
     [[nodiscard]] bool refuseToImport(const QString &text, const QString &detail) const;
 
     WorkingTemplate *m_working = nullptr;
     QWidget *m_dialogParent = nullptr;
-    std::unique_ptr<QSettings> m_legacySettings;
-    QMap<QString, BOMTemplate> m_templates;
-    QStringList m_names;
+    TemplateList m_list;
     QString m_currentName;
     bool m_isModified = false;
 };

@@ -5,7 +5,7 @@
 #include "core/bompartsdatabase.h"
 #include "richtext/editor/textedit.h"
 #include "richtext/editor/textstyleeditor.h"
-#include "templates/defaultstylesheet.h"
+#include "templates/templatepaths.h"
 #include "views/bomtemplateeditor.h"
 #include "views/report/oldhtmltemplate.h"
 

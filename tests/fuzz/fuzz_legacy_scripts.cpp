@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "fuzz/fuzztarget.h"
 
-#include "templates/legacyscripts.h"
+#include "templates/legacytemplate.h"
 
 #include <QSet>
 

@@ -20,15 +20,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     QByteArray bytes(reinterpret_cast<const char *>(data), qsizetype(size));
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
-    BOMTemplateFile file(QStringLiteral("fuzz.bomt"));
-    QVariantMap map;
-    if (!file.readDocument(buffer, map)) {
-        promise(!file.errorString().isEmpty(), "a refusal says why");
+    QString problem;
+    const auto document = BOMTemplateFile(QStringLiteral("fuzz.bomt")).readDocument(buffer, &problem);
+    if (!document) {
+        promise(!problem.isEmpty(), "a refusal says why");
         return 0;
     }
     BOMTemplate read;
-    read.setVersion(file.version());
-    read.fromVariantMap(map);
+    read.setVersion(document->version);
+    read.fromVariantMap(document->map);
     promise(read.version() == BOMTemplate::CurrentVersion, "what was read is of the current version");
     BOMTemplate again;
     again.fromVariantMap(read.toVariantMap());

@@ -2,164 +2,92 @@
 // SPDX-License-Identifier: MIT
 #include "templates/bomfields.h"
 
-#include "templates/bomcategory.h"
-
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
-BOMField field(const QString &name, const QString &property = {})
+
+/// Of "name:property".
+BOMField field(const QString &text)
 {
     BOMField made;
-    made.fieldName = name;
-    made.propertyName = property;
+    made.fieldName = text.section(u':', 0, 0);
+    made.propertyName = text.section(u':', 1);
     return made;
 }
 
-BOMFields fields(const QStringList &names)
+std::string described(const BOMFields &fields)
 {
-    BOMFields made;
-    for (const QString &name : names)
-        made.add(field(name, name.toUpper()));
-    return made;
+    QStringList texts;
+    for (const BOMField &field : fields.fields()) {
+        EXPECT_TRUE(fields.contains(field.fieldName) && fields.get(field.fieldName) == field);
+        EXPECT_EQ(fields.names().value(texts.size()), field.fieldName);
+        texts.append(field.fieldName + u':' + field.propertyName);
+    }
+    EXPECT_EQ(fields.size(), texts.size());
+    return texts.join(u' ').toStdString();
 }
 
-TEST(BomFields, ANameOfItsOwnOrderCanBeRemoved)
+TEST(BomFields, StayInOrderAndUniqueByName)
 {
-    for (qsizetype at = 0; at < 3; ++at) {
-        BOMFields made = fields({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
-        QStringList expected = made.names();
-        expected.removeAt(at);
-        made.remove(made.names().at(at));
-        EXPECT_EQ(made.names(), expected);
-        for (const QString &name : expected)
-            EXPECT_EQ(made.get(name).propertyName, name.toUpper());
+    struct Case
+    {
+        const char *name;
+        void (*act)(BOMFields &fields);
+        const char *result;
+    };
+    const Case cases[] = {
+        {"a taken name is refused", [](BOMFields &fields) { EXPECT_FALSE(fields.add(field(u"b:X"_s))); },
+         "a:A b:B c:C"},
+        {"unless the case differs", [](BOMFields &fields) { EXPECT_TRUE(fields.add(field(u"B:X"_s))); },
+         "a:A b:B c:C B:X"},
+        {"a known one is replaced in place", [](BOMFields &fields) { fields.set(field(u"b:X"_s)); },
+         "a:A b:X c:C"},
+        {"a new one is appended", [](BOMFields &fields) { fields.set(field(u"d:D"_s)); }, "a:A b:B c:C d:D"},
+        {"an unknown one cannot be removed", [](BOMFields &fields) { fields.remove(u"x"_s); }, "a:A b:B c:C"},
+        {"a name of the own order can be", [](BOMFields &fields) { fields.remove(fields.names().at(1)); },
+         "a:A c:C"},
+        {"a removed one is forgotten",
+         [](BOMFields &fields) {
+             fields.remove(u"b"_s);
+             fields.setOrder({u"c"_s, u"b"_s});
+             EXPECT_EQ(fields.get(u"b"_s), BOMField());
+             EXPECT_TRUE(fields.add(field(u"b:X"_s)));
+         },
+         "c:C b:X"},
+        {"an order takes known names once",
+         [](BOMFields &fields) {
+             fields.setOrder({u"c"_s, u"x"_s, u"a"_s, u"c"_s});
+             EXPECT_FALSE(fields.contains(u"b"_s));
+         },
+         "c:C a:A"},
+        {"the own order changes nothing", [](BOMFields &fields) { fields.setOrder(fields.names()); },
+         "a:A b:B c:C"},
+        {"who is left out of an order comes back when named",
+         [](BOMFields &fields) {
+             fields.setOrder({u"a"_s});
+             fields.setOrder({u"b"_s, u"a"_s});
+         },
+         "b:B a:A"},
+        {"and is replaced when added",
+         [](BOMFields &fields) {
+             fields.setOrder({u"a"_s});
+             EXPECT_TRUE(fields.add(field(u"b:X"_s)));
+         },
+         "a:A b:X"},
+        {"defaults replace all", [](BOMFields &fields) { fields.setDefaults(); },
+         "Value:VALUE Stock Code:CODE Unit Cost:COST"},
+    };
+    for (const Case &example : cases) {
+        SCOPED_TRACE(example.name);
+        BOMFields fields;
+        for (const QString &text : {u"a:A"_s, u"b:B"_s, u"c:C"_s}) {
+            EXPECT_TRUE(fields.add(field(text)));
+        }
+        example.act(fields);
+        EXPECT_EQ(described(fields), example.result);
     }
 }
 
-TEST(BomFields, DefaultsReplaceWhatWasThere)
-{
-    BOMFields made = fields({QStringLiteral("a"), QStringLiteral("Value")});
-    made.setDefaults();
-    const QStringList expected{QStringLiteral("Value"), QStringLiteral("Stock Code"),
-                               QStringLiteral("Unit Cost")};
-    EXPECT_EQ(made.names(), expected);
-    EXPECT_EQ(made.get(QStringLiteral("Value")).propertyName, QStringLiteral("VALUE"));
-    const BOMField code = made.get(QStringLiteral("Stock Code"));
-    EXPECT_EQ(code.propertyName, QStringLiteral("CODE"));
-    EXPECT_TRUE(code.enableLinks && !code.generateTotals);
-    const BOMField cost = made.get(QStringLiteral("Unit Cost"));
-    EXPECT_EQ(cost.propertyName, QStringLiteral("COST"));
-    EXPECT_TRUE(cost.generateTotals && !cost.enableLinks);
-    EXPECT_EQ(cost.precision, 2);
-}
-
-TEST(BomFields, AddRefusesATakenNameOnlyInTheSameCase)
-{
-    BOMFields made;
-    made.setDefaults();
-    const BOMFields before = made;
-    EXPECT_FALSE(made.add(field(QStringLiteral("Value"), QStringLiteral("OTHER"))));
-    EXPECT_EQ(made, before);
-    EXPECT_TRUE(made.add(field(QStringLiteral("value"), QStringLiteral("OTHER"))));
-    EXPECT_EQ(made.names().last(), QStringLiteral("value"));
-    EXPECT_EQ(made.get(QStringLiteral("Value")).propertyName, QStringLiteral("VALUE"));
-}
-
-TEST(BomFields, SetKeepsThePositionOfAKnownNameAndAppendsANewOne)
-{
-    BOMFields made = fields({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
-    made.set(field(QStringLiteral("b"), QStringLiteral("NEW")));
-    made.set(field(QStringLiteral("d")));
-    EXPECT_EQ(made.names().join(u','), QStringLiteral("a,b,c,d"));
-    EXPECT_EQ(made.fields().at(1).propertyName, QStringLiteral("NEW"));
-}
-
-TEST(BomFields, RemoveForgetsOrderAndRecord)
-{
-    BOMFields made = fields({QStringLiteral("a"), QStringLiteral("b")});
-    made.remove(QStringLiteral("a"));
-    made.remove(QStringLiteral("unknown"));
-    EXPECT_EQ(made.names().join(u','), QStringLiteral("b"));
-    EXPECT_EQ(made.get(QStringLiteral("a")), BOMField());
-    made.setOrder({QStringLiteral("a"), QStringLiteral("b")});
-    EXPECT_EQ(made.names().join(u','), QStringLiteral("b"));
-    EXPECT_TRUE(made.add(field(QStringLiteral("a"))));
-}
-
-TEST(BomFields, SetOrderTakesKnownNamesOnceAndDropsTheRest)
-{
-    BOMFields made = fields({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
-    made.setOrder({QStringLiteral("c"), QStringLiteral("x"), QStringLiteral("a"), QStringLiteral("c")});
-    EXPECT_EQ(made.names().join(u','), QStringLiteral("c,a"));
-    EXPECT_EQ(made.fields().size(), 2);
-    EXPECT_FALSE(made.contains(QStringLiteral("b")));
-}
-
-TEST(BomFields, ADroppedRecordComesBackWhenNamedAndIsReplacedWhenAdded)
-{
-    BOMFields made = fields({QStringLiteral("a"), QStringLiteral("b")});
-    made.setOrder({QStringLiteral("a")});
-    made.setOrder({QStringLiteral("b"), QStringLiteral("a")});
-    EXPECT_EQ(made.fields().first().propertyName, QStringLiteral("B"));
-
-    made.setOrder({QStringLiteral("a")});
-    EXPECT_TRUE(made.add(field(QStringLiteral("b"), QStringLiteral("NEW"))));
-    EXPECT_EQ(made.fields().last().propertyName, QStringLiteral("NEW"));
-}
-
-TEST(BomFields, SetOrderWithItsOwnNamesChangesNothing)
-{
-    BOMFields made = fields({QStringLiteral("a"), QStringLiteral("b")});
-    made.setOrder(made.names());
-    EXPECT_EQ(made.names().join(u','), QStringLiteral("a,b"));
-}
-
-TEST(BomField, MissingWidthsAreDefaultsAndAZeroWidthStays)
-{
-    BOMField read = BOMField::fromVariantMap({{QStringLiteral("fieldName"), QStringLiteral("n")}});
-    EXPECT_EQ(read, field(QStringLiteral("n")));
-    EXPECT_EQ(read.asciiWidth, 16);
-    EXPECT_EQ(read.manualWidth, 12);
-    read = BOMField::fromVariantMap({{QStringLiteral("asciiWidth"), 0}, {QStringLiteral("manualWidth"), 0}});
-    EXPECT_EQ(read.asciiWidth, 0);
-    EXPECT_EQ(read.manualWidth, 0);
-}
-
-TEST(BomField, EveryMemberSurvivesTheMap)
-{
-    const BOMField full{QStringLiteral("n"),
-                        QStringLiteral("p"),
-                        QStringLiteral("<"),
-                        QStringLiteral(">"),
-                        true,
-                        true,
-                        true,
-                        3,
-                        20,
-                        4,
-                        9,
-                        8};
-    EXPECT_EQ(full.toVariantMap().size(), 12);
-    EXPECT_EQ(BOMField::fromVariantMap(full.toVariantMap()), full);
-}
-
-TEST(BomCategory, DefaultsEndWithTheOnlyMiscellaneousOne)
-{
-    const QList<BOMCategory> list = BOMCategory::defaults();
-    ASSERT_EQ(list.size(), 7);
-    QStringList shown;
-    for (const BOMCategory &category : list)
-        shown << category.heading + u'=' + category.references.join(u'|') +
-                     (category.isMiscCategory ? u'!' : u';');
-    EXPECT_EQ(shown.join(QString()),
-              QStringLiteral("Modules=M;Capacitors=C;Resistors=R;Integrated Circuits=U;"
-                             "Transistors=Q;Diodes=D;Miscellaneous=*!"));
-}
-
-TEST(BomCategory, MissingKeysAreEmpty)
-{
-    EXPECT_EQ(BOMCategory::fromVariantMap({}), BOMCategory());
-    const BOMCategory full{QStringLiteral("h"), {QStringLiteral("R"), QStringLiteral("RN")}, true};
-    EXPECT_EQ(BOMCategory::fromVariantMap(full.toVariantMap()), full);
-}
 } // namespace

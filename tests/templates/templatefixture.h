@@ -3,6 +3,7 @@
 #pragma once
 
 #include "support/testfiles.h"
+#include "support/testpaths.h"
 #include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
 
@@ -11,6 +12,8 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 /// A templates folder of its own and the messages that were shown.
 class TemplateFixture : public testing::Test
@@ -29,10 +32,14 @@ protected:
     }
 
     [[nodiscard]] QString path(const QString &fileName) const { return m_folder.filePath(fileName); }
-
     QString write(const QString &fileName, QByteArrayView content) const
     {
         return writeFile(path(fileName), content);
+    }
+    /// A file of tests/data/templates.
+    [[nodiscard]] static QString data(const char *fileName)
+    {
+        return QStringLiteral(BOM_SOURCE_DIR "/tests/data/templates/") + QLatin1String(fileName);
     }
 
     QTemporaryDir m_folder;

@@ -3,9 +3,8 @@
 #include "templates/templatestore.h"
 
 #include "host/framework/hostsettings.h"
-#include "templates/workingtemplate.h"
-#include "tests/support/scriptedui.h"
-#include "tests/templates/templatefixture.h"
+#include "support/scriptedui.h"
+#include "templates/templatefixture.h"
 
 #include <QSettings>
 
@@ -14,65 +13,66 @@ namespace {
 class Working final : public WorkingTemplate
 {
 public:
-    [[nodiscard]] BOMTemplate workingTemplate() const override { return m_settings; }
-    void takeTemplate(const BOMTemplate &settings) override
-    {
-        m_settings = settings;
-        m_taken << settings.name();
-    }
+    [[nodiscard]] BOMTemplate workingTemplate() const override { return settings; }
+    void takeTemplate(const BOMTemplate &taken) override { settings = taken; }
 
-    BOMTemplate m_settings;
-    QStringList m_taken;
+    BOMTemplate settings;
 };
 
+/// Templates are told apart by the width of their column of references.
 class TemplateStoreTest : public TemplateFixture
 {
 protected:
     TemplateStoreTest() { HostSettings::install(&m_settings); }
     ~TemplateStoreTest() override { HostSettings::install(nullptr); }
 
-    /// A template file that is told by its column width.
-    void writeTemplate(const QString &filePath, int width) const
+    static QString writeTemplate(const QString &filePath, int width)
     {
         BOMTemplate settings;
         settings.setAsciiRefWidth(width);
         settings.setFilePath(filePath);
-        ASSERT_TRUE(settings.save());
+        EXPECT_TRUE(settings.save());
+        return filePath;
     }
-    void addFile(const char *name, int width) const
-    {
-        writeTemplate(path(QString::fromUtf8(name) + QStringLiteral(".bomt")), width);
-    }
-    [[nodiscard]] int widthInFile(const QString &filePath) const
+    QString addFile(const char *name, int width) const { return writeTemplate(file(name), width); }
+    [[nodiscard]] QString file(const char *name) const { return path(QLatin1String(name) + u".bomt"_s); }
+    /// -1 without a file.
+    static int widthIn(const QString &filePath)
     {
         return QFile::exists(filePath) ? BOMTemplate(QString(), filePath).asciiRefWidth() : -1;
     }
-    [[nodiscard]] QString names() const { return m_store.names().join(u','); }
+    [[nodiscard]] int workingWidth() const { return m_working.settings.asciiRefWidth(); }
+    [[nodiscard]] int storedWidth(const QString &name) const
+    {
+        return m_store.storedTemplate(name).asciiRefWidth();
+    }
+    [[nodiscard]] std::string names() const { return m_store.names().join(u',').toStdString(); }
     [[nodiscard]] QString remembered() const
     {
-        return m_settings.value(QStringLiteral("BOM"), QStringLiteral("CurrentTemplate")).value_or(QString());
+        return m_settings.value(u"BOM"_s, u"CurrentTemplate"_s).value_or(QString());
     }
     void edit(int width)
     {
-        m_working.m_settings.setAsciiRefWidth(width);
+        m_working.settings.setAsciiRefWidth(width);
         m_store.setModified(true);
     }
     void writeLegacy(const QString &name, const QVariantMap &map) const
     {
-        QSettings settings(path(QStringLiteral("BOMTemplates.ini")), QSettings::IniFormat);
-        settings.setValue(QStringLiteral("Templates/") + name, map);
+        QSettings(path(u"BOMTemplates.ini"_s), QSettings::IniFormat).setValue(u"Templates/"_s + name, map);
     }
-    [[nodiscard]] QStringList legacyNames() const
+    [[nodiscard]] QStringList legacyEntries() const
     {
-        QSettings settings(path(QStringLiteral("BOMTemplates.ini")), QSettings::IniFormat);
-        settings.beginGroup(QStringLiteral("Templates"));
-        return settings.allKeys();
+        return QSettings(path(u"BOMTemplates.ini"_s), QSettings::IniFormat).allKeys();
+    }
+    /// A template with an old HTML file.
+    QString writeWithHtml(const char *name, const QString &html) const
+    {
+        return write(QLatin1String(name) + u".bomt"_s, "<BOMTemplate version=\"5\"><htmlTemplateFileName>" +
+                                                           html.toUtf8() +
+                                                           "</htmlTemplateFileName></BOMTemplate>");
     }
     /// Puts a folder in the way of a file, so that it can neither be written nor deleted.
-    void block(const QString &fileName) const
-    {
-        ASSERT_TRUE(QDir().mkpath(path(fileName + QStringLiteral("/inside"))));
-    }
+    void block(const char *name) const { ASSERT_TRUE(QDir().mkpath(file(name) + u"/inside"_s)); }
 
     MemoryHostSettings m_settings;
     ScriptedUi m_ui;
@@ -80,102 +80,100 @@ protected:
     TemplateStore m_store{&m_working};
 };
 
-const QString mine = QStringLiteral("Mine");
-const QString defaultTemplate = QStringLiteral("Default");
+using Messages = QList<ScriptedUi::Message>;
 
 TEST_F(TemplateStoreTest, AnEmptyFolderHoldsOnlyDefaultWhichHasNoFileYet)
 {
     m_store.reload();
-    EXPECT_EQ(names(), defaultTemplate);
-    EXPECT_EQ(m_store.currentName(), defaultTemplate);
-    EXPECT_EQ(remembered(), defaultTemplate);
-    EXPECT_EQ(m_working.m_settings.toVariantMap(), BOMTemplate().toVariantMap());
+    EXPECT_EQ(names(), "Default");
+    EXPECT_EQ(m_store.currentName(), u"Default"_s);
+    EXPECT_EQ(remembered(), u"Default"_s);
+    EXPECT_EQ(m_working.settings.toVariantMap(), BOMTemplate().toVariantMap());
     EXPECT_TRUE(QDir(m_folder.path()).isEmpty());
 }
 
 TEST_F(TemplateStoreTest, TheFirstFolderWinsIgnoringCase)
 {
-    QTemporaryDir second;
+    const QTemporaryDir second;
     addFile("Parts", 11);
-    writeTemplate(second.filePath(QStringLiteral("parts.bomt")), 12);
-    writeTemplate(second.filePath(QStringLiteral("Zeta.v2.bomt")), 13);
+    writeTemplate(second.filePath(u"parts.bomt"_s), 12);
+    writeTemplate(second.filePath(u"Zeta.v2.bomt"_s), 13);
     setTemplatePaths({m_folder.path(), second.path()});
     m_store.reload();
-    EXPECT_EQ(names(), QStringLiteral("Default,Parts,Zeta.v2"));
-    EXPECT_EQ(m_store.storedTemplate(QStringLiteral("Parts")).asciiRefWidth(), 11);
-    EXPECT_EQ(m_store.listedName(QStringLiteral("zETA.V2")), QStringLiteral("Zeta.v2"));
+    EXPECT_EQ(names(), "Default,Parts,Zeta.v2");
+    EXPECT_EQ(storedWidth(u"Parts"_s), 11);
+    EXPECT_EQ(m_store.listedName(u"zETA.V2"_s), u"Zeta.v2"_s);
 }
 
 TEST_F(TemplateStoreTest, AFileInCapitalsGivesWayToTheOneThatIsSaved)
 {
-    writeTemplate(path(QStringLiteral("Mine.BOMT")), 11);
+    writeTemplate(path(u"Mine.BOMT"_s), 11);
     m_store.reload();
-    ASSERT_TRUE(m_store.select(mine));
+    ASSERT_TRUE(m_store.select(u"Mine"_s));
     edit(12);
     ASSERT_TRUE(m_store.saveCurrent());
     m_store.reload();
-    EXPECT_EQ(names(), QStringLiteral("Default,Mine"));
-    EXPECT_EQ(m_store.storedTemplate(mine).asciiRefWidth(), 12);
+    EXPECT_EQ(names(), "Default,Mine");
+    EXPECT_EQ(storedWidth(u"Mine"_s), 12);
 }
 
 TEST_F(TemplateStoreTest, TheRememberedTemplateComesBackAndAMissingOneGivesTheFirst)
 {
     addFile("Alpha", 11);
-    addFile("Mine", 12);
+    const QString mine = addFile("Mine", 12);
     addFile("Default", 13);
     m_store.reload();
-    EXPECT_EQ(m_store.currentName(), QStringLiteral("Alpha"));
-    m_store.select(mine);
+    EXPECT_EQ(m_store.currentName(), u"Alpha"_s);
+    m_store.select(u"Mine"_s);
     m_store.reload();
-    EXPECT_EQ(m_store.currentName(), mine);
-    EXPECT_EQ(m_working.m_settings.asciiRefWidth(), 12);
-    QFile::remove(path(QStringLiteral("Mine.bomt")));
+    EXPECT_EQ(m_store.currentName(), u"Mine"_s);
+    EXPECT_EQ(workingWidth(), 12);
+    QFile::remove(mine);
     m_store.reload();
-    EXPECT_EQ(m_store.currentName(), QStringLiteral("Alpha"));
+    EXPECT_EQ(m_store.currentName(), u"Alpha"_s);
 }
 
 TEST_F(TemplateStoreTest, SelectingAsksForUnsavedChangesAndStaysWhenTheyCannotBeSaved)
 {
-    addFile("Mine", 12);
+    const QString mine = addFile("Mine", 12);
     m_store.reload();
     m_store.select({});
-    EXPECT_EQ(m_store.currentName(), defaultTemplate);
+    EXPECT_EQ(m_store.currentName(), u"Default"_s);
 
     m_ui.saveAnswer = HostUi::SaveAnswer::Discard;
     edit(50);
-    EXPECT_TRUE(m_store.select(mine));
-    const ScriptedUi::Message asked{
-        QStringLiteral("Unsaved BOM Template Changes"),
-        QStringLiteral("Do you want to save the changes you made to the BOM template?")};
-    EXPECT_EQ(m_ui.saveQuestions, QList{asked});
+    EXPECT_TRUE(m_store.select(u"Mine"_s));
+    EXPECT_EQ(m_ui.saveQuestions,
+              (Messages{{u"Unsaved BOM Template Changes"_s,
+                         u"Do you want to save the changes you made to the BOM template?"_s}}));
     EXPECT_FALSE(m_store.isModified());
-    EXPECT_EQ(m_store.storedTemplate(defaultTemplate).asciiRefWidth(), 30);
+    EXPECT_EQ(storedWidth(u"Default"_s), 30);
 
     m_ui.saveAnswer = HostUi::SaveAnswer::Save;
     edit(51);
-    EXPECT_TRUE(m_store.select(defaultTemplate));
-    EXPECT_EQ(widthInFile(path(QStringLiteral("Mine.bomt"))), 51);
-    EXPECT_EQ(m_working.m_settings.asciiRefWidth(), 30);
+    EXPECT_TRUE(m_store.select(u"Default"_s));
+    EXPECT_EQ(widthIn(mine), 51);
+    EXPECT_EQ(workingWidth(), 30);
 
-    block(QStringLiteral("Default.bomt"));
+    block("Default");
     edit(52);
-    EXPECT_FALSE(m_store.select(mine));
-    EXPECT_EQ(m_store.currentName(), defaultTemplate);
+    EXPECT_FALSE(m_store.select(u"Mine"_s));
+    EXPECT_EQ(m_store.currentName(), u"Default"_s);
     EXPECT_TRUE(m_store.isModified());
-    EXPECT_EQ(m_working.m_settings.asciiRefWidth(), 52);
-    EXPECT_EQ(m_store.storedTemplate(defaultTemplate).asciiRefWidth(), 30);
-    EXPECT_EQ(m_messages.value(0).title, QStringLiteral("BOM Template Save Failed"));
+    EXPECT_EQ(workingWidth(), 52);
+    EXPECT_EQ(storedWidth(u"Default"_s), 30);
+    EXPECT_EQ(m_messages.size(), 1);
 }
 
 TEST_F(TemplateStoreTest, SelectingAnOldFileDoesNotRewriteIt)
 {
-    const QString file = write(QStringLiteral("Old.bomt"), "<BOMTemplate version=\"4\"><AsciiRefWidth "
-                                                           "Type=\"int\" Value=\"44\"/></BOMTemplate>");
-    const QByteArray before = readFile(file);
+    const QByteArray old =
+        "<BOMTemplate version=\"4\"><AsciiRefWidth Type=\"int\" Value=\"44\"/></BOMTemplate>";
+    const QString file = write(u"Old.bomt"_s, old);
     m_store.reload();
-    m_store.select(QStringLiteral("Old"));
-    EXPECT_EQ(m_working.m_settings.asciiRefWidth(), 44);
-    EXPECT_EQ(readFile(file), before);
+    m_store.select(u"Old"_s);
+    EXPECT_EQ(workingWidth(), 44);
+    EXPECT_EQ(readFile(file), old);
     EXPECT_TRUE(m_store.saveCurrent());
     EXPECT_TRUE(readFile(file).contains("version=\"5\""));
 }
@@ -183,18 +181,18 @@ TEST_F(TemplateStoreTest, SelectingAnOldFileDoesNotRewriteIt)
 TEST_F(TemplateStoreTest, LegacyEntriesMoveToFilesWhenSavedAndFilesHideThem)
 {
     addFile("Mine", 12);
-    const QVariantMap map{{QStringLiteral("suppressEmptyCategories"), true}};
-    writeLegacy(mine, map);
-    writeLegacy(QStringLiteral("Veteran"), map);
+    const QVariantMap map{{u"suppressEmptyCategories"_s, true}};
+    writeLegacy(u"Mine"_s, map);
+    writeLegacy(u"Veteran"_s, map);
     m_store.reload();
-    EXPECT_EQ(names(), QStringLiteral("Default,Mine,Veteran"));
-    EXPECT_EQ(m_store.storedTemplate(mine).asciiRefWidth(), 12);
-    m_store.select(QStringLiteral("Veteran"));
-    EXPECT_TRUE(m_working.m_settings.suppressEmptyCategories());
+    EXPECT_EQ(names(), "Default,Mine,Veteran");
+    EXPECT_EQ(storedWidth(u"Mine"_s), 12);
+    m_store.select(u"Veteran"_s);
+    EXPECT_TRUE(m_working.settings.suppressEmptyCategories());
     EXPECT_TRUE(m_store.saveCurrent());
     m_store.reload();
-    EXPECT_EQ(legacyNames(), QStringList{mine});
-    EXPECT_TRUE(BOMTemplate({}, path(QStringLiteral("Veteran.bomt"))).suppressEmptyCategories());
+    EXPECT_EQ(legacyEntries(), QStringList(u"Templates/Mine"_s));
+    EXPECT_TRUE(BOMTemplate({}, file("Veteran")).suppressEmptyCategories());
 }
 
 TEST_F(TemplateStoreTest, ANewTemplateHoldsTheWorkingSettings)
@@ -202,25 +200,20 @@ TEST_F(TemplateStoreTest, ANewTemplateHoldsTheWorkingSettings)
     addFile("Mine", 12);
     m_store.reload();
     edit(60);
-    EXPECT_TRUE(m_store.createTemplate(QStringLiteral("  Next one ")));
-    EXPECT_EQ(m_store.names().last(), QStringLiteral("Next one"));
-    EXPECT_EQ(m_store.currentName(), QStringLiteral("Next one"));
-    EXPECT_EQ(remembered(), QStringLiteral("Next one"));
-    EXPECT_EQ(widthInFile(path(QStringLiteral("Next one.bomt"))), 60);
+    EXPECT_TRUE(m_store.createTemplate(u"  Next one "_s));
+    EXPECT_EQ(names(), "Default,Mine,Next one");
+    EXPECT_EQ(remembered(), u"Next one"_s);
+    EXPECT_EQ(widthIn(file("Next one")), 60);
     EXPECT_FALSE(m_store.isModified());
 
-    const QString before = names();
-    for (const char *refused : {"", "   ", "mine", "default", "a/b", "..", "con"}) {
-        SCOPED_TRACE(refused);
-        m_ui.informations.clear();
-        EXPECT_FALSE(m_store.createTemplate(QString::fromLatin1(refused)));
-        EXPECT_EQ(m_ui.informations.value(0).title, QStringLiteral("Could not create template"));
-        EXPECT_EQ(names(), before);
+    block("Blocked");
+    for (const char *refused : {"", "   ", "mine", "default", "a/b", "..", "con", "Blocked"}) {
+        EXPECT_FALSE(m_store.createTemplate(QLatin1String(refused))) << refused;
     }
-    block(QStringLiteral("Blocked.bomt"));
-    EXPECT_FALSE(m_store.createTemplate(QStringLiteral("Blocked")));
-    EXPECT_EQ(names(), before);
-    EXPECT_EQ(m_store.currentName(), QStringLiteral("Next one"));
+    EXPECT_EQ(m_ui.informations.size(), 7) << "all but the last, which could be a name";
+    EXPECT_EQ(m_ui.informations[0].title, u"Could not create template"_s);
+    EXPECT_EQ(names(), "Default,Mine,Next one");
+    EXPECT_EQ(m_store.currentName(), u"Next one"_s);
 }
 
 TEST_F(TemplateStoreTest, AnAddedTemplateIsSavedAndSelectedWhateverItsVersion)
@@ -229,157 +222,148 @@ TEST_F(TemplateStoreTest, AnAddedTemplateIsSavedAndSelectedWhateverItsVersion)
     BOMTemplate made;
     made.setVersion(3);
     made.setAsciiRefWidth(33);
-    made.setName(mine);
+    made.setName(u"Mine"_s);
     EXPECT_TRUE(m_store.add(made));
-    EXPECT_EQ(m_working.m_taken.last(), mine);
-    EXPECT_EQ(widthInFile(path(QStringLiteral("Mine.bomt"))), 33);
+    EXPECT_EQ(m_store.currentName(), u"Mine"_s);
+    EXPECT_EQ(workingWidth(), 33);
+    EXPECT_EQ(widthIn(file("Mine")), 33);
     EXPECT_FALSE(m_store.add(made));
 }
 
 TEST_F(TemplateStoreTest, DeletingTakesEverythingOfTheTemplateAndSelectsItsNeighbour)
 {
-    const QString html = write(QStringLiteral("mine.html"), "<p>old</p>");
-    write(QStringLiteral("Mine.bomt"),
-          "<BOMTemplate version=\"5\"><htmlTemplateFileName Type=\"QString\">mine.html</htmlTemplateFileName>"
-          "</BOMTemplate>");
+    const QString html = write(u"mine.html"_s, "<p>old</p>");
+    const QString mine = writeWithHtml("Mine", u"mine.html"_s);
     addFile("Alpha", 11);
-    writeLegacy(mine, {});
+    writeLegacy(u"Mine"_s, {});
     m_store.reload();
-    m_store.select(mine);
-    ASSERT_EQ(m_working.m_settings.htmlTemplateFileName(), html);
+    m_store.select(u"Mine"_s);
+    ASSERT_EQ(m_working.settings.htmlTemplateFileName(), html);
     EXPECT_FALSE(m_store.deleteCurrent());
-    EXPECT_EQ(m_ui.questions, (QList<ScriptedUi::Message>{{QStringLiteral("Template Deletion"),
-                                                           QStringLiteral("Delete the template 'Mine'?")}}));
+    EXPECT_EQ(m_ui.questions, (Messages{{u"Template Deletion"_s, u"Delete the template 'Mine'?"_s}}));
     EXPECT_TRUE(QFile::exists(html));
 
     m_ui.answer = true;
     edit(70);
     EXPECT_TRUE(m_store.deleteCurrent());
     EXPECT_TRUE(m_ui.saveQuestions.isEmpty());
-    EXPECT_FALSE(QFile::exists(html) || QFile::exists(path(QStringLiteral("Mine.bomt"))));
-    EXPECT_EQ(names(), QStringLiteral("Default,Alpha"));
-    EXPECT_EQ(m_store.currentName(), QStringLiteral("Alpha"));
+    EXPECT_FALSE(QFile::exists(html) || QFile::exists(mine));
+    EXPECT_EQ(names(), "Default,Alpha");
+    EXPECT_EQ(m_store.currentName(), u"Alpha"_s);
     m_store.reload();
-    EXPECT_TRUE(legacyNames().isEmpty());
-    EXPECT_EQ(names(), QStringLiteral("Default,Alpha"));
+    EXPECT_TRUE(legacyEntries().isEmpty());
+    EXPECT_EQ(names(), "Default,Alpha");
 }
 
 TEST_F(TemplateStoreTest, DeletingNeverReachesFilesOfOthers)
 {
-    QTemporaryDir elsewhere;
-    const QString foreign = elsewhere.filePath(QStringLiteral("x.html"));
-    addFile("Other", 11);
-    writeFile(foreign, {});
-    const QStringList victims{foreign, path(QStringLiteral("Other.bomt"))};
-    for (const QString &victim : victims) {
-        write(QStringLiteral("Mine.bomt"),
-              "<BOMTemplate version=\"5\"><htmlTemplateFileName Type=\"QString\">" + victim.toUtf8() +
-                  "</htmlTemplateFileName></BOMTemplate>");
+    const QTemporaryDir elsewhere;
+    const QString foreign = writeFile(elsewhere.filePath(u"x.html"_s), {});
+    const QString shared = write(u"shared.html"_s, {});
+    writeWithHtml("Sharing", u"shared.html"_s);
+    for (const QString &kept : {foreign, shared, addFile("Other", 11)}) {
+        writeWithHtml("Mine", kept);
         m_store.reload();
-        EXPECT_TRUE(m_store.remove(mine));
-        EXPECT_TRUE(QFile::exists(victim)) << qPrintable(victim);
+        EXPECT_EQ(m_store.storedTemplate(u"Mine"_s).htmlTemplateFileName(), kept);
+        EXPECT_TRUE(m_store.remove(u"Mine"_s));
+        EXPECT_TRUE(QFile::exists(kept)) << qPrintable(kept);
     }
 }
 
 TEST_F(TemplateStoreTest, DefaultCannotBeDeletedAndABlockedFileKeepsItsTemplate)
 {
     addFile("default", 11);
+    const QString mine = addFile("Mine", 12);
     m_store.reload();
-    for (const QString &name : {defaultTemplate, QStringLiteral("default")}) {
+    for (const QString &name : {u"Default"_s, u"default"_s}) {
         m_ui.informations.clear();
         m_store.select(name);
         EXPECT_FALSE(m_store.canDelete(name) || m_store.deleteCurrent());
-        EXPECT_EQ(m_ui.informations.value(0).text, QStringLiteral("Cannot delete default template"));
+        EXPECT_EQ(m_ui.informations.value(0).text, u"Cannot delete default template"_s);
     }
-    addFile("Mine", 12);
-    m_store.reload();
-    QFile::remove(path(QStringLiteral("Mine.bomt")));
-    block(QStringLiteral("Mine.bomt"));
-    EXPECT_FALSE(m_store.remove(mine));
-    EXPECT_TRUE(m_store.names().contains(mine));
+    QFile::remove(mine);
+    block("Mine");
+    EXPECT_FALSE(m_store.remove(u"Mine"_s));
+    EXPECT_TRUE(m_store.names().contains(u"Mine"_s));
     EXPECT_EQ(m_messages.size(), 1);
 }
 
 TEST_F(TemplateStoreTest, ResetPutsDefaultBackAndShowsItWhenItIsCurrent)
 {
-    addFile("Default", 13);
+    const QString file = addFile("Default", 13);
     m_store.reload();
     EXPECT_FALSE(m_store.resetDefault());
-    EXPECT_EQ(widthInFile(path(QStringLiteral("Default.bomt"))), 13);
+    EXPECT_EQ(m_ui.questions, (Messages{{u"Template Reset"_s, u"Reset the default template?"_s}}));
+    EXPECT_EQ(widthIn(file), 13);
     m_ui.answer = true;
     edit(80);
     EXPECT_TRUE(m_store.resetDefault());
-    EXPECT_EQ(m_ui.questions.value(1), (ScriptedUi::Message{QStringLiteral("Template Reset"),
-                                                            QStringLiteral("Reset the default template?")}));
-    EXPECT_EQ(widthInFile(path(QStringLiteral("Default.bomt"))), 30);
-    EXPECT_EQ(m_working.m_settings.asciiRefWidth(), 30);
+    EXPECT_EQ(widthIn(file), 30);
+    EXPECT_EQ(workingWidth(), 30);
     EXPECT_FALSE(m_store.isModified());
 }
 
 TEST_F(TemplateStoreTest, ImportTakesTheFileAsItIsNotTheWorkingSettings)
 {
-    QTemporaryDir elsewhere;
-    m_ui.fileName = elsewhere.filePath(QStringLiteral("Mine.bomt"));
-    writeTemplate(m_ui.fileName, 21);
+    const QTemporaryDir elsewhere;
+    m_ui.fileName = writeTemplate(elsewhere.filePath(u"Mine.bomt"_s), 21);
     ASSERT_TRUE(QFile::setPermissions(m_ui.fileName, QFile::ReadOwner));
     m_store.reload();
     EXPECT_TRUE(m_store.importTemplate());
-    EXPECT_EQ(m_ui.fileRequests,
-              (QList<ScriptedUi::FileRequest>{{QStringLiteral("Import BOM Template"), m_folder.path(),
-                                               QStringLiteral("BOM Templates (*.bomt)")}}));
-    EXPECT_EQ(m_store.currentName(), mine);
-    EXPECT_EQ(m_working.m_settings.asciiRefWidth(), 21);
-    EXPECT_EQ(widthInFile(path(QStringLiteral("Mine.bomt"))), 21);
+    EXPECT_EQ(m_ui.fileRequests, (QList<ScriptedUi::FileRequest>{{u"Import BOM Template"_s, m_folder.path(),
+                                                                  u"BOM Templates (*.bomt)"_s}}));
+    EXPECT_EQ(m_store.currentName(), u"Mine"_s);
+    EXPECT_EQ(workingWidth(), 21);
+    EXPECT_EQ(widthIn(file("Mine")), 21);
 
-    m_store.select(defaultTemplate);
-    EXPECT_TRUE(m_store.save(mine));
-    EXPECT_EQ(widthInFile(path(QStringLiteral("Mine.bomt"))), 30);
+    m_store.select(u"Default"_s);
+    EXPECT_TRUE(m_store.save(u"Mine"_s)) << "the file is no more read-only";
+    EXPECT_EQ(widthIn(file("Mine")), 30);
     EXPECT_FALSE(m_store.importTemplate());
-    EXPECT_EQ(m_ui.warnings, (QList<ScriptedUi::Message>{
-                                 {QStringLiteral("BOM Template Import Failed"),
-                                  QStringLiteral("A BOM template with the name 'Mine' already exists.")}}));
+    EXPECT_EQ(m_ui.warnings, (Messages{{u"BOM Template Import Failed"_s,
+                                        u"A BOM template with the name 'Mine' already exists."_s}}));
 }
 
 TEST_F(TemplateStoreTest, ImportRefusesWhatIsNoTemplateAndSaysWhenTheFolderTakesNothing)
 {
-    QTemporaryDir elsewhere;
-    const QString good = elsewhere.filePath(QStringLiteral("Good.bomt"));
-    writeTemplate(good, 21);
+    const QTemporaryDir elsewhere;
+    const QString good = writeTemplate(elsewhere.filePath(u"Good.bomt"_s), 21);
     m_store.reload();
-    const QString broken = write(QStringLiteral("broken.txt"), "<BOMTemplate version=\"5\">\n<a");
+    const QString broken = write(u"broken.txt"_s, "<BOMTemplate version=\"5\">\n<a");
     EXPECT_FALSE(m_store.importFile(broken));
-    EXPECT_TRUE(m_messages.value(0).detail.startsWith(broken + QStringLiteral(":2: ")));
+    EXPECT_TRUE(m_messages.value(0).detail.startsWith(broken + u":2: "_s));
 
-    setTemplatePaths({broken + QStringLiteral("/folder")});
+    setTemplatePaths({broken + u"/folder"_s});
     EXPECT_FALSE(m_store.importFile(good));
-    EXPECT_TRUE(m_messages.value(1).text.startsWith(QStringLiteral("Could not import the template to '")));
-    EXPECT_EQ(names(), defaultTemplate);
+    EXPECT_TRUE(m_messages.value(1).text.startsWith(u"Could not import the template to '"_s));
+    EXPECT_EQ(names(), "Default");
 }
 
 TEST_F(TemplateStoreTest, ExportReplacesTheFileAndWritesATemplateThatHasNone)
 {
-    QTemporaryDir elsewhere;
-    m_store.reload();
-    m_ui.fileName = elsewhere.filePath(QStringLiteral("out"));
-    EXPECT_TRUE(m_store.exportTemplate());
-    EXPECT_EQ(widthInFile(m_ui.fileName + QStringLiteral(".bomt")), 30);
-
+    const QTemporaryDir elsewhere;
+    const QString exported = elsewhere.filePath(u"out.bomt"_s);
     addFile("Mine", 12);
     m_store.reload();
-    m_store.select(mine);
-    m_ui.fileName += QStringLiteral(".bomt");
+    m_store.select(u"Default"_s);
+    m_ui.fileName = elsewhere.filePath(u"out"_s);
     EXPECT_TRUE(m_store.exportTemplate());
-    EXPECT_EQ(readFile(m_ui.fileName), readFile(path(QStringLiteral("Mine.bomt"))));
-    EXPECT_EQ(m_ui.fileRequests.value(0).caption, QStringLiteral("Export BOM Template"));
+    EXPECT_EQ(m_ui.fileRequests.value(0).caption, u"Export BOM Template"_s);
+    EXPECT_EQ(widthIn(exported), 30);
+
+    m_store.select(u"Mine"_s);
+    m_ui.fileName = exported;
+    EXPECT_TRUE(m_store.exportTemplate());
+    EXPECT_EQ(readFile(exported), readFile(file("Mine")));
 }
 
 TEST_F(TemplateStoreTest, AShippedTemplateStaysAndSavingItMakesTheUsersOwn)
 {
-    const QString name = QStringLiteral("Purchasing");
+    const QString name = u"Purchasing"_s;
     setTemplatePaths({m_folder.path(), shippedTemplateFolder()});
     addFile("Zeta", 12);
     m_store.reload();
-    EXPECT_TRUE(names().startsWith(QStringLiteral("Default,Zeta,Assembly,")));
+    EXPECT_TRUE(names().starts_with("Default,Zeta,Assembly,"));
     m_store.select(name);
     EXPECT_TRUE(m_store.isShipped(name));
     m_ui.answer = true;
@@ -387,41 +371,37 @@ TEST_F(TemplateStoreTest, AShippedTemplateStaysAndSavingItMakesTheUsersOwn)
 
     edit(61);
     EXPECT_TRUE(m_store.saveCurrent());
-    EXPECT_EQ(widthInFile(path(QStringLiteral("Purchasing.bomt"))), 61);
+    EXPECT_EQ(widthIn(file("Purchasing")), 61);
     m_store.reload();
     EXPECT_EQ(m_store.names().count(name), 1);
-    EXPECT_EQ(m_working.m_settings.asciiRefWidth(), 61);
+    EXPECT_EQ(workingWidth(), 61);
     EXPECT_TRUE(m_store.deleteCurrent());
     EXPECT_TRUE(m_store.isShipped(name));
     EXPECT_EQ(m_store.currentName(), name);
-    EXPECT_NE(m_working.m_settings.asciiRefWidth(), 61);
+    EXPECT_NE(workingWidth(), 61);
 }
 
 TEST_F(TemplateStoreTest, TheFoldersOfAHostComeInOrderAndTheFirstThatCanBeMadeIsPrimary)
 {
-    const QString file = write(QStringLiteral("file"), {});
-    const QString made = path(QStringLiteral("a/made"));
-    const QString data = path(QStringLiteral("data"));
-    EXPECT_EQ(hostTemplatePaths(QStringLiteral(";%1/x; %2 ;;%2").arg(file, made), data),
-              (QStringList{made, file + QStringLiteral("/x"), data, shippedTemplateFolder()}));
-    EXPECT_TRUE(QDir(made).exists());
-    EXPECT_FALSE(QDir(data).exists());
-    EXPECT_EQ(hostTemplatePaths(shippedTemplateFolder(), file + QStringLiteral("/x")),
-              (QStringList{file + QStringLiteral("/x"), shippedTemplateFolder()}));
+    const QString blocked = write(u"file"_s, {}) + u"/x"_s;
+    const QString made = path(u"a/made"_s);
+    const QString data = path(u"data"_s);
+    EXPECT_EQ(hostTemplatePaths(u";%1; %2 ;;%2"_s.arg(blocked, made), data),
+              QStringList({made, blocked, data, shippedTemplateFolder()}));
+    EXPECT_TRUE(QDir(made).exists() && !QDir(data).exists());
+    EXPECT_EQ(hostTemplatePaths(shippedTemplateFolder(), blocked),
+              QStringList({blocked, shippedTemplateFolder()}));
 }
 
 TEST_F(TemplateStoreTest, TheLegacyImportIsPendingUntilItWasOffered)
 {
-    const QString file = path(QStringLiteral("bom.ini"));
-    IniHostSettings settings(file);
+    IniHostSettings settings(path(u"bom.ini"_s));
     HostSettings::install(&settings);
     EXPECT_TRUE(TemplateStore::isLegacyImportPending());
-    EXPECT_FALSE(QFile::exists(file));
+    EXPECT_TRUE(QDir(m_folder.path()).isEmpty());
     TemplateStore::setLegacyImportDone();
     EXPECT_FALSE(TemplateStore::isLegacyImportPending());
-    IniHostSettings again(file);
-    EXPECT_EQ(again.value(QStringLiteral("BOM"), QStringLiteral("BomScriptsImported")),
-              QStringLiteral("true"));
+    EXPECT_EQ(IniHostSettings(path(u"bom.ini"_s)).value(u"BOM"_s, u"BomScriptsImported"_s), u"true"_s);
 }
 
 } // namespace

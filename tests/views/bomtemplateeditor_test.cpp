@@ -7,7 +7,7 @@
 #include "richtext/editor/textedittoolbars.h"
 #include "support/printtext.h"
 #include "support/scriptedui.h"
-#include "templates/defaultstylesheet.h"
+#include "templates/templatepaths.h"
 
 #include <gtest/gtest.h>
 

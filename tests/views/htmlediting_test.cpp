@@ -4,7 +4,7 @@
 #include "richtext/editor/textstyleeditor.h"
 #include "support/pdftext.h"
 #include "support/scriptedprintui.h"
-#include "templates/defaultstylesheet.h"
+#include "templates/templatepaths.h"
 #include "views/bomhtmlview.h"
 #include "views/viewfixture.h"
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "templates/bomfield.h"
+#include "templates/bomfields.h"
 
 #include <QString>
 

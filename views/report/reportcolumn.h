@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/propertyquery.h"
-#include "templates/bomfield.h"
+#include "templates/bomfields.h"
 
 /// A field of the template with what is needed to fill its column.
 struct ReportColumn
