@@ -3,22 +3,15 @@
 #include "editors/bomtemplateimporter.h"
 
 #include "core/bompartsdatabase.h"
+#include "editors/dialogfixture.h"
 #include "support/scopeddefinitions.h"
-#include "support/scriptedui.h"
-#include "support/testfiles.h"
 #include "templates/templatepaths.h"
 #include "templates/templatestore.h"
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 namespace {
@@ -28,36 +21,30 @@ const char *const scripts =
     "*BOM SCRIPT With MPN\nFIELD=MPN,9,MPN,x,\"\",\"\",NO,0\n"
     "FIELD=MAKER,9,Maker,x,\"\",\"\",NO,0\n*END SCRIPT\n*BOM SCRIPT\n*END SCRIPT\n";
 
-class Importer : public testing::Test
+class Importer : public DialogFixture
 {
 protected:
     Importer()
     {
-        setTemplatePaths({m_folder.filePath(QStringLiteral("templates"))});
+        setTemplatePaths({path(u"templates"_s)});
         store.reload();
-        writeFile(path(), scripts);
-        dialog.open();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        open(dialog);
     }
     ~Importer() override { setTemplatePaths({}); }
 
-    [[nodiscard]] QString path() const { return m_folder.filePath(QStringLiteral("old #1.BSF")); }
-    template<class Widget>
-    Widget *child(const char *name)
-    {
-        return dialog.findChild<Widget *>(QLatin1String(name));
-    }
-    void click(const char *button) { QTest::mouseClick(child<QPushButton>(button), Qt::LeftButton); }
     void browse()
     {
-        ui.fileName = path();
+        ui.fileName = writeFile(path(u"old #1.BSF"_s), scripts);
         click("fileBrowseBtn");
     }
-    [[nodiscard]] QString name() { return child<QLineEdit>("templateNameEdit")->text(); }
+    void importAs(const QString &name)
+    {
+        child<QLineEdit>("templateNameEdit")->setText(name);
+        click("importBtn");
+    }
+    [[nodiscard]] QString name() const { return child<QLineEdit>("templateNameEdit")->text(); }
 
-    QTemporaryDir m_folder;
     ScopedDefinitions definitions{"\"CODE\",STRING"};
-    ScriptedUi ui;
     BOMPartsDatabase database;
     TemplateStore store;
     BOMTemplateImporter dialog{&store, &database};
@@ -65,30 +52,30 @@ protected:
 
 TEST_F(Importer, ListsTheScriptsOfAFile)
 {
-#ifndef Q_OS_WIN
     EXPECT_FALSE(child<QRadioButton>("regRadioBtn")->isEnabled());
     EXPECT_FALSE(child<QRadioButton>("regRadioBtn")->toolTip().isEmpty());
-#endif
     EXPECT_FALSE(child<QPushButton>("importBtn")->isEnabled());
     browse();
-    EXPECT_EQ(ui.fileRequests, (QList<ScriptedUi::FileRequest>{
-                                   {QStringLiteral("Legacy BOM Script Export"), QString(),
-                                    QStringLiteral("BOM Script File (*.BSF);;Text File (*.txt)")}}));
+    EXPECT_EQ(ui.fileRequests,
+              (QList<ScriptedUi::FileRequest>{{u"Legacy BOM Script Export"_s, QString(),
+                                               u"BOM Script File (*.BSF);;Text File (*.txt)"_s}}));
     auto *combo = child<QComboBox>("scriptsCombo");
     EXPECT_EQ(combo->count(), 3);
-    EXPECT_EQ(name(), QStringLiteral("Plain"));
+    QStringList proposed{name()};
     combo->setFocus();
-    QTest::keyClick(combo, Qt::Key_Down);
-    EXPECT_EQ(name(), QStringLiteral("With MPN"));
-    QTest::keyClick(combo, Qt::Key_Down);
-    EXPECT_EQ(name(), QStringLiteral("Imported Template"));
+    for (int i = 1; i < 3; ++i) {
+        QTest::keyClick(combo, Qt::Key_Down);
+        proposed.append(name());
+    }
+    EXPECT_EQ(proposed, QStringList({u"Plain"_s, u"With MPN"_s, u"Imported Template"_s}));
+
     auto *edit = child<QLineEdit>("pathLineEdit");
     edit->setFocus();
-    QTest::keyClicks(edit, QStringLiteral("x"));
+    QTest::keyClicks(edit, u"x"_s);
     QTest::keyClick(edit, Qt::Key_Return);
     EXPECT_EQ(combo->count(), 0);
     EXPECT_EQ(name(), QString());
-    EXPECT_TRUE(combo->toolTip().contains(QStringLiteral("no such file")));
+    EXPECT_TRUE(combo->toolTip().contains(u"no such file"_s));
     EXPECT_FALSE(child<QPushButton>("importBtn")->isEnabled());
     EXPECT_TRUE(ui.warnings.isEmpty() && dialog.isVisible());
 }
@@ -97,25 +84,20 @@ TEST_F(Importer, AddsTheScriptUnderAFreeName)
 {
     browse();
     click("importBtn");
-    EXPECT_EQ(ui.informations,
-              (QList<ScriptedUi::Message>{
-                  {QStringLiteral("Import Succeeded"),
-                   QStringLiteral("The legacy BOM script imported successfully as 'Plain'")}}));
-    EXPECT_EQ(store.currentName(), QStringLiteral("Plain"));
-    EXPECT_EQ(store.storedTemplate(QStringLiteral("Plain")).categories().first().heading,
-              QStringLiteral("Resistors"));
+    EXPECT_EQ(ui.informations, (Messages{{u"Import Succeeded"_s,
+                                          u"The legacy BOM script imported successfully as 'Plain'"_s}}));
+    EXPECT_EQ(store.currentName(), u"Plain"_s);
+    EXPECT_EQ(store.storedTemplate(u"Plain"_s).categories().first().heading, u"Resistors"_s);
     EXPECT_TRUE(ui.questions.isEmpty());
     click("importBtn");
-    EXPECT_EQ(ui.warnings,
-              (QList<ScriptedUi::Message>{{QStringLiteral("Import Failed"),
-                                           QStringLiteral("A template named 'Plain' already exists!")}}));
+    EXPECT_EQ(ui.warnings, (Messages{{u"Import Failed"_s, u"A template named 'Plain' already exists!"_s}}));
     click("reloadBtn");
-    EXPECT_EQ(name(), QStringLiteral("Plain-copy"));
+    EXPECT_EQ(name(), u"Plain-copy"_s);
     auto *edit = child<QLineEdit>("templateNameEdit");
     edit->setFocus();
-    QTest::keyClicks(edit, QStringLiteral(" 5%1 "));
+    QTest::keyClicks(edit, u" 5%1 "_s);
     QTest::keyClick(edit, Qt::Key_Return);
-    EXPECT_TRUE(store.contains(QStringLiteral("Plain-copy 5%1")));
+    EXPECT_TRUE(store.contains(u"Plain-copy 5%1"_s));
     EXPECT_EQ(ui.informations.size(), 2);
 }
 
@@ -123,34 +105,29 @@ TEST_F(Importer, OffersToDefineWhatIsUndefined)
 {
     browse();
     child<QComboBox>("scriptsCombo")->setCurrentIndex(1);
-    child<QLineEdit>("templateNameEdit")->setText(QStringLiteral("a/b"));
-    click("importBtn");
+    importAs(u"a/b"_s);
     EXPECT_EQ(ui.informations.size(), 1) << "the name is refused";
     EXPECT_TRUE(ui.questions.isEmpty()) << "and nothing is to be defined for it";
-    child<QLineEdit>("templateNameEdit")->setText(QStringLiteral("With MPN"));
-    click("importBtn");
-    const ScriptedUi::Message question{QStringLiteral("Undefined Physical Properties"),
-                                       QStringLiteral("Define the 2 undefined physical properties?")};
-    EXPECT_EQ(ui.questions, QList<ScriptedUi::Message>{question});
-    EXPECT_TRUE(store.contains(QStringLiteral("With MPN"))) << "No imports it all the same";
+    importAs(u"With MPN"_s);
+    EXPECT_EQ(ui.questions, (Messages{{u"Undefined Physical Properties"_s,
+                                       u"Define the 2 undefined physical properties?"_s}}));
+    EXPECT_TRUE(store.contains(u"With MPN"_s)) << "No imports it all the same";
 
     ui.answer = true;
     QStringList proposed;
     QTimer::singleShot(0, &dialog, [&] {
         QWidget *creator = QApplication::activeModalWidget();
         for (int i = 0; i < 2; ++i) {
-            proposed += creator->findChild<QLineEdit *>(QStringLiteral("nameEdit"))->text();
-            QTest::mouseClick(creator->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok),
-                              Qt::LeftButton);
+            proposed += creator->findChild<QLineEdit *>(u"nameEdit"_s)->text();
+            press(*creator, QDialogButtonBox::Ok);
         }
     });
-    child<QLineEdit>("templateNameEdit")->setText(QStringLiteral("Again"));
-    click("importBtn");
-    EXPECT_EQ(proposed.join(u','), QStringLiteral("MPN,MAKER"));
+    importAs(u"Again"_s);
+    EXPECT_EQ(proposed.join(u','), u"MPN,MAKER"_s);
     DIDX index;
     ASSERT_TRUE(load_defaultdefs(&index, nullptr));
-    EXPECT_TRUE(index.find(QStringLiteral("MPN")) && index.find(QStringLiteral("MAKER")));
-    EXPECT_TRUE(store.contains(QStringLiteral("Again")));
+    EXPECT_TRUE(index.find(u"MPN"_s) && index.find(u"MAKER"_s));
+    EXPECT_TRUE(store.contains(u"Again"_s));
 }
 
 } // namespace

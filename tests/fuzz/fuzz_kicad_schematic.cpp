@@ -145,29 +145,9 @@ std::vector<std::string> fuzzSeeds()
 
 std::vector<std::string> fuzzWords()
 {
-    return {"(",
-            ")",
-            "\"",
-            "\\",
-            "\n",
-            "#",
-            "\n#",
-            "\\\"",
-            "\\x",
-            "(symbol ",
-            "(property",
-            "(instances",
-            "(path \"/top\"",
-            "(dnp yes)",
-            "(id 1)",
-            "\"~\"",
-            "${",
-            "{slash}",
-            "\xFF",
-            "\xEF\xBB\xBF",
-            " ",
-            "(version 20260101)",
-            "private ",
-            "(at nan 1e999)",
-            std::string(1, '\0')};
+    // clang-format off
+    return {"(", ")", "\"", "\\", "\n", "#", "\n#", "\\\"", "\\x", "(symbol ", "(property", "(instances", "(path \"/top\"",
+            "(dnp yes)", "(id 1)", "\"~\"", "${", "{slash}", "\xFF", "\xEF\xBB\xBF", " ", "(version 20260101)", "private ",
+            "(at nan 1e999)", std::string(1, '\0')};
+    // clang-format on
 }

@@ -10,7 +10,7 @@ TEST_F(BomViewer, BuildsItsWindowOnce)
     module().onvalidate();
     EXPECT_EQ(module().createwindow(nullptr, 0), nullptr);
     BOMMainWindow *first = mainWindow();
-    EXPECT_TRUE(report().contains(QStringLiteral("10k")));
+    EXPECT_TRUE(report().contains(u"10k"_s));
 
     EXPECT_EQ(mainWindow(), first);
     EXPECT_EQ(host.frame.widgets, 1);
@@ -44,7 +44,7 @@ TEST_F(BomViewer, RemovesOnlyItsOwnWindow)
     EXPECT_TRUE(host.frame.menus.isEmpty() && host.frame.bars.isEmpty());
 
     module().onvalidate();
-    EXPECT_TRUE(report().contains(QStringLiteral("10k")));
+    EXPECT_TRUE(report().contains(u"10k"_s));
     EXPECT_EQ(host.frame.widgets, 1);
 }
 
@@ -62,9 +62,9 @@ TEST_F(BomViewer, WritesReportsAfterAskingAboutDuplicates)
     module().onvalidate();
     trigger("&ASCII");
     ASSERT_EQ(ui.questions.size(), 1);
-    EXPECT_EQ(ui.questions[0].title, QStringLiteral("Duplicate References Detected"));
+    EXPECT_EQ(ui.questions[0].title, u"Duplicate References Detected"_s);
     EXPECT_EQ(ui.questions[0].text,
-              QStringLiteral("The following references have duplicates:\nR1, C3\nGenerate output anyway?"));
+              u"The following references have duplicates:\nR1, C3\nGenerate output anyway?"_s);
     EXPECT_EQ(ui.fileRequests.size(), 1);
 
     ui.answer = true;
@@ -79,21 +79,18 @@ TEST_F(BomViewer, StartsWithTheTemplateThatWasCurrentLast)
 {
     MemoryHostSettings settings;
     HostSettings::install(&settings);
-    settings.setValue(QStringLiteral("BOM"), QStringLiteral("CurrentTemplate"), QStringLiteral("House"));
+    settings.setValue(u"BOM"_s, u"CurrentTemplate"_s, u"House"_s);
     module().onvalidate();
     BOMTemplate house;
-    house.setName(QStringLiteral("House"));
-    BOMCategory category;
-    category.heading = QStringLiteral("Things That Resist");
-    category.references = QStringList{QStringLiteral("R")};
-    house.setCategories({category});
+    house.setName(u"House"_s);
+    house.setCategories({{u"Things That Resist"_s, {u"R"_s}, false}});
     ASSERT_TRUE(house.save());
 
-    EXPECT_TRUE(report().contains(QStringLiteral("Things That Resist")));
+    EXPECT_TRUE(report().contains(u"Things That Resist"_s));
     // It lacks a place for C3, which is told and mended.
-    EXPECT_TRUE(report().contains(QStringLiteral("1u")));
+    EXPECT_TRUE(report().contains(u"1u"_s));
     ASSERT_EQ(ui.warnings.size(), 1);
-    EXPECT_TRUE(ui.warnings[0].text.contains(QStringLiteral("House.bomt")));
+    EXPECT_TRUE(ui.warnings[0].text.contains(u"House.bomt"_s));
     HostSettings::install(nullptr);
 }
 
@@ -104,14 +101,14 @@ TEST_F(BomViewer, ReloadsByHandEvenWhenItWasSuspended)
     (void)mainWindow();
     trigger("Reload The &BOM");
     EXPECT_FALSE(BOMPartsDatabase::instance()->isUpdating());
-    EXPECT_TRUE(report().contains(QStringLiteral("10k")));
+    EXPECT_TRUE(report().contains(u"10k"_s));
 }
 
 TEST_F(BomViewer, TheHtmlOutputIsInNoMenu)
 {
-    QAction *html = action(QStringLiteral("&HTML"));
+    QAction *html = action(u"&HTML"_s);
     (void)mainWindow();
-    EXPECT_EQ(html->shortcut(), QKeySequence(QStringLiteral("Ctrl+Alt+H")));
+    EXPECT_EQ(html->shortcut(), QKeySequence(u"Ctrl+Alt+H"_s));
     EXPECT_EQ(html->associatedObjects(), QList<QObject *>{mainWindow()});
     EXPECT_EQ(host.frame.menus[274]->actions().size(), 8);
 }

@@ -15,8 +15,8 @@ TEST_F(BomViewer, AsksForTheDesignBeforeItIsTheModule)
     EXPECT_EQ(duringConstruction, nullptr);
     EXPECT_TRUE(hadServer);
     EXPECT_EQ(BOMVIEWER::instance(), &module());
-    EXPECT_EQ(module().getapplnname(), QStringLiteral("BOM"));
-    EXPECT_EQ(module().getapplntitle(), QStringLiteral("Bill of Materials"));
+    EXPECT_EQ(module().getapplnname(), u"BOM"_s);
+    EXPECT_EQ(module().getapplntitle(), u"Bill of Materials"_s);
     EXPECT_EQ(std::pair(host.server.context, host.server.detail), std::pair(1, 35));
     EXPECT_EQ(BOMPartsDatabase::instance()->parts().size(), 2U);
 }
@@ -145,15 +145,12 @@ TEST_F(BomViewer, EndsWithDatabaseThenCacheThenModule)
 {
     QStringList order;
     module().onvalidate();
-    QObject::connect(BOMPartsDatabase::instance(), &QObject::destroyed,
-                     [&] { order << QStringLiteral("database"); });
-    host.server.onRemove = [&] {
-        order << (host.findmodule("BOM") ? QStringLiteral("cache") : QStringLiteral("cache, too late"));
-    };
+    QObject::connect(BOMPartsDatabase::instance(), &QObject::destroyed, [&] { order << u"database"_s; });
+    host.server.onRemove = [&] { order << (host.findmodule("BOM") ? u"cache"_s : u"cache, too late"_s); };
     const QPointer<BOMMainWindow> window(mainWindow());
     endModule();
 
-    EXPECT_EQ(order, QStringList({QStringLiteral("database"), QStringLiteral("cache")}));
+    EXPECT_EQ(order, QStringList({u"database"_s, u"cache"_s}));
     EXPECT_EQ(host.findmodule("BOM"), nullptr);
     EXPECT_EQ(BOMVIEWER::instance(), nullptr);
     ASSERT_FALSE(window.isNull());

@@ -22,7 +22,7 @@ QString library()
 /// Whether the library's code is in this process.
 bool isMapped()
 {
-    return readFile(QStringLiteral("/proc/self/maps")).contains("/libbom.so");
+    return readFile(u"/proc/self/maps"_s).contains("/libbom.so");
 }
 
 } // namespace
@@ -30,8 +30,7 @@ bool isMapped()
 TEST(ModuleEntry, ExportsItsTwoFunctionsOnly)
 {
     QProcess nm;
-    nm.start(QStringLiteral("nm"), {QStringLiteral("-D"), QStringLiteral("--defined-only"),
-                                    QStringLiteral("--format=just-symbols"), library()});
+    nm.start(u"nm"_s, {u"-D"_s, u"--defined-only"_s, u"--format=just-symbols"_s, library()});
     ASSERT_TRUE(nm.waitForFinished());
     EXPECT_EQ(nm.readAllStandardOutput().toStdString(), "createmoduleinstance\ndeletemoduleinstance\n");
 }
@@ -55,7 +54,7 @@ TEST(ModuleEntry, LivesFromTheOneToTheOther)
         module->onvalidate();
         APPLNWINDOW *window = module->createwindow(&host.frame, 0);
         ASSERT_NE(window, nullptr);
-        EXPECT_NE(host.frame.window.findChild<QWidget *>(QStringLiteral("bomHTMLView")), nullptr);
+        EXPECT_NE(host.frame.window.findChild<QWidget *>(u"bomHTMLView"_s), nullptr);
         module->removewindow(window);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_EQ(host.frame.widgets, 0);

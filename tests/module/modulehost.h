@@ -16,6 +16,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 /// A netlist server that notes what it is asked for.
 class ModuleServer final : public INETSERVER
 {
@@ -107,7 +109,7 @@ public:
 
     APPLNDOCUMENT *currentdocument(int, const char *) const override { return &design; }
     APPLNOBJECT *currentobject(const char *, int) override { return nullptr; }
-    QString getbinpath() const override { return QStringLiteral("/opt/host/bin"); }
+    QString getbinpath() const override { return u"/opt/host/bin"_s; }
     QString getdatapath(const char *) const override { return data.path(); }
     APPLNFRAME *getframe(APPLNMODULE *) override { return &frame; }
     IMODULE *getmoduleinterface(const char *application, unsigned id) override
