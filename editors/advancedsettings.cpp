@@ -155,7 +155,7 @@ void AdvancedSettings::connectChanges()
 
 void AdvancedSettings::accept()
 {
-    // Return and shortcuts come before a typed number is complete.
+    // Return and shortcuts act before a number being typed has reached its spin box's value.
     for (QSpinBox *spin : m_prettyWidths + m_asciiWidths) {
         spin->interpretText();
     }
@@ -165,7 +165,7 @@ void AdvancedSettings::accept()
 
 void AdvancedSettings::reject()
 {
-    // A number being typed must not come in when its spin box loses the focus.
+    // Otherwise a number being typed would be stored when its spin box loses the focus.
     for (QSpinBox *spin : m_prettyWidths + m_asciiWidths) {
         spin->disconnect(this);
     }

@@ -11,6 +11,7 @@
 #include <memory>
 
 class BOMPartsDatabase;
+class BOMTemplate;
 class TemplateStore;
 
 namespace Ui {

@@ -31,8 +31,8 @@ public:
     void addPropertyName(const QString &name);
 
 public Q_SLOTS:
-    /// Defines what was entered, then goes on to the next name or closes. A failure is told and changes
-    /// nothing.
+    /// Defines what was entered, then goes on to the next name or closes. A failure is shown in a
+    /// box and changes nothing.
     void createNewPhysicalProperty();
 
 private:

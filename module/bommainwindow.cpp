@@ -138,7 +138,7 @@ void BOMMainWindow::buildActions()
 {
     m_reload = addCommand({tr("Reload The &BOM"), {}, tr("Reload the parts in the Bill Of Materials")});
     connect(m_reload, &QAction::triggered, this, &BOMMainWindow::manualReload);
-    // In no menu: for those who know its keys.
+    // In no menu: only its shortcut reaches it.
     m_html = addOutput({tr("&HTML"), modulePicture(QStringLiteral("html")), tr("Output BOM in HTML"),
                         QKeySequence(QStringLiteral("Ctrl+Alt+H"))});
     addAction(m_html);

@@ -51,7 +51,7 @@ private:
     QAction *addCommand(const Command &command);
     QAction *addOutput(const Command &command);
     void forgetDatabase();
-    /// False when the user does not want a report with references that occur more than once.
+    /// Asks when references occur more than once; false when the user then wants no report.
     [[nodiscard]] bool acceptDuplicates();
     void writeSpreadsheet();
 

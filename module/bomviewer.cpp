@@ -13,7 +13,7 @@ namespace {
 
 BOMVIEWER *theModule = nullptr;
 
-/// The netlist as this module wants it; what the two numbers mean is the server's business.
+/// What this module asks the netlist server for; the server gives the numbers their meaning.
 constexpr int netlistContext = 1;
 constexpr int netlistDetail = 35;
 

@@ -192,7 +192,7 @@ void BOMTemplate::loadFromLegacySettings()
         setDefaults();
     }
     m_record.CSS = defaultStyleSheet(); // such entries have no style sheet
-    // What has no entry to move gets its file now, unless there is one that this would replace.
+    // A template without an entry of its own gets its file now, unless there is one already.
     if (!hasEntry && !QFileInfo::exists(m_record.filePath))
         save();
 }

@@ -45,7 +45,8 @@ struct BOMTemplateRecord
 };
 
 /// A named set of report settings: columns, categories, how references are listed, style sheet, header and
-/// footer, layout. A value: copies are independent. Numbers are kept as they were read; who uses them clamps.
+/// footer, layout. A value: copies are independent. Numbers are kept as they were read; code that uses them
+/// clamps them.
 class BOMTemplate
 {
     Q_DECLARE_TR_FUNCTIONS(BOMTemplate)

@@ -15,7 +15,8 @@ namespace {
 const QLatin1String RootName("BOMTemplate");
 const QLatin1String VersionName("version");
 
-// In pieces, because a read with a limit allocates the limit. More than the limit means that there is more.
+// Reads in pieces, because QIODevice::read(limit) would allocate the whole limit. A result longer than the
+// limit means that the device holds more.
 QByteArray readUpTo(QIODevice &device, qint64 limit)
 {
     constexpr qint64 pieceSize = 65536;

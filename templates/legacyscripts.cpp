@@ -70,7 +70,7 @@ public:
         constexpr QLatin1String start("*BOM SCRIPT");
         ++m_line;
         if (beginsWith(line, start)) {
-            endWithoutMark();
+            endUnfinished();
             m_script = LegacyScript{scriptName(line.sliced(start.size())), {}};
             m_startLine = m_line;
         } else if (beginsWith(line, QLatin1String("*END SCRIPT"))) {
@@ -83,7 +83,7 @@ public:
 
     [[nodiscard]] QList<LegacyScript> finish()
     {
-        endWithoutMark();
+        endUnfinished();
         return m_set.scripts();
     }
 
@@ -96,7 +96,7 @@ private:
         }
     }
 
-    void endWithoutMark()
+    void endUnfinished()
     {
         if (m_script && m_problems) {
             m_problems->append(QString::number(m_startLine) + QStringLiteral(": the script \"") +
@@ -112,15 +112,15 @@ private:
     int m_startLine = 0;
 };
 
-/// The bytes of a file; nothing, with the reason in `wrong`, when they cannot be a text.
-std::optional<QByteArray> bytesOf(const QString &path, QString *wrong)
+/// The bytes of a file; nothing, with the reason, when they cannot be a text.
+std::optional<QByteArray> bytesOf(const QString &path, QString *reason)
 {
     if (!QFileInfo::exists(path)) {
-        *wrong = QStringLiteral("there is no such file");
+        *reason = QStringLiteral("there is no such file");
         return std::nullopt;
     }
     if (!QFileInfo(path).isFile()) {
-        *wrong = QStringLiteral("this is no ordinary file");
+        *reason = QStringLiteral("this is no ordinary file");
         return std::nullopt;
     }
     QFile file(path);
@@ -129,15 +129,15 @@ std::optional<QByteArray> bytesOf(const QString &path, QString *wrong)
         bytes = file.read(mostLegacyScriptBytes + 1);
     }
     if (file.error() != QFileDevice::NoError) {
-        *wrong = file.errorString();
+        *reason = file.errorString();
         return std::nullopt;
     }
     if (bytes.size() > mostLegacyScriptBytes) {
-        *wrong = QStringLiteral("the file is larger than 4 MiB, the most that BOM scripts may have");
+        *reason = QStringLiteral("the file is larger than 4 MiB, the most that BOM scripts may have");
         return std::nullopt;
     }
     if (bytes.contains('\0')) {
-        *wrong = QStringLiteral("the file is no text");
+        *reason = QStringLiteral("the file is no text");
         return std::nullopt;
     }
     return bytes;
@@ -179,24 +179,24 @@ QList<LegacyScript> legacyScripts(const QString &text, QStringList *problems)
 
 QList<LegacyScript> readLegacyScripts(const QString &path, QStringList *problems)
 {
-    const auto tell = [&](const QString &problem) {
+    const auto addProblem = [&](const QString &problem) {
         if (problems) {
             problems->append(path + problem);
         }
     };
-    QString wrong;
-    const std::optional<QByteArray> bytes = bytesOf(path, &wrong);
+    QString reason;
+    const std::optional<QByteArray> bytes = bytesOf(path, &reason);
     if (!bytes) {
-        tell(QStringLiteral(": ") + wrong);
+        addProblem(QStringLiteral(": ") + reason);
         return {};
     }
     QStringList found;
     QList<LegacyScript> scripts = legacyScripts(decoded(*bytes), &found);
     if (scripts.isEmpty()) {
-        tell(QStringLiteral(": there is no line \"*BOM SCRIPT\""));
+        addProblem(QStringLiteral(": there is no line \"*BOM SCRIPT\""));
     }
     for (const QString &problem : std::as_const(found)) {
-        tell(u':' + problem);
+        addProblem(u':' + problem);
     }
     return scripts;
 }

@@ -13,8 +13,8 @@ class TemplateStore;
 /// The values of a line, the text behind its "=". A part in double quotes is one value, empty or with commas.
 [[nodiscard]] QStringList legacyScriptValues(const QString &text);
 
-/// Categories and fields as a script says, everything else at its default; without a name. Lines that say
-/// nothing to this system are skipped.
+/// Categories and fields as a script says, everything else at its default; without a name. Lines with other
+/// keys, or another number of values, are skipped.
 [[nodiscard]] BOMTemplate legacyTemplate(const LegacyScript &script);
 
 /// The name under which a legacy script is offered for import, "-copy" behind it when the store has it.

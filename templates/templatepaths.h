@@ -31,8 +31,8 @@ struct TemplateFile
     bool operator==(const TemplateFile &) const = default;
 };
 
-/// The template files of the folders in their order, by name inside a folder, but with the suffix in small
-/// letters first. Of names that differ only in letter case the first stands for all.
+/// The template files of the folders in their order; inside a folder those whose suffix is in lower case
+/// first, then by name. Of names that differ only in letter case the first stands for all.
 [[nodiscard]] QList<TemplateFile> templateFiles();
 
 /// The absolute path of the first template folder, of the current folder when none is set.

@@ -76,7 +76,8 @@ bool failText(QXmlStreamReader &reader, const char *line)
     return fail(reader, QStringLiteral("text expected, found ") + token);
 }
 
-// From behind the start tag of an element, maybe on a tag inside it, to its end tag.
+// Skips the rest of an element. The reader stands after its start tag, perhaps on a tag inside it, and ends
+// on its end tag.
 void leaveElement(QXmlStreamReader &reader)
 {
     if (reader.isEndElement())
@@ -86,8 +87,8 @@ void leaveElement(QXmlStreamReader &reader)
     reader.skipCurrentElement();
 }
 
-// Reads the text behind a start tag, over comments inside it, up to the first tag. False when there is
-// neither text nor the end tag.
+// Reads the text after a start tag up to the next tag, skipping comments. False when neither text nor the end
+// tag follows.
 bool readText(QXmlStreamReader &reader, QString &text)
 {
     reader.readNext();
@@ -130,7 +131,7 @@ public:
     }
 
 private:
-    // Ends on a tag or text that readMap() has still to look at.
+    // Ends on the tag or text that readMap() looks at next.
     bool readEntry(QVariantMap &map, int nesting, bool enclosing)
     {
         const QString key = m_reader.name().toString();
