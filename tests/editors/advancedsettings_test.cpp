@@ -126,7 +126,9 @@ TEST_F(Advanced, WidthsFollowAndAreStoredAtOnce)
 
 TEST_F(Advanced, DataOutputsAreStoredAtOnce)
 {
-    const auto codeWidth = [this] { return database.currentTemplate().fields().get(u"Stock Code"_s).asciiWidth; };
+    const auto codeWidth = [this] {
+        return database.currentTemplate().fields().get(u"Stock Code"_s).asciiWidth;
+    };
     tab(1);
     enter(spin("asciiLayout", 1), u"33"_s);
     enter(spin("asciiLayout", 3), u"1001"_s);

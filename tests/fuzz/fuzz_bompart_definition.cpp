@@ -15,13 +15,7 @@ QStringList plainFields(QString text)
     if (text.contains(QLatin1String(",'"))) {
         text.replace(u'\'', u'"').replace(QLatin1String("\\\""), QLatin1String("'"));
     }
-    QStringList fields;
-    bool isInside = false;
-    for (const QString &piece : text.split(u'"')) {
-        fields += isInside ? QStringList{piece} : piece.split(u',', Qt::SkipEmptyParts);
-        isInside = !isInside;
-    }
-    return fields;
+    return splitOutsideQuotes(text);
 }
 
 void compareFields(const QString &text, const BOMPartDefinition &read)

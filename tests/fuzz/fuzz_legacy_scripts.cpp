@@ -13,11 +13,7 @@ namespace {
 /// The values of a line in the plainest way.
 QStringList plainValues(const QString &text)
 {
-    QStringList values;
-    const QStringList pieces = text.split(u'"');
-    for (qsizetype i = 0; i < pieces.size(); ++i) {
-        values += i % 2 == 1 ? QStringList{pieces[i]} : pieces[i].split(u',', Qt::SkipEmptyParts);
-    }
+    QStringList values = splitOutsideQuotes(text);
     values.removeAll(QStringLiteral(","));
     return values;
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QStringList>
+
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -26,4 +28,16 @@ inline void promise(bool holds, const char *text)
         std::fprintf(stderr, "broken promise: %s\n", text);
         std::abort();
     }
+}
+
+/// Splits at the commas outside double quotes in the plainest way; empty pieces count inside quotes only.
+inline QStringList splitOutsideQuotes(const QString &text)
+{
+    QStringList values;
+    bool isInside = false;
+    for (const QString &piece : text.split(u'"')) {
+        values += isInside ? QStringList{piece} : piece.split(u',', Qt::SkipEmptyParts);
+        isInside = !isInside;
+    }
+    return values;
 }

@@ -24,7 +24,6 @@ class ModuleServer final : public INETSERVER
 public:
     FakeNetlist netlist;
     bool canSend = true;
-    int sent = 0;
     int context = 0;
     int detail = 0;
     NETCACHE *cache = nullptr;
@@ -41,7 +40,6 @@ public:
             onSend();
         }
         if (canSend) {
-            ++sent;
             static_cast<NETLIST &>(target) = *netlist.cache();
         }
         return canSend;
@@ -64,7 +62,6 @@ public:
     QMap<unsigned, QMenu *> menus;
     QList<QToolBar *> bars;
     int widgets = 0;
-    QString title;
     unsigned state = WINDOW_HIDDEN;
 
     void addmenu(unsigned id, QMenu *menu, unsigned) override { menus[id] = menu; }
@@ -81,7 +78,7 @@ public:
         --widgets;
         widget->setParent(nullptr);
     }
-    void settitle(const QString &text) override { title = text; }
+    void settitle(const QString &) override {}
     void setstatustext(const QString &) override {}
     void showframe(unsigned wanted) override
     {

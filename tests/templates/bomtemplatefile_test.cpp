@@ -23,21 +23,26 @@ struct Reading
     QString lines;
 };
 
-QStringList debugLines;
+/// What is written to the debug channel meanwhile.
+template<class Action>
+QString debugLines(const Action &action)
+{
+    static QStringList lines;
+    lines.clear();
+    const auto previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &line) { lines << line; });
+    action();
+    qInstallMessageHandler(previous);
+    return lines.join(u'\n');
+}
 
 Reading readBytes(QByteArray bytes)
 {
-    debugLines.clear();
-    const auto takeLine = [](QtMsgType, const QMessageLogContext &, const QString &line) {
-        debugLines << line;
-    };
-    const auto previous = qInstallMessageHandler(takeLine);
     QBuffer device(&bytes);
     EXPECT_TRUE(device.open(QIODevice::ReadOnly));
     Reading reading;
-    reading.document = BOMTemplateFile(u"f.bomt"_s).readDocument(device, &reading.problem);
-    reading.lines = debugLines.join(u'\n');
-    qInstallMessageHandler(previous);
+    reading.lines = debugLines(
+        [&] { reading.document = BOMTemplateFile(u"f.bomt"_s).readDocument(device, &reading.problem); });
     return reading;
 }
 
@@ -209,15 +214,11 @@ TEST_F(BomTemplateFile, AFileThatIsMissingOrTooLargeIsNamed)
 
 TEST_F(BomTemplateFile, AValueThatIsNoTextIsLeftOutAlone)
 {
-    debugLines.clear();
-    const auto previous = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext &, const QString &line) { debugLines << line; });
     const BOMTemplateFile file(path(u"v.bomt"_s));
+    const QVariantMap map{{u"a"_s, QVariant::fromValue<QObject *>(nullptr)}, {u"b"_s, 2.5}};
     QString problem;
-    EXPECT_TRUE(
-        file.writeXmlFile({{u"a"_s, QVariant::fromValue<QObject *>(nullptr)}, {u"b"_s, 2.5}}, &problem));
-    qInstallMessageHandler(previous);
-    EXPECT_EQ(debugLines.join(u'\n'), u"BOMTemplate::writeXML unkown variant type: QObject*"_s);
+    EXPECT_EQ(debugLines([&] { EXPECT_TRUE(file.writeXmlFile(map, &problem)); }),
+              u"BOMTemplate::writeXML unkown variant type: QObject*"_s);
     const auto read = file.readXmlFile(&problem);
     ASSERT_TRUE(read);
     EXPECT_EQ(read->map.keys().join(u','), u"BOMTemplate,b"_s);

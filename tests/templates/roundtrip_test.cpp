@@ -152,7 +152,6 @@ TEST_F(RoundTrip, WhatCannotBeWrittenLeavesTheOldFile)
 TEST_F(RoundTrip, AFileCutAnywhereIsRefusedOrWhole)
 {
     const QByteArray bytes = readFile(data("every-key.bomt"));
-    const BOMTemplate whole(u"whole"_s, data("every-key.bomt"));
     const qsizetype end = bytes.lastIndexOf('>') + 1;
     const auto debugLines =
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
@@ -165,12 +164,6 @@ TEST_F(RoundTrip, AFileCutAnywhereIsRefusedOrWhole)
         const auto read = BOMTemplateFile(u"cut.bomt"_s).readDocument(buffer, &problem);
         ASSERT_EQ(read.has_value(), size >= end) << size;
         ASSERT_EQ(problem.isEmpty(), size >= end) << size;
-        if (size % 97 == 0 || size >= end) {
-            m_messages.clear();
-            const BOMTemplate cut(u"cut"_s, write(u"cut.bomt"_s, start));
-            ASSERT_EQ(cut.toVariantMap(), (size < end ? BOMTemplate() : whole).toVariantMap()) << size;
-            ASSERT_EQ(m_messages.isEmpty(), size >= end) << size;
-        }
     }
 }
 
