@@ -21,6 +21,9 @@ public:
     /// Whether the command line chose this command.
     [[nodiscard]] bool isChosen() const { return m_app && m_app->parsed(); }
 
+    /// Whether it paints, for which Qt needs a platform.
+    [[nodiscard]] virtual bool paints() const { return false; }
+
     /// Does it. Everything that the user must know has been written when it returns.
     [[nodiscard]] virtual ExitStatus run() = 0;
 

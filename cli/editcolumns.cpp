@@ -13,15 +13,14 @@
 
 ReportCells::ReportCells(OpenDesign &design)
     : m_design(design)
+    , m_report(design.database(), design.database().currentTemplate().fields())
 {
-    setPartsDatabase(&design.database());
-    updateFields();
 }
 
 std::optional<EditColumn> ReportCells::columnOf(const QString &heading) const
 {
     for (const Qt::CaseSensitivity rule : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
-        for (const ReportColumn &field : columns()) {
+        for (const ReportColumn &field : m_report.columns()) {
             if (field.field.fieldName.compare(heading, rule) == 0) {
                 const QString &property = field.field.propertyName;
                 return EditColumn{0, heading, field, true,
@@ -36,24 +35,24 @@ std::optional<EditColumn> ReportCells::columnOf(const QString &heading) const
     BOMField field;
     field.fieldName = heading;
     field.propertyName = heading;
-    const PropertyTypes &types = database()->propertyTypes();
+    const PropertyTypes &types = m_design.database().propertyTypes();
     return EditColumn{
         0, heading, {field, PropertyQuery(heading, &types), types.isNumeric(heading)}, false, isFixed};
 }
 
 QString ReportCells::text(const Part &part, const EditColumn &column) const
 {
-    return column.isField ? cellText(part, column.report, true) : part.property(column.report.property);
+    return column.isField ? m_report.text(part, column.report) : part.property(column.report.property);
 }
 
 bool ReportCells::isProperty(const QString &name) const
 {
     const QStringList standard = standardPropertyNames();
-    if (standard.contains(name, Qt::CaseInsensitive) || database()->propertyTypes().type(name) ||
+    if (standard.contains(name, Qt::CaseInsensitive) || m_design.database().propertyTypes().type(name) ||
         !m_design.design().design().names().candidates(name.toStdString()).empty()) {
         return true;
     }
-    const auto parts = database()->parts();
+    const auto parts = m_design.database().parts();
     return std::any_of(parts.begin(), parts.end(), [&name](const Part *part) {
         return part->isBOMPart() && static_cast<const BOMPart *>(part)->properties().contains(name.toUpper());
     });

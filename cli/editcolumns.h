@@ -3,7 +3,7 @@
 #pragma once
 
 #include "standalone/tablefile.h"
-#include "views/bomview.h"
+#include "views/report/report.h"
 
 #include <QString>
 #include <QStringList>
@@ -27,10 +27,8 @@ struct EditColumn
 };
 
 /// The cells of a report one by one, also for parts that no report lists.
-class ReportCells final : public BOMView
+class ReportCells final
 {
-    Q_OBJECT
-
 public:
     explicit ReportCells(OpenDesign &design);
 
@@ -41,14 +39,17 @@ public:
     /// The text that a report writes, or that people see of a property.
     [[nodiscard]] QString text(const Part &part, const EditColumn &column) const;
 
-public Q_SLOTS:
-    /// Does nothing: cells are asked for.
-    void handleBOMDataUpdate() override {}
+    /// See Report::headings().
+    [[nodiscard]] QStringList columnHeadings(bool withQuantity) const
+    {
+        return m_report.headings(withQuantity);
+    }
 
 private:
     [[nodiscard]] bool isProperty(const QString &name) const;
 
     OpenDesign &m_design;
+    Report m_report;
 };
 
 /// The columns of a table that hold values; categories, quantities and references, as a report writes them,

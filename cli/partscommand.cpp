@@ -3,10 +3,11 @@
 #include "cli/partscommand.h"
 
 #include "cli/console.h"
-#include "cli/designjson.h"
 #include "cli/opendesign.h"
 #include "cli/partslisting.h"
+#include "views/report/jsonreport.h"
 #include "views/report/jsonwriter.h"
+#include "views/report/report.h"
 
 #include <algorithm>
 #include <utility>
@@ -50,7 +51,7 @@ QByteArray jsonText(OpenDesign &design, const PartsListing &listing)
 {
     JsonWriter json;
     json.beginObject();
-    writeDesign(json, design.database());
+    writeDesign(json, designOf(design.database()));
     writeParts(json, u"parts", listing.parts);
     writeParts(json, u"skipped", listing.skipped);
     writeParts(json, u"duplicates", listing.duplicates);

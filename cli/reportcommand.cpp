@@ -2,17 +2,20 @@
 // SPDX-License-Identifier: MIT
 #include "cli/reportcommand.h"
 
-#include "cli/bomjsonview.h"
 #include "cli/console.h"
 #include "cli/opendesign.h"
 #include "cli/outputfile.h"
 #include "cli/referencetext.h"
 #include "cli/reportnotices.h"
 #include "host/propdefs/propdefsfile.h"
-#include "views/bomasciiview.h"
-#include "views/bomcsvview.h"
-#include "views/bomexcelview.h"
-#include "views/bomhtmlview.h"
+#include "views/pdfreport.h"
+#include "views/report/asciireport.h"
+#include "views/report/csvreport.h"
+#include "views/report/htmlreport.h"
+#include "views/report/jsonreport.h"
+#include "views/report/oldhtmltemplate.h"
+#include "views/report/report.h"
+#include "views/report/spreadsheetreport.h"
 
 #include <QFileInfo>
 #include <QFont>
@@ -31,43 +34,48 @@ bool isKicadFile(const QString &path)
     return file.exists() && (file.suffix().startsWith(suffix) || target.suffix().startsWith(suffix));
 }
 
-void tell(const QStringList &notices)
+void print(const QStringList &notices)
 {
     for (const QString &notice : notices) {
         console::message(notice);
     }
 }
 
+bool hasFonts()
+{
+    return !QRawFont::fromFont(QFont()).fontTable("cmap").isEmpty();
+}
+
 } // namespace
 
-const std::array<ReportCommand::OutputOption, 7> &ReportCommand::outputOptions()
-{
-    static const std::array<OutputOption, 7> options{{
-        {"--csv", "Write CSV with one row per line of the bill; - is standard output", Form::Csv,
-         &ReportCommand::m_csv},
-        {"--full-csv", "Write CSV with one row per part; - is standard output", Form::FullCsv,
-         &ReportCommand::m_fullCsv},
-        {"--ascii", "Write text in columns of fixed widths; - is standard output", Form::Ascii,
-         &ReportCommand::m_ascii},
-        {"--html", "Write a web page (XHTML); - is standard output", Form::Html, &ReportCommand::m_html},
-        {"--pdf", "Write a PDF document; - is standard output", Form::Pdf, &ReportCommand::m_pdf},
-        {"--xlsx", "Write a spreadsheet (.xlsx); - is standard output", Form::Xlsx, &ReportCommand::m_xlsx},
-        {"--json", "Write JSON for programs; - is standard output", Form::Json, &ReportCommand::m_json},
-    }};
-    return options;
-}
+const std::array<ReportCommand::OutputOption, 7> ReportCommand::outputOptions{{
+    {"--csv", "Write CSV with one row per line of the bill; - is standard output", Form::Csv},
+    {"--full-csv", "Write CSV with one row per part; - is standard output", Form::FullCsv},
+    {"--ascii", "Write text in columns of fixed widths; - is standard output", Form::Ascii},
+    {"--html", "Write a web page (XHTML); - is standard output", Form::Html},
+    {"--pdf", "Write a PDF document; - is standard output", Form::Pdf},
+    {"--xlsx", "Write a spreadsheet (.xlsx); - is standard output", Form::Xlsx},
+    {"--json", "Write JSON for programs; - is standard output", Form::Json},
+}};
 
 void ReportCommand::addTo(CLI::App &program)
 {
     m_app = program.add_subcommand("report", "Write the bill of materials; text in columns goes to standard "
                                              "output when no output is named");
     m_design.addTo(*m_app);
-    for (const OutputOption &option : outputOptions()) {
-        m_app->add_option(option.name, this->*option.path, option.description)->type_name("F");
+    for (size_t i = 0; i < outputOptions.size(); ++i) {
+        m_app->add_option(outputOptions[i].name, m_paths[i], outputOptions[i].description)->type_name("F");
     }
     m_app->add_flag("--allow-duplicates", m_allowDuplicates,
                     "Write the report although references occur more than once");
     m_locale.addTo(*m_app, "Format numbers as in this locale, such as de_DE; C without it");
+}
+
+bool ReportCommand::paints() const
+{
+    const QList<Output> outputs = this->outputs();
+    return std::any_of(outputs.begin(), outputs.end(),
+                       [](const Output &output) { return output.form == Form::Pdf; });
 }
 
 ExitStatus ReportCommand::run()
@@ -84,26 +92,26 @@ ExitStatus ReportCommand::run()
     if (const ExitStatus status = design.open(m_design, true); status != ExitStatus::Done) {
         return status;
     }
-    if (!spareTheDesign(design, outputs)) {
+    if (!protectDesignFiles(design, outputs)) {
         return ExitStatus::WrongUsage;
     }
-    if (!mayGoOn(design)) {
+    if (!shouldContinue(design)) {
         return ExitStatus::DesignProblem;
     }
-    tell(markNotices(design));
-    tell(notFittedNotices(design));
-    tell(definedPartNotices(design));
-    tellReplacedLines(design, outputs);
-    tellMissingNotes(design, outputs);
+    print(markNotices(design));
+    print(notFittedNotices(design));
+    print(definedPartNotices(design));
+    printReplacedLines(design, outputs);
+    printMissingNotes(design, outputs);
     return write(design, outputs);
 }
 
 QList<ReportCommand::Output> ReportCommand::outputs() const
 {
     QList<Output> outputs;
-    for (const OutputOption &option : outputOptions()) {
-        if (m_app->count(option.name) > 0) {
-            outputs.append({QString::fromStdString(this->*option.path), option.form});
+    for (size_t i = 0; i < outputOptions.size(); ++i) {
+        if (m_app->count(outputOptions[i].name) > 0) {
+            outputs.append({QString::fromStdString(m_paths[i]), outputOptions[i].form});
         }
     }
     if (outputs.isEmpty()) {
@@ -131,7 +139,7 @@ bool ReportCommand::areDistinct(const QList<Output> &outputs)
     return true;
 }
 
-bool ReportCommand::spareTheDesign(OpenDesign &design, const QList<Output> &outputs) const
+bool ReportCommand::protectDesignFiles(OpenDesign &design, const QList<Output> &outputs) const
 {
     QStringList inputs = design.session().files();
     const StandaloneDocument &document = design.session().document();
@@ -149,7 +157,7 @@ bool ReportCommand::spareTheDesign(OpenDesign &design, const QList<Output> &outp
     return true;
 }
 
-bool ReportCommand::mayGoOn(OpenDesign &design) const
+bool ReportCommand::shouldContinue(OpenDesign &design) const
 {
     qsizetype count = 0;
     for (const RepeatedReference &repeated : design.ledger().repeated()) {
@@ -174,7 +182,7 @@ bool ReportCommand::mayGoOn(OpenDesign &design) const
     return false;
 }
 
-void ReportCommand::tellReplacedLines(OpenDesign &design, const QList<Output> &outputs)
+void ReportCommand::printReplacedLines(OpenDesign &design, const QList<Output> &outputs)
 {
     const auto hasForm = [&outputs](bool isFull) {
         return std::any_of(outputs.cbegin(), outputs.cend(), [isFull](const Output &output) {
@@ -183,12 +191,12 @@ void ReportCommand::tellReplacedLines(OpenDesign &design, const QList<Output> &o
     };
     for (const bool isFull : {false, true}) {
         if (hasForm(isFull)) {
-            tell(replacedLineNotices(design, !isFull));
+            print(replacedLineNotices(design, !isFull));
         }
     }
 }
 
-void ReportCommand::tellMissingNotes(OpenDesign &design, const QList<Output> &outputs)
+void ReportCommand::printMissingNotes(OpenDesign &design, const QList<Output> &outputs)
 {
     const auto hasForm = [&outputs](Form form) {
         return std::any_of(outputs.cbegin(), outputs.cend(),
@@ -207,56 +215,52 @@ void ReportCommand::tellMissingNotes(OpenDesign &design, const QList<Output> &ou
     }
 }
 
-QByteArray ReportCommand::content(Form form, BOMPartsDatabase &database)
+ReportCommand::Content ReportCommand::content(Form form, BOMPartsDatabase &database)
 {
-    if (form == Form::Csv || form == Form::FullCsv) {
-        BOMCsvView view(nullptr, form == Form::FullCsv);
-        view.setPartsDatabase(&database);
-        return view.csv();
+    if (form == Form::Html || form == Form::Pdf) {
+        return documentContent(form, database);
     }
+    const BOMTemplate &settings = database.currentTemplate();
+    const Report report(database, dataFields(settings.fields(), settings));
     if (form == Form::Ascii) {
-        BOMAsciiView view;
-        view.setPartsDatabase(&database);
-        return view.ascii();
+        return {asciiReport(report)};
     }
     if (form == Form::Json) {
-        BOMJsonView view;
-        view.setPartsDatabase(&database);
-        return view.json();
+        return {jsonReport(report)};
     }
-    BOMHTMLView view;
-    view.setPartsDatabase(&database);
-    return form == Form::Pdf ? view.pdf() : view.html().toUtf8();
+    if (form == Form::Xlsx) {
+        const SpreadsheetReport output = spreadsheetReport(report);
+        return {output.file, output.problem, output.notices};
+    }
+    return {csvReport(report, form == Form::FullCsv ? CsvRows::Parts : CsvRows::Lines)};
 }
 
-bool ReportCommand::writeSpreadsheet(const QString &path, BOMPartsDatabase &database)
+ReportCommand::Content ReportCommand::documentContent(Form form, BOMPartsDatabase &database)
 {
-    BOMExcelView view;
-    view.setPartsDatabase(&database);
-    const QByteArray file = view.xlsx();
-    if (!view.problem().isEmpty()) {
-        console::message(path + QStringLiteral(": is not written: ") + view.problem());
-        return false;
+    if (form == Form::Pdf && !hasFonts()) {
+        return {{}, QStringLiteral("no fonts are installed")};
     }
-    for (const QString &notice : view.notices()) {
-        console::message(path + QStringLiteral(": ") + notice);
+    if (upgradeTemplate(database)) {
+        showTemplateUpgraded(nullptr, database.currentTemplate().name());
     }
-    return writeOutput(path, file);
+    const Report report(database, database.currentTemplate().fields());
+    return {form == Form::Pdf ? pdfReport(report) : htmlReport(report).toUtf8()};
 }
 
-ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs) const
+ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs)
 {
     ExitStatus status = ExitStatus::Done;
     for (const Output &output : outputs) {
-        if (output.form == Form::Pdf && QRawFont::fromFont(QFont()).fontTable("cmap").isEmpty()) {
-            console::message(output.path + QStringLiteral(": is not written: no fonts are installed"));
+        const Content content = ReportCommand::content(output.form, design.database());
+        if (!content.problem.isEmpty()) {
+            console::message(output.path + QStringLiteral(": is not written: ") + content.problem);
             status = ExitStatus::UnwritableOutput;
             continue;
         }
-        const bool isWritten = output.form == Form::Xlsx
-                                   ? writeSpreadsheet(output.path, design.database())
-                                   : writeOutput(output.path, content(output.form, design.database()));
-        if (!isWritten) {
+        for (const QString &notice : content.notices) {
+            console::message(output.path + QStringLiteral(": ") + notice);
+        }
+        if (!writeOutput(output.path, content.bytes)) {
             status = ExitStatus::UnwritableOutput;
         }
     }

@@ -6,8 +6,8 @@
 #include "cli/designarguments.h"
 #include "cli/localeoption.h"
 
-#include <QByteArray>
 #include <QList>
+#include <QString>
 
 #include <array>
 #include <string>
@@ -20,6 +20,8 @@ class ReportCommand final : public Command
 {
 public:
     void addTo(CLI::App &program) override;
+    /// PDF is painted.
+    [[nodiscard]] bool paints() const override;
     [[nodiscard]] ExitStatus run() override;
 
 private:
@@ -33,40 +35,45 @@ private:
         Xlsx,
         Json
     };
-    struct Output
-    {
-        QString path;
-        Form form = Form::Csv;
-    };
     /// An option that names an output.
     struct OutputOption
     {
         const char *name;
         const char *description;
         Form form;
-        std::string ReportCommand::*path;
     };
-    [[nodiscard]] static const std::array<OutputOption, 7> &outputOptions();
+    struct Output
+    {
+        QString path;
+        Form form = Form::Csv;
+    };
+    /// What goes into an output.
+    struct Content
+    {
+        QByteArray bytes;
+        /// Why there is none; empty when there is.
+        QString problem = {};
+        /// What it lacks of the report, one sentence each.
+        QStringList notices = {};
+    };
+    static const std::array<OutputOption, 7> outputOptions;
 
     [[nodiscard]] QList<Output> outputs() const;
     [[nodiscard]] static bool areDistinct(const QList<Output> &outputs);
-    [[nodiscard]] bool spareTheDesign(OpenDesign &design, const QList<Output> &outputs) const;
-    [[nodiscard]] bool mayGoOn(OpenDesign &design) const;
-    static void tellReplacedLines(OpenDesign &design, const QList<Output> &outputs);
-    /// Notes that cannot be read are missing in the documents.
-    static void tellMissingNotes(OpenDesign &design, const QList<Output> &outputs);
-    [[nodiscard]] static QByteArray content(Form form, BOMPartsDatabase &database);
-    [[nodiscard]] static bool writeSpreadsheet(const QString &path, BOMPartsDatabase &database);
-    [[nodiscard]] ExitStatus write(OpenDesign &design, const QList<Output> &outputs) const;
+    /// False, after a message, when an output would overwrite a file that belongs to the design.
+    [[nodiscard]] bool protectDesignFiles(OpenDesign &design, const QList<Output> &outputs) const;
+    /// Names references that occur more than once; false when the report is not to be written for that.
+    [[nodiscard]] bool shouldContinue(OpenDesign &design) const;
+    static void printReplacedLines(OpenDesign &design, const QList<Output> &outputs);
+    /// The user's notes that cannot be read and are therefore missing in the documents.
+    static void printMissingNotes(OpenDesign &design, const QList<Output> &outputs);
+    [[nodiscard]] static Content content(Form form, BOMPartsDatabase &database);
+    [[nodiscard]] static Content documentContent(Form form, BOMPartsDatabase &database);
+    [[nodiscard]] static ExitStatus write(OpenDesign &design, const QList<Output> &outputs);
 
     DesignArguments m_design;
-    std::string m_csv;
-    std::string m_fullCsv;
-    std::string m_ascii;
-    std::string m_html;
-    std::string m_pdf;
-    std::string m_xlsx;
-    std::string m_json;
+    /// In the order of the options.
+    std::array<std::string, 7> m_paths;
     LocaleOption m_locale;
     bool m_allowDuplicates = false;
 };

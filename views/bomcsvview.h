@@ -4,10 +4,7 @@
 
 #include "views/bomview.h"
 
-#include <QByteArray>
-#include <QString>
-
-/// The bill of materials as comma-separated text.
+/// Saves the bill of materials as comma-separated text.
 class BOMCsvView final : public BOMView
 {
     Q_OBJECT
@@ -20,12 +17,9 @@ public:
     /// the old file then stays.
     void writeOutput();
 
-    /// The whole text in UTF-8; empty without a database.
-    [[nodiscard]] QByteArray csv();
-
 public Q_SLOTS:
     /// Does nothing: the text is made when it is asked for.
-    void handleBOMDataUpdate() override;
+    void handleBOMDataUpdate() override {}
 
 private:
     bool m_full = false;

@@ -3,16 +3,16 @@
 #include "views/bomhtmlview.h"
 
 #include "core/bompartsdatabase.h"
-#include "host/framework/applnprocess.h"
 #include "host/framework/hostui.h"
-#include "richtext/css/stylesheet.h"
 #include "richtext/editor/textedit.h"
-#include "richtext/paper/pagegeometry.h"
-#include "richtext/paper/pdfoutput.h"
-#include "richtext/xhtml/xmltext.h"
-#include "views/report/htmltext.h"
+#include "richtext/editor/textstyleeditor.h"
+#include "richtext/xhtml/tidylibwrapper.h"
+#include "templates/templatepaths.h"
+#include "views/bomtemplateeditor.h"
+#include "views/pdfreport.h"
+#include "views/report/htmlreport.h"
+#include "views/report/oldhtmltemplate.h"
 #include "views/report/reportlink.h"
-#include "views/savereport.h"
 
 #include <QFileInfo>
 #include <QPainter>
@@ -21,53 +21,82 @@
 
 BOMHTMLView::BOMHTMLView(QWidget *parent)
     : BOMView(parent)
-    // A soft hyphen and a space without width: long lists can wrap after any comma.
-    , m_referenceSeparator(QStringLiteral(",&shy;&#8203;"))
 {
 }
 
-BOMHTMLView::~BOMHTMLView() = default;
-
-TextEdit *BOMHTMLView::textEdit()
-{
-    if (!m_textEdit) {
-        m_textEdit = new TextEdit(this);
-        m_textEdit->setObjectName(QStringLiteral("textEdit"));
-        m_textEdit->setFocusPolicy(Qt::WheelFocus);
-        m_textEdit->setReadOnly(true);
-        m_textEdit->setUndoRedoEnabled(false);
-        // A bar that comes and goes makes a long report be laid out once more.
-        m_textEdit->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-        m_textEdit->setTextInteractionFlags(Qt::TextBrowserInteraction);
-        setFocusProxy(m_textEdit);
-        auto *layout = new QVBoxLayout(this);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->addWidget(m_textEdit);
-        connect(m_textEdit, &TextEdit::linkActivated, this, &BOMHTMLView::onLinkActivated);
-        connect(m_textEdit, &TextEdit::previewPainted, this,
-                [this](QPainter *painter) { appendProjectNotes(*painter); });
-    }
-    return m_textEdit;
-}
-
-QByteArray BOMHTMLView::pdf()
+QString BOMHTMLView::html()
 {
     if (!isValid()) {
         return {};
     }
-    const BOMTemplate &settings = database()->currentTemplate();
-    PagedText text;
-    text.xhtml = html();
-    text.title = database()->designTitle();
-    text.header = xmlText(settings.pageHeader());
-    text.footer = xmlText(settings.pageFooter());
-    PdfOutput output(pageLayout(StyleSheet(settings.css())), text.title);
-    PagePainter pages(text);
-    QPainter painter(&output.device());
-    pages.paint(painter, 1, pages.layOut(output.device()));
-    appendProjectNotes(painter);
-    painter.end();
-    return output.bytes();
+    if (upgradeTemplate(*database())) {
+        Q_EMIT currentTemplateModified(true);
+        showTemplateUpgraded(this, database()->currentTemplate().name());
+    }
+    updateFields();
+    return htmlReport(report());
+}
+
+QList<QStringList> BOMHTMLView::categoryRows(const QString &category, bool grouped, int width,
+                                             int lines) const
+{
+    constexpr int referencesColumn = 1;
+    QList<QStringList> rows = BOMView::categoryRows(category, grouped, width, lines);
+    for (QStringList &row : rows) {
+        row[referencesColumn] = htmlReferences(row[referencesColumn]);
+    }
+    return rows;
+}
+
+QString BOMHTMLView::fieldValue(const QString &reference, const QString &fieldName, bool formatted) const
+{
+    const QString text = BOMView::fieldValue(reference, fieldName, formatted);
+    const ReportColumn *column = formatted && isValid() ? report().column(fieldName) : nullptr;
+    return column ? htmlLink(text, report().link(reference, *column)) : text;
+}
+
+QString BOMHTMLView::formatFieldValue(const QString &value, const QString &fieldName) const
+{
+    return ::htmlText(truncateToFieldWidth(BOMView::formatFieldValue(value, fieldName), fieldName));
+}
+
+QString BOMHTMLView::htmlText(const QString &text, bool allowMarkup)
+{
+    if (allowMarkup) {
+        TidyLibWrapper tidy;
+        QString tidied = tidy.tidyHtml(text, TidyLibWrapper::Fragment);
+        if (tidy.errorString().isEmpty()) {
+            return tidied;
+        }
+    }
+    return ::htmlText(text);
+}
+
+TextEdit *BOMHTMLView::textEdit()
+{
+    if (!m_textEdit) {
+        makeTextEdit();
+    }
+    return m_textEdit;
+}
+
+void BOMHTMLView::makeTextEdit()
+{
+    m_textEdit = new TextEdit(this);
+    m_textEdit->setObjectName(QStringLiteral("textEdit"));
+    m_textEdit->setFocusPolicy(Qt::WheelFocus);
+    m_textEdit->setReadOnly(true);
+    m_textEdit->setUndoRedoEnabled(false);
+    // A bar that comes and goes makes a long report be laid out once more.
+    m_textEdit->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    m_textEdit->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    setFocusProxy(m_textEdit);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_textEdit);
+    connect(m_textEdit, &TextEdit::linkActivated, this, &BOMHTMLView::onLinkActivated);
+    connect(m_textEdit, &TextEdit::previewPainted, this,
+            [this](QPainter *painter) { appendProjectNotes(*painter, database()->currentTemplate()); });
 }
 
 void BOMHTMLView::handleBOMDataUpdate()
@@ -77,6 +106,17 @@ void BOMHTMLView::handleBOMDataUpdate()
     }
     textEdit()->loadDocument(html());
     textEdit()->document()->setTitle(::htmlText(database()->designTitle()));
+}
+
+void BOMHTMLView::onLinkActivated(const QString &link)
+{
+    if (!isValid()) {
+        return;
+    }
+    const QUrl target = linkTarget(link, QFileInfo(designOf(*database()).file).absolutePath());
+    if (!target.isEmpty()) {
+        HostUi::current().openUrl(target);
+    }
 }
 
 void BOMHTMLView::saveHTML()
@@ -89,9 +129,7 @@ void BOMHTMLView::saveHTML()
     }
     const QString html = textEdit()->document()->getHtml();
     const QString path =
-        saveReport(this,
-                   {tr("HTML file to save"), database()->defaultOutputPath(QStringLiteral(".html")),
-                    tr("Web pages (*.html *.htm)")},
+        saveOutput({tr("HTML file to save"), QStringLiteral(".html"), tr("Web pages (*.html *.htm)")},
                    [&html] { return html.toUtf8(); });
     if (!path.isEmpty()) {
         setProperty("ExportFileName", path);
@@ -119,7 +157,7 @@ void BOMHTMLView::generatePDF()
     if (!textEdit()->printToPdf(suggested, true, false, painter)) {
         return;
     }
-    appendProjectNotes(painter);
+    appendProjectNotes(painter, database()->currentTemplate());
     painter.end();
     const QString path = textEdit()->finishPdf();
     if (!path.isEmpty() && QFileInfo::exists(path)) {
@@ -135,30 +173,94 @@ void BOMHTMLView::print()
     prepareOutput();
     QPainter painter;
     if (textEdit()->print(painter)) {
-        appendProjectNotes(painter);
+        appendProjectNotes(painter, database()->currentTemplate());
         painter.end();
     }
 }
 
-void BOMHTMLView::appendProjectNotes(QPainter &painter) const
-{
-    APPLNPROCESS *process = getapplnprocess();
-    if (!process || !painter.isActive() || !database()->currentTemplate().appendNotes()) {
-        return;
-    }
-    if (APPLNOBJECT *notes = process->currentobject("PROJNOTES", OBJECT_KIND_PROJECT_NOTES)) {
-        notes->paint(painter, PAINT_MODE_APPEND);
-    }
-}
-
-void BOMHTMLView::onLinkActivated(const QString &link)
+void BOMHTMLView::setPageSize()
 {
     if (!isValid()) {
         return;
     }
-    const QString folder = QFileInfo(database()->designInfo("FILENAME")).absolutePath();
-    const QUrl target = linkTarget(link, folder);
-    if (!target.isEmpty()) {
-        HostUi::current().openUrl(target);
+    TextDocument *document = textEdit()->document();
+    // The document's text has it without what XHTML cannot hold.
+    document->loadCss(database()->currentTemplate().css(), false);
+    textEdit()->pageSetup();
+    const QString css = document->getCss().trimmed();
+    if (css == database()->currentTemplate().css().trimmed()) {
+        return;
     }
+    BOMTemplate changed = database()->currentTemplate();
+    changed.setCss(css);
+    takeTemplate(changed);
+    handleBOMDataUpdate();
+}
+
+void BOMHTMLView::editStyleTemplate()
+{
+    if (!isValid()) {
+        return;
+    }
+    if (!m_styleEditor) {
+        makeStyleEditor();
+    }
+    m_styleEditor->loadCSS(database()->currentTemplate().css());
+    const bool isAccepted = m_styleEditor->run();
+    textEdit()->document()->highlightSelector({});
+    if (isAccepted) {
+        BOMTemplate changed = database()->currentTemplate();
+        changed.setCss(m_styleEditor->getCSS());
+        takeTemplate(changed);
+    }
+    handleBOMDataUpdate();
+}
+
+void BOMHTMLView::makeStyleEditor()
+{
+    m_styleEditor = new TextStyleEditor(this);
+    m_styleEditor->hideUserStyles();
+    connect(m_styleEditor, &TextStyleEditor::resetCSS, this, &BOMHTMLView::resetCSS);
+    TextDocument *document = textEdit()->document();
+    connect(m_styleEditor, qOverload<const QString &, bool>(&TextStyleEditor::currentStyleChanged), document,
+            &TextDocument::loadCss);
+    connect(m_styleEditor, &TextStyleEditor::currentSelectorChanged, document,
+            &TextDocument::highlightSelector);
+    // The report is made anew in any case; going back to its old look first would take its time.
+    connect(m_styleEditor, &QDialog::finished, document, &TextDocument::suspend);
+}
+
+void BOMHTMLView::resetCSS()
+{
+    if (m_styleEditor) {
+        m_styleEditor->loadCSS(defaultStyleSheet());
+    }
+}
+
+void BOMHTMLView::editTemplate()
+{
+    if (!isValid()) {
+        return;
+    }
+    if (!m_templateEditor) {
+        m_templateEditor = new BOMTemplateEditor(textEdit(), this);
+    }
+    BOMTemplate changed = database()->currentTemplate();
+    m_templateEditor->setCSS(changed.css());
+    m_templateEditor->setHeader(changed.documentHeader());
+    m_templateEditor->setFooter(changed.documentFooter());
+    if (!m_templateEditor->run()) {
+        return;
+    }
+    changed.setDocumentHeader(m_templateEditor->header());
+    changed.setDocumentFooter(m_templateEditor->footer());
+    changed.setCss(m_templateEditor->css());
+    takeTemplate(changed);
+    handleBOMDataUpdate();
+}
+
+void BOMHTMLView::takeTemplate(const BOMTemplate &changed)
+{
+    database()->setTemplateLook(changed);
+    Q_EMIT currentTemplateModified(true);
 }

@@ -9,7 +9,6 @@
 
 class BOMTemplate;
 class BOMTemplateEditor;
-class QPainter;
 class TextEdit;
 class TextStyleEditor;
 
@@ -20,14 +19,9 @@ class BOMHTMLView final : public BOMView
 
 public:
     explicit BOMHTMLView(QWidget *parent = nullptr);
-    ~BOMHTMLView() override;
 
-    /// The whole document; empty without a database. Needs no window.
+    /// The whole document; empty without a database.
     [[nodiscard]] QString html();
-
-    /// The document as a PDF file, with the project notes where the template appends them; empty without a
-    /// database.
-    [[nodiscard]] QByteArray pdf();
 
     /// What shows the document, made at the first request.
     [[nodiscard]] TextEdit *textEdit();
@@ -35,6 +29,11 @@ public:
     /// Cells hold XHTML. The references can be wrapped after every comma.
     [[nodiscard]] QList<QStringList> categoryRows(const QString &category, bool grouped, int width,
                                                   int lines) const override;
+    /// A formatted value is XHTML, with the link of the part where the field shows links.
+    [[nodiscard]] QString fieldValue(const QString &reference, const QString &fieldName,
+                                     bool formatted) const override;
+    /// Cut to the field's width, as XHTML.
+    [[nodiscard]] QString formatFieldValue(const QString &value, const QString &fieldName) const override;
 
     /// Escaped for XHTML; with `allowMarkup` tidied markup, where it can be tidied.
     [[nodiscard]] static QString htmlText(const QString &text, bool allowMarkup);
@@ -62,31 +61,14 @@ public Q_SLOTS:
     /// Opens a link of the report.
     void onLinkActivated(const QString &link);
 
-protected:
-    [[nodiscard]] QString cellText(const Part &part, const ReportColumn &column,
-                                   bool formatted) const override;
-    [[nodiscard]] QString formatCell(const QString &value, const ReportColumn &column) const override;
-
 private:
-    [[nodiscard]] QString headerTable() const;
-    void appendCategories(QString &html) const;
-    void appendCategory(QString &html, const QString &category, const QString &headingRow) const;
-    void appendRows(QString &html, const QString &category) const;
-    void appendTotals(QString &html) const;
-    [[nodiscard]] QStringList headings() const;
-    [[nodiscard]] QString headingRow() const;
-    [[nodiscard]] QList<int> manualWidths() const;
-    [[nodiscard]] QString referencesCell(const QString &references) const;
-    [[nodiscard]] QString documentTitle() const;
-    /// An old template's HTML file becomes its header and footer, once.
-    void upgradeTemplate();
+    void makeTextEdit();
+    void makeStyleEditor();
+    void prepareOutput();
     /// Takes the changed template as the working one, marked modified.
     void takeTemplate(const BOMTemplate &changed);
-    void prepareOutput();
-    void appendProjectNotes(QPainter &painter) const;
 
     TextEdit *m_textEdit = nullptr;
     TextStyleEditor *m_styleEditor = nullptr;
     BOMTemplateEditor *m_templateEditor = nullptr;
-    QString m_referenceSeparator;
 };

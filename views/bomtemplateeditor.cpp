@@ -9,7 +9,7 @@
 #include "richtext/paper/pagegeometry.h"
 #include "richtext/xhtml/xhtmlparts.h"
 #include "ui_bomtemplateeditor.h"
-#include "views/report/htmltext.h"
+#include "views/report/htmlreport.h"
 
 #include <QPushButton>
 #include <QTabBar>

@@ -2,34 +2,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/groupedlines.h"
 #include "templates/bomfields.h"
-#include "views/report/reportcolumn.h"
+#include "views/report/report.h"
 
+#include <QByteArray>
 #include <QList>
-#include <QLocale>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
 
 #include <functional>
-#include <limits>
 #include <optional>
-#include <vector>
 
 class BOMPartsDatabase;
 
-/// The base of all reports: turns the lines of the parts database into rows of texts, which a subclass lays
-/// out. Without a database everything is empty.
+/// The base of the windows of all reports: gives the rows of a Report as texts and saves outputs. Without a
+/// database everything is empty.
 /// A row is quantity, references and one value per field; ungrouped, the reference and one value per field.
 class BOMView : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// As `width` of a row: the references are neither cut nor wrapped, however many there are.
-    static constexpr int UnlimitedWidth = std::numeric_limits<int>::max();
-
     explicit BOMView(QWidget *parent = nullptr);
     ~BOMView() override;
 
@@ -38,7 +32,7 @@ public:
 
     /// The rows of a category by their first references; of rows with equal ones the last stays. `grouped`:
     /// one row per line, else one per part. The references of a line are listed within `lines` text lines of
-    /// `width` characters.
+    /// `width` characters. Values are those of fieldValue().
     [[nodiscard]] virtual QList<QStringList> categoryRows(const QString &category, bool grouped, int width,
                                                           int lines) const;
 
@@ -50,13 +44,13 @@ public:
     /// Takes over the fields of the template as they are now. Every report begins with it.
     virtual void updateFields();
 
-    /// A cell by names, for the reader of single cells. Empty for a field that the report does not have. The
-    /// text is that of cellText().
+    /// The value of a part in a field, `formatted` as by formatFieldValue(). Empty for a field that the
+    /// report does not have.
     [[nodiscard]] virtual QString fieldValue(const QString &reference, const QString &fieldName,
-                                             bool formatted) const final;
-    /// The text of formatCell(), or the value as it is when the report does not have the field.
-    [[nodiscard]] virtual QString formatFieldValue(const QString &value,
-                                                   const QString &fieldName) const final;
+                                             bool formatted) const;
+    /// A value as the report shows it: numbers in the user's format, prefix and suffix around it. The value
+    /// as it is when the report does not have the field.
+    [[nodiscard]] virtual QString formatFieldValue(const QString &value, const QString &fieldName) const;
 
     /// Takes the VALUE column out of the report where the template says so.
     void removeValueField();
@@ -70,46 +64,31 @@ public:
     [[nodiscard]] QString truncateToFieldWidth(const QString &value, const QString &fieldName) const;
 
 protected:
-    /// The text of one cell. Rows are made of these: a report with other cells overrides it, not
-    /// fieldValue().
-    [[nodiscard]] virtual QString cellText(const Part &part, const ReportColumn &column,
-                                           bool formatted) const;
-    /// A value as the report shows it: numbers in the user's format, prefix and suffix around it.
-    [[nodiscard]] virtual QString formatCell(const QString &value, const ReportColumn &column) const;
-
-    /// The number that a cell shows; nothing for text, quoted numbers too.
-    [[nodiscard]] std::optional<double> shownNumber(const QString &value, const ReportColumn &column) const;
-
-    /// Adds the totals of a category, one per field; 0 for a field without totals.
-    void addToSums(const QString &category, std::vector<double> &sums) const;
-    /// Such totals as the report shows them.
-    [[nodiscard]] QStringList totalsRow(const std::vector<double> &sums) const;
-
-    [[nodiscard]] static QString truncated(const QString &value, const BOMField &field);
-
-    [[nodiscard]] bool isValid() const { return m_isValid; }
+    [[nodiscard]] bool isValid() const { return m_database != nullptr; }
     [[nodiscard]] BOMPartsDatabase *database() const { return m_database; }
-    [[nodiscard]] const BOMFields &fields() const { return m_fields; }
 
-    /// The fields in column order.
-    [[nodiscard]] const std::vector<ReportColumn> &columns() const;
-    /// Null for a field that the report does not have.
-    [[nodiscard]] const ReportColumn *column(const QString &fieldName) const;
+    /// The report with the fields as updateFields() and removeValueField() left them. There must be a
+    /// database.
+    [[nodiscard]] const Report &report() const;
+    /// The report as programs read it, with the template's fields as they are now.
+    [[nodiscard]] const Report &dataReport();
 
-    /// As categoryRows(), one row after the other.
-    void visitRows(const QString &category, bool grouped, int width, int lines,
-                   const std::function<void(const QStringList &)> &visit) const;
+    /// What the user is asked when an output is to be saved.
+    struct SaveRequest
+    {
+        QString caption;
+        /// With its dot.
+        QString extension;
+        QString filter;
+    };
+    /// Asks for a file, writes what `content` makes and hands the file to the desktop. The user is told when
+    /// it cannot be written; the old file then stays. Returns the file, empty when none was written.
+    QString saveOutput(const SaveRequest &request, const std::function<QByteArray()> &content);
 
 private:
-    [[nodiscard]] std::optional<double> readNumber(const QString &text) const;
-    [[nodiscard]] QString numberText(double number, const BOMField &field) const;
-
     BOMPartsDatabase *m_database = nullptr;
     BOMFields m_fields;
-    bool m_isValid = false;
-    QLocale m_locale;
-    mutable std::vector<ReportColumn> m_columns;
-    /// The definitions that the columns were made with.
-    mutable quint64 m_columnsGeneration = 0;
-    mutable bool m_hasColumns = false;
+    /// Made when it is asked for, and anew when the property definitions have changed since.
+    mutable std::optional<Report> m_report;
+    mutable quint64 m_generation = 0;
 };

@@ -3,11 +3,10 @@
 #include "views/report/oldhtmltemplate.h"
 
 #include "support/printtext.h"
-#include "support/scriptedui.h"
+#include "support/testfiles.h"
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 
 namespace {
@@ -29,13 +28,9 @@ protected:
     }
     ~OldTemplate() override { qInstallMessageHandler(m_previous); }
 
-    OldHtmlTemplate read(const QByteArray &html)
+    [[nodiscard]] OldHtmlTemplate read(const QByteArray &html)
     {
-        QFile file(m_folder.filePath(QStringLiteral("old #1%20.html")));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(html);
-        file.close();
-        return readOldHtmlTemplate(file.fileName());
+        return readOldHtmlTemplate(writeFile(m_folder.filePath(QStringLiteral("old #1%20.html")), html));
     }
 
     QTemporaryDir m_folder;
@@ -83,15 +78,4 @@ TEST_F(OldTemplate, MendsHostileFiles)
     EXPECT_EQ(read("<div id='customHeader'>a<div id='customFooter'>b</div></div>").footer, QString());
     EXPECT_EQ(read("<p id='customHeader'>&lt;/p&gt; \xF0\x9F\x98\x80<!-- </p> -->z</p>").header,
               QStringLiteral("&lt;/p&gt; \U0001F600<!-- </p> -->z"));
-}
-
-TEST_F(OldTemplate, NamesTheTemplateThatWasUpgraded)
-{
-    ScriptedUi ui;
-    tellTemplateUpgraded(nullptr, QStringLiteral("a%1"));
-    EXPECT_EQ(
-        ui.informations,
-        (QList<ScriptedUi::Message>{
-            {QStringLiteral("BOM Template Upgraded"),
-             QStringLiteral("The BOM template 'a%1' has been upgraded.  Some styling may have changed.")}}));
 }

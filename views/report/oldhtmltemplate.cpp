@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "views/report/oldhtmltemplate.h"
 
+#include "core/bompartsdatabase.h"
 #include "host/framework/hostui.h"
 #include "richtext/xhtml/tidylibwrapper.h"
 #include "richtext/xhtml/xhtmlparts.h"
@@ -17,7 +18,7 @@ constexpr qint64 largest = 16 * 1024 * 1024;
 
 const QString rootStart = QStringLiteral("<root>");
 
-void tellError(const QString &reason)
+void logError(const QString &reason)
 {
     qDebug().noquote().nospace() << "BOM v1 template import error:" << reason;
 }
@@ -56,7 +57,7 @@ OldHtmlTemplate readBody(const QString &xml)
         }
     }
     if (reader.hasError()) {
-        tellError(reader.errorString());
+        logError(reader.errorString());
         return {};
     }
     result.isConverted = true;
@@ -76,24 +77,39 @@ OldHtmlTemplate readOldHtmlTemplate(const QString &path)
         return {};
     }
     if (!file.open(QIODevice::ReadOnly)) {
-        tellError(file.errorString());
+        logError(file.errorString());
         return {};
     }
     const QByteArray bytes = file.read(largest + 1);
     if (bytes.size() > largest) {
-        tellError(tr("The file is too large."));
+        logError(tr("The file is too large."));
         return {};
     }
     TidyLibWrapper tidy;
     const QString xhtml = tidy.tidyHtml(QString::fromUtf8(bytes));
     if (!tidy.errorString().isEmpty()) {
-        tellError(tidy.errorString());
+        logError(tidy.errorString());
         return {};
     }
     return readBody(rootStart + bodyOf(xhtml).toString() + QStringLiteral("</root>"));
 }
 
-void tellTemplateUpgraded(QWidget *parent, const QString &templateName)
+bool upgradeTemplate(BOMPartsDatabase &database)
+{
+    BOMTemplate upgraded = database.currentTemplate();
+    const QString file = upgraded.htmlTemplateFileName();
+    if (file.isEmpty() || !upgraded.documentHeader().isEmpty() || !upgraded.documentFooter().isEmpty()) {
+        return false;
+    }
+    const OldHtmlTemplate old = readOldHtmlTemplate(file);
+    upgraded.setDocumentHeader(old.header);
+    upgraded.setDocumentFooter(old.footer);
+    upgraded.setHtmlTemplateFileName({});
+    database.setTemplateLook(upgraded);
+    return old.isConverted;
+}
+
+void showTemplateUpgraded(QWidget *parent, const QString &templateName)
 {
     HostUi::current().information(
         parent, tr("BOM Template Upgraded"),

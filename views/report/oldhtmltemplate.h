@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class BOMPartsDatabase;
 class QWidget;
 
 /// What an HTML file of an old template holds for the present ones.
@@ -20,5 +21,9 @@ struct OldHtmlTemplate
 /// Reads the file; what is wrong with it is told in debug lines.
 [[nodiscard]] OldHtmlTemplate readOldHtmlTemplate(const QString &path);
 
-/// Tells the user that a template was converted.
-void tellTemplateUpgraded(QWidget *parent, const QString &templateName);
+/// Gives the database's template the header and footer of its old HTML file, once: the template then names no
+/// such file. True when the file was read, so that the template has a new look.
+[[nodiscard]] bool upgradeTemplate(BOMPartsDatabase &database);
+
+/// Says that a template was upgraded.
+void showTemplateUpgraded(QWidget *parent, const QString &templateName);

@@ -23,6 +23,10 @@ constexpr qsizetype widestColumn = 60;
 constexpr qsizetype wrappedAt = 56;
 /// In points.
 constexpr double tallestRow = 409;
+constexpr lxw_color_t greyFill = 0xE4E8EE;
+constexpr lxw_color_t paleFill = 0xF3F5F8;
+constexpr lxw_color_t linkColour = 0x0563C1;
+constexpr double titleSize = 14;
 
 /// XML has no control characters, cells know line feeds only, and a text such as _x0041_ would be read as the
 /// character of that number.
@@ -47,6 +51,57 @@ QByteArray linkBytes(const QUrl &target)
         link.replace(QByteArray(scheme) + ':', QByteArray(scheme) + "%3A");
     }
     return link;
+}
+
+/// Whether long texts go on in further lines of the cell.
+bool isWrapped(CellLook look)
+{
+    return look == CellLook::Heading || look == CellLook::Cell || look == CellLook::Link;
+}
+
+void applyLook(lxw_format *format, CellLook look)
+{
+    format_set_align(format, LXW_ALIGN_VERTICAL_TOP);
+    if (isWrapped(look)) {
+        format_set_text_wrap(format);
+    }
+    switch (look) {
+    case CellLook::Text:
+        format_set_align(format, LXW_ALIGN_LEFT);
+        break;
+    case CellLook::Title:
+        format_set_font_size(format, titleSize);
+        [[fallthrough]];
+    case CellLook::Label:
+        format_set_bold(format);
+        break;
+    case CellLook::Heading:
+        format_set_border(format, LXW_BORDER_THIN);
+        format_set_bg_color(format, greyFill);
+        format_set_bold(format);
+        break;
+    case CellLook::Section:
+        format_set_bg_color(format, paleFill);
+        format_set_bold(format);
+        break;
+    case CellLook::Quantity:
+        format_set_align(format, LXW_ALIGN_CENTER);
+        break;
+    case CellLook::Link:
+        format_set_font_color(format, linkColour);
+        format_set_underline(format, LXW_UNDERLINE_SINGLE);
+        break;
+    case CellLook::Cell:
+        break;
+    case CellLook::SubTotal:
+        format_set_top(format, LXW_BORDER_THIN);
+        format_set_italic(format);
+        break;
+    case CellLook::Total:
+        format_set_top(format, LXW_BORDER_DOUBLE);
+        format_set_bold(format);
+        break;
+    }
 }
 
 /// At least what the number takes in that format: a number in a column too narrow for it is not shown.

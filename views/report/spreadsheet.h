@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "views/report/celllook.h"
-
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QDateTime>
@@ -15,9 +13,25 @@
 #include <map>
 #include <utility>
 
+struct lxw_format;
 struct lxw_workbook;
 struct lxw_worksheet;
 class QUrl;
+
+/// How a cell looks.
+enum class CellLook
+{
+    Text,
+    Title,
+    Label,
+    Heading,
+    Section,
+    Cell,
+    Quantity,
+    Link,
+    SubTotal,
+    Total
+};
 
 /// An .xlsx file that is written row by row, each sheet after the one before. Texts stay texts, whatever they
 /// look like. What the format cannot hold becomes the problem of the whole file.

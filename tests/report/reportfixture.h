@@ -7,19 +7,31 @@
 #include "support/fakeprocess.h"
 #include "support/printtext.h"
 #include "support/scriptedui.h"
+#include "views/report/report.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
 
-/// A database on a design that the test fills, with the default template: Value, Stock Code, Unit Cost.
-class ViewFixture : public testing::Test
+/// A database on a design that the test fills, with the default template but without empty categories. Its
+/// fields are Value, Stock Code and Unit Cost.
+class ReportFixture : public testing::Test
 {
 protected:
-    ViewFixture()
+    ReportFixture()
     {
         database.setNetlist(netlist.cache());
-        database.setCurrentTemplate(BOMTemplate());
+        BOMTemplate settings;
+        settings.setSuppressEmptyCategories(true);
+        database.setCurrentTemplate(settings);
+    }
+
+    /// With all fields, as documents have them.
+    [[nodiscard]] Report report() const { return Report(database, database.currentTemplate().fields()); }
+    /// As outputs for programs have it.
+    [[nodiscard]] Report dataReport() const
+    {
+        return Report(database, dataFields(database.currentTemplate().fields(), database.currentTemplate()));
     }
 
     void changeTemplate(const std::function<void(BOMTemplate &)> &change)

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+class Report;
+
 /// Plain text as content of an XHTML element or attribute: markup characters escaped, characters that XML
 /// lacks as U+FFFD. Clean text is not copied.
 [[nodiscard]] inline QString htmlText(const QString &text)
@@ -13,9 +15,18 @@
     return escapedXmlText(text);
 }
 
+/// XHTML text as a link; the text itself when it is empty or the link is none that may be opened.
+[[nodiscard]] QString htmlLink(const QString &text, const QString &link);
+
+/// References for a cell, which can be wrapped after every comma.
+[[nodiscard]] QString htmlReferences(const QString &references);
+
 /// An XHTML 1.0 Transitional document up to and with its body's start tag. `title` is XHTML text, see
 /// htmlText(); it and the style sheet, see styleElementText(), are taken as they stand.
 [[nodiscard]] QString htmlDocumentStart(const QString &title, const QString &css);
 
 /// What ends a document that was started so.
 [[nodiscard]] QString htmlDocumentEnd();
+
+/// The report as an XHTML document in the template's style, with the template's header and footer.
+[[nodiscard]] QString htmlReport(const Report &report);

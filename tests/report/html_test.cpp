@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "views/report/htmlreport.h"
+
+#include "report/reportfixture.h"
+#include "views/report/reportlink.h"
+
+#include <QRegularExpression>
+#include <QUrl>
+#include <QXmlStreamReader>
+
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+
+namespace {
+
+class Html : public ReportFixture
+{
+protected:
+    /// Every text that matches, first group.
+    [[nodiscard]] QStringList all(const QString &pattern)
+    {
+        QStringList found;
+        const QString html = htmlReport(report());
+        for (const QRegularExpressionMatch &match : QRegularExpression(pattern).globalMatch(html)) {
+            found.append(match.captured(1));
+        }
+        return found;
+    }
+};
+
+TEST_F(Html, NamesNoVariantAndNoNotesWhereThereAreNoneAndAlwaysShowsValues)
+{
+    changeTemplate([](BOMTemplate &settings) { settings.setExcludeValueField(true); });
+    netlist.add("R1", "1k");
+    database.load();
+    EXPECT_EQ(all(u"<p class='headerTitle'>(.*?)</p>"_s).size(), 7);
+    EXPECT_TRUE(all(u"(NotesTitle)'>"_s).isEmpty());
+    EXPECT_EQ(all(u"<p class='fieldHeading'>(Value)<"_s).size(), 1);
+}
+
+TEST_F(Html, GivesManualWidthsByPositionAndNoneBeyondAHundredPercent)
+{
+    netlist.add("R1", "1k");
+    database.load();
+    const auto widthsWith = [this](const QList<int> &fieldWidths) {
+        changeTemplate([&fieldWidths](BOMTemplate &settings) {
+            settings.setManualPrettyLayout(true);
+            settings.setPrettyQuantityWidth(10);
+            settings.setPrettyRefWidth(30);
+            BOMFields fields;
+            for (const int width : fieldWidths) {
+                BOMField field;
+                field.fieldName = QString::number(fields.size());
+                field.propertyName = fields.isEmpty() ? u"VALUE"_s : field.fieldName;
+                field.manualWidth = width;
+                fields.add(field);
+            }
+            settings.setFields(fields);
+        });
+        return all(u"<th( style='width:.*?')?><p class='fieldHeading'>"_s);
+    };
+    const auto style = [](int width) { return u" style='width:"_s + QString::number(width) + u"%'"_s; };
+    EXPECT_THAT(widthsWith({20, 0, 30, 20}),
+                ElementsAre(style(10), style(30), style(20), style(30), QString(), QString()));
+    // What was left out counts all the same.
+    EXPECT_THAT(widthsWith({70, 10}), ElementsAre(style(10), style(30), QString(), QString()));
+    EXPECT_THAT(widthsWith({2000000000, 2000000000, 5}),
+                ElementsAre(style(10), style(30), QString(), QString(), QString()));
+}
+
+TEST(ReportLink, LeadsToFilesAndAddressesOnly)
+{
+    const std::pair<QString, QUrl> cases[] = {
+        {u"docs/a#1 100%.pdf"_s, QUrl::fromLocalFile(u"/designs/amp/docs/a#1 100%.pdf"_s)},
+        {u"https://example.com/x?y=1"_s, QUrl(u"https://example.com/x?y=1"_s)},
+        {u"mailto:a@b.c"_s, QUrl(u"mailto:a@b.c"_s)},
+        {u"/data/x.pdf"_s, QUrl::fromLocalFile(u"/data/x.pdf"_s)},
+        {u"javascript:alert(1)"_s, {}},
+        {u" java\tscript:alert(1)"_s, {}},
+        {u"data:text/html,x"_s, {}},
+        {u""_s, {}},
+    };
+    for (const auto &[link, target] : cases) {
+        EXPECT_EQ(linkTarget(link, u"/designs/amp"_s), target) << link.toStdString();
+    }
+}
+
+TEST(HtmlText, EscapesMarkupAndReplacesWhatXmlLacks)
+{
+    const QString lone = QString(QChar(0xD800)) + u'a' + QChar(0xDC00);
+    EXPECT_EQ(htmlText(u"a<b>\"c\"&'d'\t\r\n\U0001F600"_s + lone + QChar(0xFFFE) + QChar(0x1B)),
+              u"a&lt;b&gt;&quot;c&quot;&amp;'d'\t\r\n\U0001F600\uFFFDa\uFFFD\uFFFD\uFFFD"_s);
+    const QString clean = u"100nF 50V \U0001F600"_s.repeated(3);
+    EXPECT_TRUE(htmlText(clean).isSharedWith(clean));
+    QString everything;
+    for (int unit = 0; unit <= 0xFFFF; ++unit) {
+        everything += QChar(unit);
+    }
+    QXmlStreamReader reader(htmlDocumentStart(htmlText(everything), QString()) + htmlDocumentEnd());
+    while (!reader.atEnd()) {
+        reader.readNext();
+    }
+    EXPECT_FALSE(reader.hasError()) << qPrintable(reader.errorString());
+}
+
+} // namespace

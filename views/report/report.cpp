@@ -1,0 +1,226 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "views/report/report.h"
+
+#include "core/bompartsdatabase.h"
+#include "host/framework/hostui.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int significantDigits = 6;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("BOMView", text);
+}
+
+QString withAffixes(const QString &text, const BOMField &field)
+{
+    return text.isEmpty() && !field.applyToEmpty ? text : field.prefix + text + field.suffix;
+}
+
+/// People write quotes around a number that is to be shown as a text, such as "0805".
+bool isQuoted(const QString &text)
+{
+    return text.startsWith(u'"') && text.endsWith(u'"');
+}
+
+} // namespace
+
+ReportDesign designOf(const BOMPartsDatabase &database)
+{
+    return {database.designTitle(),    database.designAuthor(),        database.designDocumentNumber(),
+            database.designRevision(), database.designCreated(),       database.designModified(),
+            database.designVariant(),  database.designInfo("FILENAME")};
+}
+
+BOMFields dataFields(BOMFields fields, const BOMTemplate &settings)
+{
+    if (settings.excludeValueField()) {
+        for (const BOMField &field : fields.fields()) {
+            if (field.propertyName == valueProperty()) {
+                fields.remove(field.fieldName);
+            }
+        }
+    }
+    return fields;
+}
+
+QString truncatedToWidth(const QString &value, const BOMField &field)
+{
+    const int width = field.fieldWidth;
+    if (width <= 3 || value.size() <= width) {
+        return value;
+    }
+    qsizetype length = width - 3;
+    length -= value[length - 1].isHighSurrogate() ? 1 : 0;
+    return value.first(length) + QLatin1String("...");
+}
+
+Report::Report(const BOMPartsDatabase &database, const BOMFields &fields)
+    : m_database(database)
+    , m_locale(HostUi::current().locale())
+{
+    const PropertyTypes &types = database.propertyTypes();
+    for (const BOMField &field : fields.fields()) {
+        m_columns.push_back(
+            {field, PropertyQuery(field.propertyName, &types), types.isNumeric(field.propertyName)});
+    }
+}
+
+const BOMTemplate &Report::settings() const
+{
+    return m_database.currentTemplate();
+}
+
+const QString &Report::notes() const
+{
+    return m_database.notes();
+}
+
+qsizetype Report::partCount() const
+{
+    return qsizetype(m_database.parts().size());
+}
+
+const ReportColumn *Report::column(const QString &fieldName) const
+{
+    const auto found =
+        std::find_if(m_columns.begin(), m_columns.end(), [&fieldName](const ReportColumn &column) {
+            return column.field.fieldName == fieldName;
+        });
+    return found == m_columns.end() ? nullptr : &*found;
+}
+
+QStringList Report::columnNames() const
+{
+    QStringList names;
+    for (const ReportColumn &column : m_columns) {
+        names << column.field.fieldName;
+    }
+    return names;
+}
+
+QStringList Report::headings(bool withQuantity) const
+{
+    QStringList headings{tr("Category")};
+    if (withQuantity) {
+        headings << tr("Quantity");
+    }
+    headings << tr("References");
+    return headings + columnNames();
+}
+
+QStringList Report::categories() const
+{
+    return m_database.categoryNames();
+}
+
+qsizetype Report::partCount(const QString &category) const
+{
+    return m_database.partCount(category);
+}
+
+ReportLines Report::lines(const QString &category, bool grouped) const
+{
+    return m_database.categories().reportLines(category, grouped);
+}
+
+QString Report::references(BomLine line, int width, int lines) const
+{
+    return m_database.categories().formatReferences(line, width, lines);
+}
+
+QString Report::text(const Part &part, const ReportColumn &column) const
+{
+    return text(part.property(column.property), column);
+}
+
+QString Report::text(const QString &value, const ReportColumn &column) const
+{
+    QString text = value;
+    if (isQuoted(value)) {
+        text = value.mid(1, std::max<qsizetype>(value.size() - 2, 0));
+    } else if (const auto number = shownNumber(value, column)) {
+        text = numberText(*number, column.field);
+    }
+    return withAffixes(text, column.field);
+}
+
+std::optional<double> Report::number(const Part &part, const ReportColumn &column) const
+{
+    return shownNumber(part.property(column.property), column);
+}
+
+QString Report::link(const QString &reference, const ReportColumn &column) const
+{
+    return column.field.enableLinks ? m_database.link(reference, column.field.propertyName) : QString();
+}
+
+Report::Totals Report::subTotals(const QString &category) const
+{
+    Totals totals(m_columns.size());
+    addTotals(category, totals);
+    return totals;
+}
+
+Report::Totals Report::grandTotals() const
+{
+    Totals totals(m_columns.size());
+    for (const QString &category : categories()) {
+        addTotals(category, totals);
+    }
+    return totals;
+}
+
+QStringList Report::texts(const Totals &totals) const
+{
+    QStringList texts;
+    for (size_t i = 0; i < m_columns.size(); ++i) {
+        const BOMField &field = m_columns[i].field;
+        texts << (field.generateTotals ? withAffixes(numberText(totals[i], field), field) : QString());
+    }
+    return texts;
+}
+
+std::optional<double> Report::readNumber(const QString &text) const
+{
+    bool isNumber = false;
+    double number = m_locale.toDouble(text, &isNumber);
+    if (!isNumber) {
+        number = text.toDouble(&isNumber);
+    }
+    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+
+std::optional<double> Report::shownNumber(const QString &value, const ReportColumn &column) const
+{
+    return column.isNumeric && !isQuoted(value) ? readNumber(value) : std::nullopt;
+}
+
+QString Report::numberText(double number, const BOMField &field) const
+{
+    return field.precision < 1 ? m_locale.toString(number, 'g', significantDigits)
+                               : m_locale.toString(number, 'f', std::min(field.precision, MostDecimals));
+}
+
+/// All lines count, those too that another line with an equal first reference keeps out of the report.
+void Report::addTotals(const QString &category, Totals &totals) const
+{
+    const GroupedLines *lines = m_database.categories().groupedLines(category);
+    for (size_t i = 0; i < m_columns.size(); ++i) {
+        if (!m_columns[i].field.generateTotals || !lines) {
+            continue;
+        }
+        for (size_t index = 0; index < lines->lineCount(); ++index) {
+            const BomLine line = lines->line(index);
+            const auto number = readNumber(line.front()->property(m_columns[i].property));
+            totals[i] += number.value_or(0.0) * double(line.size());
+        }
+    }
+}

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/propertyquery.h"
+#include "core/reportlines.h"
+#include "templates/bomfields.h"
+
+#include <QLocale>
+#include <QString>
+#include <QStringList>
+
+#include <limits>
+#include <optional>
+#include <vector>
+
+class BOMPartsDatabase;
+class BOMTemplate;
+
+/// What the design says of itself.
+struct ReportDesign
+{
+    QString title;
+    QString author;
+    QString documentNumber;
+    QString revision;
+    QString created;
+    QString modified;
+    QString variant;
+    /// The path of its file.
+    QString file;
+
+    bool operator==(const ReportDesign &) const = default;
+};
+
+[[nodiscard]] ReportDesign designOf(const BOMPartsDatabase &database);
+
+/// A field of the template with what is needed to fill its column.
+struct ReportColumn
+{
+    BOMField field;
+    PropertyQuery property;
+    /// Whether the property holds numbers.
+    bool isNumeric = false;
+};
+
+/// The fields for outputs that other programs read: without the value field where the template excludes it.
+[[nodiscard]] BOMFields dataFields(BOMFields fields, const BOMTemplate &settings);
+
+/// A value longer than its field's width ends in "...".
+[[nodiscard]] QString truncatedToWidth(const QString &value, const BOMField &field);
+
+/// The bill of materials of a database under its current template: what every writer puts out in its own
+/// form. Nothing is copied: lines are looked at where the database has them, and a text or a total is made
+/// when it is asked for. Serves until the database, the template or the property definitions change.
+class Report final
+{
+public:
+    /// As `width` of references: they are neither cut nor wrapped, however many there are.
+    static constexpr int UnlimitedWidth = std::numeric_limits<int>::max();
+    /// The most decimal places that a number is shown with.
+    static constexpr int MostDecimals = 15;
+
+    /// Numbers are in the format of the host's user.
+    Report(const BOMPartsDatabase &database, const BOMFields &fields);
+
+    [[nodiscard]] ReportDesign design() const { return designOf(m_database); }
+    [[nodiscard]] const BOMTemplate &settings() const;
+    /// The user's notes on the bill.
+    [[nodiscard]] const QString &notes() const;
+    /// Of the whole design.
+    [[nodiscard]] qsizetype partCount() const;
+
+    [[nodiscard]] const std::vector<ReportColumn> &columns() const { return m_columns; }
+    /// Null when there is none of that name.
+    [[nodiscard]] const ReportColumn *column(const QString &fieldName) const;
+    [[nodiscard]] QStringList columnNames() const;
+    /// Category, quantity unless it is not wanted, references, then the names of the columns.
+    [[nodiscard]] QStringList headings(bool withQuantity) const;
+
+    /// The categories that are listed, in their order.
+    [[nodiscard]] QStringList categories() const;
+    [[nodiscard]] qsizetype partCount(const QString &category) const;
+    /// The lines of a category by their first references, or, not grouped, its parts one by one.
+    [[nodiscard]] ReportLines lines(const QString &category, bool grouped) const;
+
+    /// The references of a line as the template lists them, within `lines` text lines of `width` characters.
+    [[nodiscard]] QString references(BomLine line, int width = UnlimitedWidth, int lines = 1) const;
+    /// What the cell of a part shows: numbers in the user's format, prefix and suffix around it.
+    [[nodiscard]] QString text(const Part &part, const ReportColumn &column) const;
+    /// The same for a value of the column's property.
+    [[nodiscard]] QString text(const QString &value, const ReportColumn &column) const;
+    /// The number that the cell shows; nothing for a text, quoted numbers too.
+    [[nodiscard]] std::optional<double> number(const Part &part, const ReportColumn &column) const;
+    /// The link of the cell; empty where the part has none or the field shows none.
+    [[nodiscard]] QString link(const QString &reference, const ReportColumn &column) const;
+
+    /// One number per column, 0 for a column without totals.
+    using Totals = std::vector<double>;
+    [[nodiscard]] Totals subTotals(const QString &category) const;
+    [[nodiscard]] Totals grandTotals() const;
+    /// One text per column, empty for a column without totals.
+    [[nodiscard]] QStringList texts(const Totals &totals) const;
+
+private:
+    [[nodiscard]] std::optional<double> readNumber(const QString &text) const;
+    [[nodiscard]] std::optional<double> shownNumber(const QString &value, const ReportColumn &column) const;
+    [[nodiscard]] QString numberText(double number, const BOMField &field) const;
+    void addTotals(const QString &category, Totals &totals) const;
+
+    const BOMPartsDatabase &m_database;
+    QLocale m_locale;
+    std::vector<ReportColumn> m_columns;
+};

@@ -1,0 +1,300 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "views/report/spreadsheetreport.h"
+
+#include "core/part.h"
+#include "host/framework/hostui.h"
+#include "views/report/report.h"
+#include "views/report/reportlink.h"
+#include "views/report/spreadsheet.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+namespace {
+
+constexpr int categoryColumn = 0;
+constexpr int quantityColumn = 1;
+constexpr int referencesColumn = 2;
+constexpr int firstField = 3;
+
+QString tr(const char *text, const char *comment = nullptr)
+{
+    return QCoreApplication::translate("BOMExcelView", text, comment);
+}
+
+QString titleOf(const ReportDesign &design)
+{
+    return tr("Bill Of Materials for ") + design.title;
+}
+
+/// In double quotes; those of the text itself stand between, behind a backslash.
+QString literal(const QString &text)
+{
+    QStringList pieces = text.split(u'"');
+    for (QString &piece : pieces) {
+        if (!piece.isEmpty()) {
+            piece = u'"' + piece + u'"';
+        }
+    }
+    return pieces.join(QLatin1String("\\\""));
+}
+
+struct Information
+{
+    QString label;
+    QString value;
+};
+
+/// Writes the rows of a report into a spreadsheet, from the top down.
+class SpreadsheetWriter final
+{
+public:
+    SpreadsheetWriter(const Report &report, Spreadsheet &sheet);
+    void write();
+
+private:
+    struct Column
+    {
+        const ReportColumn *report = nullptr;
+        /// Of the numbers; empty where no format does and all cells are texts.
+        QString format;
+    };
+    /// Where the lines of one category stand, or those of all.
+    struct Block
+    {
+        int firstRow = 0;
+        int lastRow = -1;
+        /// Whether the rows hold all that the totals count.
+        bool isComplete = true;
+    };
+
+    [[nodiscard]] int lastColumn() const { return firstField + int(m_columns.size()) - 1; }
+    void fillRow(int first, CellLook look);
+    void writeTitleBlock();
+    void writeInformation(const Information &left, const Information &right);
+    void writeHeadings();
+    Block writeCategory(const QString &category);
+    void writeLine(const QString &category, BomLine line);
+    void writeValue(int column, const Part &part);
+    void writeReferences(const QString &references);
+    void writeTotals(const QString &label, const Report::Totals &totals, const Block &block, CellLook look);
+    void writeNotes();
+
+    const Report &m_report;
+    Spreadsheet &m_sheet;
+    ReportDesign m_design;
+    QString m_designFolder;
+    std::vector<Column> m_columns;
+};
+
+SpreadsheetWriter::SpreadsheetWriter(const Report &report, Spreadsheet &sheet)
+    : m_report(report)
+    , m_sheet(sheet)
+    , m_design(report.design())
+    , m_designFolder(QFileInfo(m_design.file).absolutePath())
+{
+    for (const ReportColumn &column : report.columns()) {
+        const QString format = numberFormat(column.field);
+        m_columns.push_back({&column, Spreadsheet::holdsFormat(format) ? format : QString()});
+    }
+}
+
+void SpreadsheetWriter::write()
+{
+    m_sheet.beginSheet(tr("Bill Of Materials"));
+    writeTitleBlock();
+    writeHeadings();
+    const int headings = m_sheet.row();
+    Block all{headings + 1, headings, true};
+    for (const QString &category : m_report.categories()) {
+        const Block block = writeCategory(category);
+        all.isComplete = all.isComplete && block.isComplete;
+    }
+    all.lastRow = m_sheet.row();
+    m_sheet.freezeRow(headings, lastColumn(), all.lastRow);
+    m_sheet.nextRow();
+    writeTotals(tr("Totals:"), m_report.grandTotals(), all, CellLook::Total);
+    writeNotes();
+}
+
+void SpreadsheetWriter::fillRow(int first, CellLook look)
+{
+    for (int column = first; column <= lastColumn(); ++column) {
+        m_sheet.text(column, {}, look);
+    }
+}
+
+void SpreadsheetWriter::writeTitleBlock()
+{
+    m_sheet.text(categoryColumn, titleOf(m_design), CellLook::Title);
+    writeInformation({tr("Design Title"), m_design.title}, {tr("Author"), m_design.author});
+    writeInformation({tr("Document Number"), m_design.documentNumber},
+                     {tr("Design Created"), m_design.created});
+    writeInformation({tr("Revision"), m_design.revision}, {tr("Design Last Modified"), m_design.modified});
+    const QString variantLabel = m_design.variant.isEmpty() ? QString() : tr("Assembly Variant");
+    writeInformation({tr("Total Parts In Design"), {}}, {variantLabel, m_design.variant});
+    m_sheet.number(quantityColumn, double(m_report.partCount()), CellLook::Text);
+}
+
+/// Two of the title block, side by side.
+void SpreadsheetWriter::writeInformation(const Information &left, const Information &right)
+{
+    m_sheet.nextRow();
+    m_sheet.text(categoryColumn, left.label, CellLook::Label);
+    m_sheet.text(quantityColumn, left.value, CellLook::Text);
+    m_sheet.text(firstField, right.label, CellLook::Label);
+    m_sheet.text(firstField + 1, right.value, CellLook::Text);
+}
+
+void SpreadsheetWriter::writeHeadings()
+{
+    m_sheet.nextRow();
+    int column = 0;
+    for (const QString &heading : m_report.headings(true)) {
+        m_sheet.text(column++, heading, CellLook::Heading);
+    }
+}
+
+SpreadsheetWriter::Block SpreadsheetWriter::writeCategory(const QString &category)
+{
+    m_sheet.nextRow();
+    const QString count = QString::number(m_report.partCount(category));
+    m_sheet.text(categoryColumn, tr("%1 %2", "BOM category headings in spreadsheets").arg(count, category),
+                 CellLook::Section);
+    fillRow(categoryColumn + 1, CellLook::Section);
+    const ReportLines listed = m_report.lines(category, true);
+    Block block;
+    block.firstRow = m_sheet.row() + 1;
+    block.isComplete = listed.replaced.isEmpty();
+    for (const BomLine line : listed.lines) {
+        writeLine(category, line);
+    }
+    block.lastRow = m_sheet.row();
+    m_sheet.nextRow();
+    writeTotals(tr("Sub-totals:"), m_report.subTotals(category), block, CellLook::SubTotal);
+    return block;
+}
+
+void SpreadsheetWriter::writeLine(const QString &category, BomLine line)
+{
+    m_sheet.nextRow();
+    m_sheet.text(categoryColumn, category, CellLook::Cell);
+    m_sheet.number(quantityColumn, double(line.size()), CellLook::Quantity);
+    for (int i = 0; i < int(m_columns.size()); ++i) {
+        writeValue(i, *line.front());
+    }
+    writeReferences(m_report.references(line));
+}
+
+void SpreadsheetWriter::writeValue(int column, const Part &part)
+{
+    const auto &[report, format] = m_columns[size_t(column)];
+    const int at = firstField + column;
+    const auto number = format.isEmpty() ? std::nullopt : m_report.number(part, *report);
+    const QString text = number ? QString() : m_report.text(part, *report);
+    CellLook look = CellLook::Cell;
+    if (report->field.enableLinks && (number || !text.isEmpty())) {
+        const QUrl target = linkTarget(m_report.link(part.reference(), *report), m_designFolder);
+        if (!target.isEmpty() && m_sheet.link(at, target)) {
+            look = CellLook::Link;
+        }
+    }
+    if (number) {
+        m_sheet.number(at, *number, look, format);
+    } else {
+        // Old programs do not show long texts in this format.
+        constexpr qsizetype longestTyped = 255;
+        const bool isTyped = !report->isNumeric && text.size() <= longestTyped;
+        m_sheet.text(at, text, look, isTyped ? Spreadsheet::textFormat() : QString());
+    }
+}
+
+/// What one cell cannot hold goes on in rows below, whose quantity is empty.
+void SpreadsheetWriter::writeReferences(const QString &references)
+{
+    QStringView rest = references;
+    while (rest.size() > Spreadsheet::MostCharacters) {
+        const qsizetype comma = rest.first(Spreadsheet::MostCharacters).lastIndexOf(u',');
+        if (comma < 0) {
+            break;
+        }
+        m_sheet.text(referencesColumn, rest.first(comma + 1).toString(), CellLook::Cell);
+        rest = rest.mid(comma + 1);
+        m_sheet.nextRow();
+    }
+    m_sheet.text(referencesColumn, rest.toString(), CellLook::Cell);
+}
+
+/// A formula only where it gives the report's figure: the cells are numbers, and every line that counts has
+/// a row. Otherwise the figure itself.
+void SpreadsheetWriter::writeTotals(const QString &label, const Report::Totals &totals, const Block &block,
+                                    CellLook look)
+{
+    m_sheet.text(categoryColumn, label, look);
+    fillRow(quantityColumn, look);
+    const QStringList texts = m_report.texts(totals);
+    const QString quantities =
+        Spreadsheet::range(block.firstRow, quantityColumn, block.lastRow, quantityColumn);
+    for (int i = 0; i < int(m_columns.size()); ++i) {
+        const auto &[report, format] = m_columns[size_t(i)];
+        const int at = firstField + i;
+        if (!report->field.generateTotals) {
+            continue;
+        }
+        if (format.isEmpty()) {
+            m_sheet.text(at, texts.at(i), look);
+        } else if (report->isNumeric && block.isComplete && block.firstRow <= block.lastRow) {
+            const QString costs = Spreadsheet::range(block.firstRow, at, block.lastRow, at);
+            m_sheet.formula(at, QStringLiteral("=SUMPRODUCT(") + quantities + u',' + costs + u')',
+                            totals[size_t(i)], look, format);
+        } else {
+            m_sheet.number(at, totals[size_t(i)], look, format);
+        }
+    }
+}
+
+void SpreadsheetWriter::writeNotes()
+{
+    const QString &notes = m_report.notes();
+    if (notes.trimmed().isEmpty()) {
+        return;
+    }
+    m_sheet.beginSheet(tr("Notes"));
+    m_sheet.text(0, tr("Notes"), CellLook::Title);
+    for (const QString &line : notes.split(u'\n')) {
+        m_sheet.nextRow();
+        m_sheet.text(0, line, CellLook::Text);
+    }
+}
+
+} // namespace
+
+SpreadsheetReport spreadsheetReport(const Report &report)
+{
+    const ReportDesign design = report.design();
+    Spreadsheet sheet({titleOf(design), design.author, HostUi::current().now()});
+    SpreadsheetWriter(report, sheet).write();
+    const QByteArray file = sheet.bytes();
+    return {file, sheet.problem(), sheet.notices()};
+}
+
+QString numberFormat(const BOMField &field)
+{
+    const int decimals = std::min(field.precision, Report::MostDecimals);
+    const QString digits =
+        decimals < 1 ? QStringLiteral("General") : QStringLiteral("0.") + QString(decimals, u'0');
+    const QString prefix = literal(field.prefix);
+    const QString positive = prefix + digits + literal(field.suffix);
+    const QString affixes = field.prefix + field.suffix;
+    if (affixes.contains(u'"')) {
+        // Some programs lose count of the quotes, and then take a semicolon for the end of a section.
+        return affixes.contains(u';') ? QString() : positive;
+    }
+    // Left alone, a spreadsheet puts the minus sign in front of the prefix.
+    return prefix.isEmpty() ? positive : positive + u';' + prefix + u'-' + digits + literal(field.suffix);
+}
