@@ -1,11 +1,31 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "cli/program.h"
+#include "cli/applycommand.h"
+#include "cli/checkcommand.h"
+#include "cli/console.h"
+#include "cli/partscommand.h"
+#include "cli/reportcommand.h"
+#include "cli/setcommand.h"
+#include "cli/templatechoice.h"
+#include "cli/templatecommand.h"
+#include "cli/undocommand.h"
+#include "standalone/environment.h"
+
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+
+#include <QGuiApplication>
+#include <QHashFunctions>
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+#include <memory>
+#include <optional>
+#include <sstream>
 
 #include <fcntl.h>
 #include <unistd.h>
-
-#include <initializer_list>
 
 namespace {
 
@@ -19,10 +39,108 @@ void occupyClosedStreams()
     }
 }
 
+/// Help and version go to standard output; what is wrong goes, as one line, to standard error.
+ExitStatus printParseResult(const CLI::App &program, const CLI::ParseError &result)
+{
+    if (result.get_exit_code() == int(CLI::ExitCodes::Success)) {
+        std::ostringstream text;
+        std::ostringstream none;
+        (void)program.exit(result, text, none);
+        return console::write(QByteArray::fromStdString(text.str())) ? ExitStatus::Done
+                                                                     : ExitStatus::UnwritableOutput;
+    }
+    console::message(QString::fromStdString(result.what()) + QStringLiteral(" (bom --help tells more)"));
+    return ExitStatus::WrongUsage;
+}
+
+ExitStatus printUnknownWord(const QString &word)
+{
+    constexpr qsizetype longestWord = 40;
+    console::message((word.startsWith(u'-') ? QStringLiteral("there is no option \"")
+                                            : QStringLiteral("there is no command \"")) +
+                     word.left(longestWord) + QStringLiteral("\" (bom --help tells more)"));
+    return ExitStatus::WrongUsage;
+}
+
+/// Nothing when the command line is well formed.
+std::optional<ExitStatus> parse(CLI::App &program, int argc, char *argv[])
+{
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::RequiredError &result) {
+        if (program.get_subcommands().empty() && argc > 1) {
+            return printUnknownWord(QString::fromLocal8Bit(argv[1]));
+        }
+        return printParseResult(program, result);
+    } catch (const CLI::ParseError &result) {
+        return printParseResult(program, result);
+    }
+    return std::nullopt;
+}
+
+/// The libraries' own remarks are no messages of this program; BOM_DEBUG shows them.
+void handleLibraryMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    static const bool isShown = !qEnvironmentVariableIsEmpty("BOM_DEBUG");
+    if (isShown || type == QtCriticalMsg || type == QtFatalMsg) {
+        console::message(text);
+    }
+}
+
+/// Painting takes a platform, though nothing is shown.
+std::unique_ptr<QCoreApplication> makeApplication(bool paints, int &argc, char *argv[])
+{
+    if (!paints) {
+        return std::make_unique<QCoreApplication>(argc, argv);
+    }
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+/// Runs the command; its options have been read.
+ExitStatus run(Command &command, char *argv[])
+{
+    // PDF files name the zone of their time of creation, in as many characters as it takes.
+    if (sourceDateEpoch()) {
+        qputenv("TZ", "UTC0");
+    }
+    qInstallMessageHandler(handleLibraryMessage);
+    int argc = 1; // The program's own options are none of Qt's.
+    const auto application = makeApplication(command.paints(), argc, argv);
+    prepareTemplates();
+    return command.run();
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
     occupyClosedStreams();
-    return runProgram(argc, argv);
+    // PDF files list their fonts in the order of a hash.
+    if (sourceDateEpoch()) {
+        QHashSeed::setDeterministicGlobalSeed();
+    }
+    ReportCommand report;
+    PartsCommand parts;
+    CheckCommand check;
+    SetCommand set;
+    ApplyCommand apply;
+    UndoCommand undo;
+    TemplateCommand templates;
+    const std::array<Command *, 7> commands{&report, &parts, &check, &set, &apply, &undo, &templates};
+
+    CLI::App program("Bills of materials from KiCad designs and CSV part lists.", "bom");
+    program.set_version_flag("--version", "bom " BOM_VERSION);
+    program.require_subcommand(1);
+    for (Command *command : commands) {
+        command->addTo(program);
+    }
+    if (const auto status = parse(program, argc, argv)) {
+        return int(*status);
+    }
+    const auto chosen = std::find_if(commands.begin(), commands.end(),
+                                     [](const Command *command) { return command->isChosen(); });
+    return int(chosen == commands.end() ? ExitStatus::WrongUsage : run(**chosen, argv));
 }
