@@ -5,17 +5,129 @@
 #include "cli/cliui.h"
 #include "cli/console.h"
 #include "cli/designarguments.h"
-#include "cli/legacyimportaction.h"
 #include "cli/outputfile.h"
 #include "cli/templatechoice.h"
-#include "cli/templatelisting.h"
+#include "host/propdefs/propdefsfile.h"
+#include "standalone/environment.h"
 #include "templates/bomtemplatefile.h"
+#include "templates/legacytemplate.h"
 #include "templates/templatepaths.h"
 #include "templates/templatestore.h"
 
 #include <CLI/Validators.hpp>
 
+#include <QDir>
 #include <QFileInfo>
+
+#include <optional>
+#include <utility>
+
+namespace {
+
+QString quoted(const QString &text)
+{
+    return u'"' + printable(text) + u'"';
+}
+
+QString line(const QString &label, const QString &text)
+{
+    return label + QStringLiteral(": ") + text + u'\n';
+}
+
+QString yesNo(bool isSet)
+{
+    return isSet ? QStringLiteral("yes") : QStringLiteral("no");
+}
+
+QString columnText(const BOMField &field)
+{
+    QStringList parts;
+    if (!field.prefix.isEmpty()) {
+        parts << QStringLiteral("prefix ") + quoted(field.prefix);
+    }
+    if (!field.suffix.isEmpty()) {
+        parts << QStringLiteral("suffix ") + quoted(field.suffix);
+    }
+    if (field.applyToEmpty) {
+        parts << QStringLiteral("on empty values too");
+    }
+    if (field.generateTotals) {
+        parts << QStringLiteral("totals with ") +
+                     counted(field.precision, QStringLiteral("decimal"), QStringLiteral("decimals"));
+    }
+    if (field.enableLinks) {
+        parts << QStringLiteral("links");
+    }
+    if (field.fieldWidth > 0) {
+        parts << QStringLiteral("at most ") +
+                     counted(field.fieldWidth, QStringLiteral("character"), QStringLiteral("characters"));
+    }
+    parts.prepend(printable(field.propertyName));
+    return parts.join(QStringLiteral(", "));
+}
+
+QString categoryText(const BOMCategory &category)
+{
+    return category.isMiscCategory ? QStringLiteral("all other parts")
+                                   : printable(category.references.join(QStringLiteral(", ")));
+}
+
+QString htmlText(const BOMTemplate &settings)
+{
+    QString text =
+        line(QStringLiteral("Style sheet"),
+             settings.css() == defaultStyleSheet() ? QStringLiteral("default") : QStringLiteral("its own"));
+    const std::pair<QString, QString> fragments[] = {
+        {QStringLiteral("Document header"), settings.documentHeader()},
+        {QStringLiteral("Document footer"), settings.documentFooter()},
+        {QStringLiteral("Page header"), settings.pageHeader()},
+        {QStringLiteral("Page footer"), settings.pageFooter()}};
+    for (const auto &[label, fragment] : fragments) {
+        if (!fragment.isEmpty()) {
+            text += line(label, printable(fragment));
+        }
+    }
+    return text;
+}
+
+QString optionsText(const BOMTemplate &settings)
+{
+    return line(QStringLiteral("References"), settings.groupReferences()
+                                                  ? QStringLiteral("shortened (R1-R7)")
+                                                  : QStringLiteral("individual (R1,R2...)")) +
+           line(QStringLiteral("Suppress empty categories"), yesNo(settings.suppressEmptyCategories())) +
+           line(QStringLiteral("Case sensitive part grouping"), yesNo(settings.caseSensitiveGrouping())) +
+           line(QStringLiteral("Append notes"), yesNo(settings.appendNotes())) +
+           line(QStringLiteral("Manual table column widths"), yesNo(settings.manualPrettyLayout())) +
+           line(QStringLiteral("Always quote references (CSV only)"), yesNo(settings.alwaysQuoteRefs())) +
+           line(QStringLiteral("Exclude value field (data outputs)"), yesNo(settings.excludeValueField()));
+}
+
+QString placeText(const BOMTemplate &settings)
+{
+    const QString path = settings.filePath();
+    if (isShippedTemplateFile(path)) {
+        return QStringLiteral("comes with the program");
+    }
+    return QFile::exists(path) ? printable(QDir::toNativeSeparators(path)) : QStringLiteral("none yet");
+}
+
+/// The settings for people to read: columns, categories, options; one a line.
+QString templateListing(const BOMTemplate &settings)
+{
+    QString text = line(QStringLiteral("Template"), printable(settings.name())) +
+                   line(QStringLiteral("File"), placeText(settings)) + QStringLiteral("Columns:\n");
+    for (const BOMField &field : settings.fields().fields()) {
+        text += QStringLiteral("  ") + line(printable(field.fieldName), columnText(field));
+    }
+    text += QStringLiteral("Categories:\n");
+    for (const BOMCategory &category : settings.categories()) {
+        text += QStringLiteral("  ") + line(printable(category.heading), categoryText(category));
+    }
+    return text + optionsText(settings) + htmlText(settings);
+}
+
+} // namespace
 
 void TemplateCommand::addTo(CLI::App &program)
 {
@@ -155,8 +267,32 @@ ExitStatus TemplateCommand::importFile(TemplateStore &store)
 
 ExitStatus TemplateCommand::importLegacy(TemplateStore &store)
 {
-    return importLegacyScript(store, QString::fromStdString(m_file), QString::fromStdString(m_script),
-                              QString::fromStdString(m_name));
+    QStringList problems;
+    const std::optional<LegacyScript> found =
+        readLegacyScript(QString::fromStdString(m_file), QString::fromStdString(m_script), &problems);
+    for (const QString &problem : std::as_const(problems)) {
+        console::message(problem);
+    }
+    if (!found) {
+        return ExitStatus::UnreadableInput;
+    }
+    store.reload();
+    BOMTemplate made = legacyTemplate(*found);
+    made.setName(m_name.empty() ? proposedTemplateName(found->name, store)
+                                : QString::fromStdString(m_name).trimmed());
+    if (!store.mayCreate(made.name())) {
+        return ExitStatus::DesignProblem;
+    }
+    if (!store.add(made)) {
+        return ExitStatus::UnwritableOutput;
+    }
+    setpropdefsfile(userDefinitionsFile());
+    const QStringList undefined = undefinedProperties(made);
+    if (!undefined.isEmpty()) {
+        console::message(QStringLiteral("properties without a definition: ") +
+                         undefined.join(QLatin1String(", ")));
+    }
+    return console::write(made.name().toUtf8() + '\n') ? ExitStatus::Done : ExitStatus::UnwritableOutput;
 }
 
 ExitStatus TemplateCommand::exportFile(TemplateStore &store)

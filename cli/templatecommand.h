@@ -29,6 +29,7 @@ private:
     [[nodiscard]] ExitStatus remove(TemplateStore &store);
     [[nodiscard]] ExitStatus reset(TemplateStore &store);
     [[nodiscard]] ExitStatus importFile(TemplateStore &store);
+    /// Says what the file lacks and which properties have no definition.
     [[nodiscard]] ExitStatus importLegacy(TemplateStore &store);
     [[nodiscard]] ExitStatus exportFile(TemplateStore &store);
     /// The store's spelling of the name; empty, after a message, when there is no such template.
