@@ -73,10 +73,11 @@ TEST_F(TemplateCommandTest, WhatIsRefusedUnreadableOrUnwritableHasItsOwnStatus)
     (void)done("template new Mine");
     write(QStringLiteral("Mine.bomt"), QByteArray::fromStdString(read(folder + QStringLiteral("Mine.bomt"))));
     write(QStringLiteral("bad.bomt"), "<BOMTemplate version=\"5\">\n<fields>");
+    write(QStringLiteral("con.bomt"), QByteArray::fromStdString(read(QStringLiteral("Mine.bomt"))));
+    write(QStringLiteral("empty.bsf"), "nothing\n");
     expect(1, "template new mine", "The name must not be blank or used already");
     expect(1, "template new a/b", "a file can have");
     expect(1, "template import Mine.bomt", "'Mine' already exists");
-    write(QStringLiteral("con.bomt"), QByteArray::fromStdString(read(QStringLiteral("Mine.bomt"))));
     expect(1, "template import con.bomt", "cannot be a file name");
     expect(1, "template delete default", "Cannot delete default template");
     expect(1, "template delete Assembly", "comes with the program");
@@ -85,6 +86,8 @@ TEST_F(TemplateCommandTest, WhatIsRefusedUnreadableOrUnwritableHasItsOwnStatus)
     expect(3, "template show None", "there is no template \"None\"");
     expect(3, "template delete None", "there is no template \"None\"");
     expect(3, "template import bad.bomt", "bad.bomt:2: ");
+    expect(3, "template import-legacy empty.bsf", "empty.bsf: there is no line \"*BOM SCRIPT\"\n");
+    expect(3, "template import-legacy missing.bsf", "missing.bsf: there is no such file\n");
     expect(3, "template new X --from bad.bomt", "bad.bomt:2: ");
     expect(3, "report a.csv --template None", "there is no template \"None\"");
     expect(3, "report a.csv --template none.bomt", "none.bomt: ");
@@ -130,10 +133,25 @@ TEST_F(TemplateCommandTest, TheUsersDefaultAndCopiesOfShippedOnesCountUntilTheyA
     EXPECT_THAT(run("report a.csv --csv -").out, StartsWith(plain));
     EXPECT_THAT(run("report a.csv --csv - --template Purchasing").out, StartsWith(plain));
     EXPECT_THAT(done("template list"), Not(HasSubstr("Purchasing\tcomes")));
-    (void)done("template reset");
-    (void)done("template delete Purchasing");
+    EXPECT_EQ(done("template reset") + done("template delete Purchasing"), "");
     EXPECT_THAT(done("report a.csv --csv -"), StartsWith("Category,Quantity,References,Value,Stock Code"));
     EXPECT_THAT(done("template list"), HasSubstr("Purchasing\tcomes"));
+}
+
+TEST_F(TemplateCommandTest, ALegacyScriptThatIsNamedBecomesATemplate)
+{
+    write(QStringLiteral("old.bsf"), "*BOM SCRIPT One\nFIELD=MPN,9,Number,x,\"\",\"\",NO,0\n*END SCRIPT\n"
+                                     "*BOM SCRIPT Two\nCATEGORY=R,Resistors,1\n*END SCRIPT\n");
+    expect(3, "template import-legacy old.bsf", "bom: old.bsf: name one of the scripts \"One\", \"Two\"\n");
+    const ProgramRun one = run("template import-legacy old.bsf --script one");
+    EXPECT_EQ(one.status, 0);
+    EXPECT_EQ(one.out, "One\n");
+    EXPECT_EQ(one.err, "bom: properties without a definition: MPN\n");
+    EXPECT_THAT(run("template show One").out, HasSubstr("Number"));
+    EXPECT_EQ(run("template import-legacy old.bsf --script One").out, "One-copy\n");
+    expect(1, "template import-legacy old.bsf --script Two --name one", "used already");
+    EXPECT_EQ(done("template import-legacy old.bsf --script Two --name Mine"), "Mine\n");
+    EXPECT_THAT(run("template list").out, HasSubstr("Mine\n"));
 }
 
 } // namespace

@@ -1,8 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
+#include "support/testfiles.h"
+#include "support/testpaths.h"
 #include "tests/cli/programtest.h"
 
 #include <QDir>
+#include <QFile>
 
 #include <gmock/gmock.h>
 
@@ -32,45 +35,26 @@ TEST_F(Usage, HelpAndVersionGoToStandardOutput)
     }
 }
 
+/// The command lines stand in tests/data/cli/wrong-usage.txt; the empty one is its end.
 TEST_F(Usage, WhatIsWrongIsOneLineAndStatusTwo)
 {
     write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
     write(QStringLiteral("a.kicad_pro"), "{}");
     write(QStringLiteral("a.kicad_pcb"), "(kicad_pcb)");
     write(QStringLiteral("defs.ini"), "[PROPDEFS]\n");
-    const char *const cases[] = {
-        "",
-        "frobnicate",
-        "report",
-        "report a.csv b.csv",
-        "report a.csv --dnp maybe",
-        "report a.csv --csv",
-        "report a.csv --colour",
-        "report a.csv --locale xx_klingon",
-        "report a.csv --csv= --full-csv b",
-        "report a.csv --csv out.csv --full-csv ./out.csv",
-        "report a.csv --csv - --full-csv -",
-        "report a.csv --csv a.csv",
-        "report a.csv --full-csv ./a.csv",
-        "report a.csv --csv a.bomnotes.txt",
-        "report a.csv --csv a.kicad_pcb",
-        "report a.csv --full-csv ./a.kicad_pro",
-        "report a.csv --propdefs defs.ini --csv defs.ini",
-        "parts",
-        "parts a.csv --require X",
-        "check a.csv --require",
-        "check a.csv --json",
-        R"(report "")",
-        R"(check a.csv --require "")",
-    };
-    for (const char *arguments : cases) {
-        const ProgramRun result = run(arguments);
-        EXPECT_EQ(result.status, 2) << "bom " << arguments << '\n' << result.err;
-        EXPECT_TRUE(isOneMessage(result.err)) << "bom " << arguments << '\n' << result.err;
-        EXPECT_EQ(result.out, "") << "bom " << arguments;
+    ASSERT_TRUE(QFile::link(QStringLiteral("page"), path(QStringLiteral("later"))));
+    ASSERT_TRUE(QFile::link(QStringLiteral("."), path(QStringLiteral("here"))));
+    const QByteArrayList commands =
+        readFile(QStringLiteral(BOM_SOURCE_DIR "/tests/data/cli/wrong-usage.txt")).split('\n');
+    ASSERT_GT(commands.size(), 20);
+    for (const QByteArray &arguments : commands) {
+        const ProgramRun result = run(arguments.constData());
+        EXPECT_EQ(result.status, 2) << "bom " << arguments.data() << '\n' << result.err;
+        EXPECT_TRUE(isOneMessage(result.err)) << "bom " << arguments.data() << '\n' << result.err;
+        EXPECT_EQ(result.out, "") << "bom " << arguments.data();
     }
     EXPECT_EQ(read(QStringLiteral("a.csv")), "Reference,Value\nR1,10k\n");
-    EXPECT_EQ(read(QStringLiteral("out.csv")), "no file");
+    EXPECT_EQ(read(QStringLiteral("out.csv")) + read(QStringLiteral("page")), "no fileno file");
 }
 
 TEST_F(Usage, WhatIsUnknownIsNamed)
@@ -92,16 +76,14 @@ TEST_F(Usage, AnInputThatCannotBeReadIsNamedAndStatusThree)
     write(QStringLiteral("half.kicad_sch"), "(kicad_sch\n\t(version 20231120)\n\t(symbol");
     write(QStringLiteral("empty.kicad_sch"), "");
     write(QStringLiteral("norefs.csv"), "Reference,Value\nR1,10k\n,47k\n");
-    const std::pair<const char *, const char *> cases[] = {
-        {"missing.kicad_sch", "missing.kicad_sch: "},
-        {"missing.csv", "missing.csv: "},
-        {"folder.kicad_sch", "folder.kicad_sch: "},
-        {"half.kicad_sch", "half.kicad_sch:"},
-        {"empty.kicad_sch", "empty.kicad_sch"},
-        {"norefs.csv", "norefs.csv:3: "},
-        {"a.csv --variant Lite", "Lite"},
-        {"a.csv --propdefs missing.ini", "missing.ini: "},
-    };
+    const std::pair<const char *, const char *> cases[] = {{"missing.kicad_sch", "missing.kicad_sch: "},
+                                                           {"missing.csv", "missing.csv: "},
+                                                           {"folder.kicad_sch", "folder.kicad_sch: "},
+                                                           {"half.kicad_sch", "half.kicad_sch:"},
+                                                           {"empty.kicad_sch", "empty.kicad_sch"},
+                                                           {"norefs.csv", "norefs.csv:3: "},
+                                                           {"a.csv --variant Lite", "Lite"},
+                                                           {"a.csv --propdefs missing.ini", "missing.ini: "}};
     for (const auto &[arguments, expected] : cases) {
         for (const char *command : {"report", "parts", "check"}) {
             const ProgramRun result = run((std::string(command) + ' ' + arguments).c_str());
@@ -118,7 +100,7 @@ TEST_F(Usage, AnOutputThatCannotBeWrittenIsNamedAndStatusFour)
     write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
     ASSERT_TRUE(QDir(path(QString())).mkdir(QStringLiteral("folder")));
     for (const char *output : {"/nonexistent/x.csv", "/dev/full", "folder"}) {
-        for (const char *option : {"--csv", "--full-csv", "--ascii", "--xlsx", "--json"}) {
+        for (const char *option : {"--csv", "--full-csv", "--ascii", "--html", "--pdf", "--xlsx", "--json"}) {
             const std::string arguments = std::string("report a.csv ") + option + ' ' + output;
             const ProgramRun result = run(arguments.c_str());
             EXPECT_EQ(result.status, 4) << arguments;
@@ -142,8 +124,7 @@ TEST_F(Usage, AFullStandardOutputIsNoticed)
 TEST_F(Usage, OneOutputThatFailsDoesNotStopTheOther)
 {
     write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
-    const ProgramRun result = run("report a.csv --csv /nonexistent/x.csv --full-csv full.csv");
-    EXPECT_EQ(result.status, 4);
+    EXPECT_EQ(run("report a.csv --csv /nonexistent/x.csv --full-csv full.csv").status, 4);
     EXPECT_THAT(read(QStringLiteral("full.csv")), HasSubstr("Resistors,R1,10k"));
 }
 
