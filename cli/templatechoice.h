@@ -6,7 +6,7 @@
 
 #include <optional>
 
-/// Sets the folders in which templates are looked for, and how problems with them are told.
+/// Sets the folders in which templates are looked for; problems with templates go to standard error.
 void prepareTemplates();
 
 /// The template that a command line names: the file when the text ends in ".bomt" or has a folder in it, else

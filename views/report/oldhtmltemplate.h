@@ -18,7 +18,7 @@ struct OldHtmlTemplate
     QString footer;
 };
 
-/// Reads the file; what is wrong with it is told in debug lines.
+/// Reads the file; what is wrong with it goes to the debug output.
 [[nodiscard]] OldHtmlTemplate readOldHtmlTemplate(const QString &path);
 
 /// Gives the database's template the header and footer of its old HTML file, once: the template then names no
