@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/exitstatus.h"
+#include "cli/console.h"
 
 #include <CLI/App.hpp>
 

@@ -25,11 +25,6 @@ QString printable(const QString &text)
     return shown;
 }
 
-QString counted(qsizetype count, const QString &singular, const QString &plural)
-{
-    return QString::number(count) + u' ' + (count == 1 ? singular : plural);
-}
-
 namespace console {
 
 void message(const QString &text)

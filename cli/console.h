@@ -5,12 +5,20 @@
 #include <QByteArrayView>
 #include <QString>
 
+/// What the program returns to the shell.
+enum class ExitStatus
+{
+    Done = 0,
+    /// The design has a problem that the user must decide on.
+    DesignProblem = 1,
+    WrongUsage = 2,
+    UnreadableInput = 3,
+    UnwritableOutput = 4
+};
+
 /// The text with everything that is no printable character made visible: a name from a design can neither
 /// break a message over lines nor steer the terminal.
 [[nodiscard]] QString printable(const QString &text);
-
-/// "1 part", "7 parts".
-[[nodiscard]] QString counted(qsizetype count, const QString &singular, const QString &plural);
 
 namespace console {
 

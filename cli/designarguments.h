@@ -7,7 +7,9 @@
 #include <CLI/App.hpp>
 
 #include <QString>
+#include <QStringList>
 
+#include <functional>
 #include <string>
 
 /// For checking an option: empty for a text, what is wrong with an empty one.
@@ -34,3 +36,9 @@ struct DesignArguments
     [[nodiscard]] QString path() const { return QString::fromStdString(design); }
     [[nodiscard]] DnpChoice dnpChoice() const;
 };
+
+/// The references that a text such as "R1,R4-R7" names. A text that is itself a reference of the design is
+/// never split; otherwise commas separate references, and each piece is read like a cell of a part list.
+/// Nothing, with the reason in `error`, when a piece cannot be understood. References need not be known.
+[[nodiscard]] QStringList
+namedReferences(const QString &text, const std::function<bool(const QString &)> &isKnown, QString *error);

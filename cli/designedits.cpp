@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/designedits.h"
 
+#include "account/wording.h"
 #include "cli/console.h"
 #include "cli/numbertext.h"
 #include "cli/opendesign.h"

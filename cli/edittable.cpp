@@ -3,7 +3,6 @@
 #include "cli/edittable.h"
 
 #include "cli/designedits.h"
-#include "cli/namedreferences.h"
 #include "cli/opendesign.h"
 #include "cli/reportcell.h"
 #include "core/part.h"

@@ -13,7 +13,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-ExitStatus OpenDesign::open(const DesignArguments &arguments, bool tellWarnings)
+ExitStatus OpenDesign::open(const DesignArguments &arguments, bool printsWarnings)
 {
     if (!loadDefinitions(QString::fromStdString(arguments.propdefs))) {
         return ExitStatus::UnreadableInput;
@@ -29,7 +29,7 @@ ExitStatus OpenDesign::open(const DesignArguments &arguments, bool tellWarnings)
         console::message(m_session.error());
         return ExitStatus::UnreadableInput;
     }
-    if (tellWarnings) {
+    if (printsWarnings) {
         for (const QString &warning : m_session.warnings()) {
             console::message(warning);
         }

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "account/design/partsledger.h"
 #include "cli/cliui.h"
+#include "cli/console.h"
 #include "cli/designarguments.h"
-#include "cli/exitstatus.h"
 #include "core/bompartsdatabase.h"
 #include "host/netlist/netcache.h"
 #include "standalone/designsession.h"
@@ -19,13 +18,12 @@ public:
     {
     }
 
-    /// Opens it; says on standard error what is wrong, and what the reader noticed when `tellWarnings` is
-    /// set.
-    [[nodiscard]] ExitStatus open(const DesignArguments &arguments, bool tellWarnings);
+    /// Opens it; prints what is wrong, and with `printsWarnings` what the reader noticed. A command that
+    /// reads the board prints the warnings itself, later.
+    [[nodiscard]] ExitStatus open(const DesignArguments &arguments, bool printsWarnings);
 
     [[nodiscard]] DesignSession &session() { return m_session; }
     [[nodiscard]] const LoadedDesign &design() const { return *m_session.design(); }
-    [[nodiscard]] PartsLedger ledger() const { return PartsLedger(design()); }
     [[nodiscard]] BOMPartsDatabase &database() { return m_database; }
 
 private:

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/partslisting.h"
 
+#include "account/design/designaccount.h"
 #include "cli/opendesign.h"
 #include "core/bompart.h"
 #include "core/propertyquery.h"
@@ -91,12 +92,10 @@ void sortByReference(QList<ListedPart> *parts)
 PartsListing listParts(OpenDesign &design)
 {
     PartsListing listing;
-    const PartsLedger ledger = design.ledger();
     QSet<QString> held;
-    qsizetype index = 0;
     for (const COMPONENT *component : design.design().components()) {
         ListedPart part = listed(*component, design.database());
-        part.reason = ledger.skipReason(index++);
+        part.reason = skipReason(design.design(), *design.design().component(component->identifier));
         if (!part.reason.isEmpty()) {
             listing.skipped.append(std::move(part));
         } else if (held.contains(part.reference)) {

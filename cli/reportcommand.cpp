@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "cli/reportcommand.h"
 
+#include "account/billaccount.h"
+#include "account/design/designaccount.h"
+#include "account/reportnotices.h"
+#include "account/wording.h"
 #include "cli/console.h"
 #include "cli/opendesign.h"
 #include "cli/outputfile.h"
-#include "cli/referencetext.h"
-#include "cli/reportnotices.h"
 #include "host/propdefs/propdefsfile.h"
 #include "views/pdfreport.h"
 #include "views/report/asciireport.h"
@@ -32,13 +34,6 @@ bool isKicadFile(const QString &path)
     const QFileInfo target(file.canonicalFilePath());
     const QLatin1String suffix("kicad_");
     return file.exists() && (file.suffix().startsWith(suffix) || target.suffix().startsWith(suffix));
-}
-
-void print(const QStringList &notices)
-{
-    for (const QString &notice : notices) {
-        console::message(notice);
-    }
 }
 
 bool hasFonts()
@@ -95,14 +90,14 @@ ExitStatus ReportCommand::run()
     if (!protectDesignFiles(design, outputs)) {
         return ExitStatus::WrongUsage;
     }
-    if (!shouldContinue(design)) {
+    const ComponentAccount components = componentAccountOf(design.design());
+    if (!shouldContinue(design, components)) {
         return ExitStatus::DesignProblem;
     }
-    print(markNotices(design));
-    print(notFittedNotices(design));
-    print(definedPartNotices(design));
-    printReplacedLines(design, outputs);
-    printMissingNotes(design, outputs);
+    for (const QString &notice :
+         reportNotices(components, design.database(), formsOf(outputs)) + missingNotes(design, outputs)) {
+        console::message(notice);
+    }
     return write(design, outputs);
 }
 
@@ -157,10 +152,10 @@ bool ReportCommand::protectDesignFiles(OpenDesign &design, const QList<Output> &
     return true;
 }
 
-bool ReportCommand::shouldContinue(OpenDesign &design) const
+bool ReportCommand::shouldContinue(OpenDesign &design, const ComponentAccount &components) const
 {
     qsizetype count = 0;
-    for (const RepeatedReference &repeated : design.ledger().repeated()) {
+    for (const RepeatedReference &repeated : components.repeated) {
         count += repeated.listed > 1 ? 1 : 0;
         if (repeated.isDoubtful()) {
             console::message(repeated.message());
@@ -169,8 +164,7 @@ bool ReportCommand::shouldContinue(OpenDesign &design) const
     if (m_allowDuplicates || design.database().duplicateReferences().isEmpty()) {
         return true;
     }
-    QStringList bomParts = design.database().bomOnlyParts().duplicates();
-    bomParts.removeDuplicates();
+    const QStringList bomParts = repeatedBomParts(design.database());
     count += bomParts.size();
     if (!bomParts.isEmpty()) {
         console::message(QStringLiteral("references of BOM-only parts and of other parts: ") +
@@ -182,21 +176,16 @@ bool ReportCommand::shouldContinue(OpenDesign &design) const
     return false;
 }
 
-void ReportCommand::printReplacedLines(OpenDesign &design, const QList<Output> &outputs)
+ReportForms ReportCommand::formsOf(const QList<Output> &outputs)
 {
-    const auto hasForm = [&outputs](bool isFull) {
-        return std::any_of(outputs.cbegin(), outputs.cend(), [isFull](const Output &output) {
-            return (output.form == Form::FullCsv) == isFull;
-        });
-    };
-    for (const bool isFull : {false, true}) {
-        if (hasForm(isFull)) {
-            print(replacedLineNotices(design, !isFull));
-        }
+    ReportForms forms{false, false};
+    for (const Output &output : outputs) {
+        (output.form == Form::FullCsv ? forms.hasParts : forms.hasLines) = true;
     }
+    return forms;
 }
 
-void ReportCommand::printMissingNotes(OpenDesign &design, const QList<Output> &outputs)
+QStringList ReportCommand::missingNotes(OpenDesign &design, const QList<Output> &outputs)
 {
     const auto hasForm = [&outputs](Form form) {
         return std::any_of(outputs.cbegin(), outputs.cend(),
@@ -210,9 +199,10 @@ void ReportCommand::printMissingNotes(OpenDesign &design, const QList<Output> &o
         problems.append(design.session().projectNotes().problem());
     }
     problems.removeAll(QString());
-    for (const QString &problem : std::as_const(problems)) {
-        console::message(problem + QStringLiteral("; the report is without these notes"));
+    for (QString &problem : problems) {
+        problem += QStringLiteral("; the report is without these notes");
     }
+    return problems;
 }
 
 ReportCommand::Content ReportCommand::content(Form form, BOMPartsDatabase &database)

@@ -14,6 +14,8 @@
 
 class BOMPartsDatabase;
 class OpenDesign;
+struct ComponentAccount;
+struct ReportForms;
 
 /// bom report: writes the bill of materials.
 class ReportCommand final : public Command
@@ -62,11 +64,11 @@ private:
     [[nodiscard]] static bool areDistinct(const QList<Output> &outputs);
     /// False, after a message, when an output would overwrite a file that belongs to the design.
     [[nodiscard]] bool protectDesignFiles(OpenDesign &design, const QList<Output> &outputs) const;
-    /// Names references that occur more than once; false when the report is not to be written for that.
-    [[nodiscard]] bool shouldContinue(OpenDesign &design) const;
-    static void printReplacedLines(OpenDesign &design, const QList<Output> &outputs);
-    /// The user's notes that cannot be read and are therefore missing in the documents.
-    static void printMissingNotes(OpenDesign &design, const QList<Output> &outputs);
+    /// Prints the references that are repeated; false, after a message, when they forbid the report.
+    [[nodiscard]] bool shouldContinue(OpenDesign &design, const ComponentAccount &components) const;
+    [[nodiscard]] static ReportForms formsOf(const QList<Output> &outputs);
+    /// The user's notes that cannot be read and are missing in the documents, one sentence each.
+    [[nodiscard]] static QStringList missingNotes(OpenDesign &design, const QList<Output> &outputs);
     [[nodiscard]] static Content content(Form form, BOMPartsDatabase &database);
     [[nodiscard]] static Content documentContent(Form form, BOMPartsDatabase &database);
     [[nodiscard]] static ExitStatus write(OpenDesign &design, const QList<Output> &outputs);

@@ -4,7 +4,6 @@
 
 #include "cli/console.h"
 #include "cli/designedits.h"
-#include "cli/namedreferences.h"
 #include "cli/opendesign.h"
 
 #include <CLI/Validators.hpp>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/templatecommand.h"
 
+#include "account/wording.h"
 #include "cli/cliui.h"
 #include "cli/console.h"
 #include "cli/designarguments.h"

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/referenceindex.h"
 
+#include "designs/csv/referencecell.h"
+
 ReferenceIndex::ReferenceIndex(const designs::Design &design)
     : m_design(design)
 {
@@ -28,4 +30,24 @@ std::vector<std::size_t> ReferenceIndex::find(std::string_view reference) const
         }
     }
     return indices;
+}
+
+std::optional<QStringList> readReferences(const QString &text, QString *error)
+{
+    const std::string cell = text.toStdString();
+    designs::TextArena arena;
+    designs::ReferenceCell reader(arena);
+    if (!reader.read(cell)) {
+        *error = reader.error();
+        return std::nullopt;
+    }
+    if (reader.references().empty()) {
+        *error = QStringLiteral("no reference is named");
+        return std::nullopt;
+    }
+    QStringList references;
+    for (const std::string_view reference : reader.references()) {
+        references << QString::fromUtf8(reference.data(), qsizetype(reference.size()));
+    }
+    return references;
 }

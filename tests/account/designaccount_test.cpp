@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "account/design/designtally.h"
-#include "account/design/partsledger.h"
+#include "account/design/designaccount.h"
+
 #include "account/design/propertytwins.h"
 #include "standalone/loadeddesign.h"
 #include "tests/standalone/tabledesign.h"
@@ -15,78 +15,98 @@ namespace {
 
 using designs::MarkedBy;
 
-/// One component for every reason there is.
-std::unique_ptr<TableDesign> marked()
+struct MarkedCase
+{
+    const char *reference;
+    TableDesign::Properties stored;
+    MarkedBy notInBom;
+    MarkedBy notFitted;
+    /// With the choices Exclude and Only.
+    const char *reason;
+    const char *reasonOfOnly;
+};
+
+/// One component for every reason there is; marks of sheets are those of the sheet "/Power".
+const std::vector<MarkedCase> &markedCases()
+{
+    using enum MarkedBy;
+    static const std::vector<MarkedCase> cases = {
+        {"R1", {}, Nothing, Nothing, "", "fitted"},
+        {"R2", {{"BOMSKIP", "0"}}, Symbol, Nothing, "property BOMSKIP", "property BOMSKIP"},
+        {"R3",
+         {},
+         Symbol,
+         Nothing,
+         "excluded from the BOM on the symbol",
+         "excluded from the BOM on the symbol"},
+        {"R4", {}, Sheet, Symbol, "excluded on sheet /Power", "excluded on sheet /Power"},
+        {"R5",
+         {},
+         RuleArea,
+         Nothing,
+         "excluded by the rule area around it",
+         "excluded by the rule area around it"},
+        {"R6", {}, Nothing, Symbol, "not fitted: marked on the symbol", ""},
+        {"R7", {}, Nothing, Sheet, "not fitted: marked on sheet /Power", ""},
+        {"R8", {}, Nothing, RuleArea, "not fitted: rule area around it", ""},
+        {"R9", {{"dnp", "yes"}}, Nothing, Property, "not fitted: property dnp=yes", ""},
+        {"R10", {}, Nothing, Symbol, "not fitted: marked on the symbol", ""},
+    };
+    return cases;
+}
+
+LoadedDesign markedDesign(DnpChoice choice)
 {
     auto design = std::make_unique<TableDesign>();
-    design->add("R1", "1k");
-    design->add("R2", "1k", {{"BOMSKIP", "0"}}).notInBom = MarkedBy::Symbol;
-    design->add("R3", "1k").notInBom = MarkedBy::Symbol;
-    designs::Component &inSheet = design->add("R4", "1k");
-    inSheet.notInBom = MarkedBy::Sheet;
-    inSheet.notInBomSheet = 1;
-    inSheet.notFitted = MarkedBy::Symbol;
-    design->add("R5", "1k").notInBom = MarkedBy::RuleArea;
-    design->add("R6", "1k").notFitted = MarkedBy::Symbol;
-    designs::Component &unfittedSheet = design->add("R7", "1k");
-    unfittedSheet.notFitted = MarkedBy::Sheet;
-    unfittedSheet.notFittedSheet = 1;
-    design->add("R8", "1k").notFitted = MarkedBy::RuleArea;
-    design->add("R9", "1k", {{"dnp", "yes"}}).notFitted = MarkedBy::Property;
-    design->add("R10", "1k").notFitted = MarkedBy::Symbol;
-    return design;
-}
-
-TEST(Ledger, NamesTheReasonOfEveryComponent)
-{
-    const LoadedDesign design(marked(), DnpChoice::Exclude);
-    const PartsLedger ledger(design);
-    const char *expected[] = {"",
-                              "property BOMSKIP",
-                              "excluded from the BOM on the symbol",
-                              "excluded on sheet /Power",
-                              "excluded by the rule area around it",
-                              "not fitted: marked on the symbol",
-                              "not fitted: marked on sheet /Power",
-                              "not fitted: rule area around it",
-                              "not fitted: property dnp=yes",
-                              "not fitted: marked on the symbol"};
-    ASSERT_EQ(ledger.components(), qsizetype(std::size(expected)));
-    for (qsizetype i = 0; i < ledger.components(); ++i) {
-        EXPECT_EQ(ledger.skipReason(i).toStdString(), expected[i]) << qPrintable(ledger.reference(i));
-        EXPECT_EQ(ledger.isListed(i), ledger.skipReason(i).isEmpty());
-        EXPECT_EQ(design.components()[std::size_t(i)]->properties->test("BOMSKIP") == 0, ledger.isListed(i));
+    for (const MarkedCase &c : markedCases()) {
+        designs::Component &component = design->add(c.reference, "1k", c.stored);
+        component.notInBom = c.notInBom;
+        component.notFitted = c.notFitted;
+        component.notInBomSheet = component.notFittedSheet = 1;
     }
-    EXPECT_EQ(ledger.listed(), 1);
-    EXPECT_EQ(ledger.leftOutByChoice(), 5);
-    const auto skipped = ledger.skipped();
+    return LoadedDesign(std::move(design), choice);
+}
+
+ComponentAccount accountOf(std::unique_ptr<TableDesign> design)
+{
+    return componentAccountOf(LoadedDesign(std::move(design), DnpChoice::Exclude));
+}
+
+TEST(ComponentAccount, NamesTheReasonOfEveryComponent)
+{
+    for (const DnpChoice choice : {DnpChoice::Exclude, DnpChoice::Only}) {
+        const LoadedDesign design = markedDesign(choice);
+        for (std::size_t i = 0; i < markedCases().size(); ++i) {
+            const MarkedCase &c = markedCases()[i];
+            const std::string reason = skipReason(design, design.design().components()[i]).toStdString();
+            EXPECT_EQ(reason, choice == DnpChoice::Only ? c.reasonOfOnly : c.reason) << c.reference;
+            EXPECT_EQ(design.components()[i]->properties->test("BOMSKIP") == 0, reason.empty())
+                << c.reference;
+        }
+    }
+    const auto skipped = skippedComponents(markedDesign(DnpChoice::Exclude));
     ASSERT_EQ(skipped.size(), 8U);
-    EXPECT_EQ(skipped[4].reason, QStringLiteral("not fitted: marked on the symbol"));
-    EXPECT_EQ(skipped[4].references, (QStringList{QStringLiteral("R6"), QStringLiteral("R10")}));
+    EXPECT_EQ(skipped[4], (SkippedComponents{QStringLiteral("not fitted: marked on the symbol"),
+                                             {QStringLiteral("R6"), QStringLiteral("R10")}}));
 }
 
-TEST(Ledger, FollowsTheNotFittedChoice)
+TEST(ComponentAccount, CountsByMarksAndTheNotFittedChoice)
 {
-    const LoadedDesign all(marked(), DnpChoice::Include);
-    EXPECT_EQ(PartsLedger(all).leftOutByChoice(), 0);
-    EXPECT_EQ(PartsLedger(all).listed(), 6);
-    EXPECT_EQ(PartsLedger(all).listedNotFitted().size(), 5);
-
-    const LoadedDesign only(marked(), DnpChoice::Only);
-    EXPECT_EQ(PartsLedger(only).skipReason(0), QStringLiteral("fitted"));
-    EXPECT_EQ(PartsLedger(only).listed(), 5);
-    EXPECT_EQ(PartsLedger(only).leftOutByChoice(), 1);
+    const std::tuple<DnpChoice, int, int, int> cases[] = {
+        {DnpChoice::Exclude, 1, 5, 0}, {DnpChoice::Include, 6, 0, 5}, {DnpChoice::Only, 5, 1, 5}};
+    for (const auto &[choice, listed, leftOut, listedNotFitted] : cases) {
+        const ComponentAccount account = componentAccountOf(markedDesign(choice));
+        EXPECT_EQ(account.components, 10);
+        EXPECT_EQ(account.listed, listed);
+        EXPECT_EQ(account.leftOutByChoice, leftOut);
+        EXPECT_EQ(account.listedNotFitted.size(), listedNotFitted);
+        EXPECT_EQ(account.excluded, 4);
+        EXPECT_EQ(account.excludedNotFitted, 1);
+        EXPECT_EQ(account.notFitted, 6);
+    }
 }
 
-TEST(Ledger, NamesTheFittedPartOnlyAsFitted)
-{
-    const LoadedDesign only(marked(), DnpChoice::Only);
-    EXPECT_EQ(PartsLedger(only).skipReason(3), QStringLiteral("excluded on sheet /Power"));
-    EXPECT_TRUE(PartsLedger(only).isFitted(0));
-    EXPECT_FALSE(PartsLedger(only).isFitted(3));
-}
-
-TEST(Ledger, FindsRepeatedReferencesWithTheirPlaces)
+TEST(ComponentAccount, FindsRepeatedReferencesWithTheirPlaces)
 {
     auto table = std::make_unique<TableDesign>();
     table->add("R1", "1k");
@@ -95,22 +115,15 @@ TEST(Ledger, FindsRepeatedReferencesWithTheirPlaces)
     table->add("C1", "1u").notInBom = MarkedBy::Symbol;
     table->add("R1", "1k").line = 0;
     table->add("r1", "1k");
-    const LoadedDesign design(std::move(table), DnpChoice::Exclude);
-    const auto repeated = PartsLedger(design).repeated();
+    const auto repeated = accountOf(std::move(table)).repeated;
     ASSERT_EQ(repeated.size(), 2U);
-    EXPECT_EQ(repeated[0].reference, QStringLiteral("R1"));
-    EXPECT_EQ(repeated[0].places,
-              (QStringList{QStringLiteral("/d/amp.kicad_sch:10"), QStringLiteral("/d/power.kicad_sch:30"),
-                           QStringLiteral("/d/amp.kicad_sch")}));
-    EXPECT_EQ(repeated[0].listed, 3);
     EXPECT_EQ(repeated[0].message(), QStringLiteral("/d/amp.kicad_sch:10: R1 occurs 3 times, also at "
                                                     "/d/power.kicad_sch:30, /d/amp.kicad_sch"));
-    EXPECT_EQ(repeated[1].reference, QStringLiteral("C1"));
-    EXPECT_EQ(repeated[1].listed, 1);
-    EXPECT_TRUE(repeated[1].message().endsWith(QStringLiteral("; 1 of them is in the bill")));
+    EXPECT_EQ(repeated[1].message(), QStringLiteral("/d/amp.kicad_sch:20: C1 occurs 2 times, also at "
+                                                    "/d/amp.kicad_sch:40; 1 of them is in the bill"));
 }
 
-TEST(Ledger, NamesTheSheetWhereAFileServesSeveral)
+TEST(ComponentAccount, NamesTheSheetWhereAFileServesSeveral)
 {
     auto table = std::make_unique<TableDesign>();
     table->useSheet(QStringLiteral("/Second"), 1);
@@ -120,69 +133,77 @@ TEST(Ledger, NamesTheSheetWhereAFileServesSeveral)
         component.sheet = sheet;
         component.line = 4;
     }
-    const LoadedDesign design(std::move(table), DnpChoice::Exclude);
-    EXPECT_EQ(PartsLedger(design).repeated().at(0).message(),
+    EXPECT_EQ(accountOf(std::move(table)).repeated.at(0).message(),
               QStringLiteral("/d/power.kicad_sch:4 (sheet /Power): 2 symbols have no reference, also at "
                              "/d/power.kicad_sch:4 (sheet /Second)"));
 }
 
-TEST(Ledger, DoubtsARepeatedReferenceUnlessAllAreExcluded)
+TEST(ComponentAccount, DoubtsARepeatedReferenceUnlessAllAreExcluded)
 {
+    using enum MarkedBy;
     const std::tuple<MarkedBy, MarkedBy, bool> cases[] = {
-        {MarkedBy::Nothing, MarkedBy::Nothing, true},
-        {MarkedBy::Nothing, MarkedBy::Symbol, true},
-        {MarkedBy::Sheet, MarkedBy::Symbol, false},
-    };
+        {Nothing, Nothing, true}, {Nothing, Symbol, true}, {Sheet, Symbol, false}};
     for (const auto &[first, second, expected] : cases) {
         auto table = std::make_unique<TableDesign>();
         table->add("H1", "hole").notInBom = first;
         table->add("H1", "hole").notInBom = second;
-        const LoadedDesign design(std::move(table), DnpChoice::Exclude);
-        EXPECT_EQ(PartsLedger(design).repeated().at(0).isDoubtful(), expected);
+        EXPECT_EQ(accountOf(std::move(table)).repeated.at(0).isDoubtful(), expected);
     }
 }
 
-struct TallyCase
+struct SymbolCase
 {
     const char *what;
     designs::SymbolCount read;
     designs::SymbolCount counted;
-    int disagreements;
+    QString problem;
+    QString disagreements;
 };
 
-TEST(Tally, AgreesOnlyWhenEverySymbolIsAccountedFor)
+TEST(SymbolAccount, AgreesOnlyWhenEverySymbolIsAccountedFor)
 {
     // Two components each.
-    const TallyCase cases[] = {
-        {"all well", {7, 3, 2}, {7, 3, 0}, 0},
-        {"a symbol was not read", {7, 3, 2}, {8, 3, 0}, 1},
-        {"a power symbol was taken for a part", {7, 3, 2}, {7, 4, 0}, 1},
-        {"a symbol was read and lost", {8, 3, 2}, {8, 3, 0}, 1},
-        {"a unit was counted twice", {7, 3, 3}, {7, 3, 0}, 1},
+    const SymbolCase cases[] = {
+        {"all well", {7, 3, 2}, {7, 3, 0}, {}, {}},
+        {"a symbol was not read",
+         {7, 3, 2},
+         {8, 3, 0},
+         {},
+         QStringLiteral("the files hold 8 symbols, 7 were read")},
+        {"a power symbol was taken for a part",
+         {7, 3, 2},
+         {7, 4, 0},
+         {},
+         QStringLiteral("the files hold 4 power symbols, 3 were read")},
+        {"a symbol was read and lost",
+         {8, 3, 2},
+         {8, 3, 0},
+         {},
+         QStringLiteral("8 symbols are drawn, 7 are accounted for")},
+        {"a unit was counted twice",
+         {7, 3, 3},
+         {7, 3, 0},
+         {},
+         QStringLiteral("7 symbols are drawn, 8 are accounted for")},
+        {"a file is gone",
+         {7, 3, 2},
+         {},
+         QStringLiteral("is gone"),
+         QStringLiteral("/d/amp.kicad_sch: is gone")},
     };
-    for (const TallyCase &c : cases) {
+    for (const SymbolCase &c : cases) {
         auto table = std::make_unique<TableDesign>();
         table->add("U1", "op");
         table->add("U2", "op");
         table->editSymbols() = c.read;
-        table->setRecount(c.counted);
-        const LoadedDesign design(std::move(table), DnpChoice::Exclude);
-        const DesignTally tally = tallyOf(design);
-        EXPECT_EQ(tally.disagreements.size(), c.disagreements)
-            << c.what << ": " << qPrintable(tally.disagreements.join(u'|'));
-        EXPECT_EQ(tally.components, 2);
+        table->setRecount(c.counted, {QStringLiteral("/d/amp.kicad_sch"), 0, c.problem});
+        const SymbolAccount account = symbolAccountOf(LoadedDesign(std::move(table), DnpChoice::Exclude));
+        EXPECT_EQ(account.disagreements.join(u'|'), c.disagreements) << c.what;
+        EXPECT_EQ(account.components, 2);
     }
 }
 
-TEST(Tally, SaysWhenTheFilesCannotBeCounted)
-{
-    auto table = std::make_unique<TableDesign>();
-    table->setRecount({}, {QStringLiteral("/d/amp.kicad_sch"), 0, QStringLiteral("is gone")});
-    const LoadedDesign design(std::move(table), DnpChoice::Exclude);
-    EXPECT_EQ(tallyOf(design).disagreements, QStringList{QStringLiteral("/d/amp.kicad_sch: is gone")});
-}
-
-TEST(Twins, AreNamesThatMeanTheSameToAReport)
+TEST(PropertyTwins, AreNamesThatMeanTheSameToAReport)
 {
     auto table = std::make_unique<TableDesign>();
     table->add("R1", "1k", {{"MPN", "a"}, {"Footprint", "R_0603"}});
@@ -190,23 +211,17 @@ TEST(Twins, AreNamesThatMeanTheSameToAReport)
     table->add("R3", "1k",
                {{"MPN", "a"}, {"Mpn", "b"}, {"mpn", "c"}, {"Footprint", "R_0603"}, {"PACKAGE", "0603"}});
     table->add("R4", "1k", {{"MPN", "a"}, {"Mpn", "a"}, {"VALUE", "2k"}, {"Other", ""}});
-    const LoadedDesign design(std::move(table), DnpChoice::Exclude);
-    const auto twins = propertyTwins(design);
-    ASSERT_EQ(twins.size(), 3U);
-    const auto list = [](std::initializer_list<const char *> texts) {
-        QStringList result;
-        for (const char *text : texts) {
-            result.append(QString::fromLatin1(text));
+    std::string found;
+    for (const PropertyTwins &twins : propertyTwins(LoadedDesign(std::move(table), DnpChoice::Exclude))) {
+        for (qsizetype i = 0; i < twins.names.size(); ++i) {
+            found += twins.names[i].toStdString() + ':' + std::to_string(twins.counts[i]) + ' ';
         }
-        return result;
-    };
-    EXPECT_EQ(twins[0].names, list({"Value", "VALUE"}));
-    EXPECT_EQ(twins[0].hiding, list({"R4"}));
-    EXPECT_EQ(twins[1].names, list({"Footprint", "PACKAGE"}));
-    EXPECT_EQ(twins[1].counts, (QList<qsizetype>{3, 2}));
-    EXPECT_EQ(twins[1].hiding, list({"R3"})) << "an empty footprint hides nothing";
-    EXPECT_EQ(twins[2].names, list({"MPN", "Mpn", "mpn"}));
-    EXPECT_EQ(twins[2].hiding, list({"R3"}));
+        found += "hides on " + twins.hiding.join(u',').toStdString() + '\n';
+    }
+    EXPECT_EQ(found, "Value:4 VALUE:1 hides on R4\n"
+                     "Footprint:3 PACKAGE:2 hides on R3\n"
+                     "MPN:3 Mpn:3 mpn:1 hides on R3\n")
+        << "an empty footprint hides nothing";
 }
 
 } // namespace

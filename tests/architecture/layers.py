@@ -37,17 +37,18 @@ REACH = {
     "templates": HOST,
     "core": {"templates"} | HOST,
     "account/design": {"standalone"} | HOST,
+    "account": {"account/design", "core", "templates", "standalone"} | HOST,
     "views/report": {"core", "templates", "richtext/css", "richtext/xhtml"} | HOST,
     "views": {"views/report", "core", "templates"} | RICHTEXT | HOST,
     "editors": {"core", "templates"} | HOST,
     "module": {"editors", "views", "views/report", "core", "templates"} | RICHTEXT | HOST,
-    "cli": {"account/design", "views", "views/report", "core", "templates", "standalone"} | RICHTEXT | HOST,
+    "cli": {"account", "account/design", "views", "views/report", "core", "templates", "standalone"} | RICHTEXT | HOST,
     "app": {"account/design", "standalone"} | RICHTEXT | HOST,
 }
 # What a room reaches through one that stands between: standalone is built on designs, and who uses standalone sees
 # its headers.
 DESIGNS = {"designs", "designs/transaction"}
-THROUGH = {"account/design": DESIGNS, "cli": DESIGNS, "app": DESIGNS}
+THROUGH = {"account/design": DESIGNS, "account": DESIGNS, "cli": DESIGNS, "app": DESIGNS}
 # Rooms, or folders of one, that do without Qt's widgets.
 NO_WIDGETS = {
     "designs", "standalone", "templates", "core", "account", "views/report", "host/framework", "host/netlist",

@@ -4,5 +4,8 @@
 
 #include <QStringList>
 
+/// "1 part", "7 parts".
+[[nodiscard]] QString counted(qsizetype count, const QString &singular, const QString &plural);
+
 /// The references in reference order, runs shortened: "R1-R3,R5".
 [[nodiscard]] QString referenceText(const QStringList &references);

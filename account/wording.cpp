@@ -1,10 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "cli/referencetext.h"
+#include "account/wording.h"
 
 #include "core/referenceformat.h"
 
 #include <limits>
+
+QString counted(qsizetype count, const QString &singular, const QString &plural)
+{
+    return QString::number(count) + u' ' + (count == 1 ? singular : plural);
+}
 
 QString referenceText(const QStringList &references)
 {

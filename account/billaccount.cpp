@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "account/billaccount.h"
+
+#include "account/design/designaccount.h"
+#include "core/bompart.h"
+#include "core/bompartsdatabase.h"
+#include "core/propertyquery.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+/// The references of components; BOM-only parts are none.
+QStringList componentsOf(const BOMPartsDatabase &database, QStringList references)
+{
+    references.removeIf([&database](const QString &reference) {
+        const Part *part = database.part(reference);
+        return part && part->isBOMPart();
+    });
+    return references;
+}
+
+void addLine(BillAccount *account, BomLine line)
+{
+    const auto bomParts =
+        std::count_if(line.begin(), line.end(), [](const Part *part) { return part->isBOMPart(); });
+    ++account->lines;
+    account->bomParts += bomParts;
+    account->parts += qsizetype(line.size()) - bomParts;
+}
+
+/// With the BOM-only parts that belong to them.
+QSet<QString> withBomParts(const BOMPartsDatabase &database, const QStringList &references)
+{
+    QSet<QString> all(references.begin(), references.end());
+    for (const QString &reference : references) {
+        for (const BOMPart *part : database.bomParts(reference)) {
+            all.insert(part->reference());
+        }
+    }
+    return all;
+}
+
+} // namespace
+
+BillAccount billAccountOf(const BOMPartsDatabase &database)
+{
+    BillAccount account;
+    account.repeated = database.duplicateReferences().size() - database.bomOnlyParts().duplicates().size();
+    for (const QString &category : database.categoryNames()) {
+        const ReportLines report = database.categories().reportLines(category, true);
+        for (const BomLine line : report.lines) {
+            addLine(&account, line);
+        }
+        for (const ReplacedLine &replaced : report.replaced) {
+            account.replaced += componentsOf(database, replaced.references);
+        }
+        account.replacedLines += report.replaced;
+    }
+    const QSet<QString> known(account.replaced.cbegin(), account.replaced.cend());
+    account.replacedParts = database.categories().replacedLines(false);
+    account.replacedParts.removeIf(
+        [&known](const ReplacedLine &part) { return known.contains(part.references.value(0)); });
+    return account;
+}
+
+QList<MixedLine> mixedLines(const BOMPartsDatabase &database, const ComponentAccount &components)
+{
+    QList<MixedLine> found;
+    const QSet<QString> notFitted = withBomParts(database, components.listedNotFitted);
+    for (const QString &category : database.categoryNames()) {
+        for (const QString &value : database.categoryValues(category)) {
+            for (const QStringList &line : database.groupLines(category, value)) {
+                QStringList mixed;
+                std::copy_if(
+                    line.cbegin(), line.cend(), std::back_inserter(mixed),
+                    [&notFitted](const QString &reference) { return notFitted.contains(reference); });
+                if (!mixed.isEmpty() && mixed.size() < line.size()) {
+                    found.append({line, mixed});
+                }
+            }
+        }
+    }
+    return found;
+}
+
+QStringList repeatedBomParts(const BOMPartsDatabase &database)
+{
+    QStringList references = database.bomOnlyParts().duplicates();
+    references.removeDuplicates();
+    return references;
+}
+
+QStringList partsWithout(const BOMPartsDatabase &database, const QString &property)
+{
+    QStringList references;
+    const PropertyQuery query(property, &database.propertyTypes());
+    for (const Part *part : database.parts()) {
+        const QString text = part->property(query);
+        if (text.trimmed().isEmpty() ||
+            (property == placedProperty() && text == QStringLiteral("Not placed"))) {
+            references.append(part->reference());
+        }
+    }
+    return references;
+}

@@ -1,0 +1,274 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "account/design/designaccount.h"
+
+#include "host/framework/hosttext.h"
+#include "standalone/loadeddesign.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace {
+
+using designs::Component;
+using designs::MarkedBy;
+
+void compare(SymbolAccount *account, const QString &what, qsizetype counted, qsizetype read)
+{
+    if (counted != read) {
+        account->disagreements.append(QStringLiteral("the files hold ") + QString::number(counted) + u' ' +
+                                      what + QStringLiteral(", ") + QString::number(read) +
+                                      QStringLiteral(" were read"));
+    }
+}
+
+bool isExcludedByMark(const LoadedDesign &design, const Component &component)
+{
+    return component.notInBom != MarkedBy::Nothing || design.properties().hasStoredSkip(component);
+}
+
+bool isListed(const LoadedDesign &design, const Component &component)
+{
+    return !isExcludedByMark(design, component) && !design.properties().isLeftOutByChoice(component);
+}
+
+QString sheetPath(const designs::Design &design, quint32 sheet)
+{
+    const auto &sheets = design.sheets();
+    return sheet < sheets.size() ? sheets[sheet].path : QString();
+}
+
+/// "FILE:LINE", with the sheet where the file serves several.
+QString placeOf(const designs::Design &design, const Component &component)
+{
+    const QString file = design.files().value(qsizetype(component.file));
+    const int line = design.lineOf(component);
+    const QString place = line > 0 ? file + u':' + QString::number(line) : file;
+    const auto uses =
+        std::count_if(design.sheets().begin(), design.sheets().end(),
+                      [&](const designs::SheetUse &sheet) { return sheet.file == component.file; });
+    return uses > 1 ? place + QStringLiteral(" (sheet ") + sheetPath(design, component.sheet) + u')' : place;
+}
+
+/// The property that says that a component is not fitted, as stored: " dnp=yes".
+QString storedDnp(const designs::Design &design, const Component &component)
+{
+    for (const designs::NameId id : design.names().candidates("DNP")) {
+        if (const auto value = design.stored(component, id)) {
+            return u' ' + fromHostText(design.names().name(id)) + u'=' + fromHostText(*value);
+        }
+    }
+    return {};
+}
+
+QString notFittedReason(const designs::Design &design, const Component &component)
+{
+    const QString what = QStringLiteral("not fitted: ");
+    switch (component.notFitted) {
+    case MarkedBy::Sheet:
+        return what + QStringLiteral("marked on sheet ") + sheetPath(design, component.notFittedSheet);
+    case MarkedBy::RuleArea:
+        return what + QStringLiteral("rule area around it");
+    case MarkedBy::Property:
+        return what + QStringLiteral("property") + storedDnp(design, component);
+    case MarkedBy::Symbol:
+    case MarkedBy::Nothing:
+        break;
+    }
+    return what + QStringLiteral("marked on the symbol");
+}
+
+bool holdsVariable(const Component &component)
+{
+    const auto isVariable = [](std::string_view text) {
+        const std::size_t start = text.find("${");
+        return start != std::string_view::npos && text.find('}', start) != std::string_view::npos;
+    };
+    return isVariable(component.value) ||
+           std::any_of(component.properties.begin(), component.properties.end(),
+                       [&](const designs::Property &property) { return isVariable(property.value); });
+}
+
+/// Goes through the components once and enters each of them.
+class ComponentCounter
+{
+public:
+    explicit ComponentCounter(const LoadedDesign &design)
+        : m_design(design)
+    {
+        m_account.choice = design.properties().dnpChoice();
+        m_account.components = qsizetype(design.components().size());
+        for (const Component &component : design.design().components()) {
+            enter(component);
+        }
+        findRepeated();
+    }
+
+    [[nodiscard]] const ComponentAccount &account() const { return m_account; }
+
+private:
+    void enter(const Component &component)
+    {
+        const bool isFitted = component.notFitted == MarkedBy::Nothing;
+        const bool isExcluded = isExcludedByMark(m_design, component);
+        const bool isLeftOut = !isExcluded && m_design.properties().isLeftOutByChoice(component);
+        m_account.notFitted += isFitted ? 0 : 1;
+        m_account.excluded += isExcluded ? 1 : 0;
+        m_account.excludedNotFitted += isExcluded && !isFitted ? 1 : 0;
+        m_account.leftOutByChoice += isLeftOut ? 1 : 0;
+        m_account.listed += isExcluded || isLeftOut ? 0 : 1;
+        if (!isExcluded && !isLeftOut && !isFitted) {
+            m_account.listedNotFitted.append(fromHostText(component.reference));
+        }
+        if (const QString reference = fromHostText(component.reference); isNotAnnotated(reference)) {
+            m_account.notAnnotated.push_back({reference, placeOf(m_design.design(), component)});
+        }
+    }
+
+    void findRepeated()
+    {
+        const auto &components = m_design.design().components();
+        std::unordered_map<std::string_view, quint32> count;
+        count.reserve(components.size());
+        for (const Component &component : components) {
+            ++count[component.reference];
+        }
+        if (count.size() == components.size()) {
+            return;
+        }
+        std::unordered_map<std::string_view, std::size_t> entry;
+        for (const Component &component : components) {
+            if (count[component.reference] < 2) {
+                continue;
+            }
+            const auto [known, isNew] = entry.emplace(component.reference, m_account.repeated.size());
+            if (isNew) {
+                m_account.repeated.push_back({fromHostText(component.reference), {}, 0, 0});
+            }
+            RepeatedReference &repeated = m_account.repeated[known->second];
+            repeated.places.append(placeOf(m_design.design(), component));
+            repeated.listed += isListed(m_design, component) ? 1 : 0;
+            repeated.excluded += isExcludedByMark(m_design, component) ? 1 : 0;
+        }
+    }
+
+    const LoadedDesign &m_design;
+    ComponentAccount m_account;
+};
+
+} // namespace
+
+QString RepeatedReference::message() const
+{
+    constexpr qsizetype mostPlaces = 5;
+    QStringList others = places.mid(1, mostPlaces);
+    if (places.size() > mostPlaces + 1) {
+        others.append(QStringLiteral("..."));
+    }
+    const QString count = QString::number(places.size());
+    QString text = places.value(0) + QStringLiteral(": ");
+    text += reference.isEmpty() ? count + QStringLiteral(" symbols have no reference")
+                                : reference + QStringLiteral(" occurs ") + count + QStringLiteral(" times");
+    text += QStringLiteral(", also at ") + others.join(QStringLiteral(", "));
+    if (listed == places.size()) {
+        return text;
+    }
+    return text + QStringLiteral("; ") + (listed == 0 ? QStringLiteral("none") : QString::number(listed)) +
+           (listed > 1 ? QStringLiteral(" of them are in the bill")
+                       : QStringLiteral(" of them is in the bill"));
+}
+
+QString NotAnnotated::message() const
+{
+    return place + QStringLiteral(": ") +
+           (reference.trimmed().isEmpty() ? QStringLiteral("a symbol has no reference")
+                                          : reference + QStringLiteral(" is not annotated"));
+}
+
+SymbolAccount symbolAccountOf(const LoadedDesign &design)
+{
+    const designs::SymbolCount &read = design.design().symbols();
+    SymbolAccount account{
+        read.placed, read.power, read.mergedUnits, qsizetype(design.components().size()), {}};
+
+    designs::Problem error;
+    const designs::SymbolCount counted = design.design().recount(&error);
+    if (!error.text.isEmpty()) {
+        account.disagreements.append(error.message());
+        return account;
+    }
+    compare(&account, QStringLiteral("symbols"), counted.placed, read.placed);
+    compare(&account, QStringLiteral("power symbols"), counted.power, read.power);
+    const qsizetype accounted = account.power + account.mergedUnits + account.components;
+    if (accounted != account.drawn) {
+        account.disagreements.append(QString::number(account.drawn) + QStringLiteral(" symbols are drawn, ") +
+                                     QString::number(accounted) + QStringLiteral(" are accounted for"));
+    }
+    return account;
+}
+
+ComponentAccount componentAccountOf(const LoadedDesign &design)
+{
+    return ComponentCounter(design).account();
+}
+
+std::vector<SkippedComponents> skippedComponents(const LoadedDesign &design)
+{
+    std::vector<SkippedComponents> groups;
+    QHash<QString, std::size_t> groupOfReason;
+    for (const Component &component : design.design().components()) {
+        const QString reason = skipReason(design, component);
+        if (reason.isEmpty()) {
+            continue;
+        }
+        const auto known = groupOfReason.constFind(reason);
+        const std::size_t group = known == groupOfReason.constEnd() ? groups.size() : *known;
+        if (group == groups.size()) {
+            groupOfReason.insert(reason, group);
+            groups.push_back({reason, {}});
+        }
+        groups[group].references.append(fromHostText(component.reference));
+    }
+    return groups;
+}
+
+QString skipReason(const LoadedDesign &design, const Component &component)
+{
+    if (design.properties().hasStoredSkip(component)) {
+        return QStringLiteral("property BOMSKIP");
+    }
+    switch (component.notInBom) {
+    case MarkedBy::Sheet:
+        return QStringLiteral("excluded on sheet ") + sheetPath(design.design(), component.notInBomSheet);
+    case MarkedBy::RuleArea:
+        return QStringLiteral("excluded by the rule area around it");
+    case MarkedBy::Symbol:
+    case MarkedBy::Property:
+        return QStringLiteral("excluded from the BOM on the symbol");
+    case MarkedBy::Nothing:
+        break;
+    }
+    if (!design.properties().isLeftOutByChoice(component)) {
+        return {};
+    }
+    return component.notFitted == MarkedBy::Nothing ? QStringLiteral("fitted")
+                                                    : notFittedReason(design.design(), component);
+}
+
+bool isNotAnnotated(QStringView reference)
+{
+    return reference.trimmed().isEmpty() || reference.endsWith(u'?');
+}
+
+QStringList withUnresolvedVariables(const LoadedDesign &design)
+{
+    QStringList references;
+    for (const Component &component : design.design().components()) {
+        if (holdsVariable(component) && isListed(design, component)) {
+            references.append(fromHostText(component.reference));
+        }
+    }
+    return references;
+}

@@ -1,0 +1,197 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "account/designcheck.h"
+
+#include "account/billaccount.h"
+#include "account/design/designaccount.h"
+#include "account/design/propertytwins.h"
+#include "account/reportnotices.h"
+#include "account/wording.h"
+#include "core/bompartsdatabase.h"
+#include "standalone/designsession.h"
+#include "standalone/loadeddesign.h"
+
+namespace {
+
+using Sum = DesignCheck::Sum;
+
+Sum sum(const QString &name, qsizetype count)
+{
+    return {name, QString::number(count)};
+}
+
+Sum sum(const QString &name, const QStringList &references)
+{
+    return {name, QString::number(references.size()) + QStringLiteral(": ") + referenceText(references)};
+}
+
+QList<Sum> symbolSums(const SymbolAccount &symbols)
+{
+    return {sum(QStringLiteral("symbols drawn"), symbols.drawn),
+            sum(QStringLiteral("power symbols"), symbols.power),
+            sum(QStringLiteral("further units of a part"), symbols.mergedUnits),
+            sum(QStringLiteral("components"), symbols.components)};
+}
+
+/// "97 in 46 lines", with the BOM-only parts where there are any.
+QString billText(const BillAccount &bill)
+{
+    QString what = QString::number(bill.parts);
+    if (bill.bomParts > 0) {
+        what += QStringLiteral(" and ") +
+                counted(bill.bomParts, QStringLiteral("BOM-only part"), QStringLiteral("BOM-only parts"));
+    }
+    return what + QStringLiteral(" in ") +
+           counted(bill.lines, QStringLiteral("line"), QStringLiteral("lines"));
+}
+
+QString notFittedText(const ComponentAccount &components)
+{
+    const qsizetype excluded = components.excludedNotFitted;
+    return QString::number(components.notFitted) +
+           (excluded == 0 ? QString()
+                          : QStringLiteral(" (") + QString::number(excluded) +
+                                QStringLiteral(" of them excluded from the BOM as well)"));
+}
+
+QList<Sum> partSums(const LoadedDesign &design, const ComponentAccount &components, const BillAccount &bill)
+{
+    QList<Sum> sums{{QStringLiteral("in the bill"), billText(bill)}};
+    if (!bill.replaced.isEmpty()) {
+        sums << sum(QStringLiteral("left out for an equal reference"), bill.replaced);
+    }
+    if (bill.repeated > 0) {
+        sums << sum(QStringLiteral("repeated references"), bill.repeated);
+    }
+    sums << sum(QStringLiteral("not in the bill"), components.components - components.listed);
+    for (const SkippedComponents &group : skippedComponents(design)) {
+        sums << sum(QStringLiteral("  ") + group.reason, group.references);
+    }
+    sums << Sum{QStringLiteral("of all components, not fitted"), notFittedText(components)};
+    return sums;
+}
+
+/// Where the sums differ, one sentence each. The bill was counted without the account of the components, so
+/// that a part that gets lost on the way to it shows here.
+QStringList disagreements(const SymbolAccount &symbols, const ComponentAccount &components,
+                          const BillAccount &bill)
+{
+    QStringList found = symbols.disagreements;
+    const qsizetype skipped = components.components - components.listed;
+    const qsizetype accounted = bill.parts + bill.replaced.size() + bill.repeated + skipped;
+    if (accounted != components.components) {
+        found << QStringLiteral("the design has ") + QString::number(components.components) +
+                     QStringLiteral(" components, the bill accounts for ") + QString::number(accounted);
+    }
+    return found;
+}
+
+/// References that are not annotated or occur several times; the latter are only a notice where all of them
+/// are excluded on purpose.
+void checkReferences(DesignCheck *check, const ComponentAccount &components)
+{
+    for (const NotAnnotated &symbol : components.notAnnotated) {
+        check->findings << symbol.message();
+    }
+    for (const RepeatedReference &repeated : components.repeated) {
+        if (!isNotAnnotated(repeated.reference)) {
+            (repeated.isDoubtful() ? check->findings : check->notices) << repeated.message();
+        }
+    }
+}
+
+QStringList replacedFindings(const BillAccount &bill)
+{
+    QStringList findings;
+    for (const ReplacedLine &line : bill.replacedLines) {
+        findings << replacedLineNotice(line, true);
+    }
+    for (const ReplacedLine &part : bill.replacedParts) {
+        findings << replacedLineNotice(part, false);
+    }
+    return findings;
+}
+
+/// What the readers of the design and of its notes noticed.
+QStringList readerFindings(const DesignSession &session)
+{
+    // A board file that cannot be read is noticed when the first part is looked up.
+    (void)session.design()->design().placement({});
+    QStringList findings = session.warnings();
+    if (const QString problem = session.document().notesProblem(); !problem.isEmpty()) {
+        findings << problem;
+    }
+    return findings;
+}
+
+QStringList missingFindings(const BOMPartsDatabase &database, const QStringList &required)
+{
+    QStringList findings;
+    for (const QString &name : required) {
+        const QStringList parts = partsWithout(database, name);
+        if (!parts.isEmpty()) {
+            findings << name + QStringLiteral(" is empty or missing on ") +
+                            counted(parts.size(), QStringLiteral("part: "), QStringLiteral("parts: ")) +
+                            referenceText(parts);
+        }
+    }
+    return findings;
+}
+
+QStringList twinNotices(const LoadedDesign &design)
+{
+    QStringList notices;
+    for (const PropertyTwins &twins : propertyTwins(design)) {
+        QStringList names;
+        for (qsizetype i = 0; i < twins.names.size(); ++i) {
+            names << twins.names.at(i) + QStringLiteral(" on ") +
+                         counted(twins.counts.at(i), QStringLiteral("part"), QStringLiteral("parts"));
+        }
+        notices << QStringLiteral("property names that are easily taken for one another: ") +
+                       names.join(QStringLiteral(", "));
+        if (!twins.hiding.isEmpty()) {
+            notices << QStringLiteral("one of ") + twins.names.join(QStringLiteral(", ")) +
+                           QStringLiteral(" hides another with a different text on ") +
+                           referenceText(twins.hiding);
+        }
+    }
+    return notices;
+}
+
+QStringList variableNotices(const LoadedDesign &design)
+{
+    constexpr qsizetype mostReferences = 30;
+    const QStringList references = withUnresolvedVariables(design);
+    if (references.isEmpty()) {
+        return {};
+    }
+    return {QStringLiteral("a text variable ${...} is not resolved on ") +
+            counted(references.size(), QStringLiteral("part: "), QStringLiteral("parts: ")) +
+            referenceText(references.mid(0, mostReferences)) +
+            (references.size() > mostReferences ? QStringLiteral(",...") : QString())};
+}
+
+} // namespace
+
+DesignCheck checkDesign(const DesignSession &session, const BOMPartsDatabase &database,
+                        const QStringList &required)
+{
+    const LoadedDesign &design = *session.design();
+    const SymbolAccount symbols = symbolAccountOf(design);
+    const ComponentAccount components = componentAccountOf(design);
+    const BillAccount bill = billAccountOf(database);
+
+    DesignCheck check;
+    check.findings = disagreements(symbols, components, bill);
+    check.sums = symbolSums(symbols) + partSums(design, components, bill);
+    check.sums << Sum{QStringLiteral("the sums"),
+                      check.findings.isEmpty() ? QStringLiteral("agree") : QStringLiteral("disagree")};
+    checkReferences(&check, components);
+    check.findings += replacedFindings(bill);
+    check.findings += definedPartProblems(database);
+    check.findings += readerFindings(session);
+    check.findings += missingFindings(database, required);
+    check.notices += twinNotices(design);
+    check.notices += variableNotices(design);
+    return check;
+}

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+class BOMPartsDatabase;
+class DesignSession;
+
+/// The account of a design in words.
+struct DesignCheck
+{
+    struct Sum
+    {
+        QString name;
+        QString text;
+
+        bool operator==(const Sum &) const = default;
+    };
+
+    QList<Sum> sums;
+    /// What the user must decide on, one sentence each.
+    QStringList findings;
+    /// What may be meant so, one sentence each.
+    QStringList notices;
+};
+
+/// Checks the open design, whose parts the database holds; every property of `required` must be there and not
+/// empty on every part of the bill.
+[[nodiscard]] DesignCheck checkDesign(const DesignSession &session, const BOMPartsDatabase &database,
+                                      const QStringList &required);
