@@ -65,7 +65,7 @@ EmptyPage::EmptyPage(QAction *open, QWidget *parent)
 
 void EmptyPage::setRecentFiles(const QStringList &paths)
 {
-    // One of them may be in the middle of telling that it was pressed.
+    // The click that is being handled may have come from one of these buttons, so they are deleted later.
     for (auto *button : m_recent->findChildren<QCommandLinkButton *>(QString(), Qt::FindDirectChildrenOnly)) {
         m_recentLayout->removeWidget(button);
         button->hide();

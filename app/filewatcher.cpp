@@ -47,7 +47,7 @@ void FileWatcher::touchLater()
 
 void FileWatcher::watchAgain()
 {
-    // The watcher forgets a file that is replaced.
+    // QFileSystemWatcher stops watching a file that is replaced.
     const QStringList watched = m_watcher.files() + m_watcher.directories();
     QStringList missing;
     for (const QString &file : std::as_const(m_files)) {

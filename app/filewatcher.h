@@ -7,9 +7,9 @@
 #include <QStringList>
 #include <QTimer>
 
-/// Tells when files may have changed: once for changes that follow one another, after they have settled or
-/// have gone on for long.
-/// Files that are replaced, removed and made anew stay watched, through their folders.
+/// Emits touched() when files may have changed: once for changes that follow one another, when no more come
+/// or they have gone on for long. Files that are replaced, or removed and made anew, stay watched through
+/// their folders.
 class FileWatcher final : public QObject
 {
     Q_OBJECT
@@ -17,17 +17,17 @@ class FileWatcher final : public QObject
 public:
     explicit FileWatcher(QObject *parent = nullptr);
 
-    /// Watches these instead of those before. They need not exist. What changed before they were watched is
-    /// told as well, for it tells it once more.
+    /// Watches these instead of those before. They need not exist. Emits touched() once afterwards, because
+    /// they may have changed before they were watched.
     void setFiles(const QStringList &files);
     [[nodiscard]] const QStringList &files() const { return m_files; }
 
-    /// For how long nothing must have happened.
+    /// How long no change must have come before touched() is emitted.
     void setDelay(int milliseconds) { m_settled.setInterval(milliseconds); }
-    /// How long changes may go on before it is told nevertheless.
+    /// How long changes may go on before touched() is emitted nevertheless.
     void setLongest(int milliseconds) { m_longest.setInterval(milliseconds); }
 
-    /// Tells it once more, after the delay.
+    /// Emits touched() after the delay.
     void touchLater();
 
 Q_SIGNALS:

@@ -4,7 +4,7 @@
 
 #include "app/emptypage.h"
 #include "app/programmenus.h"
-#include "app/statusnotes.h"
+#include "app/statusfields.h"
 #include "host/framework/applnmodule.h"
 #include "host/framework/hostsettings.h"
 
@@ -53,7 +53,7 @@ FrameWindow::FrameWindow()
 {
     setAcceptDrops(true);
     m_menus = new ProgramMenus(this);
-    m_notes = new StatusNotes(this);
+    m_status = new StatusFields(this);
     m_emptyPage = new EmptyPage(m_menus->openAction());
     m_pages = new QStackedWidget;
     m_pages->addWidget(m_emptyPage);
@@ -196,7 +196,7 @@ void FrameWindow::dropEvent(QDropEvent *event)
 
 void FrameWindow::closeEvent(QCloseEvent *event)
 {
-    event->setAccepted(!m_mayClose || m_mayClose());
+    event->setAccepted(!m_canClose || m_canClose());
     if (event->isAccepted()) {
         keepPlace();
     }

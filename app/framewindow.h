@@ -14,10 +14,11 @@
 class EmptyPage;
 class ProgramMenus;
 class QStackedWidget;
-class StatusNotes;
+class StatusFields;
 
 /// The program's window: the frame that a module puts its menus, tool bars and window into, around it the
-/// program's own menus and the notes in the status bar. Without a module's window it tells what to do.
+/// program's own menus and the fields in the status bar. Without a module's window it shows how to open a
+/// design.
 class FrameWindow final : public QMainWindow, public APPLNFRAME
 {
     Q_OBJECT
@@ -40,17 +41,18 @@ public:
     /// What is open, in front of the module's title; empty for nothing.
     void setDesignName(const QString &name);
     /// Asked before the window closes; it stays open on false.
-    void setCloseQuery(std::function<bool()> query) { m_mayClose = std::move(query); }
+    void setCloseQuery(std::function<bool()> query) { m_canClose = std::move(query); }
 
     [[nodiscard]] ProgramMenus &menus() { return *m_menus; }
-    [[nodiscard]] StatusNotes &notes() { return *m_notes; }
+    [[nodiscard]] StatusFields &status() { return *m_status; }
     [[nodiscard]] EmptyPage &emptyPage() { return *m_emptyPage; }
 
     /// Whether a file may be a design, going by its name.
     [[nodiscard]] static bool isDesignName(const QString &path);
 
 Q_SIGNALS:
-    /// When the event loop gets to it: whoever holds the file is not kept waiting for it to be read.
+    /// Emitted from the event loop after the drop, so that the program that the file was dragged from need
+    /// not wait until it is read.
     void fileDropped(const QString &path);
 
 protected:
@@ -64,7 +66,7 @@ private:
     void keepPlace() const;
 
     ProgramMenus *m_menus = nullptr;
-    StatusNotes *m_notes = nullptr;
+    StatusFields *m_status = nullptr;
     QStackedWidget *m_pages = nullptr;
     EmptyPage *m_emptyPage = nullptr;
     QPointer<QWidget> m_moduleWidget;
@@ -72,5 +74,5 @@ private:
     QMap<unsigned, QMenu *> m_moduleMenus;
     QString m_designName;
     QString m_title;
-    std::function<bool()> m_mayClose;
+    std::function<bool()> m_canClose;
 };

@@ -29,7 +29,7 @@ bool ModuleLibrary::load(const QString &path, APPLNPROCESS *process)
 {
     unload();
     if (!QFileInfo::exists(path)) {
-        // Asked for it, the system would tell of files with other names.
+        // QLibrary tries further names for a missing file, and its error message would name those.
         m_error = path + QStringLiteral(": there is no such file");
         return false;
     }

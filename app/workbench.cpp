@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/workbench.h"
 
-#include "app/designnotes.h"
+#include "app/designstatus.h"
 #include "app/emptypage.h"
 #include "app/programmenus.h"
 #include "app/recentfiles.h"
-#include "app/statusnotes.h"
+#include "app/statusfields.h"
 #include "host/framework/applnmodule.h"
 #include "host/framework/hostui.h"
 #include "richtext/paper/pagepainter.h"
@@ -33,7 +33,7 @@ Workbench::~Workbench()
         if (APPLNWINDOW *window = module->getprimarywindow()) {
             module->removewindow(window);
         }
-        // The code of what waits to be deleted goes with the library.
+        // Objects that wait for deleteLater() have their code in the library.
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         module->savesettings();
         module->system_term();
@@ -73,7 +73,7 @@ void Workbench::connectWindow()
     connect(&m_window.emptyPage(), &EmptyPage::recentChosen, this, &Workbench::open);
     connect(&m_window, &FrameWindow::fileDropped, this, &Workbench::open);
     connect(&m_watcher, &FileWatcher::touched, this, &Workbench::checkFiles);
-    m_window.setCloseQuery([this] { return mayClose(); });
+    m_window.setCloseQuery([this] { return canClose(); });
 }
 
 void Workbench::chooseFile()
@@ -136,7 +136,7 @@ void Workbench::showDesign()
     if (!m_library.module()->getprimarywindow()) {
         m_library.module()->createwindow(&m_window, 0);
     }
-    updateNotes();
+    updateStatus();
 }
 
 void Workbench::watchDesign()
@@ -151,13 +151,13 @@ void Workbench::watchDesign()
     }
     m_watcher.setFiles(files);
     m_isBehind = false;
-    m_window.notes().setProblem({});
+    m_window.status().setProblem({});
 }
 
 void Workbench::checkFiles()
 {
     if (QApplication::activeModalWidget()) {
-        // A dialog works on the parts as they are.
+        // The dialog may hold parts, which a new reading would delete.
         m_watcher.touchLater();
         return;
     }
@@ -168,9 +168,9 @@ void Workbench::checkFiles()
             rereadDesign();
         } else if (m_board.hasChanged()) {
             rereadBoard();
-        } else if (m_noted != m_session.design()->properties().stamp()) {
+        } else if (m_statusStamp != m_session.design()->properties().stamp()) {
             // The module wrote the files, and the session has read them since.
-            updateNotes();
+            updateStatus();
         }
     }
     Q_EMIT filesChecked();
@@ -182,19 +182,19 @@ void Workbench::rereadDesign()
         showDesign();
     } else {
         m_isBehind = true;
-        // It may be half written; the next change of a file is the next try.
-        m_window.notes().setProblem(m_session.error());
+        // It may be half written; the next change of a file reads it again.
+        m_window.status().setProblem(m_session.error());
     }
 }
 
 void Workbench::rereadBoard()
 {
     if (m_session.rereadBoard()) {
-        m_window.notes().setProblem({});
+        m_window.status().setProblem({});
         m_library.module()->onvalidate();
-        updateNotes();
+        updateStatus();
     } else {
-        m_window.notes().setProblem(m_session.error());
+        m_window.status().setProblem(m_session.error());
     }
 }
 
@@ -203,7 +203,7 @@ void Workbench::chooseDnp(DnpChoice choice)
     m_session.setDnpChoice(choice);
     m_window.menus().setDnpChoice(choice);
     m_library.module()->onvalidate();
-    updateNotes();
+    updateStatus();
 }
 
 void Workbench::clearRecentFiles()
@@ -243,15 +243,13 @@ void Workbench::updateRecentFiles()
     m_window.emptyPage().setRecentFiles(recent);
 }
 
-void Workbench::updateNotes()
+void Workbench::updateStatus()
 {
     if (!m_session.design()) {
         return;
     }
-    m_noted = m_session.design()->properties().stamp();
-    const DesignNotes notes = designNotes(m_session);
-    m_window.notes().setAccount(notes.account, notes.accountTip);
-    m_window.notes().setWarnings(notes.warnings);
+    m_statusStamp = m_session.design()->properties().stamp();
+    m_window.status().setDesign(designStatus(m_session));
 }
 
 void Workbench::showAbout()
@@ -262,7 +260,7 @@ void Workbench::showAbout()
             .arg(QCoreApplication::applicationVersion()));
 }
 
-bool Workbench::mayClose()
+bool Workbench::canClose()
 {
     APPLNWINDOW *window = m_library.module() ? m_library.module()->getprimarywindow() : nullptr;
     return !window || window->canbeclosed();

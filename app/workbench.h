@@ -46,13 +46,13 @@ private:
     void clearRecentFiles();
     void undoLastWrite();
     void showAbout();
-    [[nodiscard]] bool mayClose();
+    [[nodiscard]] bool canClose();
 
     /// The session holds another design or another reading of it.
     void showDesign();
     void watchDesign();
     void updateRecentFiles();
-    void updateNotes();
+    void updateStatus();
     void checkFiles();
     void rereadDesign();
     void rereadBoard();
@@ -66,8 +66,8 @@ private:
     FileLook m_project;
     /// The files of the design could not be read when they had changed.
     bool m_isBehind = false;
-    /// The stamp of the reading that the notes are about.
-    quint64 m_noted = 0;
+    /// The stamp of the reading that the status bar is about.
+    quint64 m_statusStamp = 0;
     QString m_error;
     /// As the user named it, absolute.
     QString m_path;

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
+#include "app/designstatus.h"
 #include "app/emptypage.h"
 #include "app/framewindow.h"
-#include "app/statusnotes.h"
+#include "app/statusfields.h"
 #include "support/testpaths.h"
 
 #include <QAction>
@@ -13,32 +14,26 @@
 
 #include <gtest/gtest.h>
 
-TEST(Program, TellsVersionAndUsageWithoutADisplay)
+TEST(Program, SaysUsageWithoutADisplayAndWhatIsWrong)
 {
-    for (const char *option : {"--version", "--help", "-h"}) {
+    const std::pair<const char *, int> cases[] = {
+        {"--bogus", 2}, {"a b", 2}, {"--version", 0}, {"--help", 0}, {"-h", 0}};
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("DISPLAY"));
+    environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    for (const auto &[arguments, status] : cases) {
+        if (status == 0) {
+            environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
+        }
         QProcess program;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove(QStringLiteral("DISPLAY"));
-        environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
-        environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
         program.setProcessEnvironment(environment);
-        program.start(QStringLiteral(BOM_BINARY_DIR "/bin/bomviewer"), {QLatin1String(option)});
+        program.start(QStringLiteral(BOM_BINARY_DIR "/bin/bomviewer"),
+                      QString::fromUtf8(arguments).split(u' '));
         ASSERT_TRUE(program.waitForFinished());
-        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit) << option;
-        EXPECT_EQ(program.exitCode(), 0) << option;
-        EXPECT_TRUE(program.readAllStandardOutput().contains("bomviewer")) << option;
-    }
-}
-
-TEST(Program, TellsWrongUsage)
-{
-    for (const QStringList &arguments :
-         {QStringList{QStringLiteral("--bogus")}, QStringList{QStringLiteral("a"), QStringLiteral("b")}}) {
-        QProcess program;
-        program.start(QStringLiteral(BOM_BINARY_DIR "/bin/bomviewer"), arguments);
-        ASSERT_TRUE(program.waitForFinished());
-        EXPECT_EQ(program.exitCode(), 2);
-        EXPECT_TRUE(program.readAllStandardError().contains("bomviewer: "));
+        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit) << arguments;
+        EXPECT_EQ(program.exitCode(), status) << arguments;
+        EXPECT_EQ(program.readAllStandardOutput().contains("bomviewer"), status == 0) << arguments;
+        EXPECT_EQ(program.readAllStandardError().contains("bomviewer: "), status != 0) << arguments;
     }
 }
 
@@ -70,10 +65,10 @@ TEST(EmptyPageTest, ItsButtonsMayBeTakenAwayByWhatTheyDo)
     EXPECT_EQ(chosen, QStringList({QStringLiteral("/a.csv"), QStringLiteral("a.csv")}));
 }
 
-TEST(StatusNotesTest, TipsShowTheTextsAsTheyAre)
+TEST(StatusFieldsTest, TipsShowTheTextsAsTheyAre)
 {
     FrameWindow window;
-    window.notes().setWarnings({QStringLiteral("R&D.csv:1: \"<b>\"")});
+    window.status().setDesign({{}, {}, {QStringLiteral("R&D.csv:1: \"<b>\"")}});
     const QString tip = window.findChild<QToolButton *>(QStringLiteral("warningsButton"))->toolTip();
     EXPECT_TRUE(Qt::mightBeRichText(tip));
     EXPECT_TRUE(tip.contains(QStringLiteral("R&amp;D.csv:1: &quot;&lt;b&gt;&quot;")));

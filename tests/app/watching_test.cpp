@@ -2,43 +2,23 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/workbenchfixture.h"
 
-#include "host/netlist/cdbcore.h"
-#include "standalone/loadeddesign.h"
-
 #include <QDialog>
 
-#include <sstream>
+#include <gmock/gmock.h>
+
+using testing::HasSubstr;
+using testing::StartsWith;
 
 TEST_F(WorkbenchTest, FollowsTheFilesOfTheDesign)
 {
     ASSERT_TRUE(bench->open(partList()));
     // Twice, for a file that was replaced is another one to the system.
-    for (const char *value : {"33k", "47k"}) {
-        const auto change = [&] {
-            write(QStringLiteral("parts.csv"), QByteArray("Reference,Value\nR1,") + value + '\n');
-        };
-        EXPECT_TRUE(waitFor(change, [&] { return isReported(value); })) << value;
-    }
-}
-
-TEST_F(WorkbenchTest, DoesNotReadAgainWhatIsTheSame)
-{
-    const QString file = partList();
-    ASSERT_TRUE(bench->open(file));
-    const LoadedDesign *before = bench->session().design();
-    int looks = 0;
-    QObject::connect(bench.get(), &Workbench::filesChecked, [&looks] { ++looks; });
-    EXPECT_TRUE(waitFor([&] { partList(); }, [&] { return looks > 0; }));
-    EXPECT_EQ(bench->session().design(), before);
-}
-
-TEST_F(WorkbenchTest, LooksAtFilesInAFolderThatNeverSettles)
-{
-    ASSERT_TRUE(bench->open(partList()));
+    EXPECT_TRUE(waitForValue("33k"));
+    EXPECT_TRUE(waitForValue("47k"));
+    // In a folder that never settles.
     bench->watcher().setDelay(patience);
     bench->watcher().setLongest(1);
-    const auto change = [&] { write(QStringLiteral("parts.csv"), "Reference,Value\nR1,33k\n"); };
-    EXPECT_TRUE(waitFor(change, [&] { return isReported("33k"); }));
+    EXPECT_TRUE(waitForValue("56k"));
 }
 
 TEST_F(WorkbenchTest, FollowsWhatHappenedBeforeItWatched)
@@ -46,102 +26,155 @@ TEST_F(WorkbenchTest, FollowsWhatHappenedBeforeItWatched)
     ASSERT_TRUE(bench->open(partList()));
     // All that the system has told of the folder is forgotten.
     bench->watcher().setFiles({});
-    write(QStringLiteral("parts.csv"), "Reference,Value\nR1,33k\n");
+    writeValue("33k");
     QCoreApplication::processEvents();
     EXPECT_TRUE(waitFor([&] { bench->watcher().setFiles(bench->session().files()); },
                         [&] { return isReported("33k"); }));
 }
 
-TEST_F(WorkbenchTest, DoesNotReadItsOwnWritesTwice)
+TEST_F(WorkbenchTest, ReadsNeitherTheSameNorItsOwnWritesAgain)
 {
     ASSERT_TRUE(bench->open(partList()));
-    EXPECT_EQ(account(), QStringLiteral("1 listed, 1 not fitted"));
-    quint64 written = 0;
-    int looks = 0;
-    QObject::connect(bench.get(), &Workbench::filesChecked, [&looks] { ++looks; });
-    const auto write = [&written, this] {
-        std::istringstream script("DATA NAME : R2-\n\"DNP\"   :   \"[REMOVE]\"\nEND\n\n");
-        std::ostringstream answer;
-        getcdb()->beginbatch();
-        getcdb()->adi(script, answer, 0);
-        EXPECT_TRUE(getcdb()->commitbatch()) << answer.str();
-        written = bench->session().design()->properties().stamp();
-    };
-    EXPECT_TRUE(waitFor(write, [&] { return looks > 0; }));
-    EXPECT_EQ(bench->session().design()->properties().stamp(), written);
+    EXPECT_EQ(account(), "1 listed, 1 not fitted");
+    const quint64 before = stamp();
+    EXPECT_TRUE(waitForLook([&] { partList(); }));
+    EXPECT_EQ(stamp(), before);
+    EXPECT_TRUE(waitForLook([] { setProperty("R2", "DNP", "[REMOVE]"); }));
+    EXPECT_EQ(stamp(), before + 1);
     EXPECT_TRUE(isReported("22k"));
-    EXPECT_EQ(account(), QStringLiteral("2 listed"));
+    EXPECT_EQ(account(), "2 listed");
 }
 
 TEST_F(WorkbenchTest, WaitsForAHalfWrittenFile)
 {
     const QString file = partList();
     ASSERT_TRUE(bench->open(file));
-    EXPECT_TRUE(waitFor([&] { write(QStringLiteral("parts.csv"), "Reference,Value\n\"R1,1"); },
-                        [&] { return !notes().problem().isEmpty(); }));
-    EXPECT_TRUE(notes().problem().startsWith(file));
+    EXPECT_TRUE(
+        waitFor([&] { write("parts.csv", "Reference,Value\n\"R1,1"); }, [&] { return !problem().empty(); }));
+    EXPECT_THAT(problem(), StartsWith(file.toStdString()));
     EXPECT_TRUE(isReported("10k"));
     EXPECT_TRUE(ui.warnings.isEmpty());
 
     EXPECT_TRUE(waitFor([&] { QFile::remove(file); },
-                        [&] { return notes().problem().contains(QStringLiteral("no such file")); }))
-        << notes().problem().toStdString();
-    EXPECT_TRUE(waitFor([&] { write(QStringLiteral("parts.csv"), "Reference,Value\nR1,56k\n"); },
-                        [&] { return isReported("56k"); }));
-    EXPECT_TRUE(notes().problem().isEmpty());
+                        [&] { return problem().find("no such file") != std::string::npos; }));
+    EXPECT_TRUE(waitForValue("56k"));
+    EXPECT_EQ(problem(), "");
 }
 
 TEST_F(WorkbenchTest, LeavesThePartsAloneWhileADialogIsOpen)
 {
     ASSERT_TRUE(bench->open(partList()));
-    const LoadedDesign *before = bench->session().design();
+    const quint64 before = stamp();
     QDialog dialog(&bench->window());
     dialog.open();
     QSignalSpy touches(&bench->watcher(), &FileWatcher::touched);
-    write(QStringLiteral("parts.csv"), "Reference,Value\nR1,33k\n");
+    writeValue("33k");
     while (touches.size() < 3) {
         ASSERT_TRUE(touches.wait(patience));
     }
-    EXPECT_EQ(bench->session().design(), before);
+    EXPECT_EQ(stamp(), before);
     EXPECT_TRUE(waitFor([&] { dialog.close(); }, [&] { return isReported("33k"); }));
 }
 
 TEST_F(WorkbenchTest, FollowsTheBoardBesideTheSchematic)
 {
     ASSERT_TRUE(bench->open(schematic()));
-    const quint64 identifier = bench->session().design()->components()[0]->identifier;
-    ASSERT_EQ(getcdb()->getpart(identifier)->layout(), nullptr);
-    const LoadedDesign *before = bench->session().design();
-    QStringList boards;
+    const auto side = [&] {
+        const auto *layout =
+            getcdb()->getpart(bench->session().design()->components()[0]->identifier)->layout();
+        return layout ? layout->name().toStdString() : "none";
+    };
+    EXPECT_EQ(side(), "none");
+    const quint64 before = stamp();
+    std::string board;
     QObject::connect(&bench->session().document(), &APPLNDOCUMENT::modified,
                      [&](const APPLNDOCUMENT *document) {
                          EXPECT_TRUE(document->isdoctype("LYT"));
-                         boards << document->getinfo("FILENAME");
+                         board += document->getinfo("FILENAME").toStdString();
                      });
 
     const auto place = [&] {
-        write(QStringLiteral("amp.kicad_pcb"), "(kicad_pcb (version 20240108) (footprint \"X\" (layer "
-                                               "\"B.Cu\") (property \"Reference\" \"U1\")))");
+        write("amp.kicad_pcb", "(kicad_pcb (version 20240108) (footprint \"X\" (layer \"B.Cu\") "
+                               "(property \"Reference\" \"R1\")))");
     };
-    EXPECT_TRUE(waitFor(place, [&] { return !boards.isEmpty(); }));
-    EXPECT_EQ(boards, QStringList{path(QStringLiteral("amp.kicad_pcb"))});
-    EXPECT_EQ(bench->session().design(), before);
-    ASSERT_NE(getcdb()->getpart(identifier)->layout(), nullptr);
-    EXPECT_EQ(getcdb()->getpart(identifier)->layout()->name(), QByteArray("Bottom"));
+    EXPECT_TRUE(waitFor(place, [&] { return !board.empty(); }));
+    EXPECT_EQ(board, path("amp.kicad_pcb").toStdString());
+    EXPECT_EQ(side(), "Bottom");
 
-    const auto spoil = [&] { write(QStringLiteral("amp.kicad_pcb"), "(kicad_pcb (version"); };
-    EXPECT_TRUE(waitFor(spoil, [&] { return !notes().problem().isEmpty(); }));
-    EXPECT_TRUE(notes().problem().startsWith(boards[0]));
-    EXPECT_EQ(getcdb()->getpart(identifier)->layout()->name(), QByteArray("Bottom"));
+    EXPECT_TRUE(
+        waitFor([&] { write("amp.kicad_pcb", "(kicad_pcb (version"); }, [&] { return !problem().empty(); }));
+    EXPECT_THAT(problem(), StartsWith(board));
+    EXPECT_EQ(side(), "Bottom");
 
     // Something else in the folder does not make it a good one.
-    int looks = 0;
-    QObject::connect(bench.get(), &Workbench::filesChecked, [&looks] { ++looks; });
-    EXPECT_TRUE(waitFor([&] { write(QStringLiteral("other.txt"), "x"); }, [&] { return looks > 0; }));
-    EXPECT_TRUE(notes().problem().startsWith(boards[0])) << notes().problem().toStdString();
-    EXPECT_EQ(bench->session().design(), before);
-    const quint64 now = bench->session().design()->components()[0]->identifier;
-    ASSERT_NE(getcdb()->getpart(now)->layout(), nullptr);
-    EXPECT_TRUE(waitFor(place, [&] { return notes().problem().isEmpty(); }));
-    EXPECT_EQ(getcdb()->getpart(now)->layout()->name(), QByteArray("Bottom"));
+    EXPECT_TRUE(waitForLook([&] { write("other.txt", "x"); }));
+    EXPECT_THAT(problem(), StartsWith(board));
+    EXPECT_EQ(side(), "Bottom");
+    EXPECT_EQ(stamp(), before);
+    EXPECT_TRUE(waitFor(place, [&] { return problem().empty(); }));
+    EXPECT_EQ(side(), "Bottom");
+}
+
+TEST_F(WorkbenchTest, TakesTheLastWriteBackAndReadsOnce)
+{
+    EXPECT_FALSE(undo()->isEnabled());
+    ASSERT_TRUE(bench->open(partList()));
+    EXPECT_FALSE(undo()->isEnabled());
+    setProperty("R1", "VALUE", "68k");
+    ASSERT_TRUE(undo()->isEnabled());
+
+    undo()->trigger();
+    ASSERT_EQ(ui.questions.size(), 1);
+    EXPECT_TRUE(ui.questions[0].text.contains(QStringLiteral("parts.csv")));
+    EXPECT_EQ(bench->session().changedFiles(), QStringList());
+
+    ui.answer = true;
+    const quint64 before = stamp();
+    EXPECT_TRUE(waitForLook([&] { undo()->trigger(); }));
+    EXPECT_EQ(stamp(), before + 1);
+    EXPECT_TRUE(isReported("10k"));
+    EXPECT_EQ(statusText(), "Restored: parts.csv");
+    EXPECT_TRUE(ui.warnings.isEmpty());
+    EXPECT_FALSE(undo()->isEnabled());
+}
+
+TEST_F(WorkbenchTest, SaysWhyAWriteCannotBeTakenBack)
+{
+    ASSERT_TRUE(bench->open(partList()));
+    setProperty("R1", "VALUE", "68k");
+    bench->watcher().setDelay(patience);
+    const QString file = writeValue("91k");
+    ui.answer = true;
+    undo()->trigger();
+    ASSERT_EQ(ui.warnings.size(), 1);
+    EXPECT_TRUE(ui.warnings[0].text.contains(file)) << ui.warnings[0].text.toStdString();
+    EXPECT_EQ(statusText(), "");
+    EXPECT_EQ(bench->session().changedFiles(), QStringList{file});
+}
+
+TEST_F(WorkbenchTest, ShowsTheVariantThatIsChosen)
+{
+    const auto variant = [](const QByteArray &name, const QByteArray &value) {
+        return "(variant (name \"" + name + "\") (field (name \"Value\") (value \"" + value + "\")))";
+    };
+    ASSERT_TRUE(bench->open(partList()));
+    EXPECT_FALSE(action("&Variant")->isVisible());
+    ASSERT_TRUE(bench->open(schematic(variant("R&D [*]", "22k") + variant("Lite", "33k"))));
+    EXPECT_TRUE(isReported("10k"));
+    action("R&&D [*]")->trigger();
+    EXPECT_TRUE(isReported("22k"));
+    EXPECT_TRUE(action("R&&D [*]")->isChecked());
+    action("Lite")->trigger();
+    EXPECT_TRUE(isReported("33k"));
+    EXPECT_EQ(bench->window().windowTitle(), QStringLiteral("amp [Lite] \u2013 Bill of Materials Viewer"));
+
+    // It stays the variant that is shown, as long as there is one.
+    EXPECT_TRUE(waitFor([&] { schematic(variant("Lite", "47k")); }, [&] { return isReported("47k"); }));
+    EXPECT_TRUE(waitFor([&] { schematic(); }, [&] { return !problem().empty(); }));
+    EXPECT_THAT(problem(), HasSubstr("Lite"));
+    EXPECT_TRUE(isReported("47k"));
+    action("&As Drawn")->trigger();
+    EXPECT_TRUE(isReported("10k"));
+    EXPECT_EQ(problem(), "");
+    EXPECT_FALSE(action("&Variant")->isVisible());
 }

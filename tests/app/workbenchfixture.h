@@ -4,26 +4,28 @@
 
 #include "app/workbench.h"
 
-#include "app/statusnotes.h"
+#include "app/statusfields.h"
 #include "host/framework/hostsettings.h"
+#include "host/netlist/cdbcore.h"
 #include "richtext/editor/textedit.h"
+#include "standalone/loadeddesign.h"
 #include "support/scriptedui.h"
 #include "support/testpaths.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QLabel>
 #include <QMenuBar>
 #include <QSaveFile>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <memory>
+#include <sstream>
 
 /// Milliseconds that a test waits for the system.
 constexpr int patience = 20000;
@@ -48,28 +50,43 @@ protected:
         QDir::setCurrent(m_before);
     }
 
-    QString path(const QString &name) const { return m_folder.filePath(name); }
+    QString path(const char *name) const { return m_folder.filePath(QString::fromUtf8(name)); }
     /// In one step, as editors do.
-    QString write(const QString &name, const QByteArray &text) const
+    QString write(const char *name, const QByteArray &text) const
     {
         QSaveFile file(path(name));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit());
         return path(name);
     }
-    QString partList(const QString &name = QStringLiteral("parts.csv")) const
+    QString partList(const char *name = "parts.csv") const
     {
         return write(name, "Reference,Value,DNP\nR1,10k,\nR2,22k,1\n");
     }
-    /// A schematic with U1, and a board that does not place it yet.
-    QString schematic() const
+    /// The same file with another value of R1 and nothing else.
+    QString writeValue(const char *value) const
     {
-        write(QStringLiteral("amp.kicad_pcb"), "(kicad_pcb (version 20240108))");
-        return write(QStringLiteral("amp.kicad_sch"), R"((kicad_sch (version 20231120) (generator "eeschema")
+        return write("parts.csv", QByteArray("Reference,Value\nR1,") + value + '\n');
+    }
+    /// A schematic with R1, and a board that does not place it yet.
+    QString schematic(const QByteArray &variants = {}) const
+    {
+        write("amp.kicad_pcb", "(kicad_pcb (version 20240108))");
+        return write("amp.kicad_sch", R"((kicad_sch (version 20260306) (generator "eeschema")
   (uuid "root") (paper "A4") (lib_symbols)
-  (symbol (lib_id "Amp:LM358") (at 0 0 0) (unit 1) (in_bom yes) (on_board yes) (dnp no) (uuid "s1")
-    (property "Reference" "U1" (at 0 0 0)) (property "Value" "LM358" (at 0 0 0))
-    (instances (project "amp" (path "/root" (reference "U1") (unit 1))))))
-)");
+  (symbol (lib_id "Device:R") (at 0 0 0) (unit 1) (in_bom yes) (on_board yes) (dnp no) (uuid "s1")
+    (property "Reference" "R1" (at 0 0 0)) (property "Value" "10k" (at 0 0 0))
+    (instances (project "amp" (path "/root" (reference "R1") (unit 1) )" +
+                                          variants + "))))))");
+    }
+    /// Writes into the open design, as the module does.
+    static void setProperty(const char *reference, const char *name, const char *text)
+    {
+        std::istringstream script(std::string("DATA NAME : ") + reference + "-\n\"" + name + "\"   :   \"" +
+                                  text + "\"\nEND\n\n");
+        std::ostringstream answer;
+        getcdb()->beginbatch();
+        getcdb()->adi(script, answer, 0);
+        EXPECT_TRUE(getcdb()->commitbatch()) << answer.str();
     }
 
     /// Does something to the files and waits until the program has looked at them and `isDone`.
@@ -84,24 +101,47 @@ protected:
         }
         return true;
     }
-    QString report() const
+    /// The same until the program has looked at the files once.
+    bool waitForLook(const std::function<void()> &change)
+    {
+        QSignalSpy looks(bench.get(), &Workbench::filesChecked);
+        return waitFor(change, [&looks] { return !looks.isEmpty(); });
+    }
+    /// Whether the program gets to show the value once it is written.
+    bool waitForValue(const char *value)
+    {
+        return waitFor([&] { writeValue(value); }, [&] { return isReported(value); });
+    }
+    bool isReported(const char *text) const
     {
         const auto *edit = bench->window().findChild<TextEdit *>();
-        return edit ? edit->document()->getHtml() : QString();
+        return edit && edit->document()->getHtml().contains(QLatin1String(text));
     }
-    bool isReported(const char *text) const { return report().contains(QLatin1String(text)); }
-    StatusNotes &notes() { return bench->window().notes(); }
-    QString account() const { return bench->window().findChild<QLabel *>(QStringLiteral("account"))->text(); }
-    QAction *action(const QString &text) const
+    /// Grows by one with each reading of a design.
+    quint64 stamp() const { return bench->session().design()->properties().stamp(); }
+    std::string problem() const { return bench->window().status().problem().toStdString(); }
+    std::string account() const
+    {
+        return bench->window().findChild<QLabel *>(QStringLiteral("account"))->text().toStdString();
+    }
+    QAction *action(const char *text) const
     {
         for (QAction *found : bench->window().menuBar()->findChildren<QAction *>()) {
-            if (found->text() == text) {
+            if (found->text() == QString::fromUtf8(text)) {
                 return found;
             }
         }
-        ADD_FAILURE() << "no action " << text.toStdString();
+        ADD_FAILURE() << "no action " << text;
         return nullptr;
     }
+    /// Up to date, as when the File menu is seen.
+    QAction *undo() const
+    {
+        QAction *found = action("&Undo Last Write…");
+        Q_EMIT qobject_cast<QMenu *>(found->associatedObjects().constFirst())->aboutToShow();
+        return found;
+    }
+    std::string statusText() const { return bench->window().statusBar()->currentMessage().toStdString(); }
 
     ScriptedUi ui;
     MemoryHostSettings settings;

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "app/statusnotes.h"
+#include "app/statusfields.h"
 
+#include "app/designstatus.h"
 #include "host/widgets/applndialog.h"
 
 #include <QDialogButtonBox>
@@ -38,7 +39,7 @@ QString plainTip(const QString &text)
 
 } // namespace
 
-StatusNotes::StatusNotes(QMainWindow *window)
+StatusFields::StatusFields(QMainWindow *window)
     : QObject(window)
     , m_window(window)
     , m_account(new QLabel)
@@ -56,29 +57,25 @@ StatusNotes::StatusNotes(QMainWindow *window)
             [this] { show(tr("Warnings About the Design"), m_warnings); });
 }
 
-void StatusNotes::setAccount(const QString &text, const QString &tip)
+void StatusFields::setDesign(const DesignStatus &status)
 {
-    m_account->setText(text);
-    m_account->setToolTip(tip);
+    m_account->setText(status.account);
+    m_account->setToolTip(status.accountTip);
+    m_warnings = status.warnings;
+    m_warningsButton->setVisible(!m_warnings.isEmpty());
+    m_warningsButton->setText(m_warnings.size() == 1 ? tr("1 warning")
+                                                     : tr("%1 warnings").arg(m_warnings.size()));
+    m_warningsButton->setToolTip(m_warnings.isEmpty() ? QString() : plainTip(m_warnings.constFirst()));
 }
 
-void StatusNotes::setWarnings(const QStringList &warnings)
-{
-    m_warnings = warnings;
-    m_warningsButton->setVisible(!warnings.isEmpty());
-    m_warningsButton->setText(warnings.size() == 1 ? tr("1 warning")
-                                                   : tr("%1 warnings").arg(warnings.size()));
-    m_warningsButton->setToolTip(warnings.isEmpty() ? QString() : plainTip(warnings.constFirst()));
-}
-
-void StatusNotes::setProblem(const QString &problem)
+void StatusFields::setProblem(const QString &problem)
 {
     m_problem = problem;
     m_problemButton->setVisible(!problem.isEmpty());
     m_problemButton->setToolTip(plainTip(problem));
 }
 
-void StatusNotes::show(const QString &title, const QStringList &lines)
+void StatusFields::show(const QString &title, const QStringList &lines)
 {
     APPLNDIALOG dialog(m_window);
     dialog.setWindowTitle(title);

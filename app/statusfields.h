@@ -5,22 +5,23 @@
 #include <QObject>
 #include <QStringList>
 
+struct DesignStatus;
 class QLabel;
 class QMainWindow;
 class QToolButton;
 
-/// What stands at the right of the status bar: how many components there are and stay out, whether the report
-/// is behind its files, and how much the reader had to say. A press on these shows the whole texts.
-class StatusNotes final : public QObject
+/// The fields at the right of the status bar: how many components there are and stay out, whether the report
+/// is behind its files, and how many warnings there are. Clicking one of the latter two shows the whole
+/// texts.
+class StatusFields final : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit StatusNotes(QMainWindow *window);
+    explicit StatusFields(QMainWindow *window);
 
-    void setAccount(const QString &text, const QString &tip);
-    /// One line each; none hides the button.
-    void setWarnings(const QStringList &warnings);
+    /// Without warnings their button is hidden.
+    void setDesign(const DesignStatus &status);
     [[nodiscard]] const QStringList &warnings() const { return m_warnings; }
     /// Why the files of the design cannot be read as they are now; empty when they have been read.
     void setProblem(const QString &problem);

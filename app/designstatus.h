@@ -8,7 +8,7 @@
 class DesignSession;
 
 /// What the status bar says about the design that is open.
-struct DesignNotes
+struct DesignStatus
 {
     /// How many components are listed, and how many are not and why.
     QString account;
@@ -18,4 +18,4 @@ struct DesignNotes
     QStringList warnings;
 };
 
-[[nodiscard]] DesignNotes designNotes(const DesignSession &session);
+[[nodiscard]] DesignStatus designStatus(const DesignSession &session);

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "app/designstatus.h"
+
+#include "account/design/designaccount.h"
+#include "host/propdefs/propdefsfile.h"
+#include "standalone/designsession.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace {
+
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(DesignStatus)
+};
+
+/// How many listed components have the reference of one before them, in whose place they cannot be listed.
+qsizetype hiddenByOthers(const ComponentAccount &components)
+{
+    qsizetype count = 0;
+    for (const RepeatedReference &repeated : components.repeated) {
+        count += std::max<qsizetype>(repeated.listed - 1, 0);
+    }
+    return count;
+}
+
+QString accountText(const ComponentAccount &components)
+{
+    const qsizetype hidden = hiddenByOthers(components);
+    QStringList counts = {Texts::tr("%1 listed").arg(components.listed - hidden)};
+    if (hidden > 0) {
+        counts << Texts::tr("%1 repeated").arg(hidden);
+    }
+    if (components.leftOutByChoice > 0) {
+        const bool isFitted = components.choice == DnpChoice::Only;
+        const QString what = isFitted ? Texts::tr("%1 fitted") : Texts::tr("%1 not fitted");
+        counts << what.arg(components.leftOutByChoice);
+    }
+    if (components.excluded > 0) {
+        counts << Texts::tr("%1 excluded").arg(components.excluded);
+    }
+    return counts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+DesignStatus designStatus(const DesignSession &session)
+{
+    if (!session.design()) {
+        return {};
+    }
+    const ComponentAccount components = componentAccountOf(*session.design());
+    DesignStatus status;
+    status.account = accountText(components);
+    status.accountTip = Texts::tr("Of %1 components of the design").arg(components.components);
+    status.warnings = session.warnings();
+    for (const RepeatedReference &repeated : components.repeated) {
+        if (repeated.isDoubtful()) {
+            status.warnings << repeated.message();
+        }
+    }
+    for (const NotAnnotated &symbol : components.notAnnotated) {
+        status.warnings << symbol.message();
+    }
+    for (const QString &reference : withUnresolvedVariables(*session.design())) {
+        status.warnings << reference + Texts::tr(": a text variable ${...} is not resolved");
+    }
+    (void)load_defaultdefs(nullptr, nullptr, &status.warnings);
+    return status;
+}
