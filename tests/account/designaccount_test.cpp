@@ -18,12 +18,11 @@ using designs::MarkedBy;
 struct MarkedCase
 {
     const char *reference;
-    TableDesign::Properties stored;
     MarkedBy notInBom;
     MarkedBy notFitted;
-    /// With the choices Exclude and Only.
+    /// Why it is skipped when parts that are not fitted are left out.
     const char *reason;
-    const char *reasonOfOnly;
+    TableDesign::Properties stored = {};
 };
 
 /// One component for every reason there is; marks of sheets are those of the sheet "/Power".
@@ -31,26 +30,16 @@ const std::vector<MarkedCase> &markedCases()
 {
     using enum MarkedBy;
     static const std::vector<MarkedCase> cases = {
-        {"R1", {}, Nothing, Nothing, "", "fitted"},
-        {"R2", {{"BOMSKIP", "0"}}, Symbol, Nothing, "property BOMSKIP", "property BOMSKIP"},
-        {"R3",
-         {},
-         Symbol,
-         Nothing,
-         "excluded from the BOM on the symbol",
-         "excluded from the BOM on the symbol"},
-        {"R4", {}, Sheet, Symbol, "excluded on sheet /Power", "excluded on sheet /Power"},
-        {"R5",
-         {},
-         RuleArea,
-         Nothing,
-         "excluded by the rule area around it",
-         "excluded by the rule area around it"},
-        {"R6", {}, Nothing, Symbol, "not fitted: marked on the symbol", ""},
-        {"R7", {}, Nothing, Sheet, "not fitted: marked on sheet /Power", ""},
-        {"R8", {}, Nothing, RuleArea, "not fitted: rule area around it", ""},
-        {"R9", {{"dnp", "yes"}}, Nothing, Property, "not fitted: property dnp=yes", ""},
-        {"R10", {}, Nothing, Symbol, "not fitted: marked on the symbol", ""},
+        {"R1", Nothing, Nothing, ""},
+        {"R2", Symbol, Nothing, "property BOMSKIP", {{"BOMSKIP", "0"}}},
+        {"R3", Symbol, Nothing, "excluded from the BOM on the symbol"},
+        {"R4", Sheet, Symbol, "excluded on sheet /Power"},
+        {"R5", RuleArea, Nothing, "excluded by the rule area around it"},
+        {"R6", Nothing, Symbol, "not fitted: marked on the symbol"},
+        {"R7", Nothing, Sheet, "not fitted: marked on sheet /Power"},
+        {"R8", Nothing, RuleArea, "not fitted: rule area around it"},
+        {"R9", Nothing, Property, "not fitted: property dnp=yes", {{"dnp", "yes"}}},
+        {"R10", Nothing, Symbol, "not fitted: marked on the symbol"},
     };
     return cases;
 }
@@ -74,20 +63,21 @@ ComponentAccount accountOf(std::unique_ptr<TableDesign> design)
 
 TEST(ComponentAccount, NamesTheReasonOfEveryComponent)
 {
-    for (const DnpChoice choice : {DnpChoice::Exclude, DnpChoice::Only}) {
-        const LoadedDesign design = markedDesign(choice);
-        for (std::size_t i = 0; i < markedCases().size(); ++i) {
-            const MarkedCase &c = markedCases()[i];
-            const std::string reason = skipReason(design, design.design().components()[i]).toStdString();
-            EXPECT_EQ(reason, choice == DnpChoice::Only ? c.reasonOfOnly : c.reason) << c.reference;
-            EXPECT_EQ(design.components()[i]->properties->test("BOMSKIP") == 0, reason.empty())
-                << c.reference;
-        }
+    const LoadedDesign design = markedDesign(DnpChoice::Exclude);
+    for (std::size_t i = 0; i < markedCases().size(); ++i) {
+        const MarkedCase &c = markedCases()[i];
+        EXPECT_EQ(skipReason(design, design.design().components()[i]).toStdString(), c.reason) << c.reference;
+        EXPECT_EQ(design.components()[i]->properties->test("BOMSKIP") == 0, *c.reason == 0) << c.reference;
     }
-    const auto skipped = skippedComponents(markedDesign(DnpChoice::Exclude));
+    const auto skipped = skippedComponents(design);
     ASSERT_EQ(skipped.size(), 8U);
-    EXPECT_EQ(skipped[4], (SkippedComponents{QStringLiteral("not fitted: marked on the symbol"),
-                                             {QStringLiteral("R6"), QStringLiteral("R10")}}));
+    EXPECT_EQ(skipped[4].reason.toStdString(), "not fitted: marked on the symbol");
+    EXPECT_EQ(skipped[4].references.join(u','), QStringLiteral("R6,R10"));
+
+    const LoadedDesign only = markedDesign(DnpChoice::Only);
+    EXPECT_EQ(skipReason(only, only.design().components()[0]).toStdString(), "fitted");
+    EXPECT_EQ(skipReason(only, only.design().components()[3]).toStdString(), "excluded on sheet /Power");
+    EXPECT_EQ(skipReason(only, only.design().components()[5]).toStdString(), "");
 }
 
 TEST(ComponentAccount, CountsByMarksAndTheNotFittedChoice)
@@ -106,101 +96,87 @@ TEST(ComponentAccount, CountsByMarksAndTheNotFittedChoice)
     }
 }
 
+struct Placed
+{
+    const char *reference;
+    quint32 file;
+    quint32 sheet;
+    MarkedBy notInBom = MarkedBy::Nothing;
+};
+
+/// The messages about repeated references, one a line; those that are meant so begin with "-".
+std::string repeatedOf(const std::vector<Placed> &rows, bool hasSecondSheet = false)
+{
+    auto table = std::make_unique<TableDesign>();
+    if (hasSecondSheet) {
+        table->useSheet(QStringLiteral("/Second"), 1);
+    }
+    for (const Placed &row : rows) {
+        designs::Component &component = table->add(row.reference, "1k");
+        component.file = row.file;
+        component.sheet = row.sheet;
+        component.notInBom = row.notInBom;
+    }
+    std::string text;
+    for (const RepeatedReference &repeated : accountOf(std::move(table)).repeated) {
+        text += (repeated.isDoubtful() ? "" : "-") + repeated.message().toStdString() + '\n';
+    }
+    return text;
+}
+
 TEST(ComponentAccount, FindsRepeatedReferencesWithTheirPlaces)
 {
-    auto table = std::make_unique<TableDesign>();
-    table->add("R1", "1k");
-    table->add("C1", "1u");
-    table->add("R1", "2k").file = 1;
-    table->add("C1", "1u").notInBom = MarkedBy::Symbol;
-    table->add("R1", "1k").line = 0;
-    table->add("r1", "1k");
-    const auto repeated = accountOf(std::move(table)).repeated;
-    ASSERT_EQ(repeated.size(), 2U);
-    EXPECT_EQ(repeated[0].message(), QStringLiteral("/d/amp.kicad_sch:10: R1 occurs 3 times, also at "
-                                                    "/d/power.kicad_sch:30, /d/amp.kicad_sch"));
-    EXPECT_EQ(repeated[1].message(), QStringLiteral("/d/amp.kicad_sch:20: C1 occurs 2 times, also at "
-                                                    "/d/amp.kicad_sch:40; 1 of them is in the bill"));
-}
-
-TEST(ComponentAccount, NamesTheSheetWhereAFileServesSeveral)
-{
-    auto table = std::make_unique<TableDesign>();
-    table->useSheet(QStringLiteral("/Second"), 1);
-    for (const quint32 sheet : {1U, 2U}) {
-        designs::Component &component = table->add("", "1k");
-        component.file = 1;
-        component.sheet = sheet;
-        component.line = 4;
-    }
-    EXPECT_EQ(accountOf(std::move(table)).repeated.at(0).message(),
-              QStringLiteral("/d/power.kicad_sch:4 (sheet /Power): 2 symbols have no reference, also at "
-                             "/d/power.kicad_sch:4 (sheet /Second)"));
-}
-
-TEST(ComponentAccount, DoubtsARepeatedReferenceUnlessAllAreExcluded)
-{
     using enum MarkedBy;
-    const std::tuple<MarkedBy, MarkedBy, bool> cases[] = {
-        {Nothing, Nothing, true}, {Nothing, Symbol, true}, {Sheet, Symbol, false}};
-    for (const auto &[first, second, expected] : cases) {
-        auto table = std::make_unique<TableDesign>();
-        table->add("H1", "hole").notInBom = first;
-        table->add("H1", "hole").notInBom = second;
-        EXPECT_EQ(accountOf(std::move(table)).repeated.at(0).isDoubtful(), expected);
-    }
+    EXPECT_EQ(
+        repeatedOf({{"R1", 0, 0}, {"C1", 0, 0}, {"R1", 1, 0}, {"C1", 0, 0, Symbol}, {"r1", 0, 0}}),
+        "/d/amp.kicad_sch:10: R1 occurs 2 times, also at /d/power.kicad_sch:30\n"
+        "/d/amp.kicad_sch:20: C1 occurs 2 times, also at /d/amp.kicad_sch:40; 1 of them is in the bill\n");
+    EXPECT_EQ(repeatedOf({{"H1", 0, 0, Symbol}, {"H1", 0, 0, Sheet}}),
+              "-/d/amp.kicad_sch:10: H1 occurs 2 times, also at /d/amp.kicad_sch:20; none of them is in the "
+              "bill\n");
+    EXPECT_EQ(repeatedOf({{"", 1, 1}, {"", 1, 2}}, true),
+              "/d/power.kicad_sch:10 (sheet /Power): 2 symbols have no reference, also at "
+              "/d/power.kicad_sch:20 (sheet /Second)\n");
+    EXPECT_EQ(repeatedOf(std::vector<Placed>(7, {"R1", 0, 0})),
+              "/d/amp.kicad_sch:10: R1 occurs 7 times, also at /d/amp.kicad_sch:20, /d/amp.kicad_sch:30, "
+              "/d/amp.kicad_sch:40, /d/amp.kicad_sch:50, /d/amp.kicad_sch:60, ...\n");
 }
 
 struct SymbolCase
 {
-    const char *what;
     designs::SymbolCount read;
     designs::SymbolCount counted;
-    QString problem;
-    QString disagreements;
+    const char *disagreement;
 };
 
 TEST(SymbolAccount, AgreesOnlyWhenEverySymbolIsAccountedFor)
 {
     // Two components each.
     const SymbolCase cases[] = {
-        {"all well", {7, 3, 2}, {7, 3, 0}, {}, {}},
-        {"a symbol was not read",
-         {7, 3, 2},
-         {8, 3, 0},
-         {},
-         QStringLiteral("the files hold 8 symbols, 7 were read")},
-        {"a power symbol was taken for a part",
-         {7, 3, 2},
-         {7, 4, 0},
-         {},
-         QStringLiteral("the files hold 4 power symbols, 3 were read")},
-        {"a symbol was read and lost",
-         {8, 3, 2},
-         {8, 3, 0},
-         {},
-         QStringLiteral("8 symbols are drawn, 7 are accounted for")},
-        {"a unit was counted twice",
-         {7, 3, 3},
-         {7, 3, 0},
-         {},
-         QStringLiteral("7 symbols are drawn, 8 are accounted for")},
-        {"a file is gone",
-         {7, 3, 2},
-         {},
-         QStringLiteral("is gone"),
-         QStringLiteral("/d/amp.kicad_sch: is gone")},
+        {{7, 3, 2}, {7, 3, 0}, ""},
+        {{7, 3, 2}, {8, 3, 0}, "the files hold 8 symbols, 7 were read"},
+        {{7, 3, 2}, {7, 4, 0}, "the files hold 4 power symbols, 3 were read"},
+        {{8, 3, 2}, {8, 3, 0}, "8 symbols are drawn, 7 are accounted for"},
+        {{7, 3, 3}, {7, 3, 0}, "7 symbols are drawn, 8 are accounted for"},
     };
     for (const SymbolCase &c : cases) {
         auto table = std::make_unique<TableDesign>();
         table->add("U1", "op");
         table->add("U2", "op");
         table->editSymbols() = c.read;
-        table->setRecount(c.counted, {QStringLiteral("/d/amp.kicad_sch"), 0, c.problem});
+        table->setRecount(c.counted);
         const SymbolAccount account = symbolAccountOf(LoadedDesign(std::move(table), DnpChoice::Exclude));
-        EXPECT_EQ(account.disagreements.join(u'|'), c.disagreements) << c.what;
+        EXPECT_EQ(account.disagreements.join(u'|').toStdString(), c.disagreement);
         EXPECT_EQ(account.components, 2);
     }
+}
+
+TEST(SymbolAccount, SaysWhenTheFilesCannotBeCounted)
+{
+    auto table = std::make_unique<TableDesign>();
+    table->setRecount({}, {QStringLiteral("/d/amp.kicad_sch"), 0, QStringLiteral("is gone")});
+    const SymbolAccount account = symbolAccountOf(LoadedDesign(std::move(table), DnpChoice::Exclude));
+    EXPECT_EQ(account.disagreements.join(u'|').toStdString(), "/d/amp.kicad_sch: is gone");
 }
 
 TEST(PropertyTwins, AreNamesThatMeanTheSameToAReport)

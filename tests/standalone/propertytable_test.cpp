@@ -15,10 +15,21 @@ namespace {
 using designs::MarkedBy;
 
 /// The answer as text, "-" for no such property.
-std::string answer(const LoadedDesign &design, std::size_t index, const char *name)
+std::string answer(const LoadedDesign &design, const char *name)
 {
-    const auto value = design.components()[index]->properties->find(PROPNAME(name));
-    return value ? std::string(value->data(), std::size_t(value->size())) : "-";
+    const auto value = design.components()[0]->properties->find(PROPNAME(name));
+    return value ? value->toByteArray().toStdString() : "-";
+}
+
+/// A design of R1 with these properties and marks.
+LoadedDesign designOf(const TableDesign::Properties &stored, MarkedBy notInBom = MarkedBy::Nothing,
+                      MarkedBy notFitted = MarkedBy::Nothing, DnpChoice choice = DnpChoice::Exclude)
+{
+    auto design = std::make_unique<TableDesign>();
+    designs::Component &component = design->add("R1", "10k", stored);
+    component.notInBom = notInBom;
+    component.notFitted = notFitted;
+    return LoadedDesign(std::move(design), choice);
 }
 
 struct Case
@@ -49,22 +60,14 @@ TEST(PropertyLookUp, PrefersTheExactNameThenTheAliasThenOtherLetterCase)
         {"beyond ASCII", {{"Größe", "ä"}}, "GRÖßE", "ä"},
     };
     for (const Case &c : cases) {
-        auto design = std::make_unique<TableDesign>();
-        design->add("R1", "10k", c.stored);
-        const LoadedDesign loaded(std::move(design), DnpChoice::Exclude);
-        EXPECT_EQ(answer(loaded, 0, c.asked), c.expected) << c.what;
+        EXPECT_EQ(answer(designOf(c.stored), c.asked), c.expected) << c.what;
     }
 }
 
 TEST(PropertyLookUp, APreparedNameServesSeveralDesignsInTurn)
 {
-    auto first = std::make_unique<TableDesign>();
-    first->add("R1", "10k", {{"MPN", "one"}});
-    auto second = std::make_unique<TableDesign>();
-    second->add("R1", "10k", {{"Other", "x"}, {"Mpn", "two"}});
-    const LoadedDesign a(std::move(first), DnpChoice::Exclude);
-    const LoadedDesign b(std::move(second), DnpChoice::Exclude);
-
+    const LoadedDesign a = designOf({{"MPN", "one"}});
+    const LoadedDesign b = designOf({{"Other", "x"}, {"Mpn", "two"}});
     const PROPNAME name("MPN");
     EXPECT_EQ(a.components()[0]->properties->find(name), QByteArrayView("one"));
     EXPECT_EQ(b.components()[0]->properties->find(name), QByteArrayView("two"));
@@ -96,14 +99,13 @@ TEST(PropertyLookUp, FindsTheNamesThatBeginAlike)
 
 struct FlagCase
 {
-    const char *what;
     TableDesign::Properties stored;
     MarkedBy notInBom;
     MarkedBy notFitted;
     DnpChoice choice;
     const char *skip;
     const char *dnp;
-    std::vector<QByteArray> names;
+    const char *names;
 };
 
 TEST(FlagProperties, AnswerFromTheFlagsAndTheChoice)
@@ -111,52 +113,29 @@ TEST(FlagProperties, AnswerFromTheFlagsAndTheChoice)
     using enum MarkedBy;
     using enum DnpChoice;
     const FlagCase cases[] = {
-        {"plain", {{"A", "x"}}, Nothing, Nothing, Exclude, "-", "-", {"A"}},
-        {"in_bom no", {{"A", "x"}}, Sheet, Nothing, Include, "1", "-", {"A", "BOMSKIP"}},
-        {"stored mark", {{"BomSkip", ""}}, Nothing, Nothing, Include, "", "-", {"BomSkip"}},
-        {"stored mark and in_bom no", {{"BOMSKIP", "y"}}, Symbol, Nothing, Include, "y", "-", {"BOMSKIP"}},
-        {"not fitted, left out", {{"A", "x"}}, Nothing, Symbol, Exclude, "1", "1", {"A", "DNP"}},
-        {"not fitted, listed", {{"A", "x"}}, Nothing, RuleArea, Include, "-", "1", {"A", "DNP"}},
-        {"not fitted only, not fitted", {}, Nothing, Sheet, Only, "-", "1", {"DNP"}},
-        {"not fitted only, fitted", {{"A", "x"}}, Nothing, Nothing, Only, "1", "-", {"A"}},
-        {"not fitted only does not undo a skip mark", {}, Symbol, Sheet, Only, "1", "1", {"DNP", "BOMSKIP"}},
-        {"property says so",
-         {{"dnp", "yes"}, {"A", "x"}},
-         Nothing,
-         Property,
-         Include,
-         "-",
-         "1",
-         {"dnp", "A"}},
-        {"flag wins over a stored 0", {{"DNP", "0"}}, Nothing, Symbol, Include, "-", "1", {"DNP"}},
-        {"property that says no is absent",
-         {{"DNP", "0"}, {"A", "x"}},
-         Nothing,
-         Nothing,
-         Exclude,
-         "-",
-         "-",
-         {"A"}},
-        {"two spellings count once",
-         {{"DNP", ""}, {"dnp", "1"}},
-         Nothing,
-         Property,
-         Include,
-         "-",
-         "1",
-         {"DNP"}},
+        {{{"A", "x"}}, Nothing, Nothing, Exclude, "-", "-", "A"},
+        {{{"A", "x"}}, Sheet, Nothing, Include, "1", "-", "A BOMSKIP"},
+        {{{"BomSkip", ""}}, Nothing, Nothing, Include, "", "-", "BomSkip"},
+        {{{"BOMSKIP", "y"}}, Symbol, Nothing, Include, "y", "-", "BOMSKIP"},
+        {{{"A", "x"}}, Nothing, Symbol, Exclude, "1", "1", "A DNP"},
+        {{{"A", "x"}}, Nothing, RuleArea, Include, "-", "1", "A DNP"},
+        {{}, Nothing, Sheet, Only, "-", "1", "DNP"},
+        {{{"A", "x"}}, Nothing, Nothing, Only, "1", "-", "A"},
+        // That only these are wanted does not undo a mark.
+        {{}, Symbol, Sheet, Only, "1", "1", "DNP BOMSKIP"},
+        {{{"dnp", "yes"}, {"A", "x"}}, Nothing, Property, Include, "-", "1", "dnp A"},
+        // The flag, not the stored text, decides; two spellings count once.
+        {{{"DNP", "0"}}, Nothing, Symbol, Include, "-", "1", "DNP"},
+        {{{"DNP", "0"}, {"A", "x"}}, Nothing, Nothing, Exclude, "-", "-", "A"},
+        {{{"DNP", ""}, {"dnp", "1"}}, Nothing, Property, Include, "-", "1", "DNP"},
     };
     for (const FlagCase &c : cases) {
-        auto design = std::make_unique<TableDesign>();
-        designs::Component &component = design->add("R1", "10k", c.stored);
-        component.notInBom = c.notInBom;
-        component.notFitted = c.notFitted;
-        const LoadedDesign loaded(std::move(design), c.choice);
-        EXPECT_EQ(answer(loaded, 0, "BOMSKIP"), c.skip) << c.what;
-        EXPECT_EQ(answer(loaded, 0, "DNP"), c.dnp) << c.what;
-        EXPECT_EQ(answer(loaded, 0, "Dnp"), c.dnp) << c.what;
-        const QByteArrayList names = loaded.components()[0]->properties->names();
-        EXPECT_EQ(std::vector<QByteArray>(names.begin(), names.end()), c.names) << c.what;
+        const LoadedDesign design = designOf(c.stored, c.notInBom, c.notFitted, c.choice);
+        const std::string what = "case " + std::to_string(&c - cases);
+        EXPECT_EQ(answer(design, "BOMSKIP"), c.skip) << what;
+        EXPECT_EQ(answer(design, "DNP"), c.dnp) << what;
+        EXPECT_EQ(answer(design, "Dnp"), c.dnp) << what;
+        EXPECT_EQ(design.components()[0]->properties->names().join(' '), c.names) << what;
     }
 }
 
