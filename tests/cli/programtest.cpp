@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 
 namespace {
@@ -53,6 +54,23 @@ std::string ProgramTest::read(const QString &name) const
 {
     QFile file(path(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "no file";
+}
+
+std::string ProgramTest::copyData(const char *folder, const char *file) const
+{
+    const QDir data(QStringLiteral(BOM_SOURCE_DIR "/tests/data/") + QString::fromUtf8(folder));
+    const QString name = QFileInfo(QString::fromUtf8(file)).completeBaseName();
+    for (const QString &copied : data.entryList({name + QStringLiteral(".*")}, QDir::Files)) {
+        EXPECT_TRUE(QFile::copy(data.filePath(copied), path(copied))) << qPrintable(copied);
+    }
+    return name.toStdString();
+}
+
+std::string ProgramTest::data(const char *folder, const std::string &file)
+{
+    QFile found(QStringLiteral(BOM_SOURCE_DIR "/tests/data/") + QString::fromUtf8(folder) + u'/' +
+                QString::fromStdString(file));
+    return found.open(QIODevice::ReadOnly) ? found.readAll().toStdString() : "no file";
 }
 
 ProgramRun ProgramTest::run(const char *arguments, const QString &output) const

@@ -30,6 +30,11 @@ protected:
     void write(const QString &name, const QByteArray &bytes) const;
     /// The content of a file, "no file" when there is none.
     [[nodiscard]] std::string read(const QString &name) const;
+    /// Copies the files of tests/data/FOLDER that have the name of this one, whatever their suffixes; gives
+    /// the name.
+    [[nodiscard]] std::string copyData(const char *folder, const char *file) const;
+    /// The content of a file of tests/data/FOLDER.
+    [[nodiscard]] static std::string data(const char *folder, const std::string &file);
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
     void setEnvironment(const QString &name, const QString &value) { m_environment.insert(name, value); }
 
