@@ -4,8 +4,9 @@
 
 namespace {
 
-/// The stamp of the design above, the number of the component, counted from 1, below: a record that outlived
-/// its design is not taken for one of the next.
+/// An identifier has the design's stamp in its upper bits and the component's number, counted from 1, in
+/// these lower ones, so that the identifier of a record that outlived its design is not taken for one of the
+/// next design.
 constexpr int indexBits = 32;
 
 QByteArrayView view(std::string_view text)

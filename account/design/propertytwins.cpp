@@ -55,7 +55,8 @@ bool differs(std::string_view a, std::string_view b)
     return !a.empty() && !b.empty() && a != b;
 }
 
-/// Goes through all components once, with one entry per group that need not be emptied in between.
+/// Goes through all components once. Each group remembers the number of the component on which one of its
+/// names was met last, so that nothing has to be reset from one component to the next.
 class TwinFinder
 {
 public:
