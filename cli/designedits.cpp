@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/designedits.h"
 
-#include "account/wording.h"
+#include "account/sentences.h"
 #include "cli/console.h"
 #include "cli/numbertext.h"
 #include "cli/opendesign.h"

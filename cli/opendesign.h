@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/cliui.h"
 #include "cli/console.h"
 #include "cli/designarguments.h"
 #include "core/bompartsdatabase.h"

@@ -4,8 +4,7 @@
 
 #include "account/billaccount.h"
 #include "account/design/designaccount.h"
-#include "account/reportnotices.h"
-#include "account/wording.h"
+#include "account/sentences.h"
 #include "cli/console.h"
 #include "cli/opendesign.h"
 #include "cli/outputfile.h"

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/templatecommand.h"
 
-#include "account/wording.h"
-#include "cli/cliui.h"
+#include "account/sentences.h"
 #include "cli/console.h"
 #include "cli/designarguments.h"
 #include "cli/outputfile.h"

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/undocommand.h"
 
-#include "cli/cliui.h"
 #include "cli/console.h"
 #include "cli/designarguments.h"
 #include "standalone/designsession.h"

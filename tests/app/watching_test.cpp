@@ -82,7 +82,7 @@ TEST_F(WorkbenchTest, FollowsTheBoardBesideTheSchematic)
     const auto side = [&] {
         const auto *layout =
             getcdb()->getpart(bench->session().design()->components()[0]->identifier)->layout();
-        return layout ? layout->name().toStdString() : "none";
+        return layout ? layout->name().toByteArray().toStdString() : "none";
     };
     EXPECT_EQ(side(), "none");
     const quint64 before = stamp();

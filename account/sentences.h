@@ -8,6 +8,12 @@ class BOMPartsDatabase;
 struct ComponentAccount;
 struct ReplacedLine;
 
+/// "1 part", "7 parts".
+[[nodiscard]] QString counted(qsizetype count, const QString &singular, const QString &plural);
+
+/// The references in reference order, runs shortened: "R1-R3,R5".
+[[nodiscard]] QString referenceText(const QStringList &references);
+
 /// The forms in which a report is written.
 struct ReportForms
 {

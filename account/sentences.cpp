@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "account/reportnotices.h"
+#include "account/sentences.h"
 
 #include "account/billaccount.h"
 #include "account/design/designaccount.h"
-#include "account/wording.h"
 #include "core/bompartsdatabase.h"
+#include "core/referenceformat.h"
+
+#include <limits>
 
 namespace {
 
@@ -105,6 +107,18 @@ QStringList replacedLineNotices(const BOMPartsDatabase &database, bool grouped)
 }
 
 } // namespace
+
+QString counted(qsizetype count, const QString &singular, const QString &plural)
+{
+    return QString::number(count) + u' ' + (count == 1 ? singular : plural);
+}
+
+QString referenceText(const QStringList &references)
+{
+    ReferenceStyle style;
+    style.width = std::numeric_limits<int>::max();
+    return formatReferences(references, style);
+}
 
 QStringList reportNotices(const ComponentAccount &components, const BOMPartsDatabase &database,
                           ReportForms forms)
