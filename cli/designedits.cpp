@@ -4,9 +4,9 @@
 
 #include "account/sentences.h"
 #include "cli/console.h"
+#include "cli/editcommands.h"
 #include "cli/numbertext.h"
 #include "cli/opendesign.h"
-#include "cli/writeoptions.h"
 #include "core/bompart.h"
 #include "core/propertyquery.h"
 #include "core/reference.h"

@@ -1,14 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "cli/applycommand.h"
 #include "cli/checkcommand.h"
 #include "cli/console.h"
+#include "cli/editcommands.h"
 #include "cli/partscommand.h"
 #include "cli/reportcommand.h"
-#include "cli/setcommand.h"
 #include "cli/templatechoice.h"
 #include "cli/templatecommand.h"
-#include "cli/undocommand.h"
 #include "standalone/environment.h"
 
 #include <CLI/Config.hpp>

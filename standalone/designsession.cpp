@@ -2,12 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/designsession.h"
 
-#include "designs/designfiles.h"
 #include "designs/formats/designreader.h"
+#include "designs/transaction/designfiles.h"
 #include "host/framework/hostui.h"
 #include "standalone/companionfiles.h"
 #include "standalone/loadeddesign.h"
-#include "standalone/standalonelayout.h"
 
 #include <QCoreApplication>
 #include <QDir>

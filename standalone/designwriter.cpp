@@ -3,7 +3,7 @@
 #include "standalone/designwriter.h"
 
 #include "designs/design.h"
-#include "designs/designfiles.h"
+#include "designs/transaction/designfiles.h"
 #include "designs/utf8.h"
 
 namespace {

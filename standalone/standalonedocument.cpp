@@ -123,3 +123,23 @@ QString StandaloneDocument::notesProblem() const
     const QString problem = readNotesFile(path).problem;
     return problem.isEmpty() ? QString() : path + QStringLiteral(": ") + problem;
 }
+
+QString StandaloneLayout::getinfo(const char *key) const
+{
+    return key && std::strcmp(key, "FILENAME") == 0 ? m_file : QString();
+}
+
+bool StandaloneLayout::isdoctype(const char *type) const
+{
+    return type && std::strcmp(type, "LYT") == 0;
+}
+
+bool StandaloneLayout::writeattachment(const char *, const QString &)
+{
+    return false;
+}
+
+QString StandaloneLayout::attachmenterror() const
+{
+    return m_file + QStringLiteral(": a board has no place for such a text");
+}

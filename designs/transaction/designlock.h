@@ -5,6 +5,10 @@
 #include "designs/transaction/designpaths.h"
 #include "designs/transaction/filework.h"
 
+#include <QString>
+
+#include <optional>
+
 namespace designs {
 
 /// The right to write the files of one design, for one process at a time. It ends with the process.
@@ -25,5 +29,9 @@ private:
     QString m_path;
     int m_file = -1;
 };
+
+/// Who has a file open in KiCad, by the lock file beside it: "is open in KiCad (anna on host)". Nothing when
+/// nobody has.
+[[nodiscard]] std::optional<QString> openElsewhere(const QString &path);
 
 } // namespace designs

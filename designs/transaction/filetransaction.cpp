@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/filetransaction.h"
 
-#include "designs/transaction/undorecord.h"
-
 #include <QRandomGenerator>
 
 namespace designs {

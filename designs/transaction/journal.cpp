@@ -2,7 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/journal.h"
 
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
 
 #include <array>
@@ -10,6 +14,14 @@
 namespace designs {
 
 namespace {
+
+constexpr qint64 longestRecord = qint64(8) * 1024 * 1024;
+
+/// Opening a pipe would wait for its other end.
+bool isPlainFile(const QString &path)
+{
+    return QFileInfo(path).isFile() && !QFileInfo(path).isSymLink();
+}
 
 const std::array<QString, 3> &stateNames()
 {
@@ -26,6 +38,58 @@ std::optional<Journal::State> stateOf(const QString &name)
         }
     }
     return std::nullopt;
+}
+
+QJsonArray replacementsToJson(const std::vector<RecordedReplacement> &changes, const DesignPaths &paths)
+{
+    QJsonArray array;
+    for (const RecordedReplacement &change : changes) {
+        array << QJsonObject{{QStringLiteral("file"), paths.relative(change.target)},
+                             {QStringLiteral("before"), change.before.toString()},
+                             {QStringLiteral("after"), change.after.toString()}};
+    }
+    return array;
+}
+
+std::optional<std::vector<RecordedReplacement>> replacementsFrom(const QJsonArray &array,
+                                                                 const DesignPaths &paths)
+{
+    std::vector<RecordedReplacement> changes;
+    for (const QJsonValue &value : array) {
+        const QJsonObject object = value.toObject();
+        const QString target = paths.resolved(object.value(QLatin1String("file")).toString());
+        const auto before = FileFingerprint::fromString(object.value(QLatin1String("before")).toString());
+        const auto after = FileFingerprint::fromString(object.value(QLatin1String("after")).toString());
+        if (target.isEmpty() || !paths.mayHold(target) || !before || !after) {
+            return std::nullopt;
+        }
+        changes.push_back({target, *before, *after});
+    }
+    return changes.empty() ? std::nullopt : std::optional(std::move(changes));
+}
+
+std::optional<QJsonObject> readRecord(const QString &path, QString *why)
+{
+    QFile file(path);
+    if (!isPlainFile(path)) {
+        *why = QStringLiteral("it is no ordinary file");
+        return std::nullopt;
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        *why = QStringLiteral("it cannot be read: ") + file.errorString();
+        return std::nullopt;
+    }
+    const QByteArray bytes = file.read(longestRecord + 1);
+    if (bytes.size() > longestRecord) {
+        *why = QStringLiteral("it is too large");
+        return std::nullopt;
+    }
+    const QJsonObject object = QJsonDocument::fromJson(bytes).object();
+    if (object.value(QLatin1String("version")).toInt() != 1) {
+        *why = QStringLiteral("it is damaged or of another version");
+        return std::nullopt;
+    }
+    return object;
 }
 
 } // namespace
@@ -52,7 +116,7 @@ QByteArray Journal::toJson(const DesignPaths &paths) const
                                      {QStringLiteral("token"), token},
                                      {QStringLiteral("backups"), keepsBackups},
                                      {QStringLiteral("makesFolder"), makesBackupFolder},
-                                     {QStringLiteral("files"), designs::toJson(changes, paths)}})
+                                     {QStringLiteral("files"), replacementsToJson(changes, paths)}})
         .toJson();
 }
 
@@ -79,6 +143,44 @@ std::optional<Journal> Journal::read(const DesignPaths &paths, QString *why)
         journal.add(paths, change);
     }
     return journal;
+}
+
+QByteArray UndoRecord::toJson(const DesignPaths &paths) const
+{
+    return QJsonDocument(QJsonObject{{QStringLiteral("version"), 1},
+                                     {QStringLiteral("files"), replacementsToJson(files, paths)}})
+        .toJson();
+}
+
+std::optional<UndoRecord> UndoRecord::read(const DesignPaths &paths, QString *why)
+{
+    const std::optional<QJsonObject> object = readRecord(paths.record(), why);
+    if (!object) {
+        return std::nullopt;
+    }
+    auto files = replacementsFrom(object->value(QLatin1String("files")).toArray(), paths);
+    if (!files) {
+        *why = QStringLiteral("it is damaged or names files that are none of this design");
+        return std::nullopt;
+    }
+    return UndoRecord{std::move(*files)};
+}
+
+std::optional<FileFingerprint> fingerprintOfPlainFile(const QString &path)
+{
+    return isPlainFile(path) ? fingerprintOfFile(path) : std::nullopt;
+}
+
+std::optional<QByteArray> contentOfPlainFile(const QString &path, const FileFingerprint &expected)
+{
+    QFile file(path);
+    // The size first: what is not the expected file may be of any.
+    if (!isPlainFile(path) || quint64(file.size()) != expected.size || !file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    QByteArray bytes = file.readAll();
+    const bool same = fingerprintOf({bytes.constData(), std::size_t(bytes.size())}) == expected;
+    return same ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 } // namespace designs

@@ -2,9 +2,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "designs/transaction/recordedreplacement.h"
+#include "designs/filefingerprint.h"
+#include "designs/transaction/designpaths.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+#include <vector>
 
 namespace designs {
+
+/// A file and its content before and after a write, as journal and undo record name it.
+struct RecordedReplacement
+{
+    QString target;
+    FileFingerprint before;
+    FileFingerprint after;
+};
 
 /// One file that is replaced.
 struct JournalEntry : RecordedReplacement
@@ -47,5 +62,23 @@ struct Journal
 
     [[nodiscard]] QString recordName(const DesignPaths &paths) const;
 };
+
+/// The last write, as far as it can be taken back.
+struct UndoRecord
+{
+    /// RecordedReplacement::before is of the backup, too.
+    std::vector<RecordedReplacement> files;
+
+    [[nodiscard]] QByteArray toJson(const DesignPaths &paths) const;
+    /// The record of a design; nothing, with the reason in `why`, when it cannot be used.
+    [[nodiscard]] static std::optional<UndoRecord> read(const DesignPaths &paths, QString *why);
+};
+
+/// Of a file that is no link, pipe or folder; nothing for those and what cannot be read.
+[[nodiscard]] std::optional<FileFingerprint> fingerprintOfPlainFile(const QString &path);
+
+/// The content of such a file, if it is the expected one.
+[[nodiscard]] std::optional<QByteArray> contentOfPlainFile(const QString &path,
+                                                           const FileFingerprint &expected);
 
 } // namespace designs

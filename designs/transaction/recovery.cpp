@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/recovery.h"
 
-#include "designs/transaction/editorlock.h"
+#include "designs/transaction/designlock.h"
 
 #include <algorithm>
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "designs/designfiles.h"
 #include "designs/designfolder.h"
 #include "designs/interruptedfilesystem.h"
+#include "designs/transaction/designfiles.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "designs/transaction/posixfilesystem.h"
+#include "designs/transaction/filesystem.h"
 
 #include <unistd.h>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "designs/transaction/posixfilesystem.h"
+#include "designs/transaction/filesystem.h"
 
 #include <QFile>
 #include <QThread>

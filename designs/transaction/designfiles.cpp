@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "designs/designfiles.h"
+#include "designs/transaction/designfiles.h"
 
 #include "designs/transaction/designlock.h"
 #include "designs/transaction/recovery.h"
-#include "designs/transaction/undorecord.h"
 #include "designs/transaction/writecheck.h"
 
 namespace designs {

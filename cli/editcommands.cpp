@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/editcommands.h"
+
+#include "cli/console.h"
+#include "cli/designedits.h"
+#include "cli/edittable.h"
+#include "cli/opendesign.h"
+#include "standalone/tablefile.h"
+
+#include <CLI/Validators.hpp>
+
+#include <algorithm>
+
+void WriteOptions::addTo(CLI::App &command)
+{
+    command.add_flag("--dry-run", isDryRun, "Check everything and tell what would change; write nothing");
+    command.add_flag("--no-backup", hasNoBackup,
+                     "Keep no copy of the files as they are before; bom undo needs one");
+    design.addReading(command);
+    design.addListing(command);
+    locale.addTo(command, "Read numbers as in this locale, such as de_DE; C without it");
+}
+
+void SetCommand::addTo(CLI::App &program)
+{
+    m_app = program.add_subcommand("set", "Give properties of parts new values in the design");
+    m_options.design.addDesign(*m_app);
+    m_app->add_option("REF", m_references, "References, such as R1 or R1,R4-R7")
+        ->required()
+        ->check(CLI::Validator(isGiven, ""));
+    m_app
+        ->add_option("NAME=VALUE", m_assignments,
+                     "Property with its new value; NAME= takes the property away")
+        ->required();
+    m_options.addTo(*m_app);
+}
+
+ExitStatus SetCommand::run()
+{
+    const auto locale = m_options.locale.locale();
+    const auto wanted = assignments();
+    if (!locale || !wanted) {
+        return ExitStatus::WrongUsage;
+    }
+    OpenDesign design(*locale);
+    if (const ExitStatus status = design.open(m_options.design, true); status != ExitStatus::Done) {
+        return status;
+    }
+    DesignEdits edits(design);
+    QString error;
+    QStringList references = namedReferences(
+        QString::fromStdString(m_references),
+        [&edits](const QString &reference) { return edits.isKnown(reference); }, &error);
+    references.removeDuplicates();
+    if (references.isEmpty()) {
+        edits.refuse(error);
+    }
+    for (const QString &reference : std::as_const(references)) {
+        if (!edits.isKnown(reference)) {
+            edits.refuse(reference + QStringLiteral(": the design has no part of this reference"));
+            continue;
+        }
+        for (const Assignment &assignment : *wanted) {
+            edits.add(reference, assignment.property, assignment.value);
+        }
+    }
+    return edits.write(m_options);
+}
+
+std::optional<QList<SetCommand::Assignment>> SetCommand::assignments() const
+{
+    QList<Assignment> found;
+    for (const std::string &argument : m_assignments) {
+        const QString text = QString::fromStdString(argument);
+        if (text.toStdString() != argument) {
+            console::message(u'"' + text + QStringLiteral("\" is no text in UTF-8"));
+            return std::nullopt;
+        }
+        const qsizetype sign = text.indexOf(u'=');
+        if (sign <= 0) {
+            console::message(u'"' + text + QStringLiteral("\" is no NAME=VALUE (bom set --help tells more)"));
+            return std::nullopt;
+        }
+        const QString name = text.left(sign);
+        const bool isNamed = std::any_of(found.cbegin(), found.cend(), [&name](const Assignment &other) {
+            return other.property.compare(name, Qt::CaseInsensitive) == 0;
+        });
+        if (isNamed) {
+            console::message(QStringLiteral("the property ") + name + QStringLiteral(" is named twice"));
+            return std::nullopt;
+        }
+        found.append({name, text.mid(sign + 1)});
+    }
+    return found;
+}
+
+void ApplyCommand::addTo(CLI::App &program)
+{
+    m_app = program.add_subcommand("apply", "Write the values that were changed in a CSV report, or any CSV "
+                                            "file with references, into the design");
+    m_options.design.addDesign(*m_app);
+    m_app
+        ->add_option("EDITS", m_edits,
+                     "CSV file; its headings are fields of the template or names of properties")
+        ->required()
+        ->check(CLI::Validator(isGiven, ""));
+    m_options.addTo(*m_app);
+}
+
+ExitStatus ApplyCommand::run()
+{
+    const auto locale = m_options.locale.locale();
+    if (!locale) {
+        return ExitStatus::WrongUsage;
+    }
+    OpenDesign design(*locale);
+    if (const ExitStatus status = design.open(m_options.design, true); status != ExitStatus::Done) {
+        return status;
+    }
+    DesignEdits edits(design);
+    const QString path = QString::fromStdString(m_edits);
+    EditTable comparison(path, design, edits);
+    QString error;
+    const auto table = readTable(path, comparison.cells().columnHeadings(true).at(2), &error);
+    if (!table) {
+        console::message(error);
+        return ExitStatus::UnreadableInput;
+    }
+    comparison.compare(*table);
+    return edits.write(m_options);
+}
+
+void UndoCommand::addTo(CLI::App &program)
+{
+    m_app = program.add_subcommand("undo", "Take back what was written into a design last");
+    m_app->add_option("DESIGN", m_design, "KiCad schematic or project, or CSV part list")
+        ->required()
+        ->check(CLI::Validator(isGiven, ""));
+}
+
+ExitStatus UndoCommand::run()
+{
+    const CliUi ui(QLocale::c());
+    DesignSession session;
+    session.setRereading(false);
+    if (!session.open(QString::fromStdString(m_design))) {
+        console::message(session.error());
+        return ExitStatus::UnreadableInput;
+    }
+    if (!session.canUndo()) {
+        console::message(QString::fromStdString(m_design) +
+                         QStringLiteral(": there is nothing to take back"));
+        return ExitStatus::DesignProblem;
+    }
+    const DesignSession::Undone undone = session.undo();
+    for (const QString &problem : undone.problems) {
+        console::message(problem);
+    }
+    QString text;
+    for (const QString &file : undone.files) {
+        text += printable(file) + QStringLiteral(" has its previous content again\n");
+    }
+    if (!console::write(text.toUtf8())) {
+        return ExitStatus::UnwritableOutput;
+    }
+    if (undone.problems.isEmpty()) {
+        return ExitStatus::Done;
+    }
+    return undone.isUnwritable ? ExitStatus::UnwritableOutput : ExitStatus::DesignProblem;
+}

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/command.h"
+#include "cli/designarguments.h"
+#include "cli/localeoption.h"
+
+#include <CLI/App.hpp>
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The part of a command line that says how a design is changed.
+struct WriteOptions
+{
+    DesignArguments design;
+    LocaleOption locale;
+    bool isDryRun = false;
+    bool hasNoBackup = false;
+
+    /// Adds the options; DESIGN has to be added before.
+    void addTo(CLI::App &command);
+};
+
+/// bom set: gives properties of parts new values.
+class SetCommand final : public Command
+{
+public:
+    void addTo(CLI::App &program) override;
+    [[nodiscard]] ExitStatus run() override;
+
+private:
+    struct Assignment
+    {
+        QString property;
+        QString value;
+    };
+    /// Nothing, after a message, when one of them is none or a property is named twice.
+    [[nodiscard]] std::optional<QList<Assignment>> assignments() const;
+
+    WriteOptions m_options;
+    std::string m_references;
+    std::vector<std::string> m_assignments;
+};
+
+/// bom apply: takes the values of an edited report into the design.
+class ApplyCommand final : public Command
+{
+public:
+    void addTo(CLI::App &program) override;
+    [[nodiscard]] ExitStatus run() override;
+
+private:
+    WriteOptions m_options;
+    std::string m_edits;
+};
+
+/// bom undo: takes back what the last command wrote into a design.
+class UndoCommand final : public Command
+{
+public:
+    void addTo(CLI::App &program) override;
+    [[nodiscard]] ExitStatus run() override;
+
+private:
+    std::string m_design;
+};
