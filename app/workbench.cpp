@@ -220,7 +220,7 @@ void Workbench::undoLastWrite()
                                     question.arg(QFileInfo(m_path).fileName()), false)) {
         return;
     }
-    const DesignSession::Undone undone = m_session.undo();
+    const UndoResult undone = m_session.undo();
     if (!undone.files.isEmpty()) {
         if (m_session.changedFiles().isEmpty()) {
             showDesign();

@@ -4,7 +4,6 @@
 
 #include "account/sentences.h"
 #include "cli/console.h"
-#include "cli/editcommands.h"
 #include "cli/numbertext.h"
 #include "cli/opendesign.h"
 #include "core/bompart.h"
@@ -162,22 +161,20 @@ void DesignEdits::addDirect(const QString &reference, const QString &property, c
 ExitStatus DesignEdits::write(const WriteOptions &options)
 {
     if (!m_refusals.isEmpty()) {
-        return tellRefused(m_refusals, ExitStatus::DesignProblem);
+        return reportProblems(m_refusals, ExitStatus::DesignProblem);
     }
-    m_design.session().setDryRun(options.isDryRun);
-    m_design.session().setRereading(false);
-    m_design.session().setBackups(!options.hasNoBackup);
-    const QList<CDBPROBLEM> problems = runBatch(options.isDryRun);
+    const WriteResult result = writeBatch(options);
     QStringList messages;
     bool areFilesOnly = true;
-    for (const CDBPROBLEM &problem : problems) {
+    for (const CDBPROBLEM &problem : result.problems) {
         messages.append(messageOf(problem));
         areFilesOnly = areFilesOnly && problem.reference.isEmpty();
     }
     if (!messages.isEmpty()) {
-        return tellRefused(messages, areFilesOnly ? ExitStatus::UnwritableOutput : ExitStatus::DesignProblem);
+        return reportProblems(messages,
+                              areFilesOnly ? ExitStatus::UnwritableOutput : ExitStatus::DesignProblem);
     }
-    return tellChanges(options.isDryRun);
+    return reportChanges(result, options.isDryRun);
 }
 
 QString DesignEdits::messageOf(const CDBPROBLEM &problem) const
@@ -195,25 +192,24 @@ QString DesignEdits::messageOf(const CDBPROBLEM &problem) const
     return text;
 }
 
-QList<CDBPROBLEM> DesignEdits::runBatch(bool isDryRun)
+WriteResult DesignEdits::writeBatch(const WriteOptions &options)
 {
-    CDBCORE &host = *getcdb();
-    host.beginbatch();
-    for (auto it = m_direct.cbegin(); it != m_direct.cend(); ++it) {
-        std::istringstream script(PropertyAssignments::script(it.key(), *it).toStdString());
-        std::ostringstream report;
-        host.adi(script, report, 0);
-    }
-    const QList<CDBPROBLEM> problems = m_assignments.apply({isDryRun}).problems;
-    if (problems.isEmpty()) {
-        (void)host.commitbatch();
-    } else {
-        host.dropbatch();
-    }
-    return problems + host.problems();
+    QList<CDBPROBLEM> problems;
+    const auto runScripts = [&] {
+        for (auto it = m_direct.cbegin(); it != m_direct.cend(); ++it) {
+            std::istringstream script(PropertyAssignments::script(it.key(), *it).toStdString());
+            std::ostringstream report;
+            getcdb()->adi(script, report, 0);
+        }
+        problems = m_assignments.apply({options.isDryRun}).problems;
+        return problems.isEmpty();
+    };
+    WriteResult result = m_design.session().write(options, runScripts);
+    result.problems = problems + result.problems;
+    return result;
 }
 
-ExitStatus DesignEdits::tellRefused(const QStringList &messages, ExitStatus status)
+ExitStatus DesignEdits::reportProblems(const QStringList &messages, ExitStatus status)
 {
     for (const QString &message : messages) {
         console::message(message);
@@ -223,9 +219,9 @@ ExitStatus DesignEdits::tellRefused(const QStringList &messages, ExitStatus stat
     return status;
 }
 
-ExitStatus DesignEdits::tellChanges(bool isDryRun) const
+ExitStatus DesignEdits::reportChanges(const WriteResult &result, bool isDryRun) const
 {
-    QList<PropertyChange> changes = m_design.session().lastChanges();
+    QList<PropertyChange> changes = result.changes;
     if (changes.isEmpty()) {
         return console::write("nothing to change\n") ? ExitStatus::Done : ExitStatus::UnwritableOutput;
     }
@@ -239,7 +235,7 @@ ExitStatus DesignEdits::tellChanges(bool isDryRun) const
     for (const PropertyChange &change : std::as_const(changes)) {
         text += changeLine(change);
     }
-    text += summary(changes, m_design.session().lastFileCount(), isDryRun);
+    text += summary(changes, result.files.size(), isDryRun);
     if (!m_renumbered.isEmpty()) {
         console::message(
             QStringLiteral("BOM-only parts are numbered in the order of their definitions: those of ") +

@@ -4,6 +4,7 @@
 
 #include "cli/console.h"
 #include "core/propertyassignments.h"
+#include "standalone/designwriter.h"
 
 #include <QHash>
 #include <QMap>
@@ -14,7 +15,6 @@
 
 class OpenDesign;
 class Part;
-struct WriteOptions;
 
 /// Edits of the open design that a command collects, and then writes all of them or none.
 class DesignEdits final
@@ -33,7 +33,7 @@ public:
     /// Something else that keeps the edits from being written.
     void refuse(const QString &message) { m_refusals.append(message); }
 
-    /// Writes the edits, and says what was changed or why nothing was.
+    /// Writes the edits, and reports what was changed or why nothing was.
     [[nodiscard]] ExitStatus write(const WriteOptions &options);
 
 private:
@@ -45,9 +45,9 @@ private:
                    const QString &front);
     void addToBOMPart(const Part &part, const QString &property, const QString &value);
     [[nodiscard]] QString messageOf(const CDBPROBLEM &problem) const;
-    [[nodiscard]] QList<CDBPROBLEM> runBatch(bool isDryRun);
-    [[nodiscard]] static ExitStatus tellRefused(const QStringList &messages, ExitStatus status);
-    [[nodiscard]] ExitStatus tellChanges(bool isDryRun) const;
+    [[nodiscard]] WriteResult writeBatch(const WriteOptions &options);
+    [[nodiscard]] static ExitStatus reportProblems(const QStringList &messages, ExitStatus status);
+    [[nodiscard]] ExitStatus reportChanges(const WriteResult &result, bool isDryRun) const;
 
     OpenDesign &m_design;
     PropertyAssignments m_assignments;
@@ -56,7 +56,8 @@ private:
     QStringList m_refusals;
     /// Where edits come from, by reference and property.
     QHash<std::pair<QString, QString>, QString> m_origins;
-    /// What is asked of BOM-only parts: their definitions, which the design holds, do not name them.
+    /// What is changed in BOM-only parts, for the report: the changes of the design only name the definitions
+    /// of their parents.
     QStringList m_bomPartLines;
     /// The first parent whose BOM-only parts may be numbered anew, and whether there are others.
     QString m_renumbered;

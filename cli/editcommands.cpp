@@ -12,7 +12,7 @@
 
 #include <algorithm>
 
-void WriteOptions::addTo(CLI::App &command)
+void WriteArguments::addTo(CLI::App &command)
 {
     command.add_flag("--dry-run", isDryRun, "Check everything and tell what would change; write nothing");
     command.add_flag("--no-backup", hasNoBackup,
@@ -22,10 +22,15 @@ void WriteOptions::addTo(CLI::App &command)
     locale.addTo(command, "Read numbers as in this locale, such as de_DE; C without it");
 }
 
+WriteOptions WriteArguments::options() const
+{
+    return {.isDryRun = isDryRun, .keepsBackups = !hasNoBackup, .rereads = false};
+}
+
 void SetCommand::addTo(CLI::App &program)
 {
     m_app = program.add_subcommand("set", "Give properties of parts new values in the design");
-    m_options.design.addDesign(*m_app);
+    m_arguments.design.addDesign(*m_app);
     m_app->add_option("REF", m_references, "References, such as R1 or R1,R4-R7")
         ->required()
         ->check(CLI::Validator(isGiven, ""));
@@ -33,18 +38,18 @@ void SetCommand::addTo(CLI::App &program)
         ->add_option("NAME=VALUE", m_assignments,
                      "Property with its new value; NAME= takes the property away")
         ->required();
-    m_options.addTo(*m_app);
+    m_arguments.addTo(*m_app);
 }
 
 ExitStatus SetCommand::run()
 {
-    const auto locale = m_options.locale.locale();
+    const auto locale = m_arguments.locale.locale();
     const auto wanted = assignments();
     if (!locale || !wanted) {
         return ExitStatus::WrongUsage;
     }
     OpenDesign design(*locale);
-    if (const ExitStatus status = design.open(m_options.design, true); status != ExitStatus::Done) {
+    if (const ExitStatus status = design.open(m_arguments.design, true); status != ExitStatus::Done) {
         return status;
     }
     DesignEdits edits(design);
@@ -65,7 +70,7 @@ ExitStatus SetCommand::run()
             edits.add(reference, assignment.property, assignment.value);
         }
     }
-    return edits.write(m_options);
+    return edits.write(m_arguments.options());
 }
 
 std::optional<QList<SetCommand::Assignment>> SetCommand::assignments() const
@@ -99,23 +104,23 @@ void ApplyCommand::addTo(CLI::App &program)
 {
     m_app = program.add_subcommand("apply", "Write the values that were changed in a CSV report, or any CSV "
                                             "file with references, into the design");
-    m_options.design.addDesign(*m_app);
+    m_arguments.design.addDesign(*m_app);
     m_app
         ->add_option("EDITS", m_edits,
                      "CSV file; its headings are fields of the template or names of properties")
         ->required()
         ->check(CLI::Validator(isGiven, ""));
-    m_options.addTo(*m_app);
+    m_arguments.addTo(*m_app);
 }
 
 ExitStatus ApplyCommand::run()
 {
-    const auto locale = m_options.locale.locale();
+    const auto locale = m_arguments.locale.locale();
     if (!locale) {
         return ExitStatus::WrongUsage;
     }
     OpenDesign design(*locale);
-    if (const ExitStatus status = design.open(m_options.design, true); status != ExitStatus::Done) {
+    if (const ExitStatus status = design.open(m_arguments.design, true); status != ExitStatus::Done) {
         return status;
     }
     DesignEdits edits(design);
@@ -128,7 +133,7 @@ ExitStatus ApplyCommand::run()
         return ExitStatus::UnreadableInput;
     }
     comparison.compare(*table);
-    return edits.write(m_options);
+    return edits.write(m_arguments.options());
 }
 
 void UndoCommand::addTo(CLI::App &program)
@@ -143,7 +148,6 @@ ExitStatus UndoCommand::run()
 {
     const CliUi ui(QLocale::c());
     DesignSession session;
-    session.setRereading(false);
     if (!session.open(QString::fromStdString(m_design))) {
         console::message(session.error());
         return ExitStatus::UnreadableInput;
@@ -153,7 +157,7 @@ ExitStatus UndoCommand::run()
                          QStringLiteral(": there is nothing to take back"));
         return ExitStatus::DesignProblem;
     }
-    const DesignSession::Undone undone = session.undo();
+    const UndoResult undone = session.undo({.rereads = false});
     for (const QString &problem : undone.problems) {
         console::message(problem);
     }

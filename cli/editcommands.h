@@ -5,6 +5,7 @@
 #include "cli/command.h"
 #include "cli/designarguments.h"
 #include "cli/localeoption.h"
+#include "standalone/designwriter.h"
 
 #include <CLI/App.hpp>
 
@@ -15,16 +16,17 @@
 #include <string>
 #include <vector>
 
-/// The part of a command line that says how a design is changed.
-struct WriteOptions
+/// The part of a command line that says which design is changed, and how.
+struct WriteArguments
 {
     DesignArguments design;
     LocaleOption locale;
     bool isDryRun = false;
     bool hasNoBackup = false;
 
-    /// Adds the options; DESIGN has to be added before.
+    /// Adds all but DESIGN, which has to be added before.
     void addTo(CLI::App &command);
+    [[nodiscard]] WriteOptions options() const;
 };
 
 /// bom set: gives properties of parts new values.
@@ -43,7 +45,7 @@ private:
     /// Nothing, after a message, when one of them is none or a property is named twice.
     [[nodiscard]] std::optional<QList<Assignment>> assignments() const;
 
-    WriteOptions m_options;
+    WriteArguments m_arguments;
     std::string m_references;
     std::vector<std::string> m_assignments;
 };
@@ -56,7 +58,7 @@ public:
     [[nodiscard]] ExitStatus run() override;
 
 private:
-    WriteOptions m_options;
+    WriteArguments m_arguments;
     std::string m_edits;
 };
 

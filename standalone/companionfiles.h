@@ -15,14 +15,14 @@ class LoadedDesign;
 /// The project file beside a schematic, likewise.
 [[nodiscard]] QString projectFileOf(const LoadedDesign &design);
 
-/// Tells when a file has another content than at the last look; not being there is a content too.
+/// Finds out whether a file changed since the last look. Appearing and disappearing are changes.
 class FileLook final
 {
 public:
-    /// The look at an empty name never finds anything.
+    /// An empty path stands for no file, which never changes.
     void setFile(const QString &path);
     [[nodiscard]] const QString &file() const { return m_path; }
-    /// Whether the content is another one; it is then the known one.
+    /// Whether the content is another one than at the last call or setFile().
     [[nodiscard]] bool hasChanged();
 
 private:

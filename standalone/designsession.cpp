@@ -10,8 +10,9 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
+
+#include <utility>
 
 namespace {
 
@@ -31,36 +32,12 @@ designs::ReadResult read(const QString &path, const QString &variant)
     return designs::readDesign(path, options);
 }
 
-QStringList messagesOf(const std::vector<designs::Problem> &problems)
-{
-    QStringList texts;
-    for (const designs::Problem &problem : problems) {
-        texts.append(problem.message());
-    }
-    return texts;
-}
-
-/// Whether the files as they are now could be written.
-bool canBeReplaced(const designs::Design &design)
-{
-    std::vector<designs::FileReplacement> same;
-    for (const QString &path : design.files()) {
-        QFile file(path);
-        const auto fingerprint = designs::fingerprintOfFile(path);
-        if (!fingerprint || !file.open(QIODevice::ReadOnly)) {
-            return false;
-        }
-        same.push_back({path, *fingerprint, file.readAll()});
-    }
-    return designs::DesignFiles(design.info().file).check(same).empty();
-}
-
 } // namespace
 
 DesignSession::DesignSession()
     : m_process(m_document, m_netlist)
 {
-    m_cdb.setWriter([this](std::span<const designs::Edit> edits) { return write(edits); });
+    m_cdb.setWriter([this](std::span<const designs::Edit> edits) { return writeBatch(edits); });
     setapplnprocess(&m_process);
     setcdb(&m_cdb);
 }
@@ -77,7 +54,7 @@ bool DesignSession::open(const QString &path, const QString &variant)
     QStringList recoveries = messagesOf(designs::DesignFiles(expected).recover());
     designs::ReadResult result = read(path, variant);
     if (result.design && result.design->info().file != expected) {
-        // Only the project said which sheet stands for the design.
+        // The project names another root sheet, which may have an interrupted write of its own.
         const QStringList more = messagesOf(designs::DesignFiles(result.design->info().file).recover());
         if (!more.isEmpty()) {
             recoveries << more;
@@ -100,7 +77,6 @@ void DesignSession::open(std::unique_ptr<const designs::Design> design)
     m_path = design->info().file;
     m_variant = design->info().variant;
     m_recoveries.clear();
-    m_writer.clear();
     setDesign(std::move(design));
 }
 
@@ -131,25 +107,41 @@ QStringList DesignSession::warnings() const
     return m_design ? m_recoveries + messagesOf(m_design->design().warnings()) : QStringList();
 }
 
-QList<CDBPROBLEM> DesignSession::write(std::span<const designs::Edit> edits)
+WriteResult DesignSession::write(const WriteOptions &options, const std::function<bool()> &runScripts)
 {
-    // Rereading lets go of the design.
+    m_options = options;
+    m_result = {};
+    m_cdb.beginbatch();
+    if (runScripts()) {
+        (void)m_cdb.commitbatch();
+    } else {
+        m_cdb.dropbatch();
+    }
+    m_options = {};
+    WriteResult result = std::exchange(m_result, {});
+    result.problems = m_cdb.problems();
+    return result;
+}
+
+QList<CDBPROBLEM> DesignSession::writeBatch(std::span<const designs::Edit> edits)
+{
+    // Keep the design: reading it again replaces m_design.
     const std::shared_ptr<const LoadedDesign> design = m_design;
-    QList<CDBPROBLEM> problems = m_writer.write(design->design(), edits);
-    if (!m_writer.writtenFiles().isEmpty()) {
+    m_result = writeEdits(design->design(), edits, m_options);
+    if (!m_result.files.isEmpty() && !m_options.isDryRun && m_options.rereads) {
         takeOverFiles();
     }
-    if (!m_writer.notices().isEmpty()) {
+    if (!m_result.notices.isEmpty()) {
         HostUi::current().warning(nullptr,
                                   QCoreApplication::translate("DesignSession", "The design was written"),
-                                  m_writer.notices().join(QStringLiteral("; ")));
+                                  m_result.notices.join(QStringLiteral("; ")));
     }
-    return problems;
+    return m_result.problems;
 }
 
 void DesignSession::takeOverFiles()
 {
-    if (m_isRereading && !reread()) {
+    if (!reread()) {
         HostUi::current().warning(
             nullptr, QCoreApplication::translate("DesignSession", "The design was written"),
             QCoreApplication::translate("DesignSession",
@@ -163,19 +155,16 @@ QStringList DesignSession::changedFiles() const
     return m_design ? m_design->design().changedFiles() : QStringList();
 }
 
-DesignSession::Undone DesignSession::undo()
+UndoResult DesignSession::undo(const UndoOptions &options)
 {
     if (!m_design) {
         return {};
     }
-    m_writer.clear();
-    const designs::DesignFiles::Undone undone = designs::DesignFiles(m_design->design().info().file).undo();
-    const bool isUnwritable =
-        undone.files.isEmpty() && !undone.problems.empty() && !canBeReplaced(m_design->design());
-    if (!undone.files.isEmpty()) {
+    const UndoResult undone = undoLastWrite(m_design->design());
+    if (!undone.files.isEmpty() && options.rereads) {
         takeOverFiles();
     }
-    return {undone.files, messagesOf(undone.problems), isUnwritable};
+    return undone;
 }
 
 bool DesignSession::canUndo() const
@@ -218,7 +207,7 @@ bool DesignSession::rereadBoard()
         m_error = result.error.message();
         return false;
     }
-    // The first question reads the board, and is what a broken one is told after.
+    // The board is read at the first question; that of a broken one adds a warning.
     const std::size_t before = result.design->warnings().size();
     (void)result.design->placement({});
     if (result.design->warnings().size() > before) {

@@ -12,7 +12,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
+#include <span>
 
 namespace designs {
 class Design;
@@ -49,35 +51,21 @@ public:
     /// The variants that the design defines, sorted.
     [[nodiscard]] QStringList variants() const;
 
-    /// In a dry run the component database works out what it is to write and writes nothing.
-    void setDryRun(bool isDryRun) { m_writer.setDryRun(isDryRun); }
-    /// Whether files that are written leave their previous content beside them; they do at first.
-    void setBackups(bool areKept) { m_writer.setBackups(areKept); }
-    /// Whether the design is read again after it was written; it is at first. A program that ends then does
-    /// without.
-    void setRereading(bool isWanted) { m_isRereading = isWanted; }
-    /// What the last batch of the component database changed, or would have in a dry run, in the order in
-    /// which it was asked for.
-    [[nodiscard]] const QList<PropertyChange> &lastChanges() const { return m_writer.changes(); }
-    /// The files that the last batch replaced.
-    /// How many that were, or would have been in a dry run.
-    [[nodiscard]] qsizetype lastFileCount() const { return m_writer.fileCount(); }
-    [[nodiscard]] const QStringList &lastWrittenFiles() const { return m_writer.writtenFiles(); }
+    /// Runs scripts on the component database as one batch, which is written with these options and not at
+    /// all when `runScripts` gives false. Not to be called within a batch. Batches of others are written with
+    /// the options that WriteOptions has at first.
+    [[nodiscard]] WriteResult write(const WriteOptions &options, const std::function<bool()> &runScripts);
     /// The files of the design whose content is not what was read, also those that cannot be read any more.
     [[nodiscard]] QStringList changedFiles() const;
 
-    /// What undo() did.
-    struct Undone
+    struct UndoOptions
     {
-        /// The files that have their previous content again.
-        QStringList files;
-        /// Why nothing was taken back, "FILE:LINE: text" each.
-        QStringList problems;
-        /// The files could not be written now at all: locked, or marked read-only.
-        bool isUnwritable = false;
+        /// See WriteOptions::rereads.
+        bool rereads = true;
     };
-    /// Takes back the last write, of this or an earlier session, and reads the design again.
-    [[nodiscard]] Undone undo();
+    /// Takes back the last write, of this or an earlier session.
+    [[nodiscard]] UndoResult undo(const UndoOptions &options);
+    [[nodiscard]] UndoResult undo() { return undo(UndoOptions()); }
     [[nodiscard]] bool canUndo() const;
 
     [[nodiscard]] DnpChoice dnpChoice() const { return m_dnpChoice; }
@@ -92,14 +80,15 @@ public:
     [[nodiscard]] ProjectNotes &projectNotes() { return m_process.projectNotes(); }
     [[nodiscard]] StandaloneProcess &process() { return m_process; }
 
-    /// What a saved board file asks for: places the components by the board as it is now, and has the
-    /// document tell that the board was modified. On failure error() says why and nothing changes.
+    /// To be called when the board file was saved: places the components by the board as it is now, and has
+    /// the document report that the board was modified. On failure error() says why and nothing changes.
     [[nodiscard]] bool rereadBoard();
 
 private:
     void setDesign(std::unique_ptr<const designs::Design> design);
-    [[nodiscard]] QList<CDBPROBLEM> write(std::span<const designs::Edit> edits);
-    /// After files were replaced.
+    /// What the component database calls for the outermost batch.
+    [[nodiscard]] QList<CDBPROBLEM> writeBatch(std::span<const designs::Edit> edits);
+    /// Reads the design again after files were replaced.
     void takeOverFiles();
 
     StandaloneDocument m_document;
@@ -112,7 +101,8 @@ private:
     QString m_path;
     QString m_variant;
     QStringList m_recoveries;
-    DesignWriter m_writer;
-    bool m_isRereading = true;
+    /// Of the batch that write() runs: the interface of the host's database has no place for them.
+    WriteOptions m_options;
+    WriteResult m_result;
     QString m_error;
 };

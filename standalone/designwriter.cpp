@@ -6,6 +6,8 @@
 #include "designs/transaction/designfiles.h"
 #include "designs/utf8.h"
 
+#include <QFile>
+
 namespace {
 
 std::optional<QString> text(const std::optional<std::string> &utf8)
@@ -56,43 +58,72 @@ PropertyChange changeOf(const designs::Design &design, std::span<const designs::
     return change;
 }
 
-} // namespace
-
-void DesignWriter::clear()
+/// Whether the files as they are now could be written.
+bool canBeReplaced(const designs::Design &design)
 {
-    m_changes.clear();
-    m_writtenFiles.clear();
-    m_fileCount = 0;
-    m_notices.clear();
+    std::vector<designs::FileReplacement> same;
+    for (const QString &path : design.files()) {
+        QFile file(path);
+        const auto fingerprint = designs::fingerprintOfFile(path);
+        if (!fingerprint || !file.open(QIODevice::ReadOnly)) {
+            return false;
+        }
+        same.push_back({path, *fingerprint, file.readAll()});
+    }
+    return designs::DesignFiles(design.info().file).check(same).empty();
 }
 
-QList<CDBPROBLEM> DesignWriter::write(const designs::Design &design, std::span<const designs::Edit> edits)
+/// Replaces the files of a plan, or in a dry run only checks whether they could be.
+designs::TransactionResult replaceFiles(const designs::Design &design,
+                                        std::span<const designs::FileReplacement> replacements,
+                                        const WriteOptions &options)
 {
-    clear();
+    const designs::DesignFiles files(design.info().file);
+    if (options.isDryRun && !replacements.empty()) {
+        return {{}, files.check(replacements)};
+    }
+    return files.replace(replacements,
+                         options.keepsBackups ? designs::Backups::Keep : designs::Backups::None);
+}
+
+} // namespace
+
+WriteResult writeEdits(const designs::Design &design, std::span<const designs::Edit> edits,
+                       const WriteOptions &options)
+{
+    WriteResult result;
     const designs::EditPlan plan = design.planEdits(edits);
     if (!plan.problems.empty()) {
-        return problemsOf(design, edits, plan.problems);
+        result.problems = problemsOf(design, edits, plan.problems);
+        return result;
     }
-    if (!plan.files.empty()) {
-        designs::DesignFiles files(design.info().file);
-        const auto problems = m_isDryRun ? files.check(plan.files)
-                                         : files.write(plan.files, m_keepsBackups ? designs::Backups::Keep
-                                                                                  : designs::Backups::None);
-        if (!files.replaced() && !problems.empty()) {
-            return problemsOf(problems);
-        }
-        for (const designs::Problem &problem : problems) {
-            m_notices << problem.message();
-        }
+    const designs::TransactionResult transaction = replaceFiles(design, plan.files, options);
+    if (transaction.replaced.isEmpty() && !transaction.problems.empty()) {
+        result.problems = problemsOf(transaction.problems);
+        return result;
     }
+    result.notices = messagesOf(transaction.problems);
     for (const designs::Change &planned : plan.changes) {
-        m_changes.append(changeOf(design, edits, planned));
+        result.changes.append(changeOf(design, edits, planned));
     }
-    m_fileCount = qsizetype(plan.files.size());
     for (const designs::FileReplacement &file : plan.files) {
-        if (!m_isDryRun) {
-            m_writtenFiles << file.path;
-        }
+        result.files << file.path;
     }
-    return {};
+    return result;
+}
+
+UndoResult undoLastWrite(const designs::Design &design)
+{
+    const designs::TransactionResult undone = designs::DesignFiles(design.info().file).undo();
+    const bool isUnwritable = undone.replaced.isEmpty() && !undone.problems.empty() && !canBeReplaced(design);
+    return {undone.replaced, messagesOf(undone.problems), isUnwritable};
+}
+
+QStringList messagesOf(std::span<const designs::Problem> problems)
+{
+    QStringList texts;
+    for (const designs::Problem &problem : problems) {
+        texts.append(problem.message());
+    }
+    return texts;
 }

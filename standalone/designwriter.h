@@ -34,35 +34,53 @@ struct PropertyChange
     bool operator==(const PropertyChange &) const = default;
 };
 
-/// Writes edits into the files of a design.
-class DesignWriter final
+/// How edits are written.
+struct WriteOptions
 {
-public:
-    /// A dry run works everything out and writes nothing.
-    void setDryRun(bool isDryRun) { m_isDryRun = isDryRun; }
-    /// Whether the previous content of the files is kept; it is at first.
-    void setBackups(bool areKept) { m_keepsBackups = areKept; }
+    /// Everything is worked out and nothing is written.
+    bool isDryRun = false;
+    /// The files leave their previous content beside them, for undo.
+    bool keepsBackups = true;
+    /// The design is read again afterwards. A program that ends then does without.
+    bool rereads = true;
 
-    /// Writes all edits, or none and says why.
-    [[nodiscard]] QList<CDBPROBLEM> write(const designs::Design &design,
-                                          std::span<const designs::Edit> edits);
-
-    /// What the last write() changed, or would have in a dry run, in the order of the edits. Nothing when it
-    /// had problems.
-    [[nodiscard]] const QList<PropertyChange> &changes() const { return m_changes; }
-    /// The files that the last write() replaced.
-    [[nodiscard]] const QStringList &writtenFiles() const { return m_writtenFiles; }
-    /// The files that the last write() replaced, or would have in a dry run.
-    [[nodiscard]] qsizetype fileCount() const { return m_fileCount; }
-    /// What went wrong although the files were replaced, such as that the previous content could not be kept.
-    [[nodiscard]] const QStringList &notices() const { return m_notices; }
-    void clear();
-
-private:
-    bool m_isDryRun = false;
-    bool m_keepsBackups = true;
-    QList<PropertyChange> m_changes;
-    QStringList m_writtenFiles;
-    qsizetype m_fileCount = 0;
-    QStringList m_notices;
+    bool operator==(const WriteOptions &) const = default;
 };
+
+/// What came of writing edits.
+struct WriteResult
+{
+    /// Why nothing was written; all else is empty then.
+    QList<CDBPROBLEM> problems;
+    /// What was changed, or would be in a dry run, in the order of the edits.
+    QList<PropertyChange> changes;
+    /// The files that were replaced, or would be in a dry run.
+    QStringList files;
+    /// What went wrong although the files were replaced, such as that the previous content could not be kept.
+    QStringList notices;
+
+    bool operator==(const WriteResult &) const = default;
+};
+
+/// What came of taking the last write back.
+struct UndoResult
+{
+    /// The files that have their previous content again.
+    QStringList files;
+    /// Why nothing was taken back, "FILE:LINE: text" each.
+    QStringList problems;
+    /// The files could not be written now at all: locked, or marked read-only.
+    bool isUnwritable = false;
+
+    bool operator==(const UndoResult &) const = default;
+};
+
+/// Writes all edits into the files of the design, or none. Reads nothing again.
+[[nodiscard]] WriteResult writeEdits(const designs::Design &design, std::span<const designs::Edit> edits,
+                                     const WriteOptions &options);
+
+/// Gives the files of the design the content that they had before the last write.
+[[nodiscard]] UndoResult undoLastWrite(const designs::Design &design);
+
+/// "FILE:LINE: text" each.
+[[nodiscard]] QStringList messagesOf(std::span<const designs::Problem> problems);

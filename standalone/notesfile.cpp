@@ -20,7 +20,7 @@ struct Form
     bool hasCarriageReturns = false;
 };
 
-/// How the file is written that is there now. The first line tells.
+/// The byte-order mark and line ends of the present file, by its first line.
 Form formOf(const QString &path)
 {
     QFile file(path);

@@ -29,7 +29,8 @@ std::string storedName(const designs::Design &design, const designs::Edit &edit)
     return std::string(design.names().name(found == candidates.end() ? candidates.front() : *found));
 }
 
-/// Whether a definition of BOM-only parts would be stored under a name that makes it none.
+/// Whether a definition of BOM-only parts would be stored in the letter case of a property that the design
+/// has, in which it would define nothing.
 bool losesDefinition(const designs::Design &design, const designs::Edit &edit)
 {
     constexpr std::string_view start = "BOMPART";

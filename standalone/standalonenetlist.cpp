@@ -42,7 +42,7 @@ void StandaloneNetlist::invalidateCaches()
 
 void StandaloneNetlist::refreshCaches()
 {
-    // A client that is told may add or remove caches.
+    // Filling a cache calls its client, which may add or remove caches.
     std::vector<NETCACHE *> caches;
     for (const Client &client : m_clients) {
         caches.push_back(client.cache);

@@ -23,7 +23,7 @@ public:
     /// for the second time from then: parts made of it may be used until their owner has made others.
     void setDesign(std::shared_ptr<const LoadedDesign> design);
     void invalidateCaches();
-    /// Fills the caches that are stale, each telling its client.
+    /// Fills the caches that are stale; each calls its client.
     void refreshCaches();
 
     IMODULE *queryinterface(unsigned id) override;

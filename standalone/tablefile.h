@@ -22,7 +22,7 @@ struct Table
     QStringList headings;
     int headingLine = 0;
     qsizetype referenceColumn = 0;
-    /// The rows that say something.
+    /// Without blank rows.
     std::vector<TableRow> rows;
 };
 

@@ -10,17 +10,29 @@ namespace designs {
 
 namespace {
 
-/// With the lock taken. Whether the files are replaced; problems are added to the work's.
-bool replaceFiles(FileWork &work, const DesignPaths &paths, std::span<const FileReplacement> files,
-                  bool keepsBackups)
+/// One transaction, with the lock taken. Whether the files are replaced; problems are added to `operations`.
+///
+/// The promise lies in the order of the steps. Each is on the disk before the next one begins:
+///   check    touches nothing, so that nearly all that can fail fails here.
+///   prepare  writes a journal, then all new contents, previous contents and the undo record beside the
+///            files. Without the journal nobody would clean up after a crash in this step; without new
+///            contents that are complete a full disk could stop the transaction between two files.
+///   commit   marks the journal as committed, by one rename. Without such a moment recovery could not tell
+///            a transaction that is to be completed from one that is not ready.
+///   place    renames each new content over its file, so that no reader ever sees half a file.
+///   finish   puts backups and record in place and removes the journal; only then undo() finds them, so that
+///            it never takes back what is not in the files.
+bool replaceFiles(FileOperations &operations, const DesignPaths &paths,
+                  std::span<const FileReplacement> files, bool keepsBackups)
 {
-    WriteCheck check(work, paths);
-    if (!check.run(files, keepsBackups)) {
+    WriteCheck check(operations, paths);
+    const auto checked = check.run(files, keepsBackups);
+    if (!checked) {
         return false;
     }
-    FileTransaction transaction(work, paths);
-    // What was prepared takes time: other programs may have opened the files meanwhile.
-    if (!transaction.prepare(check.replacements(), keepsBackups) || !check.checkStillClosed()) {
+    FileTransaction transaction(operations, paths);
+    // Preparing takes time: other programs may have opened the files meanwhile.
+    if (!transaction.prepare(*checked, keepsBackups) || !check.areStillClosed(*checked)) {
         transaction.discard();
         return false;
     }
@@ -29,6 +41,7 @@ bool replaceFiles(FileWork &work, const DesignPaths &paths, std::span<const File
         transaction.discard();
         return false;
     }
+    // A commit that failed after its rename may count after a crash: discarding would be too late.
     if (!isCommitted || !transaction.place()) {
         transaction.takeBack();
         return false;
@@ -37,37 +50,51 @@ bool replaceFiles(FileWork &work, const DesignPaths &paths, std::span<const File
     return true;
 }
 
-/// What gives the files their previous content again; empty, with problems, when it cannot be done.
-std::vector<FileReplacement> editsBack(FileWork &work, const DesignPaths &paths, const UndoRecord &record)
+TransactionResult replaceAndTell(FileOperations &operations, const DesignPaths &paths,
+                                 std::span<const FileReplacement> files, bool keepsBackups)
 {
-    std::vector<FileReplacement> edits;
-    for (const RecordedReplacement &change : record.files) {
-        const QString backup = paths.backupOf(change.target);
-        if (fingerprintOfPlainFile(change.target) != change.after) {
-            work.fail(change.target,
-                      QStringLiteral("was changed since it was written: nothing is taken back"));
-        } else if (auto content = contentOfPlainFile(backup, change.before)) {
-            edits.push_back({change.target, change.after, std::move(*content)});
-        } else {
-            work.fail(backup, QStringLiteral("is missing or damaged: nothing is taken back"));
+    TransactionResult result;
+    if (!files.empty() && replaceFiles(operations, paths, files, keepsBackups)) {
+        for (const FileReplacement &file : files) {
+            result.replaced << file.path;
         }
     }
-    return work.problems().empty() ? edits : std::vector<FileReplacement>();
+    result.problems = operations.problems();
+    return result;
 }
 
-/// With the lock taken. False, with problems, when there was an interrupted write: what the caller wants to
-/// write was worked out on files that may have changed by that.
-bool isUndisturbed(FileWork &work, const DesignPaths &paths)
+/// What gives the files their previous content again; empty, with problems, when it cannot be done.
+std::vector<FileReplacement> reversed(FileOperations &operations, const DesignPaths &paths,
+                                      const UndoRecord &record)
 {
-    Recovery recovery(work, paths);
-    if (!recovery.run()) {
+    std::vector<FileReplacement> files;
+    for (const RecordedReplacement &recorded : record.files) {
+        const QString backup = paths.backupOf(recorded.target);
+        if (fingerprintOfPlainFile(recorded.target) != recorded.after) {
+            operations.fail(recorded.target,
+                            QStringLiteral("was changed since it was written: nothing is taken back"));
+        } else if (auto content = contentOfPlainFile(backup, recorded.before)) {
+            files.push_back({recorded.target, recorded.after, std::move(*content)});
+        } else {
+            operations.fail(backup, QStringLiteral("is missing or damaged: nothing is taken back"));
+        }
+    }
+    return operations.problems().empty() ? files : std::vector<FileReplacement>();
+}
+
+/// With the lock taken. False, with problems, when a transaction had been interrupted: the caller worked out
+/// its new contents on files that recovery may have changed just now.
+bool checkNothingInterrupted(FileOperations &operations, const DesignPaths &paths)
+{
+    const Recovery::Result recovered = Recovery(operations, paths).run();
+    if (!recovered.isResolved) {
         return false;
     }
-    for (const Problem &told : recovery.report()) {
-        work.fail(told.file, told.text);
+    for (const Problem &action : recovered.actions) {
+        operations.fail(action.file, action.text);
     }
-    return recovery.report().empty() ||
-           work.fail(paths.design(), QStringLiteral("was not written for that reason: try again"));
+    return recovered.actions.empty() ||
+           operations.fail(paths.design(), QStringLiteral("was not written for that reason: try again"));
 }
 
 } // namespace
@@ -78,83 +105,77 @@ DesignFiles::DesignFiles(const QString &design, FileSystem *system)
 {
 }
 
-std::vector<Problem> DesignFiles::recover()
+std::vector<Problem> DesignFiles::recover() const
 {
     const DesignPaths paths(m_design);
-    FileWork work(*m_system);
-    Recovery recovery(work, paths);
+    FileOperations operations(*m_system);
+    Recovery recovery(operations, paths);
     if (!recovery.isNeeded()) {
-        return work.problems();
+        return operations.problems();
     }
+    std::vector<Problem> all;
     {
-        DesignLock lock(work, paths);
+        DesignLock lock(operations, paths);
         if (lock.take()) {
-            recovery.run();
-        } else if (recovery.isWaiting()) {
-            work.fail(paths.design(), QStringLiteral("was being written when that was interrupted, which can "
-                                                     "now be neither completed nor taken back: its files "
-                                                     "may not belong together"));
+            all = recovery.run().actions;
+        } else if (recovery.hasJournal()) {
+            operations.fail(paths.design(),
+                            QStringLiteral("was being written when that was interrupted, which can "
+                                           "now be neither completed nor taken back: its files "
+                                           "may not belong together"));
         }
     }
-    std::vector<Problem> all = recovery.report();
-    all.insert(all.end(), work.problems().begin(), work.problems().end());
+    all.insert(all.end(), operations.problems().begin(), operations.problems().end());
     return all;
 }
 
 std::vector<Problem> DesignFiles::check(std::span<const FileReplacement> files) const
 {
     const DesignPaths paths(m_design);
-    FileWork work(*m_system);
-    WriteCheck(work, paths).run(files, false);
-    return work.problems();
+    FileOperations operations(*m_system);
+    (void)WriteCheck(operations, paths).run(files, false);
+    return operations.problems();
 }
 
-std::vector<Problem> DesignFiles::write(std::span<const FileReplacement> files, Backups backups)
+TransactionResult DesignFiles::replace(std::span<const FileReplacement> files, Backups backups) const
 {
-    m_replaced = false;
     if (files.empty()) {
         return {};
     }
     const DesignPaths paths(m_design);
-    FileWork work(*m_system);
-    DesignLock lock(work, paths);
-    if (lock.take() && isUndisturbed(work, paths)) {
-        m_replaced = replaceFiles(work, paths, files, backups == Backups::Keep);
+    FileOperations operations(*m_system);
+    DesignLock lock(operations, paths);
+    if (!lock.take() || !checkNothingInterrupted(operations, paths)) {
+        return {{}, operations.problems()};
     }
-    return work.problems();
+    return replaceAndTell(operations, paths, files, backups == Backups::Keep);
 }
 
-DesignFiles::Undone DesignFiles::undo()
+TransactionResult DesignFiles::undo() const
 {
-    m_replaced = false;
     const DesignPaths paths(m_design);
-    FileWork work(*m_system);
+    FileOperations operations(*m_system);
     if (!canUndo()) {
-        work.fail(paths.design(), QStringLiteral("there is nothing to take back"));
-        return {{}, work.problems()};
+        operations.fail(paths.design(), QStringLiteral("there is nothing to take back"));
+        return {{}, operations.problems()};
     }
-    Undone undone;
-    DesignLock lock(work, paths);
+    DesignLock lock(operations, paths);
+    if (!lock.take() || !checkNothingInterrupted(operations, paths)) {
+        return {{}, operations.problems()};
+    }
     QString why;
-    if (lock.take() && isUndisturbed(work, paths)) {
-        if (const auto record = UndoRecord::read(paths, &why)) {
-            const std::vector<FileReplacement> edits = editsBack(work, paths, *record);
-            m_replaced = !edits.empty() && replaceFiles(work, paths, edits, false);
-            for (const FileReplacement &edit : m_replaced ? edits : std::vector<FileReplacement>()) {
-                undone.files << edit.path;
-            }
-        } else {
-            work.fail(paths.record(), QStringLiteral("cannot be used: ") + why);
-        }
+    const auto record = UndoRecord::read(paths, &why);
+    if (!record) {
+        operations.fail(paths.record(), QStringLiteral("cannot be used: ") + why);
+        return {{}, operations.problems()};
     }
-    undone.problems = work.problems();
-    return undone;
+    return replaceAndTell(operations, paths, reversed(operations, paths, *record), false);
 }
 
 bool DesignFiles::canUndo() const
 {
-    FileWork work(*m_system);
-    return work.exists(DesignPaths(m_design).record());
+    FileOperations operations(*m_system);
+    return operations.exists(DesignPaths(m_design).record());
 }
 
 } // namespace designs

@@ -24,8 +24,8 @@ QString named(const QJsonObject &lock, QLatin1String key)
 
 } // namespace
 
-DesignLock::DesignLock(FileWork &work, const DesignPaths &paths)
-    : m_work(work)
+DesignLock::DesignLock(FileOperations &files, const DesignPaths &paths)
+    : m_files(files)
     , m_design(paths.design())
     , m_path(paths.lock())
 {
@@ -35,24 +35,24 @@ DesignLock::~DesignLock()
 {
     if (m_file >= 0) {
         // A file that stays locks nothing; whoever locks next removes it.
-        static_cast<void>(m_work.system().unlock(m_path, m_file));
+        static_cast<void>(m_files.system().unlock(m_path, m_file));
     }
 }
 
 bool DesignLock::take()
 {
-    int failure = m_work.system().lock(m_path, &m_file);
+    int failure = m_files.system().lock(m_path, &m_file);
     for (int attempt = 1; failure == EWOULDBLOCK && attempt < attempts; ++attempt) {
-        m_work.system().pause();
-        failure = m_work.system().lock(m_path, &m_file);
+        m_files.system().pause();
+        failure = m_files.system().lock(m_path, &m_file);
     }
     if (failure == EWOULDBLOCK) {
-        return m_work.fail(m_path, QStringLiteral("another program is just writing this design: try again "
-                                                  "when it has finished"));
+        return m_files.fail(m_path, QStringLiteral("another program is just writing this design: try again "
+                                                   "when it has finished"));
     }
     return failure == 0 ||
-           m_work.fail(m_design, QStringLiteral("cannot be written: ") + m_path +
-                                     QStringLiteral(" cannot be created: ") + qt_error_string(failure));
+           m_files.fail(m_design, QStringLiteral("cannot be written: ") + m_path +
+                                      QStringLiteral(" cannot be created: ") + qt_error_string(failure));
 }
 
 std::optional<QString> openElsewhere(const QString &path)

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "designs/transaction/designpaths.h"
-#include "designs/transaction/filework.h"
+#include "designs/transaction/fileoperations.h"
 
 #include <QString>
 
@@ -15,16 +15,16 @@ namespace designs {
 class DesignLock final
 {
 public:
-    DesignLock(FileWork &work, const DesignPaths &paths);
+    DesignLock(FileOperations &files, const DesignPaths &paths);
     DesignLock(const DesignLock &) = delete;
     DesignLock &operator=(const DesignLock &) = delete;
     ~DesignLock();
 
-    /// Waits some seconds for another process that writes. False adds the reason to the work's problems.
+    /// Waits some seconds for another process that writes. False, with a problem, when it cannot be had.
     [[nodiscard]] bool take();
 
 private:
-    FileWork &m_work;
+    FileOperations &m_files;
     QString m_design;
     QString m_path;
     int m_file = -1;

@@ -8,7 +8,7 @@
 
 namespace designs {
 
-/// What stands under a path; a symbolic link is not followed.
+/// What stands under a path; of a symbolic link the link itself.
 struct FileStatus
 {
     enum class Kind
@@ -29,7 +29,8 @@ struct FileStatus
     quint64 names = 1;
 };
 
-/// The operations by which design files are replaced. Each gives 0, or the errno that tells why it failed.
+/// The operations by which design files are replaced, so that tests can let each of them fail. Each gives 0,
+/// or the errno that says why it failed.
 class FileSystem
 {
 public:

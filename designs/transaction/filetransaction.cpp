@@ -15,36 +15,37 @@ QString newToken()
 
 } // namespace
 
-FileTransaction::FileTransaction(FileWork &work, const DesignPaths &paths)
-    : m_work(work)
+FileTransaction::FileTransaction(FileOperations &files, const DesignPaths &paths)
+    : m_files(files)
     , m_paths(paths)
 {
 }
 
-FileTransaction::FileTransaction(FileWork &work, const DesignPaths &paths, Journal journal)
-    : m_work(work)
+FileTransaction::FileTransaction(FileOperations &files, const DesignPaths &paths, Journal journal)
+    : m_files(files)
     , m_paths(paths)
     , m_journal(std::move(journal))
 {
 }
 
-bool FileTransaction::prepare(const std::vector<Replacement> &files, bool keepsBackups)
+bool FileTransaction::prepare(const std::vector<CheckedReplacement> &files, bool keepsBackups)
 {
     m_journal = {};
     m_journal.token = newToken();
     m_journal.keepsBackups = keepsBackups;
     m_journal.newRecord = m_journal.recordName(m_paths);
     FileStatus folder;
-    if (!m_work.look(m_paths.backupFolder(), &folder)) {
+    if (!m_files.readStatus(m_paths.backupFolder(), &folder)) {
         return false;
     }
     m_journal.makesBackupFolder = keepsBackups && folder.kind == FileStatus::Kind::Missing;
-    for (const Replacement &file : files) {
+    for (const CheckedReplacement &file : files) {
         const std::string_view after(file.after->constData(), std::size_t(file.after->size()));
         m_journal.add(m_paths, {file.target, file.before, fingerprintOf(after)});
     }
+    // The journal comes first: it names all that a crash from here on would leave beside the files.
     if (!saveJournal(Journal::State::Preparing) ||
-        (m_journal.makesBackupFolder && !m_work.makeFolder(m_paths.backupFolder()))) {
+        (m_journal.makesBackupFolder && !m_files.makeFolder(m_paths.backupFolder()))) {
         return false;
     }
     for (std::size_t file = 0; file < files.size(); ++file) {
@@ -52,29 +53,31 @@ bool FileTransaction::prepare(const std::vector<Replacement> &files, bool keepsB
             return false;
         }
     }
-    // The folder of the design holds that of the backups, which may be new.
-    return prepareRecord() && m_work.syncWritten() &&
-           m_work.syncFoldersOf(all(&JournalEntry::prepared)
-                                << all(&JournalEntry::saved) << m_paths.design());
+    // The commit point promises that all of this can be read, so it must be on the disk before. The folder of
+    // the design is synced too: it holds that of the backups, which may be new.
+    return prepareRecord() && m_files.syncWritten() &&
+           m_files.syncFoldersOf(all(&JournalEntry::prepared)
+                                 << all(&JournalEntry::saved) << m_paths.design());
 }
 
-bool FileTransaction::prepareFile(const Replacement &file, const JournalEntry &entry)
+bool FileTransaction::prepareFile(const CheckedReplacement &file, const JournalEntry &entry)
 {
     const std::optional<QByteArray> previous = contentOfPlainFile(entry.target, entry.before);
     if (!previous) {
-        return m_work.fail(entry.target, QStringLiteral("was changed since it was read"));
+        return m_files.fail(entry.target, QStringLiteral("was changed since it was read"));
     }
-    const FileStatus like = m_work.status(entry.target);
+    const FileStatus like = m_files.status(entry.target);
     if (like.kind != FileStatus::Kind::File ||
-        !m_work.writeLater(file.path, entry.prepared, *file.after, like) ||
-        !m_work.keep(file.path, entry.target, entry.saved, *previous, like)) {
+        !m_files.writeLater(file.path, entry.prepared, *file.after, like) ||
+        !m_files.linkOrCopy(file.path, entry.target, entry.saved, *previous, like)) {
         return false;
     }
-    return (m_work.status(entry.prepared).size == entry.after.size &&
-            m_work.status(entry.saved).size == entry.before.size) ||
-           m_work.fail(file.path, QStringLiteral("cannot be written: ") + entry.prepared +
-                                      QStringLiteral(" or ") + entry.saved +
-                                      QStringLiteral(" does not hold what was written to it"));
+    // Some file systems report a full disk only by the size of what they wrote.
+    return (m_files.status(entry.prepared).size == entry.after.size &&
+            m_files.status(entry.saved).size == entry.before.size) ||
+           m_files.fail(file.path, QStringLiteral("cannot be written: ") + entry.prepared +
+                                       QStringLiteral(" or ") + entry.saved +
+                                       QStringLiteral(" does not hold what was written to it"));
 }
 
 bool FileTransaction::prepareRecord()
@@ -86,23 +89,26 @@ bool FileTransaction::prepareRecord()
     for (const JournalEntry &entry : m_journal.entries) {
         record.files.push_back(entry);
     }
-    const FileStatus like = m_work.status(m_paths.design());
+    const FileStatus like = m_files.status(m_paths.design());
     return like.kind != FileStatus::Kind::Other &&
-           m_work.writeFile(m_paths.design(), m_journal.newRecord, record.toJson(m_paths), like);
+           m_files.writeFile(m_paths.design(), m_journal.newRecord, record.toJson(m_paths), like);
 }
 
+/// Replaces the journal as a whole: written in place, a crash could leave half of it, and then nobody would
+/// know what to do.
 bool FileTransaction::saveJournal(Journal::State state)
 {
     Journal journal = m_journal;
     journal.state = state;
-    const FileStatus like = m_work.status(m_paths.design());
-    if (like.kind == FileStatus::Kind::Other || !m_work.removeIfThere(m_paths.newJournal()) ||
-        !m_work.writeFile(m_paths.design(), m_paths.newJournal(), journal.toJson(m_paths), like) ||
-        !m_work.rename(m_paths.newJournal(), m_paths.journal())) {
+    const FileStatus like = m_files.status(m_paths.design());
+    if (like.kind == FileStatus::Kind::Other || !m_files.removeIfThere(m_paths.newJournal()) ||
+        !m_files.writeFile(m_paths.design(), m_paths.newJournal(), journal.toJson(m_paths), like) ||
+        !m_files.rename(m_paths.newJournal(), m_paths.journal())) {
         return false;
     }
+    // The new journal is there from the rename on, whether or not the folder can be synced.
     m_journal.state = state;
-    return m_work.syncFoldersOf({m_paths.journal()});
+    return m_files.syncFoldersOf({m_paths.journal()});
 }
 
 bool FileTransaction::commit()
@@ -110,6 +116,7 @@ bool FileTransaction::commit()
     return saveJournal(Journal::State::Committed);
 }
 
+/// Files that an interrupted run placed already are passed over.
 bool FileTransaction::place()
 {
     for (const JournalEntry &entry : m_journal.entries) {
@@ -117,18 +124,20 @@ bool FileTransaction::place()
             return false;
         }
     }
-    return m_work.syncFoldersOf(all(&JournalEntry::target));
+    return m_files.syncFoldersOf(all(&JournalEntry::target));
 }
 
 bool FileTransaction::placeFile(const JournalEntry &entry)
 {
     const auto now = fingerprintOfPlainFile(entry.target);
+    // The last look before the rename, which would otherwise throw away what somebody saved meanwhile.
     if (now != entry.before && now != entry.after) {
-        return m_work.fail(entry.target, QStringLiteral("was changed since it was read"));
+        return m_files.fail(entry.target, QStringLiteral("was changed since it was read"));
     }
-    return m_work.rename(entry.prepared, entry.target);
+    return m_files.rename(entry.prepared, entry.target);
 }
 
+/// The journal goes last: as long as it is there, recovery comes back to what is left to do.
 bool FileTransaction::finish()
 {
     const bool done = m_journal.keepsBackups ? placeBackups() : dropBackups();
@@ -138,30 +147,33 @@ bool FileTransaction::finish()
 bool FileTransaction::placeBackups()
 {
     for (const JournalEntry &entry : m_journal.entries) {
-        if (m_work.exists(entry.saved) && !m_work.rename(entry.saved, m_paths.backupOf(entry.target))) {
+        if (m_files.exists(entry.saved) && !m_files.rename(entry.saved, m_paths.backupOf(entry.target))) {
             return false;
         }
     }
-    if (m_work.exists(m_journal.newRecord) && !m_work.rename(m_journal.newRecord, m_paths.record())) {
+    if (m_files.exists(m_journal.newRecord) && !m_files.rename(m_journal.newRecord, m_paths.record())) {
         return false;
     }
     // Somebody may have removed the folder of an interrupted write.
-    return !m_work.exists(m_paths.backupFolder()) || m_work.syncFoldersOf({m_paths.record()});
+    return !m_files.exists(m_paths.backupFolder()) || m_files.syncFoldersOf({m_paths.record()});
 }
 
+/// Without backups of its own this transaction also ends the previous one's: its record goes first, so that
+/// undo() cannot bring files back from before.
 bool FileTransaction::dropBackups()
 {
-    if (m_work.exists(m_paths.record()) &&
-        !(m_work.removeIfThere(m_paths.record()) && m_work.syncFoldersOf({m_paths.record()}))) {
+    if (m_files.exists(m_paths.record()) &&
+        !(m_files.removeIfThere(m_paths.record()) && m_files.syncFoldersOf({m_paths.record()}))) {
         return false;
     }
     bool done = true;
     for (const JournalEntry &entry : m_journal.entries) {
-        done = m_work.removeIfThere(entry.saved) && done;
+        done = m_files.removeIfThere(entry.saved) && done;
     }
     return done;
 }
 
+/// The journal says so first: recovery must not place again what is just taken back.
 bool FileTransaction::takeBack()
 {
     if (!saveJournal(Journal::State::TakingBack)) {
@@ -172,9 +184,11 @@ bool FileTransaction::takeBack()
             return false;
         }
     }
-    return m_work.syncFoldersOf(all(&JournalEntry::target)) && discard();
+    return m_files.syncFoldersOf(all(&JournalEntry::target)) && discard();
 }
 
+/// Only a file that still holds the new content gets the previous one: others were not replaced, or somebody
+/// changed them since. The previous content is copied, not moved: an interrupted restore can be repeated.
 bool FileTransaction::restore(const JournalEntry &entry)
 {
     if (entry.before == entry.after || fingerprintOfPlainFile(entry.target) != entry.after) {
@@ -182,34 +196,34 @@ bool FileTransaction::restore(const JournalEntry &entry)
     }
     const std::optional<QByteArray> previous = contentOfPlainFile(entry.saved, entry.before);
     if (!previous) {
-        return m_work.fail(entry.target, QStringLiteral("cannot get its previous content again: it does not "
-                                                        "stand any more in ") +
-                                             entry.saved);
+        return m_files.fail(entry.target, QStringLiteral("cannot get its previous content again: it does not "
+                                                         "stand any more in ") +
+                                              entry.saved);
     }
-    return m_work.removeIfThere(entry.prepared) &&
-           m_work.writeFile(entry.target, entry.prepared, *previous, m_work.status(entry.saved)) &&
-           m_work.rename(entry.prepared, entry.target);
+    return m_files.removeIfThere(entry.prepared) &&
+           m_files.writeFile(entry.target, entry.prepared, *previous, m_files.status(entry.saved)) &&
+           m_files.rename(entry.prepared, entry.target);
 }
 
 bool FileTransaction::discard()
 {
     bool done = true;
     for (const JournalEntry &entry : m_journal.entries) {
-        done = m_work.removeIfThere(entry.prepared) && m_work.removeIfThere(entry.saved) && done;
+        done = m_files.removeIfThere(entry.prepared) && m_files.removeIfThere(entry.saved) && done;
     }
     if (!m_journal.newRecord.isEmpty()) {
-        done = m_work.removeIfThere(m_journal.newRecord) && done;
+        done = m_files.removeIfThere(m_journal.newRecord) && done;
     }
     if (m_journal.makesBackupFolder) {
-        done = m_work.removeFolderIfEmpty(m_paths.backupFolder()) && done;
+        done = m_files.removeFolderIfEmpty(m_paths.backupFolder()) && done;
     }
     return done && removeJournal();
 }
 
 bool FileTransaction::removeJournal()
 {
-    return m_work.removeIfThere(m_paths.newJournal()) && m_work.removeIfThere(m_paths.journal()) &&
-           m_work.syncFoldersOf({m_paths.journal()});
+    return m_files.removeIfThere(m_paths.newJournal()) && m_files.removeIfThere(m_paths.journal()) &&
+           m_files.syncFoldersOf({m_paths.journal()});
 }
 
 QStringList FileTransaction::all(QString JournalEntry::*path) const

@@ -2,17 +2,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "designs/transaction/filework.h"
+#include "designs/transaction/fileoperations.h"
 #include "designs/transaction/journal.h"
 
 #include <vector>
 
 namespace designs {
 
-/// A file that is to be replaced.
-struct Replacement
+/// A replacement that WriteCheck found possible.
+struct CheckedReplacement
 {
-    /// As it was named.
+    /// As the file was named.
     QString path;
     /// Without symbolic links.
     QString target;
@@ -20,35 +20,43 @@ struct Replacement
     const QByteArray *after = nullptr;
 };
 
-/// Replaces files, all or none. The steps are those of a write; one that was interrupted is taken up again
-/// from its journal.
+/// The steps of one transaction on files, which replaces all of them or none. Its journal says how far it is,
+/// and with that what is to be done when it is interrupted:
+///   preparing    no file is replaced: what stands beside the files is removed, discard().
+///   committed    all contents stand beside the files: they are put in place, place() and finish().
+///   taking back  some files were replaced, and one cannot be: those get their previous content again,
+///                takeBack().
+/// Every step may be repeated after it was interrupted, also by another process from the journal.
 class FileTransaction final
 {
 public:
-    FileTransaction(FileWork &work, const DesignPaths &paths);
-    /// An interrupted one.
-    FileTransaction(FileWork &work, const DesignPaths &paths, Journal journal);
+    FileTransaction(FileOperations &files, const DesignPaths &paths);
+    /// One that was interrupted, by its journal.
+    FileTransaction(FileOperations &files, const DesignPaths &paths, Journal journal);
 
     [[nodiscard]] const Journal &journal() const { return m_journal; }
 
-    /// Writes the new contents, the previous ones and the record beside the files. They stay as they are.
-    bool prepare(const std::vector<Replacement> &files, bool keepsBackups);
-    /// From here on the write is completed, whatever happens.
+    /// Writes the new contents, the previous ones and the undo record beside the files, which stay as they
+    /// are.
+    bool prepare(const std::vector<CheckedReplacement> &files, bool keepsBackups);
+    /// The commit point: from here on the transaction is completed, or taken back where it cannot be. On
+    /// failure the journal's state tells on which side of the point that happened.
     bool commit();
-    /// Puts the new contents in place.
+    /// Puts the new contents in place. Leaves a file alone that somebody else changed, and fails.
     bool place();
-    /// Puts backups and record in place and clears up.
+    /// Puts backups and undo record in place and removes the journal.
     bool finish();
-    /// Gives replaced files their previous content again and clears up.
+    /// Gives replaced files their previous content again, and removes everything else.
     bool takeBack();
-    /// Clears up a write that has replaced nothing.
+    /// Removes what a transaction prepared that has replaced nothing.
     bool discard();
 
-    [[nodiscard]] bool isPlaced(const JournalEntry &entry) { return !m_work.exists(entry.prepared); }
+    /// Whether the new content is not beside the file any more: it became the file.
+    [[nodiscard]] bool isPlaced(const JournalEntry &entry) { return !m_files.exists(entry.prepared); }
 
 private:
     bool saveJournal(Journal::State state);
-    bool prepareFile(const Replacement &file, const JournalEntry &entry);
+    bool prepareFile(const CheckedReplacement &file, const JournalEntry &entry);
     bool prepareRecord();
     bool placeFile(const JournalEntry &entry);
     bool restore(const JournalEntry &entry);
@@ -57,7 +65,7 @@ private:
     bool removeJournal();
     [[nodiscard]] QStringList all(QString JournalEntry::*path) const;
 
-    FileWork &m_work;
+    FileOperations &m_files;
     const DesignPaths &m_paths;
     Journal m_journal;
 };

@@ -17,7 +17,7 @@ namespace {
 
 constexpr qint64 longestRecord = qint64(8) * 1024 * 1024;
 
-/// Opening a pipe would wait for its other end.
+/// Nothing else is opened: a pipe would make the program wait for its other end.
 bool isPlainFile(const QString &path)
 {
     return QFileInfo(path).isFile() && !QFileInfo(path).isSymLink();
@@ -40,21 +40,22 @@ std::optional<Journal::State> stateOf(const QString &name)
     return std::nullopt;
 }
 
-QJsonArray replacementsToJson(const std::vector<RecordedReplacement> &changes, const DesignPaths &paths)
+QJsonArray replacementsToJson(const std::vector<RecordedReplacement> &replacements, const DesignPaths &paths)
 {
     QJsonArray array;
-    for (const RecordedReplacement &change : changes) {
-        array << QJsonObject{{QStringLiteral("file"), paths.relative(change.target)},
-                             {QStringLiteral("before"), change.before.toString()},
-                             {QStringLiteral("after"), change.after.toString()}};
+    for (const RecordedReplacement &replacement : replacements) {
+        array << QJsonObject{{QStringLiteral("file"), paths.relative(replacement.target)},
+                             {QStringLiteral("before"), replacement.before.toString()},
+                             {QStringLiteral("after"), replacement.after.toString()}};
     }
     return array;
 }
 
+/// Nothing for what replacementsToJson() does not write, above all for files that are none of the design.
 std::optional<std::vector<RecordedReplacement>> replacementsFrom(const QJsonArray &array,
                                                                  const DesignPaths &paths)
 {
-    std::vector<RecordedReplacement> changes;
+    std::vector<RecordedReplacement> replacements;
     for (const QJsonValue &value : array) {
         const QJsonObject object = value.toObject();
         const QString target = paths.resolved(object.value(QLatin1String("file")).toString());
@@ -63,11 +64,13 @@ std::optional<std::vector<RecordedReplacement>> replacementsFrom(const QJsonArra
         if (target.isEmpty() || !paths.mayHold(target) || !before || !after) {
             return std::nullopt;
         }
-        changes.push_back({target, *before, *after});
+        replacements.push_back({target, *before, *after});
     }
-    return changes.empty() ? std::nullopt : std::optional(std::move(changes));
+    return replacements.empty() ? std::nullopt : std::optional(std::move(replacements));
 }
 
+/// The object of a journal or record; nothing, with the reason in `why`, when it is no file, cannot be read
+/// or is far too large.
 std::optional<QJsonObject> readRecord(const QString &path, QString *why)
 {
     QFile file(path);
@@ -94,11 +97,11 @@ std::optional<QJsonObject> readRecord(const QString &path, QString *why)
 
 } // namespace
 
-void Journal::add(const DesignPaths &paths, RecordedReplacement change)
+void Journal::add(const DesignPaths &paths, RecordedReplacement replacement)
 {
-    const QString folder = folderOf(change.target);
+    const QString folder = folderOf(replacement.target);
     const QString name = QStringLiteral("/.bom-") + token + u'-' + QString::number(entries.size());
-    entries.push_back({std::move(change), folder + name + QStringLiteral(".new"),
+    entries.push_back({std::move(replacement), folder + name + QStringLiteral(".new"),
                        (keepsBackups ? paths.backupFolder() : folder) + name + QStringLiteral(".old")});
 }
 
@@ -110,13 +113,13 @@ QString Journal::recordName(const DesignPaths &paths) const
 
 QByteArray Journal::toJson(const DesignPaths &paths) const
 {
-    const std::vector<RecordedReplacement> changes(entries.begin(), entries.end());
+    const std::vector<RecordedReplacement> replacements(entries.begin(), entries.end());
     return QJsonDocument(QJsonObject{{QStringLiteral("version"), 1},
                                      {QStringLiteral("state"), stateNames()[std::size_t(state)]},
                                      {QStringLiteral("token"), token},
                                      {QStringLiteral("backups"), keepsBackups},
                                      {QStringLiteral("makesFolder"), makesBackupFolder},
-                                     {QStringLiteral("files"), replacementsToJson(changes, paths)}})
+                                     {QStringLiteral("files"), replacementsToJson(replacements, paths)}})
         .toJson();
 }
 
@@ -128,10 +131,10 @@ std::optional<Journal> Journal::read(const DesignPaths &paths, QString *why)
         return std::nullopt;
     }
     const std::optional<State> state = stateOf(object->value(QLatin1String("state")).toString());
-    const auto changes = replacementsFrom(object->value(QLatin1String("files")).toArray(), paths);
+    const auto replacements = replacementsFrom(object->value(QLatin1String("files")).toArray(), paths);
     Journal journal;
     journal.token = object->value(QLatin1String("token")).toString();
-    if (!state || !changes || !tokenForm.match(journal.token).hasMatch()) {
+    if (!state || !replacements || !tokenForm.match(journal.token).hasMatch()) {
         *why = QStringLiteral("it is damaged or names files that are none of this design");
         return std::nullopt;
     }
@@ -139,8 +142,8 @@ std::optional<Journal> Journal::read(const DesignPaths &paths, QString *why)
     journal.keepsBackups = object->value(QLatin1String("backups")).toBool();
     journal.makesBackupFolder = object->value(QLatin1String("makesFolder")).toBool();
     journal.newRecord = journal.recordName(paths);
-    for (const RecordedReplacement &change : *changes) {
-        journal.add(paths, change);
+    for (const RecordedReplacement &replacement : *replacements) {
+        journal.add(paths, replacement);
     }
     return journal;
 }
@@ -174,7 +177,7 @@ std::optional<FileFingerprint> fingerprintOfPlainFile(const QString &path)
 std::optional<QByteArray> contentOfPlainFile(const QString &path, const FileFingerprint &expected)
 {
     QFile file(path);
-    // The size first: what is not the expected file may be of any.
+    // Compare sizes before reading: another file in this place may be too large to read.
     if (!isPlainFile(path) || quint64(file.size()) != expected.size || !file.open(QIODevice::ReadOnly)) {
         return std::nullopt;
     }

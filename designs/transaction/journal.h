@@ -13,7 +13,8 @@
 
 namespace designs {
 
-/// A file and its content before and after a write, as journal and undo record name it.
+/// A file that a transaction replaces, with the fingerprints of its content before and after, as journal and
+/// undo record name it.
 struct RecordedReplacement
 {
     QString target;
@@ -21,7 +22,7 @@ struct RecordedReplacement
     FileFingerprint after;
 };
 
-/// One file that is replaced.
+/// Such a file with its copies while the transaction runs.
 struct JournalEntry : RecordedReplacement
 {
     /// The new content, beside the target; gone when the target is replaced.
@@ -30,43 +31,45 @@ struct JournalEntry : RecordedReplacement
     QString saved;
 };
 
-/// What a write is about to do, kept beside the design until it is done.
+/// What a transaction is about to do, kept beside the design until it is done: after a crash it tells
+/// recovery what to complete or to take back.
 struct Journal
 {
     enum class State
     {
-        /// Files are being prepared; none is replaced yet.
+        /// Contents are written beside the files; no file is replaced yet.
         Preparing,
-        /// All is prepared and will be put in place.
+        /// All contents are beside the files and will be put in place.
         Committed,
         /// Replaced files get their previous content again.
         TakingBack
     };
 
     State state = State::Preparing;
-    /// Marks the names of the write's own files.
+    /// Marks the names of the transaction's own files.
     QString token;
     bool keepsBackups = false;
     /// The folder of the backups did not exist before.
     bool makesBackupFolder = false;
-    /// The record for undo to come; empty when there will be none.
+    /// The undo record before it is in place; empty when there will be none.
     QString newRecord;
     std::vector<JournalEntry> entries;
 
     /// Adds a file; the names of its copies follow from its place in the journal.
-    void add(const DesignPaths &paths, RecordedReplacement change);
+    void add(const DesignPaths &paths, RecordedReplacement replacement);
 
     [[nodiscard]] QByteArray toJson(const DesignPaths &paths) const;
     /// The journal of a design; nothing, with the reason in `why`, when it cannot be used.
     [[nodiscard]] static std::optional<Journal> read(const DesignPaths &paths, QString *why);
 
+    /// See newRecord.
     [[nodiscard]] QString recordName(const DesignPaths &paths) const;
 };
 
-/// The last write, as far as it can be taken back.
+/// The last transaction, for undo.
 struct UndoRecord
 {
-    /// RecordedReplacement::before is of the backup, too.
+    /// The backups have the content RecordedReplacement::before.
     std::vector<RecordedReplacement> files;
 
     [[nodiscard]] QByteArray toJson(const DesignPaths &paths) const;

@@ -10,32 +10,39 @@ namespace designs {
 
 bool Recovery::isNeeded()
 {
-    return isWaiting() || m_work.exists(m_paths.newJournal()) || m_work.exists(m_paths.lock());
+    return hasJournal() || m_files.exists(m_paths.newJournal()) || m_files.exists(m_paths.lock());
 }
 
-bool Recovery::isWaiting()
+bool Recovery::hasJournal()
 {
-    return m_work.exists(m_paths.journal());
+    return m_files.exists(m_paths.journal());
 }
 
-bool Recovery::run()
+Recovery::Result Recovery::run()
+{
+    const bool isResolved = resolveAny();
+    return {isResolved, std::move(m_actions)};
+}
+
+bool Recovery::resolveAny()
 {
     FileStatus found;
-    if (!m_work.look(m_paths.journal(), &found)) {
+    if (!m_files.readStatus(m_paths.journal(), &found)) {
         return false;
     }
+    // A journal that did not get its name yet is of a transaction that has not begun.
     if (found.kind == FileStatus::Kind::Missing) {
-        return m_work.removeIfThere(m_paths.newJournal());
+        return m_files.removeIfThere(m_paths.newJournal());
     }
     QString why;
     std::optional<Journal> journal = Journal::read(m_paths, &why);
     if (!journal) {
-        return m_work.fail(m_paths.journal(),
-                           QStringLiteral("tells of an interrupted write, but cannot be used: ") + why +
-                               QStringLiteral(". Nothing was touched. Check the files of the design, then "
-                                              "delete this one"));
+        return m_files.fail(m_paths.journal(),
+                            QStringLiteral("tells of an interrupted write, but cannot be used: ") + why +
+                                QStringLiteral(". Nothing was touched. Check the files of the design, then "
+                                               "delete this one"));
     }
-    FileTransaction transaction(m_work, m_paths, std::move(*journal));
+    FileTransaction transaction(m_files, m_paths, std::move(*journal));
     return resolve(transaction);
 }
 
@@ -43,22 +50,24 @@ bool Recovery::resolve(FileTransaction &transaction)
 {
     const Journal &journal = transaction.journal();
     if (journal.state == Journal::State::Preparing) {
-        tell(m_paths.design(), QStringLiteral("a write was interrupted before it changed any file: what it "
-                                              "had prepared was removed"));
+        noteAction(m_paths.design(),
+                   QStringLiteral("a write was interrupted before it changed any file: what it "
+                                  "had prepared was removed"));
         return transaction.discard();
     }
     if (!checkNotOpen(journal)) {
         return false;
     }
+    // Some files may be restored already: completing would mix old and new.
     if (journal.state == Journal::State::TakingBack) {
         return takeBack(transaction);
     }
     switch (wayFor(transaction)) {
-    case Way::Forward:
+    case Way::Complete:
         return complete(transaction);
-    case Way::Back:
+    case Way::TakeBack:
         return takeBack(transaction);
-    case Way::Neither:
+    case Way::None:
         break;
     }
     return giveUp(transaction);
@@ -68,15 +77,15 @@ bool Recovery::complete(FileTransaction &transaction)
 {
     for (const JournalEntry &entry : transaction.journal().entries) {
         if (transaction.isPlaced(entry) && fingerprintOfPlainFile(entry.target) != entry.after) {
-            tell(entry.target,
-                 QStringLiteral("was changed after an interrupted write had replaced it: it was "
-                                "left as it is now"));
+            noteAction(entry.target,
+                       QStringLiteral("was changed after an interrupted write had replaced it: it was "
+                                      "left as it is now"));
         }
     }
     if (!transaction.place() || !transaction.finish()) {
         return false;
     }
-    tell(m_paths.design(), QStringLiteral("an interrupted write was completed"));
+    noteAction(m_paths.design(), QStringLiteral("an interrupted write was completed"));
     return true;
 }
 
@@ -85,20 +94,22 @@ bool Recovery::takeBack(FileTransaction &transaction)
     for (const JournalEntry &entry : transaction.journal().entries) {
         const auto now = fingerprintOfPlainFile(entry.target);
         if (now != entry.after && now != entry.before) {
-            tell(entry.target, QStringLiteral("was changed while a write was interrupted: it was left as it "
-                                              "is now"));
+            noteAction(entry.target,
+                       QStringLiteral("was changed while a write was interrupted: it was left as it "
+                                      "is now"));
         }
     }
     if (!transaction.takeBack()) {
         return false;
     }
-    tell(m_paths.design(),
-         QStringLiteral("an interrupted write was taken back: none of its changes is in the "
-                        "files, make them again"));
+    noteAction(m_paths.design(),
+               QStringLiteral("an interrupted write was taken back: none of its changes is in the "
+                              "files, make them again"));
     return true;
 }
 
-/// The user must decide: files of both kinds, and no way to either.
+/// Some files are new, some are old, and neither way is open to all: the user must decide, and is told what
+/// each file holds.
 bool Recovery::giveUp(FileTransaction &transaction)
 {
     for (const JournalEntry &entry : transaction.journal().entries) {
@@ -107,17 +118,17 @@ bool Recovery::giveUp(FileTransaction &transaction)
                               : now == entry.before ? QStringLiteral("holds the previous content")
                                                     : QStringLiteral("was changed meanwhile");
         const auto standsIn = [this](const QString &what, const QString &path) {
-            return m_work.exists(path) ? what + path : QString();
+            return m_files.exists(path) ? what + path : QString();
         };
-        m_work.fail(entry.target,
-                    holds + standsIn(QStringLiteral("; the new content stands in "), entry.prepared) +
-                        standsIn(QStringLiteral("; the previous content stands in "), entry.saved));
+        m_files.fail(entry.target,
+                     holds + standsIn(QStringLiteral("; the new content stands in "), entry.prepared) +
+                         standsIn(QStringLiteral("; the previous content stands in "), entry.saved));
     }
-    return m_work.fail(m_paths.design(),
-                       QStringLiteral("a write was interrupted and files were changed since, so that it can "
-                                      "neither be completed nor taken back. Nothing was touched. Bring the "
-                                      "files named above into order, then delete ") +
-                           m_paths.journal());
+    return m_files.fail(m_paths.design(),
+                        QStringLiteral("a write was interrupted and files were changed since, so that it can "
+                                       "neither be completed nor taken back. Nothing was touched. Bring the "
+                                       "files named above into order, then delete ") +
+                            m_paths.journal());
 }
 
 bool Recovery::checkNotOpen(const Journal &journal)
@@ -130,21 +141,23 @@ bool Recovery::checkNotOpen(const Journal &journal)
     bool closed = true;
     for (const QString &path : std::as_const(paths)) {
         if (const auto who = openElsewhere(path)) {
-            closed = m_work.fail(path, QStringLiteral("a write was interrupted, but this file ") + *who);
+            closed = m_files.fail(path, QStringLiteral("a write was interrupted, but this file ") + *who);
         }
     }
     return closed;
 }
 
+/// Completing comes first: the commit point promised it. Taking back is for a file that was changed before it
+/// was replaced.
 Recovery::Way Recovery::wayFor(FileTransaction &transaction)
 {
     const auto &entries = transaction.journal().entries;
     if (std::ranges::all_of(entries, [&](const auto &entry) { return canComplete(transaction, entry); })) {
-        return Way::Forward;
+        return Way::Complete;
     }
     const bool back =
         std::ranges::all_of(entries, [&](const auto &entry) { return canTakeBack(transaction, entry); });
-    return back ? Way::Back : Way::Neither;
+    return back ? Way::TakeBack : Way::None;
 }
 
 bool Recovery::canComplete(FileTransaction &transaction, const JournalEntry &entry)

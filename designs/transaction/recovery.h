@@ -6,35 +6,41 @@
 
 namespace designs {
 
-/// Completes or takes back what an interrupted write left.
+/// Completes or takes back an interrupted transaction, so that all its files are old or all are new. A file
+/// that somebody changed in between is left alone; where neither way is open nothing is touched.
 class Recovery final
 {
 public:
-    Recovery(FileWork &work, const DesignPaths &paths)
-        : m_work(work)
+    Recovery(FileOperations &files, const DesignPaths &paths)
+        : m_files(files)
         , m_paths(paths)
     {
     }
 
     /// Whether there is anything to look at; needs no lock.
     [[nodiscard]] bool isNeeded();
-    /// Whether there is a write that has begun and not ended.
-    [[nodiscard]] bool isWaiting();
+    /// Whether there is a transaction that has begun and not ended.
+    [[nodiscard]] bool hasJournal();
 
-    /// With the lock taken. False when an interrupted write stays; the work's problems tell why. What was
-    /// done is told in report().
-    bool run();
-
-    [[nodiscard]] const std::vector<Problem> &report() const { return m_report; }
+    struct Result
+    {
+        /// Whether no interrupted transaction is left; otherwise the problems of the file operations say why.
+        bool isResolved = false;
+        /// What was done, and which files were left alone.
+        std::vector<Problem> actions;
+    };
+    /// With the lock taken.
+    [[nodiscard]] Result run();
 
 private:
     enum class Way
     {
-        Forward,
-        Back,
-        Neither
+        Complete,
+        TakeBack,
+        None
     };
 
+    bool resolveAny();
     bool resolve(FileTransaction &transaction);
     bool complete(FileTransaction &transaction);
     bool takeBack(FileTransaction &transaction);
@@ -43,11 +49,11 @@ private:
     [[nodiscard]] Way wayFor(FileTransaction &transaction);
     [[nodiscard]] bool canComplete(FileTransaction &transaction, const JournalEntry &entry);
     [[nodiscard]] bool canTakeBack(FileTransaction &transaction, const JournalEntry &entry);
-    void tell(const QString &file, const QString &text) { m_report.push_back({file, 0, text}); }
+    void noteAction(const QString &file, const QString &text) { m_actions.push_back({file, 0, text}); }
 
-    FileWork &m_work;
+    FileOperations &m_files;
     const DesignPaths &m_paths;
-    std::vector<Problem> m_report;
+    std::vector<Problem> m_actions;
 };
 
 } // namespace designs

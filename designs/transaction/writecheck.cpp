@@ -16,36 +16,38 @@ constexpr quint32 anyWriteBit = 0222;
 
 } // namespace
 
-bool WriteCheck::run(std::span<const FileReplacement> files, bool keepsBackups)
+std::optional<std::vector<CheckedReplacement>> WriteCheck::run(std::span<const FileReplacement> files,
+                                                               bool keepsBackups)
 {
     bool possible = true;
     for (const FileReplacement &file : files) {
         possible = checkFile(file, keepsBackups) && possible;
     }
     possible = checkDesignClosed() && possible;
-    return checkFolders(keepsBackups) && possible;
+    possible = checkFolders(keepsBackups) && possible;
+    return possible ? std::optional(std::move(m_checked)) : std::nullopt;
 }
 
-bool WriteCheck::checkStillClosed()
+bool WriteCheck::areStillClosed(std::span<const CheckedReplacement> files)
 {
-    return checkDesignClosed() && std::ranges::all_of(m_replacements, [this](const auto &file) {
+    return checkDesignClosed() && std::ranges::all_of(files, [this](const auto &file) {
                return checkClosed(file.path, file.target);
            });
 }
 
-/// KiCad marks the sheet that it was asked to open, and holds those below it in memory, too.
+/// KiCad marks only the sheet that it was asked to open, but holds those below it in memory, too.
 bool WriteCheck::checkDesignClosed()
 {
-    const bool isTold = std::ranges::any_of(
-        m_work.problems(), [this](const Problem &problem) { return problem.file == m_paths.named(); });
-    return isTold || checkClosed(m_paths.named(), m_paths.design());
+    const bool isReported = std::ranges::any_of(
+        m_files.problems(), [this](const Problem &problem) { return problem.file == m_paths.named(); });
+    return isReported || checkClosed(m_paths.named(), m_paths.design());
 }
 
 bool WriteCheck::checkClosed(const QString &path, const QString &target)
 {
     for (const QString &name : {path, target}) {
         if (const auto who = openElsewhere(name)) {
-            return m_work.fail(path, *who);
+            return m_files.fail(path, *who);
         }
     }
     return true;
@@ -55,13 +57,13 @@ bool WriteCheck::checkFile(const FileReplacement &file, bool keepsBackups)
 {
     const QString target = QFileInfo(file.path).canonicalFilePath();
     if (target.isEmpty()) {
-        return m_work.fail(file.path, QStringLiteral("does not exist any more"));
+        return m_files.fail(file.path, QStringLiteral("does not exist any more"));
     }
     if (!checkClosed(file.path, target)) {
         return false;
     }
-    if (std::ranges::any_of(m_replacements, [&](const auto &other) { return other.target == target; })) {
-        return m_work.fail(file.path, QStringLiteral("is named twice among the files to write"));
+    if (std::ranges::any_of(m_checked, [&](const auto &other) { return other.target == target; })) {
+        return m_files.fail(file.path, QStringLiteral("is named twice among the files to write"));
     }
     if (!checkKind(file, target) || !checkWritable(file.path, target) ||
         (keepsBackups && !checkBackup(m_paths.backupOf(target)))) {
@@ -69,67 +71,68 @@ bool WriteCheck::checkFile(const FileReplacement &file, bool keepsBackups)
     }
     const auto now = fingerprintOfFile(target);
     if (now != file.before) {
-        return m_work.fail(file.path, now ? QStringLiteral("was changed since it was read")
-                                          : QStringLiteral("cannot be read any more"));
+        return m_files.fail(file.path, now ? QStringLiteral("was changed since it was read")
+                                           : QStringLiteral("cannot be read any more"));
     }
-    m_replacements.push_back({file.path, target, file.before, &file.after});
+    m_checked.push_back({file.path, target, file.before, &file.after});
     return true;
 }
 
 bool WriteCheck::checkKind(const FileReplacement &file, const QString &target)
 {
-    const FileStatus status = m_work.status(target);
+    const FileStatus status = m_files.status(target);
     if (status.kind != FileStatus::Kind::File) {
-        return m_work.fail(file.path, QStringLiteral("is no ordinary file"));
+        return m_files.fail(file.path, QStringLiteral("is no ordinary file"));
     }
     if (status.names > 1) {
-        return m_work.fail(file.path,
-                           QStringLiteral("has %1 names (hard links), and writing would separate them: put a "
-                                          "copy in its place, or work on the copy")
-                               .arg(status.names));
+        return m_files.fail(
+            file.path, QStringLiteral("has %1 names (hard links), and writing would separate them: put a "
+                                      "copy in its place, or work on the copy")
+                           .arg(status.names));
     }
     return m_paths.mayHold(target) ||
-           m_work.fail(file.path, QStringLiteral("lies outside the design's folder and is of another kind"));
+           m_files.fail(file.path, QStringLiteral("lies outside the design's folder and is of another kind"));
 }
 
 bool WriteCheck::checkWritable(const QString &path, const QString &target)
 {
-    if (const int failure = m_work.system().checkWritable(target); failure != 0) {
-        return m_work.fail(path, QStringLiteral("may not be written: ") + qt_error_string(failure));
+    if (const int failure = m_files.system().checkWritable(target); failure != 0) {
+        return m_files.fail(path, QStringLiteral("may not be written: ") + qt_error_string(failure));
     }
     // An administrator may write everything, but a file that nobody may write is meant to stay as it is.
     FileStatus status;
-    if (!m_work.look(target, &status) || (status.mode & anyWriteBit) == 0) {
-        return m_work.fail(path, QStringLiteral("may not be written: it is read-only"));
+    if (!m_files.readStatus(target, &status) || (status.mode & anyWriteBit) == 0) {
+        return m_files.fail(path, QStringLiteral("may not be written: it is read-only"));
     }
     const QString folder = folderOf(target);
-    const int failure = m_work.system().checkWritable(folder);
+    const int failure = m_files.system().checkWritable(folder);
     return failure == 0 ||
-           m_work.fail(path, QStringLiteral("cannot be replaced, because its folder may not be "
-                                            "written: ") +
-                                 qt_error_string(failure));
+           m_files.fail(path, QStringLiteral("cannot be replaced, because its folder may not be "
+                                             "written: ") +
+                                  qt_error_string(failure));
 }
 
 bool WriteCheck::checkBackup(const QString &target)
 {
-    const FileStatus::Kind kind = m_work.status(target).kind;
+    const FileStatus::Kind kind = m_files.status(target).kind;
     return kind == FileStatus::Kind::Missing || kind == FileStatus::Kind::File ||
-           m_work.fail(target, QStringLiteral("is in the way of a backup"));
+           m_files.fail(target, QStringLiteral("is in the way of a backup"));
 }
 
 bool WriteCheck::checkFolders(bool keepsBackups)
 {
-    const int failure = m_work.system().checkWritable(m_paths.folder());
+    const int failure = m_files.system().checkWritable(m_paths.folder());
     if (failure != 0) {
-        return m_work.fail(m_paths.folder(),
-                           QStringLiteral("the folder may not be written: ") + qt_error_string(failure));
+        return m_files.fail(m_paths.folder(),
+                            QStringLiteral("the folder may not be written: ") + qt_error_string(failure));
     }
     if (!keepsBackups) {
         return true;
     }
-    const FileStatus::Kind kind = m_work.status(m_paths.backupFolder()).kind;
+    const FileStatus::Kind kind = m_files.status(m_paths.backupFolder()).kind;
     if (kind != FileStatus::Kind::Missing && kind != FileStatus::Kind::Folder) {
-        return m_work.fail(m_paths.backupFolder(), QStringLiteral("is in the way of the folder for backups"));
+        return m_files.fail(m_paths.backupFolder(),
+                            QStringLiteral("is in the way of the folder for backups"));
     }
     return checkBackup(m_paths.record());
 }

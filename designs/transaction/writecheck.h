@@ -5,29 +5,29 @@
 #include "designs/edits.h"
 #include "designs/transaction/filetransaction.h"
 
+#include <optional>
 #include <span>
 #include <vector>
 
 namespace designs {
 
-/// Looks whether files can be replaced.
+/// The first step of a transaction: whether files can be replaced. Touches nothing.
 class WriteCheck final
 {
 public:
-    WriteCheck(FileWork &work, const DesignPaths &paths)
-        : m_work(work)
+    WriteCheck(FileOperations &files, const DesignPaths &paths)
+        : m_files(files)
         , m_paths(paths)
     {
     }
 
-    /// False when one of them cannot; the work's problems tell why.
-    bool run(std::span<const FileReplacement> files, bool keepsBackups);
+    /// The files as they are to be replaced, links followed; they refer to the contents in `files`. Nothing
+    /// when one of them cannot be replaced; the problems of the file operations say why.
+    [[nodiscard]] std::optional<std::vector<CheckedReplacement>> run(std::span<const FileReplacement> files,
+                                                                     bool keepsBackups);
 
-    /// False when one of them, or the design, was opened in KiCad meanwhile.
-    bool checkStillClosed();
-
-    /// The files as they are to be replaced, links followed; of files that stay valid and unmoved.
-    [[nodiscard]] const std::vector<Replacement> &replacements() const { return m_replacements; }
+    /// False, with a problem, when one of them, or the design, was opened in KiCad meanwhile.
+    [[nodiscard]] bool areStillClosed(std::span<const CheckedReplacement> files);
 
 private:
     bool checkClosed(const QString &path, const QString &target);
@@ -38,9 +38,9 @@ private:
     bool checkBackup(const QString &target);
     bool checkFolders(bool keepsBackups);
 
-    FileWork &m_work;
+    FileOperations &m_files;
     const DesignPaths &m_paths;
-    std::vector<Replacement> m_replacements;
+    std::vector<CheckedReplacement> m_checked;
 };
 
 } // namespace designs

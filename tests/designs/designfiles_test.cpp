@@ -1,85 +1,209 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "designs/designfilesfixture.h"
+#include "designs/transaction/designfiles.h"
+
+#include "designs/designfolder.h"
+#include "designs/interruptedfilesystem.h"
+#include "tests/support/testfiles.h"
+
+#include <QDir>
+#include <QDirIterator>
+
+#include <gmock/gmock.h>
+
+#include <cerrno>
+#include <functional>
+#include <sys/stat.h>
+#include <sys/wait.h>
 
 using namespace designs;
+using testing::AnyOf;
 using testing::HasSubstr;
 
 namespace {
 
-TEST_F(DesignFilesTest, WritesAllFilesKeepsBackupsAndTakesBackOnce)
+std::string joined(const std::vector<Problem> &problems)
 {
-    DesignFiles design(path(names[0]));
+    std::string text;
+    for (const Problem &problem : problems) {
+        text += problem.message().toStdString() + '\n';
+    }
+    return text;
+}
+
+/// A design of three files, one in a sub-folder, and what is written to it.
+class DesignFilesTest : public testing::Test
+{
+protected:
+    static constexpr std::array<const char *, 3> names = {"board.kicad_sch", "a.kicad_sch",
+                                                          "sub/a.kicad_sch"};
+    static constexpr char plain[] = "a.kicad_sch\nboard.kicad_sch\nsub\nsub/a.kicad_sch";
+
+    DesignFilesTest()
+    {
+        for (const char *name : names) {
+            put(name, content(name, 0));
+        }
+        EXPECT_EQ(::chmod(path("a.kicad_sch").toLocal8Bit().constData(), 0640), 0);
+    }
+
+    [[nodiscard]] QString path(const char *name) const { return m_folder.path(QLatin1String(name)); }
+    void put(const char *name, const std::string &text) const { m_folder.write(QLatin1String(name), text); }
+
+    [[nodiscard]] std::string get(const char *name) const { return contentIfAny(path(name)).toStdString(); }
+    static std::string content(const char *name, int version)
+    {
+        return name + std::to_string(version) + std::string(std::size_t(version) * 10, '.');
+    }
+
+    [[nodiscard]] std::vector<FileReplacement> replacements(int version) const
+    {
+        std::vector<FileReplacement> files;
+        for (const char *name : names) {
+            files.push_back({path(name), fingerprintOfFile(path(name)).value_or(FileFingerprint()),
+                             QByteArray::fromStdString(content(name, version))});
+        }
+        return files;
+    }
+
+    [[nodiscard]] DesignFiles files(FileSystem *system = nullptr)
+    {
+        return DesignFiles(path(names[0]), system ? system : &m_system);
+    }
+    /// Brings all files to a version; the problems.
+    std::string replace(int version, Backups backups = Backups::Keep)
+    {
+        return joined(files().replace(replacements(version), backups).problems);
+    }
+    std::string undo() { return joined(files().undo().problems); }
+    std::string recover() { return joined(files().recover()); }
+    void removeBackups() const { QDir(path("board-backup")).removeRecursively(); }
+
+    /// The version that all files have; -1 for a mixture.
+    [[nodiscard]] int version() const
+    {
+        for (int version = 0; version < 4; ++version) {
+            if (std::ranges::all_of(names, [&](const char *n) { return get(n) == content(n, version); })) {
+                return version;
+            }
+        }
+        return -1;
+    }
+
+    /// Everything in the folder, one name per line.
+    [[nodiscard]] std::string listing() const
+    {
+        QStringList found;
+        QDirIterator all(m_folder.path({}), QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+        while (all.hasNext()) {
+            found << QDir(m_folder.path({})).relativeFilePath(all.next());
+        }
+        found.sort();
+        return found.join(u'\n').toStdString();
+    }
+
+    /// Nothing lies about but the files, and backups for all of them or none.
+    void expectTidy() const
+    {
+        const std::string record = "board-backup/board.kicad_sch.undo\n";
+        const std::string undoable = "a.kicad_sch\nboard-backup\nboard-backup/a.kicad_sch.bak\n"
+                                     "board-backup/board.kicad_sch.bak\n" +
+                                     record +
+                                     "board-backup/sub%2Fa.kicad_sch.bak\nboard.kicad_sch\nsub\n"
+                                     "sub/a.kicad_sch";
+        const std::string kept = std::string(undoable).erase(undoable.find(record), record.size());
+        EXPECT_THAT(listing(), AnyOf(plain, kept, undoable));
+        EXPECT_EQ(QFileInfo(path("a.kicad_sch")).permissions() & QFile::ReadOther, 0);
+    }
+
+    /// Uses the files in a process of its own that dies at one of its steps; false when it ran through.
+    bool diesIn(int step, const std::function<void(const DesignFiles &)> &use)
+    {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            InterruptedFileSystem system(step, 0);
+            use(files(&system));
+            ::_exit(0);
+        }
+        int status = 0;
+        EXPECT_EQ(::waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFEXITED(status));
+        return WEXITSTATUS(status) == InterruptedFileSystem::diedStatus;
+    }
+
+    /// In memory where that can be had: thousands of files are renamed.
+    static QString pattern()
+    {
+        const QString memory = QStringLiteral("/dev/shm");
+        return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + QStringLiteral("/bom-XXXXXX");
+    }
+
+    DesignFolder m_folder{pattern()};
+    InterruptedFileSystem m_system{0, 0};
+};
+
+TEST_F(DesignFilesTest, ReplacesAllFilesKeepsBackupsAndTakesBackOnce)
+{
+    const DesignFiles design(path(names[0]));
     EXPECT_FALSE(design.canUndo());
-    EXPECT_EQ(joined(design.check(edits(1))), "");
-    EXPECT_EQ(joined(design.write(edits(1), Backups::Keep)), "");
-    EXPECT_EQ(joined(design.write(edits(2), Backups::Keep)), "");
+    EXPECT_EQ(joined(design.check(replacements(1))), "");
+    EXPECT_EQ(joined(design.replace(replacements(1), Backups::Keep).problems), "");
+    EXPECT_EQ(design.replace(replacements(2), Backups::Keep).replaced.size(), 3);
     EXPECT_EQ(version(), 2);
     EXPECT_EQ(get("board-backup/sub%2Fa.kicad_sch.bak"), content(names[2], 1));
     EXPECT_TRUE(design.canUndo());
     expectTidy();
 
-    const DesignFiles::Undone undone = design.undo();
+    const TransactionResult undone = design.undo();
     EXPECT_EQ(joined(undone.problems), "");
-    EXPECT_EQ(undone.files.size(), 3);
+    EXPECT_EQ(undone.replaced.size(), 3);
     EXPECT_EQ(version(), 1);
     EXPECT_THAT(joined(design.undo().problems), HasSubstr("nothing to take back"));
     EXPECT_EQ(version(), 1);
-    expectTidy();
-}
-
-TEST_F(DesignFilesTest, WithoutBackupsThereIsNothingToTakeBack)
-{
-    DesignFiles design = files();
-    EXPECT_EQ(joined(design.write(edits(1), Backups::Keep)), "");
-    EXPECT_EQ(joined(design.write(edits(2), Backups::None)), "");
-    EXPECT_FALSE(design.canUndo());
-    EXPECT_THAT(joined(design.undo().problems), HasSubstr("nothing to take back"));
-    EXPECT_EQ(version(), 2);
     expectTidy();
 }
 
 TEST_F(DesignFilesTest, RefusesWhatWouldLoseOthersWork)
 {
-    const std::string before = listing();
-    const std::vector<FileReplacement> planned = edits(1);
-    const auto refused = [&](const char *why) {
+    const std::vector<FileReplacement> planned = replacements(1);
+    const auto expectRefused = [&](const char *why) {
         EXPECT_THAT(joined(files().check(planned)), HasSubstr(why));
-        EXPECT_THAT(joined(files().write(planned, Backups::Keep)), HasSubstr(why));
+        EXPECT_THAT(joined(files().replace(planned, Backups::Keep).problems), HasSubstr(why));
         EXPECT_EQ(get(names[0]), content(names[0], 0));
     };
     put("sub/~a.kicad_sch.lck", R"({"hostname":"desk","username":"anna"})");
-    refused("sub/a.kicad_sch: is open in KiCad (anna on desk)");
+    expectRefused("sub/a.kicad_sch: is open in KiCad (anna on desk)");
     QFile::remove(path("sub/~a.kicad_sch.lck"));
 
     // KiCad marks only the sheet at the top of those that it holds.
     put("~board.kicad_sch.lck", "{}");
-    EXPECT_THAT(joined(files().write(std::span(planned).subspan(1), Backups::Keep)),
+    EXPECT_THAT(joined(files().replace(std::span(planned).subspan(1), Backups::Keep).problems),
                 HasSubstr("board.kicad_sch: is open in KiCad (somebody)"));
     EXPECT_EQ(files().check(planned).size(), 1U);
     QFile::remove(path("~board.kicad_sch.lck"));
 
     put(names[2], "changed");
-    refused("sub/a.kicad_sch: was changed since it was read");
+    expectRefused("sub/a.kicad_sch: was changed since it was read");
     QFile::remove(path(names[2]));
-    refused("sub/a.kicad_sch: does not exist any more");
+    expectRefused("sub/a.kicad_sch: does not exist any more");
     put(names[2], content(names[2], 0));
 
     ASSERT_EQ(::chmod(path(names[1]).toLocal8Bit().constData(), 0440), 0);
-    refused("a.kicad_sch: may not be written: it is read-only");
+    expectRefused("a.kicad_sch: may not be written: it is read-only");
     ASSERT_EQ(::chmod(path(names[1]).toLocal8Bit().constData(), 0640), 0);
 
     ASSERT_EQ(::link(path(names[1]).toLocal8Bit().constData(), path("twin").toLocal8Bit().constData()), 0);
-    refused("a.kicad_sch: has 2 names (hard links)");
+    expectRefused("a.kicad_sch: has 2 names (hard links)");
     QFile::remove(path("twin"));
-    EXPECT_EQ(listing(), before);
+    EXPECT_EQ(listing(), plain);
 }
 
 TEST_F(DesignFilesTest, FollowsLinksAndKeepsPermissions)
 {
     ASSERT_TRUE(QFile::rename(path(names[1]), path("sub/real.kicad_sch")));
     ASSERT_TRUE(QFile::link(QStringLiteral("sub/real.kicad_sch"), path(names[1])));
-    EXPECT_EQ(joined(files().write(edits(1), Backups::Keep)), "");
+    EXPECT_EQ(replace(1), "");
     EXPECT_EQ(version(), 1);
     EXPECT_TRUE(QFileInfo(path(names[1])).isSymLink());
     EXPECT_EQ(get("board-backup/sub%2Freal.kicad_sch.bak"), content(names[1], 0));
@@ -92,21 +216,17 @@ TEST_F(DesignFilesTest, FollowsLinksAndKeepsPermissions)
 
 TEST_F(DesignFilesTest, TakesBackOnlyWhatStandsAsItWasLeft)
 {
-    DesignFiles design = files();
-    EXPECT_EQ(joined(design.write(edits(1), Backups::Keep)), "");
+    EXPECT_EQ(replace(1), "");
     put(names[1], "mine");
-    EXPECT_THAT(joined(design.undo().problems), HasSubstr("a.kicad_sch: was changed since it was written"));
+    EXPECT_THAT(undo(), HasSubstr("a.kicad_sch: was changed since it was written"));
     EXPECT_EQ(get(names[0]), content(names[0], 1));
     put(names[1], content(names[1], 1));
-
     put("board-backup/a.kicad_sch.bak", "damaged");
-    EXPECT_THAT(joined(design.undo().problems), HasSubstr("a.kicad_sch.bak: is missing or damaged"));
-    EXPECT_EQ(version(), 1);
-
+    EXPECT_THAT(undo(), HasSubstr("a.kicad_sch.bak: is missing or damaged"));
     put("board-backup/board.kicad_sch.undo", R"({"version":1,"files":[{"file":"../../etc/passwd",)"
                                              R"("before":"1-00000000000000000000000000000000",)"
                                              R"("after":"1-00000000000000000000000000000000"}]})");
-    EXPECT_THAT(joined(design.undo().problems), HasSubstr("files that are none of this design"));
+    EXPECT_THAT(undo(), HasSubstr("files that are none of this design"));
     EXPECT_EQ(version(), 1);
 }
 
@@ -123,37 +243,206 @@ TEST_F(DesignFilesTest, HostileJournalsAreRefused)
           journal("")}) {
         put(".board.kicad_sch.bom-journal", text);
         const std::string before = listing();
-        EXPECT_THAT(joined(files().recover()), HasSubstr("cannot be used")) << text.substr(0, 200);
-        EXPECT_THAT(joined(files().write(edits(1), Backups::Keep)), HasSubstr("cannot be used"));
+        EXPECT_THAT(recover(), HasSubstr("cannot be used")) << text.substr(0, 200);
+        EXPECT_THAT(replace(1), HasSubstr("cannot be used"));
         EXPECT_EQ(listing(), before);
         EXPECT_EQ(version(), 0);
     }
 }
 
-TEST_F(DesignFilesTest, WhatIsInTheWayIsNamedAndNeverWaitedFor)
+TEST_F(DesignFilesTest, PipesAreNamedAndNeverWaitedFor)
 {
     const QByteArray lock = path(".board.kicad_sch.bom-lock").toLocal8Bit();
     ASSERT_EQ(::mkfifo(lock.constData(), 0600), 0);
-    EXPECT_THAT(joined(files().write(edits(1), Backups::Keep)),
-                HasSubstr("board.kicad_sch: cannot be written: " + lock.toStdString()));
+    EXPECT_THAT(replace(1), HasSubstr("board.kicad_sch: cannot be written: " + lock.toStdString()));
     ASSERT_EQ(::unlink(lock.constData()), 0);
-
     ASSERT_EQ(::mkfifo(path("pipe.kicad_sch").toLocal8Bit().constData(), 0600), 0);
     EXPECT_FALSE(fingerprintOfFile(path("pipe.kicad_sch")));
 }
 
 TEST_F(DesignFilesTest, OneProcessWritesAtATime)
 {
-    InterruptedFileSystem holder(0, 0);
     int file = -1;
     const QString lock = path(".board.kicad_sch.bom-lock");
+    InterruptedFileSystem holder(0, 0);
     ASSERT_EQ(holder.lock(lock, &file), 0);
-    InterruptedFileSystem other(0, 0);
-    EXPECT_THAT(joined(files(&other).write(edits(1), Backups::Keep)), HasSubstr("just writing"));
-    EXPECT_THAT(joined(files(&other).recover()), HasSubstr("just writing"));
+    EXPECT_THAT(replace(1), HasSubstr("just writing"));
+    EXPECT_THAT(recover(), HasSubstr("just writing"));
     EXPECT_EQ(version(), 0);
     ASSERT_EQ(holder.unlock(lock, file), 0);
-    EXPECT_EQ(joined(files(&other).write(edits(1), Backups::Keep)), "");
+    EXPECT_EQ(replace(1), "");
+}
+
+/// A copy of a process is made for each death, which takes its time where memory is watched.
+#ifdef __SANITIZE_ADDRESS__
+constexpr int stride = 41;
+#else
+constexpr int stride = 7;
+#endif
+
+TEST_F(DesignFilesTest, EveryDeathLeavesAllOldOrAllNew)
+{
+    for (const Backups backups : {Backups::Keep, Backups::None}) {
+        ASSERT_EQ(replace(1), "");
+        int step = 1;
+        int completed = 0;
+        const auto replaceAll = [&](const DesignFiles &design) {
+            (void)design.replace(replacements(2), backups);
+        };
+        for (; diesIn(step, replaceAll); ++step) {
+            SCOPED_TRACE(step);
+            (void)recover();
+            EXPECT_EQ(recover(), "");
+            const int reached = version();
+            ASSERT_THAT(reached, AnyOf(1, 2));
+            expectTidy();
+            completed += reached == 2 ? 1 : 0;
+            const bool undoable = reached == 1 || backups == Backups::Keep;
+            ASSERT_EQ(files().canUndo(), undoable);
+            if (undoable) {
+                EXPECT_EQ(undo(), "");
+                ASSERT_EQ(version(), reached - 1);
+            }
+            if (version() != 0) {
+                ASSERT_EQ(replace(0, Backups::None), "");
+            }
+            ASSERT_EQ(replace(1), "");
+        }
+        EXPECT_EQ(version(), 2);
+        EXPECT_GT(step, 60);
+        EXPECT_GT(completed, 10);
+        ASSERT_EQ(replace(0, Backups::None), "");
+    }
+}
+
+TEST_F(DesignFilesTest, EveryDeathWhileTakingBackLeavesAllOldOrAllNew)
+{
+    ASSERT_EQ(replace(1), "");
+    int step = 1;
+    for (; diesIn(step, [](const DesignFiles &design) { (void)design.undo(); }); ++step) {
+        SCOPED_TRACE(step);
+        (void)recover();
+        ASSERT_EQ(version(), files().canUndo() ? 1 : 0);
+        expectTidy();
+        if (version() == 0) {
+            ASSERT_EQ(replace(1), "");
+        }
+    }
+    EXPECT_EQ(version(), 0);
+    EXPECT_GT(step, 60);
+}
+
+TEST_F(DesignFilesTest, DeathsInTheRecoveryAreRecoveredFrom)
+{
+    const auto replaceAll = [this](const DesignFiles &design) {
+        (void)design.replace(replacements(1), Backups::Keep);
+    };
+    bool died = true;
+    // Every step of the recovery, from every seventh or so state that it can find.
+    for (int step = 1; died; step += stride) {
+        bool diedAgain = true;
+        for (int again = 1; died && diedAgain; ++again) {
+            SCOPED_TRACE(step * 1000 + again);
+            died = diesIn(step, replaceAll);
+            diedAgain = died && diesIn(again, [](const DesignFiles &design) { (void)design.recover(); });
+            (void)recover();
+            ASSERT_THAT(version(), AnyOf(0, 1));
+            ASSERT_EQ(files().canUndo(), version() == 1);
+            expectTidy();
+            (void)undo();
+            removeBackups();
+            ASSERT_EQ(version(), 0);
+        }
+    }
+}
+
+TEST_F(DesignFilesTest, EveryFailureIsReportedAndLeavesAllOldOrAllNew)
+{
+    for (const int failure : {ENOSPC, EIO}) {
+        bool failed = true;
+        for (int step = 1; failed; ++step) {
+            SCOPED_TRACE(step);
+            InterruptedFileSystem system(step, failure);
+            const TransactionResult result = files(&system).replace(replacements(1), Backups::Keep);
+            failed = system.hasFailed();
+            const bool isReplaced = !result.replaced.isEmpty();
+            ASSERT_EQ(version(), isReplaced ? 1 : 0) << joined(result.problems);
+            if (!isReplaced) {
+                EXPECT_THAT(joined(result.problems), HasSubstr(failure == EIO ? "error" : "space"));
+                for (const Problem &problem : result.problems) {
+                    const QString name = QFileInfo(problem.file).fileName();
+                    EXPECT_FALSE(name.startsWith(QLatin1String(".bom-")) &&
+                                 problem.text.contains(QLatin1String("written")))
+                        << problem.message().toStdString();
+                }
+                EXPECT_EQ(listing(), plain);
+            }
+            (void)recover();
+            expectTidy();
+            EXPECT_EQ(files().canUndo(), isReplaced);
+            (void)undo();
+            removeBackups();
+            ASSERT_EQ(version(), 0);
+        }
+    }
+}
+
+/// A transaction that died with the first file in place and the others not.
+class InterruptedTransactionTest : public DesignFilesTest
+{
+protected:
+    void interrupt(Backups backups)
+    {
+        for (int step = 1; get(names[0]) == content(names[0], 0); ++step) {
+            (void)recover();
+            ASSERT_NE(version(), -1);
+            ASSERT_EQ(replace(0, Backups::None), "");
+            removeBackups();
+            ASSERT_TRUE(diesIn(
+                step, [&](const DesignFiles &design) { (void)design.replace(replacements(1), backups); }));
+        }
+    }
+};
+
+TEST_F(InterruptedTransactionTest, ForeignChangesAreKeptAndTheRestGoesBack)
+{
+    for (const Backups backups : {Backups::Keep, Backups::None}) {
+        interrupt(backups);
+        put(names[2], "somebody's");
+        EXPECT_THAT(recover(),
+                    testing::AllOf(HasSubstr("sub/a.kicad_sch: was changed while a write was interrupted"),
+                                   HasSubstr("was taken back")));
+        EXPECT_EQ(get(names[2]), "somebody's");
+        put(names[2], content(names[2], 0));
+        EXPECT_EQ(version(), 0);
+        expectTidy();
+    }
+}
+
+TEST_F(InterruptedTransactionTest, WhatCannotBeDecidedStaysAndIsTold)
+{
+    interrupt(Backups::Keep);
+    put(names[0], "mine");
+    put(names[2], "yours");
+    const std::string told = recover();
+    const std::string before = listing();
+    EXPECT_EQ(recover(), told);
+    EXPECT_THAT(told, HasSubstr("a.kicad_sch: holds the previous content; the new content stands in "));
+    EXPECT_THAT(told, HasSubstr("neither be completed nor taken back"));
+    EXPECT_EQ(listing(), before);
+    EXPECT_EQ(get(names[0]) + get(names[1]) + get(names[2]), "mine" + content(names[1], 0) + "yours");
+    EXPECT_THAT(replace(2), HasSubstr("neither be completed"));
+}
+
+TEST_F(InterruptedTransactionTest, WaitsForWhoHasAFileOpen)
+{
+    interrupt(Backups::Keep);
+    put("~a.kicad_sch.lck", "no json");
+    EXPECT_THAT(recover(), HasSubstr("is open in KiCad (somebody)"));
+    EXPECT_EQ(version(), -1);
+    QFile::remove(path("~a.kicad_sch.lck"));
+    EXPECT_THAT(recover(), HasSubstr("was completed"));
+    EXPECT_EQ(version(), 1);
 }
 
 } // namespace

@@ -9,10 +9,11 @@
 /// The machine's file system until a certain step: there one operation fails, or the process ends. Each
 /// operation is a step; where the process is to end, there is one before and one after it. Nothing waits for
 /// the disk.
-class InterruptedFileSystem final : public designs::PosixFileSystem
+class InterruptedFileSystem final : public designs::FileSystem
 {
 public:
     static constexpr int diedStatus = 77;
+    using Status = designs::FileStatus;
 
     /// `failure` is an errno, 0 for the end of the process; step 0 never comes.
     InterruptedFileSystem(int step, int failure)
@@ -23,79 +24,49 @@ public:
 
     [[nodiscard]] bool hasFailed() const { return m_left <= 0; }
 
-    int status(const QString &path, designs::FileStatus *status) override
-    {
-        return run([&] { return PosixFileSystem::status(path, status); });
-    }
-    int checkWritable(const QString &path) override
-    {
-        return run([&] { return PosixFileSystem::checkWritable(path); });
-    }
-    int create(const QString &path, int *file) override
-    {
-        return run([&] { return PosixFileSystem::create(path, file); });
-    }
-    int open(const QString &path, int *file) override
-    {
-        return run([&] { return PosixFileSystem::open(path, file); });
-    }
-    int link(const QString &file, const QString &name) override
-    {
-        return run([&] { return PosixFileSystem::link(file, name); });
-    }
+    int status(const QString &path, Status *found) override { return run(&FileSystem::status, path, found); }
+    int checkWritable(const QString &path) override { return run(&FileSystem::checkWritable, path); }
+    int create(const QString &path, int *file) override { return run(&FileSystem::create, path, file); }
+    int open(const QString &path, int *file) override { return run(&FileSystem::open, path, file); }
+    int link(const QString &file, const QString &name) override { return run(&FileSystem::link, file, name); }
     void startSync(int) override {}
     int write(int file, std::string_view bytes, std::size_t *written) override
     {
         // In small pieces, so that a file can be left half written.
-        return run([&] { return PosixFileSystem::write(file, bytes.substr(0, 500), written); });
+        return run(&FileSystem::write, file, bytes.substr(0, 500), written);
     }
-    int setAttributes(int file, const designs::FileStatus &like) override
+    int setAttributes(int file, const Status &like) override
     {
-        return run([&] { return PosixFileSystem::setAttributes(file, like); });
+        return run(&FileSystem::setAttributes, file, like);
     }
-    int sync(int) override
-    {
-        return run([] { return 0; });
-    }
-    int close(int file) override
-    {
-        const int failure = PosixFileSystem::close(file);
-        return run([&] { return failure; });
-    }
-    int rename(const QString &from, const QString &to) override
-    {
-        return run([&] { return PosixFileSystem::rename(from, to); });
-    }
-    int remove(const QString &path) override
-    {
-        return run([&] { return PosixFileSystem::remove(path); });
-    }
-    int makeFolder(const QString &path) override
-    {
-        return run([&] { return PosixFileSystem::makeFolder(path); });
-    }
-    int removeFolder(const QString &path) override
-    {
-        return run([&] { return PosixFileSystem::removeFolder(path); });
-    }
+    int sync(int) override { return withResult(0); }
+    int close(int file) override { return withResult(m_real.close(file)); }
+    int rename(const QString &from, const QString &to) override { return run(&FileSystem::rename, from, to); }
+    int remove(const QString &path) override { return run(&FileSystem::remove, path); }
+    int makeFolder(const QString &path) override { return run(&FileSystem::makeFolder, path); }
+    int removeFolder(const QString &path) override { return run(&FileSystem::removeFolder, path); }
     int syncFolder(const QString &path) override
     {
-        return run([&] { return ::access(path.toLocal8Bit().constData(), F_OK); });
+        return withSteps([&] { return ::access(path.toLocal8Bit().constData(), F_OK); });
     }
-    int lock(const QString &path, int *file) override
-    {
-        return run([&] { return PosixFileSystem::lock(path, file); });
-    }
-    int unlock(const QString &path, int file) override
-    {
-        const int failure = PosixFileSystem::unlock(path, file);
-        return run([&] { return failure; });
-    }
+    int lock(const QString &path, int *file) override { return run(&FileSystem::lock, path, file); }
+    int unlock(const QString &path, int file) override { return withResult(m_real.unlock(path, file)); }
     void pause() override {}
 
 private:
+    template<class... Parameters, class... Arguments>
+    int run(int (FileSystem::*operation)(Parameters...), const Arguments &...arguments)
+    {
+        return withSteps([&] { return (m_real.*operation)(arguments...); });
+    }
+    /// Of what is done even when it is told to fail.
+    int withResult(int failure)
+    {
+        return withSteps([failure] { return failure; });
+    }
+
     template<class Operation>
-    int run(const Operation &operation)
+    int withSteps(const Operation &operation)
     {
         if (step()) {
             return m_failure;
@@ -118,6 +89,7 @@ private:
         return true;
     }
 
+    designs::PosixFileSystem m_real;
     int m_left = 0;
     int m_failure;
 };

@@ -4,8 +4,8 @@
 #include "standalone/designsession.h"
 #include "standalone/loadeddesign.h"
 #include "tests/standalone/tabledesign.h"
+#include "tests/support/testfiles.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -13,6 +13,8 @@
 #include <sstream>
 
 namespace {
+
+const char *const done = "No Errors\n";
 
 /// A design of R1, R2 and two of R3 that stands for the file list.csv.
 class Batch : public testing::Test
@@ -32,17 +34,8 @@ protected:
         cache.validate(1);
     }
 
-    void write(const QByteArray &bytes) const
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-    QByteArray content() const
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-    }
+    void write(const QByteArray &bytes) const { writeFile(path, bytes); }
+    [[nodiscard]] QByteArray content() const { return contentIfAny(path); }
     /// Lets the next write replace the file.
     void planFile(const QByteArray &after)
     {
@@ -52,32 +45,40 @@ protected:
             plan.files.push_back({path, *before, after});
         };
     }
-    std::string adi(const std::string &script)
+    static std::string adi(const std::string &script)
     {
         std::istringstream in(script);
         std::ostringstream out;
         getcdb()->adi(in, out, 0);
         return out.str();
     }
+    /// Runs a script as the batch of a program, in a nested one as modules do it.
+    WriteResult writeBatch(const std::string &script, const WriteOptions &options = {})
+    {
+        return session.write(options, [&] {
+            getcdb()->beginbatch();
+            (void)adi(script);
+            return getcdb()->commitbatch();
+        });
+    }
     static std::string record(const std::string &reference, const std::string &property,
                               const std::string &value)
     {
         return "DATA NAME : " + reference + "-\n\"" + property + "\"   :   \"" + value + "\"\nEND\n\n";
     }
-    std::vector<std::string> changes() const
+    static std::string changesOf(const WriteResult &result)
     {
-        std::vector<std::string> found;
-        for (const PropertyChange &change : session.lastChanges()) {
-            found.push_back(
-                (change.reference + u' ' + change.name + u'=' + change.after.value_or(QStringLiteral("-")))
-                    .toStdString());
+        QString text;
+        for (const PropertyChange &change : result.changes) {
+            text += change.reference + u' ' + change.name + u'=' +
+                    change.after.value_or(QStringLiteral("-")) + u';';
         }
-        return found;
+        return text.toStdString();
     }
-    using Texts = std::vector<std::string>;
 
     QTemporaryDir folder;
     QString path = folder.filePath(QStringLiteral("list.csv"));
+    const std::string ohms = record("R1", "VALUE", "47k");
     DesignSession session;
     NETCACHE cache;
     TableDesign *design = nullptr;
@@ -85,8 +86,9 @@ protected:
 
 TEST_F(Batch, IsAScriptOutsideOfOne)
 {
-    EXPECT_EQ(adi(record("R1", "VALUE", "1k") + record("R2", "MPN", "[REMOVE]")), "No Errors\n");
-    EXPECT_EQ(changes(), (Texts{"R1 VALUE=1k", "R2 MPN=-"}));
+    planFile("Reference,Value\nR1,47k\n");
+    EXPECT_EQ(adi(ohms), done);
+    EXPECT_EQ(content(), "Reference,Value\nR1,47k\n");
     EXPECT_TRUE(getcdb()->problems().isEmpty());
     EXPECT_EQ(adi("nonsense\n").find("script line 1: "), 0U);
     EXPECT_EQ(getcdb()->problems().size(), 1);
@@ -97,13 +99,12 @@ TEST_F(Batch, RefusesByName)
     design->editCheck = [](const designs::Edit &edit) {
         return edit.name == "Reference" ? std::optional(QStringLiteral("no")) : std::nullopt;
     };
-    const std::string report = adi(record("R9", "A", "1") + record("R3", "B", "2") +
-                                   record("R1", "Reference", "R7") + record("R2", "C", "3"));
-    EXPECT_EQ(report, "R9, A: the design has no part of this reference\n"
-                      "R3, B: several symbols have this reference: /d/amp.kicad_sch:30, /d/amp.kicad_sch:40\n"
-                      "/d/amp.kicad_sch:10: R1, Reference: no\n");
+    EXPECT_EQ(adi(record("R9", "A", "1") + record("R3", "B", "2") + record("R1", "Reference", "R7") +
+                  record("R2", "C", "3")),
+              "R9, A: the design has no part of this reference\n"
+              "R3, B: several symbols have this reference: /d/amp.kicad_sch:30, /d/amp.kicad_sch:40\n"
+              "/d/amp.kicad_sch:10: R1, Reference: no\n");
     EXPECT_EQ(getcdb()->problems().size(), 3);
-    EXPECT_EQ(changes(), Texts());
 }
 
 TEST_F(Batch, RefusesWhatWouldBeNoDefinitionOfBomOnlyParts)
@@ -116,30 +117,27 @@ TEST_F(Batch, RefusesWhatWouldBeNoDefinitionOfBomOnlyParts)
         EXPECT_THAT(adi(record(reference, "BOMPART1", "1,'SCR','M3'")),
                     testing::HasSubstr("the design spells this name bompart1"));
     }
-    EXPECT_EQ(adi(record("R1", "bompart1", "yours")), "No Errors\n");
-    EXPECT_EQ(adi(record("R2", "BOMPART2", "1,'SCR','M3'")), "No Errors\n");
+    EXPECT_EQ(adi(record("R1", "bompart1", "yours")), done);
+    EXPECT_EQ(adi(record("R2", "BOMPART2", "1,'SCR','M3'")), done);
 }
 
 TEST_F(Batch, NamesThePartOfALineThatIsTooLong)
 {
-    (void)adi(record("R1", "A", "1") + record("R2", "NOTE", std::string(2'000'000, 'x')));
-    ASSERT_EQ(getcdb()->problems().size(), 1);
-    EXPECT_EQ(getcdb()->problems().front().message(),
-              QStringLiteral("R2, NOTE: script line 6: the line is longer than 1048576 bytes"));
+    EXPECT_EQ(adi(record("R1", "A", "1") + record("R2", "NOTE", std::string(2'000'000, 'x'))),
+              "R2, NOTE: script line 6: the line is longer than 1048576 bytes\n");
 }
 
 TEST_F(Batch, OfNestedOnesTheOutermostWrites)
 {
-    getcdb()->beginbatch();
-    getcdb()->beginbatch();
-    EXPECT_EQ(adi(record("R1", "A", "1")), "No Errors\n");
-    EXPECT_TRUE(getcdb()->commitbatch());
-    EXPECT_EQ(changes(), Texts());
-    EXPECT_EQ(adi(record("R2", "A", "2") + record("R1", "A", "3")), "No Errors\n");
-    EXPECT_TRUE(getcdb()->commitbatch());
-    EXPECT_EQ(changes(), (Texts{"R1 A=1", "R2 A=2", "R1 A=3"}));
-    getcdb()->beginbatch();
-    EXPECT_TRUE(getcdb()->commitbatch()) << "nothing is asked for";
+    const WriteResult result = session.write({}, [&] {
+        getcdb()->beginbatch();
+        EXPECT_EQ(adi(record("R1", "A", "1")), done);
+        EXPECT_TRUE(getcdb()->commitbatch());
+        EXPECT_EQ(adi(record("R2", "A", "[REMOVE]") + record("R1", "A", "3")), done);
+        return true;
+    });
+    EXPECT_EQ(changesOf(result), "R1 A=1;R2 A=-;R1 A=3;");
+    EXPECT_EQ(session.write({}, [] { return true; }), WriteResult()) << "nothing is asked for";
 }
 
 TEST_F(Batch, WithAnythingRefusedOrGivenUpIsNotWritten)
@@ -147,25 +145,29 @@ TEST_F(Batch, WithAnythingRefusedOrGivenUpIsNotWritten)
     planFile("Reference,Value\nR1,47k\n");
     const QByteArray before = content();
     getcdb()->beginbatch();
-    EXPECT_EQ(adi(record("R1", "A", "1")), "No Errors\n");
-    EXPECT_NE(adi(record("R9", "A", "1")), "No Errors\n");
-    EXPECT_EQ(adi(record("R2", "A", "1")), "No Errors\n") << "each script is reported by itself";
+    EXPECT_EQ(adi(record("R1", "A", "1")), done);
+    EXPECT_NE(adi(record("R9", "A", "1")), done);
+    EXPECT_EQ(adi(record("R2", "A", "1")), done) << "each script is reported by itself";
     EXPECT_FALSE(getcdb()->commitbatch());
     EXPECT_EQ(getcdb()->problems().size(), 1);
 
-    getcdb()->beginbatch();
-    getcdb()->beginbatch();
-    (void)adi(record("R1", "A", "1"));
-    getcdb()->dropbatch();
-    (void)adi(record("R2", "A", "1"));
-    EXPECT_FALSE(getcdb()->commitbatch());
-    EXPECT_EQ(getcdb()->problems().size(), 1);
+    const WriteResult dropped = session.write({}, [&] {
+        getcdb()->beginbatch();
+        (void)adi(record("R1", "A", "1"));
+        getcdb()->dropbatch();
+        (void)adi(record("R2", "A", "1"));
+        return true;
+    });
+    EXPECT_EQ(dropped.problems.size(), 1);
+    const WriteResult givenUp = session.write({}, [&] { return adi(ohms) != done; });
+    EXPECT_EQ(givenUp, WriteResult());
 
-    getcdb()->beginbatch();
-    (void)adi(record("R1", "A", "1"));
-    EXPECT_TRUE(session.reread());
-    EXPECT_EQ(adi(record("R1", "A", "2")), "No Errors\n");
-    EXPECT_FALSE(getcdb()->commitbatch()) << "it was made for the design before";
+    const WriteResult outdated = session.write({}, [&] {
+        (void)adi(record("R1", "A", "1"));
+        EXPECT_TRUE(session.reread());
+        return adi(record("R1", "A", "2")) == done;
+    });
+    EXPECT_EQ(outdated.problems.size(), 1) << "it was made for the design before";
     EXPECT_EQ(content(), before);
 }
 
@@ -173,7 +175,7 @@ TEST_F(Batch, RefusesTwoTextsForOnePropertyUnderTwoNames)
 {
     EXPECT_EQ(adi(record("R1", "PACKAGE", "0402") + record("R1", "Footprint", "0402") +
                   record("R2", "Footprint", "0805")),
-              "No Errors\n");
+              done);
     EXPECT_EQ(adi(record("R1", "PACKAGE", "0402") + record("R1", "footprint", "0805")),
               "R1, footprint: another text is asked for under the name PACKAGE\n");
     EXPECT_EQ(adi(record("R1", "New", "1") + record("R1", "NEW", "2")),
@@ -184,42 +186,46 @@ TEST_F(Batch, IsWrittenAndTheDesignReadAgain)
 {
     planFile("Reference,Value\nR1,47k\nR2,1k\n");
     const COMPONENT *before = cache.components[0];
-    EXPECT_EQ(adi(record("R1", "VALUE", "47k")), "No Errors\n");
+    EXPECT_EQ(writeBatch(ohms).files, QStringList{path});
     EXPECT_EQ(content(), "Reference,Value\nR1,47k\nR2,1k\n");
-    EXPECT_EQ(session.lastWrittenFiles(), QStringList{path});
     EXPECT_FALSE(cache.isstale());
     ASSERT_EQ(cache.components.size(), 2U);
     EXPECT_EQ(cache.components[0]->value, QByteArrayView("47k"));
     EXPECT_EQ(before->value, QByteArrayView("10k")) << "records of the design before are still used";
 
     ASSERT_TRUE(session.canUndo());
-    const DesignSession::Undone undone = session.undo();
-    EXPECT_EQ(undone.files, QStringList{path});
-    EXPECT_EQ(undone.problems, QStringList());
+    EXPECT_EQ(session.undo(), (UndoResult{{path}, {}, false}));
     EXPECT_EQ(content(), "Reference,Value\nR1,10k\n");
     EXPECT_EQ(cache.components.size(), 1U);
 }
 
-TEST_F(Batch, InADryRunWritesNothing)
+TEST_F(Batch, OptionsCountForThatBatchOnly)
 {
     planFile("Reference,Value\nR1,47k\n");
-    session.setDryRun(true);
-    EXPECT_EQ(adi(record("R1", "VALUE", "47k")), "No Errors\n");
-    EXPECT_EQ(changes(), Texts{"R1 VALUE=47k"});
+    const WriteResult dry = writeBatch(ohms, {.isDryRun = true});
+    EXPECT_EQ(changesOf(dry), "R1 VALUE=47k;");
+    EXPECT_EQ(dry.files, QStringList{path});
     EXPECT_EQ(content(), "Reference,Value\nR1,10k\n");
-    EXPECT_EQ(session.lastWrittenFiles(), QStringList());
-    EXPECT_EQ(cache.components.size(), 4U) << "nothing is read again";
 
-    write("changed\n");
-    EXPECT_NE(adi(record("R1", "VALUE", "47k")), "No Errors\n") << "the file is checked as well";
-    EXPECT_EQ(changes(), Texts());
+    EXPECT_EQ(writeBatch(ohms, {.keepsBackups = false, .rereads = false}), dry);
+    EXPECT_EQ(content(), "Reference,Value\nR1,47k\n");
+    EXPECT_FALSE(session.canUndo());
+    EXPECT_EQ(cache.components.size(), 4U) << "nothing is read again";
+    EXPECT_EQ(writeBatch(ohms, {.isDryRun = true}).problems.size(), 1) << "the file is checked as well";
+
+    planFile("Reference,Value\nR1,10k\n");
+    getcdb()->beginbatch();
+    EXPECT_EQ(adi(ohms), done);
+    EXPECT_TRUE(getcdb()->commitbatch());
+    EXPECT_TRUE(session.canUndo());
+    EXPECT_EQ(cache.components.size(), 1U);
 }
 
 TEST_F(Batch, ThatCannotBeWrittenChangesNothing)
 {
     planFile("Reference,Value\nR1,47k\n");
     write("meanwhile\n");
-    EXPECT_THAT(adi(record("R1", "VALUE", "47k")), testing::StartsWith(path.toStdString() + ": "));
+    EXPECT_THAT(adi(ohms), testing::StartsWith(path.toStdString() + ": "));
     EXPECT_EQ(content(), "meanwhile\n");
     EXPECT_EQ(cache.components.size(), 4U);
 
@@ -227,17 +233,15 @@ TEST_F(Batch, ThatCannotBeWrittenChangesNothing)
         plan.changes.clear();
         plan.problems.push_back({0, {path, 3, QStringLiteral("shared")}});
     };
-    getcdb()->beginbatch();
-    EXPECT_EQ(adi(record("R1", "VALUE", "47k")), "No Errors\n");
-    EXPECT_FALSE(getcdb()->commitbatch());
-    EXPECT_EQ(getcdb()->problems(), (QList<CDBPROBLEM>{{QStringLiteral("R1"), QStringLiteral("VALUE"), path,
-                                                        3, QStringLiteral("shared")}}));
+    WriteResult shared;
+    shared.problems = {{QStringLiteral("R1"), QStringLiteral("VALUE"), path, 3, QStringLiteral("shared")}};
+    EXPECT_EQ(writeBatch(ohms), shared);
 }
 
 TEST_F(Batch, ThatLeavesAnUnreadableDesignKeepsTheOldOne)
 {
     planFile("no references here\n");
-    EXPECT_EQ(adi(record("R1", "VALUE", "47k")), "No Errors\n");
+    EXPECT_EQ(adi(ohms), done);
     EXPECT_EQ(session.design()->components().size(), 4U);
     EXPECT_FALSE(session.error().isEmpty());
 }

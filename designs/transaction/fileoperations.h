@@ -12,11 +12,12 @@
 
 namespace designs {
 
-/// Operations on files that keep account of what went wrong.
-class FileWork final
+/// Operations on files that collect what went wrong. Those that give a bool give false, with a problem added,
+/// when they fail.
+class FileOperations final
 {
 public:
-    explicit FileWork(FileSystem &system)
+    explicit FileOperations(FileSystem &system)
         : m_system(system)
     {
     }
@@ -34,24 +35,25 @@ public:
     /// The same, but on the disk only after syncWritten().
     bool writeLater(const QString &owner, const QString &path, const QByteArray &bytes,
                     const FileStatus &like);
-    /// Brings to the disk what was written for later, all at once.
+    /// Brings to the disk what writeLater() wrote: all at once, because waiting for each file alone takes
+    /// long.
     bool syncWritten();
-    /// The file under a further name, or a copy of its content where it can have but one.
-    bool keep(const QString &owner, const QString &file, const QString &name, const QByteArray &content,
-              const FileStatus &like);
+    /// Gives the file a further name, or writes a copy of its content where it can have only one.
+    bool linkOrCopy(const QString &owner, const QString &file, const QString &name, const QByteArray &content,
+                    const FileStatus &like);
     bool rename(const QString &from, const QString &to);
     bool makeFolder(const QString &path);
-    /// Makes the changes in the folders of these files last.
+    /// Makes renames and removals in the folders of these files last.
     bool syncFoldersOf(QStringList paths);
     /// No failure when it is missing.
     bool removeIfThere(const QString &path);
     bool removeFolderIfEmpty(const QString &path);
 
-    /// False, with a problem added, when it cannot be told.
-    bool look(const QString &path, FileStatus *status);
-    /// Of kind Other, with a problem added, when it cannot be told.
+    /// False, with a problem added, when it cannot be found out.
+    bool readStatus(const QString &path, FileStatus *status);
+    /// Of kind Other, with a problem added, when it cannot be found out.
     [[nodiscard]] FileStatus status(const QString &path);
-    /// True also when it cannot be told.
+    /// True also when it cannot be found out.
     [[nodiscard]] bool exists(const QString &path);
 
 private:
@@ -66,14 +68,15 @@ private:
         QString path;
     };
 
-    bool make(const QString &owner, const QString &path, const QByteArray &bytes, const FileStatus &like,
-              Sync sync);
-    bool makeFile(const QString &path, const QByteArray &bytes, const FileStatus &like, Sync sync);
+    bool write(const QString &owner, const QString &path, const QByteArray &bytes, const FileStatus &like,
+               Sync sync);
+    bool writeNewFile(const QString &path, const QByteArray &bytes, const FileStatus &like, Sync sync);
     bool syncFile(const QString &path);
-    /// Tells the problems from that one on of the file that the user knows.
-    void tellOwner(const QString &owner, std::size_t firstProblem);
-    bool did(int failure, const QString &path, const QString &what);
-    bool fill(int file, const QString &path, const QByteArray &bytes, const FileStatus &like, Sync sync);
+    /// Rewrites the problems from that one on so that they name the file that people know first.
+    void blameOwner(const QString &owner, std::size_t firstProblem);
+    bool succeeded(int failure, const QString &path, const QString &what);
+    bool writeContent(int file, const QString &path, const QByteArray &bytes, const FileStatus &like,
+                      Sync sync);
 
     FileSystem &m_system;
     std::vector<Problem> m_problems;

@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/transaction/fileoperations.h"
+
+#include "designs/transaction/designpaths.h"
+
+#include <cerrno>
+#include <utility>
+
+namespace designs {
+
+namespace {
+
+constexpr std::size_t blockSize = 1 << 20;
+
+} // namespace
+
+bool FileOperations::fail(const QString &path, const QString &text)
+{
+    m_problems.push_back({path, 0, text});
+    return false;
+}
+
+bool FileOperations::succeeded(int failure, const QString &path, const QString &what)
+{
+    return failure == 0 || fail(path, what + QStringLiteral(": ") + qt_error_string(failure));
+}
+
+bool FileOperations::writeFile(const QString &owner, const QString &path, const QByteArray &bytes,
+                               const FileStatus &like)
+{
+    return write(owner, path, bytes, like, Sync::Now);
+}
+
+bool FileOperations::writeLater(const QString &owner, const QString &path, const QByteArray &bytes,
+                                const FileStatus &like)
+{
+    m_unsynced.push_back({owner, path});
+    return write(owner, path, bytes, like, Sync::Later);
+}
+
+bool FileOperations::write(const QString &owner, const QString &path, const QByteArray &bytes,
+                           const FileStatus &like, Sync sync)
+{
+    const std::size_t before = m_problems.size();
+    const bool isWritten = writeNewFile(path, bytes, like, sync);
+    blameOwner(owner, before);
+    return isWritten;
+}
+
+void FileOperations::blameOwner(const QString &owner, std::size_t firstProblem)
+{
+    for (std::size_t number = firstProblem; number < m_problems.size(); ++number) {
+        Problem &problem = m_problems[number];
+        problem = {owner, 0, QStringLiteral("cannot be written: ") + problem.file + u' ' + problem.text};
+    }
+}
+
+bool FileOperations::writeNewFile(const QString &path, const QByteArray &bytes, const FileStatus &like,
+                                  Sync sync)
+{
+    int file = -1;
+    if (!succeeded(m_system.create(path, &file), path, QStringLiteral("cannot be created"))) {
+        return false;
+    }
+    const bool isFilled = writeContent(file, path, bytes, like, sync);
+    return succeeded(m_system.close(file), path, QStringLiteral("cannot be written")) && isFilled;
+}
+
+bool FileOperations::writeContent(int file, const QString &path, const QByteArray &bytes,
+                                  const FileStatus &like, Sync sync)
+{
+    std::string_view rest(bytes.constData(), std::size_t(bytes.size()));
+    while (!rest.empty()) {
+        std::size_t written = 0;
+        const int failure = m_system.write(file, rest.substr(0, blockSize), &written);
+        if (!succeeded(failure, path, QStringLiteral("cannot be written"))) {
+            return false;
+        }
+        rest.remove_prefix(written);
+    }
+    if (!succeeded(m_system.setAttributes(file, like), path, QStringLiteral("cannot get its permissions"))) {
+        return false;
+    }
+    if (sync == Sync::Later) {
+        m_system.startSync(file);
+        return true;
+    }
+    return succeeded(m_system.sync(file), path, QStringLiteral("cannot be written"));
+}
+
+bool FileOperations::syncWritten()
+{
+    bool done = true;
+    for (const Written &written : std::exchange(m_unsynced, {})) {
+        const std::size_t before = m_problems.size();
+        done = syncFile(written.path) && done;
+        blameOwner(written.owner, before);
+    }
+    return done;
+}
+
+bool FileOperations::syncFile(const QString &path)
+{
+    int file = -1;
+    if (!succeeded(m_system.open(path, &file), path, QStringLiteral("cannot be opened again"))) {
+        return false;
+    }
+    const bool isSynced = succeeded(m_system.sync(file), path, QStringLiteral("cannot be written"));
+    return succeeded(m_system.close(file), path, QStringLiteral("cannot be written")) && isSynced;
+}
+
+bool FileOperations::linkOrCopy(const QString &owner, const QString &file, const QString &name,
+                                const QByteArray &content, const FileStatus &like)
+{
+    return m_system.link(file, name) == 0 || writeLater(owner, name, content, like);
+}
+
+bool FileOperations::rename(const QString &from, const QString &to)
+{
+    return succeeded(m_system.rename(from, to), to, QStringLiteral("cannot be replaced"));
+}
+
+bool FileOperations::makeFolder(const QString &path)
+{
+    return succeeded(m_system.makeFolder(path), path, QStringLiteral("the folder cannot be made"));
+}
+
+bool FileOperations::syncFoldersOf(QStringList paths)
+{
+    for (QString &path : paths) {
+        path = folderOf(path);
+    }
+    paths.removeDuplicates();
+    bool done = true;
+    for (const QString &folder : std::as_const(paths)) {
+        done =
+            succeeded(m_system.syncFolder(folder), folder, QStringLiteral("the folder cannot be written")) &&
+            done;
+    }
+    return done;
+}
+
+bool FileOperations::removeIfThere(const QString &path)
+{
+    const int failure = m_system.remove(path);
+    return failure == ENOENT || failure == ENOTDIR ||
+           succeeded(failure, path, QStringLiteral("cannot be removed"));
+}
+
+bool FileOperations::removeFolderIfEmpty(const QString &path)
+{
+    const int failure = m_system.removeFolder(path);
+    return failure == ENOENT || failure == ENOTEMPTY || failure == EEXIST ||
+           succeeded(failure, path, QStringLiteral("cannot be removed"));
+}
+
+bool FileOperations::readStatus(const QString &path, FileStatus *status)
+{
+    return succeeded(m_system.status(path, status), path, QStringLiteral("cannot be looked at"));
+}
+
+FileStatus FileOperations::status(const QString &path)
+{
+    FileStatus found;
+    if (!readStatus(path, &found)) {
+        found.kind = FileStatus::Kind::Other;
+    }
+    return found;
+}
+
+bool FileOperations::exists(const QString &path)
+{
+    FileStatus found;
+    return m_system.status(path, &found) != 0 || found.kind != FileStatus::Kind::Missing;
+}
+
+} // namespace designs
