@@ -72,7 +72,7 @@ bool FileTransaction::prepareFile(const CheckedReplacement &file, const JournalE
         !m_files.linkOrCopy(file.path, entry.target, entry.saved, *previous, like)) {
         return false;
     }
-    // Some file systems report a full disk only by the size of what they wrote.
+    // From the commit point on both copies are relied on: look what is really there.
     return (m_files.status(entry.prepared).size == entry.after.size &&
             m_files.status(entry.saved).size == entry.before.size) ||
            m_files.fail(file.path, QStringLiteral("cannot be written: ") + entry.prepared +

@@ -26,7 +26,8 @@ struct CheckedReplacement
 ///   committed    all contents stand beside the files: they are put in place, place() and finish().
 ///   taking back  some files were replaced, and one cannot be: those get their previous content again,
 ///                takeBack().
-/// Every step may be repeated after it was interrupted, also by another process from the journal.
+/// place(), finish(), takeBack() and discard() may be repeated after they were interrupted, also by another
+/// process that has the journal.
 class FileTransaction final
 {
 public:
