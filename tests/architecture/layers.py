@@ -25,8 +25,8 @@ REACH = {
     "richtext/xhtml": {"richtext/css"},
     "richtext/paper": {"richtext/css", "richtext/xhtml"} | HOST,
     "richtext/editor": RICHTEXT | HOST,
-    # The model, and DesignFiles in front of the transaction.
-    "designs": {"designs/transaction"},
+    # The model.
+    "designs": set(),
     "designs/kicad": {"designs"},
     "designs/kicad/edit": {"designs", "designs/kicad"},
     "designs/csv": {"designs"},
