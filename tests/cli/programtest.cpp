@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "tests/cli/programtest.h"
+#include "support/testfiles.h"
 #include "support/testpaths.h"
 
 #include <QDir>
@@ -68,9 +69,8 @@ std::string ProgramTest::copyData(const char *folder, const char *file) const
 
 std::string ProgramTest::data(const char *folder, const std::string &file)
 {
-    QFile found(QStringLiteral(BOM_SOURCE_DIR "/tests/data/") + QString::fromUtf8(folder) + u'/' +
-                QString::fromStdString(file));
-    return found.open(QIODevice::ReadOnly) ? found.readAll().toStdString() : "no file";
+    const std::string path = std::string(BOM_SOURCE_DIR "/tests/data/") + folder + '/' + file;
+    return readFile(QString::fromStdString(path)).toStdString();
 }
 
 ProgramRun ProgramTest::run(const char *arguments, const QString &output) const
