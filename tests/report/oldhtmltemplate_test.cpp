@@ -47,15 +47,10 @@ TEST_F(OldTemplate, TakesTheTextOfHeaderAndFooter)
     EXPECT_TRUE(old.isConverted);
     EXPECT_EQ(old.header.simplified(), QStringLiteral("<p>A &amp; B&#160;\u00E9 <b>c</b></p> <div>in</div>"));
     EXPECT_EQ(old.footer.simplified(), QStringLiteral("F<br />"));
+    const OldHtmlTemplate plain = read("<p>plain</p>");
+    EXPECT_TRUE(plain.isConverted);
+    EXPECT_EQ(plain.header + plain.footer + read("<div id='customHeader'/>").header, QString());
     EXPECT_TRUE(debugLines.isEmpty());
-}
-
-TEST_F(OldTemplate, GivesNothingWithoutTheElements)
-{
-    const OldHtmlTemplate old = read("<p>plain</p>");
-    EXPECT_TRUE(old.isConverted);
-    EXPECT_EQ(old.header + old.footer, QString());
-    EXPECT_EQ(read("<div id='customHeader'/>").header, QString());
 }
 
 TEST_F(OldTemplate, TellsWhatCannotBeRead)

@@ -54,11 +54,7 @@ TEST_F(SpreadsheetOutput, OnlyNumericPropertiesAreNumbers)
 
 TEST_F(SpreadsheetOutput, ShowsNumbersAsTheFieldSays)
 {
-    const struct
-    {
-        int precision;
-        QString prefix, suffix, format;
-    } cases[] = {
+    const std::tuple<int, QString, QString, QString> cases[] = {
         {0, {}, {}, u"General"_s},
         {3, {}, u" \"each\""_s, uR"(0.000" "\""each"\")"_s},
         {3, u"$"_s, u" \"each\""_s, uR"("$"0.000" "\""each"\")"_s},
@@ -66,11 +62,11 @@ TEST_F(SpreadsheetOutput, ShowsNumbersAsTheFieldSays)
         {100, u"$;"_s, {}, u"\"$;\"0.000000000000000;\"$;\"-0.000000000000000"_s},
     };
     BOMField field;
-    for (const auto &expected : cases) {
-        field.precision = expected.precision;
-        field.prefix = expected.prefix;
-        field.suffix = expected.suffix;
-        EXPECT_EQ(numberFormat(field), expected.format);
+    for (const auto &[precision, prefix, suffix, format] : cases) {
+        field.precision = precision;
+        field.prefix = prefix;
+        field.suffix = suffix;
+        EXPECT_EQ(numberFormat(field), format);
     }
     ui.numberFormat = QLocale(QLocale::German, QLocale::Germany);
     netlist.add("R1", "1k", {{"COST", "1,25"}});

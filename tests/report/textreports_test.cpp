@@ -8,26 +8,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Csv : public ReportFixture
-{
-protected:
-    [[nodiscard]] QByteArray csv(CsvRows rows = CsvRows::Lines) { return csvReport(dataReport(), rows); }
-};
+using Csv = ReportFixture;
 
 TEST_F(Csv, DropsQuotesAndLineBreaksAndEnclosesCommas)
 {
     changeField(u"Unit \"Cost\", net"_s, [](BOMField &field) { field.propertyName = u"COST"_s; });
     const QByteArray headings = "References,Value,Stock Code,Unit Cost,\"Unit Cost, net\"\n";
-    EXPECT_EQ(csv(), "Category,Quantity," + headings) << "of an empty design";
-    EXPECT_EQ(csv(CsvRows::Parts), "Category," + headings);
+    EXPECT_EQ(csvReport(dataReport(), CsvRows::Lines), "Category,Quantity," + headings)
+        << "of an empty design";
+    EXPECT_EQ(csvReport(dataReport(), CsvRows::Parts), "Category," + headings);
     netlist.add("R1", "10\"x2", {{"CODE", "a\r\nb"}});
     netlist.add("R2", "1,2", {{"CODE", "\"\"\n"}});
     netlist.add("R3", "5%1", {{"CODE", "\",\""}});
     database.load();
-    EXPECT_EQ(csv(), "Category,Quantity," + headings +
-                         "Resistors,1,R1,10x2,ab,,\n"
-                         "Resistors,1,R2,\"1,2\",,,\n"
-                         "Resistors,1,R3,5%1,\",\",,\n");
+    EXPECT_EQ(csvReport(dataReport(), CsvRows::Lines), "Category,Quantity," + headings +
+                                                           "Resistors,1,R1,10x2,ab,,\n"
+                                                           "Resistors,1,R2,\"1,2\",,,\n"
+                                                           "Resistors,1,R3,5%1,\",\",,\n");
 }
 
 TEST_F(Csv, EnclosesReferencesAndLeavesOutValuesWhereTheTemplateSaysSo)
@@ -41,10 +38,10 @@ TEST_F(Csv, EnclosesReferencesAndLeavesOutValuesWhereTheTemplateSaysSo)
         settings.setExcludeValueField(true);
         settings.setGroupReferences(false);
     });
-    EXPECT_EQ(csv(), "Category,Quantity,References,Stock Code,Unit Cost\n"
-                     "Resistors,1,\"R1\",,\n"
-                     "Resistors,2,\"R2,R4\",,\n");
-    EXPECT_EQ(csv(CsvRows::Parts).split('\n').at(1), "Resistors,\"R1\",,");
+    EXPECT_EQ(csvReport(dataReport(), CsvRows::Lines), "Category,Quantity,References,Stock Code,Unit Cost\n"
+                                                       "Resistors,1,\"R1\",,\n"
+                                                       "Resistors,2,\"R2,R4\",,\n");
+    EXPECT_EQ(csvReport(dataReport(), CsvRows::Parts).split('\n').at(1), "Resistors,\"R1\",,");
 }
 
 class Ascii : public ReportFixture

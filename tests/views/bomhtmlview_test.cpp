@@ -74,7 +74,7 @@ protected:
     QSignalSpy modified{&view, &BOMHTMLView::currentTemplateModified};
 };
 
-TEST_F(HtmlView, CellsHoldMarkup)
+TEST_F(HtmlView, CellsHoldMarkupAndLinksThatOpenBesideTheDesign)
 {
     netlist.add("U1", "LM<358>", {{"BOMLINKS", "VALUE=a.pdf"}});
     netlist.add("U3", "LM<358>");
@@ -91,10 +91,6 @@ TEST_F(HtmlView, CellsHoldMarkup)
     EXPECT_EQ(view.fieldValue(u"U1"_s, u"Value"_s, false), u"LM<358>"_s);
     EXPECT_EQ(BOMHTMLView::htmlText(u"<b>x"_s, false), u"&lt;b&gt;x"_s);
     EXPECT_EQ(BOMHTMLView::htmlText(u"<b>x"_s, true).simplified(), u"<b>x</b>"_s);
-}
-
-TEST_F(HtmlView, OpensLinksBesideTheDesign)
-{
     process.design.info.insert("FILENAME", u"/designs/amp/amp.kicad_sch"_s);
     view.onLinkActivated(u"a.pdf"_s);
     view.onLinkActivated(u"javascript:alert(1)"_s);
