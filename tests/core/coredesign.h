@@ -40,7 +40,7 @@ struct Row
 {
     QByteArray reference;
     QByteArray value;
-    FakeProperties properties;
+    FakeProperties properties = {};
 };
 
 /// A database on a netlist that a test fills, within a host.

@@ -32,9 +32,9 @@ TEST_F(Grouping, FollowsThePlacementWhenABoardIsSaved)
 {
     database.setCurrentTemplate(templateWith({u"VALUE"_s, u".Placed"_s, u".Name"_s}));
     FakeCdb cdb;
-    for (const auto &[reference, name] : {std::pair("R1", "RES"), {"R2", "RES"}, {"R3", "VAR"}}) {
-        netlist.add(reference, "1k", {}, name);
-    }
+    netlist.add("R1", "1k", {}, "RES");
+    netlist.add("R2", "1k", {}, "RES");
+    netlist.add("R3", "1k", {}, "VAR");
     database.load();
     EXPECT_EQ(lines(), "1k: R1,R2 | 1k: R3");
     cdb.place(2, "Top");
@@ -110,7 +110,7 @@ TEST_F(Grouping, MovesPartsBetweenCategoriesAndListsEmptyOnesAsTheTemplateSays)
     BOMTemplate settings = database.currentTemplate();
     settings.setSuppressEmptyCategories(true);
     database.setCurrentTemplate(settings);
-    EXPECT_EQ(joined(database.categoryNames()), "Resistors | Capacitors");
+    EXPECT_EQ(joined(database.categoryNames()), "Capacitors | Resistors");
     database.clear();
     EXPECT_EQ(database.categoryNames().size(), 0);
     EXPECT_EQ(database.partCount(resistors), 0);
