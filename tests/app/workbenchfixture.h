@@ -76,7 +76,7 @@ protected:
   (symbol (lib_id "Device:R") (at 0 0 0) (unit 1) (in_bom yes) (on_board yes) (dnp no) (uuid "s1")
     (property "Reference" "R1" (at 0 0 0)) (property "Value" "10k" (at 0 0 0))
     (instances (project "amp" (path "/root" (reference "R1") (unit 1) )" +
-                                          variants + "))))))");
+                                          variants + ")))))");
     }
     /// Writes into the open design, as the module does.
     static void setProperty(const char *reference, const char *name, const char *text)
