@@ -113,6 +113,8 @@ ExitStatus run(Command &command, char *argv[])
 
 } // namespace
 
+// What escapes here, want of memory or a mistake in the options' own definition, has to end the program.
+// NOLINTNEXTLINE(bugprone-exception-escape)
 int main(int argc, char *argv[])
 {
     occupyClosedStreams();
