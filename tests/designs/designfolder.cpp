@@ -58,7 +58,7 @@ std::unique_ptr<designs::Design> DesignFolder::load(const QString &name, const Q
 
 QString dataPath(const QString &name)
 {
-    return QStringLiteral(BOM_SOURCE_DIR "/tests/designs/data/") + name;
+    return QStringLiteral(BOM_SOURCE_DIR "/tests/data/") + name;
 }
 
 std::string dataText(const QString &name)
