@@ -14,8 +14,8 @@ import shutil
 import sys
 import tempfile
 
-# What each room may include, itself aside. A room is the longest of these paths that a file lies below; the picture is in
-# docs/architecture.md.
+# What each layer may include, itself aside. A file belongs to the longest of these paths that it lies below; the picture
+# is in docs/architecture.md.
 HOST = {"host"}
 RICHTEXT = {"richtext/css", "richtext/xhtml", "richtext/paper", "richtext/editor"}
 FORMATS = {"designs/kicad", "designs/kicad/edit", "designs/csv", "designs/csv/edit"}
@@ -45,11 +45,11 @@ REACH = {
     "cli": {"account", "account/design", "views", "views/report", "core", "templates", "standalone"} | RICHTEXT | HOST,
     "app": {"account/design", "standalone"} | RICHTEXT | HOST,
 }
-# What a room reaches through one that stands between: standalone is built on designs, and who uses standalone sees
+# What a layer reaches through one that stands between: standalone is built on designs, and who uses standalone sees
 # its headers.
 DESIGNS = {"designs", "designs/transaction"}
 THROUGH = {"account/design": DESIGNS, "account": DESIGNS, "cli": DESIGNS, "app": DESIGNS}
-# Rooms, or folders of one, that do without Qt's widgets.
+# Layers, or folders of one, that do without Qt's widgets.
 NO_WIDGETS = {
     "designs", "standalone", "templates", "core", "account", "views/report", "host/framework", "host/netlist",
     "host/propdefs",
@@ -87,11 +87,11 @@ def closure(root, path, known):
     return reached
 
 
-def room_of(root, path):
-    """The room that a file lies in, None for what the layers do not know, such as tests."""
+def layer_of(root, path):
+    """The layer that a file belongs to, None for what is in no layer, such as tests."""
     parts = path.relative_to(root).parts[:-1]
-    rooms = ("/".join(parts[:length]) for length in range(len(parts), 0, -1))
-    return next((room for room in rooms if room in REACH), None)
+    layers = ("/".join(parts[:length]) for length in range(len(parts), 0, -1))
+    return next((layer for layer in layers if layer in REACH), None)
 
 
 def has_no_widgets(root, path):
@@ -100,23 +100,23 @@ def has_no_widgets(root, path):
 
 
 def check_file(root, path, known):
-    room = room_of(root, path)
-    if room is None:
-        return [f"{path.relative_to(root)}: stands in no room"]
-    direct = REACH[room] | {room}
+    layer = layer_of(root, path)
+    if layer is None:
+        return [f"{path.relative_to(root)}: belongs to no layer"]
+    direct = REACH[layer] | {layer}
     problems = []
     for header, line in project_includes(root, path):
-        if room_of(root, header) not in direct:
-            problems.append(f"{path.relative_to(root)}:{line}: {room}/ may not include {header.relative_to(root)}")
+        if layer_of(root, header) not in direct:
+            problems.append(f"{path.relative_to(root)}:{line}: {layer}/ may not include {header.relative_to(root)}")
     for header, chain in closure(root, path, known).items():
-        target = room_of(root, header)
-        if len(chain) > 2 and target not in direct | THROUGH.get(room, set()):
+        target = layer_of(root, header)
+        if len(chain) > 2 and target not in direct | THROUGH.get(layer, set()):
             way = " > ".join(str(step.relative_to(root)) for step in chain)
-            problems.append(f"{path.relative_to(root)}: {room}/ may not reach {target}/: {way}")
+            problems.append(f"{path.relative_to(root)}: {layer}/ may not reach {target}/: {way}")
     if has_no_widgets(root, path):
         for kind, name, line in includes(path):
             if kind == "<" and (WIDGET_HEADER.match(name) or NOT_CORE.match(name)):
-                problems.append(f"{path.relative_to(root)}:{line}: {room}/ does without <{name}>")
+                problems.append(f"{path.relative_to(root)}:{line}: {layer}/ does without <{name}>")
     return problems
 
 
@@ -152,8 +152,8 @@ def check_cycles(root, known):
 
 
 def folders():
-    """The top folders that hold rooms."""
-    return sorted({room.split("/")[0] for room in REACH})
+    """The top folders that hold layers."""
+    return sorted({layer.split("/")[0] for layer in REACH})
 
 
 def check(root):
