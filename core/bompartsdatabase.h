@@ -30,7 +30,7 @@ class BOMPartsDatabase final : public QObject, public PartDatabase
     Q_OBJECT
 
 public:
-    /// Holds notices back while it lives. The outermost one sends the notice at its end.
+    /// Holds dataChanged() back while it lives. The outermost one emits it at its end.
     class BulkChange final
     {
     public:
@@ -61,16 +61,16 @@ public:
     /// Adds the components of the netlist, except those marked BOMSKIP, then the BOM-only parts that they
     /// define. A reference that is held already becomes a duplicate.
     void load();
-    /// What a changed design asks for: clears, loads and groups, and resumes notices that were suspended.
+    /// What a changed design asks for: clears, loads and groups. Ends what clearAndSuspend() began.
     void reload();
-    /// Clears and sends no notices until reload().
+    /// Clears and emits no dataChanged() until reload().
     void clearAndSuspend();
     [[nodiscard]] bool isUpdating() const { return m_isUpdating; }
     /// While the design is being written, what the host tells of changes is to be ignored. The end of it asks
     /// the module "BOM" for one full reload.
     void setWriting(bool isWriting);
     [[nodiscard]] bool isWriting() const { return m_isWriting; }
-    /// Emits dataChanged() unless notices are held back.
+    /// Emits dataChanged() unless it is held back or suspended.
     void notify();
 
     /// Null when no part has that reference. Parts live until clear().
@@ -134,15 +134,15 @@ public:
     void setCurrentTemplate(const BOMTemplate &settings);
     /// What the working template lacked when it was set, one sentence each.
     [[nodiscard]] const QStringList &templateRepairs() const { return m_templateRepairs; }
-    /// See takeLook(). There is no notice.
+    /// See takeLook(). Emits nothing.
     void setTemplateLook(const BOMTemplate &settings);
-    /// See takeLayout(); only a change of the case rule groups anew. False, and no notice, when nothing
-    /// differs.
+    /// See takeLayout(); only a change of the case rule groups anew. False, and nothing is emitted, when
+    /// nothing differs.
     bool setTemplateLayout(const BOMTemplate &settings);
-    /// The same to go back to what was there before, with a notice of whether that was modified.
+    /// The same to go back to what was there before; emits currentTemplateModified(wasModified).
     void restoreTemplateLayout(const BOMTemplate &settings, bool wasModified);
 
-    /// The categories with their lines. The functions below ask them.
+    /// The categories with their lines. The functions below give the same by references and texts.
     [[nodiscard]] const BOMCategories &categories() const { return m_categories; }
     [[nodiscard]] QString categoryOf(const QString &reference) const
     {

@@ -36,7 +36,7 @@ public:
 
     [[nodiscard]] bool isvisible() override;
     /// Nothing while the database writes. Without `reload` the database stays empty and silent until the next
-    /// notice with it.
+    /// call with it.
     void designChanged(bool reload) override;
     void show() override;
 
