@@ -12,7 +12,7 @@ namespace designs::kicad {
 namespace {
 
 /// What one file holds: symbols, how many of them are power symbols, and the files of its sheet symbols.
-struct FileTally
+struct FileCount
 {
     qsizetype symbols = 0;
     qsizetype power = 0;
@@ -20,20 +20,20 @@ struct FileTally
 };
 
 /// Walks a file byte by byte and remembers, per open list, the atoms it began with.
-class Tallier
+class FileCounter
 {
 public:
-    explicit Tallier(QByteArray bytes)
+    explicit FileCounter(QByteArray bytes)
         : m_bytes(std::move(bytes))
     {
     }
 
-    FileTally tally()
+    FileCount count()
     {
         while (m_at < m_bytes.size()) {
             step();
         }
-        return m_tally;
+        return m_count;
     }
 
 private:
@@ -107,8 +107,8 @@ private:
         const QByteArray word = list.words.value(0);
         const qsizetype depth = m_open.size();
         if (depth == 1 && word == "symbol") {
-            ++m_tally.symbols;
-            m_tally.power += m_powerSymbol || m_powerIds.contains(m_libName.isEmpty() ? m_libId : m_libName);
+            ++m_count.symbols;
+            m_count.power += m_powerSymbol || m_powerIds.contains(m_libName.isEmpty() ? m_libId : m_libName);
             m_powerSymbol = false;
             m_libId.clear();
             m_libName.clear();
@@ -134,7 +134,7 @@ private:
         const QByteArray name = list.words.value(1);
         const bool byName = m_propertyId.isEmpty() && (name == "Sheetfile" || name == "Sheet file");
         if (byName || m_propertyId == "1") {
-            m_tally.sheetFiles << QString::fromUtf8(list.words.value(2));
+            m_count.sheetFiles << QString::fromUtf8(list.words.value(2));
         }
         m_propertyId.clear();
     }
@@ -148,7 +148,7 @@ private:
     QByteArray m_propertyId;
     bool m_powerSymbol = false;
     QSet<QByteArray> m_powerIds;
-    FileTally m_tally;
+    FileCount m_count;
 };
 
 } // namespace
@@ -165,10 +165,10 @@ bool SymbolRecount::add(const QString &path, int depth, SymbolCount *sum, Proble
         *problem = {path, 0, QStringLiteral("cannot be read again for the count: ") + file.errorString()};
         return false;
     }
-    const FileTally tally = Tallier(file.readAll()).tally();
-    sum->placed = tally.symbols;
-    sum->power = tally.power;
-    for (QString name : tally.sheetFiles) {
+    const FileCount counted = FileCounter(file.readAll()).count();
+    sum->placed = counted.symbols;
+    sum->power = counted.power;
+    for (QString name : counted.sheetFiles) {
         name.replace(QLatin1String("${KIPRJMOD}"), m_folder).replace(u'\\', u'/');
         SymbolCount below;
         if (!add(QFileInfo(path).absoluteDir().absoluteFilePath(name), depth + 1, &below, problem)) {
