@@ -7,7 +7,6 @@
 #include <QString>
 
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -17,12 +16,10 @@ namespace designs {
 ///
 /// References are parted by commas, semicolons and white space. Numbered ones (a prefix with a letter in it,
 /// then digits) can be shortened:
-/// - "R1-R4" and "R1-4" are R1 to R4, with blanks around the dash or without, with any kind of dash.
-/// "R01-R12"
-///   keeps the width of its numbers.
-/// - "C17/18/19" and "C17/C18" are a reference each, and so is each number in "R1,2,5-8": a bare number takes
-/// the
-///   prefix of the reference before it.
+/// - "R1-R4" and "R1-4" are R1 to R4, with any kind of dash and with or without blanks around it.
+///   "R01-R12" keeps the width of its numbers.
+/// - "C17/18/19" and "C17/C18" are a reference each, and so is each number in "R1,2,5-8". A bare number
+///   takes the prefix of the reference before it.
 ///
 /// Whatever has a dash or slash and is nothing of these is one reference as it stands: "J1-A", "TP-1",
 /// "U1/A", "CH1/R5". As a bare number behind a dash can also be part of a name, it ends a range only if it is

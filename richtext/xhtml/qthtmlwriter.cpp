@@ -37,15 +37,12 @@ QString highlightRule(const QString &selector)
 }
 
 /// Copies a body tag by tag and changes what QTextDocument would not show:
-/// - Only table cells have paddings and borders. A paragraph with them hands them to its cell, or gets a
-/// table of
-///   one cell around it.
-/// - Rows and tables have no margins above their first paragraph. A row gets an empty row before it, a table
-/// a
-///   margin of its own.
-/// - Only rows in the head of a table are repeated on every page, and a table has one head. For pages each
-/// section
-///   that begins with heading rows becomes a table; the margin above its first paragraph is then the table's.
+/// - Only table cells have paddings and borders. A paragraph with them hands them to its cell. One that
+///   stands in no cell gets a table of one cell around it.
+/// - Rows and tables have no margins above their first paragraph. A row gets an empty row before it. A
+///   table gets a margin of its own.
+/// - Only rows in the head of a table are repeated on every page, and a table has one head. For pages, each
+///   section that begins with heading rows becomes a table, with the margin above its first paragraph.
 /// It looks ahead with copies of the scanner, never back: what was written stays.
 class BodyWriter final
 {
