@@ -24,7 +24,7 @@ public:
     /// Whether it paints, for which Qt needs a platform.
     [[nodiscard]] virtual bool paints() const { return false; }
 
-    /// Does it. Everything that the user must know has been written when it returns.
+    /// Runs the command. Everything that the user must know has been written when it returns.
     [[nodiscard]] virtual ExitStatus run() = 0;
 
 protected:

@@ -43,7 +43,7 @@ public:
 
     void information(QWidget *parent, const QString &title, const QString &text) override;
     void warning(QWidget *parent, const QString &title, const QString &text) override;
-    /// No, always; what was not asked for by an option is not done.
+    /// Always no: what no option asked for is not done.
     [[nodiscard]] bool question(QWidget *parent, const QString &title, const QString &text,
                                 bool defaultYes) override;
     /// Discards: a command that changes settings saves them itself.

@@ -4,8 +4,8 @@
 
 #include "host/framework/hostui.h"
 
-/// The seam of a desktop program: Qt's own boxes and dialogs, the desktop's handlers, the system's clock and
-/// locale.
+/// How a desktop program speaks to the user: Qt's own boxes and dialogs, the desktop's handlers, the system's
+/// clock and locale.
 class QtHostUi : public HostUi
 {
 public:
