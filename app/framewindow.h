@@ -4,7 +4,6 @@
 
 #include "host/framework/applnframe.h"
 
-#include <QHash>
 #include <QMainWindow>
 #include <QMap>
 #include <QPointer>

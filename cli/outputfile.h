@@ -4,7 +4,6 @@
 
 #include <QByteArray>
 #include <QString>
-#include <QStringList>
 
 /// Whether the name stands for standard output.
 [[nodiscard]] inline bool isStandardOutput(const QString &path)

@@ -4,8 +4,6 @@
 
 #include "core/groupedlines.h"
 
-#include <QStringList>
-
 #include <span>
 #include <vector>
 

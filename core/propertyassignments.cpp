@@ -13,7 +13,6 @@
 
 #include <QStringList>
 
-#include <algorithm>
 #include <sstream>
 #include <utility>
 

@@ -4,8 +4,6 @@
 
 #include "designs/utf8.h"
 
-#include <QString>
-
 #include <algorithm>
 
 namespace designs {

@@ -3,8 +3,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QByteArrayList>
-#include <QByteArrayView>
 
 #include <deque>
 #include <string>

@@ -4,7 +4,6 @@
 
 #include "views/bomview.h"
 
-#include <QByteArray>
 #include <QString>
 
 class BOMTemplate;

@@ -3,7 +3,6 @@
 #include "bench/multiply/sheetscanner.h"
 
 #include <algorithm>
-#include <array>
 #include <initializer_list>
 
 namespace bench {

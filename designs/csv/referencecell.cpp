@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <string>
 #include <utility>
 
 namespace designs {

@@ -5,7 +5,6 @@
 #include "designs/component.h"
 #include "designs/kicad/hierarchy.h"
 
-#include <string>
 #include <string_view>
 #include <vector>
 

@@ -6,7 +6,6 @@
 #include "designs/kicad/mandatorynames.h"
 
 #include <algorithm>
-#include <charconv>
 
 namespace designs::kicad {
 

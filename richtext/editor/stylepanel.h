@@ -11,8 +11,6 @@
 #include <memory>
 
 class LengthSpin;
-class QCheckBox;
-class QComboBox;
 class StyleRule;
 
 namespace Ui {

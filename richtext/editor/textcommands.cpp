@@ -3,7 +3,6 @@
 #include "richtext/editor/textcommands.h"
 
 #include <QGuiApplication>
-#include <QPalette>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -12,7 +11,6 @@
 #include <QTextList>
 
 #include <algorithm>
-#include <functional>
 
 namespace {
 

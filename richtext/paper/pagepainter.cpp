@@ -8,6 +8,7 @@
 #include "richtext/xhtml/xhtmlparts.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QLocale>
 #include <QPagedPaintDevice>
 #include <QPainter>
 

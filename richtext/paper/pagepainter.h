@@ -2,15 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QDateTime>
-#include <QLocale>
 #include <QRectF>
 #include <QString>
 #include <QTextDocument>
 
 class QPagedPaintDevice;
 class QPainter;
-class StyleSheet;
 
 /// A document as it is to be put on paper.
 struct PagedText

@@ -4,7 +4,6 @@
 
 #include "richtext/css/cssvalue.h"
 
-#include <QMap>
 #include <QStringList>
 
 #include <array>
