@@ -50,7 +50,7 @@ bool replaceFiles(FileOperations &operations, const DesignPaths &paths,
     return true;
 }
 
-TransactionResult replaceAndTell(FileOperations &operations, const DesignPaths &paths,
+TransactionResult runTransaction(FileOperations &operations, const DesignPaths &paths,
                                  std::span<const FileReplacement> files, bool keepsBackups)
 {
     TransactionResult result;
@@ -148,7 +148,7 @@ TransactionResult DesignFiles::replace(std::span<const FileReplacement> files, B
     if (!lock.take() || !checkNothingInterrupted(operations, paths)) {
         return {{}, operations.problems()};
     }
-    return replaceAndTell(operations, paths, files, backups == Backups::Keep);
+    return runTransaction(operations, paths, files, backups == Backups::Keep);
 }
 
 TransactionResult DesignFiles::undo() const
@@ -169,7 +169,7 @@ TransactionResult DesignFiles::undo() const
         operations.fail(paths.record(), QStringLiteral("cannot be used: ") + why);
         return {{}, operations.problems()};
     }
-    return replaceAndTell(operations, paths, reversed(operations, paths, *record), false);
+    return runTransaction(operations, paths, reversed(operations, paths, *record), false);
 }
 
 bool DesignFiles::canUndo() const

@@ -44,11 +44,11 @@ bool FileOperations::write(const QString &owner, const QString &path, const QByt
 {
     const std::size_t before = m_problems.size();
     const bool isWritten = writeNewFile(path, bytes, like, sync);
-    blameOwner(owner, before);
+    putOwnerFirst(owner, before);
     return isWritten;
 }
 
-void FileOperations::blameOwner(const QString &owner, std::size_t firstProblem)
+void FileOperations::putOwnerFirst(const QString &owner, std::size_t firstProblem)
 {
     for (std::size_t number = firstProblem; number < m_problems.size(); ++number) {
         Problem &problem = m_problems[number];
@@ -95,7 +95,7 @@ bool FileOperations::syncWritten()
     for (const Written &written : std::exchange(m_unsynced, {})) {
         const std::size_t before = m_problems.size();
         done = syncFile(written.path) && done;
-        blameOwner(written.owner, before);
+        putOwnerFirst(written.owner, before);
     }
     return done;
 }

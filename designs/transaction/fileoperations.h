@@ -73,7 +73,7 @@ private:
     bool writeNewFile(const QString &path, const QByteArray &bytes, const FileStatus &like, Sync sync);
     bool syncFile(const QString &path);
     /// Rewrites the problems from that one on so that they name the file that people know first.
-    void blameOwner(const QString &owner, std::size_t firstProblem);
+    void putOwnerFirst(const QString &owner, std::size_t firstProblem);
     bool succeeded(int failure, const QString &path, const QString &what);
     bool writeContent(int file, const QString &path, const QByteArray &bytes, const FileStatus &like,
                       Sync sync);
