@@ -23,7 +23,7 @@ struct DesignCheck
     QList<Sum> sums;
     /// What the user must decide on, one sentence each.
     QStringList findings;
-    /// What may be meant so, one sentence each.
+    /// What looks like a mistake but may be on purpose, one sentence each.
     QStringList notices;
 };
 

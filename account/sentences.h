@@ -27,8 +27,8 @@ struct ReportForms
 [[nodiscard]] QStringList reportNotices(const ComponentAccount &components, const BOMPartsDatabase &database,
                                         ReportForms forms);
 
-/// The definitions of BOM-only parts that make none, or not as said, and BOM-only parts whose reference is
-/// another part's; one sentence each.
+/// The definitions of BOM-only parts that cannot be followed in full, and BOM-only parts whose reference
+/// another part has; one sentence each.
 [[nodiscard]] QStringList definedPartProblems(const BOMPartsDatabase &database);
 
 /// Why a line, or part where they are listed one by one, is not in the report: another one begins with a

@@ -10,9 +10,9 @@ class QLabel;
 class QMainWindow;
 class QToolButton;
 
-/// The fields at the right of the status bar: how many components there are and stay out, whether the report
-/// is behind its files, and how many warnings there are. Clicking one of the latter two shows the whole
-/// texts.
+/// The fields at the right of the status bar: how many components are listed and left out, whether the
+/// report is older than its files, and how many warnings there are. Clicking one of the latter two shows the
+/// whole texts.
 class StatusFields final : public QObject
 {
     Q_OBJECT

@@ -48,7 +48,7 @@ private:
     void showAbout();
     [[nodiscard]] bool canClose();
 
-    /// The session holds another design or another reading of it.
+    /// To be called when the session has opened another design, or has read its design again.
     void showDesign();
     void watchDesign();
     void updateRecentFiles();

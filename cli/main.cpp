@@ -113,7 +113,7 @@ ExitStatus run(Command &command, char *argv[])
 
 } // namespace
 
-// What escapes here, want of memory or a mistake in the options' own definition, has to end the program.
+// An exception that gets here (no memory, or a mistake in how the options are defined) ends the program.
 // NOLINTNEXTLINE(bugprone-exception-escape)
 int main(int argc, char *argv[])
 {

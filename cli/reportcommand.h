@@ -22,7 +22,7 @@ class ReportCommand final : public Command
 {
 public:
     void addTo(CLI::App &program) override;
-    /// PDF is painted.
+    /// True with a PDF, the only output that is painted.
     [[nodiscard]] bool paints() const override;
     [[nodiscard]] ExitStatus run() override;
 

@@ -52,8 +52,8 @@ public:
     [[nodiscard]] QStringList variants() const;
 
     /// Runs scripts on the component database as one batch, which is written with these options and not at
-    /// all when `runScripts` gives false. Not to be called within a batch. Batches of others are written with
-    /// the options that WriteOptions has at first.
+    /// all when `runScripts` gives false. Not to be called within a batch. Any other batch is written with
+    /// the default options.
     [[nodiscard]] WriteResult write(const WriteOptions &options, const std::function<bool()> &runScripts);
     /// The files of the design whose content is not what was read, also those that cannot be read any more.
     [[nodiscard]] QStringList changedFiles() const;

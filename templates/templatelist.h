@@ -17,8 +17,8 @@ class QSettings;
 
 /// The stored templates under their names: the files of the template folders, the entries of the legacy
 /// settings file that no file has replaced, and "Default", which is always listed. A name stands for the
-/// template spelled exactly so, except where it says that case is ignored. What files and entries did wrong
-/// is shown through showTemplateMessage().
+/// template spelled exactly so, except where it says that case is ignored. Problems with files and entries
+/// are shown through showTemplateMessage().
 class TemplateList final
 {
     Q_DECLARE_TR_FUNCTIONS(TemplateList)

@@ -30,7 +30,7 @@ public:
 };
 
 /// The templates that the user can choose from, and which of them is current: the commands on a TemplateList.
-/// Boxes and dialogs go through HostUi, what a file did wrong through showTemplateMessage().
+/// Boxes and dialogs go through HostUi, problems with files through showTemplateMessage().
 ///
 /// An operation that returns false has told the user why, or the user declined, and has changed nothing.
 class TemplateStore final : public QObject

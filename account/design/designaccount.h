@@ -15,8 +15,8 @@ namespace designs {
 struct Component;
 }
 
-/// Where the symbols of a design stay: drawn = power + further units + components. It is drawn up twice, from
-/// what was read and from the text of the files.
+/// Where the symbols of a design stay: drawn = power + further units + components. They are counted
+/// twice, in what was read and in the text of the files.
 struct SymbolAccount
 {
     qsizetype drawn = 0;

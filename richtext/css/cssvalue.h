@@ -29,7 +29,7 @@ namespace css {
 /// A colour by name, "#rgb", "#rrggbb", with a last digit or pair for its opacity, "rgb()" or "rgba()";
 /// invalid for anything else.
 [[nodiscard]] QColor color(const QString &value);
-/// "#rrggbb", "transparent", or "rgba()" for what shines through.
+/// "#rrggbb", "transparent", or "rgba()" for a colour that is partly transparent.
 [[nodiscard]] QString colorText(const QColor &color);
 
 /// Font names for the user: without the quotes.

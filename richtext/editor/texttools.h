@@ -16,7 +16,7 @@ class QToolButton;
 class QWidget;
 
 /// The tools of the text tool bars, like the class of a form: what there is, what it is called and how it
-/// looks. What the tools do is said by TextEditToolBars.
+/// looks. TextEditToolBars connects them with what they do.
 class TextTools final
 {
     Q_DECLARE_TR_FUNCTIONS(TextTools)

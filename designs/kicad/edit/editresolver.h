@@ -11,7 +11,7 @@
 
 namespace designs::kicad {
 
-/// What an edit is about.
+/// What an edit changes: a property or a flag.
 enum class EditTarget
 {
     Property,
@@ -26,12 +26,12 @@ struct ResolvedEdit
     EditTarget target = EditTarget::Property;
     /// As stored.
     std::string name;
-    /// As read; nothing takes it away. Flags are "1" when set.
+    /// The text as readers see it; nothing takes the property away. Flags are "1" when set.
     std::optional<std::string> wanted;
     /// What must be written for `wanted`.
     std::string written;
     std::optional<std::string> before;
-    /// Whether the design does not say so already.
+    /// False when the design says so already.
     bool changes = false;
     /// Why it cannot be made; empty when it can.
     QString refusal;
