@@ -39,7 +39,6 @@ public:
     /// Groups the parts of all categories anew.
     void regroup();
 
-    [[nodiscard]] const QString &miscName() const { return m_miscName; }
     /// The heading of the category that a reference belongs to.
     [[nodiscard]] QString categoryOf(const QString &reference) const;
     /// The headings that a report lists, in its order.

@@ -80,7 +80,7 @@ TEST_F(Grouping, LeavesOnlyTheHeadingToATakenPrefix)
     EXPECT_EQ(references(u"First"_s), "R1");
     EXPECT_EQ(database.partCount(u"Second"_s), 0);
     EXPECT_EQ(references(u"Rest"_s), "L1");
-    EXPECT_EQ(database.categories().miscName(), u"Rest"_s);
+    EXPECT_EQ(database.categoryOf(u"Q1"_s), u"Rest"_s);
     EXPECT_EQ(database.categoryOf(u"L1"_s), u"Rest"_s);
 }
 
