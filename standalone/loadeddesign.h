@@ -7,6 +7,8 @@
 #include "standalone/propertytable.h"
 #include "standalone/referenceindex.h"
 
+#include <QByteArrayList>
+
 #include <memory>
 #include <optional>
 #include <span>

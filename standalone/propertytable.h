@@ -6,6 +6,8 @@
 #include "host/netlist/proplist.h"
 #include "standalone/dnpchoice.h"
 
+#include <QByteArrayList>
+
 #include <optional>
 #include <string>
 #include <unordered_map>

@@ -9,6 +9,7 @@
 #include "designs/linenumbers.h"
 
 #include <memory>
+#include <string>
 
 namespace designs::kicad {
 
