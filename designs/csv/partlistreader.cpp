@@ -45,7 +45,7 @@ std::optional<quint64> quantityOf(std::string_view text)
     return failure == std::errc() && whole ? std::optional(quantity) : std::nullopt;
 }
 
-/// Warnings of one kind, of which only the first are told one by one.
+/// Warnings of one kind, of which only the first are given one by one.
 struct WarningKind
 {
     QString summary;

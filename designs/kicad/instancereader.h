@@ -21,9 +21,9 @@ struct InstanceList
 /// Reads what a file says of each use of its symbols and sheets: references, units, variants.
 ///
 /// A sheet file can be used several times, and by several projects, so one symbol stands for many components.
-/// Each use is told by its instance path, the identifiers of the root and of the sheet symbols down to it.
-/// The paths repeat in every symbol of the file: each is kept once in SheetFile::paths, and records hold its
-/// number, so that a use is found by comparing integers.
+/// Each use is identified by its instance path, the identifiers of the root and of the sheet symbols down to
+/// it. The paths repeat in every symbol of the file: each is kept once in SheetFile::paths, and records hold
+/// its number, so that a use is found by comparing integers.
 class InstanceReader
 {
 public:

@@ -37,7 +37,7 @@ struct SymbolRewrite
     std::optional<bool> inBom;
     /// By the instance path.
     std::map<std::string, VariantRewrite, std::less<>> variants;
-    /// The plan's changes that are told of this symbol, as indices into EditPlan::changes.
+    /// The changes of the plan that are located at this symbol, as indices into EditPlan::changes.
     std::vector<std::size_t> changes;
 };
 
