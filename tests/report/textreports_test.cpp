@@ -53,7 +53,9 @@ protected:
             settings.setAsciiQuantityWidth(4);
             settings.setAsciiRefWidth(10);
         });
-        for (const QString &name : database.currentTemplate().fields().names()) {
+        // A copy: every change replaces the template.
+        const QStringList names = database.currentTemplate().fields().names();
+        for (const QString &name : names) {
             changeField(name, [](BOMField &field) { field.asciiWidth = 8; });
         }
     }
