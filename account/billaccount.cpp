@@ -33,18 +33,6 @@ void addLine(BillAccount *account, BomLine line)
     account->parts += qsizetype(line.size()) - bomParts;
 }
 
-/// With the BOM-only parts that belong to them.
-QSet<QString> withBomParts(const BOMPartsDatabase &database, const QStringList &references)
-{
-    QSet<QString> all(references.begin(), references.end());
-    for (const QString &reference : references) {
-        for (const BOMPart *part : database.bomParts(reference)) {
-            all.insert(part->reference());
-        }
-    }
-    return all;
-}
-
 } // namespace
 
 BillAccount billAccountOf(const BOMPartsDatabase &database)
@@ -71,7 +59,10 @@ BillAccount billAccountOf(const BOMPartsDatabase &database)
 QList<MixedLine> mixedLines(const BOMPartsDatabase &database, const ComponentAccount &components)
 {
     QList<MixedLine> found;
-    const QSet<QString> notFitted = withBomParts(database, components.listedNotFitted);
+    QSet<QString> notFitted(components.listedNotFitted.cbegin(), components.listedNotFitted.cend());
+    for (const QString &reference : database.bomOnlyParts().notFitted()) {
+        notFitted.insert(reference);
+    }
     for (const QString &category : database.categoryNames()) {
         for (const QString &value : database.categoryValues(category)) {
             for (const QStringList &line : database.groupLines(category, value)) {

@@ -3,10 +3,12 @@
 #include "account/designcheck.h"
 
 #include "account/billaccount.h"
+#include "account/billfindings.h"
 #include "account/design/designaccount.h"
 #include "account/design/propertytwins.h"
 #include "account/sentences.h"
 #include "core/bompartsdatabase.h"
+#include "core/unreadtexts.h"
 #include "standalone/designsession.h"
 #include "standalone/loadeddesign.h"
 
@@ -137,6 +139,17 @@ QStringList missingFindings(const BOMPartsDatabase &database, const QStringList 
     return findings;
 }
 
+/// Texts that a column cannot read: those that make a total wrong or show as their opposite are to decide.
+void checkTexts(DesignCheck *check, const BOMPartsDatabase &database)
+{
+    for (const UnreadColumn &column : unreadColumns(database)) {
+        QStringList &list = column.kind == UnreadColumn::Kind::Numeric ? check->notices : check->findings;
+        for (const UnreadText &text : column.texts) {
+            list << unreadTextNotice(column, text);
+        }
+    }
+}
+
 QStringList twinNotices(const LoadedDesign &design)
 {
     QStringList notices;
@@ -190,6 +203,10 @@ DesignCheck checkDesign(const DesignSession &session, const BOMPartsDatabase &da
     check.findings += definedPartProblems(database);
     check.findings += readerFindings(session);
     check.findings += missingFindings(database, required);
+    checkTexts(&check, database);
+    check.notices += leftOutBomPartNotices(database);
+    check.notices += notFittedParentNotices(database, components);
+    check.notices += blockedCategoryNotices(database);
     check.notices += twinNotices(design);
     check.notices += variableNotices(design);
     return check;

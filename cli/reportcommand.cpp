@@ -4,6 +4,7 @@
 
 #include "account/billaccount.h"
 #include "account/design/designaccount.h"
+#include "account/reportnotices.h"
 #include "account/sentences.h"
 #include "cli/console.h"
 #include "cli/opendesign.h"

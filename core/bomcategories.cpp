@@ -35,6 +35,7 @@ void BOMCategories::rebuild()
     clear();
     m_groups.clear();
     m_headingOfPrefix.clear();
+    m_blocked.clear();
     m_order.clear();
     const QList<BOMCategory> &categories = m_settings->categories();
     for (const BOMCategory &category : categories) {
@@ -73,11 +74,16 @@ void BOMCategories::regroup()
 
 void BOMCategories::addCategory(const BOMCategory &category)
 {
-    if (category.isMiscCategory || m_groups.contains(category.heading)) {
+    if (category.isMiscCategory) {
+        return;
+    }
+    if (m_groups.contains(category.heading)) {
+        m_blocked.append({category.heading, {}, {}});
         return;
     }
     for (const QString &prefix : category.references) {
         if (m_headingOfPrefix.contains(prefix)) {
+            m_blocked.append({category.heading, prefix, m_headingOfPrefix.value(prefix)});
             return;
         }
     }

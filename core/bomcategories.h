@@ -20,6 +20,18 @@ class BOMTemplate;
 class PartStore;
 class PropertyTypes;
 
+/// A category of the template that can hold no part.
+struct BlockedCategory
+{
+    QString heading;
+    /// The prefix that an earlier category has already, and that category; empty where the headings are
+    /// equal.
+    QString prefix;
+    QString holder;
+
+    bool operator==(const BlockedCategory &) const = default;
+};
+
 /// The categories of the current template, with the parts and lines of each.
 class BOMCategories final
 {
@@ -43,6 +55,9 @@ public:
     [[nodiscard]] QString categoryOf(const QString &reference) const;
     /// The headings that a report lists, in its order.
     [[nodiscard]] QStringList names() const;
+
+    /// The categories that can hold no part, in the order of the template.
+    [[nodiscard]] const QList<BlockedCategory> &blocked() const { return m_blocked; }
 
     [[nodiscard]] int partCount(const QString &category) const;
     [[nodiscard]] int lineCount(const QString &category) const;
@@ -94,4 +109,5 @@ private:
     std::vector<CategoryGroups *> m_groupsOfPrefix;
     QString m_miscName;
     QStringList m_order;
+    QList<BlockedCategory> m_blocked;
 };

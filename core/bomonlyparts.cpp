@@ -7,6 +7,7 @@
 #include "core/bompart.h"
 #include "core/partstore.h"
 #include "core/propertyquery.h"
+#include "host/framework/hosttext.h"
 
 #include <algorithm>
 #include <limits>
@@ -21,8 +22,9 @@ BOMOnlyParts::BOMOnlyParts(const PartDatabase *database, PartStore *store, BOMCa
 {
 }
 
-void BOMOnlyParts::load(const QList<ParentDefinitions> &parents)
+void BOMOnlyParts::load(const QList<ParentDefinitions> &parents, const Fitting &fitting)
 {
+    m_fitting = fitting;
     m_referenceNumbers.reset();
     for (const ParentDefinitions &parent : parents) {
         make(parent);
@@ -38,7 +40,12 @@ void BOMOnlyParts::make(const ParentDefinitions &parent)
     LastNumbers lastNumbers;
     for (const DefinitionProperty &property : std::as_const(definitions)) {
         ReadDefinition read = readBOMPartDefinition(property.text);
-        if (read.makesParts()) {
+        auto leftOut =
+            read.makesParts() ? this->leftOut(parent.parentReference, read.definition) : std::nullopt;
+        if (leftOut) {
+            leftOut->property = property.name;
+            m_leftOut.append(*leftOut);
+        } else if (read.makesParts()) {
             if (const auto fault = make(parent.parentReference, read.definition, &lastNumbers)) {
                 read.fault = fault;
             }
@@ -47,8 +54,8 @@ void BOMOnlyParts::make(const ParentDefinitions &parent)
         if (!property.name.isEmpty()) {
             defined.addName(property.name);
         }
-        if (!read.makesParts()) {
-            defined.addUnread(property.text);
+        if (leftOut || !read.makesParts()) {
+            defined.addUnmade(property.text);
         }
         if (read.fault) {
             m_problems.append({parent.parentReference, property.name, *read.fault});
@@ -72,6 +79,7 @@ std::optional<DefinitionFault> BOMOnlyParts::make(const QString &parentReference
     lastNumbers->insert(definition.prefix, int(last) + definition.count);
     m_count += definition.count;
     const QMap<QString, QString> links = readBOMLinks(definition.properties.value(bomLinksProperty()));
+    const bool isFitted = fittingOf(parentReference, definition).isFitted;
     DefinedParts &defined = m_defined[parentReference];
     int repeated = 0;
     for (int number = int(last) + 1; number <= last + definition.count; ++number) {
@@ -79,6 +87,9 @@ std::optional<DefinitionFault> BOMOnlyParts::make(const QString &parentReference
         if (BOMPart *made =
                 hold(std::make_unique<BOMPart>(m_database, reference, parentReference, definition))) {
             defined.add(made);
+            if (!isFitted) {
+                m_notFitted.append(reference);
+            }
             m_links->insert(reference, links);
         } else {
             ++repeated;
@@ -88,6 +99,29 @@ std::optional<DefinitionFault> BOMOnlyParts::make(const QString &parentReference
         defined.addRepeated(definition, repeated);
     }
     return std::nullopt;
+}
+
+std::optional<LeftOutBOMParts> BOMOnlyParts::leftOut(const QString &parentReference,
+                                                     const BOMPartDefinition &definition) const
+{
+    const bool isSkipped = definition.properties.contains(QStringLiteral("BOMSKIP"));
+    const FITTING fitting = fittingOf(parentReference, definition);
+    if (!isSkipped && fitting.isListed) {
+        return std::nullopt;
+    }
+    return LeftOutBOMParts{parentReference, {}, definition.count, isSkipped, fitting.isFitted};
+}
+
+FITTING BOMOnlyParts::fittingOf(const QString &parentReference, const BOMPartDefinition &definition) const
+{
+    if (!m_fitting) {
+        return {};
+    }
+    const QString name = QStringLiteral("DNP");
+    const FITTING own = m_fitting(toHostText(definition.properties.value(name)));
+    const Part *parent = m_store->find(parentReference);
+    const bool asksParent = own.isFitted && parent && !parent->isBOMPart();
+    return asksParent ? m_fitting(PropertyQuery(name, nullptr).hostText(parent->component())) : own;
 }
 
 BOMPart *BOMOnlyParts::hold(std::unique_ptr<BOMPart> part)
@@ -108,6 +142,8 @@ void BOMOnlyParts::clear()
     m_defined.clear();
     m_problems.clear();
     m_duplicates.clear();
+    m_leftOut.clear();
+    m_notFitted.clear();
     m_referenceNumbers.reset();
     m_count = 0;
 }

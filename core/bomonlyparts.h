@@ -4,12 +4,14 @@
 
 #include "core/definedparts.h"
 #include "core/referencenumbers.h"
+#include "host/netlist/netlist.h"
 
 #include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -25,6 +27,20 @@ struct ParentDefinitions
     QList<DefinitionProperty> definitions;
 };
 
+/// BOM-only parts of one definition that are not in the bill.
+struct LeftOutBOMParts
+{
+    QString parentReference;
+    /// The property that defines them.
+    QString property;
+    int count = 0;
+    /// Marked BOMSKIP; otherwise the choice for parts that are not fitted leaves them out.
+    bool isSkipped = false;
+    bool isFitted = true;
+
+    bool operator==(const LeftOutBOMParts &) const = default;
+};
+
 /// The BOM-only parts of the design by the placed parts that define them. They are held in the store of all
 /// parts, sorted into categories and known to the links like placed ones.
 class BOMOnlyParts final
@@ -33,8 +49,12 @@ public:
     /// None is owned; all must outlive the parts. `database` is what the parts ask.
     BOMOnlyParts(const PartDatabase *database, PartStore *store, BOMCategories *categories, LinkTable *links);
 
-    /// Makes the parts of a design whose placed parts were all added, parent by parent.
-    void load(const QList<ParentDefinitions> &parents);
+    /// What a property DNP says of a part, see NETLIST::fitting.
+    using Fitting = std::function<FITTING(QByteArrayView)>;
+
+    /// Makes the parts of a design whose placed parts were all added, parent by parent. Definitions with
+    /// BOMSKIP or whose parts `fitting` does not list make none, and stay as they are.
+    void load(const QList<ParentDefinitions> &parents, const Fitting &fitting);
     /// Makes the parts of these definitions, in the order of their texts.
     void make(const ParentDefinitions &parent);
     /// Forgets all parts, which the store lets go of.
@@ -56,6 +76,9 @@ public:
     [[nodiscard]] std::optional<QList<DefinitionProperty>> rewritten(const QString &parentReference) const;
     /// Definitions that make no parts, or not as they say, in the order of loading.
     [[nodiscard]] const QList<DefinitionProblem> &problems() const { return m_problems; }
+    [[nodiscard]] const QList<LeftOutBOMParts> &leftOut() const { return m_leftOut; }
+    /// The references of parts in the bill that are not fitted, by a property of their own or their parent's.
+    [[nodiscard]] const QStringList &notFitted() const { return m_notFitted; }
     /// The references of BOM-only parts that another part has already.
     [[nodiscard]] const QStringList &duplicates() const { return m_duplicates; }
 
@@ -66,6 +89,11 @@ private:
     /// Makes all parts, or none and says why.
     [[nodiscard]] std::optional<DefinitionFault>
     make(const QString &parentReference, const BOMPartDefinition &definition, LastNumbers *lastNumbers);
+    /// Nothing for parts that are to be made.
+    [[nodiscard]] std::optional<LeftOutBOMParts> leftOut(const QString &parentReference,
+                                                         const BOMPartDefinition &definition) const;
+    [[nodiscard]] FITTING fittingOf(const QString &parentReference,
+                                    const BOMPartDefinition &definition) const;
     [[nodiscard]] BOMPart *hold(std::unique_ptr<BOMPart> part);
     /// Null for an unknown reference and a placed part.
     [[nodiscard]] BOMPart *find(const QString &reference) const;
@@ -79,6 +107,9 @@ private:
     QHash<QString, DefinedParts> m_defined;
     QList<DefinitionProblem> m_problems;
     QStringList m_duplicates;
+    QList<LeftOutBOMParts> m_leftOut;
+    QStringList m_notFitted;
+    Fitting m_fitting;
     int m_count = 0;
     /// Of all parts in the store; made when a definition asks for it.
     std::optional<ReferenceNumbers> m_referenceNumbers;

@@ -32,7 +32,7 @@ bool BOMPart::isBOMPart() const
 
 QString BOMPart::property(const QString &name) const
 {
-    if (name == valueProperty()) {
+    if (name.compare(valueProperty(), Qt::CaseInsensitive) == 0) {
         return value();
     }
     if (name == placedProperty() && database()) {

@@ -160,7 +160,7 @@ void BOMPartsDatabase::readNetlist()
         reader.read(*component);
     }
     m_parts.endLoading();
-    m_bomOnlyParts.load(reader.parents());
+    m_bomOnlyParts.load(reader.parents(), m_netlist->fitting);
 }
 
 void BOMPartsDatabase::reload()

@@ -105,7 +105,7 @@ std::optional<QList<DefinitionProperty>> DefinedParts::rewritten() const
         }
     }
     QList<DefinitionProperty> properties;
-    for (const QString &text : agreeing.definitions() + m_unread) {
+    for (const QString &text : agreeing.definitions() + m_unmade) {
         properties.append({numberedName(properties.size()), text});
     }
     return properties;

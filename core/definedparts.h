@@ -47,7 +47,7 @@ public:
     /// Remembers parts that are not held, because others have their references, so that they are written.
     void addRepeated(const BOMPartDefinition &definition, int count);
     /// Remembers a definition that makes no parts, so that it is written.
-    void addUnread(const QString &text) { m_unread.append(text); }
+    void addUnmade(const QString &text) { m_unmade.append(text); }
 
     /// The definitions BOMPART0, BOMPART1, ... of all the parts as they are now; those that make no parts
     /// follow as they are. Nothing when a text cannot be written.
@@ -58,5 +58,5 @@ private:
     QSet<QString> m_nameSet;
     QList<BOMPart *> m_parts;
     QList<BOMPartDefinition> m_repeated;
-    QStringList m_unread;
+    QStringList m_unmade;
 };

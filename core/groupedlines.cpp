@@ -24,3 +24,13 @@ BomString groupingKey(const Part &part, const GroupingRule &rule)
     }
     return BomString(key, rule.caseRule);
 }
+
+int compareTexts(const Part &left, const Part &right, const GroupingRule &rule)
+{
+    for (const PropertyQuery &property : rule.properties) {
+        if (const int order = left.property(property).compare(right.property(property), rule.caseRule)) {
+            return order;
+        }
+    }
+    return 0;
+}

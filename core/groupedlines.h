@@ -63,3 +63,7 @@ struct GroupingRule
 
 /// The texts of the rule's properties, each with a comma behind it.
 [[nodiscard]] BomString groupingKey(const Part &part, const GroupingRule &rule);
+
+/// Compares the texts of the rule's properties one by one: below, equal to or above 0. Texts with commas may
+/// differ where the keys do not: "a,b" and "c" against "a" and "b,c".
+[[nodiscard]] int compareTexts(const Part &left, const Part &right, const GroupingRule &rule);

@@ -135,20 +135,26 @@ void LineBuilder::numberLines(const ValueDraft &value)
         m_drafts[value.drafts.front()].line = m_lineCount++;
         return;
     }
-    std::vector<std::pair<BomString, quint32>> order;
+    struct Keyed
+    {
+        BomString key;
+        const Part *part = nullptr;
+        quint32 draft = 0;
+    };
+    std::vector<Keyed> order;
     order.reserve(value.drafts.size());
     for (const quint32 draft : value.drafts) {
-        order.emplace_back(groupingKey(*m_parts[m_drafts[draft].firstPart], m_rule), draft);
+        const Part &part = *m_parts[m_drafts[draft].firstPart];
+        order.push_back({groupingKey(part, m_rule), &part, draft});
     }
-    std::sort(order.begin(), order.end(),
-              [](const auto &left, const auto &right) { return left.first < right.first; });
-    const BomString *previous = nullptr;
-    for (const auto &[key, draft] : order) {
-        if (!previous || *previous != key) {
-            ++m_lineCount;
-        }
-        m_drafts[draft].line = m_lineCount - 1;
-        previous = &key;
+    const auto isLess = [this](const Keyed &left, const Keyed &right) {
+        return left.key == right.key ? compareTexts(*left.part, *right.part, m_rule) < 0
+                                     : left.key < right.key;
+    };
+    std::sort(order.begin(), order.end(), isLess);
+    for (size_t i = 0; i < order.size(); ++i) {
+        m_lineCount += i == 0 || isLess(order[i - 1], order[i]) ? 1 : 0;
+        m_drafts[order[i].draft].line = m_lineCount - 1;
     }
 }
 

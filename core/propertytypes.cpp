@@ -16,6 +16,19 @@ QString flagText(const QString &stored, QLatin1String set, QLatin1String unset)
     return stored == u'1' ? set : unset;
 }
 
+/// A decimal point may be stored as a comma, too.
+QString decimalText(const QString &stored, const QString &decimalPoint)
+{
+    if (!stored.contains(u',') && (decimalPoint == u'.' || !stored.contains(u'.'))) {
+        return stored;
+    }
+    QString shown = stored;
+    shown.replace(u',', u'.');
+    bool isNumber = false;
+    (void)shown.toDouble(&isNumber);
+    return isNumber ? shown.replace(u'.', decimalPoint) : stored;
+}
+
 } // namespace
 
 void PropertyTypes::load()
@@ -40,6 +53,12 @@ bool PropertyTypes::isNumeric(const QString &name) const
     return found == PropType::Int || found == PropType::Float;
 }
 
+bool hasTwoStates(PropType type)
+{
+    return type == PropType::YesNo || type == PropType::Boolean || type == PropType::HighLow ||
+           type == PropType::TrueFalse;
+}
+
 DisplayConversion::DisplayConversion(std::optional<PropType> type)
     : m_type(type)
 {
@@ -61,14 +80,8 @@ QString DisplayConversion::operator()(const QString &stored) const
         return flagText(stored, QLatin1String("High"), QLatin1String("Low"));
     case PropType::TrueFalse:
         return flagText(stored, QLatin1String("True"), QLatin1String("False"));
-    case PropType::Float: {
-        QString shown = stored;
-        shown.replace(u',', u'.');
-        if (m_decimalPoint != u'.') {
-            shown.replace(u'.', m_decimalPoint);
-        }
-        return shown;
-    }
+    case PropType::Float:
+        return decimalText(stored, m_decimalPoint);
     case PropType::String:
     case PropType::Text:
     case PropType::Int:

@@ -29,8 +29,11 @@ private:
     quint64 m_generation = 0;
 };
 
+/// Whether values of the type are stored as "1" and "0".
+[[nodiscard]] bool hasTwoStates(PropType type);
+
 /// Turns stored values of one property into what people see: Yes, High, True or their opposites for the types
-/// stored as "1" and "0", the user's decimal point in decimal numbers.
+/// stored as "1" and "0", the user's decimal point in decimal numbers. A text that is no number stays.
 class DisplayConversion final
 {
 public:

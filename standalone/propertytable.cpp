@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/propertytable.h"
 
+#include "designs/notfitted.h"
+
 #include <algorithm>
 #include <atomic>
 
@@ -124,16 +126,26 @@ QByteArrayList PropertyTable::allNames() const
 
 bool PropertyTable::isLeftOutByChoice(const designs::Component &component) const
 {
-    const bool isNotFitted = component.notFitted != designs::MarkedBy::Nothing;
+    return !isListedByChoice(component.notFitted == designs::MarkedBy::Nothing);
+}
+
+FITTING PropertyTable::fitting(QByteArrayView dnp) const
+{
+    const bool isFitted = !designs::saysNotFitted({dnp.data(), size_t(dnp.size())});
+    return {isFitted, isListedByChoice(isFitted)};
+}
+
+bool PropertyTable::isListedByChoice(bool isFitted) const
+{
     switch (m_dnpChoice) {
     case DnpChoice::Exclude:
-        return isNotFitted;
+        return isFitted;
     case DnpChoice::Only:
-        return !isNotFitted;
+        return !isFitted;
     case DnpChoice::Include:
         break;
     }
-    return false;
+    return true;
 }
 
 bool PropertyTable::hasStoredSkip(const designs::Component &component) const

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "designs/design.h"
+#include "host/netlist/netlist.h"
 #include "host/netlist/proplist.h"
 #include "standalone/dnpchoice.h"
 
@@ -39,6 +40,8 @@ public:
     void setDnpChoice(DnpChoice choice) { m_dnpChoice = choice; }
     /// Whether the not-fitted choice leaves the component out.
     [[nodiscard]] bool isLeftOutByChoice(const designs::Component &component) const;
+    /// What a property DNP of this text and the choice make of a part that is no component.
+    [[nodiscard]] FITTING fitting(QByteArrayView dnp) const;
     /// The property BOMSKIP as stored; the flags do not count.
     [[nodiscard]] bool hasStoredSkip(const designs::Component &component) const;
 
@@ -60,6 +63,7 @@ private:
         bool isPlain = true;
     };
 
+    [[nodiscard]] bool isListedByChoice(bool isFitted) const;
     [[nodiscard]] const Lookup &lookup(const PROPNAME &name) const;
     [[nodiscard]] const Lookup &lookup(const QByteArray &name) const;
     /// The names of the design that begin like that.

@@ -15,6 +15,7 @@ void clear(NETCACHE &cache)
 {
     cache.validMask = 0;
     cache.components = {};
+    cache.fitting = nullptr;
     cache.propertyNames.clear();
 }
 
@@ -71,6 +72,7 @@ bool StandaloneNetlist::sendnetlist(NETCACHE &cache, int, int)
     cache.validMask = usable;
     cache.wantedMask = usable;
     cache.components = m_design->components();
+    cache.fitting = [design = m_design](QByteArrayView dnp) { return design->properties().fitting(dnp); };
     cache.propertyNames = m_design->properties().allNames();
     if (client->sent != m_design) {
         client->sentBefore = std::exchange(client->sent, m_design);

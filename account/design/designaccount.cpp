@@ -119,12 +119,20 @@ private:
         m_account.excludedNotFitted += isExcluded && !isFitted ? 1 : 0;
         m_account.leftOutByChoice += isLeftOut ? 1 : 0;
         m_account.listed += isExcluded || isLeftOut ? 0 : 1;
+        if (isLeftOut && definesBomParts(component)) {
+            m_account.leftOutParents.append(fromHostText(component.reference));
+        }
         if (!isExcluded && !isLeftOut && !isFitted) {
             m_account.listedNotFitted.append(fromHostText(component.reference));
         }
         if (const QString reference = fromHostText(component.reference); isNotAnnotated(reference)) {
             m_account.notAnnotated.push_back({reference, placeOf(m_design.design(), component)});
         }
+    }
+
+    [[nodiscard]] bool definesBomParts(const Component &component) const
+    {
+        return !m_design.properties().startingWith(component, m_definitionStart).empty();
     }
 
     void findRepeated()
@@ -155,6 +163,7 @@ private:
     }
 
     const LoadedDesign &m_design;
+    const PROPPREFIX m_definitionStart{"BOMPART"};
     ComponentAccount m_account;
 };
 

@@ -77,6 +77,8 @@ struct ComponentAccount
     /// What would be listed if the choice did not leave it out.
     qsizetype leftOutByChoice = 0;
     qsizetype notFitted = 0;
+    /// The references of components that are left out by the choice, and define BOM-only parts.
+    QStringList leftOutParents;
     /// The references of listed components that are not fitted.
     QStringList listedNotFitted;
     /// References that occur more than once, skipped components included, in the order of first occurrence.

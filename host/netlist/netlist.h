@@ -5,8 +5,20 @@
 #include "host/netlist/component.h"
 
 #include <QByteArrayList>
+#include <QByteArrayView>
 
+#include <functional>
 #include <span>
+
+/// What a mark for parts that are not fitted makes of a part.
+struct FITTING
+{
+    bool isFitted = true;
+    /// Whether the user wants parts like it in the bill.
+    bool isListed = true;
+
+    bool operator==(const FITTING &) const = default;
+};
 
 /// The components of a design as the host sends them. The records belong to the sender and stay until it
 /// sends again.
@@ -18,6 +30,10 @@ struct NETLIST
 
     /// Entries may be null.
     std::span<const COMPONENT *const> components;
+
+    /// What the text of a property DNP, empty where there is none, says of a part that the host does not
+    /// know. Without it such parts are fitted and listed.
+    std::function<FITTING(QByteArrayView)> fitting;
 
     /// Every property name that occurs in the design.
     QByteArrayList propertyNames;

@@ -30,6 +30,8 @@ TEST_F(Check, AccountsForEverySymbolAndListsWhatIsToDecideAndToKnow)
         {"not-annotated.kicad_sch", 1},
         {"in-and-out.csv", 1},
         {"unresolved-variables.csv", 0},
+        {"unread-texts.csv", 1, "--template unread-texts.bomt --propdefs unread-texts.ini"},
+        {"left-out-bom-only-parts.csv", 0},
         {"unreadable-companions.kicad_sch", 1},
     };
     for (const CheckCase &c : cases) {
@@ -41,6 +43,11 @@ TEST_F(Check, AccountsForEverySymbolAndListsWhatIsToDecideAndToKnow)
     }
     EXPECT_THAT(run("parts unreadable-companions.kicad_sch").err,
                 HasSubstr("bom: DIR/unreadable-companions.kicad_pcb:"));
+    EXPECT_EQ(run("check left-out-bom-only-parts.csv --dnp include").out,
+              data("check", "left-out-bom-only-parts.included"));
+    EXPECT_THAT(run("report unread-texts.csv --template unread-texts.bomt --propdefs unread-texts.ini").err,
+                HasSubstr("bom: column Unit Cost: 3 parts have a text that is no number and counts 0: "
+                          "\"$1.50\" on R3, \"1,234.50\" on R1-R2\n"));
     EXPECT_THAT(run("report not-annotated.kicad_sch").err, HasSubstr("bom: 2 symbols are not annotated"));
 }
 

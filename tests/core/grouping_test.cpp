@@ -25,7 +25,7 @@ TEST_F(Grouping, ComparesWholeKeysOfWhatIsShown)
           {"R5", "2k", {{"FIT", "0"}, {"COST", "0,5"}}},
           {"R6", "2k", {{"FIT", "no"}, {"COST", "0.5"}}},
           {"R7", "2k", {{"FIT", "1"}, {"COST", "0.5"}}}});
-    EXPECT_EQ(lines(), "1k: R3 | 1k: R1,R2 | 1k: R4 | 2k: R5,R6 | 2k: R7");
+    EXPECT_EQ(lines(), "1k: R3 | 1k: R2 | 1k: R1 | 1k: R4 | 2k: R5,R6 | 2k: R7");
 }
 
 TEST_F(Grouping, FollowsThePlacementWhenABoardIsSaved)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/bomstring.h"
 #include "core/coredesign.h"
+#include "core/propertyquery.h"
 #include "core/reference.h"
 
 #include <random>
@@ -21,10 +22,20 @@ Lines plainLines(const BOMPartsDatabase &database, const QString &category)
             byValue[BomString(part->value(), rule)] << part->reference();
         }
     }
+    // Each text counts, besides the key that they make together.
+    const auto keyOf = [&database](const QString &reference) {
+        QString key = database.groupingKey(reference);
+        for (const BOMField &field : database.currentTemplate().fields().fields()) {
+            key += QChar(0) + (field.propertyName == valueProperty()
+                                   ? QString()
+                                   : database.property(reference, field.propertyName));
+        }
+        return key;
+    };
     Lines lines;
     for (auto it = byValue.cbegin(); it != byValue.cend(); ++it) {
         for (const QString &reference : it.value()) {
-            const QString key = it.value().size() > 1 ? database.groupingKey(reference) : QString();
+            const QString key = it.value().size() > 1 ? keyOf(reference) : QString();
             QStringList &line = lines[it.key()][BomString(key, rule)];
             line << reference;
             sortReferences(line);

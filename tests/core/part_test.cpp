@@ -84,7 +84,7 @@ TEST_F(DisplayValue, DependsOnTheDefinition)
         {"YN", "1", u"Yes"_s},  {"YN", "0", u"No"_s},     {"YN", "yes", u"No"_s}, {"YN", "", u""_s},
         {"HL", "1", u"High"_s}, {"HL", "2", u"Low"_s},    {"TF", "1", u"True"_s}, {"TF", "0", u"False"_s},
         {"F", "4,7", u"4.7"_s}, {"F", "1.5", u"1.5"_s},   {"F", "n/a", u"n/a"_s}, {"I", "1,000", u"1,000"_s},
-        {"S", "1", u"1"_s},     {"UNKNOWN", "1", u"1"_s}, {"yn", "1", u"Yes"_s},  {"F", "1,2.3", u"1.2.3"_s},
+        {"S", "1", u"1"_s},     {"UNKNOWN", "1", u"1"_s}, {"yn", "1", u"Yes"_s},  {"F", "1,2.3", u"1,2.3"_s},
     };
     for (qsizetype i = 0; i < std::ssize(cases); ++i) {
         add({{"R" + QByteArray::number(i), "1k", {{cases[i].name, cases[i].stored}}}});
@@ -101,7 +101,7 @@ TEST_F(DisplayValue, DependsOnTheDefinition)
     EXPECT_FALSE(types.isNumeric(u"S"_s) || types.isNumeric(u"UNKNOWN"_s));
     ui.numberFormat = QLocale(QLocale::German);
     EXPECT_EQ(database.property(u"R8"_s, u"F"_s), u"4,7"_s);
-    EXPECT_EQ(database.property(u"R15"_s, u"F"_s), u"1,2,3"_s);
+    EXPECT_EQ(database.property(u"R15"_s, u"F"_s), u"1,2.3"_s);
 }
 
 TEST(PropertyNames, AreOfferedInThisOrder)

@@ -111,6 +111,7 @@ TEST_F(ReportValue, ShowsNumbersOfNumericFieldsWithTheirDecimals)
     database.load();
     const std::tuple<int, const char *, const char *> cases[] = {{2, "1.5", "1.50"},
                                                                  {2, "1,5", "1,5"},
+                                                                 {2, "1,234.50", "1,234.50"},
                                                                  {2, "n/a", "n/a"},
                                                                  {2, "nan", "nan"},
                                                                  {2, "inf", "inf"},
@@ -141,6 +142,8 @@ TEST_F(ReportValue, ShowsAndReadsNumbersInTheUsersFormat)
     EXPECT_TRUE(csvReport(report(), CsvRows::Lines).endsWith("1k,,\"1,25\"\n"));
     EXPECT_EQ(report().texts(report().subTotals(resistors)).last(), u"2,50"_s);
     EXPECT_EQ(shown(u"0.5"_s), u"0,50"_s) << "what the locale does not read is read as C";
+    EXPECT_EQ(shown(u"1.234"_s), u"1,23"_s) << "a point is no mark between thousands";
+    EXPECT_EQ(shown(u"1.234,5"_s), u"1.234,5"_s);
 }
 
 TEST_F(ReportValue, PutsPrefixAndSuffixAround)

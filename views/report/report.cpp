@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -65,6 +64,7 @@ QString truncatedToWidth(const QString &value, const BOMField &field)
 Report::Report(const BOMPartsDatabase &database, const BOMFields &fields)
     : m_database(database)
     , m_locale(HostUi::current().locale())
+    , m_numbers(m_locale)
 {
     const PropertyTypes &types = database.propertyTypes();
     for (const BOMField &field : fields.fields()) {
@@ -188,19 +188,9 @@ QStringList Report::texts(const Totals &totals) const
     return texts;
 }
 
-std::optional<double> Report::readNumber(const QString &text) const
-{
-    bool isNumber = false;
-    double number = m_locale.toDouble(text, &isNumber);
-    if (!isNumber) {
-        number = text.toDouble(&isNumber);
-    }
-    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
-}
-
 std::optional<double> Report::shownNumber(const QString &value, const ReportColumn &column) const
 {
-    return column.isNumeric && !isQuoted(value) ? readNumber(value) : std::nullopt;
+    return column.isNumeric && !isQuoted(value) ? m_numbers.read(value) : std::nullopt;
 }
 
 QString Report::numberText(double number, const BOMField &field) const
@@ -219,7 +209,7 @@ void Report::addTotals(const QString &category, Totals &totals) const
         }
         for (size_t index = 0; index < lines->lineCount(); ++index) {
             const BomLine line = lines->line(index);
-            const auto number = readNumber(line.front()->property(m_columns[i].property));
+            const auto number = m_numbers.read(line.front()->property(m_columns[i].property));
             totals[i] += number.value_or(0.0) * double(line.size());
         }
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/numberreader.h"
 #include "core/propertyquery.h"
 #include "core/reportlines.h"
 #include "templates/bomfields.h"
@@ -103,12 +104,12 @@ public:
     [[nodiscard]] QStringList texts(const Totals &totals) const;
 
 private:
-    [[nodiscard]] std::optional<double> readNumber(const QString &text) const;
     [[nodiscard]] std::optional<double> shownNumber(const QString &value, const ReportColumn &column) const;
     [[nodiscard]] QString numberText(double number, const BOMField &field) const;
     void addTotals(const QString &category, Totals &totals) const;
 
     const BOMPartsDatabase &m_database;
     QLocale m_locale;
+    NumberReader m_numbers;
     std::vector<ReportColumn> m_columns;
 };

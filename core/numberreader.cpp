@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "core/numberreader.h"
+
+#include <cmath>
+
+NumberReader::NumberReader(QLocale locale)
+    : m_locale(std::move(locale))
+{
+    m_locale.setNumberOptions(QLocale::RejectGroupSeparator);
+}
+
+std::optional<double> NumberReader::read(const QString &text) const
+{
+    bool isNumber = false;
+    double number = m_locale.toDouble(text, &isNumber);
+    if (!isNumber) {
+        // QString knows no marks between thousands.
+        number = text.toDouble(&isNumber);
+    }
+    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
