@@ -88,14 +88,14 @@ private:
 } // namespace
 
 BOMPartsDatabase::BulkChange::BulkChange(BOMPartsDatabase *database)
-    : m_database(std::exchange(database->m_isUpdating, true) ? nullptr : database)
+    : m_database(database)
 {
+    ++m_database->m_bulkChanges;
 }
 
 BOMPartsDatabase::BulkChange::~BulkChange()
 {
-    if (m_database) {
-        m_database->m_isUpdating = false;
+    if (--m_database->m_bulkChanges == 0 && std::exchange(m_database->m_isNoticeDue, false)) {
         m_database->notify();
     }
 }
@@ -128,6 +128,9 @@ void BOMPartsDatabase::clear()
     m_bomOnlyParts.clear();
     m_links.clear();
     m_parts.clear();
+    if (m_netlist) {
+        m_netlist->releaseformer();
+    }
     notify();
 }
 
@@ -165,19 +168,15 @@ void BOMPartsDatabase::readNetlist()
 
 void BOMPartsDatabase::reload()
 {
-    m_isUpdating = true;
+    const BulkChange change(this);
+    m_isSuspended = false;
     clear();
-    if (m_netlist) {
-        load();
-        updateFieldGrouping();
-    }
-    m_isUpdating = false;
-    notify();
+    load();
 }
 
 void BOMPartsDatabase::clearAndSuspend()
 {
-    m_isUpdating = true;
+    m_isSuspended = true;
     clear();
 }
 
@@ -195,7 +194,9 @@ void BOMPartsDatabase::setWriting(bool isWriting)
 
 void BOMPartsDatabase::notify()
 {
-    if (!m_isUpdating) {
+    if (m_bulkChanges > 0) {
+        m_isNoticeDue = true;
+    } else if (!m_isSuspended) {
         Q_EMIT dataChanged();
     }
 }
@@ -225,12 +226,12 @@ QStringList BOMPartsDatabase::bomPartDefinitions(const COMPONENT &component)
 
 void BOMPartsDatabase::createBOMParts(const QString &parentReference, const QStringList &definitions)
 {
-    const BulkChange change(this);
     ParentDefinitions parent{parentReference, {}};
     for (const QString &text : definitions) {
         parent.definitions.append({QString(), text});
     }
     m_bomOnlyParts.make(parent);
+    notify();
 }
 
 std::optional<DefinitionProperty> BOMPartsDatabase::addBOMParts(const QString &parentReference, int count,
@@ -331,21 +332,37 @@ void BOMPartsDatabase::setTemplateLook(const BOMTemplate &settings)
 
 bool BOMPartsDatabase::setTemplateLayout(const BOMTemplate &settings)
 {
-    const bool wasCaseSensitive = m_template.caseSensitiveGrouping();
-    if (!takeLayout(settings, &m_template)) {
-        return false;
+    const bool isChanged = applyLayout(settings);
+    if (isChanged) {
+        Q_EMIT currentTemplateModified(true);
     }
-    if (m_template.caseSensitiveGrouping() != wasCaseSensitive) {
-        updateFieldGrouping();
-    }
-    Q_EMIT currentTemplateModified(true);
-    return true;
+    return isChanged;
 }
 
 void BOMPartsDatabase::restoreTemplateLayout(const BOMTemplate &settings, bool wasModified)
 {
-    setTemplateLayout(settings);
+    (void)applyLayout(settings);
     Q_EMIT currentTemplateModified(wasModified);
+}
+
+bool BOMPartsDatabase::applyLayout(const BOMTemplate &settings)
+{
+    const bool wasCaseSensitive = m_template.caseSensitiveGrouping();
+    const bool isChanged = takeLayout(settings, &m_template);
+    if (m_template.caseSensitiveGrouping() != wasCaseSensitive) {
+        updateFieldGrouping();
+    }
+    return isChanged;
+}
+
+bool BOMPartsDatabase::setTemplateOptions(const BOMTemplate &settings)
+{
+    const bool isChanged = takeOptions(settings, &m_template);
+    if (isChanged) {
+        notify();
+        Q_EMIT currentTemplateModified(true);
+    }
+    return isChanged;
 }
 
 void BOMPartsDatabase::applyFields(const BOMFields &fields)
@@ -359,7 +376,6 @@ void BOMPartsDatabase::applyFields(const BOMFields &fields)
 
 void BOMPartsDatabase::applyCategories(const QList<BOMCategory> &categories)
 {
-    const BulkChange change(this);
     m_template.setCategories(categories);
     m_categories.rebuild();
     updateFieldGrouping();
@@ -420,8 +436,8 @@ void BOMPartsDatabase::updateBOMCategories(const QList<BOMCategory> &categories)
 
 void BOMPartsDatabase::updateFieldGrouping()
 {
-    const BulkChange change(this);
     m_categories.regroup();
+    notify();
 }
 
 void BOMPartsDatabase::nimProjectChanged(APPLNDOCUMENT *document)

@@ -30,7 +30,8 @@ class BOMPartsDatabase final : public QObject, public PartDatabase
     Q_OBJECT
 
 public:
-    /// Holds dataChanged() back while it lives. The outermost one emits it at its end.
+    /// Holds dataChanged() back while it lives. At the end of the outermost one it is emitted once, if
+    /// anything changed meanwhile.
     class BulkChange final
     {
     public:
@@ -65,12 +66,13 @@ public:
     void reload();
     /// Clears and emits no dataChanged() until reload().
     void clearAndSuspend();
-    [[nodiscard]] bool isUpdating() const { return m_isUpdating; }
+    [[nodiscard]] bool isUpdating() const { return m_bulkChanges > 0 || m_isSuspended; }
     /// While the design is being written, what the host tells of changes is to be ignored. The end of it asks
-    /// the module "BOM" for one full reload.
+    /// the module "BOM" for one full reload. See DesignWrite, which sets it together with the host's batch.
     void setWriting(bool isWriting);
     [[nodiscard]] bool isWriting() const { return m_isWriting; }
-    /// Emits dataChanged() unless it is held back or suspended.
+    /// Emits dataChanged(), at the end of the outermost BulkChange where there is one; nothing while
+    /// suspended.
     void notify();
 
     /// Null when no part has that reference. Parts live until clear().
@@ -139,8 +141,11 @@ public:
     /// See takeLayout(); only a change of the case rule groups anew. False, and nothing is emitted, when
     /// nothing differs.
     bool setTemplateLayout(const BOMTemplate &settings);
-    /// The same to go back to what was there before; emits currentTemplateModified(wasModified).
+    /// The same to go back to what was there before; emits currentTemplateModified(wasModified) and no other
+    /// one.
     void restoreTemplateLayout(const BOMTemplate &settings, bool wasModified);
+    /// See takeOptions(). False, and nothing is emitted, when nothing differs.
+    bool setTemplateOptions(const BOMTemplate &settings);
 
     /// The categories with their lines. The functions below give the same by references and texts.
     [[nodiscard]] const BOMCategories &categories() const { return m_categories; }
@@ -173,12 +178,16 @@ public Q_SLOTS:
 
 private:
     void readNetlist();
+    [[nodiscard]] bool applyLayout(const BOMTemplate &settings);
     void applyFields(const BOMFields &fields);
     void applyCategories(const QList<BOMCategory> &categories);
 
     NETCACHE *m_netlist = nullptr;
     std::function<bool()> m_isWindowVisible;
-    bool m_isUpdating = false;
+    int m_bulkChanges = 0;
+    /// A notice was held back by a BulkChange.
+    bool m_isNoticeDue = false;
+    bool m_isSuspended = false;
     bool m_isWriting = false;
     BOMTemplate m_template;
     QStringList m_templateRepairs;

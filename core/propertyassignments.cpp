@@ -5,12 +5,14 @@
 #include "core/bomlinks.h"
 #include "core/bompart.h"
 #include "core/bompartsdatabase.h"
+#include "core/designwrite.h"
 #include "core/resultstream.h"
 #include "core/storedconversion.h"
 #include "host/framework/hosttext.h"
 #include "host/framework/hostui.h"
 #include "host/propdefs/propdefsfile.h"
 
+#include <QScopedValueRollback>
 #include <QStringList>
 
 #include <sstream>
@@ -49,33 +51,20 @@ QString joinedMessages(const QList<CDBPROBLEM> &problems)
     return text;
 }
 
-/// A batch of the host's component database, of which there must be one. It is not written when it goes out
-/// of scope without commit().
-class HostBatch final
+/// Whether a value gives links to a placed part or, in a definition, to BOM-only parts.
+bool holdsLinks(const QString &property, const QString &value)
 {
-public:
-    HostBatch() { getcdb()->beginbatch(); }
-    HostBatch(const HostBatch &) = delete;
-    HostBatch &operator=(const HostBatch &) = delete;
-    ~HostBatch()
-    {
-        if (!m_isDone) {
-            getcdb()->dropbatch();
-        }
-    }
+    return property.compare(bomLinksProperty(), Qt::CaseInsensitive) == 0 ||
+           (property.startsWith(bomPartPropertyStart(), Qt::CaseInsensitive) &&
+            value.contains(bomLinksProperty(), Qt::CaseInsensitive));
+}
 
-    [[nodiscard]] bool commit()
-    {
-        m_isDone = true;
-        return getcdb()->commitbatch();
-    }
-
-private:
-    bool m_isDone = false;
-};
-
-void defineLinksProperty()
+/// A file that somebody marked read-only is left as it is; that matters only when links are written.
+void defineLinksProperty(bool writesLinks)
 {
+    if (!writesLinks && isreadonly_defaultdefs()) {
+        return;
+    }
     DIDX defined;
     PROPTEXT text;
     bool isKnown = load_defaultdefs(&defined, &text);
@@ -130,6 +119,7 @@ public:
     QMap<QString, QStringList> formerDefinitions;
     QList<CDBPROBLEM> problems;
     bool hasBOMParts = false;
+    bool writesLinks = false;
 
 private:
     void addPlaced(const QString &reference, const Values &values);
@@ -156,6 +146,7 @@ void PropertyAssignments::Batch::add(const QString &reference, const QString &pr
 {
     if (canCarry(reference, property, value)) {
         stored[reference].insert(property, value);
+        writesLinks = writesLinks || (value != removal() && holdsLinks(property, value));
     }
 }
 
@@ -172,7 +163,6 @@ bool PropertyAssignments::Batch::canCarry(const QString &reference, const QStrin
 /// The definitions of a parent that has changed parts are written anew, all of them.
 void PropertyAssignments::Batch::changeBOMParts(const QMap<QString, Values> &wanted)
 {
-    const BOMPartsDatabase::BulkChange change(m_database);
     for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
         changeBOMPart(it.key(), it.value());
     }
@@ -230,7 +220,7 @@ void PropertyAssignments::assignNow(const QString &reference, const QString &pro
         append(tr("There is no component database"), &m_result);
         return;
     }
-    HostBatch batch;
+    DesignWrite write(m_database);
     const QString problem = scriptProblem(reference, property, value);
     if (!problem.isEmpty()) {
         append(CDBPROBLEM{reference, property, {}, 0, problem}.message(), &m_result);
@@ -239,7 +229,7 @@ void PropertyAssignments::assignNow(const QString &reference, const QString &pro
     ResultStream output;
     std::istringstream text(toHostText(script(reference, {{property, value}})).toStdString());
     getcdb()->adi(text, output, 0);
-    const bool isWritten = batch.commit();
+    const bool isWritten = write.commit();
     if (!output.saysNoErrors()) {
         append(output.text(), &m_result);
     } else if (!isWritten) {
@@ -254,20 +244,25 @@ QString PropertyAssignments::apply()
 
 ApplyResult PropertyAssignments::apply(const ApplyOptions &options)
 {
+    if (m_isApplying) {
+        // A dialog of the host that is open meanwhile may lead back here.
+        const QString reason = tr("The design is being written already");
+        return {reason, {{{}, {}, {}, 0, reason}}};
+    }
     m_result.clear();
     if (m_pending.isEmpty()) {
         return {};
     }
-    if (!options.isDryRun) {
-        defineLinksProperty();
-    }
+    const QScopedValueRollback applying(m_isApplying, true);
+    // What changes is told when all is done: parts that the batch changes, and the reload after it.
+    const BOMPartsDatabase::BulkChange change(m_database);
     const QMap<QString, Values> wanted = std::exchange(m_pending, {});
     Batch batch(*this, wanted);
     if (!getcdb()) {
         batch.refuse({}, {}, tr("There is no component database"));
     }
     if (batch.problems.isEmpty()) {
-        run(&batch);
+        run(&batch, options);
     }
     if (batch.hasBOMParts && (options.isDryRun || !batch.problems.isEmpty())) {
         // The batch changed them to see what their definitions must say.
@@ -288,9 +283,9 @@ ApplyResult PropertyAssignments::apply(const ApplyOptions &options)
     return {m_result, batch.problems};
 }
 
-void PropertyAssignments::run(Batch *batch)
+void PropertyAssignments::run(Batch *batch, const ApplyOptions &options)
 {
-    HostBatch hostBatch;
+    DesignWrite write(m_database);
     for (auto it = batch->formerDefinitions.cbegin(); it != batch->formerDefinitions.cend(); ++it) {
         for (const QString &name : *it) {
             assignNow(it.key(), name, removal());
@@ -306,7 +301,10 @@ void PropertyAssignments::run(Batch *batch)
         // Clears the state flags only: what was written stays and is looked at again.
         output.clear();
     }
-    if (!hostBatch.commit()) {
+    if (!options.isDryRun) {
+        write.whenWritten([writesLinks = batch->writesLinks] { defineLinksProperty(writesLinks); });
+    }
+    if (!write.commit()) {
         batch->problems = getcdb()->problems();
         if (batch->problems.isEmpty()) {
             batch->refuse({}, {}, tr("The component database did not say why nothing was written"));

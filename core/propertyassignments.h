@@ -47,7 +47,7 @@ public:
 
     /// `value` is what people see, see storedValue(); an empty one takes the property away.
     void assign(const QString &reference, const QString &property, const QString &value);
-    /// Writes one stored value at once, or into the batch that is open.
+    /// Writes one stored value at once, or within the DesignWrite that is open.
     void assignNow(const QString &reference, const QString &property, const QString &value);
 
     [[nodiscard]] bool isEmpty() const { return m_pending.isEmpty(); }
@@ -57,7 +57,8 @@ public:
 
     /// Writes all pending assignments, placed parts by script, BOM-only parts into the definitions of their
     /// parents; references that the database does not hold are passed over. All or nothing is written; what
-    /// is refused stays pending.
+    /// is refused stays pending. While it writes, another call is refused. Once the files are written, the
+    /// property of the links is defined in the property definitions, see bomLinksProperty().
     ApplyResult apply(const ApplyOptions &options);
     /// The same without options; gives the text to be shown.
     QString apply();
@@ -79,9 +80,10 @@ public:
 private:
     class Batch;
 
-    void run(Batch *batch);
+    void run(Batch *batch, const ApplyOptions &options);
 
     BOMPartsDatabase *m_database;
     QMap<QString, Values> m_pending;
     QString m_result;
+    bool m_isApplying = false;
 };

@@ -86,6 +86,17 @@ bool takeFieldWidths(const BOMFields &source, BOMTemplate *target)
     return true;
 }
 
+/// False when the setting is the same in both.
+template<typename Getter, typename Setter>
+bool takeSetting(const BOMTemplate &source, BOMTemplate *target, Getter getter, Setter setter)
+{
+    if ((source.*getter)() == (target->*getter)()) {
+        return false;
+    }
+    (target->*setter)((source.*getter)());
+    return true;
+}
+
 } // namespace
 
 QStringList repairTemplate(BOMTemplate &settings)
@@ -116,10 +127,7 @@ bool takeLayout(const BOMTemplate &source, BOMTemplate *target)
 {
     bool isChanged = takeFieldWidths(source.fields(), target);
     const auto take = [&](auto getter, auto setter) {
-        if ((source.*getter)() != (target->*getter)()) {
-            (target->*setter)((source.*getter)());
-            isChanged = true;
-        }
+        isChanged = takeSetting(source, target, getter, setter) || isChanged;
     };
     take(&BOMTemplate::prettyQuantityWidth, &BOMTemplate::setPrettyQuantityWidth);
     take(&BOMTemplate::prettyRefWidth, &BOMTemplate::setPrettyRefWidth);
@@ -129,5 +137,18 @@ bool takeLayout(const BOMTemplate &source, BOMTemplate *target)
     take(&BOMTemplate::alwaysQuoteRefs, &BOMTemplate::setAlwaysQuoteRefs);
     take(&BOMTemplate::excludeValueField, &BOMTemplate::setExcludeValueField);
     take(&BOMTemplate::caseSensitiveGrouping, &BOMTemplate::setCaseSensitiveGrouping);
+    return isChanged;
+}
+
+bool takeOptions(const BOMTemplate &source, BOMTemplate *target)
+{
+    bool isChanged = false;
+    const auto take = [&](auto getter, auto setter) {
+        isChanged = takeSetting(source, target, getter, setter) || isChanged;
+    };
+    take(&BOMTemplate::suppressEmptyCategories, &BOMTemplate::setSuppressEmptyCategories);
+    take(&BOMTemplate::groupReferences, &BOMTemplate::setGroupReferences);
+    take(&BOMTemplate::fullTextOuputs, &BOMTemplate::setFullTextOuputs);
+    take(&BOMTemplate::appendNotes, &BOMTemplate::setAppendNotes);
     return isChanged;
 }

@@ -20,3 +20,7 @@ void takeLook(const BOMTemplate &source, BOMTemplate *target);
 /// takes the widths of the source's field of its name and keeps its own without one. False when nothing
 /// differed.
 [[nodiscard]] bool takeLayout(const BOMTemplate &source, BOMTemplate *target);
+
+/// Gives `target` the options that stand beside the report: categories without parts, how references are
+/// listed, full text and the project notes behind printed pages. False when nothing differed.
+[[nodiscard]] bool takeOptions(const BOMTemplate &source, BOMTemplate *target);

@@ -213,6 +213,7 @@ bool StandaloneCdb::commitbatch()
         return true;
     }
     const std::vector<designs::Edit> edits = std::exchange(m_staged, {});
+    const std::vector<std::function<void()>> actions = std::exchange(m_afterBatch, {});
     forget();
     if (!m_problems.isEmpty() || edits.empty()) {
         return m_problems.isEmpty();
@@ -222,7 +223,13 @@ bool StandaloneCdb::commitbatch()
     } else {
         fail(QStringLiteral("the design cannot be written"));
     }
-    return m_problems.isEmpty();
+    if (!m_problems.isEmpty()) {
+        return false;
+    }
+    for (const std::function<void()> &action : actions) {
+        action();
+    }
+    return true;
 }
 
 void StandaloneCdb::dropbatch()
@@ -231,7 +238,17 @@ void StandaloneCdb::dropbatch()
         return;
     }
     forget();
+    m_afterBatch.clear();
     if (--m_depth > 0 && m_problems.isEmpty()) {
         fail(QStringLiteral("a part of what was to be written was given up"));
+    }
+}
+
+void StandaloneCdb::afterbatch(std::function<void()> action)
+{
+    if (m_depth > 0) {
+        m_afterBatch.push_back(std::move(action));
+    } else {
+        action();
     }
 }

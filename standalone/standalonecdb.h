@@ -44,6 +44,7 @@ public:
     void beginbatch() override;
     bool commitbatch() override;
     void dropbatch() override;
+    void afterbatch(std::function<void()> action) override;
     [[nodiscard]] QList<CDBPROBLEM> problems() const override { return m_problems; }
 
 private:
@@ -60,6 +61,7 @@ private:
     std::shared_ptr<const LoadedDesign> m_design;
     Writer m_writer;
     int m_depth = 0;
+    std::vector<std::function<void()>> m_afterBatch;
     std::vector<designs::Edit> m_staged;
     /// By component and property, the last edit of it as an index into the staged ones.
     std::unordered_map<std::string, std::size_t> m_lastEdits;

@@ -49,9 +49,7 @@ void StandaloneNetlist::refreshCaches()
         caches.push_back(client.cache);
     }
     for (NETCACHE *cache : caches) {
-        const bool isAttached = std::any_of(m_clients.begin(), m_clients.end(),
-                                            [cache](const Client &client) { return client.cache == cache; });
-        if (isAttached) {
+        if (find(*cache)) {
             cache->validate(1);
         }
     }
@@ -64,9 +62,8 @@ IMODULE *StandaloneNetlist::queryinterface(unsigned id)
 
 bool StandaloneNetlist::sendnetlist(NETCACHE &cache, int, int)
 {
-    const auto client = std::find_if(m_clients.begin(), m_clients.end(),
-                                     [&cache](const Client &known) { return known.cache == &cache; });
-    if (!m_design || client == m_clients.end()) {
+    Client *client = find(cache);
+    if (!m_design || !client) {
         return false;
     }
     cache.validMask = usable;
@@ -74,15 +71,29 @@ bool StandaloneNetlist::sendnetlist(NETCACHE &cache, int, int)
     cache.components = m_design->components();
     cache.fitting = [design = m_design](QByteArrayView dnp) { return design->properties().fitting(dnp); };
     cache.propertyNames = m_design->properties().allNames();
-    if (client->sent != m_design) {
-        client->sentBefore = std::exchange(client->sent, m_design);
+    if (client->sent.empty() || client->sent.back() != m_design) {
+        client->sent.push_back(m_design);
     }
     return true;
 }
 
+void StandaloneNetlist::releaseformer(NETCACHE &cache)
+{
+    if (Client *client = find(cache); client && !client->sent.empty()) {
+        client->sent.erase(client->sent.begin(), client->sent.end() - 1);
+    }
+}
+
+StandaloneNetlist::Client *StandaloneNetlist::find(const NETCACHE &cache)
+{
+    const auto found = std::find_if(m_clients.begin(), m_clients.end(),
+                                    [&cache](const Client &known) { return known.cache == &cache; });
+    return found == m_clients.end() ? nullptr : &*found;
+}
+
 void StandaloneNetlist::addcache(NETCACHE *cache)
 {
-    m_clients.push_back({cache, nullptr, nullptr});
+    m_clients.push_back({cache, {}});
 }
 
 void StandaloneNetlist::removecache(NETCACHE *cache)

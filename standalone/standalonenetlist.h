@@ -19,8 +19,9 @@ public:
     /// Empties and detaches the caches that are still attached.
     virtual ~StandaloneNetlist();
 
-    /// Takes a design, or none, and marks the caches stale. What a cache holds stays alive until it is filled
-    /// for the second time from then: parts made of it may be used until their owner has made others.
+    /// Takes a design, or none, and marks the caches stale. What was sent to a cache stays alive until
+    /// releaseformer(): a client that ignores changes while it writes still points into it, however often the
+    /// cache is filled meanwhile.
     void setDesign(std::shared_ptr<const LoadedDesign> design);
     void invalidateCaches();
     /// Fills the caches that are stale; each calls its client.
@@ -30,14 +31,17 @@ public:
     bool sendnetlist(NETCACHE &cache, int context, int detail) override;
     void addcache(NETCACHE *cache) override;
     void removecache(NETCACHE *cache) override;
+    void releaseformer(NETCACHE &cache) override;
 
 private:
     struct Client
     {
         NETCACHE *cache = nullptr;
-        std::shared_ptr<const LoadedDesign> sent;
-        std::shared_ptr<const LoadedDesign> sentBefore;
+        /// What the cache was filled with and its client may point into; the cache holds the last one.
+        std::vector<std::shared_ptr<const LoadedDesign>> sent;
     };
+
+    [[nodiscard]] Client *find(const NETCACHE &cache);
 
     std::shared_ptr<const LoadedDesign> m_design;
     std::vector<Client> m_clients;

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
 #include <iosfwd>
 
 /// Where a component stands on the board.
@@ -75,6 +76,9 @@ public:
     virtual bool commitbatch() { return true; }
     /// Ends a batch and forgets what it collected; dropping an inner one makes the outer one fail.
     virtual void dropbatch() {}
+    /// Has something done once the outermost batch is written; it is forgotten when that batch is dropped or
+    /// refused. Outside of a batch, and in a host without batches, it is done at once.
+    virtual void afterbatch(std::function<void()> action) { action(); }
     /// All that kept the last batch, or the last script outside of one, from being written; the host keeps
     /// the list until the next begins.
     [[nodiscard]] virtual QList<CDBPROBLEM> problems() const { return {}; }

@@ -37,3 +37,10 @@ void NETCACHE::validate(int wait)
         m_client->designChanged(loaded);
     }
 }
+
+void NETCACHE::releaseformer()
+{
+    if (m_server) {
+        m_server->releaseformer(*this);
+    }
+}

@@ -29,6 +29,10 @@ public:
     virtual void addcache(NETCACHE *cache) = 0;
     virtual void removecache(NETCACHE *cache) = 0;
 
+    /// The cache's client points into nothing any more that the cache held before what it holds now. Until
+    /// then the server keeps all that it sent.
+    virtual void releaseformer(NETCACHE &) {}
+
 protected:
     ~INETSERVER() = default;
 };
@@ -53,6 +57,9 @@ public:
     /// Reads the netlist again when it is stale and tells the client, in that order. With `wait` 0 a stale
     /// cache only tells the client that the design changed.
     void validate(int wait);
+
+    /// To be called by the client when it points into nothing any more that the cache held before.
+    void releaseformer();
 
     /// Marks the content stale.
     void invalidate() { m_stale = true; }

@@ -249,6 +249,11 @@ bool save_defaultdefs(const PROPTEXT &text)
     return file.commit();
 }
 
+bool isreadonly_defaultdefs()
+{
+    return !theFile.isEmpty() && isMarkedReadOnly(theFile);
+}
+
 QString format_propdefs(const PROPDEF &definition)
 {
     QString line = u'"' + definition.name + QStringLiteral("\",") + propTypeKeyword(definition.type);

@@ -54,5 +54,8 @@ bool load_defaultdefs(DIDX *index, PROPTEXT *text, QStringList *problems = nullp
 /// failure, without a file, and for one that is marked read-only.
 [[nodiscard]] bool save_defaultdefs(const PROPTEXT &text);
 
+/// Whether there is a file that is marked read-only.
+[[nodiscard]] bool isreadonly_defaultdefs();
+
 /// One line of the section [PROPDEFS].
 [[nodiscard]] QString format_propdefs(const PROPDEF &definition);

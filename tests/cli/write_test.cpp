@@ -11,6 +11,7 @@ namespace {
 
 using testing::AllOf;
 using testing::HasSubstr;
+using testing::Not;
 
 const QString schematic = QStringLiteral("amp.kicad_sch");
 const QString list = QStringLiteral("list.csv");
@@ -141,11 +142,26 @@ TEST_F(Write, AFileThatCannotBeWrittenIsStatusFour)
     const QString lock = QStringLiteral("~amp.kicad_sch.lck");
     write(lock, {});
     expectRefused("set amp.kicad_sch R1 MPN=A", "amp.kicad_sch", 4);
+    expectRefused("set amp.kicad_sch R1 MPN=A --propdefs defs.ini", "amp.kicad_sch", 4);
+    EXPECT_THAT(read(QStringLiteral("defs.ini")), Not(HasSubstr("BOMLINKS"))) << "nothing was written";
     expectRefused("set amp.kicad_sch R1 MPN=A --dry-run", "amp.kicad_sch", 4);
     ASSERT_TRUE(QFile::remove(path(lock)));
     (void)done("set amp.kicad_sch R1 MPN=A");
     write(lock, {});
     EXPECT_EQ(run("undo amp.kicad_sch").status, 4);
+}
+
+TEST_F(Write, ReadOnlyDefinitionsMatterWhenLinksAreWritten)
+{
+    const QString definitions = path(QStringLiteral("defs.ini"));
+    ASSERT_TRUE(QFile::setPermissions(definitions, QFile::ReadOwner));
+    EXPECT_EQ(run("set amp.kicad_sch R1 MPN=A --propdefs defs.ini").err, "");
+    const ProgramRun linked = run("set amp.kicad_sch R1 BOMLINKS=MPN=https:%2F%2Fx --propdefs defs.ini");
+    EXPECT_EQ(linked.status, 0);
+    EXPECT_THAT(linked.err, HasSubstr("BOMLINKS could not be defined"));
+    ASSERT_TRUE(QFile::setPermissions(definitions, QFile::ReadOwner | QFile::WriteOwner));
+    (void)done("set amp.kicad_sch R1 MPN=B --propdefs defs.ini");
+    EXPECT_THAT(read(QStringLiteral("defs.ini")), HasSubstr("BOMLINKS"));
 }
 
 TEST_F(Write, AReportAppliedAsItIsChangesNothing)

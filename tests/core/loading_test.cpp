@@ -86,6 +86,25 @@ TEST_F(Loading, SendsOneNoticePerBulkChange)
     EXPECT_EQ(takeChanges(), 1);
 }
 
+TEST_F(Loading, TellsOfTemplateSettingsThatDiffer)
+{
+    BOMTemplate settings;
+    database.setCurrentTemplate(settings);
+    takeChanges();
+    settings.setSuppressEmptyCategories(true);
+    settings.setGroupReferences(false);
+    settings.setFullTextOuputs(true);
+    settings.setAppendNotes(true);
+    EXPECT_TRUE(database.setTemplateOptions(settings));
+    EXPECT_FALSE(database.setTemplateOptions(settings));
+    EXPECT_EQ(database.currentTemplate().toVariantMap(), settings.toVariantMap());
+    EXPECT_EQ(takeChanges(), 1);
+    settings.setCaseSensitiveGrouping(false);
+    database.restoreTemplateLayout(settings, false);
+    EXPECT_EQ(takeChanges(), 1);
+    EXPECT_EQ(modifications, (QList<bool>{true, false}));
+}
+
 TEST_F(Loading, ReplacesTheDesignWithOneNoticeEvenWhenSuspended)
 {
     load({{"R1", "1k"}});

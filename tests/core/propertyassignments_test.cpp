@@ -55,6 +55,7 @@ TEST_F(Assignments, AreWrittenAsOneScriptPerReference)
     assignments.assign(u"R1"_s, u"VALUE"_s, QString());
     assignments.assign(u"X9"_s, u"CODE"_s, u"nobody"_s);
     EXPECT_EQ(assignments.apply(), u"Applied successfully"_s);
+    EXPECT_EQ(takeChanges(), 0) << "the host's report of the change gives the notice";
     EXPECT_EQ(cdb.calls,
               (QStringList{u"begin"_s, u"DATA NAME : R1-\n\"VALUE\"   :   \"[REMOVE]\"\nEND\n\n"_s,
                            u"DATA NAME : R2-\n\"ALPHA\"   :   \"[REMOVE]\"\n\"CODE\"   :   \"100%1 \"ö\"\"\n"
@@ -204,6 +205,10 @@ TEST(AssignmentsAndDefinitions, DefineTheLinksOnce)
     };
     apply({true});
     EXPECT_FALSE(defined().find(u"BOMLINKS"_s)) << "a dry run";
+    cdb.refusal = {{{}, {}, {}, 0, u"is locked"_s}};
+    apply({});
+    EXPECT_FALSE(defined().find(u"BOMLINKS"_s)) << "nothing was written";
+    cdb.refusal.clear();
     apply({});
     apply({});
     ASSERT_TRUE(defined().find(u"BOMLINKS"_s));

@@ -11,7 +11,7 @@
 #include <vector>
 
 /// A design made from plain tables, with PACKAGE and VALUE as aliases of the footprint and the value.
-class TableDesign final : public designs::Design
+class TableDesign : public designs::Design
 {
 public:
     using Properties = std::vector<std::pair<std::string_view, std::string_view>>;

@@ -10,6 +10,8 @@
 #include <iterator>
 #include <ostream>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 /// A component database, installed while it lives, that knows the placements a test gives it and notes the
 /// scripts that it is to run.
@@ -56,17 +58,28 @@ public:
     bool commitbatch() override
     {
         calls << QStringLiteral("commit");
-        return --m_depth > 0 || refusal.isEmpty();
+        if (--m_depth > 0) {
+            return true;
+        }
+        for (const auto &action : std::exchange(m_actions, {})) {
+            if (refusal.isEmpty()) {
+                action();
+            }
+        }
+        return refusal.isEmpty();
     }
     void dropbatch() override
     {
         --m_depth;
         calls << QStringLiteral("drop");
+        m_actions.clear();
     }
+    void afterbatch(std::function<void()> action) override { m_actions.push_back(std::move(action)); }
     QList<CDBPROBLEM> problems() const override { return refusal; }
 
 private:
     int m_depth = 0;
+    std::vector<std::function<void()>> m_actions;
     std::deque<CDBLAYOUT> m_layouts;
     std::unordered_map<quint64, CDBPART> m_parts;
 };
