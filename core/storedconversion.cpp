@@ -4,8 +4,6 @@
 
 #include "host/framework/hostui.h"
 
-#include <QLocale>
-
 #include <cmath>
 
 namespace {
@@ -50,8 +48,7 @@ QString wholeNumber(QString text)
 
 StoredConversion::StoredConversion(std::optional<PropType> type)
     : m_type(type)
-    , m_decimalPoint(HostUi::current().locale().decimalPoint())
-    , m_minus(HostUi::current().locale().negativeSign())
+    , m_locale(HostUi::current().locale())
 {
 }
 
@@ -64,13 +61,30 @@ bool StoredConversion::accepts(const QString &shown) const
         return isOneOf(shown, states->upper, QLatin1Char('1')) ||
                isOneOf(shown, states->lower, QLatin1Char('0'));
     }
-    bool isNumber = true;
     if (*m_type == PropType::Int) {
-        (void)(*this)(shown).toLongLong(&isNumber);
-    } else if (*m_type == PropType::Float) {
+        return isWholeNumber(shown);
+    }
+    bool isNumber = true;
+    if (*m_type == PropType::Float) {
         isNumber = std::isfinite((*this)(shown).toDouble(&isNumber)) && isNumber;
     }
     return isNumber;
+}
+
+bool StoredConversion::isWholeNumber(const QString &shown) const
+{
+    bool isNumber = false;
+    const qint64 stored = (*this)(shown).toLongLong(&isNumber);
+    if (!isNumber) {
+        return false;
+    }
+    // The stored text is without points and commas: 1.5 must not become 15.
+    QString text = shown;
+    text.remove(u' ').replace(m_locale.negativeSign(), QStringLiteral("-"));
+    bool isPlain = false;
+    bool isGrouped = false;
+    return (text.toLongLong(&isPlain) == stored && isPlain) ||
+           (m_locale.toLongLong(text, &isGrouped) == stored && isGrouped);
 }
 
 QString StoredConversion::operator()(const QString &shown) const
@@ -86,12 +100,12 @@ QString StoredConversion::operator()(const QString &shown) const
     }
     // Swedish and others have a minus sign of their own, perhaps with a mark of direction.
     QString stored = shown;
-    stored.replace(m_minus, QStringLiteral("-"));
+    stored.replace(m_locale.negativeSign(), QStringLiteral("-"));
     if (*m_type == PropType::Int) {
         return wholeNumber(stored);
     }
-    if (m_decimalPoint != u'.') {
-        stored.replace(m_decimalPoint, QStringLiteral("."));
+    if (m_locale.decimalPoint() != u'.') {
+        stored.replace(m_locale.decimalPoint(), QStringLiteral("."));
     }
     return stored;
 }

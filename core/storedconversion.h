@@ -4,6 +4,7 @@
 
 #include "host/propdefs/propdef.h"
 
+#include <QLocale>
 #include <QString>
 
 #include <optional>
@@ -16,7 +17,8 @@ public:
     explicit StoredConversion(std::optional<PropType> type);
 
     /// Whether the text is one that the type has: one of its two states, as shown or as stored and in any
-    /// letter case, or a number in the user's format. An empty text always is.
+    /// letter case, or a number in the user's format. In a whole number points and commas only group digits.
+    /// An empty text always is.
     [[nodiscard]] bool accepts(const QString &shown) const;
 
     /// The stored text. One that is not accepted gives the lower state of a type with two, and stays in a
@@ -24,7 +26,8 @@ public:
     [[nodiscard]] QString operator()(const QString &shown) const;
 
 private:
+    [[nodiscard]] bool isWholeNumber(const QString &shown) const;
+
     std::optional<PropType> m_type;
-    QString m_decimalPoint;
-    QString m_minus;
+    QLocale m_locale;
 };

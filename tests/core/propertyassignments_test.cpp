@@ -184,7 +184,12 @@ TEST_F(Assignments, AcceptWhatTheTypeOfTheirPropertyHas)
     }
     EXPECT_FALSE(assignments.accepts(u"COST"_s, u"1.234,5"_s));
     EXPECT_FALSE(assignments.accepts(u"COST"_s, u"nan"_s));
-    EXPECT_FALSE(assignments.accepts(u"AMOUNT"_s, u"many"_s));
+    for (const QString &text : {u"1.500"_s, u"-1 500"_s, u"0007"_s}) {
+        EXPECT_TRUE(assignments.accepts(u"AMOUNT"_s, text)) << text.toStdString();
+    }
+    for (const QString &text : {u"many"_s, u"1,5"_s, u"1.5"_s, u"1.500,0"_s}) {
+        EXPECT_FALSE(assignments.accepts(u"AMOUNT"_s, text)) << text.toStdString();
+    }
 }
 
 TEST(AssignmentsAndDefinitions, DefineTheLinksOnce)
