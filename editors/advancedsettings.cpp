@@ -99,12 +99,25 @@ void AdvancedSettings::addColumn(const QString &title, int prettyWidth, int asci
     QSpinBox *pretty = addRow(m_ui->prettyLayout, title);
     pretty->setSuffix(QStringLiteral("%"));
     pretty->setRange(range.least, range.most);
-    pretty->setValue(prettyWidth);
+    showWidth(pretty, prettyWidth);
     m_prettyWidths.append(pretty);
     QSpinBox *ascii = addRow(m_ui->asciiLayout, title);
     ascii->setRange(asciiRange.least, asciiRange.most);
-    ascii->setValue(asciiWidth);
+    showWidth(ascii, asciiWidth);
     m_asciiWidths.append(ascii);
+}
+
+void AdvancedSettings::showWidth(QSpinBox *spin, int width)
+{
+    spin->setValue(width);
+    m_storedWidths.insert(spin, {width, spin->value()});
+}
+
+int AdvancedSettings::widthOf(const QSpinBox *spin) const
+{
+    // A width outside of the range that nobody touched stays what it is.
+    const StoredWidth stored = m_storedWidths.value(spin);
+    return spin->value() == stored.shown ? stored.width : spin->value();
 }
 
 void AdvancedSettings::showTemplate()
@@ -201,16 +214,16 @@ void AdvancedSettings::balance(qsizetype changed)
 BOMTemplate AdvancedSettings::shownTemplate() const
 {
     BOMTemplate shown = m_database->currentTemplate();
-    shown.setPrettyQuantityWidth(m_prettyWidths[0]->value());
-    shown.setAsciiQuantityWidth(m_asciiWidths[0]->value());
-    shown.setPrettyRefWidth(m_prettyWidths[1]->value());
-    shown.setAsciiRefWidth(m_asciiWidths[1]->value());
+    shown.setPrettyQuantityWidth(widthOf(m_prettyWidths[0]));
+    shown.setAsciiQuantityWidth(widthOf(m_asciiWidths[0]));
+    shown.setPrettyRefWidth(widthOf(m_prettyWidths[1]));
+    shown.setAsciiRefWidth(widthOf(m_asciiWidths[1]));
     BOMFields fields = shown.fields();
     const QList<BOMField> columns = fields.fields();
     for (qsizetype i = 0; i < columns.size() && i + 2 < m_prettyWidths.size(); ++i) {
         BOMField field = columns[i];
-        field.manualWidth = m_prettyWidths[i + 2]->value();
-        field.asciiWidth = m_asciiWidths[i + 2]->value();
+        field.manualWidth = widthOf(m_prettyWidths[i + 2]);
+        field.asciiWidth = widthOf(m_asciiWidths[i + 2]);
         fields.set(field);
     }
     shown.setFields(fields);

@@ -5,6 +5,7 @@
 #include "host/widgets/applndialog.h"
 #include "templates/bomtemplate.h"
 
+#include <QHash>
 #include <QList>
 
 #include <memory>
@@ -49,6 +50,9 @@ private:
     void setUpTabOrder();
     void connectChanges();
     void balance(qsizetype changed);
+    /// Shows a stored width, or the one of the spin box's range that is nearest.
+    void showWidth(QSpinBox *spin, int width);
+    [[nodiscard]] int widthOf(const QSpinBox *spin) const;
     [[nodiscard]] BOMTemplate shownTemplate() const;
     void notify(const BOMTemplate &before);
 
@@ -59,4 +63,10 @@ private:
     /// Quantity, References, then the fields.
     QList<QSpinBox *> m_prettyWidths;
     QList<QSpinBox *> m_asciiWidths;
+    struct StoredWidth
+    {
+        int width = 0;
+        int shown = 0;
+    };
+    QHash<const QSpinBox *, StoredWidth> m_storedWidths;
 };

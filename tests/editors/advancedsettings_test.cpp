@@ -187,4 +187,23 @@ TEST_F(Advanced, OkTakesTheNumberBeingTyped)
     EXPECT_EQ(storedWidths(), prettyWidths());
 }
 
+TEST_F(Advanced, OkWithNothingTouchedChangesNothing)
+{
+    BOMTemplate settings = database.currentTemplate();
+    settings.setPrettyQuantityWidth(0);
+    settings.setAsciiRefWidth(2'000'000);
+    BOMFields fields = settings.fields();
+    BOMField narrow = fields.get(u"A&B <b>"_s);
+    narrow.manualWidth = -3;
+    narrow.asciiWidth = -1;
+    fields.set(narrow);
+    settings.setFields(fields);
+    database.setCurrentTemplate(settings);
+    AdvancedSettings untouched(&database, false);
+    const QSignalSpy modified(&database, &BOMPartsDatabase::currentTemplateModified);
+    untouched.accept();
+    EXPECT_EQ(database.currentTemplate().toVariantMap(), settings.toVariantMap());
+    EXPECT_EQ(modified.size(), 0);
+}
+
 } // namespace
