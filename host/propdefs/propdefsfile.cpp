@@ -115,11 +115,14 @@ bool isMarkedReadOnly(const QString &path)
 PROPTEXT PROPTEXT::fromBytes(const QByteArray &bytes)
 {
     PROPTEXT read;
-    QStringDecoder decoder(QStringDecoder::Utf8);
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
     QString text = decoder(bytes);
     if (decoder.hasError()) {
         read.m_isLatin1 = true;
         text = QString::fromLatin1(bytes);
+    } else if (text.startsWith(QChar::ByteOrderMark)) {
+        read.m_hasMark = true;
+        text.remove(0, 1);
     }
     if (text.contains(QLatin1String("\r\n"))) {
         read.m_lineEnd = QStringLiteral("\r\n");
@@ -134,7 +137,8 @@ PROPTEXT PROPTEXT::fromBytes(const QByteArray &bytes)
 
 QByteArray PROPTEXT::toBytes() const
 {
-    const QString text = m_lines.join(m_lineEnd) + m_lineEnd;
+    const QString mark = m_hasMark ? QString(QChar(QChar::ByteOrderMark)) : QString();
+    const QString text = mark + m_lines.join(m_lineEnd) + m_lineEnd;
     const bool fits = std::ranges::all_of(text, [](QChar c) { return c.unicode() <= 0xFF; });
     return m_isLatin1 && fits ? text.toLatin1() : text.toUtf8();
 }

@@ -22,8 +22,8 @@ public:
 
     /// The text of a file in UTF-8 or, when it is none, Latin-1.
     [[nodiscard]] static PROPTEXT fromBytes(const QByteArray &bytes);
-    /// The file again, in the encoding and with the line ends that it had; in UTF-8 when Latin-1 lacks a
-    /// character.
+    /// The file again, in the encoding and with the byte-order mark and the line ends that it had; in UTF-8
+    /// when Latin-1 lacks a character.
     [[nodiscard]] QByteArray toBytes() const;
 
     /// Adds a line at the end of a section, which is made when it is missing.
@@ -38,6 +38,7 @@ private:
     QStringList m_lines;
     QString m_lineEnd = QStringLiteral("\n");
     bool m_isLatin1 = false;
+    bool m_hasMark = false;
 };
 
 /// The file that load_defaultdefs() reads and save_defaultdefs() writes; empty means the shipped definitions

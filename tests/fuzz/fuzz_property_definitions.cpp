@@ -30,7 +30,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 std::vector<std::string> fuzzSeeds()
 {
     return {"; mine\r\n[PROPDEFS]\r\n\"A\",INT\r\n\"B\",FLOAT,\"of \xFC\"\r\n\r\n[Other]\r\nx=1\r\n",
-            "[PROPDEFS]\n\"A\",YESNO\n\"a\",INT\n\"C\",STRING,\"x, \"\"y\"\"\"\n#\n"};
+            "[PROPDEFS]\n\"A\",YESNO\n\"a\",INT\n\"C\",STRING,\"x, \"\"y\"\"\"\n#\n",
+            "\xEF\xBB\xBF\xEF\xBB\xBF[PP"};
 }
 
 std::vector<std::string> fuzzWords()
