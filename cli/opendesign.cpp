@@ -8,7 +8,7 @@
 #include "host/propdefs/propdefsfile.h"
 #include "richtext/paper/pagepainter.h"
 #include "standalone/environment.h"
-#include "templates/templatestore.h"
+#include "templates/templatelist.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -19,7 +19,7 @@ ExitStatus OpenDesign::open(const DesignArguments &arguments, bool printsWarning
         return ExitStatus::UnreadableInput;
     }
     const auto settings =
-        readTemplate(arguments.templateName.empty() ? TemplateStore::defaultName()
+        readTemplate(arguments.templateName.empty() ? TemplateList::defaultName()
                                                     : QString::fromStdString(arguments.templateName));
     if (!settings) {
         return ExitStatus::UnreadableInput;

@@ -10,12 +10,12 @@
 #include "cli/opendesign.h"
 #include "cli/outputfile.h"
 #include "host/propdefs/propdefsfile.h"
+#include "templates/oldhtmltemplate.h"
 #include "views/pdfreport.h"
 #include "views/report/asciireport.h"
 #include "views/report/csvreport.h"
 #include "views/report/htmlreport.h"
 #include "views/report/jsonreport.h"
-#include "views/report/oldhtmltemplate.h"
 #include "views/report/report.h"
 #include "views/report/spreadsheetreport.h"
 
@@ -230,8 +230,10 @@ ReportCommand::Content ReportCommand::documentContent(Form form, BOMPartsDatabas
     if (form == Form::Pdf && !hasFonts()) {
         return {{}, QStringLiteral("no fonts are installed")};
     }
-    if (upgradeTemplate(database)) {
-        showTemplateUpgraded(nullptr, database.currentTemplate().name());
+    BOMTemplate settings = database.currentTemplate();
+    if (upgradeTemplate(settings)) {
+        database.setTemplateLook(settings);
+        showTemplateUpgraded(nullptr, settings.name());
     }
     const Report report(database, database.currentTemplate().fields());
     return {form == Form::Pdf ? pdfReport(report) : htmlReport(report).toUtf8()};

@@ -25,6 +25,8 @@ std::optional<BOMTemplate> readFile(const QString &path)
     auto settings = BOMTemplate::fromFile(path, &problem);
     if (!settings) {
         console::message(problem);
+    } else if (settings->isOfLaterVersion()) {
+        showTemplateMessage(settings->laterVersionMessage());
     }
     return settings;
 }
@@ -62,21 +64,21 @@ std::optional<BOMTemplate> readTemplate(const QString &nameOrFile)
     if (const QString path = fileOf(nameOrFile); !path.isEmpty()) {
         return readFile(path);
     }
-    const bool isDefault = nameOrFile.compare(TemplateStore::defaultName(), Qt::CaseInsensitive) == 0;
+    const bool isDefault = nameOrFile.compare(TemplateList::defaultName(), Qt::CaseInsensitive) == 0;
     if (isDefault && !QFileInfo::exists(legacyTemplatesFile())) {
         BOMTemplate settings;
-        settings.setName(TemplateStore::defaultName());
+        settings.setName(TemplateList::defaultName());
         return settings;
     }
     TemplateStore store;
     store.reload();
-    const QString name = store.listedName(nameOrFile);
+    const QString name = store.templates().listedName(nameOrFile);
     if (name.isEmpty()) {
         console::message(QStringLiteral("there is no template \"") + nameOrFile +
                          QStringLiteral("\" (bom template list names them)"));
         return std::nullopt;
     }
-    BOMTemplate settings = store.storedTemplate(name);
+    BOMTemplate settings = store.templates().stored(name);
     settings.setLegacySettings(nullptr); // it goes with the store
     return settings;
 }

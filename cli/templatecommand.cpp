@@ -11,6 +11,7 @@
 #include "standalone/environment.h"
 #include "templates/bomtemplatefile.h"
 #include "templates/legacytemplate.h"
+#include "templates/oldhtmltemplate.h"
 #include "templates/templatepaths.h"
 #include "templates/templatestore.h"
 
@@ -184,7 +185,7 @@ ExitStatus TemplateCommand::run()
 
 QString TemplateCommand::listedName(const TemplateStore &store) const
 {
-    const QString name = store.listedName(QString::fromStdString(m_name));
+    const QString name = store.templates().listedName(QString::fromStdString(m_name));
     if (name.isEmpty()) {
         console::message(QStringLiteral("there is no template \"") + QString::fromStdString(m_name) +
                          QStringLiteral("\" (bom template list names them)"));
@@ -196,19 +197,21 @@ ExitStatus TemplateCommand::list(TemplateStore &store)
 {
     store.reload();
     QString text;
-    for (const QString &name : store.names()) {
-        text += printable(name) +
-                (store.isShipped(name) ? QStringLiteral("\tcomes with the program\n") : QStringLiteral("\n"));
+    for (const QString &name : store.templates().names()) {
+        text += printable(name) + (store.templates().isShipped(name)
+                                       ? QStringLiteral("\tcomes with the program\n")
+                                       : QStringLiteral("\n"));
     }
     return console::write(text.toUtf8()) ? ExitStatus::Done : ExitStatus::UnwritableOutput;
 }
 
 ExitStatus TemplateCommand::show(TemplateStore &)
 {
-    const auto settings = readTemplate(QString::fromStdString(m_name));
+    auto settings = readTemplate(QString::fromStdString(m_name));
     if (!settings) {
         return ExitStatus::UnreadableInput;
     }
+    (void)upgradeTemplate(*settings);
     return console::write(templateListing(*settings).toUtf8()) ? ExitStatus::Done
                                                                : ExitStatus::UnwritableOutput;
 }
@@ -222,11 +225,12 @@ ExitStatus TemplateCommand::create(TemplateStore &store)
         return ExitStatus::UnreadableInput;
     }
     store.reload();
-    if (!store.mayCreate(name)) {
-        return ExitStatus::DesignProblem;
-    }
+    const bool isRefused = !store.creationProblem(name).isEmpty();
     settings->setName(name);
-    return store.add(*settings) ? ExitStatus::Done : ExitStatus::UnwritableOutput;
+    if (store.add(*settings)) {
+        return ExitStatus::Done;
+    }
+    return isRefused ? ExitStatus::DesignProblem : ExitStatus::UnwritableOutput;
 }
 
 ExitStatus TemplateCommand::remove(TemplateStore &store)
@@ -245,7 +249,11 @@ ExitStatus TemplateCommand::remove(TemplateStore &store)
 ExitStatus TemplateCommand::reset(TemplateStore &store)
 {
     store.reload();
-    return store.restoreDefault() ? ExitStatus::Done : ExitStatus::UnwritableOutput;
+    const bool isRefused = store.templates().stored(TemplateList::defaultName()).isOfLaterVersion();
+    if (store.restoreDefault()) {
+        return ExitStatus::Done;
+    }
+    return isRefused ? ExitStatus::DesignProblem : ExitStatus::UnwritableOutput;
 }
 
 ExitStatus TemplateCommand::importFile(TemplateStore &store)
@@ -258,7 +266,7 @@ ExitStatus TemplateCommand::importFile(TemplateStore &store)
     }
     store.reload();
     const QString name = QFileInfo(path).completeBaseName();
-    const bool isRefused = store.contains(name) || !isTemplateFileName(name);
+    const bool isRefused = store.templates().contains(name) || !isTemplateFileName(name);
     if (store.importFile(path)) {
         return ExitStatus::Done;
     }
@@ -278,13 +286,11 @@ ExitStatus TemplateCommand::importLegacy(TemplateStore &store)
     }
     store.reload();
     BOMTemplate made = legacyTemplate(*found);
-    made.setName(m_name.empty() ? proposedTemplateName(found->name, store)
+    made.setName(m_name.empty() ? proposedTemplateName(found->name, store.templates())
                                 : QString::fromStdString(m_name).trimmed());
-    if (!store.mayCreate(made.name())) {
-        return ExitStatus::DesignProblem;
-    }
+    const bool isRefused = !store.creationProblem(made.name()).isEmpty();
     if (!store.add(made)) {
-        return ExitStatus::UnwritableOutput;
+        return isRefused ? ExitStatus::DesignProblem : ExitStatus::UnwritableOutput;
     }
     setpropdefsfile(userDefinitionsFile());
     const QStringList undefined = undefinedProperties(made);
@@ -303,9 +309,9 @@ ExitStatus TemplateCommand::exportFile(TemplateStore &store)
         return ExitStatus::UnreadableInput;
     }
     QString reason;
-    const auto content = store.document(name, &reason);
+    const auto content = store.templates().document(name, &reason);
     if (!content) {
-        console::message(store.storedTemplate(name).filePath() + QStringLiteral(": ") + reason);
+        console::message(store.templates().stored(name).filePath() + QStringLiteral(": ") + reason);
         return ExitStatus::UnreadableInput;
     }
     return writeOutput(QString::fromStdString(m_file), *content) ? ExitStatus::Done

@@ -125,7 +125,7 @@ void BOMTemplateImporter::setOutputName()
     m_ui->templateNameEdit->clear();
     const int index = m_ui->scriptsCombo->currentIndex();
     if (index >= 0) {
-        m_ui->templateNameEdit->setText(proposedTemplateName(m_scripts.at(index).name, *m_store));
+        m_ui->templateNameEdit->setText(proposedTemplateName(m_scripts.at(index).name, m_store->templates()));
     }
 }
 
@@ -137,13 +137,14 @@ void BOMTemplateImporter::importBomScript()
     }
     BOMTemplate made = legacyTemplate(m_scripts.at(index));
     const QString name = m_ui->templateNameEdit->text().trimmed();
-    if (m_store->contains(name)) {
+    if (m_store->templates().contains(name)) {
         HostUi::current().warning(this, tr("Import Failed"),
                                   tr("A template named '%1' already exists!").arg(name));
         return;
     }
     // Before anything is defined for it.
-    if (!m_store->mayCreate(name)) {
+    if (const QString problem = m_store->creationProblem(name); !problem.isEmpty()) {
+        HostUi::current().information(this, TemplateStore::tr("Could not create template"), problem);
         return;
     }
     defineProperties(made);

@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "templates/bomfields.h"
 
+#include "templates/clampedint.h"
+
 namespace {
 int widthOf(const QVariantMap &map, const QString &key, int missing)
 {
     const auto found = map.constFind(key);
-    return found == map.constEnd() ? missing : found->toInt();
+    return found == map.constEnd() ? missing : clampedInt(*found);
 }
 } // namespace
 
@@ -38,9 +40,9 @@ BOMField BOMField::fromVariantMap(const QVariantMap &map)
     field.applyToEmpty = map.value(QStringLiteral("applyToEmpty")).toBool();
     field.generateTotals = map.value(QStringLiteral("generateTotals")).toBool();
     field.enableLinks = map.value(QStringLiteral("enableLinks")).toBool();
-    field.precision = map.value(QStringLiteral("precision")).toInt();
-    field.fieldWidth = map.value(QStringLiteral("fieldWidth")).toInt();
-    field.fieldLines = map.value(QStringLiteral("fieldLines")).toInt();
+    field.precision = clampedInt(map.value(QStringLiteral("precision")));
+    field.fieldWidth = clampedInt(map.value(QStringLiteral("fieldWidth")));
+    field.fieldLines = clampedInt(map.value(QStringLiteral("fieldLines")));
     field.asciiWidth = widthOf(map, QStringLiteral("asciiWidth"), DefaultAsciiWidth);
     field.manualWidth = widthOf(map, QStringLiteral("manualWidth"), DefaultManualWidth);
     return field;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "templates/bomtemplate.h"
 
+#include "templates/clampedint.h"
 #include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
 
@@ -11,6 +12,7 @@
 #include <QSettings>
 
 #include <limits>
+#include <type_traits>
 
 namespace {
 /// A member under its key, and the first document version that has it.
@@ -58,12 +60,21 @@ void write(const Entry<T> (&entries)[count], const Record &record, QVariantMap &
         map.insert(entry.key, QVariant::fromValue(record.*entry.member));
 }
 
+template<typename T>
+T valueOf(const QVariant &value)
+{
+    if constexpr (std::is_same_v<T, int>)
+        return clampedInt(value);
+    else
+        return value.value<T>();
+}
+
 template<typename T, std::size_t count>
 void read(const Entry<T> (&entries)[count], const QVariantMap &map, Record &record)
 {
     for (const Entry<T> &entry : entries) {
         if (record.version >= entry.since)
-            record.*entry.member = map.value(entry.key).template value<T>();
+            record.*entry.member = valueOf<T>(map.value(entry.key));
     }
 }
 
@@ -176,6 +187,7 @@ bool BOMTemplate::loadFromFile()
 void BOMTemplate::take(const BOMTemplateDocument &document)
 {
     m_record.version = document.version;
+    m_record.fileVersion = document.version;
     fromVariantMap(document.map);
 }
 
@@ -212,10 +224,21 @@ bool BOMTemplate::save()
         showTemplateMessage({tr("BOM Template Save Failed"), text.arg(m_record.name), problem});
         return false;
     }
+    m_record.fileVersion = CurrentVersion;
     // Removing the empty key would remove every entry of the group.
     if (m_record.legacySettings && !m_record.name.isEmpty())
         m_record.legacySettings->remove(m_record.name);
     return true;
+}
+
+TemplateMessage BOMTemplate::laterVersionMessage() const
+{
+    const QString text = tr("The BOM template '%1' was written by a later version of this program.  "
+                            "Settings that this version does not know are left out.");
+    const QString detail = tr("has the format version %1, which is later than %2: settings that this version "
+                              "does not know are left out");
+    return {tr("BOM Template of a Later Version"), text.arg(m_record.name),
+            m_record.filePath + QLatin1String(": ") + detail.arg(m_record.fileVersion).arg(CurrentVersion)};
 }
 
 QVariantMap BOMTemplate::toVariantMap() const

@@ -14,6 +14,7 @@
 #include <optional>
 
 class QSettings;
+struct TemplateMessage;
 
 /// The data of a template. Member names are the names that files use.
 struct BOMTemplateRecord
@@ -42,6 +43,8 @@ struct BOMTemplateRecord
     QSettings *legacySettings = nullptr;
     QString htmlTemplateFileName;
     QString filePath;
+    /// The format version of the file that was read or written last, 0 without one.
+    qint32 fileVersion = 0;
 };
 
 /// A named set of report settings: columns, categories, how references are listed, style sheet, header and
@@ -164,6 +167,12 @@ public:
 
     [[nodiscard]] bool caseSensitiveGrouping() const { return m_record.CaseSensitiveGrouping; }
     void setCaseSensitiveGrouping(bool sensitive) { m_record.CaseSensitiveGrouping = sensitive; }
+
+    /// Whether the file comes from a later version of the program, so that it may hold more than was read.
+    /// Ends with save().
+    [[nodiscard]] bool isOfLaterVersion() const { return m_record.fileVersion > CurrentVersion; }
+    /// What the user is to be told then.
+    [[nodiscard]] TemplateMessage laterVersionMessage() const;
 
     /// Absolute path of the HTML file that an old template used, else empty.
     [[nodiscard]] QString htmlTemplateFileName() const { return m_record.htmlTemplateFileName; }

@@ -3,7 +3,8 @@
 #include "templates/legacytemplate.h"
 
 #include "host/propdefs/propdefsfile.h"
-#include "templates/templatestore.h"
+#include "templates/clampedint.h"
+#include "templates/templatelist.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -71,7 +72,7 @@ private:
         }
         BOMField field;
         field.propertyName = values.at(0);
-        field.fieldWidth = values.at(1).toInt();
+        field.fieldWidth = clampedInt(values.at(1));
         field.asciiWidth = field.fieldWidth;
         field.fieldName = values.at(2);
         field.prefix = values.at(4);
@@ -130,12 +131,12 @@ BOMTemplate legacyTemplate(const LegacyScript &script)
     return conversion.result();
 }
 
-QString proposedTemplateName(const QString &scriptName, const TemplateStore &store)
+QString proposedTemplateName(const QString &scriptName, const TemplateList &templates)
 {
     const QString name = scriptName.isEmpty()
                              ? QCoreApplication::translate("BOMTemplateImporter", "Imported Template")
                              : scriptName;
-    return store.contains(name) ? name + QStringLiteral("-copy") : name;
+    return templates.contains(name) ? name + QStringLiteral("-copy") : name;
 }
 
 QStringList undefinedProperties(const BOMTemplate &settings)

@@ -8,7 +8,7 @@
 #include <QString>
 #include <QStringList>
 
-class TemplateStore;
+class TemplateList;
 
 /// The values of a line, the text behind its "=". A part in double quotes is one value, empty or with commas.
 [[nodiscard]] QStringList legacyScriptValues(const QString &text);
@@ -17,8 +17,9 @@ class TemplateStore;
 /// keys, or another number of values, are skipped.
 [[nodiscard]] BOMTemplate legacyTemplate(const LegacyScript &script);
 
-/// The name under which a legacy script is offered for import, "-copy" behind it when the store has it.
-[[nodiscard]] QString proposedTemplateName(const QString &scriptName, const TemplateStore &store);
+/// The name under which a legacy script is offered for import, "-copy" behind it when there is one of that
+/// name.
+[[nodiscard]] QString proposedTemplateName(const QString &scriptName, const TemplateList &templates);
 
 /// The properties of the template's fields that have no definition, each once, in column order. Those that
 /// every part has without one, VALUE and the pseudo-properties with a full stop, are not among them. None

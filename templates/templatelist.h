@@ -36,6 +36,8 @@ public:
     /// The user's own by name, "Default" in front unless it has a place of its own, then those that come with
     /// the system; new ones at the end.
     [[nodiscard]] const QStringList &names() const { return m_names; }
+    /// Whether a template has the name, ignoring case.
+    [[nodiscard]] bool contains(const QString &name) const { return !listedName(name).isEmpty(); }
     /// The list's spelling of a name: the exact one, else the first that differs only in case, else empty.
     [[nodiscard]] QString listedName(const QString &name) const;
     /// The stored settings; the defaults under that name when there are none. May point to the legacy

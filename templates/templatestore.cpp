@@ -4,6 +4,7 @@
 
 #include "host/framework/hostsettings.h"
 #include "host/framework/reportfile.h"
+#include "templates/oldhtmltemplate.h"
 #include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
 
@@ -40,12 +41,13 @@ void TemplateStore::reload()
     setModified(false);
     Q_EMIT namesChanged();
     const QString remembered = HostSettings::current().value(settingsGroup, currentKey).value_or(QString());
-    select(names().contains(remembered) ? remembered : names().constFirst());
+    const QStringList &names = m_list.names();
+    select(names.contains(remembered) ? remembered : names.constFirst());
 }
 
 bool TemplateStore::canDelete(const QString &name) const
 {
-    return name.compare(defaultName(), Qt::CaseInsensitive) != 0 && !isShipped(name);
+    return name.compare(TemplateList::defaultName(), Qt::CaseInsensitive) != 0 && !m_list.isShipped(name);
 }
 
 void TemplateStore::setModified(bool modified)
@@ -66,7 +68,7 @@ bool TemplateStore::select(const QString &name)
         Q_EMIT currentChanged(m_currentName);
         return false;
     }
-    list(storedTemplate(name));
+    put(m_list.stored(name));
     makeCurrent(name);
     return true;
 }
@@ -78,7 +80,7 @@ HostUi::SaveAnswer TemplateStore::askToSave(bool withCancel) const
                                           withCancel);
 }
 
-void TemplateStore::list(const BOMTemplate &settings)
+void TemplateStore::put(const BOMTemplate &settings)
 {
     if (m_list.put(settings)) {
         Q_EMIT namesChanged();
@@ -88,22 +90,44 @@ void TemplateStore::list(const BOMTemplate &settings)
 void TemplateStore::makeCurrent(const QString &name)
 {
     m_currentName = name;
-    if (m_working) {
-        BOMTemplate settings = storedTemplate(name);
-        settings.setLegacySettings(nullptr); // it does not outlive a reload
-        m_working->takeTemplate(settings);
-    }
     HostSettings::current().setValue(settingsGroup, currentKey, name);
-    setModified(false);
+    if (m_working) {
+        work(m_list.stored(name));
+    } else {
+        setModified(false);
+    }
     Q_EMIT currentChanged(name);
+}
+
+void TemplateStore::work(BOMTemplate settings)
+{
+    const QString name = settings.name();
+    const bool isUpgraded = upgradeTemplate(settings);
+    settings.setLegacySettings(nullptr); // it does not outlive a reload
+    m_working->takeTemplate(settings);
+    setModified(isUpgraded);
+    const bool isTold = m_told.contains(name);
+    if (isUpgraded && !isTold) {
+        tellUpgraded(name);
+    }
+    if (settings.isOfLaterVersion() && !isTold) {
+        m_told.insert(name);
+        showTemplateMessage(settings.laterVersionMessage());
+    }
+}
+
+void TemplateStore::tellUpgraded(const QString &name)
+{
+    m_told.insert(name);
+    showTemplateUpgraded(m_dialogParent, name);
 }
 
 BOMTemplate TemplateStore::workingSettings(const QString &name) const
 {
     const QString source = m_currentName.isEmpty() ? name : m_currentName;
-    BOMTemplate settings = m_working ? m_working->workingTemplate() : storedTemplate(source);
+    BOMTemplate settings = m_working ? m_working->workingTemplate() : m_list.stored(source);
     settings.setVersion(BOMTemplate::CurrentVersion);
-    settings.setLegacySettings(storedTemplate(name).legacySettings());
+    settings.setLegacySettings(m_list.stored(name).legacySettings());
     settings.setName(name);
     return settings;
 }
@@ -115,37 +139,53 @@ bool TemplateStore::saveAndList(BOMTemplate settings)
     if (!settings.save()) {
         return false;
     }
-    list(settings);
+    put(settings);
     return true;
 }
 
 bool TemplateStore::save(const QString &name)
 {
-    if (name.isEmpty() || !saveAndList(workingSettings(name))) {
+    if (name.isEmpty() || !mayReplace(name) || !saveAndList(workingSettings(name))) {
         return false;
     }
     setModified(false);
     return true;
 }
 
-bool TemplateStore::mayCreate(const QString &name) const
+bool TemplateStore::mayReplace(const QString &name) const
 {
-    QString problem;
-    if (name.trimmed().isEmpty() || contains(name)) {
-        problem = tr("The name must not be blank or used already");
-    } else if (!isTemplateFileName(name)) {
-        problem = tr("The name must be one that a file can have");
+    const BOMTemplate stored = m_list.stored(name);
+    if (!stored.isOfLaterVersion()) {
+        return true;
     }
+    const TemplateMessage message = stored.laterVersionMessage();
+    const QString question =
+        tr("Saving the BOM template '%1' replaces a file of a later version of this program "
+           "and loses what this version does not know.  Save it nevertheless?");
+    return HostUi::current().question(m_dialogParent, message.title, question.arg(name), false);
+}
+
+QString TemplateStore::creationProblem(const QString &name) const
+{
+    if (name.trimmed().isEmpty() || m_list.contains(name)) {
+        return tr("The name must not be blank or used already");
+    }
+    return isTemplateFileName(name) ? QString() : tr("The name must be one that a file can have");
+}
+
+bool TemplateStore::refuseToCreate(const QString &name) const
+{
+    const QString problem = creationProblem(name);
     if (!problem.isEmpty()) {
         HostUi::current().information(m_dialogParent, tr("Could not create template"), problem);
     }
-    return problem.isEmpty();
+    return !problem.isEmpty();
 }
 
 bool TemplateStore::createTemplate(const QString &enteredName)
 {
     const QString name = enteredName.trimmed();
-    if (!mayCreate(name) || !save(name)) {
+    if (refuseToCreate(name) || !save(name)) {
         return false;
     }
     makeCurrent(name);
@@ -158,7 +198,14 @@ bool TemplateStore::add(const BOMTemplate &settings)
     added.setVersion(BOMTemplate::CurrentVersion);
     added.setLegacySettings(nullptr);
     added.setName(settings.name());
-    return mayCreate(added.name()) && saveAndList(added) && select(added.name());
+    const bool isUpgraded = upgradeTemplate(added);
+    if (refuseToCreate(added.name()) || !saveAndList(added)) {
+        return false;
+    }
+    if (isUpgraded) {
+        tellUpgraded(added.name());
+    }
+    return select(added.name());
 }
 
 bool TemplateStore::refuseToDelete(const QString &name) const
@@ -166,8 +213,9 @@ bool TemplateStore::refuseToDelete(const QString &name) const
     if (canDelete(name)) {
         return false;
     }
-    const QString problem = isShipped(name) ? tr("Cannot delete a template that comes with the program")
-                                            : tr("Cannot delete default template");
+    const QString problem = m_list.isShipped(name)
+                                ? tr("Cannot delete a template that comes with the program")
+                                : tr("Cannot delete default template");
     HostUi::current().information(m_dialogParent, tr("Template Deletion"), problem);
     return true;
 }
@@ -184,19 +232,20 @@ bool TemplateStore::deleteCurrent()
 
 bool TemplateStore::remove(const QString &name)
 {
-    const qsizetype place = names().indexOf(name);
+    const QStringList &names = m_list.names();
+    const qsizetype place = names.indexOf(name);
     if (place < 0 || refuseToDelete(name) || !m_list.remove(name)) {
         return false;
     }
     const bool wasCurrent = name == m_currentName;
-    const bool isReplaced = contains(name);
+    const bool isReplaced = m_list.contains(name);
     if (wasCurrent) {
         m_currentName.clear();
         setModified(false);
     }
     Q_EMIT namesChanged();
     if (wasCurrent) {
-        select(names().at(isReplaced ? place : std::max<qsizetype>(place - 1, 0)));
+        select(names.at(isReplaced ? place : std::max<qsizetype>(place - 1, 0)));
     }
     return true;
 }
@@ -210,11 +259,11 @@ bool TemplateStore::resetDefault()
 
 bool TemplateStore::restoreDefault()
 {
-    const QString name = defaultName();
-    BOMTemplate settings = storedTemplate(name);
+    const QString name = TemplateList::defaultName();
+    BOMTemplate settings = m_list.stored(name);
     settings.setDefaults();
     settings.setName(name);
-    if (!saveAndList(settings)) {
+    if (!mayReplace(name) || !saveAndList(settings)) {
         return false;
     }
     if (m_currentName == name) {
@@ -241,7 +290,7 @@ bool TemplateStore::importFile(const QString &path)
 {
     const QString name = QFileInfo(path).completeBaseName();
     const QString target = templateFilePath(name);
-    if (contains(name) || QFileInfo::exists(target)) {
+    if (m_list.contains(name) || QFileInfo::exists(target)) {
         HostUi::current().warning(m_dialogParent, tr("BOM Template Import Failed"),
                                   tr("A BOM template with the name '%1' already exists.").arg(name));
         return false;
@@ -251,12 +300,20 @@ bool TemplateStore::importFile(const QString &path)
     if (!settings) {
         return refuseToImport(tr("The BOM template '%1' could not be loaded.").arg(path), problem);
     }
-    settings->setName(name);
+    const bool isUpgraded = upgradeTemplate(*settings);
+    if (settings->isOfLaterVersion()) {
+        showTemplateMessage(settings->laterVersionMessage());
+    }
     QDir().mkpath(primaryTemplateFolder());
     if (!BOMTemplateFile(target).writeXmlFile(settings->toVariantMap(), &problem)) {
         return refuseToImport(tr("Could not import the template to '%1'.").arg(target), problem);
     }
-    list(*settings);
+    BOMTemplate imported(name, target);
+    imported.setHtmlTemplateFileName(settings->htmlTemplateFileName());
+    put(imported);
+    if (isUpgraded) {
+        tellUpgraded(name);
+    }
     return select(name);
 }
 
@@ -265,7 +322,7 @@ bool TemplateStore::exportTemplate()
     const QString path = HostUi::current().saveFileName(
         m_dialogParent, tr("Export BOM Template"), primaryTemplateFolder(), tr("BOM Templates (*.bomt)"));
     QString reason;
-    const auto content = path.isEmpty() ? std::nullopt : document(m_currentName, &reason);
+    const auto content = path.isEmpty() ? std::nullopt : m_list.document(m_currentName, &reason);
     return content && writeReportFile(withSuffix(path), *content, &reason) == ReportFileResult::Written;
 }
 

@@ -6,9 +6,8 @@
 #include "templates/templatelist.h"
 
 #include <QObject>
-#include <QStringList>
-
-#include <optional>
+#include <QSet>
+#include <QString>
 
 class QWidget;
 
@@ -49,23 +48,13 @@ public:
     /// Unsaved changes are dropped without a question.
     void reload();
 
-    /// See TemplateList.
-    [[nodiscard]] QStringList names() const { return m_list.names(); }
-    [[nodiscard]] QString listedName(const QString &name) const { return m_list.listedName(name); }
-    [[nodiscard]] BOMTemplate storedTemplate(const QString &name) const { return m_list.stored(name); }
-    [[nodiscard]] bool isShipped(const QString &name) const { return m_list.isShipped(name); }
-    [[nodiscard]] static QString defaultName() { return TemplateList::defaultName(); }
-    [[nodiscard]] std::optional<QByteArray> document(const QString &name, QString *reason) const
-    {
-        return m_list.document(name, reason);
-    }
-    /// Whether the list holds the name, ignoring case.
-    [[nodiscard]] bool contains(const QString &name) const { return !listedName(name).isEmpty(); }
+    /// The templates that there are.
+    [[nodiscard]] const TemplateList &templates() const { return m_list; }
     /// False for "Default" in any case and for shipped templates: saving one of those makes the user's own
     /// copy, which then stands in its place.
     [[nodiscard]] bool canDelete(const QString &name) const;
-    /// Whether a new template could have the name; says why not.
-    [[nodiscard]] bool mayCreate(const QString &name) const;
+    /// Why a new template cannot have the name; empty when it can.
+    [[nodiscard]] QString creationProblem(const QString &name) const;
 
     /// Empty before the first selection.
     [[nodiscard]] QString currentName() const { return m_currentName; }
@@ -76,9 +65,12 @@ public:
     /// Makes the template current and remembers it; an unknown name makes one with default settings, which
     /// has no file yet. Asks first what to do with unsaved changes. Nothing happens for an empty name. When
     /// the changes could not be saved, false: the old one stays current.
+    /// The working settings of a template with an old HTML file have its header and footer, and are modified.
+    /// That, and a file of a later version, is told once.
     bool select(const QString &name);
 
-    /// Writes the working settings under a name, always into the primary folder.
+    /// Writes the working settings under a name, always into the primary folder. Asks before it replaces a
+    /// file of a later version.
     bool save(const QString &name);
     bool saveCurrent() { return save(m_currentName); }
 
@@ -128,7 +120,11 @@ Q_SIGNALS:
     void modifiedChanged(bool modified);
 
 private:
-    void list(const BOMTemplate &settings);
+    void put(const BOMTemplate &settings);
+    void work(BOMTemplate settings);
+    void tellUpgraded(const QString &name);
+    [[nodiscard]] bool refuseToCreate(const QString &name) const;
+    [[nodiscard]] bool mayReplace(const QString &name) const;
     [[nodiscard]] bool saveAndList(BOMTemplate settings);
     void makeCurrent(const QString &name);
     [[nodiscard]] BOMTemplate workingSettings(const QString &name) const;
@@ -140,4 +136,6 @@ private:
     TemplateList m_list;
     QString m_currentName;
     bool m_isModified = false;
+    /// The templates of which the user was told something when they were selected.
+    QSet<QString> m_told;
 };

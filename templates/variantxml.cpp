@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "templates/variantxml.h"
 
+#include "templates/clampedint.h"
+
 #include <QDebug>
 #include <QMetaType>
 #include <QXmlStreamReader>
@@ -57,7 +59,7 @@ QVariant scalarFrom(const QString &text, const QString &typeName)
     if (!type.isValid() || !value.canConvert(type))
         return {};
     if (type == QMetaType::fromType<int>())
-        return text.toInt(); // the conversion below wraps a number that is too large
+        return clampedInt(value); // the conversion below wraps a number that is too large
     value.convert(type);
     return value;
 }

@@ -11,7 +11,6 @@
 #include "views/bomtemplateeditor.h"
 #include "views/pdfreport.h"
 #include "views/report/htmlreport.h"
-#include "views/report/oldhtmltemplate.h"
 #include "views/report/reportlink.h"
 
 #include <QFileInfo>
@@ -28,10 +27,6 @@ QString BOMHTMLView::html()
 {
     if (!isValid()) {
         return {};
-    }
-    if (upgradeTemplate(*database())) {
-        Q_EMIT currentTemplateModified(true);
-        showTemplateUpgraded(this, database()->currentTemplate().name());
     }
     updateFields();
     return htmlReport(report());

@@ -34,7 +34,7 @@ REACH = {
     "designs/formats": {"designs"} | FORMATS,
     "designs/transaction": {"designs"},
     "standalone": {"designs", "designs/formats", "designs/csv", "designs/transaction"} | HOST,
-    "templates": HOST,
+    "templates": {"richtext/css", "richtext/xhtml"} | HOST,
     "core": {"templates"} | HOST,
     "account/design": {"standalone"} | HOST,
     "account": {"account/design", "core", "templates", "standalone"} | HOST,

@@ -16,6 +16,16 @@ using testing::StartsWith;
 
 const QByteArray partList = "Reference,Value,MPN,Manufacturer,Cost\nR1,1k,M1,Ada,0.5\nR2,1k,M1,Ada,0.5\n";
 
+/// A template with one column that is wider than any number says.
+QByteArray templateFile(int version, const QByteArray &more = {})
+{
+    return "<BOMTemplate version=\"" + QByteArray::number(version) +
+           "\"><fields Type=\"QVariantList\"><Element><fieldName>Value</fieldName><propertyName>VALUE</propertyName>"
+           "<asciiWidth Type=\"int\" Value=\"99999999999\"/></Element></fields><categories Type=\"QVariantList\">"
+           "<Element><heading>All</heading><isMiscCategory Type=\"bool\" Value=\"true\"/></Element></categories>" +
+           more + "</BOMTemplate>";
+}
+
 class TemplateCommandTest : public ProgramTest
 {
 protected:
@@ -93,6 +103,36 @@ TEST_F(TemplateCommandTest, WhatIsRefusedUnreadableOrUnwritableHasItsOwnStatus)
     expect(3, "report a.csv --template none.bomt", "none.bomt: ");
     expect(4, "template export Mine no/such.bomt", "no/such.bomt: cannot be written");
     EXPECT_THAT(done("template list"), StartsWith("Default\nMine\nAssembly"));
+}
+
+TEST_F(TemplateCommandTest, AnOldHeaderComesAlongOnEveryWayIn)
+{
+    ASSERT_TRUE(QDir(path({})).mkpath(folder));
+    write(folder + QStringLiteral("old.html"), "<div id='customHeader'>ACME</div>");
+    write(QStringLiteral("old.bomt"),
+          templateFile(2, "<htmlTemplateFileName>old.html</htmlTemplateFileName>"));
+    const std::string told = "The BOM template 'old' has been upgraded.  Some styling may have changed.";
+    expect(0, "template import old.bomt", told);
+    EXPECT_THAT(done("report a.csv --html - --template old"), HasSubstr("ACME"));
+    expect(0, "template new copy --from old.bomt", "'copy' has been upgraded");
+    EXPECT_THAT(done("template show copy"), HasSubstr("Document header: ACME\n"));
+    EXPECT_THAT(done("template show old.bomt"), HasSubstr("Document header: ACME\n"));
+    expect(0, "report a.csv --html x.html --pdf x.pdf --template ./old.bomt", told);
+}
+
+TEST_F(TemplateCommandTest, AFileOfALaterVersionIsReadWithAWordAndNotReplaced)
+{
+    const QByteArray later = templateFile(6);
+    ASSERT_TRUE(QDir(path({})).mkpath(folder));
+    write(folder + QStringLiteral("Default.bomt"), later);
+    const std::string told = "Default.bomt: has the format version 6, which is later than 5";
+    expect(0, "report a.csv --ascii x.txt", told);
+    EXPECT_THAT(read(QStringLiteral("x.txt")), HasSubstr("1k"));
+    expect(1, "template reset", "Save it nevertheless? No.");
+    EXPECT_EQ(read(folder + QStringLiteral("Default.bomt")), later.toStdString());
+    write(QStringLiteral("new.bomt"), later);
+    expect(0, "template import new.bomt", "new.bomt: has the format version 6");
+    EXPECT_THAT(done("template export new -"), HasSubstr("version=\"5\""));
 }
 
 TEST_F(TemplateCommandTest, AFolderThatCannotBeWrittenKeepsWhatIsThere)

@@ -87,7 +87,7 @@ TEST_F(Importer, AddsTheScriptUnderAFreeName)
     EXPECT_EQ(ui.informations, (Messages{{u"Import Succeeded"_s,
                                           u"The legacy BOM script imported successfully as 'Plain'"_s}}));
     EXPECT_EQ(store.currentName(), u"Plain"_s);
-    EXPECT_EQ(store.storedTemplate(u"Plain"_s).categories().first().heading, u"Resistors"_s);
+    EXPECT_EQ(store.templates().stored(u"Plain"_s).categories().first().heading, u"Resistors"_s);
     EXPECT_TRUE(ui.questions.isEmpty());
     click("importBtn");
     EXPECT_EQ(ui.warnings, (Messages{{u"Import Failed"_s, u"A template named 'Plain' already exists!"_s}}));
@@ -97,7 +97,7 @@ TEST_F(Importer, AddsTheScriptUnderAFreeName)
     edit->setFocus();
     QTest::keyClicks(edit, u" 5%1 "_s);
     QTest::keyClick(edit, Qt::Key_Return);
-    EXPECT_TRUE(store.contains(u"Plain-copy 5%1"_s));
+    EXPECT_TRUE(store.templates().contains(u"Plain-copy 5%1"_s));
     EXPECT_EQ(ui.informations.size(), 2);
 }
 
@@ -111,7 +111,7 @@ TEST_F(Importer, OffersToDefineWhatIsUndefined)
     importAs(u"With MPN"_s);
     EXPECT_EQ(ui.questions, (Messages{{u"Undefined Physical Properties"_s,
                                        u"Define the 2 undefined physical properties?"_s}}));
-    EXPECT_TRUE(store.contains(u"With MPN"_s)) << "No imports it all the same";
+    EXPECT_TRUE(store.templates().contains(u"With MPN"_s)) << "No imports it all the same";
 
     ui.answer = true;
     QStringList proposed;
@@ -127,7 +127,7 @@ TEST_F(Importer, OffersToDefineWhatIsUndefined)
     DIDX index;
     ASSERT_TRUE(load_defaultdefs(&index, nullptr));
     EXPECT_TRUE(index.find(u"MPN"_s) && index.find(u"MAKER"_s));
-    EXPECT_TRUE(store.contains(u"Again"_s));
+    EXPECT_TRUE(store.templates().contains(u"Again"_s));
 }
 
 } // namespace

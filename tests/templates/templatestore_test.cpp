@@ -44,9 +44,9 @@ protected:
     [[nodiscard]] int workingWidth() const { return m_working.settings.asciiRefWidth(); }
     [[nodiscard]] int storedWidth(const QString &name) const
     {
-        return m_store.storedTemplate(name).asciiRefWidth();
+        return m_store.templates().stored(name).asciiRefWidth();
     }
-    [[nodiscard]] std::string names() const { return m_store.names().join(u',').toStdString(); }
+    [[nodiscard]] std::string names() const { return m_store.templates().names().join(u',').toStdString(); }
     [[nodiscard]] QString remembered() const
     {
         return m_settings.value(u"BOM"_s, u"CurrentTemplate"_s).value_or(QString());
@@ -71,6 +71,13 @@ protected:
                                                            html.toUtf8() +
                                                            "</htmlTemplateFileName></BOMTemplate>");
     }
+    /// The template "Mine" with an old HTML file that has a header.
+    QString writeWithHeader() const
+    {
+        write(u"old.html"_s, "<div id='customHeader'>ACME</div><p>rest");
+        return writeWithHtml("Mine", u"old.html"_s);
+    }
+    [[nodiscard]] QString header() const { return m_working.settings.documentHeader(); }
     /// Puts a folder in the way of a file, so that it can neither be written nor deleted.
     void block(const char *name) const { ASSERT_TRUE(QDir().mkpath(file(name) + u"/inside"_s)); }
 
@@ -102,7 +109,7 @@ TEST_F(TemplateStoreTest, TheFirstFolderWinsIgnoringCase)
     m_store.reload();
     EXPECT_EQ(names(), "Default,Parts,Zeta.v2");
     EXPECT_EQ(storedWidth(u"Parts"_s), 11);
-    EXPECT_EQ(m_store.listedName(u"zETA.V2"_s), u"Zeta.v2"_s);
+    EXPECT_EQ(m_store.templates().listedName(u"zETA.V2"_s), u"Zeta.v2"_s);
 }
 
 TEST_F(TemplateStoreTest, AFileInCapitalsGivesWayToTheOneThatIsSaved)
@@ -264,7 +271,7 @@ TEST_F(TemplateStoreTest, DeletingNeverReachesFilesOfOthers)
     for (const QString &kept : {foreign, shared, addFile("Other", 11)}) {
         writeWithHtml("Mine", kept);
         m_store.reload();
-        EXPECT_EQ(m_store.storedTemplate(u"Mine"_s).htmlTemplateFileName(), kept);
+        EXPECT_EQ(m_store.templates().stored(u"Mine"_s).htmlTemplateFileName(), kept);
         EXPECT_TRUE(m_store.remove(u"Mine"_s));
         EXPECT_TRUE(QFile::exists(kept)) << qPrintable(kept);
     }
@@ -284,7 +291,7 @@ TEST_F(TemplateStoreTest, DefaultCannotBeDeletedAndABlockedFileKeepsItsTemplate)
     QFile::remove(mine);
     block("Mine");
     EXPECT_FALSE(m_store.remove(u"Mine"_s));
-    EXPECT_TRUE(m_store.names().contains(u"Mine"_s));
+    EXPECT_TRUE(m_store.templates().names().contains(u"Mine"_s));
     EXPECT_EQ(m_messages.size(), 1);
 }
 
@@ -339,6 +346,75 @@ TEST_F(TemplateStoreTest, ImportRefusesWhatIsNoTemplateAndSaysWhenTheFolderTakes
     EXPECT_EQ(names(), "Default");
 }
 
+const Messages upgraded = {{u"BOM Template Upgraded"_s,
+                            u"The BOM template 'Mine' has been upgraded.  Some styling may have changed."_s}};
+
+TEST_F(TemplateStoreTest, AnOldHeaderIsTakenAtEachSelectionUntilItIsSavedAndToldOnce)
+{
+    const QString mine = writeWithHeader();
+    m_store.reload();
+    for (int time = 0; time < 2; ++time) {
+        ASSERT_TRUE(m_store.select(u"Mine"_s));
+        EXPECT_EQ(header(), u"ACME"_s);
+        EXPECT_TRUE(m_store.isModified());
+        EXPECT_EQ(m_ui.informations, upgraded);
+        ASSERT_TRUE(m_store.select(u"Default"_s));
+        EXPECT_FALSE(m_store.isModified());
+    }
+    m_store.select(u"Mine"_s);
+    EXPECT_TRUE(m_store.saveCurrent());
+    EXPECT_EQ(BOMTemplate({}, mine).documentHeader(), u"ACME"_s);
+    m_store.reload();
+    EXPECT_EQ(header(), u"ACME"_s);
+    EXPECT_FALSE(m_store.isModified());
+}
+
+TEST_F(TemplateStoreTest, AnOldHeaderIsImportedAndAdded)
+{
+    const QTemporaryDir elsewhere;
+    const QString mine = writeWithHeader();
+    const QString moved = elsewhere.filePath(u"Mine.bomt"_s);
+    ASSERT_TRUE(QFile::rename(mine, moved));
+    m_store.reload();
+    ASSERT_TRUE(m_store.importFile(moved));
+    EXPECT_EQ(BOMTemplate({}, mine).documentHeader(), u"ACME"_s);
+    EXPECT_EQ(m_ui.informations, upgraded);
+    EXPECT_EQ(header(), u"ACME"_s);
+    EXPECT_FALSE(m_store.isModified());
+
+    QString problem;
+    auto settings = BOMTemplate::fromFile(moved, &problem);
+    ASSERT_TRUE(settings) << problem.toStdString();
+    settings->setName(u"More"_s);
+    EXPECT_TRUE(m_store.add(*settings));
+    EXPECT_EQ(header(), u"ACME"_s);
+}
+
+TEST_F(TemplateStoreTest, AFileOfALaterVersionIsToldAndNotReplacedWithoutAQuestion)
+{
+    const QByteArray later =
+        "<BOMTemplate version=\"6\"><AsciiRefWidth Type=\"int\" Value=\"44\"/></BOMTemplate>";
+    const QString mine = write(u"Mine.bomt"_s, later);
+    const QString standard = write(u"Default.bomt"_s, later);
+    m_store.reload();
+    for (int time = 0; time < 2; ++time) {
+        m_store.select(u"Mine"_s);
+        EXPECT_EQ(workingWidth(), 44);
+        m_store.select(u"Default"_s);
+    }
+    ASSERT_EQ(m_messages.size(), 2) << "once for each";
+    EXPECT_TRUE(m_messages[1].detail.startsWith(mine + u": has the format version 6"_s));
+
+    EXPECT_FALSE(m_store.saveCurrent() || m_store.restoreDefault() || m_store.save(u"Mine"_s));
+    EXPECT_EQ(m_ui.questions.size(), 3);
+    EXPECT_EQ(readFile(mine) + readFile(standard), later + later);
+    m_ui.answer = true;
+    EXPECT_TRUE(m_store.save(u"Mine"_s));
+    EXPECT_TRUE(readFile(mine).contains("version=\"5\""));
+    EXPECT_TRUE(m_store.save(u"Mine"_s));
+    EXPECT_EQ(m_ui.questions.size(), 4);
+}
+
 TEST_F(TemplateStoreTest, ExportReplacesTheFileAndWritesATemplateThatHasNone)
 {
     const QTemporaryDir elsewhere;
@@ -365,7 +441,7 @@ TEST_F(TemplateStoreTest, AShippedTemplateStaysAndSavingItMakesTheUsersOwn)
     m_store.reload();
     EXPECT_TRUE(names().starts_with("Default,Zeta,Assembly,"));
     m_store.select(name);
-    EXPECT_TRUE(m_store.isShipped(name));
+    EXPECT_TRUE(m_store.templates().isShipped(name));
     m_ui.answer = true;
     EXPECT_FALSE(m_store.deleteCurrent());
 
@@ -373,10 +449,10 @@ TEST_F(TemplateStoreTest, AShippedTemplateStaysAndSavingItMakesTheUsersOwn)
     EXPECT_TRUE(m_store.saveCurrent());
     EXPECT_EQ(widthIn(file("Purchasing")), 61);
     m_store.reload();
-    EXPECT_EQ(m_store.names().count(name), 1);
+    EXPECT_EQ(m_store.templates().names().count(name), 1);
     EXPECT_EQ(workingWidth(), 61);
     EXPECT_TRUE(m_store.deleteCurrent());
-    EXPECT_TRUE(m_store.isShipped(name));
+    EXPECT_TRUE(m_store.templates().isShipped(name));
     EXPECT_EQ(m_store.currentName(), name);
     EXPECT_NE(workingWidth(), 61);
 }

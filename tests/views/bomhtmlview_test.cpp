@@ -243,31 +243,4 @@ TEST_F(HtmlView, HeaderAndFooterAreTakenFromTheirEditor)
     EXPECT_TRUE(view.textEdit()->toPlainText().startsWith(u"ACME <1>\n"_s));
 }
 
-TEST_F(HtmlView, AnOldTemplatesFileBecomesHeaderAndFooterOnce)
-{
-    const QString file = writeFile(
-        folder.filePath(u"old.html"_s),
-        "<html><body><div id=customHeader>Head &copy;<br></div><p>rest<div id='customFooter'><p>Foot</div>");
-    const auto setOldFile = [this](const QString &path) {
-        changeTemplate([&path](BOMTemplate &settings) {
-            settings.setName(u"House%1"_s);
-            settings.setDocumentHeader({});
-            settings.setDocumentFooter({});
-            settings.setHtmlTemplateFileName(path);
-        });
-        view.handleBOMDataUpdate();
-        view.handleBOMDataUpdate();
-    };
-    setOldFile(file);
-    EXPECT_TRUE(database.currentTemplate().documentHeader().startsWith(u"Head \u00a9<br"_s));
-    EXPECT_TRUE(database.currentTemplate().documentFooter().contains(u"<p>Foot</p>"_s));
-    setOldFile(folder.filePath(u"none.html"_s));
-    EXPECT_EQ(database.currentTemplate().documentHeader(), QString());
-    EXPECT_EQ(ui.informations,
-              (QList<ScriptedUi::Message>{
-                  {u"BOM Template Upgraded"_s,
-                   u"The BOM template 'House%1' has been upgraded.  Some styling may have changed."_s}}));
-    EXPECT_EQ(modified.size(), 1);
-}
-
 } // namespace

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "views/report/oldhtmltemplate.h"
+#include "templates/oldhtmltemplate.h"
 
 #include "support/printtext.h"
 #include "support/testfiles.h"

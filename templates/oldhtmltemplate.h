@@ -4,7 +4,7 @@
 
 #include <QString>
 
-class BOMPartsDatabase;
+class BOMTemplate;
 class QWidget;
 
 /// What an HTML file of an old template holds for the present ones.
@@ -21,9 +21,9 @@ struct OldHtmlTemplate
 /// Reads the file; what is wrong with it goes to the debug output.
 [[nodiscard]] OldHtmlTemplate readOldHtmlTemplate(const QString &path);
 
-/// Gives the database's template the header and footer of its old HTML file, once: the template then names no
-/// such file. True when the file was read, so that the template has a new look.
-[[nodiscard]] bool upgradeTemplate(BOMPartsDatabase &database);
+/// Gives a template that has neither header nor footer those of its old HTML file. True when there were any,
+/// so that the template is another one than its file.
+[[nodiscard]] bool upgradeTemplate(BOMTemplate &settings);
 
 /// Says that a template was upgraded.
 void showTemplateUpgraded(QWidget *parent, const QString &templateName);

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "views/report/oldhtmltemplate.h"
+#include "templates/oldhtmltemplate.h"
 
-#include "core/bompartsdatabase.h"
 #include "host/framework/hostui.h"
 #include "richtext/xhtml/tidylibwrapper.h"
 #include "richtext/xhtml/xhtmlparts.h"
+#include "templates/bomtemplate.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -94,19 +94,16 @@ OldHtmlTemplate readOldHtmlTemplate(const QString &path)
     return readBody(rootStart + bodyOf(xhtml).toString() + QStringLiteral("</root>"));
 }
 
-bool upgradeTemplate(BOMPartsDatabase &database)
+bool upgradeTemplate(BOMTemplate &settings)
 {
-    BOMTemplate upgraded = database.currentTemplate();
-    const QString file = upgraded.htmlTemplateFileName();
-    if (file.isEmpty() || !upgraded.documentHeader().isEmpty() || !upgraded.documentFooter().isEmpty()) {
+    const QString file = settings.htmlTemplateFileName();
+    if (file.isEmpty() || !settings.documentHeader().isEmpty() || !settings.documentFooter().isEmpty()) {
         return false;
     }
     const OldHtmlTemplate old = readOldHtmlTemplate(file);
-    upgraded.setDocumentHeader(old.header);
-    upgraded.setDocumentFooter(old.footer);
-    upgraded.setHtmlTemplateFileName({});
-    database.setTemplateLook(upgraded);
-    return old.isConverted;
+    settings.setDocumentHeader(old.header);
+    settings.setDocumentFooter(old.footer);
+    return !old.header.isEmpty() || !old.footer.isEmpty();
 }
 
 void showTemplateUpgraded(QWidget *parent, const QString &templateName)
