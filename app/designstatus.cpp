@@ -27,10 +27,15 @@ qsizetype hiddenByOthers(const ComponentAccount &components)
     return count;
 }
 
-QString accountText(const ComponentAccount &components)
+QString accountText(const ComponentAccount &components, std::optional<qsizetype> listed)
 {
     const qsizetype hidden = hiddenByOthers(components);
-    QStringList counts = {Texts::tr("%1 listed").arg(components.listed - hidden)};
+    const qsizetype placed = components.listed - hidden;
+    const qsizetype parts = std::max(listed.value_or(placed), placed);
+    QStringList counts = {Texts::tr("%1 listed").arg(parts)};
+    if (parts > placed) {
+        counts.last() += Texts::tr(" (%1 BOM-only)").arg(parts - placed);
+    }
     if (hidden > 0) {
         counts << Texts::tr("%1 repeated").arg(hidden);
     }
@@ -47,14 +52,14 @@ QString accountText(const ComponentAccount &components)
 
 } // namespace
 
-DesignStatus designStatus(const DesignSession &session)
+DesignStatus designStatus(const DesignSession &session, std::optional<qsizetype> listed)
 {
     if (!session.design()) {
         return {};
     }
     const ComponentAccount components = componentAccountOf(*session.design());
     DesignStatus status;
-    status.account = accountText(components);
+    status.account = accountText(components, listed);
     status.accountTip = Texts::tr("Of %1 components of the design").arg(components.components);
     status.warnings = session.warnings();
     for (const RepeatedReference &repeated : components.repeated) {

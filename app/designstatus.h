@@ -5,17 +5,22 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 class DesignSession;
 
 /// What the status bar says about the design that is open.
 struct DesignStatus
 {
-    /// How many components are listed, and how many are not and why.
+    /// How many parts are listed, with those that are no components of the design, and how many components
+    /// are not and why.
     QString account;
     QString accountTip;
     /// What the readers noticed, references that occur more than once or have no number, texts with
-    /// variables, and what is wrong with the user's property definitions; one line each.
+    /// variables, and what is wrong with the user's property definitions; one line
+    /// each.
     QStringList warnings;
 };
 
-[[nodiscard]] DesignStatus designStatus(const DesignSession &session);
+/// `listed` is what the module counts, which alone knows the BOM-only parts; without it the components count.
+[[nodiscard]] DesignStatus designStatus(const DesignSession &session, std::optional<qsizetype> listed);

@@ -23,6 +23,7 @@ Workbench::Workbench()
     m_session.projectNotes().setPagePainter([](QPainter &painter, const QString &text) {
         (void)paintTextPages(painter, tr("Project Notes"), text);
     });
+    m_session.netlist().setReader([this] { return rereadDesign(); });
     connectWindow();
     updateRecentFiles();
 }
@@ -165,7 +166,7 @@ void Workbench::checkFiles()
         const bool isOtherProject = m_project.hasChanged();
         // After a failure the design that is shown is an old one, whatever the files look like.
         if (isOtherProject || m_isBehind || !m_session.changedFiles().isEmpty()) {
-            rereadDesign();
+            (void)rereadDesign();
         } else if (m_board.hasChanged()) {
             rereadBoard();
         } else if (m_statusStamp != m_session.design()->properties().stamp()) {
@@ -176,15 +177,16 @@ void Workbench::checkFiles()
     Q_EMIT filesChecked();
 }
 
-void Workbench::rereadDesign()
+bool Workbench::rereadDesign()
 {
-    if (m_session.reread()) {
-        showDesign();
-    } else {
+    if (!m_session.reread()) {
         m_isBehind = true;
         // It may be half written; the next change of a file reads it again.
         m_window.status().setProblem(m_session.error());
+        return false;
     }
+    showDesign();
+    return true;
 }
 
 void Workbench::rereadBoard()
@@ -243,13 +245,19 @@ void Workbench::updateRecentFiles()
     m_window.emptyPage().setRecentFiles(recent);
 }
 
+std::optional<qsizetype> Workbench::listedParts() const
+{
+    IMODULE *client = m_library.module()->queryinterface(INTERFACE_NETCLIENT);
+    return client ? static_cast<INETCLIENT *>(client)->partcount() : std::nullopt;
+}
+
 void Workbench::updateStatus()
 {
     if (!m_session.design()) {
         return;
     }
     m_statusStamp = m_session.design()->properties().stamp();
-    m_window.status().setDesign(designStatus(m_session));
+    m_window.status().setDesign(designStatus(m_session, listedParts()));
 }
 
 void Workbench::showAbout()

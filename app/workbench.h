@@ -11,6 +11,8 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
+
 /// The desktop program: one window, the module in it, and the design that is open.
 class Workbench final : public QObject
 {
@@ -53,8 +55,10 @@ private:
     void watchDesign();
     void updateRecentFiles();
     void updateStatus();
+    /// How many parts the module lists, where it counts them.
+    [[nodiscard]] std::optional<qsizetype> listedParts() const;
     void checkFiles();
-    void rereadDesign();
+    bool rereadDesign();
     void rereadBoard();
 
     // In this order: the module's instance is gone before the session, the process, is.

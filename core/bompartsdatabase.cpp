@@ -174,6 +174,13 @@ void BOMPartsDatabase::reload()
     load();
 }
 
+void BOMPartsDatabase::reloadFromFiles()
+{
+    if (!m_netlist || !m_netlist->rereaddesign()) {
+        reload();
+    }
+}
+
 void BOMPartsDatabase::clearAndSuspend()
 {
     m_isSuspended = true;

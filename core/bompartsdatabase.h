@@ -64,6 +64,8 @@ public:
     void load();
     /// What a changed design asks for: clears, loads and groups. Ends what clearAndSuspend() began.
     void reload();
+    /// The same from the files: the host reads the design again. Where it cannot, what it holds is loaded.
+    void reloadFromFiles();
     /// Clears and emits no dataChanged() until reload().
     void clearAndSuspend();
     [[nodiscard]] bool isUpdating() const { return m_bulkChanges > 0 || m_isSuspended; }

@@ -5,6 +5,7 @@
 #include "core/bompartsdatabase.h"
 #include "host/framework/applnframe.h"
 #include "host/framework/hostui.h"
+#include "templates/templatestore.h"
 #include "views/bomasciiview.h"
 #include "views/bomcsvview.h"
 #include "views/bomexcelview.h"
@@ -68,6 +69,9 @@ bool BOMMainWindow::createwindow(APPLNFRAME *frame)
     buildMenus();
     buildToolBar();
     connect(m_database, &BOMPartsDatabase::dataChanged, m_report, &BOMHTMLView::handleBOMDataUpdate);
+    connect(m_database, &BOMPartsDatabase::currentTemplateModified, this,
+            &BOMMainWindow::setCurrentTemplateChanged);
+    connect(m_report, &BOMHTMLView::currentTemplateModified, this, &BOMMainWindow::setCurrentTemplateChanged);
     frame->settitle(windowTitle());
     return true;
 }
@@ -77,6 +81,34 @@ void BOMMainWindow::updatewindow()
     if (m_isFilled) {
         m_report->handleBOMDataUpdate();
     }
+}
+
+void BOMMainWindow::setTemplates(TemplateStore *templates)
+{
+    m_templates = templates;
+}
+
+void BOMMainWindow::setCurrentTemplateChanged(bool hasChanges)
+{
+    if (m_templates) {
+        m_templates->setModified(hasChanges);
+    }
+}
+
+bool BOMMainWindow::canbeclosed()
+{
+    if (!m_templates || !m_templates->isModified()) {
+        return true;
+    }
+    switch (m_templates->askToSave(true)) {
+    case HostUi::SaveAnswer::Save:
+        return m_templates->saveCurrent();
+    case HostUi::SaveAnswer::Discard:
+        return true;
+    case HostUi::SaveAnswer::Cancel:
+        break;
+    }
+    return false;
 }
 
 void BOMMainWindow::fillViews()
@@ -124,6 +156,9 @@ QAction *BOMMainWindow::addCommand(const Command &command)
     auto *action = new QAction(makeIcon(command.icon), command.text, this);
     action->setStatusTip(command.tip);
     action->setShortcut(command.shortcut);
+    // A tip that is shown while a command opens a dialog would stay: nothing tells that the pointer has left.
+    connect(
+        action, &QAction::triggered, this, [this] { getframe()->setstatustext({}); }, Qt::QueuedConnection);
     return action;
 }
 
@@ -234,6 +269,6 @@ void BOMMainWindow::writeSpreadsheet()
 void BOMMainWindow::manualReload()
 {
     if (m_database) {
-        m_database->reload();
+        m_database->reloadFromFiles();
     }
 }

@@ -5,6 +5,7 @@
 #include "host/widgets/applnwidget.h"
 
 #include <QKeySequence>
+#include <QPointer>
 #include <QString>
 
 class BOMExcelView;
@@ -12,6 +13,7 @@ class BOMHTMLView;
 class BOMPartsDatabase;
 class QAction;
 class QTabWidget;
+class TemplateStore;
 
 /// The module's window: the report, and the commands that write it elsewhere.
 class BOMMainWindow final : public APPLNWIDGET
@@ -26,13 +28,22 @@ public:
     /// Builds widgets, actions, menus and tool bar, once.
     bool createwindow(APPLNFRAME *frame) override;
     void updatewindow() override;
+    /// Asks what is to become of unsaved changes of the template. False when they are to be kept, or could
+    /// not be saved.
+    [[nodiscard]] bool canbeclosed() override;
+
+    /// The store of the current template, which hears of changes and is asked when the window is closed. Not
+    /// owned; null for none.
+    void setTemplates(TemplateStore *templates);
 
     /// Shows the report, unless that has been done.
     void fillViews();
 
 private Q_SLOTS:
+    void setCurrentTemplateChanged(bool hasChanges);
     /// Writes the report in the form that the sending action stands for.
     void outputBOM();
+    /// Reads the files of the design again.
     void manualReload();
 
 private:
@@ -56,6 +67,7 @@ private:
     void writeSpreadsheet();
 
     BOMPartsDatabase *m_database;
+    QPointer<TemplateStore> m_templates;
     QTabWidget *m_tabs = nullptr;
     BOMHTMLView *m_report = nullptr;
     BOMExcelView *m_excelView = nullptr;

@@ -46,7 +46,7 @@ BOMVIEWER::BOMVIEWER(APPLNPROCESS *process)
 {
     setapplnname(QStringLiteral("BOM"), QStringLiteral("Bill of Materials"));
     m_database = BOMPartsDatabase::instance();
-    m_templates = std::make_unique<ModuleTemplates>(*m_database);
+    m_templates = std::make_unique<ModuleTemplates>(process, *m_database);
     IMODULE *server = interfaceOf(process, "ORIN", INTERFACE_NETSERVER);
     m_cache.attach(this);
     m_cache.setsource(static_cast<INETSERVER *>(server));
@@ -100,7 +100,8 @@ APPLNWINDOW *BOMVIEWER::createwindow(APPLNFRAME *frame, unsigned)
         m_mainWindow = nullptr;
         return nullptr;
     }
-    m_templates->load(m_mainWindow);
+    m_mainWindow->setTemplates(&m_templates->store());
+    m_templates->show(m_mainWindow);
     m_mainWindow->fillViews();
     return m_mainWindow;
 }
@@ -124,6 +125,11 @@ void BOMVIEWER::onvalidate()
 bool BOMVIEWER::isvisible()
 {
     return m_mainWindow && m_mainWindow->isvisible();
+}
+
+std::optional<qsizetype> BOMVIEWER::partcount() const
+{
+    return qsizetype(m_database->parts().size());
 }
 
 void BOMVIEWER::designChanged(bool reload)

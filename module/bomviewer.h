@@ -7,6 +7,7 @@
 #include "module/ibomviewer.h"
 
 #include <memory>
+#include <optional>
 
 class BOMMainWindow;
 class BOMPartsDatabase;
@@ -35,6 +36,8 @@ public:
     void onvalidate() override;
 
     [[nodiscard]] bool isvisible() override;
+    /// What the report gives as the total of parts.
+    [[nodiscard]] std::optional<qsizetype> partcount() const override;
     /// Nothing while the database writes. Without `reload` the database stays empty and silent until the next
     /// call with it.
     void designChanged(bool reload) override;

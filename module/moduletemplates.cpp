@@ -11,11 +11,13 @@
 #include <QCoreApplication>
 #include <QWidget>
 
-ModuleTemplates::ModuleTemplates(BOMPartsDatabase &database)
+#include <utility>
+
+ModuleTemplates::ModuleTemplates(const APPLNPROCESS *process, BOMPartsDatabase &database)
     : m_database(database)
     , m_store(this)
 {
-    if (const APPLNPROCESS *process = getapplnprocess()) {
+    if (process) {
         setTemplatePaths(hostTemplatePaths(process->gettemplatepaths(), process->getdatapath("Templates")));
     }
     setTemplateMessageHandler([this](const TemplateMessage &message) {
@@ -29,10 +31,12 @@ ModuleTemplates::~ModuleTemplates()
     setTemplateMessageHandler({});
 }
 
-void ModuleTemplates::load(QWidget *window)
+void ModuleTemplates::show(QWidget *window)
 {
     setDialogParent(window);
-    m_store.reload();
+    if (!std::exchange(m_isLoaded, true)) {
+        m_store.reload();
+    }
 }
 
 void ModuleTemplates::setDialogParent(QWidget *window)

@@ -6,6 +6,7 @@
 
 #include <QPointer>
 
+class APPLNPROCESS;
 class BOMPartsDatabase;
 
 /// The templates of the module: the folders that the host names, and the store, whose current template the
@@ -13,13 +14,15 @@ class BOMPartsDatabase;
 class ModuleTemplates final : private WorkingTemplate
 {
 public:
-    /// The database must outlive the object.
-    explicit ModuleTemplates(BOMPartsDatabase &database);
+    /// The database must outlive the object; the process names the folders and may be null.
+    ModuleTemplates(const APPLNPROCESS *process, BOMPartsDatabase &database);
     ~ModuleTemplates() override;
 
-    /// Reads the list and takes the template that was current last. Boxes stand in front of the window.
-    void load(QWidget *window);
+    /// Boxes stand in front of the window. For the first one the list is read and the template taken that was
+    /// current last; later ones find what is being worked on.
+    void show(QWidget *window);
     void setDialogParent(QWidget *window);
+    [[nodiscard]] TemplateStore &store() { return m_store; }
 
 private:
     [[nodiscard]] BOMTemplate workingTemplate() const override;
@@ -28,4 +31,5 @@ private:
     BOMPartsDatabase &m_database;
     TemplateStore m_store;
     QPointer<QWidget> m_window;
+    bool m_isLoaded = false;
 };

@@ -37,6 +37,7 @@ designs::ReadResult read(const QString &path, const QString &variant)
 DesignSession::DesignSession()
     : m_process(m_document, m_netlist)
 {
+    m_netlist.setReader([this] { return reread(); });
     m_cdb.setWriter([this](std::span<const designs::Edit> edits) { return writeBatch(edits); });
     setapplnprocess(&m_process);
     setcdb(&m_cdb);

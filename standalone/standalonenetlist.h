@@ -4,7 +4,9 @@
 
 #include "host/netlist/netcache.h"
 
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class LoadedDesign;
@@ -24,6 +26,8 @@ public:
     /// cache is filled meanwhile.
     void setDesign(std::shared_ptr<const LoadedDesign> design);
     void invalidateCaches();
+    /// What reads the design again for rereaddesign(); false when it cannot.
+    void setReader(std::function<bool()> reader) { m_reader = std::move(reader); }
     /// Fills the caches that are stale; each calls its client.
     void refreshCaches();
 
@@ -32,6 +36,7 @@ public:
     void addcache(NETCACHE *cache) override;
     void removecache(NETCACHE *cache) override;
     void releaseformer(NETCACHE &cache) override;
+    bool rereaddesign() override { return m_design && m_reader && m_reader(); }
 
 private:
     struct Client
@@ -44,5 +49,6 @@ private:
     [[nodiscard]] Client *find(const NETCACHE &cache);
 
     std::shared_ptr<const LoadedDesign> m_design;
+    std::function<bool()> m_reader;
     std::vector<Client> m_clients;
 };

@@ -3,8 +3,16 @@
 #include "host/framework/hostsettings.h"
 
 namespace {
+
 HostSettings *theSettings = nullptr;
+
+/// A string of its own: a literal lies in the library that it comes from, and the settings outlive that.
+QString copied(const QString &text)
+{
+    return QString(text.constData(), text.size());
 }
+
+} // namespace
 
 HostSettings &HostSettings::current()
 {
@@ -28,7 +36,7 @@ std::optional<QString> MemoryHostSettings::value(const QString &group, const QSt
 
 void MemoryHostSettings::setValue(const QString &group, const QString &key, const QString &value)
 {
-    m_groups[group].insert(key, value);
+    m_groups[copied(group)].insert(copied(key), copied(value));
 }
 
 IniHostSettings::IniHostSettings(const QString &path)
@@ -44,5 +52,5 @@ std::optional<QString> IniHostSettings::value(const QString &group, const QStrin
 
 void IniHostSettings::setValue(const QString &group, const QString &key, const QString &value)
 {
-    m_settings.setValue(group + u'/' + key, value);
+    m_settings.setValue(group + u'/' + key, copied(value));
 }

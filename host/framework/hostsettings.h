@@ -21,6 +21,8 @@ public:
 
     /// Nothing for a key that was never set.
     [[nodiscard]] virtual std::optional<QString> value(const QString &group, const QString &key) const = 0;
+    /// Keeps copies: the caller's strings may be literals of a library that is unloaded before the settings
+    /// end.
     virtual void setValue(const QString &group, const QString &key, const QString &value) = 0;
 
     /// The installed ones, else ones in memory.

@@ -5,6 +5,10 @@
 #include "host/framework/imodule.h"
 #include "host/netlist/netlist.h"
 
+#include <QtGlobal>
+
+#include <optional>
+
 class NETCACHE;
 
 /// Who wants to know that the design behind a cache has changed.
@@ -12,6 +16,9 @@ class INETCLIENT : public IMODULE
 {
 public:
     [[nodiscard]] virtual bool isvisible() = 0;
+
+    /// How many parts the client lists of the design, its own included; nothing when it does not count.
+    [[nodiscard]] virtual std::optional<qsizetype> partcount() const { return std::nullopt; }
 
     /// The design changed; `reload` tells whether the cache holds the new one already.
     virtual void designChanged(bool reload) = 0;
@@ -32,6 +39,10 @@ public:
     /// The cache's client points into nothing any more that the cache held before what it holds now. Until
     /// then the server keeps all that it sent.
     virtual void releaseformer(NETCACHE &) {}
+
+    /// Reads the files of the design again and tells the clients. False when that is not possible: the
+    /// design then is as it was.
+    virtual bool rereaddesign() { return false; }
 
 protected:
     ~INETSERVER() = default;
@@ -57,6 +68,9 @@ public:
     /// Reads the netlist again when it is stale and tells the client, in that order. With `wait` 0 a stale
     /// cache only tells the client that the design changed.
     void validate(int wait);
+
+    /// Has the server read the design again, see INETSERVER::rereaddesign().
+    bool rereaddesign() { return m_server && m_server->rereaddesign(); }
 
     /// To be called by the client when it points into nothing any more that the cache held before.
     void releaseformer();

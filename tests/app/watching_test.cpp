@@ -61,6 +61,37 @@ TEST_F(WorkbenchTest, WaitsForAHalfWrittenFile)
     EXPECT_EQ(problem(), "");
 }
 
+TEST_F(WorkbenchTest, ReadsAgainAfterAFailureAlthoughTheFilesAreAsItKnowsThem)
+{
+    const QString file = partList();
+    ASSERT_TRUE(bench->open(file));
+    EXPECT_TRUE(waitFor([&] { QFile::remove(file); }, [&] { return !problem().empty(); }));
+    const quint64 before = stamp();
+    EXPECT_TRUE(waitFor([&] { partList(); }, [&] { return problem().empty(); }));
+    EXPECT_GT(stamp(), before);
+}
+
+TEST_F(WorkbenchTest, ReadsTheFilesWhenTheUserAsksForIt)
+{
+    ASSERT_TRUE(bench->open(partList()));
+    bench->watcher().setDelay(patience);
+    writeValue("33k");
+    action("Reload The &BOM")->trigger();
+    EXPECT_TRUE(isReported("33k"));
+    QFile::remove(path("parts.csv"));
+    action("Reload The &BOM")->trigger();
+    EXPECT_THAT(problem(), HasSubstr("no such file"));
+    EXPECT_TRUE(isReported("33k"));
+}
+
+TEST_F(WorkbenchTest, CountsThePartsOfTheReport)
+{
+    ASSERT_TRUE(bench->open(
+        write("parts.csv", "Reference,Value,DNP,BOMPART1\nR1,10k,,\"2,'SCR','M3'\"\nR2,22k,1,\n")));
+    EXPECT_EQ(account(), "3 listed (2 BOM-only), 1 not fitted");
+    EXPECT_TRUE(isReported("<p class='headerValue'>3</p>"));
+}
+
 TEST_F(WorkbenchTest, LeavesThePartsAloneWhileADialogIsOpen)
 {
     ASSERT_TRUE(bench->open(partList()));

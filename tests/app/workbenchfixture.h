@@ -126,7 +126,7 @@ protected:
     }
     QAction *action(const char *text) const
     {
-        for (QAction *found : bench->window().menuBar()->findChildren<QAction *>()) {
+        for (QAction *found : bench->window().findChildren<QAction *>()) {
             if (found->text() == QString::fromUtf8(text)) {
                 return found;
             }

@@ -3,7 +3,9 @@
 #include "tests/module/bomviewerfixture.h"
 
 #include "host/framework/hostsettings.h"
+#include "templates/templatepaths.h"
 #include "views/bomexcelview.h"
+#include "views/bomhtmlview.h"
 
 TEST_F(BomViewer, BuildsItsWindowOnce)
 {
@@ -92,6 +94,44 @@ TEST_F(BomViewer, StartsWithTheTemplateThatWasCurrentLast)
     ASSERT_EQ(ui.warnings.size(), 1);
     EXPECT_TRUE(ui.warnings[0].text.contains(u"House.bomt"_s));
     HostSettings::install(nullptr);
+}
+
+TEST_F(BomViewer, KeepsChangesOfTheTemplateUntilTheUserHasDecided)
+{
+    module().onvalidate();
+    EXPECT_TRUE(mainWindow()->canbeclosed());
+    BOMPartsDatabase *database = BOMPartsDatabase::instance();
+    BOMTemplate changed = database->currentTemplate();
+    changed.setGroupReferences(false);
+    ASSERT_TRUE(database->setTemplateOptions(changed));
+    EXPECT_FALSE(mainWindow()->canbeclosed());
+    ui.saveAnswer = HostUi::SaveAnswer::Discard;
+    EXPECT_TRUE(mainWindow()->canbeclosed());
+
+    module().removewindow(mainWindow());
+    flush();
+    EXPECT_EQ(ui.saveQuestions.size(), 2);
+    (void)mainWindow();
+    EXPECT_FALSE(database->currentTemplate().groupReferences());
+    ui.saveAnswer = HostUi::SaveAnswer::Save;
+    EXPECT_TRUE(mainWindow()->canbeclosed());
+    QString problem;
+    const auto saved = BOMTemplate::fromFile(templateFilePath(u"Default"_s), &problem);
+    EXPECT_TRUE(saved && !saved->groupReferences()) << problem.toStdString();
+
+    // What the view changes by itself reaches the store as well.
+    Q_EMIT mainWindow()->findChild<BOMHTMLView *>()->currentTemplateModified(true);
+    ui.saveAnswer = HostUi::SaveAnswer::Cancel;
+    EXPECT_FALSE(mainWindow()->canbeclosed());
+}
+
+TEST_F(BomViewer, TakesTheTipOfACommandAwayAfterIt)
+{
+    (void)mainWindow();
+    host.frame.statusText = u"Output BOM in CSV"_s;
+    trigger("&CSV");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(host.frame.statusText, QString());
 }
 
 TEST_F(BomViewer, ReloadsByHandEvenWhenItWasSuspended)

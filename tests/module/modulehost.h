@@ -63,6 +63,7 @@ public:
     QList<QToolBar *> bars;
     int widgets = 0;
     unsigned state = WINDOW_HIDDEN;
+    QString statusText;
 
     void addmenu(unsigned id, QMenu *menu, unsigned) override { menus[id] = menu; }
     void removemenu(QMenu *menu) override { menus.remove(menus.key(menu)); }
@@ -79,7 +80,7 @@ public:
         widget->setParent(nullptr);
     }
     void settitle(const QString &) override {}
-    void setstatustext(const QString &) override {}
+    void setstatustext(const QString &text) override { statusText = text; }
     void showframe(unsigned wanted) override
     {
         state = wanted;
