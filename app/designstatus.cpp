@@ -73,6 +73,9 @@ DesignStatus designStatus(const DesignSession &session, std::optional<qsizetype>
     for (const QString &reference : withUnresolvedVariables(*session.design())) {
         status.warnings << reference + Texts::tr(": a text variable ${...} is not resolved");
     }
+    if (const QString problem = session.document().notesProblem(); !problem.isEmpty()) {
+        status.warnings << problem;
+    }
     (void)load_defaultdefs(nullptr, nullptr, &status.warnings);
     return status;
 }

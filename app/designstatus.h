@@ -17,7 +17,7 @@ struct DesignStatus
     QString account;
     QString accountTip;
     /// What the readers noticed, references that occur more than once or have no number, texts with
-    /// variables, and what is wrong with the user's property definitions; one line
+    /// variables, notes that cannot be read, and what is wrong with the user's property definitions; one line
     /// each.
     QStringList warnings;
 };

@@ -145,7 +145,7 @@ void Workbench::watchDesign()
     m_board.setFile(boardFileOf(*m_session.design()));
     m_project.setFile(projectFileOf(*m_session.design()));
     QStringList files = m_session.files();
-    for (const QString &file : {m_board.file(), m_project.file()}) {
+    for (const QString &file : {m_board.file(), m_project.file(), m_session.document().notesFile()}) {
         if (!file.isEmpty()) {
             files << file;
         }
@@ -169,6 +169,8 @@ void Workbench::checkFiles()
             (void)rereadDesign();
         } else if (m_board.hasChanged()) {
             rereadBoard();
+        } else if (m_session.document().hasOtherNotes()) {
+            rereadNotes();
         } else if (m_statusStamp != m_session.design()->properties().stamp()) {
             // The module wrote the files, and the session has read them since.
             updateStatus();
@@ -187,6 +189,13 @@ bool Workbench::rereadDesign()
     }
     showDesign();
     return true;
+}
+
+void Workbench::rereadNotes()
+{
+    m_session.netlist().invalidateCaches();
+    m_library.module()->onvalidate();
+    updateStatus();
 }
 
 void Workbench::rereadBoard()

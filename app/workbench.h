@@ -60,6 +60,7 @@ private:
     void checkFiles();
     bool rereadDesign();
     void rereadBoard();
+    void rereadNotes();
 
     // In this order: the module's instance is gone before the session, the process, is.
     DesignSession m_session;

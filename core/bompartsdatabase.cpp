@@ -310,17 +310,17 @@ QString BOMPartsDatabase::defaultOutputPath(const QString &extension) const
     return designOutputPath(extension);
 }
 
-std::optional<QString> BOMPartsDatabase::setNotes(const QString &text)
+NotesResult BOMPartsDatabase::setNotes(const QString &text, const NotesQuestion &ask)
 {
     if (text == m_notes) {
-        return std::nullopt;
+        return {NotesResult::State::Written, m_notes, {}};
     }
-    if (auto problem = setDesignNotes(text)) {
-        return problem;
+    NotesResult result = setDesignNotes(m_notes, text, ask);
+    if (m_notes != result.text && result.problem.isEmpty()) {
+        m_notes = result.text;
+        notify();
     }
-    m_notes = text;
-    notify();
-    return std::nullopt;
+    return result;
 }
 
 void BOMPartsDatabase::setCurrentTemplate(const BOMTemplate &settings)

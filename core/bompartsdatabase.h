@@ -5,6 +5,7 @@
 #include "core/bomcategories.h"
 #include "core/bomlinks.h"
 #include "core/bomonlyparts.h"
+#include "core/designnotes.h"
 #include "core/partstore.h"
 #include "core/propertytypes.h"
 #include "templates/bomtemplate.h"
@@ -130,8 +131,9 @@ public:
     [[nodiscard]] QString defaultOutputPath(const QString &extension) const;
     /// The notes that the design had when it was loaded.
     [[nodiscard]] const QString &notes() const { return m_notes; }
-    /// Writes the notes into the design when they differ. Gives why that failed; they then stay as they were.
-    std::optional<QString> setNotes(const QString &text);
+    /// Writes the notes into the design when they differ, see setDesignNotes(). Unless they were written, or
+    /// those of the design taken over, they stay as they were.
+    NotesResult setNotes(const QString &text, const NotesQuestion &ask = {});
 
     [[nodiscard]] const BOMTemplate &currentTemplate() const { return m_template; }
     /// Takes a copy as the working template, completes it (see templateRepairs()), and groups anew.

@@ -6,19 +6,10 @@
 #include "host/framework/applnprocess.h"
 #include "host/framework/hosttext.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
 namespace {
-
-constexpr char notesAttachment[] = "BOMNOTES.TXT";
-
-APPLNDOCUMENT *currentDesign()
-{
-    const APPLNPROCESS *process = getapplnprocess();
-    return process ? process->currentdocument(DOCUMENT_KIND_DESIGN, nullptr) : nullptr;
-}
 
 QString withoutForbiddenCharacters(QString name)
 {
@@ -40,6 +31,12 @@ QString outputFolder()
 
 } // namespace
 
+APPLNDOCUMENT *currentDesign()
+{
+    const APPLNPROCESS *process = getapplnprocess();
+    return process ? process->currentdocument(DOCUMENT_KIND_DESIGN, nullptr) : nullptr;
+}
+
 QString designInfo(const char *key)
 {
     const APPLNDOCUMENT *document = currentDesign();
@@ -60,22 +57,6 @@ QString designVariant()
         return {};
     }
     return fromHostText(document->getproperty("VARIANT"));
-}
-
-QString designNotes()
-{
-    const APPLNDOCUMENT *document = currentDesign();
-    return document ? document->readattachment(notesAttachment) : QString();
-}
-
-std::optional<QString> setDesignNotes(const QString &text)
-{
-    APPLNDOCUMENT *document = currentDesign();
-    if (!document) {
-        return QCoreApplication::translate("BOMPartsDatabase", "No design is open");
-    }
-    return document->writeattachment(notesAttachment, text) ? std::nullopt
-                                                            : std::optional(document->attachmenterror());
 }
 
 QString designOutputPath(const QString &extension)

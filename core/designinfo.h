@@ -4,20 +4,18 @@
 
 #include <QString>
 
-#include <optional>
+class APPLNDOCUMENT;
 
-/// What the current design document of the host says. Without a document everything is empty.
+// What the current design document of the host says. Without a document everything is empty.
 
+/// Null when no design is open.
+[[nodiscard]] APPLNDOCUMENT *currentDesign();
 /// A value of the information block; "<NONE>" counts as empty.
 [[nodiscard]] QString designInfo(const char *key);
 /// The title, or the document's file name without folder and last extension.
 [[nodiscard]] QString designTitle();
 /// The assembly variant; a board has none.
 [[nodiscard]] QString designVariant();
-/// The text of the attachment with the notes on the bill of materials.
-[[nodiscard]] QString designNotes();
-/// Writes them; gives why that failed, nothing when it did not.
-[[nodiscard]] std::optional<QString> setDesignNotes(const QString &text);
 
 /// The absolute path proposed for a report of the design, `extension` with its dot. The folder is the working
 /// folder, or the user's when the program's own folder is that one or is known by a relative path only; it is

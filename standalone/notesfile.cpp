@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/notesfile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -50,18 +51,42 @@ bool removeFile(const QString &path, QString *reason)
     return false;
 }
 
-bool replaceFile(const QString &path, const QByteArray &bytes, QString *reason)
+bool saveFile(const QString &path, const QByteArray &bytes, QString *reason)
 {
-    if (bytes.size() > largestNotes) {
-        *reason = QStringLiteral("notes are at most 16 MB");
-        return false;
-    }
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) {
         return true;
     }
     *reason = file.errorString();
     return false;
+}
+
+bool replaceFile(const QString &path, const QByteArray &bytes, QString *reason)
+{
+    if (bytes.size() > largestNotes) {
+        *reason = QStringLiteral("notes are at most 16 MB");
+        return false;
+    }
+    return saveFile(path, bytes, reason);
+}
+
+/// Without a file there is nothing to keep, and an older backup stays.
+bool keepContent(const QString &path, const QString &backup, QString *reason)
+{
+    QFile file(path);
+    if (!file.exists()) {
+        return true;
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        *reason = file.errorString();
+        return false;
+    }
+    const bool isKept = QDir().mkpath(QFileInfo(backup).path()) && saveFile(backup, file.readAll(), reason);
+    if (!isKept) {
+        *reason = QStringLiteral("the previous notes cannot be kept in ") + backup +
+                  (reason->isEmpty() ? QString() : QStringLiteral(": ") + *reason);
+    }
+    return isKept;
 }
 
 } // namespace
@@ -92,11 +117,12 @@ NotesFile readNotesFile(const QString &path)
     return {text, {}};
 }
 
-bool writeNotesFile(const QString &path, const QString &text, QString *reason)
+bool writeNotesFile(const QString &path, const QString &backup, const QString &text, QString *reason)
 {
     QString problem;
-    const bool isWritten = text.isEmpty() ? removeFile(path, &problem)
-                                          : replaceFile(path, bytesOf(text, formOf(path)), &problem);
+    const bool isWritten = keepContent(path, backup, &problem) &&
+                           (text.isEmpty() ? removeFile(path, &problem)
+                                           : replaceFile(path, bytesOf(text, formOf(path)), &problem));
     *reason = isWritten ? QString() : path + QStringLiteral(": ") + problem;
     return isWritten;
 }

@@ -17,5 +17,7 @@ struct NotesFile
 [[nodiscard]] NotesFile readNotesFile(const QString &path);
 
 /// Replaces the text as a whole, with the line ends and the byte-order mark that the file has; an empty text
-/// removes it. On failure the old file stays and `reason` says why: "FILE: why".
-[[nodiscard]] bool writeNotesFile(const QString &path, const QString &text, QString *reason);
+/// removes it. The previous content goes to the file `backup` first. On failure the old file stays and
+/// `reason` says why: "FILE: why".
+[[nodiscard]] bool writeNotesFile(const QString &path, const QString &backup, const QString &text,
+                                  QString *reason);

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/standalonedocument.h"
 
+#include "designs/transaction/designlock.h"
 #include "host/framework/hosttext.h"
+#include "standalone/designwriter.h"
 #include "standalone/environment.h"
 #include "standalone/loadeddesign.h"
 #include "standalone/notesfile.h"
@@ -30,6 +32,7 @@ QString modificationText(const QDateTime &modified)
 void StandaloneDocument::setDesign(std::shared_ptr<const LoadedDesign> design)
 {
     m_design = std::move(design);
+    m_knownNotes.reset();
 }
 
 QString StandaloneDocument::getinfo(const char *key) const
@@ -82,20 +85,50 @@ QString StandaloneDocument::readattachment(const char *name) const
     if (!name || std::strcmp(name, "BOMNOTES.TXT") != 0) {
         return {};
     }
-    return readNotesFile(notesFile()).text;
+    m_knownNotes = readNotesFile(notesFile()).text;
+    return *m_knownNotes;
 }
 
-bool StandaloneDocument::writeattachment(const char *name, const QString &text)
+ATTACHMENTWRITE StandaloneDocument::writeattachment(const char *name, const QString &before,
+                                                    const QString &text)
 {
     m_attachmentError.clear();
     if (!m_design || !name || std::strcmp(name, "BOMNOTES.TXT") != 0) {
         m_attachmentError = QStringLiteral("the design has no place for such a text");
-    } else if (const QString problem = notesProblem(); !problem.isEmpty()) {
-        m_attachmentError = problem;
-    } else {
-        (void)writeNotesFile(notesFile(), text, &m_attachmentError);
+        return ATTACHMENTWRITE::Failed;
     }
-    return m_attachmentError.isEmpty();
+    const designs::DesignPaths paths(m_design->design().info().file);
+    designs::FileOperations operations(designs::FileSystem::real());
+    designs::DesignLock lock(operations, paths);
+    if (!lock.take()) {
+        m_attachmentError = messagesOf(operations.problems()).join(QStringLiteral("; "));
+        return ATTACHMENTWRITE::Failed;
+    }
+    return writeNotes(before, text);
+}
+
+/// With the lock taken.
+ATTACHMENTWRITE StandaloneDocument::writeNotes(const QString &before, const QString &text)
+{
+    const QString path = notesFile();
+    m_attachmentError = notesProblem();
+    if (!m_attachmentError.isEmpty()) {
+        return ATTACHMENTWRITE::Failed;
+    }
+    if (readNotesFile(path).text != QString(before).replace(QLatin1String("\r\n"), QLatin1String("\n"))) {
+        return ATTACHMENTWRITE::Changed;
+    }
+    const QString backup = designs::DesignPaths(m_design->design().info().file).backupOf(path);
+    if (!writeNotesFile(path, backup, text, &m_attachmentError)) {
+        return ATTACHMENTWRITE::Failed;
+    }
+    m_knownNotes = readNotesFile(path).text;
+    return ATTACHMENTWRITE::Written;
+}
+
+bool StandaloneDocument::hasOtherNotes() const
+{
+    return m_knownNotes && readNotesFile(notesFile()).text != *m_knownNotes;
 }
 
 QString StandaloneDocument::fileBeside(const QString &suffix) const
@@ -134,9 +167,9 @@ bool StandaloneLayout::isdoctype(const char *type) const
     return type && std::strcmp(type, "LYT") == 0;
 }
 
-bool StandaloneLayout::writeattachment(const char *, const QString &)
+ATTACHMENTWRITE StandaloneLayout::writeattachment(const char *, const QString &, const QString &)
 {
-    return false;
+    return ATTACHMENTWRITE::Failed;
 }
 
 QString StandaloneLayout::attachmenterror() const

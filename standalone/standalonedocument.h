@@ -4,7 +4,10 @@
 
 #include "host/framework/applndocument.h"
 
+#include <QString>
+
 #include <memory>
+#include <optional>
 
 class LoadedDesign;
 
@@ -26,9 +29,12 @@ public:
     [[nodiscard]] bool isdoctype(const char *type) const override;
     /// BOMNOTES.TXT is read at every call from the file notesFile(); line ends become "\n".
     [[nodiscard]] QString readattachment(const char *name) const override;
-    /// BOMNOTES.TXT goes to notesFile(). Notes that cannot be read are not replaced.
-    bool writeattachment(const char *name, const QString &text) override;
+    /// BOMNOTES.TXT goes to notesFile(), its previous content beside the backups of the design. Notes that
+    /// cannot be read are not replaced. One program at a time writes them.
+    ATTACHMENTWRITE writeattachment(const char *name, const QString &before, const QString &text) override;
     [[nodiscard]] QString attachmenterror() const override { return m_attachmentError; }
+    /// Whether the notes are others than those that were read or written last; false when they never were.
+    [[nodiscard]] bool hasOtherNotes() const;
 
     /// "<design base name>.bomnotes.txt" beside the design; empty without a design.
     [[nodiscard]] QString notesFile() const;
@@ -39,9 +45,11 @@ public:
 
 private:
     [[nodiscard]] QString fileBeside(const QString &suffix) const;
+    [[nodiscard]] ATTACHMENTWRITE writeNotes(const QString &before, const QString &text);
 
     std::shared_ptr<const LoadedDesign> m_design;
     QString m_attachmentError;
+    mutable std::optional<QString> m_knownNotes;
 };
 
 /// The board file beside the design, as the document that a modification is told about.
@@ -61,7 +69,7 @@ public:
     [[nodiscard]] char kindcode() const override { return 'b'; }
     [[nodiscard]] bool isdoctype(const char *type) const override;
     [[nodiscard]] QString readattachment(const char *) const override { return {}; }
-    bool writeattachment(const char *name, const QString &text) override;
+    ATTACHMENTWRITE writeattachment(const char *name, const QString &before, const QString &text) override;
     [[nodiscard]] QString attachmenterror() const override;
 
 private:

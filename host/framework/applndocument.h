@@ -6,6 +6,15 @@
 #include <QObject>
 #include <QString>
 
+/// What came of writing an attachment.
+enum class ATTACHMENTWRITE
+{
+    Written,
+    /// It is not what it was expected to be; nothing was written.
+    Changed,
+    Failed
+};
+
 /// A document that is open in the host: a design, a board, a project.
 class APPLNDOCUMENT : public QObject
 {
@@ -30,10 +39,10 @@ public:
     /// A text kept with the document under a name such as "BOMNOTES.TXT"; empty when absent.
     [[nodiscard]] virtual QString readattachment(const char *name) const = 0;
 
-    /// Replaces such a text; an empty one takes the attachment away. When that fails the old one stays and
-    /// attachmenterror() says why.
-    virtual bool writeattachment(const char *name, const QString &text) = 0;
-    /// Why the last writeattachment() failed; empty after one that did not.
+    /// Replaces such a text if it still is `before`, as it was read; an empty one takes the attachment away.
+    /// When that fails the old one stays and attachmenterror() says why.
+    virtual ATTACHMENTWRITE writeattachment(const char *name, const QString &before, const QString &text) = 0;
+    /// Why the last writeattachment() failed; empty after any other.
     [[nodiscard]] virtual QString attachmenterror() const = 0;
 
 Q_SIGNALS:

@@ -71,6 +71,18 @@ TEST_F(WorkbenchTest, ReadsAgainAfterAFailureAlthoughTheFilesAreAsItKnowsThem)
     EXPECT_GT(stamp(), before);
 }
 
+TEST_F(WorkbenchTest, FollowsTheNotesBesideTheDesign)
+{
+    ASSERT_TRUE(bench->open(partList()));
+    const quint64 before = stamp();
+    EXPECT_TRUE(waitFor([&] { write("parts.bomnotes.txt", "solder first"); },
+                        [&] { return isReported("solder first"); }));
+    EXPECT_TRUE(waitForLook([&] { write("parts.bomnotes.txt", "solder first"); }));
+    EXPECT_TRUE(waitFor([&] { QFile::remove(path("parts.bomnotes.txt")); },
+                        [&] { return !isReported("solder first"); }));
+    EXPECT_EQ(stamp(), before) << "the design is the same";
+}
+
 TEST_F(WorkbenchTest, ReadsTheFilesWhenTheUserAsksForIt)
 {
     ASSERT_TRUE(bench->open(partList()));

@@ -49,17 +49,47 @@ TEST_F(Notes, AreWrittenIntoTheDesignWhenTheyDiffer)
     database.load();
     takeChanges();
     process.design.attachmentProblem = u"disk full"_s;
-    EXPECT_FALSE(database.setNotes(u"old"_s)) << "nothing to write";
-    EXPECT_EQ(database.setNotes(u"new"_s).value_or(QString()), u"disk full"_s);
+    using State = NotesResult::State;
+    EXPECT_EQ(database.setNotes(u"old"_s).state, State::Written) << "nothing to write";
+    EXPECT_EQ(database.setNotes(u"new"_s), (NotesResult{State::Failed, u"old"_s, u"disk full"_s}));
     EXPECT_EQ(database.notes(), u"old"_s);
     EXPECT_EQ(takeChanges(), 0);
     process.design.attachmentProblem.clear();
-    EXPECT_FALSE(database.setNotes(u"new"_s));
+    EXPECT_EQ(database.setNotes(u"new"_s), (NotesResult{State::Written, u"new"_s, {}}));
     EXPECT_EQ(process.design.attachments["BOMNOTES.TXT"], u"new"_s);
     EXPECT_EQ(database.notes(), u"new"_s);
     EXPECT_EQ(takeChanges(), 1);
     process.hasDesign = false;
-    EXPECT_NE(database.setNotes(u"x"_s).value_or(QString()), QString());
+    EXPECT_EQ(database.setNotes(u"x"_s).state, State::Failed);
+}
+
+TEST_F(Notes, ThatChangedElsewhereAreDecidedOnByTheUser)
+{
+    using State = NotesResult::State;
+    QString &held = process.design.attachments["BOMNOTES.TXT"];
+    QList<NotesConflict> asked;
+    const auto set = [&](NotesChoice choice, const QString &theirs) {
+        held = u"loaded"_s;
+        database.load();
+        held = theirs;
+        takeChanges();
+        return database.setNotes(u"mine"_s, [&asked, choice](const NotesConflict &conflict) {
+            asked << conflict;
+            return choice;
+        });
+    };
+    EXPECT_EQ(set(NotesChoice::Cancel, u"theirs"_s).state, State::Refused);
+    EXPECT_EQ(asked, (QList<NotesConflict>{{u"loaded"_s, u"mine"_s, u"theirs"_s}}));
+    EXPECT_EQ(database.setNotes(u"mine"_s).state, State::Refused) << "nobody can be asked";
+    EXPECT_EQ(held + database.notes(), u"theirsloaded"_s);
+    EXPECT_EQ(takeChanges(), 0);
+    EXPECT_EQ(set(NotesChoice::TakeTheirs, u"theirs"_s), (NotesResult{State::TakenOver, u"theirs"_s, {}}));
+    EXPECT_EQ(held + database.notes(), u"theirstheirs"_s);
+    EXPECT_EQ(takeChanges(), 1);
+    EXPECT_EQ(set(NotesChoice::KeepMine, u"theirs"_s), (NotesResult{State::Written, u"mine"_s, {}}));
+    EXPECT_EQ(held + database.notes(), u"minemine"_s);
+    EXPECT_EQ(set(NotesChoice::Cancel, u"mine"_s).state, State::Written) << "they agree";
+    EXPECT_EQ(asked.size(), 3);
 }
 
 } // namespace

@@ -217,7 +217,11 @@ protected:
     void put(const QByteArray &bytes) const { writeFile(m_document.notesFile(), bytes); }
     [[nodiscard]] QByteArray bytes() const { return contentIfAny(m_document.notesFile()); }
     [[nodiscard]] QString notes() const { return m_document.readattachment("BOMNOTES.TXT"); }
-    bool write(const QString &text) { return m_document.writeattachment("BOMNOTES.TXT", text); }
+    ATTACHMENTWRITE replace(const QString &before, const QString &text)
+    {
+        return m_document.writeattachment("BOMNOTES.TXT", before, text);
+    }
+    bool write(const QString &text) { return replace(notes(), text) == ATTACHMENTWRITE::Written; }
 
     QTemporaryDir m_folder;
     DesignSession m_session;
@@ -256,8 +260,32 @@ TEST_F(Notes, AreWrittenAsTheFileWas)
         EXPECT_TRUE(write(QString()));
         EXPECT_FALSE(QFile::exists(m_document.notesFile()));
     }
-    EXPECT_FALSE(m_document.writeattachment("OTHER.TXT", u"x"_s));
+    EXPECT_EQ(m_document.writeattachment("OTHER.TXT", {}, u"x"_s), ATTACHMENTWRITE::Failed);
     EXPECT_FALSE(m_document.attachmenterror().isEmpty());
+}
+
+TEST_F(Notes, OfAnotherProgramAreNeitherReplacedNorMissed)
+{
+    const QString backup = m_folder.filePath(u"amp-backup/amp.bomnotes.txt.bak"_s);
+    EXPECT_FALSE(m_document.hasOtherNotes()) << "nobody has read them yet";
+    EXPECT_TRUE(write(u"mine\r\n"_s));
+    EXPECT_FALSE(m_document.hasOtherNotes());
+    EXPECT_EQ(replace(u"mine\r\n"_s, u"more"_s), ATTACHMENTWRITE::Written);
+    EXPECT_EQ(contentIfAny(backup), "mine\n");
+    put("theirs");
+    EXPECT_TRUE(m_document.hasOtherNotes());
+    EXPECT_EQ(replace(u"more"_s, u"most"_s), ATTACHMENTWRITE::Changed);
+    EXPECT_EQ(bytes(), "theirs");
+    EXPECT_EQ(notes(), u"theirs"_s);
+    EXPECT_FALSE(m_document.hasOtherNotes());
+    EXPECT_TRUE(write(QString()));
+    EXPECT_EQ(contentIfAny(backup), "theirs");
+
+    ASSERT_TRUE(QFile::remove(backup) && QDir().mkpath(backup + u"/inside"_s));
+    put("last");
+    EXPECT_FALSE(write(u"x"_s));
+    EXPECT_TRUE(m_document.attachmenterror().contains(u"the previous notes cannot be kept in "_s + backup));
+    EXPECT_EQ(bytes(), "last");
 }
 
 TEST_F(Notes, ThatCannotBeWrittenLeaveTheOldFile)

@@ -23,13 +23,16 @@ public:
     char kindcode() const override { return kind; }
     bool isdoctype(const char *asked) const override { return type == asked; }
     QString readattachment(const char *name) const override { return attachments.value(name); }
-    bool writeattachment(const char *name, const QString &text) override
+    ATTACHMENTWRITE writeattachment(const char *name, const QString &before, const QString &text) override
     {
         if (!attachmentProblem.isEmpty()) {
-            return false;
+            return ATTACHMENTWRITE::Failed;
+        }
+        if (attachments.value(name) != before) {
+            return ATTACHMENTWRITE::Changed;
         }
         attachments[name] = text;
-        return true;
+        return ATTACHMENTWRITE::Written;
     }
     QString attachmenterror() const override { return attachmentProblem; }
 };
