@@ -20,9 +20,12 @@ const QByteArray partList = "Reference,Value,MPN,Manufacturer,Cost\nR1,1k,M1,Ada
 QByteArray templateFile(int version, const QByteArray &more = {})
 {
     return "<BOMTemplate version=\"" + QByteArray::number(version) +
-           "\"><fields Type=\"QVariantList\"><Element><fieldName>Value</fieldName><propertyName>VALUE</propertyName>"
-           "<asciiWidth Type=\"int\" Value=\"99999999999\"/></Element></fields><categories Type=\"QVariantList\">"
-           "<Element><heading>All</heading><isMiscCategory Type=\"bool\" Value=\"true\"/></Element></categories>" +
+           "\"><fields "
+           "Type=\"QVariantList\"><Element><fieldName>Value</fieldName><propertyName>VALUE</propertyName>"
+           "<asciiWidth Type=\"int\" Value=\"99999999999\"/></Element></fields><categories "
+           "Type=\"QVariantList\">"
+           "<Element><heading>All</heading><isMiscCategory Type=\"bool\" "
+           "Value=\"true\"/></Element></categories>" +
            more + "</BOMTemplate>";
 }
 
