@@ -157,8 +157,12 @@ QAction *BOMMainWindow::addCommand(const Command &command)
     action->setStatusTip(command.tip);
     action->setShortcut(command.shortcut);
     // A tip that is shown while a command opens a dialog would stay: nothing tells that the pointer has left.
-    connect(
-        action, &QAction::triggered, this, [this] { getframe()->setstatustext({}); }, Qt::QueuedConnection);
+    const auto clearTip = [this] {
+        if (APPLNFRAME *frame = getframe()) {
+            frame->setstatustext({});
+        }
+    };
+    connect(action, &QAction::triggered, this, clearTip, Qt::QueuedConnection);
     return action;
 }
 
