@@ -127,9 +127,15 @@ PROPTEXT PROPTEXT::fromBytes(const QByteArray &bytes)
     if (text.contains(QLatin1String("\r\n"))) {
         read.m_lineEnd = QStringLiteral("\r\n");
     }
-    text.remove(u'\r');
+    // Other carriage returns stay: without one between them, two bytes of Latin-1 could read as one of UTF-8.
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     if (text.endsWith(u'\n')) {
         text.chop(1);
+    } else {
+        // With the line end that is written behind it, it would be a part of that.
+        while (text.endsWith(u'\r')) {
+            text.chop(1);
+        }
     }
     read.m_lines = text.split(u'\n');
     return read;

@@ -31,7 +31,7 @@ std::vector<std::string> fuzzSeeds()
 {
     return {"; mine\r\n[PROPDEFS]\r\n\"A\",INT\r\n\"B\",FLOAT,\"of \xFC\"\r\n\r\n[Other]\r\nx=1\r\n",
             "[PROPDEFS]\n\"A\",YESNO\n\"a\",INT\n\"C\",STRING,\"x, \"\"y\"\"\"\n#\n",
-            "\xEF\xBB\xBF\xEF\xBB\xBF[PP"};
+            "\xEF\xBB\xBF\xEF\xBB\xBF[PP", "\xEF\xBB\xBF\n\"\xC3\r\xBC\nx\r"};
 }
 
 std::vector<std::string> fuzzWords()
