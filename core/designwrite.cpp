@@ -29,10 +29,10 @@ DesignWrite::~DesignWrite()
     }
 }
 
-void DesignWrite::whenWritten(std::function<void()> action)
+void DesignWrite::whenWritten(const std::function<void()> &action)
 {
     if (m_host) {
-        m_host->afterbatch(std::move(action));
+        m_host->afterbatch(action);
     }
 }
 

@@ -22,7 +22,7 @@ public:
     ~DesignWrite();
 
     /// Has something done as soon as the files are written, and not at all when they are not.
-    void whenWritten(std::function<void()> action);
+    void whenWritten(const std::function<void()> &action);
     /// Writes what was collected, all of it or nothing; the host's database has the problems. True when it is
     /// written, or waits for the write that this one is a part of. To be called once.
     [[nodiscard]] bool commit();

@@ -244,10 +244,10 @@ void StandaloneCdb::dropbatch()
     }
 }
 
-void StandaloneCdb::afterbatch(std::function<void()> action)
+void StandaloneCdb::afterbatch(const std::function<void()> &action)
 {
     if (m_depth > 0) {
-        m_afterBatch.push_back(std::move(action));
+        m_afterBatch.push_back(action);
     } else {
         action();
     }

@@ -44,7 +44,7 @@ public:
     void beginbatch() override;
     bool commitbatch() override;
     void dropbatch() override;
-    void afterbatch(std::function<void()> action) override;
+    void afterbatch(const std::function<void()> &action) override;
     [[nodiscard]] QList<CDBPROBLEM> problems() const override { return m_problems; }
 
 private:

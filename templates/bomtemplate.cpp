@@ -63,10 +63,11 @@ void write(const Entry<T> (&entries)[count], const Record &record, QVariantMap &
 template<typename T>
 T valueOf(const QVariant &value)
 {
-    if constexpr (std::is_same_v<T, int>)
+    if constexpr (std::is_same_v<T, int>) {
         return clampedInt(value);
-    else
+    } else {
         return value.value<T>();
+    }
 }
 
 template<typename T, std::size_t count>

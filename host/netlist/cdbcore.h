@@ -78,7 +78,7 @@ public:
     virtual void dropbatch() {}
     /// Has something done once the outermost batch is written; it is forgotten when that batch is dropped or
     /// refused. Outside of a batch, and in a host without batches, it is done at once.
-    virtual void afterbatch(std::function<void()> action) { action(); }
+    virtual void afterbatch(const std::function<void()> &action) { action(); }
     /// All that kept the last batch, or the last script outside of one, from being written; the host keeps
     /// the list until the next begins.
     [[nodiscard]] virtual QList<CDBPROBLEM> problems() const { return {}; }

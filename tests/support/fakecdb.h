@@ -74,7 +74,7 @@ public:
         calls << QStringLiteral("drop");
         m_actions.clear();
     }
-    void afterbatch(std::function<void()> action) override { m_actions.push_back(std::move(action)); }
+    void afterbatch(const std::function<void()> &action) override { m_actions.push_back(action); }
     QList<CDBPROBLEM> problems() const override { return refusal; }
 
 private:
