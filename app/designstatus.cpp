@@ -27,14 +27,19 @@ qsizetype hiddenByOthers(const ComponentAccount &components)
     return count;
 }
 
-QString accountText(const ComponentAccount &components, std::optional<qsizetype> listed)
+/// How many of the parts that the module lists are no components of the design.
+qsizetype bomOnlyParts(const ComponentAccount &components, std::optional<qsizetype> listed)
+{
+    const qsizetype placed = components.listed - hiddenByOthers(components);
+    return std::max<qsizetype>(listed.value_or(placed) - placed, 0);
+}
+
+QString accountText(const ComponentAccount &components, qsizetype bomOnly)
 {
     const qsizetype hidden = hiddenByOthers(components);
-    const qsizetype placed = components.listed - hidden;
-    const qsizetype parts = std::max(listed.value_or(placed), placed);
-    QStringList counts = {Texts::tr("%1 listed").arg(parts)};
-    if (parts > placed) {
-        counts.last() += Texts::tr(" (%1 BOM-only)").arg(parts - placed);
+    QStringList counts = {Texts::tr("%1 listed").arg(components.listed - hidden + bomOnly)};
+    if (bomOnly > 0) {
+        counts.last() += Texts::tr(" (%1 BOM-only)").arg(bomOnly);
     }
     if (hidden > 0) {
         counts << Texts::tr("%1 repeated").arg(hidden);
@@ -59,8 +64,12 @@ DesignStatus designStatus(const DesignSession &session, std::optional<qsizetype>
     }
     const ComponentAccount components = componentAccountOf(*session.design());
     DesignStatus status;
-    status.account = accountText(components, listed);
-    status.accountTip = Texts::tr("Of %1 components of the design").arg(components.components);
+    const qsizetype bomOnly = bomOnlyParts(components, listed);
+    status.account = accountText(components, bomOnly);
+    const QString tip = bomOnly > 0 ? Texts::tr("Of %1 components of the design and %2 BOM-only parts")
+                                    : Texts::tr("Of %1 components of the design");
+    status.accountTip =
+        bomOnly > 0 ? tip.arg(components.components).arg(bomOnly) : tip.arg(components.components);
     status.warnings = session.warnings();
     for (const RepeatedReference &repeated : components.repeated) {
         if (repeated.isDoubtful()) {

@@ -92,14 +92,14 @@ void TemplateStore::makeCurrent(const QString &name)
     m_currentName = name;
     HostSettings::current().setValue(settingsGroup, currentKey, name);
     if (m_working) {
-        work(m_list.stored(name));
+        handOver(m_list.stored(name));
     } else {
         setModified(false);
     }
     Q_EMIT currentChanged(name);
 }
 
-void TemplateStore::work(BOMTemplate settings)
+void TemplateStore::handOver(BOMTemplate settings)
 {
     const QString name = settings.name();
     const bool isUpgraded = upgradeTemplate(settings);

@@ -121,7 +121,8 @@ Q_SIGNALS:
 
 private:
     void put(const BOMTemplate &settings);
-    void work(BOMTemplate settings);
+    /// Makes the settings the working ones, with the header of an old HTML file.
+    void handOver(BOMTemplate settings);
     void tellUpgraded(const QString &name);
     [[nodiscard]] bool refuseToCreate(const QString &name) const;
     [[nodiscard]] bool mayReplace(const QString &name) const;
