@@ -3,6 +3,7 @@
 #include "standalone/referenceindex.h"
 
 #include "designs/csv/referencecell.h"
+#include "designs/utf8.h"
 
 ReferenceIndex::ReferenceIndex(const designs::Design &design)
     : m_design(design)
@@ -47,7 +48,7 @@ std::optional<QStringList> readReferences(const QString &text, QString *error)
     }
     QStringList references;
     for (const std::string_view reference : reader.references()) {
-        references << QString::fromUtf8(reference.data(), qsizetype(reference.size()));
+        references << designs::fromUtf8(reference);
     }
     return references;
 }

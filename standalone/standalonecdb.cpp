@@ -24,7 +24,7 @@ std::string storedName(const designs::Design &design, const designs::Edit &edit)
         return design.stored(component, id).has_value();
     });
     if (candidates.empty()) {
-        return designs::fromUtf8(edit.name).toCaseFolded().toStdString();
+        return designs::caseFolded(edit.name);
     }
     return std::string(design.names().name(found == candidates.end() ? candidates.front() : *found));
 }

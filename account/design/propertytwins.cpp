@@ -23,12 +23,12 @@ public:
         for (const char *alias : {"PACKAGE", "VALUE"}) {
             const quint32 group = m_count++;
             for (const NameId id : names.candidates(alias)) {
-                known.insert(fromHostText(names.name(id)).toCaseFolded(), group);
+                known.insert(keyOf(names.name(id)), group);
             }
         }
         m_groups.reserve(names.size());
         for (NameId id = 0; id < names.size(); ++id) {
-            const QString key = fromHostText(names.name(id)).toCaseFolded();
+            const QString key = keyOf(names.name(id));
             const auto found = known.constFind(key);
             m_groups.push_back(found == known.constEnd() ? *known.insert(key, m_count++) : *found);
         }
@@ -38,6 +38,12 @@ public:
     [[nodiscard]] quint32 count() const { return m_count; }
 
 private:
+    /// Equal for names that the design takes for one, which a byte order mark in front does not tell apart.
+    static QString keyOf(std::string_view name)
+    {
+        return QString::fromUtf8(name.data(), qsizetype(name.size())).toCaseFolded();
+    }
+
     std::vector<quint32> m_groups;
     quint32 m_count = 0;
 };

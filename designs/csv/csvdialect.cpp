@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/csvdialect.h"
 
+#include "designs/utf8.h"
+
 #include <QByteArrayView>
 #include <QList>
 
@@ -283,7 +285,7 @@ std::string utf8FromWindows1252(std::string_view text)
 std::optional<std::string> windows1252FromUtf8(std::string_view text)
 {
     std::string result;
-    const QList<uint> characters = QString::fromUtf8(text.data(), qsizetype(text.size())).toUcs4();
+    const QList<uint> characters = fromUtf8(text).toUcs4();
     for (const uint character : characters) {
         const char byte = windows1252Byte(char32_t(character));
         if (byte == '\0') {

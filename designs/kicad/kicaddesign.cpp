@@ -5,6 +5,7 @@
 #include "designs/kicad/symbolrecount.h"
 #include "designs/kicad/textvariables.h"
 #include "designs/notfitted.h"
+#include "designs/utf8.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -14,11 +15,6 @@
 namespace designs::kicad {
 
 namespace {
-
-QString toText(const std::string &text)
-{
-    return QString::fromStdString(text);
-}
 
 QString siblingPath(const QString &path, QLatin1String extension)
 {
@@ -30,7 +26,7 @@ void addNames(std::span<const InstanceRecord> records, QStringList *names)
 {
     for (const InstanceRecord &record : records) {
         for (const VariantRecord &variant : record.variants) {
-            names->append(QString::fromUtf8(variant.name.data(), qsizetype(variant.name.size())));
+            names->append(fromUtf8(variant.name));
         }
     }
 }
@@ -160,7 +156,7 @@ void KicadDesign::fillInfo()
 {
     const SheetFile &root = m_hierarchy->files().front();
     const TextVariables variables(*m_hierarchy, m_project, m_names, m_info.variant);
-    const auto resolved = [&](std::string_view text) { return toText(variables.titleText(text)); };
+    const auto resolved = [&](std::string_view text) { return fromUtf8(variables.titleText(text)); };
     const auto fromProject = [this](QLatin1String name, const QString &otherwise) {
         const QString text = m_project.textVariables.value(name);
         return text.isEmpty() ? otherwise : text;

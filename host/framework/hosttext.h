@@ -6,10 +6,15 @@
 #include <QByteArrayView>
 #include <QString>
 
-/// Text crosses the host boundary as UTF-8, on every platform.
+/// Text crosses the host boundary as UTF-8, on every platform. All of it: QString::fromUtf8() takes a U+FEFF
+/// at the beginning for a byte order mark, which only a whole file has.
 [[nodiscard]] inline QString fromHostText(QByteArrayView text)
 {
-    return QString::fromUtf8(text);
+    QString result = QString::fromUtf8(text);
+    if (text.startsWith("\xEF\xBB\xBF")) {
+        result.prepend(QChar::ByteOrderMark);
+    }
+    return result;
 }
 
 [[nodiscard]] inline QByteArray toHostText(QStringView text)

@@ -15,13 +15,14 @@ const char *const heading = "Category,Quantity,References,Value,Stock Code,Unit 
 
 TEST_F(Report, GoesToItsFileOrToStandardOutput)
 {
-    write(QStringLiteral("list.csv"), "Reference,Value,CODE,COST\n"
+    // A byte order mark is one at the start of the file only.
+    write(QStringLiteral("list.csv"), "\uFEFFReference,Value,CODE,COST\n"
                                       "R1,10k,S-10k,0.1\nR2,10k,S-10k,0.1\nR10,10k,S-10k,0.1\n"
-                                      "C1,\"1,5u\",,\nX1,5%1,,2\n");
+                                      "C1,\"1,5u\",,\nX1,\uFEFF5%1,,2\n");
     setEnvironment(QStringLiteral("SOURCE_DATE_EPOCH"), QStringLiteral("1000000000"));
     const std::string lines = std::string(heading) + "Capacitors,1,C1,\"1,5u\",,\n"
                                                      "Resistors,3,\"R1-R2,R10\",10k,S-10k,0.10\n"
-                                                     "Miscellaneous,1,X1,5%1,,2.00\n";
+                                                     "Miscellaneous,1,X1,\uFEFF5%1,,2.00\n";
     const std::string text = "Bill Of Materials\n=================\nDesign Title:    list\n";
     const std::pair<std::string, std::string> cases[] = {
         {"--csv", lines},

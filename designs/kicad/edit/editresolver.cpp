@@ -100,7 +100,7 @@ void EditResolver::findName(const std::string &name, ResolvedEdit *resolved)
     const bool isDescription =
         sameAscii(name, "Description") && sheet.formatVersion >= version::descriptionField;
     const std::string spelled = isDescription ? "Description" : std::string(mandatoryName(name));
-    const std::string folded = fromUtf8(name).toCaseFolded().toStdString();
+    const std::string folded = caseFolded(name);
     resolved->name = m_newNames.try_emplace(folded, spelled).first->second;
 }
 
