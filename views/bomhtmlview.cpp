@@ -23,6 +23,12 @@ BOMHTMLView::BOMHTMLView(QWidget *parent)
 {
 }
 
+void BOMHTMLView::setPartsDatabase(BOMPartsDatabase *database)
+{
+    BOMView::setPartsDatabase(database);
+    m_hasReport = false;
+}
+
 QString BOMHTMLView::html()
 {
     if (!isValid()) {
@@ -101,6 +107,14 @@ void BOMHTMLView::handleBOMDataUpdate()
     }
     textEdit()->loadDocument(html());
     textEdit()->document()->setTitle(::htmlText(database()->designTitle()));
+    m_hasReport = true;
+}
+
+void BOMHTMLView::ensureReport()
+{
+    if (!m_hasReport) {
+        handleBOMDataUpdate();
+    }
 }
 
 void BOMHTMLView::onLinkActivated(const QString &link)
@@ -119,9 +133,7 @@ void BOMHTMLView::saveHTML()
     if (!isValid()) {
         return;
     }
-    if (textEdit()->document()->getHtml().isEmpty()) {
-        handleBOMDataUpdate();
-    }
+    ensureReport();
     const QString html = textEdit()->document()->getHtml();
     const QString path =
         saveOutput({tr("HTML file to save"), QStringLiteral(".html"), tr("Web pages (*.html *.htm)")},
@@ -133,9 +145,7 @@ void BOMHTMLView::saveHTML()
 
 void BOMHTMLView::prepareOutput()
 {
-    if (textEdit()->document()->getHtml().isEmpty()) {
-        handleBOMDataUpdate();
-    }
+    ensureReport();
     const BOMTemplate &settings = database()->currentTemplate();
     textEdit()->setPageFragments(xmlText(settings.pageHeader()), xmlText(settings.pageFooter()));
     textEdit()->document()->setTitle(database()->designTitle());

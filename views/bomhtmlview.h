@@ -6,6 +6,7 @@
 
 #include <QString>
 
+class BOMPartsDatabase;
 class BOMTemplate;
 class BOMTemplateEditor;
 class TextEdit;
@@ -18,6 +19,9 @@ class BOMHTMLView final : public BOMView
 
 public:
     explicit BOMHTMLView(QWidget *parent = nullptr);
+
+    /// What is shown stays; what is put out next is of this database.
+    void setPartsDatabase(BOMPartsDatabase *database) override;
 
     /// The whole document; empty without a database.
     [[nodiscard]] QString html();
@@ -63,11 +67,14 @@ public Q_SLOTS:
 private:
     void makeTextEdit();
     void makeStyleEditor();
+    /// Makes the document if none has been made of this database.
+    void ensureReport();
     void prepareOutput();
     /// Takes the changed template as the working one, marked modified.
     void takeTemplate(const BOMTemplate &changed);
 
     TextEdit *m_textEdit = nullptr;
+    bool m_hasReport = false;
     TextStyleEditor *m_styleEditor = nullptr;
     BOMTemplateEditor *m_templateEditor = nullptr;
 };

@@ -118,6 +118,24 @@ TEST_F(HtmlView, SavesWhatItShows)
     EXPECT_EQ(view.property("ExportFileName").toString(), ui.fileName);
 }
 
+TEST_F(HtmlView, PutsOutTheReportOfItsDatabaseThoughNoneWasShown)
+{
+    ui.fileName = folder.filePath(u"a.html"_s);
+    BOMHTMLView fresh;
+    fresh.setPartsDatabase(&database);
+    fresh.setPageSize();
+    fresh.saveHTML();
+    EXPECT_EQ(QString::fromUtf8(readFile(ui.fileName)), view.html());
+    FakeNetlist other;
+    other.add("C1", "1u");
+    BOMPartsDatabase others;
+    others.setNetlist(other.cache());
+    others.load();
+    fresh.setPartsDatabase(&others);
+    fresh.saveHTML();
+    EXPECT_EQ(QString::fromUtf8(readFile(ui.fileName)), fresh.html());
+}
+
 TEST_F(HtmlView, IsNothingWithoutADatabase)
 {
     view.setPartsDatabase(nullptr);
