@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <clocale>
 #include <span>
 #include <string_view>
 
@@ -40,6 +41,8 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     QApplication application(argc, argv);
+    // Qt has set the user's locale. Libraries that print numbers would write them into files in its form.
+    std::setlocale(LC_NUMERIC, "C");
     QCoreApplication::setApplicationName(QStringLiteral("bomviewer"));
     QCoreApplication::setApplicationVersion(QStringLiteral(BOM_VERSION));
     QCommandLineParser parser;

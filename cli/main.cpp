@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <array>
+#include <clocale>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -107,6 +108,8 @@ ExitStatus run(Command &command, char *argv[])
     qInstallMessageHandler(handleLibraryMessage);
     int argc = 1; // The program's own options are none of Qt's.
     const auto application = makeApplication(command.paints(), argc, argv);
+    // Qt has set the user's locale. Libraries that print numbers would write them into files in its form.
+    std::setlocale(LC_NUMERIC, "C");
     prepareTemplates();
     return command.run();
 }

@@ -6,6 +6,8 @@
 #include "report/xlsxtext.h"
 #include "views/report/spreadsheet.h"
 
+#include <clocale>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -103,6 +105,13 @@ TEST_F(SpreadsheetOutput, LinksOpenFilesAndAddresses)
                  {"COST", "7"}});
     netlist.add("U2", "b", {{"BOMLINKS", "VALUE=https://x/internal:y?q=%22%26"}});
     netlist.add("U3", "c", {{"BOMLINKS", "VALUE=https://x/" + QByteArray(3000, 'x')}});
+    netlist.add("U4", "d", {{"BOMLINKS", "VALUE=https://x/" + QByteArray(1000, '[')}});
+    const char *const malformed[] = {"https:// www.x", "http://[::1", "http://[::1]/x", "https://x%01y",
+                                     "http://"};
+    int number = 10;
+    for (const char *link : malformed) {
+        netlist.add("U" + QByteArray::number(number++), link, {{"BOMLINKS", QByteArray("VALUE=") + link}});
+    }
     database.load();
     for (const QString &field : {u"Value"_s, u"Stock Code"_s, cost}) {
         changeField(field, [](BOMField &changed) { changed.enableLinks = true; });
@@ -110,8 +119,26 @@ TEST_F(SpreadsheetOutput, LinksOpenFilesAndAddresses)
     expectLines({"link D8 file:///designs/amp/docs/a%20%231.pdf", "link F8 https://x",
                  "link D9 https://x/internal%3Ay?q=%22&", "D8 \"a\" [@]", "E8 \"c\" [@]", "F8 7 [0.00]"});
     EXPECT_EQ(xlsxText(output().file).count("\nlink "), 3);
-    EXPECT_EQ(output().notices,
-              QStringList{u"A link of a spreadsheet has at most 2079 characters; 1 longer ones are text."_s});
+    const QStringList notices{
+        u"A link of a spreadsheet has at most 2079 characters; 2 longer ones are text."_s,
+        u"Malformed links are text: U10 (Value), U11 (Value), U12 (Value), U13 (Value), U14 (Value)."_s};
+    EXPECT_EQ(output().notices, notices);
+}
+
+TEST_F(SpreadsheetOutput, HasNumbersOfTheFormatInAHostWithADecimalComma)
+{
+    netlist.add("R1", "1k", {{"COST", "1.5"}});
+    database.load();
+    const QByteArray expected = output().file;
+    const QTemporaryDir folder;
+    const QString source = QStringLiteral(BOM_SOURCE_DIR "/tests/data/report/decimal-comma.locale");
+    QProcess::execute(u"localedef"_s, {u"-c"_s, u"--quiet"_s, u"-i"_s, source, folder.filePath(u"comma"_s)});
+    qputenv("LOCPATH", folder.path().toUtf8());
+    ASSERT_TRUE(setlocale(LC_NUMERIC, "comma"));
+    const QByteArray file = output().file;
+    EXPECT_STREQ(localeconv()->decimal_point, ",") << "the locale stays the host's";
+    setlocale(LC_NUMERIC, "C");
+    EXPECT_TRUE(file == expected) << xlsxText(file).toStdString();
 }
 
 TEST_F(SpreadsheetOutput, NeverCutsTexts)
@@ -150,7 +177,7 @@ TEST(Spreadsheet, EndsWhereTheFormatEnds)
     links.beginSheet(u"links"_s);
     int linked = 0;
     for (int row = 0; row < 65533; ++row) {
-        linked += links.link(0, QUrl(u"https://x"_s)) ? 1 : 0;
+        linked += links.link(0, QUrl(u"https://x"_s), {}) ? 1 : 0;
         links.text(0, u"x"_s, CellLook::Link);
         links.nextRow();
     }

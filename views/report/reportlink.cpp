@@ -49,7 +49,7 @@ QUrl linkTarget(const QString &link, const QString &designFolder)
         return {};
     }
     const QString text = link.trimmed();
-    if (!schemeOf(text).isEmpty()) {
+    if (!schemeOf(withoutIgnoredCharacters(text)).isEmpty()) {
         return QUrl(text);
     }
     return QUrl::fromLocalFile(QDir::cleanPath(QDir(designFolder).absoluteFilePath(text)));

@@ -10,5 +10,5 @@
 [[nodiscard]] bool isOpenableLink(const QString &link);
 
 /// What to open for a link; one without a scheme is a file below `designFolder` unless it is absolute.
-/// Empty for a link that is not to be opened.
+/// Empty for a link that is not to be opened, not valid for an address that nothing can open.
 [[nodiscard]] QUrl linkTarget(const QString &link, const QString &designFolder);

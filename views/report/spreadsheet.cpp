@@ -12,10 +12,14 @@
 
 #include <xlsxwriter.h>
 
+#include <locale.h>
+
 namespace {
 
 constexpr int mostLinks = LXW_MAX_NUMBER_URLS;
 constexpr qsizetype longestLink = 2079;
+/// In a notice.
+constexpr qsizetype mostNamedLinks = 10;
 constexpr qsizetype longestProperty = 255;
 constexpr qsizetype narrowestColumn = 8;
 constexpr qsizetype widestColumn = 60;
@@ -27,6 +31,29 @@ constexpr lxw_color_t greyFill = 0xE4E8EE;
 constexpr lxw_color_t paleFill = 0xF3F5F8;
 constexpr lxw_color_t linkColour = 0x0563C1;
 constexpr double titleSize = 14;
+
+/// The library writes numbers as the locale of the calling thread says, which a host chooses for itself;
+/// files have them in the form of C. While this lives that is the locale of the thread.
+class CLocale final
+{
+public:
+    CLocale()
+        : m_previous(uselocale(locale()))
+    {
+    }
+    CLocale(const CLocale &) = delete;
+    CLocale &operator=(const CLocale &) = delete;
+    ~CLocale() { uselocale(m_previous); }
+
+private:
+    static locale_t locale()
+    {
+        static const locale_t c = newlocale(LC_ALL_MASK, "C", nullptr);
+        return c;
+    }
+
+    locale_t m_previous;
+};
 
 /// XML has no control characters, cells know line feeds only, and a text such as _x0041_ would be read as the
 /// character of that number.
@@ -51,6 +78,19 @@ QByteArray linkBytes(const QUrl &target)
         link.replace(QByteArray(scheme) + ':', QByteArray(scheme) + "%3A");
     }
     return link;
+}
+
+/// Whether the file can hold the address; brackets around a host come out of the library escaped.
+bool isWellFormed(const QUrl &target)
+{
+    const bool leadsSomewhere = !target.host().isEmpty() || !target.path().isEmpty();
+    return target.isValid() && leadsSomewhere && !target.host().contains(u':');
+}
+
+/// The library escapes brackets.
+qsizetype escapedLength(const QByteArray &link)
+{
+    return link.size() + 2 * (link.count('[') + link.count(']'));
 }
 
 /// Whether long texts go on in further lines of the cell.
@@ -116,6 +156,7 @@ Spreadsheet::Spreadsheet(const Properties &properties)
     : m_folderName(QFile::encodeName(m_folder.path()))
     , m_path(m_folderName + "/report.xlsx")
 {
+    const CLocale locale;
     // All in one folder: where a disk is full, the library notices that of the file only, not of its parts.
     lxw_workbook_options options{};
     options.tmpdir = m_folderName.data();
@@ -135,6 +176,7 @@ Spreadsheet::Spreadsheet(const Properties &properties)
 
 Spreadsheet::~Spreadsheet()
 {
+    const CLocale locale;
     if (m_workbook) {
         lxw_workbook_free(m_workbook);
     }
@@ -142,6 +184,7 @@ Spreadsheet::~Spreadsheet()
 
 void Spreadsheet::beginSheet(const QString &name)
 {
+    const CLocale locale;
     setWidths();
     m_row = 0;
     m_textLines = 1;
@@ -170,6 +213,7 @@ void Spreadsheet::text(int column, const QString &text, CellLook look, const QSt
     if (!isReady(column)) {
         return;
     }
+    const CLocale locale;
     if (text.size() > MostCharacters) {
         constexpr qsizetype shown = 40;
         m_problem = tr("A cell of a spreadsheet holds %1 characters; this text has %2: %3...")
@@ -193,6 +237,7 @@ void Spreadsheet::text(int column, const QString &text, CellLook look, const QSt
 void Spreadsheet::number(int column, double number, CellLook look, const QString &format)
 {
     if (isReady(column)) {
+        const CLocale locale;
         widen(column, shownCharacters(number, format), look);
         check(worksheet_write_number(m_sheet, lxw_row_t(m_row), lxw_col_t(column), number,
                                      this->format(look, format)));
@@ -203,6 +248,7 @@ void Spreadsheet::formula(int column, const QString &formula, double result, Cel
                           const QString &format)
 {
     if (isReady(column)) {
+        const CLocale locale;
         widen(column, shownCharacters(result, format), look);
         check(worksheet_write_formula_num(m_sheet, lxw_row_t(m_row), lxw_col_t(column),
                                           formula.toLatin1().constData(), this->format(look, format),
@@ -210,9 +256,16 @@ void Spreadsheet::formula(int column, const QString &formula, double result, Cel
     }
 }
 
-bool Spreadsheet::link(int column, const QUrl &target)
+bool Spreadsheet::link(int column, const QUrl &target, const QString &owner)
 {
     if (!isReady(column)) {
+        return false;
+    }
+    if (!isWellFormed(target)) {
+        ++m_malformedLinks;
+        if (m_malformedOwners.size() < mostNamedLinks) {
+            m_malformedOwners.append(owner);
+        }
         return false;
     }
     const QByteArray bytes = linkBytes(target);
@@ -220,11 +273,12 @@ bool Spreadsheet::link(int column, const QUrl &target)
         ++m_missingLinks;
         return false;
     }
-    if (bytes.size() > longestLink) {
+    if (escapedLength(bytes) > longestLink) {
         ++m_longLinks;
         return false;
     }
     ++m_links;
+    const CLocale locale;
     check(worksheet_write_url_opt(m_sheet, lxw_row_t(m_row), lxw_col_t(column), bytes.constData(),
                                   format(CellLook::Link, {}), " ", nullptr));
     return true;
@@ -233,6 +287,7 @@ bool Spreadsheet::link(int column, const QUrl &target)
 void Spreadsheet::freezeRow(int row, int lastColumn, int lastRow)
 {
     if (isReady(lastColumn)) {
+        const CLocale locale;
         worksheet_freeze_panes(m_sheet, lxw_row_t(row) + 1, 0);
         check(worksheet_repeat_rows(m_sheet, lxw_row_t(row), lxw_row_t(row)));
         check(worksheet_autofilter(m_sheet, lxw_row_t(row), 0, lxw_row_t(lastRow), lxw_col_t(lastColumn)));
@@ -259,6 +314,7 @@ QByteArray Spreadsheet::bytes()
     if (!m_problem.isEmpty()) {
         return {};
     }
+    const CLocale locale;
     setWidths();
     // Closing frees the workbook, whatever comes of it.
     check(workbook_close(std::exchange(m_workbook, nullptr)));
@@ -279,6 +335,11 @@ QStringList Spreadsheet::notices() const
     if (m_longLinks > 0) {
         notices << tr("A link of a spreadsheet has at most %1 characters; %2 longer ones are text.")
                        .arg(QString::number(longestLink), QString::number(m_longLinks));
+    }
+    if (m_malformedLinks > 0) {
+        const auto others = m_malformedLinks - m_malformedOwners.size();
+        notices << tr("Malformed links are text: ") + m_malformedOwners.join(QLatin1String(", ")) +
+                       (others > 0 ? tr(" and %1 more.").arg(others) : QStringLiteral("."));
     }
     return notices;
 }

@@ -71,8 +71,9 @@ public:
     /// `result` is what the formula gives.
     void formula(int column, const QString &formula, double result, CellLook look,
                  const QString &format = {});
-    /// Makes a link of the cell, which is to be written after it. False when it cannot be one; see notices().
-    [[nodiscard]] bool link(int column, const QUrl &target);
+    /// Makes a link of the cell, which is to be written after it. False when it cannot be one; notices() then
+    /// says so, of a malformed one by its owner.
+    [[nodiscard]] bool link(int column, const QUrl &target, const QString &owner);
 
     /// Keeps this row of headings, with all above it, in sight and repeats it on every printed page; gives it
     /// filters for the rows down to `lastRow`. Texts that look like numbers are no faults in these.
@@ -114,5 +115,8 @@ private:
     int m_links = 0;
     int m_missingLinks = 0;
     int m_longLinks = 0;
+    int m_malformedLinks = 0;
+    /// Of the first malformed links.
+    QStringList m_malformedOwners;
     QString m_problem;
 };

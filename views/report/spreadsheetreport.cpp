@@ -200,7 +200,8 @@ void SpreadsheetWriter::writeValue(int column, const Part &part)
     CellLook look = CellLook::Cell;
     if (report->field.enableLinks && (number || !text.isEmpty())) {
         const QUrl target = linkTarget(m_report.link(part.reference(), *report), m_designFolder);
-        if (!target.isEmpty() && m_sheet.link(at, target)) {
+        const QString owner = part.reference() + QLatin1String(" (") + report->field.fieldName + u')';
+        if (!target.isEmpty() && m_sheet.link(at, target, owner)) {
             look = CellLook::Link;
         }
     }
