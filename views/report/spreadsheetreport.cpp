@@ -44,6 +44,12 @@ QString literal(const QString &text)
     return pieces.join(QLatin1String("\\\""));
 }
 
+/// The cell of a part, in messages.
+QString nameOf(const Part &part, const ReportColumn &column)
+{
+    return part.reference() + QLatin1String(" (") + column.field.fieldName + u')';
+}
+
 struct Information
 {
     QString label;
@@ -200,8 +206,7 @@ void SpreadsheetWriter::writeValue(int column, const Part &part)
     CellLook look = CellLook::Cell;
     if (report->field.enableLinks && (number || !text.isEmpty())) {
         const QUrl target = linkTarget(m_report.link(part.reference(), *report), m_designFolder);
-        const QString owner = part.reference() + QLatin1String(" (") + report->field.fieldName + u')';
-        if (!target.isEmpty() && m_sheet.link(at, target, owner)) {
+        if (!target.isEmpty() && m_sheet.link(at, target, nameOf(part, *report))) {
             look = CellLook::Link;
         }
     }
