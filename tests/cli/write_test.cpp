@@ -104,6 +104,8 @@ TEST_F(Write, EditsAreRefusedByNameAllOrNone)
         {"set amp.kicad_sch R3 POL=maybe --propdefs defs.ini", "R3, POL: \"maybe\""},
         {"set amp.kicad_sch R1 COST=cheap --propdefs defs.ini", "a decimal number"},
         {"set amp.kicad_sch R1 COST=1,5 --propdefs defs.ini", "a decimal number"},
+        {"set amp.kicad_sch R1 COST=1,234 --propdefs defs.ini", "a decimal number"},
+        {"set amp.kicad_sch R1 PINS=1,234 --propdefs defs.ini", "a whole number"},
         {"set amp.kicad_sch R1 PINS=1.5 --propdefs defs.ini", "a whole number"},
         {"set amp.kicad_sch R1 PACKAGE=0402 Footprint=0805", "another text is asked for"},
         {"set amp.kicad_sch R1 MPN=a\nb", "R1, MPN"},

@@ -36,6 +36,8 @@ TEST(FormatReferences, MakesRangesOfTwoAndMore)
                                       {u"R9 RN10"_s, u"R9,RN10"_s},
                                       {u"J J1 J2"_s, u"J,J1-J2"_s},
                                       {u"J1 J2 K"_s, u"J1-J2,K"_s},
+                                      {u"J0 J J1"_s, u"J0,J,J1"_s},
+                                      {u"H7 J J8"_s, u"H7,J,J8"_s},
                                       {u"R3 C2 R1 C1 R2"_s, u"C1-C2,R1-R3"_s},
                                       {u"R1 R1 R2"_s, u"R1,R1-R2"_s},
                                       {u"R08 R09 R10"_s, u"R08-R10"_s},

@@ -65,6 +65,7 @@ TEST_F(Html, GivesManualWidthsByPositionAndNoneBeyondAHundredPercent)
     const auto style = [](int width) { return u" style='width:"_s + QString::number(width) + u"%'"_s; };
     EXPECT_THAT(widthsWith({20, 0, 30, 20}),
                 ElementsAre(style(10), style(30), style(20), style(30), QString(), QString()));
+    EXPECT_THAT(widthsWith({20, 40}), ElementsAre(style(10), style(30), style(20), style(40)));
     // What was left out counts all the same.
     EXPECT_THAT(widthsWith({70, 10}), ElementsAre(style(10), style(30), QString(), QString()));
     EXPECT_THAT(widthsWith({2000000000, 2000000000, 5}),
