@@ -127,6 +127,8 @@ struct ReadOptions
 {
     /// The variant to apply; empty for the design as drawn.
     QString variant;
+    /// How many threads read files, 0 for as many as are worth while. The design is the same for any number.
+    int threads = 0;
 };
 
 /// A design, or why there is none.

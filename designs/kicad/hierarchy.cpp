@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/hierarchy.h"
 
-#include "designs/kicad/sheetparser.h"
+#include "designs/kicad/hierarchylimits.h"
+#include "designs/linenumbers.h"
 #include "designs/utf8.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -14,30 +14,58 @@ namespace designs::kicad {
 
 namespace {
 
-int lineAt(std::string_view text, std::size_t offset)
+int lineOf(const QString &path, quint32 offset)
 {
-    const auto before = text.substr(0, offset);
-    return 1 + int(std::count(before.begin(), before.end(), '\n'));
+    return LineNumbers("(kicad_sch").line(path, offset);
+}
+
+void renumber(std::span<Property> properties, const std::vector<NameId> &ids)
+{
+    for (Property &property : properties) {
+        property.name = ids[property.name];
+    }
+}
+
+void renumber(std::span<const InstanceRecord> records, const std::vector<NameId> &ids)
+{
+    for (const InstanceRecord &record : records) {
+        for (const VariantRecord &variant : record.variants) {
+            renumber(variant.fields, ids);
+        }
+    }
 }
 
 } // namespace
 
-Hierarchy::Hierarchy(TextArena *arena, PropertyNames *names)
-    : m_arena(arena)
-    , m_names(names)
+Hierarchy::Hierarchy(PropertyNames *names, int threads)
+    : m_names(names)
+    , m_loader(threads, *names)
 {
 }
 
-bool Hierarchy::addRoot(const QString &path, const QString &rootUuid, Problem *problem)
+bool Hierarchy::read(const std::vector<RootSheet> &roots, Problem *problem)
 {
-    m_projectFolder = QFileInfo(path).absolutePath();
+    std::vector<QString> paths;
+    for (const RootSheet &root : roots) {
+        paths.push_back(root.path);
+    }
+    m_loader.readAhead(paths);
+    const bool isRead = std::all_of(roots.begin(), roots.end(),
+                                    [&](const RootSheet &root) { return addRoot(root, problem); });
+    m_loader.finish();
+    return isRead;
+}
+
+bool Hierarchy::addRoot(const RootSheet &root, Problem *problem)
+{
+    m_projectFolder = QFileInfo(root.path).absolutePath();
     HierarchyUse use;
-    if (!loadFile(path, &use.file, problem)) {
+    if (!loadFile(root.path, &use.file, problem)) {
         return false;
     }
     const std::string_view own = m_files[use.file].uuid;
     use.uuidPath = '/';
-    use.uuidPath += rootUuid.isEmpty() ? std::string(own) : rootUuid.toStdString();
+    use.uuidPath += root.uuid.isEmpty() ? std::string(own) : root.uuid.toStdString();
     use.namePath = QStringLiteral("/");
     use.parent = quint32(m_uses.size());
     return addUse(std::move(use), 0, problem);
@@ -45,32 +73,49 @@ bool Hierarchy::addRoot(const QString &path, const QString &rootUuid, Problem *p
 
 bool Hierarchy::loadFile(const QString &path, quint32 *number, Problem *problem)
 {
-    const QFileInfo info(path);
-    const QString canonical = info.canonicalFilePath();
+    const QString canonical = QFileInfo(path).canonicalFilePath();
     const auto known = m_fileNumbers.constFind(canonical);
     if (known != m_fileNumbers.constEnd()) {
         *number = *known;
         return true;
     }
-    if (!m_buffer.read(path, "(kicad_sch", problem)) {
+    LoadedSheet loaded = m_loader.take(path);
+    if (loaded.problem) {
+        *problem = *loaded.problem;
         return false;
     }
     *number = quint32(m_files.size());
-    SheetFile &sheet = m_files.emplace_back();
-    sheet.path = path;
-    sheet.modified = info.lastModified();
-    sheet.fingerprint = m_buffer.fingerprint();
     m_fileNumbers.insert(canonical, *number);
-    SheetParser parser(m_buffer.text(), &sheet, m_arena, m_names);
-    if (!parser.parse()) {
-        *problem = parser.problem();
-        return false;
-    }
-    for (const std::size_t offset : parser.badTexts()) {
-        m_warnings.push_back({path, lineAt(m_buffer.text(), offset),
-                              QStringLiteral("the text is not UTF-8; what cannot be read shows as \uFFFD")});
+    takeOverNames(loaded.names, &loaded.sheet);
+    m_files.push_back(std::move(loaded.sheet));
+    for (const int line : loaded.badTextLines) {
+        m_warnings.push_back(
+            {path, line, QStringLiteral("the text is not UTF-8; what cannot be read shows as \uFFFD")});
     }
     return true;
+}
+
+/// The sheet's names get the numbers that they have in the design. Most sheets meet the same names in the
+/// same order, so that nothing changes.
+void Hierarchy::takeOverNames(const PropertyNames &own, SheetFile *sheet)
+{
+    std::vector<NameId> ids;
+    bool isSame = true;
+    for (NameId id = 0; id < own.size(); ++id) {
+        ids.push_back(m_names->intern(own.name(id)));
+        isSame &= ids.back() == id;
+    }
+    if (isSame) {
+        return;
+    }
+    for (const PlacedSymbol &symbol : sheet->symbols) {
+        renumber(symbol.properties, ids);
+        renumber(symbol.instances, ids);
+    }
+    for (const SheetSymbol &symbol : sheet->sheets) {
+        renumber(symbol.properties, ids);
+        renumber(symbol.instances, ids);
+    }
 }
 
 const InstanceRecord *Hierarchy::instanceOf(const HierarchyUse &use) const
@@ -86,15 +131,16 @@ const InstanceRecord *Hierarchy::instanceOf(const HierarchyUse &use) const
 
 bool Hierarchy::addUse(HierarchyUse use, int depth, Problem *problem)
 {
-    if (m_uses.size() >= maximumUses) {
-        *problem = {m_files[use.file].path, 0,
-                    QStringLiteral("the hierarchy uses sheets more than %1 times").arg(maximumUses)};
+    if (m_uses.size() >= hierarchylimits::uses) {
+        *problem = {
+            m_files[use.file].path, 0,
+            QStringLiteral("the hierarchy uses sheets more than %1 times").arg(hierarchylimits::uses)};
         return false;
     }
     m_symbolUses += m_files[use.file].symbols.size();
-    if (m_symbolUses > maximumSymbols) {
+    if (m_symbolUses > hierarchylimits::symbols) {
         *problem = {m_files[use.file].path, 0,
-                    QStringLiteral("the hierarchy holds more than %1 symbols").arg(maximumSymbols)};
+                    QStringLiteral("the hierarchy holds more than %1 symbols").arg(hierarchylimits::symbols)};
         return false;
     }
     use.instance = instanceOf(use);
@@ -112,7 +158,7 @@ bool Hierarchy::addUse(HierarchyUse use, int depth, Problem *problem)
 bool Hierarchy::addChild(quint32 parent, const SheetSymbol &sheet, int depth, Problem *problem)
 {
     const SheetFile &parentFile = m_files[m_uses[parent].file];
-    const QString path = childPath(parentFile, sheet);
+    const QString path = sheetPath(parentFile.path, sheet, m_projectFolder);
     const auto refuse = [&](const QString &text) {
         *problem = {parentFile.path, lineOf(parentFile.path, sheet.offset),
                     QStringLiteral("sheet \"") + fromUtf8(sheet.name) + QStringLiteral("\" ") + text};
@@ -121,8 +167,8 @@ bool Hierarchy::addChild(quint32 parent, const SheetSymbol &sheet, int depth, Pr
     if (sheet.file.empty()) {
         return refuse(QStringLiteral("names no file"));
     }
-    if (depth > maximumDepth) {
-        return refuse(QStringLiteral("is more than %1 sheets deep").arg(maximumDepth));
+    if (depth > hierarchylimits::depth) {
+        return refuse(QStringLiteral("is more than %1 sheets deep").arg(hierarchylimits::depth));
     }
     if (!QFileInfo::exists(path)) {
         return refuse(QStringLiteral("uses the file ") + path + QStringLiteral(", which does not exist"));
@@ -139,14 +185,6 @@ bool Hierarchy::addChild(quint32 parent, const SheetSymbol &sheet, int depth, Pr
     use.uuidPath += sheet.uuid;
     use.namePath = (above.symbol ? above.namePath : QString()) + u'/' + fromUtf8(sheet.name);
     return addUse(std::move(use), depth, problem);
-}
-
-QString Hierarchy::childPath(const SheetFile &parent, const SheetSymbol &sheet) const
-{
-    QString name = fromUtf8(sheet.file);
-    name.replace(QLatin1String("${KIPRJMOD}"), m_projectFolder);
-    name.replace(u'\\', u'/');
-    return QDir::cleanPath(QFileInfo(parent.path).absoluteDir().absoluteFilePath(name));
 }
 
 /// True, with the chain of files as the problem, when `file` stands above the sheet already.
@@ -171,12 +209,6 @@ bool Hierarchy::refuseLoop(quint32 parent, const SheetSymbol &sheet, quint32 fil
                     QStringLiteral("\" makes the sheets contain themselves: ") +
                     chain.join(QStringLiteral(" > "))};
     return true;
-}
-
-int Hierarchy::lineOf(const QString &path, quint32 offset)
-{
-    Problem ignored;
-    return m_buffer.read(path, "(kicad_sch", &ignored) ? lineAt(m_buffer.text(), offset) : 0;
 }
 
 quint32 Hierarchy::rootOf(quint32 use) const

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "designs/filebuffer.h"
 #include "designs/kicad/sheetfile.h"
+#include "designs/kicad/sheetloader.h"
 #include "designs/problem.h"
-#include "designs/textarena.h"
 
 #include <QHash>
 
@@ -31,21 +30,26 @@ struct HierarchyUse
     QString namePath;
 };
 
+/// A root sheet.
+struct RootSheet
+{
+    QString path;
+    /// The identifier with which instance paths begin; empty takes the file's own.
+    QString uuid;
+
+    bool operator==(const RootSheet &) const = default;
+};
+
 /// The files of a schematic and how they use each other.
 class Hierarchy
 {
 public:
-    static constexpr int maximumDepth = 100;
-    static constexpr std::size_t maximumUses = 100'000;
-    /// Symbols times the uses of their file.
-    static constexpr std::size_t maximumSymbols = 10'000'000;
+    /// `names` takes the names of properties and must outlive the hierarchy. `threads` is how many read files
+    /// at once, 0 for as many as are worth while; the result is the same for any number.
+    Hierarchy(PropertyNames *names, int threads);
 
-    /// `arena` and `names` take the texts and must outlive the hierarchy.
-    Hierarchy(TextArena *arena, PropertyNames *names);
-
-    /// Reads a root sheet and everything below it. `rootUuid` is the identifier with which instance paths
-    /// begin; empty takes the file's own. False fills `problem`.
-    bool addRoot(const QString &path, const QString &rootUuid, Problem *problem);
+    /// Reads root sheets and everything below them, once. False fills `problem`.
+    bool read(const std::vector<RootSheet> &roots, Problem *problem);
 
     [[nodiscard]] const std::deque<SheetFile> &files() const { return m_files; }
     /// Parents stand before their children; the first is the first root.
@@ -56,17 +60,17 @@ public:
     [[nodiscard]] quint32 rootOf(quint32 use) const;
 
 private:
+    bool addRoot(const RootSheet &root, Problem *problem);
     bool loadFile(const QString &path, quint32 *number, Problem *problem);
     bool addUse(HierarchyUse use, int depth, Problem *problem);
     bool addChild(quint32 parent, const SheetSymbol &sheet, int depth, Problem *problem);
-    QString childPath(const SheetFile &parent, const SheetSymbol &sheet) const;
+    void takeOverNames(const PropertyNames &own, SheetFile *sheet);
     bool refuseLoop(quint32 parent, const SheetSymbol &sheet, quint32 file, Problem *problem);
-    int lineOf(const QString &path, quint32 offset);
     const InstanceRecord *instanceOf(const HierarchyUse &use) const;
 
-    TextArena *m_arena;
     PropertyNames *m_names;
-    FileBuffer m_buffer;
+    /// Holds the texts of the files.
+    SheetLoader m_loader;
     std::deque<SheetFile> m_files;
     QHash<QString, quint32> m_fileNumbers;
     std::vector<HierarchyUse> m_uses;

@@ -43,7 +43,7 @@ KicadDesign::KicadDesign()
 
 bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem *problem)
 {
-    if (!findProject(QFileInfo(path).absoluteFilePath(), problem) || !readSheets(problem)) {
+    if (!findProject(QFileInfo(path).absoluteFilePath(), problem) || !readSheets(options.threads, problem)) {
         return false;
     }
     collectVariants();
@@ -62,7 +62,7 @@ bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem 
     variables.resolve(&m_components, m_symbolUses, &m_arena);
     if (variables.leftSome()) {
         m_warnings.push_back(
-            {m_roots.front().first, 0,
+            {m_roots.front().path, 0,
              QStringLiteral(
                  "text variables name each other in a circle or too often; some stay as they stand")});
     }
@@ -90,13 +90,13 @@ bool KicadDesign::findProject(const QString &path, Problem *problem)
     }
     for (const auto &sheet : m_project.topLevelSheets) {
         const QString file = QFileInfo(projectPath).absoluteDir().absoluteFilePath(sheet.fileName);
-        const std::pair root(QDir::cleanPath(file), sheet.uuid);
+        const RootSheet root{QDir::cleanPath(file), sheet.uuid};
         if (std::find(m_roots.begin(), m_roots.end(), root) == m_roots.end()) {
             m_roots.push_back(root);
         }
     }
-    const bool listed = std::any_of(m_roots.begin(), m_roots.end(), [&](const auto &root) {
-        return isProject || QFileInfo(root.first) == QFileInfo(rootPath);
+    const bool listed = std::any_of(m_roots.begin(), m_roots.end(), [&](const RootSheet &root) {
+        return isProject || QFileInfo(root.path) == QFileInfo(rootPath);
     });
     if (!listed) {
         m_roots = {{rootPath, QString()}};
@@ -104,12 +104,11 @@ bool KicadDesign::findProject(const QString &path, Problem *problem)
     return true;
 }
 
-bool KicadDesign::readSheets(Problem *problem)
+bool KicadDesign::readSheets(int threads, Problem *problem)
 {
-    m_hierarchy = std::make_unique<Hierarchy>(&m_arena, &m_names);
-    return std::all_of(m_roots.begin(), m_roots.end(), [&](const auto &root) {
-        return m_hierarchy->addRoot(root.first, root.second, problem);
-    });
+    m_threads = threads;
+    m_hierarchy = std::make_unique<Hierarchy>(&m_names, threads);
+    return m_hierarchy->read(m_roots, problem);
 }
 
 void KicadDesign::collectVariants()
@@ -133,7 +132,7 @@ bool KicadDesign::chooseVariant(const QString &wanted, Problem *problem)
     if (wanted.isEmpty() || m_variants.contains(wanted)) {
         return true;
     }
-    *problem = {m_roots.front().first, 0,
+    *problem = {m_roots.front().path, 0,
                 QStringLiteral("the design has no variant \"") + wanted + u'"' +
                     (m_variants.isEmpty()
                          ? QStringLiteral("; it has none")
@@ -199,12 +198,12 @@ int KicadDesign::lineOf(const Component &component) const
 SymbolCount KicadDesign::recount(Problem *error) const
 {
     QStringList roots;
-    for (const auto &root : m_roots) {
-        roots << root.first;
+    for (const RootSheet &root : m_roots) {
+        roots << root.path;
     }
     SymbolCount count;
     Problem problem;
-    if (!SymbolRecount().count(roots, &count, &problem) && error) {
+    if (!SymbolRecount(m_threads).count(roots, &count, &problem) && error) {
         *error = problem;
     }
     return count;

@@ -36,15 +36,15 @@ public:
 
 private:
     bool findProject(const QString &path, Problem *problem);
-    bool readSheets(Problem *problem);
+    bool readSheets(int threads, Problem *problem);
     bool chooseVariant(const QString &wanted, Problem *problem);
     void collectVariants();
     void collectSheets();
     void fillInfo();
 
     ProjectFile m_project;
-    /// Root sheets as (file, identifier that instance paths begin with).
-    std::vector<std::pair<QString, QString>> m_roots;
+    std::vector<RootSheet> m_roots;
+    int m_threads = 0;
     std::unique_ptr<Hierarchy> m_hierarchy;
     std::vector<SymbolUse> m_symbolUses;
     mutable LineNumbers m_lines{"(kicad_sch"};

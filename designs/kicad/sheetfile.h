@@ -42,7 +42,7 @@ struct VariantRecord
     std::string_view name;
     std::optional<bool> dnp;
     std::optional<bool> inBom;
-    std::span<const Property> fields;
+    std::span<Property> fields;
 };
 
 /// What a symbol or sheet is in one use of its file: `path` indexes SheetFile::paths.
@@ -68,7 +68,7 @@ struct PlacedSymbol
     std::string_view reference;
     std::string_view value;
     /// All other properties in file order.
-    std::span<const Property> properties;
+    std::span<Property> properties;
     std::span<const InstanceRecord> instances;
     Point at;
     quint32 offset = 0;
@@ -85,7 +85,7 @@ struct SheetSymbol
     std::string_view uuid;
     std::string_view name;
     std::string_view file;
-    std::span<const Property> properties;
+    std::span<Property> properties;
     std::span<const InstanceRecord> instances;
     Point at;
     quint32 offset = 0;

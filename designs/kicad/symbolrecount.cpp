@@ -2,157 +2,82 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/symbolrecount.h"
 
-#include <QByteArrayList>
+#include "designs/kicad/hierarchylimits.h"
+#include "designs/threads.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSet>
+
+#include <algorithm>
 
 namespace designs::kicad {
 
 namespace {
 
-/// What one file holds: symbols, how many of them are power symbols, and the files of its sheet symbols.
-struct FileCount
+QString pathFrom(const QString &path, QString name, const QString &folder)
 {
-    qsizetype symbols = 0;
-    qsizetype power = 0;
-    QStringList sheetFiles;
-};
-
-/// Walks a file byte by byte and remembers, per open list, the atoms it began with.
-class FileCounter
-{
-public:
-    explicit FileCounter(QByteArray bytes)
-        : m_bytes(std::move(bytes))
-    {
-    }
-
-    FileCount count()
-    {
-        while (m_at < m_bytes.size()) {
-            step();
-        }
-        return m_count;
-    }
-
-private:
-    struct List
-    {
-        QByteArrayList words;
-    };
-
-    void step()
-    {
-        const char c = m_bytes.at(m_at);
-        if (c == '(') {
-            m_open.append(List());
-            ++m_at;
-        } else if (c == ')') {
-            if (!m_open.isEmpty()) {
-                closeList(m_open.takeLast());
-            }
-            ++m_at;
-        } else if (c == '"') {
-            addWord(quoted());
-        } else if (c == ' ' || c == '\t' || c == '\n' || c == '\r') {
-            m_lineHasText = c == '\n' ? false : m_lineHasText;
-            ++m_at;
-            return;
-        } else if (c == '#' && !m_lineHasText) {
-            const qsizetype end = m_bytes.indexOf('\n', m_at);
-            m_at = end < 0 ? m_bytes.size() : end;
-        } else {
-            addWord(bare());
-        }
-        m_lineHasText = true;
-    }
-
-    QByteArray quoted()
-    {
-        QByteArray word;
-        for (++m_at; m_at < m_bytes.size() && m_bytes.at(m_at) != '"'; ++m_at) {
-            m_at += m_bytes.at(m_at) == '\\' && m_at + 1 < m_bytes.size() ? 1 : 0;
-            word += m_bytes.at(m_at);
-        }
-        ++m_at;
-        return word;
-    }
-
-    QByteArray bare()
-    {
-        const qsizetype start = m_at;
-        while (m_at < m_bytes.size() && !QByteArrayView(" \t\r\n()\"").contains(m_bytes.at(m_at))) {
-            ++m_at;
-        }
-        return m_bytes.mid(start, m_at - start);
-    }
-
-    void addWord(const QByteArray &word)
-    {
-        if (!m_open.isEmpty() && m_open.last().words.size() < 4) {
-            m_open.last().words.append(word);
-        }
-    }
-
-    QByteArray outer(qsizetype levels) const
-    {
-        const qsizetype at = m_open.size() - levels;
-        return at >= 0 ? m_open.at(at).words.value(0) : QByteArray();
-    }
-
-    /// `list` has just been taken off: its parent is the innermost open one.
-    void closeList(const List &list)
-    {
-        const QByteArray word = list.words.value(0);
-        const qsizetype depth = m_open.size();
-        if (depth == 1 && word == "symbol") {
-            ++m_count.symbols;
-            m_count.power += m_powerSymbol || m_powerIds.contains(m_libName.isEmpty() ? m_libId : m_libName);
-            m_powerSymbol = false;
-            m_libId.clear();
-            m_libName.clear();
-        } else if (depth == 2 && outer(1) == "symbol" && word == "lib_id") {
-            m_libId = list.words.value(1);
-        } else if (depth == 2 && outer(1) == "symbol" && word == "lib_name") {
-            m_libName = list.words.value(1);
-        } else if (depth == 2 && outer(1) == "symbol" && word == "property") {
-            m_powerSymbol |= list.words.value(1) == "Reference" && list.words.value(2).startsWith('#');
-        } else if (depth == 5 && outer(4) == "symbol" && outer(3) == "instances" && word == "reference") {
-            m_powerSymbol |= list.words.value(1).startsWith('#');
-        } else if (depth == 3 && outer(2) == "lib_symbols" && word == "power") {
-            m_powerIds.insert(m_open.last().words.value(1));
-        } else if (depth == 3 && outer(2) == "sheet" && word == "id") {
-            m_propertyId = list.words.value(1);
-        } else if (depth == 2 && outer(1) == "sheet" && word == "property") {
-            noteSheetProperty(list);
-        }
-    }
-
-    void noteSheetProperty(const List &list)
-    {
-        const QByteArray name = list.words.value(1);
-        const bool byName = m_propertyId.isEmpty() && (name == "Sheetfile" || name == "Sheet file");
-        if (byName || m_propertyId == "1") {
-            m_count.sheetFiles << QString::fromUtf8(list.words.value(2));
-        }
-        m_propertyId.clear();
-    }
-
-    QByteArray m_bytes;
-    qsizetype m_at = 0;
-    bool m_lineHasText = false;
-    QList<List> m_open;
-    QByteArray m_libId;
-    QByteArray m_libName;
-    QByteArray m_propertyId;
-    bool m_powerSymbol = false;
-    QSet<QByteArray> m_powerIds;
-    FileCount m_count;
-};
+    name.replace(QLatin1String("${KIPRJMOD}"), folder).replace(u'\\', u'/');
+    return QFileInfo(path).absoluteDir().absoluteFilePath(name);
+}
 
 } // namespace
+
+SymbolRecount::File SymbolRecount::read(const QString &path, QByteArray *buffer)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return {{}, file.errorString()};
+    }
+    buffer->resize(std::max(file.size(), qint64(buffer->size())));
+    qint64 size = 0;
+    for (qint64 got = 1; got > 0; size += std::max<qint64>(got, 0)) {
+        got = file.read(buffer->data() + size, buffer->size() - size);
+    }
+    return {SymbolCounter({buffer->constData(), std::size_t(size)}).count(), QString()};
+}
+
+/// Files of one level of the hierarchy are counted side by side; add() adds up, and says what is wrong.
+void SymbolRecount::countAhead(const QStringList &roots)
+{
+    struct Wanted
+    {
+        QString path;
+        QString canonical;
+        QString folder;
+    };
+    std::vector<Wanted> level;
+    const auto want = [this](const QString &path, const QString &folder, std::vector<Wanted> *wanted) {
+        const QString canonical = QFileInfo(path).canonicalFilePath();
+        if (!canonical.isEmpty() && !m_files.contains(canonical)) {
+            m_files.insert(canonical, {});
+            wanted->push_back({path, canonical, folder});
+        }
+    };
+    for (const QString &root : roots) {
+        want(root, QFileInfo(root).absolutePath(), &level);
+    }
+    while (!level.empty()) {
+        std::vector<qint64> sizes;
+        for (const Wanted &wanted : level) {
+            sizes.push_back(QFileInfo(wanted.path).size());
+        }
+        const int threads = m_threads > 0 ? m_threads : threadsForFiles(sizes);
+        std::vector<QByteArray> buffers(static_cast<std::size_t>(threads));
+        std::vector<File> counted(level.size());
+        forEachInThreads(level.size(), threads, [&](std::size_t item, int thread) {
+            counted[item] = read(level[item].path, &buffers[std::size_t(thread)]);
+        });
+        std::vector<Wanted> below;
+        for (std::size_t item = 0; item < level.size(); ++item) {
+            for (const QString &name : std::as_const(counted[item].count.sheetFiles)) {
+                want(pathFrom(level[item].path, name, level[item].folder), level[item].folder, &below);
+            }
+            m_files[level[item].canonical] = std::move(counted[item]);
+        }
+        level = std::move(below);
+    }
+}
 
 bool SymbolRecount::add(const QString &path, int depth, SymbolCount *sum, Problem *problem)
 {
@@ -161,18 +86,21 @@ bool SymbolRecount::add(const QString &path, int depth, SymbolCount *sum, Proble
         *sum = *known;
         return true;
     }
-    QFile file(path);
-    if (depth > 200 || !file.open(QIODevice::ReadOnly)) {
-        *problem = {path, 0, QStringLiteral("cannot be read again for the count: ") + file.errorString()};
+    const auto refuse = [&](const QString &why) {
+        *problem = {path, 0, QStringLiteral("cannot be read again for the count: ") + why};
         return false;
+    };
+    const File file = m_files.value(key, {{}, QStringLiteral("there is no such file")});
+    if (!file.problem.isEmpty()) {
+        return refuse(file.problem);
     }
-    const FileCount counted = FileCounter(file.readAll()).count();
-    sum->placed = counted.symbols;
-    sum->power = counted.power;
-    for (QString name : counted.sheetFiles) {
-        name.replace(QLatin1String("${KIPRJMOD}"), m_folder).replace(u'\\', u'/');
+    if (depth > hierarchylimits::depth) {
+        return refuse(QStringLiteral("it is more than %1 sheets deep").arg(hierarchylimits::depth));
+    }
+    *sum = {file.count.symbols, file.count.power, 0};
+    for (const QString &name : file.count.sheetFiles) {
         SymbolCount below;
-        if (!add(QFileInfo(path).absoluteDir().absoluteFilePath(name), depth + 1, &below, problem)) {
+        if (!add(pathFrom(path, name, m_folder), depth + 1, &below, problem)) {
             return false;
         }
         sum->placed += below.placed;
@@ -184,6 +112,7 @@ bool SymbolRecount::add(const QString &path, int depth, SymbolCount *sum, Proble
 
 bool SymbolRecount::count(const QStringList &roots, SymbolCount *count, Problem *problem)
 {
+    countAhead(roots);
     *count = {};
     for (const QString &root : roots) {
         m_folder = QFileInfo(root).absolutePath();
