@@ -90,7 +90,9 @@ bool SymbolRecount::add(const QString &path, int depth, SymbolCount *sum, Proble
         *problem = {path, 0, QStringLiteral("cannot be read again for the count: ") + why};
         return false;
     };
-    const File file = m_files.value(key, {{}, QStringLiteral("there is no such file")});
+    QByteArray buffer;
+    const auto counted = m_files.constFind(key);
+    const File file = counted == m_files.constEnd() ? read(path, &buffer) : *counted;
     if (!file.problem.isEmpty()) {
         return refuse(file.problem);
     }
