@@ -8,7 +8,10 @@
 #include <QHash>
 
 #include <algorithm>
+#include <bit>
+#include <limits>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace {
 
@@ -91,6 +94,35 @@ bool holdsVariable(const Component &component)
                        [&](const designs::Property &property) { return isVariable(property.value); });
 }
 
+/// Fast, and true for every reference that isNotAnnotated() finds.
+bool mayLackNumber(std::string_view reference)
+{
+    return reference.empty() || reference.back() == '?' || reference.front() <= ' ' ||
+           reference.front() > '~';
+}
+
+/// References that occur more than once. Mostly there are none, so the table is made for finding that out: no
+/// memory of its own for each entry.
+std::unordered_set<std::string_view> repeatedReferencesOf(const std::vector<Component> &components)
+{
+    constexpr quint32 empty = std::numeric_limits<quint32>::max();
+    std::unordered_set<std::string_view> repeated;
+    std::vector<quint32> table(std::bit_ceil(2 * components.size() + 1), empty);
+    for (quint32 i = 0; i < components.size(); ++i) {
+        const std::string_view reference = components[i].reference;
+        std::size_t at = std::hash<std::string_view>()(reference) & (table.size() - 1);
+        while (table[at] != empty && components[table[at]].reference != reference) {
+            at = (at + 1) & (table.size() - 1);
+        }
+        if (table[at] == empty) {
+            table[at] = i;
+        } else {
+            repeated.insert(reference);
+        }
+    }
+    return repeated;
+}
+
 /// Goes through the components once and enters each of them.
 class ComponentCounter
 {
@@ -125,8 +157,10 @@ private:
         if (!isExcluded && !isLeftOut && !isFitted) {
             m_account.listedNotFitted.append(fromHostText(component.reference));
         }
-        if (const QString reference = fromHostText(component.reference); isNotAnnotated(reference)) {
-            m_account.notAnnotated.push_back({reference, placeOf(m_design.design(), component)});
+        if (mayLackNumber(component.reference)) {
+            if (const QString reference = fromHostText(component.reference); isNotAnnotated(reference)) {
+                m_account.notAnnotated.push_back({reference, placeOf(m_design.design(), component)});
+            }
         }
     }
 
@@ -138,17 +172,13 @@ private:
     void findRepeated()
     {
         const auto &components = m_design.design().components();
-        std::unordered_map<std::string_view, quint32> count;
-        count.reserve(components.size());
-        for (const Component &component : components) {
-            ++count[component.reference];
-        }
-        if (count.size() == components.size()) {
+        const std::unordered_set<std::string_view> repeatedReferences = repeatedReferencesOf(components);
+        if (repeatedReferences.empty()) {
             return;
         }
         std::unordered_map<std::string_view, std::size_t> entry;
         for (const Component &component : components) {
-            if (count[component.reference] < 2) {
+            if (!repeatedReferences.contains(component.reference)) {
                 continue;
             }
             const auto [known, isNew] = entry.emplace(component.reference, m_account.repeated.size());

@@ -24,6 +24,15 @@ struct BlockMasks
     std::uint64_t hash = 0;
 };
 
+/// The number of set bits. std::popcount calls a function where the processor need not have an instruction.
+[[nodiscard]] constexpr int bitCount(std::uint64_t bits)
+{
+    bits -= (bits >> 1) & 0x5555555555555555U;
+    bits = (bits & 0x3333333333333333U) + ((bits >> 2) & 0x3333333333333333U);
+    bits = (bits + (bits >> 4)) & 0x0F0F0F0F0F0F0F0FU;
+    return int((bits * 0x0101010101010101U) >> 56);
+}
+
 #if defined(__SSE2__)
 
 [[nodiscard]] inline BlockMasks blockMasks(const char *at)

@@ -250,9 +250,9 @@ bool SexprScanner::skipBlocks(int *depth, bool *quoted)
         }
         const std::uint64_t open = masks.open & ~inside;
         const std::uint64_t close = masks.close & ~inside;
-        const int closing = std::popcount(close);
+        const int closing = bitCount(close);
         if (closing < *depth) {
-            *depth += std::popcount(open) - closing;
+            *depth += bitCount(open) - closing;
         } else if (const int end = findListEnd(open, close, depth); end >= 0) {
             m_at += end + 1;
             return true;
