@@ -29,8 +29,13 @@ endif()
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
                         QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(BOM_SANITIZE)
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  add_link_options(-fsanitize=address,undefined)
+  if(BOM_SANITIZE STREQUAL "THREADS")
+    set(sanitizers thread)
+  else()
+    set(sanitizers address,undefined)
+  endif()
+  add_compile_options(-fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${sanitizers})
 endif()
 
 # bom_precompile(TARGET HEADER KIND): where BOM_PCH is ON, or TESTS and that is the KIND, saves a third of the compile time of
