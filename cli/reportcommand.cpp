@@ -18,6 +18,7 @@
 #include "views/report/jsonreport.h"
 #include "views/report/report.h"
 #include "views/report/spreadsheetreport.h"
+#include "views/report/templatemarkup.h"
 
 #include <QFileInfo>
 #include <QFont>
@@ -236,7 +237,9 @@ ReportCommand::Content ReportCommand::documentContent(Form form, BOMPartsDatabas
         showTemplateUpgraded(nullptr, settings.name());
     }
     const Report report(database, database.currentTemplate().fields());
-    return {form == Form::Pdf ? pdfReport(report) : htmlReport(report).toUtf8()};
+    return {form == Form::Pdf ? pdfReport(report) : htmlReport(report).toUtf8(),
+            {},
+            templateMarkup(report.settings()).notices};
 }
 
 ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs)

@@ -6,12 +6,13 @@
 #include "host/framework/hostui.h"
 #include "richtext/editor/textedit.h"
 #include "richtext/editor/textstyleeditor.h"
+#include "richtext/xhtml/links.h"
 #include "richtext/xhtml/tidylibwrapper.h"
 #include "templates/templatepaths.h"
 #include "views/bomtemplateeditor.h"
 #include "views/pdfreport.h"
 #include "views/report/htmlreport.h"
-#include "views/report/reportlink.h"
+#include "views/report/templatemarkup.h"
 
 #include <QFileInfo>
 #include <QPainter>
@@ -35,7 +36,22 @@ QString BOMHTMLView::html()
         return {};
     }
     updateFields();
+    tellMissingMarkup();
     return htmlReport(report());
+}
+
+void BOMHTMLView::tellMissingMarkup()
+{
+    const QStringList notices = templateMarkup(database()->currentTemplate()).notices;
+    if (notices == m_toldNotices) {
+        return;
+    }
+    m_toldNotices = notices;
+    if (!notices.isEmpty()) {
+        HostUi::current().warning(this, tr("BOM Template"),
+                                  database()->currentTemplate().name() + QStringLiteral(":\n") +
+                                      notices.join(u'\n'));
+    }
 }
 
 QList<QStringList> BOMHTMLView::categoryRows(const QString &category, bool grouped, int width,
@@ -122,9 +138,21 @@ void BOMHTMLView::onLinkActivated(const QString &link)
     if (!isValid()) {
         return;
     }
+    if (link.startsWith(u'#')) {
+        textEdit()->scrollToAnchor(QUrl::fromPercentEncoding(link.mid(1).toUtf8()));
+        return;
+    }
     const QUrl target = linkTarget(link, QFileInfo(designOf(*database()).file).absolutePath());
-    if (!target.isEmpty()) {
-        HostUi::current().openUrl(target);
+    HostUi &ui = HostUi::current();
+    const auto isWanted = [&] {
+        return !isProgram(target) ||
+               ui.question(this, tr("Open Link"),
+                           tr("%1 is a program. Opening it may run it. Open it all the same?")
+                               .arg(target.toLocalFile()),
+                           false);
+    };
+    if (!target.isEmpty() && isWanted()) {
+        ui.openUrl(target);
     }
 }
 
@@ -147,7 +175,8 @@ void BOMHTMLView::prepareOutput()
 {
     ensureReport();
     const BOMTemplate &settings = database()->currentTemplate();
-    textEdit()->setPageFragments(xmlText(settings.pageHeader()), xmlText(settings.pageFooter()));
+    const TemplateMarkup markup = templateMarkup(settings);
+    textEdit()->setPageFragments(markup.pageHeader, markup.pageFooter);
     textEdit()->document()->setTitle(database()->designTitle());
 }
 

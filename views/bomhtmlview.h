@@ -70,9 +70,12 @@ private:
     /// Makes the document if none has been made of this database.
     void ensureReport();
     void prepareOutput();
+    /// Says what of the template's markup the report does not show, once until that changes.
+    void tellMissingMarkup();
     /// Takes the changed template as the working one, marked modified.
     void takeTemplate(const BOMTemplate &changed);
 
+    QStringList m_toldNotices;
     TextEdit *m_textEdit = nullptr;
     bool m_hasReport = false;
     TextStyleEditor *m_styleEditor = nullptr;

@@ -7,6 +7,7 @@
 #include "richtext/editor/textedithruler.h"
 #include "richtext/editor/textedittoolbars.h"
 #include "richtext/paper/pagegeometry.h"
+#include "richtext/xhtml/markupcleaner.h"
 #include "richtext/xhtml/xhtmlparts.h"
 #include "ui_bomtemplateeditor.h"
 #include "views/report/htmlreport.h"
@@ -49,7 +50,7 @@ void showPaperMargins(TextEdit &edit, const QMarginsF &points)
 } // namespace
 
 BOMTemplateEditor::BOMTemplateEditor(TextEdit *reportEdit, QWidget *parent)
-    : QDialog(parent)
+    : APPLNDIALOG(parent)
     , m_ui(std::make_unique<Ui::BOMTemplateEditor>())
 {
     m_ui->setupUi(this);
@@ -114,7 +115,7 @@ void BOMTemplateEditor::load(TextEdit &edit, const QString &fragment, const QStr
     const QString text = fragment.isEmpty()
                              ? QStringLiteral("<p class=\"") + className +
                                    QStringLiteral("\" style=\"-qt-paragraph-type:empty;\"><br /></p>")
-                             : xmlText(fragment);
+                             : MarkupCleaner().clean(fragment).xhtml;
     edit.document()->setParagraphClass(className);
     edit.loadDocument(start + text + htmlDocumentEnd());
 }

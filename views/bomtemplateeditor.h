@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/widgets/applndialog.h"
 #include "richtext/css/stylesheet.h"
 
-#include <QDialog>
 #include <QString>
 
 #include <memory>
@@ -18,7 +18,7 @@ class BOMTemplateEditor;
 
 /// Edits the header and footer of a template, in the template's own look. What the user leaves alone comes
 /// back byte for byte.
-class BOMTemplateEditor final : public QDialog
+class BOMTemplateEditor final : public APPLNDIALOG
 {
     Q_OBJECT
 

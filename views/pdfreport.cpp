@@ -10,6 +10,7 @@
 #include "templates/bomtemplate.h"
 #include "views/report/htmlreport.h"
 #include "views/report/report.h"
+#include "views/report/templatemarkup.h"
 
 #include <QPainter>
 
@@ -19,8 +20,9 @@ QByteArray pdfReport(const Report &report)
     PagedText text;
     text.xhtml = htmlReport(report);
     text.title = report.design().title;
-    text.header = xmlText(settings.pageHeader());
-    text.footer = xmlText(settings.pageFooter());
+    const TemplateMarkup markup = templateMarkup(settings);
+    text.header = markup.pageHeader;
+    text.footer = markup.pageFooter;
     PdfOutput output(pageLayout(StyleSheet(settings.css())), text.title);
     PagePainter pages(text);
     QPainter painter(&output.device());

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "richtext/editor/linkdialog.h"
 
+#include "richtext/xhtml/links.h"
+
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLineEdit>
@@ -24,11 +26,9 @@ QString completed(const QString &address)
     const QUrl url(text, QUrl::StrictMode);
     if (!url.isValid() || url.scheme().isEmpty()) {
         const QUrl guessed = QUrl::fromUserInput(text);
-        return guessed.isValid() ? guessed.toString(QUrl::FullyEncoded) : QString();
+        text = guessed.isValid() ? guessed.toString(QUrl::FullyEncoded) : QString();
     }
-    static const QStringList schemes{QStringLiteral("http"), QStringLiteral("https"),
-                                     QStringLiteral("mailto"), QStringLiteral("file"), QStringLiteral("ftp")};
-    return schemes.contains(url.scheme()) ? text : QString();
+    return isOpenableLink(text) ? text : QString();
 }
 
 } // namespace

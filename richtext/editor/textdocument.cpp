@@ -38,7 +38,7 @@ void applyBodyMargins(QTextDocument &document, const StyleSheet &css)
 } // namespace
 
 TextDocument::TextDocument(QObject *parent)
-    : QTextDocument(parent)
+    : SelfContainedDocument(parent)
 {
     setDocumentMargin(0);
     m_pause.setSingleShot(true);
@@ -54,6 +54,7 @@ void TextDocument::setSource(const QString &xhtml)
     m_css = splitXhtml(xhtml).css;
     m_shownCss = m_css;
     m_title.clear();
+    forgetImages();
     suspend();
     setModified(false);
 }

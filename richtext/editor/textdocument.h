@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "richtext/xhtml/selfcontaineddocument.h"
+
 #include <QString>
-#include <QTextDocument>
 #include <QTimer>
 
 /// A rich-text document that remembers the XHTML text and the style sheet it was made from. The content is
 /// made when it is first shown; before that the document is empty.
-class TextDocument : public QTextDocument
+class TextDocument : public SelfContainedDocument
 {
     Q_OBJECT
 
@@ -18,6 +19,8 @@ public:
 
     /// Takes an XHTML document, with the style sheet in its head. Nothing is shown before show().
     void setSource(const QString &xhtml);
+    /// False until a text was taken.
+    [[nodiscard]] bool hasSource() const { return !m_source.isEmpty(); }
     /// Makes the content from the source, if that was not done yet.
     void show();
     [[nodiscard]] bool isShown() const { return m_isShown; }

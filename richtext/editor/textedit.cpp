@@ -87,7 +87,7 @@ bool TextEdit::print(QPainter &painter)
     m_printer->setDocName(pagedText().title);
     const auto preview = [this](QPrinter &printer) {
         QPainter previewPainter(&printer);
-        paintDocument(previewPainter, printer, 0, 0);
+        paintDocument(previewPainter, printer);
         Q_EMIT previewPainted(&previewPainter);
     };
     if (!PrintUi::current().choosePrinter(this, *m_printer, preview)) {
@@ -97,7 +97,7 @@ bool TextEdit::print(QPainter &painter)
         HostUi::current().warning(this, tr("Print Failed"), tr("The printer cannot be used."));
         return false;
     }
-    paintDocument(painter, *m_printer, m_printer->fromPage(), m_printer->toPage());
+    paintDocument(painter, *m_printer, m_printer->pageRanges());
     return true;
 }
 
@@ -114,7 +114,7 @@ bool TextEdit::printToPdf(const QString &suggestedName, bool asksForFile, bool o
     m_opensPdf = opensFile;
     m_pdf = std::make_unique<PdfOutput>(pageLayout(StyleSheet(m_document->getCss())), pagedText().title);
     painter.begin(&m_pdf->device());
-    paintDocument(painter, m_pdf->device(), 0, 0);
+    paintDocument(painter, m_pdf->device());
     return true;
 }
 
@@ -207,10 +207,19 @@ PagedText TextEdit::pagedText() const
     return text;
 }
 
-void TextEdit::paintDocument(QPainter &painter, QPagedPaintDevice &device, int first, int last) const
+void TextEdit::paintDocument(QPainter &painter, QPagedPaintDevice &device, const QPageRanges &pages) const
 {
-    PagePainter pages(pagedText());
-    const int count = pages.layOut(device);
-    const int from = std::clamp(first, 1, count);
-    pages.paint(painter, from, last == 0 ? count : std::clamp(last, from, count));
+    PagePainter document(pagedText());
+    const int count = document.layOut(device);
+    QList<QPageRanges::Range> ranges = pages.toRangeList();
+    ranges.removeIf([count](const QPageRanges::Range &range) { return range.from > count; });
+    if (ranges.isEmpty()) {
+        ranges = {{pages.isEmpty() ? 1 : count, count}};
+    }
+    for (qsizetype i = 0; i < ranges.size(); ++i) {
+        const int last = std::min(ranges[i].to, count);
+        if ((i > 0 && !device.newPage()) || !document.paint(painter, std::max(ranges[i].from, 1), last)) {
+            return;
+        }
+    }
 }

@@ -5,6 +5,7 @@
 #include "richtext/editor/textdocument.h"
 #include "richtext/paper/pagepainter.h"
 
+#include <QPageRanges>
 #include <QTextEdit>
 
 #include <memory>
@@ -64,7 +65,7 @@ private:
     /// What Return does: no look is lost, but a heading and a list end.
     void beginParagraph();
     [[nodiscard]] PagedText pagedText() const;
-    void paintDocument(QPainter &painter, QPagedPaintDevice &device, int first, int last) const;
+    void paintDocument(QPainter &painter, QPagedPaintDevice &device, const QPageRanges &pages = {}) const;
 
     TextDocument *m_document = nullptr;
     /// Where the view was scrolled to before the content changed.

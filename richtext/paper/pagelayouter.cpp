@@ -4,6 +4,7 @@
 
 #include "richtext/css/stylesheet.h"
 #include "richtext/xhtml/qthtmlwriter.h"
+#include "richtext/xhtml/selfcontaineddocument.h"
 #include "richtext/xhtml/xhtmlparts.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -261,7 +262,7 @@ void layOutStrip(QTextDocument &document, const QString &xhtml, const StyleSheet
 void layOutPages(QTextDocument &document, const QString &xhtml, QPaintDevice &device, const QSizeF &page)
 {
     const StyleSheet css(splitXhtml(xhtml).css);
-    QTextDocument whole;
+    SelfContainedDocument whole;
     layOutStrip(whole, xhtml, css, device, page.width());
     fill(document, toQtHtml(xhtml, css, Medium::Pages), device);
     changeAtOnce(document, [&] {

@@ -91,10 +91,11 @@ QString PagePainter::withPlaceholders(const QString &fragment, int page, int pag
     return text;
 }
 
-void PagePainter::layOutEdge(QTextDocument &edge, const QString &fragment, int page, int pages) const
+void PagePainter::layOutEdge(SelfContainedDocument &edge, const QString &fragment, int page, int pages) const
 {
     const QString xhtml = QStringLiteral("<html><head><style type=\"text/css\"></style></head><body>") +
                           withPlaceholders(fragment, page, pages) + QStringLiteral("</body></html>");
+    edge.shareImages(m_document);
     layOutStrip(edge, xhtml, StyleSheet(splitXhtml(m_text.xhtml).css), *m_device, m_device->width());
 }
 
@@ -104,7 +105,7 @@ double PagePainter::edgeHeight(const QString &fragment) const
         return 0;
     }
     constexpr int widePageNumber = 999;
-    QTextDocument edge;
+    SelfContainedDocument edge;
     layOutEdge(edge, fragment, widePageNumber, widePageNumber);
     return std::min(std::ceil(edge.size().height()), m_device->height() * largestEdge);
 }
@@ -126,7 +127,7 @@ void PagePainter::paintEdge(QPainter &painter, const QString &fragment, int page
     if (height <= 0) {
         return;
     }
-    QTextDocument edge;
+    SelfContainedDocument edge;
     layOutEdge(edge, fragment, page, m_pages);
     painter.save();
     painter.translate(0, top);

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "richtext/xhtml/selfcontaineddocument.h"
+
 #include <QRectF>
 #include <QString>
-#include <QTextDocument>
 
 class QPagedPaintDevice;
 class QPainter;
@@ -39,14 +40,14 @@ public:
 
 private:
     [[nodiscard]] QString withPlaceholders(const QString &fragment, int page, int pages) const;
-    void layOutEdge(QTextDocument &edge, const QString &fragment, int page, int pages) const;
+    void layOutEdge(SelfContainedDocument &edge, const QString &fragment, int page, int pages) const;
     [[nodiscard]] double edgeHeight(const QString &fragment) const;
     void paintPage(QPainter &painter, int page);
     void paintEdge(QPainter &painter, const QString &fragment, int page, double top, double height) const;
 
     PagedText m_text;
     QString m_date;
-    QTextDocument m_document;
+    SelfContainedDocument m_document;
     QPagedPaintDevice *m_device = nullptr;
     /// The part of the page for the text, in the device's pixels.
     QRectF m_textArea;

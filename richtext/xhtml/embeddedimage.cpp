@@ -8,16 +8,63 @@
 #include <QFile>
 #include <QImageReader>
 #include <QMimeDatabase>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+#include <algorithm>
 
 namespace {
 
 constexpr qint64 largest = 2 * 1024 * 1024;
 constexpr int widest = 10'000;
+/// A thin image that is drawn wide is taller than all paper.
+constexpr int steepest = 50;
+/// Five thousand by five thousand.
+constexpr qint64 mostPixelsOfOne = 25'000'000;
 
 EmbeddedImage refused(const char *reason, const QString &path, const QString &detail = {})
 {
     const QString text = QCoreApplication::translate("EmbeddedImage", reason);
     return {{}, {}, QDir::toNativeSeparators(path) + QStringLiteral(":\n") + text + detail};
+}
+
+/// Whether a drawing is made of plain shapes. Images in it would be opened as files, uses of its own parts
+/// can multiply without end, and entities as well.
+bool isPlainDrawing(const QByteArray &svg)
+{
+    constexpr int mostElements = 10'000;
+    QXmlStreamReader reader(svg);
+    int elements = 0;
+    while (!reader.atEnd()) {
+        switch (reader.readNext()) {
+        case QXmlStreamReader::DTD:
+            return false;
+        case QXmlStreamReader::StartElement:
+            if (++elements > mostElements || reader.name() == QLatin1String("image") ||
+                reader.name() == QLatin1String("use")) {
+                return false;
+            }
+            break;
+        default:
+            break;
+        }
+    }
+    return !reader.hasError();
+}
+
+/// Null when it cannot be shown.
+QImage readImage(QByteArray bytes, qint64 mostPixels)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    const QSize size = reader.size();
+    const bool isSensible = !size.isEmpty() && size.width() <= widest && size.height() <= widest &&
+                            size.width() <= steepest * size.height() &&
+                            size.height() <= steepest * size.width() &&
+                            qint64(size.width()) * size.height() <= mostPixels;
+    const bool isDrawing = reader.format().startsWith("svg");
+    return isSensible && (!isDrawing || isPlainDrawing(bytes)) ? reader.read() : QImage();
 }
 
 } // namespace
@@ -30,24 +77,34 @@ EmbeddedImage embeddedImage(const QString &path)
                        file.errorString());
     }
     // One byte more tells a file that is too large, pipes included.
-    QByteArray bytes = file.read(largest + 1);
+    const QByteArray bytes = file.read(largest + 1);
     if (bytes.size() > largest) {
         return refused(
             QT_TRANSLATE_NOOP("EmbeddedImage", "The image is larger than 2 MiB. Make it smaller first."),
             path);
     }
     const QString type = QMimeDatabase().mimeTypeForData(bytes).name();
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    const QSize size = reader.size();
-    const bool isSensible = !size.isEmpty() && size.width() <= widest && size.height() <= widest;
-    if (!type.startsWith(QLatin1String("image/")) || !isSensible || reader.read().isNull()) {
+    const QImage image = readImage(bytes, mostPixelsOfOne);
+    if (!type.startsWith(QLatin1String("image/")) || image.isNull()) {
         return refused(QT_TRANSLATE_NOOP("EmbeddedImage", "The file holds no image that can be shown."),
                        path);
     }
     return {QStringLiteral("data:") + type + QStringLiteral(";base64,") +
                 QString::fromLatin1(bytes.toBase64()),
-            size,
+            image.size(),
             {}};
+}
+
+QImage decodedImage(const QString &address, qint64 mostPixels)
+{
+    static const QRegularExpression form(QStringLiteral("^data:image/[^,]*,"),
+                                         QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = form.match(address);
+    if (!match.hasMatch()) {
+        return {};
+    }
+    const QByteArray data =
+        QByteArray::fromPercentEncoding(QStringView(address).mid(match.capturedEnd()).toUtf8());
+    const bool isBase64 = match.capturedView().contains(QLatin1String(";base64"), Qt::CaseInsensitive);
+    return readImage(isBase64 ? QByteArray::fromBase64(data) : data, std::min(mostPixels, mostPixelsOfOne));
 }

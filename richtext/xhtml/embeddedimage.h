@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QImage>
 #include <QSize>
 #include <QString>
 
@@ -16,3 +17,7 @@ struct EmbeddedImage
 
 /// Files over 2 MiB, and those that hold no image that can be shown, are not taken.
 [[nodiscard]] EmbeddedImage embeddedImage(const QString &path);
+
+/// The image in a data: address. Null for any other address, an image of more than `mostPixels`, a drawing
+/// (SVG) that is not complete in itself, and for what is no image.
+[[nodiscard]] QImage decodedImage(const QString &address, qint64 mostPixels);

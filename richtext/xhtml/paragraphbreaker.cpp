@@ -10,18 +10,32 @@ namespace {
 
 constexpr qsizetype longestParagraph = 4000;
 
-/// Where a text can be cut, at `wanted` or a little behind it: not inside a character or an entity.
+bool isBreakable(QChar c)
+{
+    return c == QChar(0x200B) || (c.isSpace() && c != QChar(QChar::Nbsp));
+}
+
+/// Whether a line may end before that place of a markup text: behind a blank or a space without width.
+/// Elsewhere a reference or a value would be cut in two.
+bool isBreakBefore(QStringView text, qsizetype position)
+{
+    return isBreakable(text[position - 1]) || text.first(position).endsWith(u"&#8203;");
+}
+
+/// Where a text can be cut, at `wanted` or as near before it as possible, else behind it; its size when
+/// nowhere.
 qsizetype breakPosition(QStringView text, qsizetype wanted)
 {
-    constexpr qsizetype longestEntity = 12;
-    qsizetype position = std::min(wanted, text.size());
-    const qsizetype start = text.first(position).lastIndexOf(u'&');
-    const qsizetype end = start < 0 || position - start > longestEntity ? -1 : text.indexOf(u';', start);
-    if (end >= position && end - start <= longestEntity) {
-        position = end + 1;
+    for (qsizetype position = std::min(wanted, text.size()); position > 0; --position) {
+        if (isBreakBefore(text, position)) {
+            return position;
+        }
     }
-    const bool isInPair = position > 0 && position < text.size() && text[position].isLowSurrogate();
-    return isInPair ? position + 1 : position;
+    qsizetype position = wanted + 1;
+    while (position < text.size() && !isBreakBefore(text, position)) {
+        ++position;
+    }
+    return std::min(position, text.size());
 }
 
 } // namespace

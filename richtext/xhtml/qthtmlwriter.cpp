@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "richtext/xhtml/qthtmlwriter.h"
 
+#include "richtext/css/cssloads.h"
 #include "richtext/css/stylesheet.h"
 #include "richtext/xhtml/paragraphbreaker.h"
 #include "richtext/xhtml/qtstylesheet.h"
@@ -14,6 +15,7 @@
 #include <QTextDocument>
 
 #include <algorithm>
+#include <deque>
 #include <vector>
 
 namespace {
@@ -36,6 +38,51 @@ QString highlightRule(const QString &selector)
            QLatin1String(highlightColour) + QStringLiteral("; }\n");
 }
 
+/// Keeps the lengths in the attributes of tags within the limits of the document.
+class TagLengths final
+{
+public:
+    explicit TagLengths(const LargestLengths &largest)
+        : m_largest(largest)
+    {
+    }
+
+    /// The tag's text is then one that lives as long as this.
+    void limit(Tag &tag)
+    {
+        if (std::none_of(tag.text.begin(), tag.text.end(), [](QChar c) { return c.isDigit(); })) {
+            return;
+        }
+        const double largestOfStyle = std::min(m_largest.box, m_largest.font);
+        replace(tag, u"style",
+                [&](const QString &value) { return css::withLengthsUpTo(value, largestOfStyle); });
+        for (const QStringView name :
+             {u"width", u"height", u"size", u"border", u"cellpadding", u"cellspacing"}) {
+            replace(tag, name, [&](const QString &value) {
+                return value.toDouble() > m_largest.box ? QString::number(m_largest.box, 'f', 0) : value;
+            });
+        }
+    }
+
+private:
+    template<typename Change>
+    void replace(Tag &tag, QStringView name, Change change)
+    {
+        const QStringView value = tag.attribute(name);
+        const QString old = value.toString();
+        const QString changed = value.isEmpty() ? old : change(old);
+        if (changed != old) {
+            const qsizetype at = value.data() - tag.text.data();
+            m_texts.push_back(tag.text.first(at) % changed % tag.text.sliced(at + value.size()));
+            tag.text = m_texts.back();
+        }
+    }
+
+    LargestLengths m_largest;
+    /// Of a deque the members stay where they are.
+    std::deque<QString> m_texts;
+};
+
 /// Copies a body tag by tag and changes what QTextDocument would not show:
 /// - Only table cells have paddings and borders. A paragraph with them hands them to its cell. One that
 ///   stands in no cell gets a table of one cell around it.
@@ -47,17 +94,19 @@ QString highlightRule(const QString &selector)
 class BodyWriter final
 {
 public:
-    BodyWriter(QStringView body, const QtStyleSheet &style, Medium medium)
+    BodyWriter(QStringView body, const QtStyleSheet &style, Medium medium, const LargestLengths &largest)
         : m_tags(body)
         , m_style(style)
         , m_medium(medium)
+        , m_lengths(largest)
     {
         m_result.reserve(body.size() + body.size() / 4);
     }
 
     QString write()
     {
-        while (const auto tag = m_tags.next()) {
+        while (auto tag = m_tags.next()) {
+            m_lengths.limit(*tag);
             m_paragraph.writeText(tag->textBefore);
             writeTag(*tag);
             if (!(tag->isEnd && tag->isParagraph())) {
@@ -221,6 +270,7 @@ private:
     TagScanner m_tags;
     const QtStyleSheet &m_style;
     Medium m_medium;
+    TagLengths m_lengths;
     QString m_result;
     ParagraphBreaker m_paragraph{m_result};
     QStringView m_tableStart;
@@ -263,12 +313,13 @@ void dropRelativeSizes(const QTextBlock &block)
 QString toQtHtml(const QString &xhtml, const StyleSheet &css, Medium medium, const QString &highlighted)
 {
     const XhtmlParts parts = splitXhtml(xhtml);
-    const QtStyleSheet style(css);
     // Previews draw soft hyphens everywhere; the space without width that follows is enough to break a line.
     const QString body =
         bodyOf(parts.tail).toString().replace(QStringLiteral("&shy;&#8203;"), QStringLiteral("&#8203;"));
+    const LargestLengths largest = largestLengths(body);
+    const QtStyleSheet style(css, largest);
     return joinXhtml(parts, style.text() + highlightRule(highlighted),
-                     BodyWriter(body, style, medium).write());
+                     BodyWriter(body, style, medium, largest).write());
 }
 
 void setQtHtml(QTextDocument &document, const QString &html)

@@ -3,12 +3,14 @@
 #include "richtext/xhtml/qtstylesheet.h"
 
 #include "richtext/css/cssbox.h"
+#include "richtext/css/cssloads.h"
 #include "richtext/css/cssvalue.h"
 
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -42,12 +44,14 @@ QString inUnit(const QString &value, QLatin1String unit, double pointsPerUnit)
     return result + value.mid(copied);
 }
 
-QString translated(const StyleSheet::Declaration &declaration)
+QString translated(const StyleSheet::Declaration &declaration, const LargestLengths &largest)
 {
     const bool isFont = declaration.property.startsWith(QLatin1String("font"));
-    const QString value = isFont ? inUnit(declaration.value, QLatin1String("pt"), 1.0)
-                                 : inUnit(declaration.value, QLatin1String("px"), pointsPerPixel);
-    return declaration.property + QStringLiteral(": ") + value + QStringLiteral("; ");
+    const QString sensible = css::withSensibleNumbers(declaration.value);
+    const QString value = isFont ? inUnit(sensible, QLatin1String("pt"), 1.0)
+                                 : inUnit(sensible, QLatin1String("px"), pointsPerPixel);
+    return declaration.property + QStringLiteral(": ") +
+           css::withLengthsUpTo(value, isFont ? largest.font : largest.box) + QStringLiteral("; ");
 }
 
 /// The tag of "p.name" and "h1.name", or of "h1"; empty for other selectors.
@@ -113,14 +117,14 @@ struct Declarations
     bool hasBox = false;
 };
 
-Declarations translatedDeclarations(const StyleSheet::Rule &rule)
+Declarations translatedDeclarations(const StyleSheet::Rule &rule, const LargestLengths &largest)
 {
     Declarations result;
     for (const StyleSheet::Declaration &declaration : rule.declarations) {
         if (isPageMargin(rule, declaration)) {
             continue;
         }
-        const QString text = translated(declaration);
+        const QString text = translated(declaration, largest);
         const bool isBox = isBoxProperty(declaration.property);
         result.hasBox = result.hasBox || isBox;
         result.all += text;
@@ -133,8 +137,20 @@ Declarations translatedDeclarations(const StyleSheet::Rule &rule)
 
 } // namespace
 
-QtStyleSheet::QtStyleSheet(const StyleSheet &css)
+LargestLengths largestLengths(QStringView body)
+{
+    // In pixels: what all boxes of a document may take together, and in pixels of area what its text may.
+    constexpr double allBoxes = 1.5e6;
+    constexpr double allText = 4e9;
+    const double tags = double(body.count(u'<')) + 1;
+    const double characters = double(body.size()) + 1;
+    return {std::clamp(allBoxes / tags, 20.0, 1000.0),
+            std::clamp(std::sqrt(allText / characters), 32.0, 400.0)};
+}
+
+QtStyleSheet::QtStyleSheet(const StyleSheet &css, const LargestLengths &largest)
     : m_text(headingRules(css))
+    , m_largest(largest.box)
 {
     QSet<QString> known;
     for (const StyleSheet::Rule &rule : css.rules()) {
@@ -142,7 +158,7 @@ QtStyleSheet::QtStyleSheet(const StyleSheet &css)
         const bool isFirst = !known.contains(rule.selector);
         known.insert(rule.selector);
         const double margin = isFirst ? defaultMargin(rule, tag) : 0;
-        const Declarations declarations = translatedDeclarations(rule);
+        const Declarations declarations = translatedDeclarations(rule, largest);
         m_text += rule.selector + QStringLiteral(" { ") + defaultMarginDeclarations(margin) +
                   declarations.all + QStringLiteral("}\n");
         const qsizetype dot = rule.selector.indexOf(u'.');
@@ -168,10 +184,10 @@ void QtStyleSheet::readMargins(const StyleSheet::Rule &rule, const QString &name
     using cssbox::Side;
     const cssbox::Lengths lengths = cssbox::lengths(cssbox::Family::Margin, rule, fontSize(rule), 0);
     if (const std::optional<double> above = lengths[size_t(Side::Top)]) {
-        m_marginsAbove.insert(name, std::max(*above, 0.0) / pointsPerPixel);
+        m_marginsAbove.insert(name, std::clamp(*above / pointsPerPixel, 0.0, m_largest));
     }
     if (const std::optional<double> below = lengths[size_t(Side::Bottom)]) {
-        m_marginsBelow.insert(name, std::max(*below, 0.0) / pointsPerPixel);
+        m_marginsBelow.insert(name, std::clamp(*below / pointsPerPixel, 0.0, m_largest));
     }
 }
 

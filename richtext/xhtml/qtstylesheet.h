@@ -9,12 +9,22 @@
 #include <QString>
 #include <QStringView>
 
+/// The lengths that a document may use, in pixels, and the sizes of its fonts, in points. QTextDocument
+/// counts in numbers that end at some nine thousand pages, and then for ever: the more a document holds the
+/// less of it may be huge.
+struct LargestLengths
+{
+    double box = 1000;
+    double font = 400;
+};
+[[nodiscard]] LargestLengths largestLengths(QStringView body);
+
 /// A style sheet in the terms of QTextDocument, which measures boxes in pixels only, knows paddings and
 /// borders for table cells only, and gives headings with a rule no margins of their own.
 class QtStyleSheet final
 {
 public:
-    explicit QtStyleSheet(const StyleSheet &css);
+    explicit QtStyleSheet(const StyleSheet &css, const LargestLengths &largest = {});
 
     [[nodiscard]] const QString &text() const { return m_text; }
 
@@ -29,6 +39,7 @@ private:
     void readMargins(const StyleSheet::Rule &rule, const QString &name);
 
     QString m_text;
+    double m_largest = 0;
     QSet<QString> m_boxes;
     QHash<QString, double> m_marginsAbove;
     QHash<QString, double> m_marginsBelow;

@@ -18,8 +18,8 @@
 namespace {
 
 // The library descends into elements by recursion and takes time in proportion to size times depth.
-constexpr int mostElements = 20'000;
-constexpr int deepest = 200;
+constexpr int mostElements = 200'000;
+constexpr int deepest = 100;
 constexpr qsizetype longest = 32 * 1024 * 1024;
 
 /// How much work a text is for a parser that descends into every element.

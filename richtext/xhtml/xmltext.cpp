@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "richtext/xhtml/xmltext.h"
 
+#include "richtext/css/cssloads.h"
+
 namespace {
 
 constexpr char16_t firstPrintable = 0x20;
@@ -110,7 +112,7 @@ QString xmlAttribute(const QString &name, const QString &value)
 
 QString styleElementText(const QString &css)
 {
-    QString text = xmlText(css);
+    QString text = css::withoutLoads(xmlText(css));
     // Old pages hide the sheet from browsers without styles like that; a parser of XML would take it for a
     // comment.
     text.remove(QLatin1String("<!--"));

@@ -16,6 +16,6 @@
 [[nodiscard]] QString xmlAttribute(const QString &name, const QString &value);
 
 /// A style sheet for the content of a style element, cleaned as by xmlText(). It means the same to readers of
-/// XML and of HTML, and cannot end the element: its markup characters become escapes of CSS. A sheet without
-/// them is not copied.
+/// XML and of HTML, and cannot end the element: its markup characters become escapes of CSS. It fetches
+/// nothing, see css::withoutLoads(). A sheet without such things is not copied.
 [[nodiscard]] QString styleElementText(const QString &css);

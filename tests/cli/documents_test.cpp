@@ -94,6 +94,37 @@ TEST_F(Documents, PdfRepeatsTheHeadingsOnEveryPage)
     EXPECT_THAT(tell("pdfinfo", QStringLiteral("FILE"), QStringLiteral("list.pdf")), HasSubstr("(A4)"));
 }
 
+TEST_F(Documents, LeaveOutWhatTemplatesBringThatActsOrHasNoEnd)
+{
+    write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\n");
+    const QByteArray table = "<table><tr><td>";
+    const std::pair<QByteArray, const char *> headers[]{
+        {"<p onclick=\"x()\">ACME<script>alert(1)</script><b>", "fetch something: script, onclick\n"},
+        {"<img src=\"/dev/zero\"/>ACME", "fetch something: image /dev/zero\n"},
+        {"<p style=\"background: url(/dev/zero)\">ACME</p>",
+         "fetch something: style background: url(/dev/zero)\n"},
+        {table.repeated(30),
+         "without the header of the template: The HTML elements are nested too deeply.\n"},
+        {QByteArray("<div>").repeated(20'000), "The HTML elements are nested too deeply.\n"}};
+    for (const auto &[header, message] : headers) {
+        write(QStringLiteral("t.bomt"),
+              "<BOMTemplate version=\"5\"><CSS Type=\"QString\">@import '/dev/zero'; p { "
+              "background: url(/dev/zero) }</CSS><DocumentHeader Type=\"QString\">" +
+                  QString::fromUtf8(header).toHtmlEscaped().toUtf8() + "</DocumentHeader></BOMTemplate>");
+        const ProgramRun result = run("report list.csv --template t.bomt --html page.html --pdf page.pdf");
+        EXPECT_EQ(result.status, 0) << result.err;
+        EXPECT_THAT(result.err, HasSubstr(message));
+        EXPECT_THAT(result.err,
+                    HasSubstr("style sheet of the template is used without what would fetch something"));
+        EXPECT_EQ(
+            tell("xmllint", QStringLiteral("--nonet --noout --valid FILE"), QStringLiteral("page.html")), "");
+        for (const char *active : {"script", "onclick", "/dev/zero", "@import"}) {
+            EXPECT_THAT(read(QStringLiteral("page.html")), Not(HasSubstr(active)))
+                << header.left(30).toStdString();
+        }
+    }
+}
+
 TEST_F(Documents, PdfNeedsAFont)
 {
     write(QStringLiteral("list.csv"), "Reference,Value\nR1,10k\n");

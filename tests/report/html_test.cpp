@@ -3,7 +3,7 @@
 #include "views/report/htmlreport.h"
 
 #include "report/reportfixture.h"
-#include "views/report/reportlink.h"
+#include "richtext/xhtml/links.h"
 
 #include <QRegularExpression>
 #include <QUrl>
@@ -79,6 +79,8 @@ TEST(ReportLink, LeadsToFilesAndAddressesOnly)
         {u"https://example.com/x?y=1"_s, QUrl(u"https://example.com/x?y=1"_s)},
         {u"mailto:a@b.c"_s, QUrl(u"mailto:a@b.c"_s)},
         {u"/data/x.pdf"_s, QUrl::fromLocalFile(u"/data/x.pdf"_s)},
+        {u"file:rel/x.pdf#page=2"_s, QUrl(u"file:///designs/amp/rel/x.pdf#page=2"_s)},
+        {u"file:///data/x.pdf"_s, QUrl::fromLocalFile(u"/data/x.pdf"_s)},
         {u"javascript:alert(1)"_s, {}},
         {u" java\tscript:alert(1)"_s, {}},
         {u"data:text/html,x"_s, {}},

@@ -11,6 +11,7 @@
 #include "richtext/xhtml/xhtmlparts.h"
 #include "support/printtext.h"
 
+#include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextLayout>
@@ -118,19 +119,23 @@ TEST(QtHtml, SizesHeadingsAsBrowsersDo)
     }
 }
 
-TEST(QtHtml, BreaksLongParagraphsBetweenCharacters)
+TEST(QtHtml, BreaksLongParagraphsBetweenWordsOnly)
 {
     const QString entities = u"&shy;&#8203;"_s.repeated(2000);
-    const QString faces = u"\U0001F600"_s.repeated(9001);
-    for (const QString &text : {entities, faces, u"x"_s + faces, u"<br/>"_s.repeated(9000) + entities}) {
+    const QString references = u"C1234,&shy;&#8203;"_s.repeated(2000);
+    const QString words = u"&copy;word "_s.repeated(2000);
+    for (const QString &text : {entities, references, words, u"<br/>"_s.repeated(9000) + entities}) {
         const QString body = qtBody({}, u"<p class='a'>"_s + text + u"</p>"_s, Medium::Window);
         EXPECT_GT(body.count(u"<p class='a'>"_s), 1);
+        EXPECT_FALSE(body.contains(QRegularExpression(u"[^ >;]</p>"_s)));
         QTextDocument document;
         document.setHtml(body);
         EXPECT_FALSE(document.toPlainText().contains(u'&'));
         EXPECT_FALSE(document.toPlainText().contains(QChar::ReplacementCharacter));
     }
-    // Not inside an element, which would be cut in two.
+    // Not inside a word or an element, which would be cut in two.
+    const QString word = u"<p>"_s + u"\U0001F600"_s.repeated(9001) + u"</p>"_s;
+    EXPECT_EQ(qtBody({}, word, Medium::Window), word);
     const QString link = u"<p><a href='x'>"_s + u"y"_s.repeated(9000) + u"</a></p>"_s;
     EXPECT_EQ(qtBody({}, link, Medium::Window), link);
 }

@@ -105,6 +105,15 @@ TEST_F(Edit, PrintsPagesWithHeadingsAndFragments)
             EXPECT_EQ(pages.join(u' ').count(QRegularExpression(u"\\bline%1\\b"_s.arg(i))), 1) << i;
         }
     }
+    const QStringList all = pdfPages(printUi.printFile);
+    ASSERT_GE(all.size(), 3);
+    for (const auto &[pages, expected] :
+         {std::pair(u"1,3-9"_s, QStringList{all[0]} + all.mid(2)), {u"2"_s, all.mid(1, 1)}}) {
+        printUi.pages = pages;
+        ASSERT_TRUE(edit.print(painter));
+        painter.end();
+        EXPECT_EQ(pdfPages(printUi.printFile), expected) << pages;
+    }
     printUi.printFile.clear();
     EXPECT_FALSE(edit.print(painter));
     EXPECT_FALSE(painter.isActive());

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QImage>
 #include <QLineEdit>
 #include <QMenu>
@@ -203,6 +204,8 @@ TEST_F(ToolBars, InsertChangeAndRemoveLinks)
     select(4, 7);
     inLinkDialog([&](QDialog &dialog) {
         EXPECT_EQ(field(dialog, "linkText")->text(), u"two"_s);
+        fill(dialog, "linkAddress", u"ftp://example.com"_s);
+        EXPECT_FALSE(dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->isEnabled());
         fill(dialog, "linkAddress", u"javascript:alert(1)"_s);
         EXPECT_TRUE(dialog.isVisible());
         fill(dialog, "linkAddress", address);

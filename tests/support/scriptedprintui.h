@@ -20,6 +20,8 @@ public:
     /// Empty: the dialog is cancelled.
     QString printFile;
     std::optional<QPageLayout> paper;
+    /// Such as "2,4"; empty: all.
+    QString pages;
     /// A preview is painted into this file before.
     QString previewFile;
     QPageLayout offeredPaper;
@@ -34,6 +36,7 @@ public:
             paintPreview(preview);
         }
         printer.setOutputFileName(printFile);
+        printer.setPageRanges(QPageRanges::fromString(pages));
         return !printFile.isEmpty();
     }
     bool choosePaper(QWidget *, QPageLayout &layout) override

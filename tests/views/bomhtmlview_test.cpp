@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QPainter>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -95,6 +96,50 @@ TEST_F(HtmlView, CellsHoldMarkupAndLinksThatOpenBesideTheDesign)
     view.onLinkActivated(u"a.pdf"_s);
     view.onLinkActivated(u"javascript:alert(1)"_s);
     EXPECT_EQ(ui.openedUrls, QList<QUrl>{QUrl::fromLocalFile(u"/designs/amp/a.pdf"_s)});
+}
+
+TEST_F(HtmlView, LinksInsideTheDocumentScrollAndThoseToProgramsAsk)
+{
+    changeTemplate([](BOMTemplate &settings) {
+        settings.setDocumentHeader(u"<p>x</p>"_s.repeated(100) + u"<p><a name='here'></a>y</p>"_s);
+        settings.setDocumentFooter(u"<p>x</p>"_s.repeated(100));
+    });
+    view.handleBOMDataUpdate();
+    view.resize(300, 300);
+    view.show();
+    view.onLinkActivated(u"#none"_s);
+    EXPECT_EQ(view.textEdit()->verticalScrollBar()->value(), 0);
+    view.onLinkActivated(u"#here"_s);
+    EXPECT_GT(view.textEdit()->verticalScrollBar()->value(), 0);
+    const QString program = writeFile(folder.filePath(u"run.sh"_s), "");
+    QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
+    const QString entry = writeFile(folder.filePath(u"a.Desktop"_s), "");
+    view.onLinkActivated(program);
+    view.onLinkActivated(QUrl::fromLocalFile(entry).toString());
+    EXPECT_EQ(ui.questions.size(), 2);
+    EXPECT_TRUE(ui.openedUrls.isEmpty());
+    ui.answer = true;
+    view.onLinkActivated(program);
+    EXPECT_EQ(ui.openedUrls, QList<QUrl>{QUrl::fromLocalFile(program)});
+}
+
+TEST_F(HtmlView, FillsItselfBeforeTheFirstOutput)
+{
+    BOMHTMLView fresh;
+    fresh.setPartsDatabase(&database);
+    ui.fileName = folder.filePath(u"fresh.html"_s);
+    fresh.saveHTML();
+    EXPECT_EQ(QString::fromUtf8(readFile(ui.fileName)), view.html());
+}
+
+TEST_F(HtmlView, TellsOnceWhatItDoesNotShowOfTheTemplate)
+{
+    changeTemplate([](BOMTemplate &settings) { settings.setDocumentHeader(u"<p onclick='x()'>ACME</p>"_s); });
+    view.handleBOMDataUpdate();
+    view.handleBOMDataUpdate();
+    ASSERT_EQ(ui.warnings.size(), 1);
+    EXPECT_TRUE(ui.warnings[0].text.contains(u"onclick"_s));
+    EXPECT_TRUE(view.html().contains(u"<p>ACME</p>"_s));
 }
 
 TEST_F(HtmlView, ShowsTheDocumentOnlyWhenItsTabIsVisible)

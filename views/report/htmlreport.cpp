@@ -4,9 +4,10 @@
 
 #include "core/part.h"
 #include "host/framework/hostui.h"
+#include "richtext/xhtml/links.h"
 #include "templates/bomtemplate.h"
 #include "views/report/report.h"
-#include "views/report/reportlink.h"
+#include "views/report/templatemarkup.h"
 
 #include <QCoreApplication>
 
@@ -265,12 +266,13 @@ QString htmlReport(const Report &report)
     const HostUi &ui = HostUi::current();
     const QString title = htmlText(tr("Bill Of Materials for ") + report.design().title);
     QString html = htmlDocumentStart(title, styleElementText(settings.css()));
-    html += xmlText(settings.documentHeader());
+    const TemplateMarkup markup = templateMarkup(settings);
+    html += markup.documentHeader;
     html += QStringLiteral("\n<h1 class='mainTitle'>") + title + QStringLiteral("</h1>");
     html += headerTable(report);
     html += notesSection(report.notes());
     CategoriesTable(report, html).append();
-    html += xmlText(settings.documentFooter());
+    html += markup.documentFooter;
     html += QStringLiteral("\n<p class='timestamp'>") +
             htmlText(ui.locale().toString(ui.now(), QLocale::LongFormat)) + QStringLiteral("</p>\n");
     html += htmlDocumentEnd();

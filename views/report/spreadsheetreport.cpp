@@ -4,8 +4,8 @@
 
 #include "core/part.h"
 #include "host/framework/hostui.h"
+#include "richtext/xhtml/links.h"
 #include "views/report/report.h"
-#include "views/report/reportlink.h"
 #include "views/report/spreadsheet.h"
 
 #include <QCoreApplication>

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "views/report/reportlink.h"
+#include "richtext/xhtml/links.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -43,14 +44,31 @@ bool isOpenableLink(const QString &link)
            (scheme.isEmpty() || std::find(openable.begin(), openable.end(), scheme) != openable.end());
 }
 
-QUrl linkTarget(const QString &link, const QString &designFolder)
+QUrl linkTarget(const QString &link, const QString &folder)
 {
     if (!isOpenableLink(link)) {
         return {};
     }
     const QString text = link.trimmed();
-    if (!schemeOf(withoutIgnoredCharacters(text)).isEmpty()) {
-        return QUrl(text);
+    const auto fileBelow = [&folder](const QString &path) {
+        return QDir::cleanPath(QDir(folder).absoluteFilePath(path));
+    };
+    if (schemeOf(withoutIgnoredCharacters(text)).isEmpty()) {
+        return QUrl::fromLocalFile(fileBelow(text));
     }
-    return QUrl::fromLocalFile(QDir::cleanPath(QDir(designFolder).absoluteFilePath(text)));
+    QUrl target(text);
+    if (target.isLocalFile() && target.host().isEmpty() && QDir::isRelativePath(target.path())) {
+        target.setPath(fileBelow(target.path()));
+    }
+    return target;
+}
+
+bool isProgram(const QUrl &target)
+{
+    const QFileInfo file(target.toLocalFile());
+    const auto isEntry = [](const QString &path) {
+        return path.endsWith(QLatin1String(".desktop"), Qt::CaseInsensitive);
+    };
+    return target.isLocalFile() && file.isFile() &&
+           (file.isExecutable() || isEntry(file.filePath()) || isEntry(file.canonicalFilePath()));
 }

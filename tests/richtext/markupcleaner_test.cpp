@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "richtext/xhtml/markupcleaner.h"
+
+#include "richtext/css/cssloads.h"
+#include "richtext/documents.h"
+#include "richtext/paper/pagelayouter.h"
+#include "richtext/paper/pdfoutput.h"
+#include "richtext/xhtml/selfcontaineddocument.h"
+#include "richtext/xhtml/xmltext.h"
+#include "support/printtext.h"
+
+#include <QImage>
+#include <QPixmap>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
+namespace {
+
+const QString image =
+    u"data:image/png;base64,iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR42mNk+M9QDwADhgGAWjR9awAA"
+    "AABJRU5ErkJggg=="_s;
+
+TEST(MarkupCleaner, KeepsWhatIsHarmlessAsItIs)
+{
+    for (
+        const QString &text :
+        {u""_s, u"plain"_s, u"\n<p  class='DocHeader'>A &amp; B&nbsp;&copy;<br/></p>\r\n<!-- kept -->"_s,
+         u"<table width='100%'><tr><td colspan='2'>x</td></tr></table><a href='#top'>up</a><a name=\"top\"></a>"_s,
+         u"<p><img alt='' src='"_s + image +
+             u"' width='20'/></p><ul><li><b>x</b></li></ul>{page} of {pages}"_s,
+         u"<p style=\"background: #fff url("_s + image + u"); font-size: 12pt\">&#8364;</p>"_s}) {
+        EXPECT_EQ(MarkupCleaner().clean(text), (CleanMarkup{text, {}, {}}));
+    }
+}
+
+TEST(MarkupCleaner, MendsAndLeavesOutWhatActsOrFetches)
+{
+    const struct
+    {
+        const char *markup;
+        const char *xhtml;
+        QStringList leftOut;
+    } cases[]{
+        {"<p onclick='x()'>a<b>c</p>d", "<p>a<b>c</b></p>\n<b>d</b>", {u"onclick"_s}},
+        {"a<script>alert(1)</script><iframe src='x'></iframe>b", "a\nb", {u"script"_s, u"iframe"_s}},
+        {"<link rel=stylesheet href=x><meta http-equiv=refresh content='0;x'><p>a</p>",
+         "<p>a</p>",
+         {u"link"_s, u"meta"_s}},
+        {"<a href=' java&#10;script:x'>a</a><a href='ftp://x'>b</a>",
+         "<a>a</a><a>b</a>",
+         {u"link java script:x"_s, u"link ftp://x"_s}},
+        {"<p>a<img src='/dev/zero' alt='logo'>b</p>", "<p>alogob</p>", {u"image /dev/zero"_s}},
+        {"<p style='color: red; background: u\\72 l( x ) blue'>a</p>",
+         "<p style=\"color: red; background: none blue\">a</p>",
+         {u"style color: red; background: u\\72 l( x ) blue"_s}},
+        {"<!--><script>x</script>-->a", "a", {u"script"_s}},
+        {"<![CDATA[<script>x</script>]]>a", "a", {u"script"_s}},
+        {"<o:p>a</o:p> & <section>b<video>c</video></section>", "a &amp;\n<div>b</div>", {u"video"_s}},
+        {"<p id='a' id2='b' align='CENTER'>x</p><p id='a'>y</p>",
+         "<p id=\"a\" align=\"center\">x</p>\n<p>y</p>",
+         {}},
+        {"<ul></ul><table><tbody></tbody></table><p/>x<table><tr><td colspan='99999'>y</table>",
+         "\n\n<p></p>\nx\n<table><tr><td colspan=\"1000\">y</td></tr></table>",
+         {}},
+    };
+    for (const auto &[markup, xhtml, leftOut] : cases) {
+        EXPECT_EQ(MarkupCleaner().clean(QString::fromUtf8(markup)).xhtml, QString::fromUtf8(xhtml)) << markup;
+        EXPECT_EQ(MarkupCleaner().clean(QString::fromUtf8(markup)).leftOut, leftOut) << markup;
+    }
+    MarkupCleaner document;
+    EXPECT_EQ(document.clean(u"<p id='a'>x</p>"_s).xhtml, u"<p id='a'>x</p>"_s);
+    EXPECT_EQ(document.clean(u"<p id='a'>x</p>"_s).xhtml, u"<p>x</p>"_s);
+}
+
+TEST(MarkupCleaner, RefusesWhatIsTooDeepOrTooMuch)
+{
+    const QString table = u"<table><tr><td>"_s;
+    const QString tableEnd = u"</td></tr></table>"_s;
+    EXPECT_EQ(MarkupCleaner().clean(u"<div>"_s.repeated(100) + u"</div>"_s.repeated(100)).problem, QString());
+    EXPECT_EQ(MarkupCleaner().clean(table.repeated(8) + tableEnd.repeated(8)).problem, QString());
+    for (const QString &text :
+         {u"<div>"_s.repeated(101) + u"</div>"_s.repeated(101), u"<div>"_s.repeated(20'000),
+          table.repeated(9) + tableEnd.repeated(9), u"<br/>"_s.repeated(200'001), u"<p>x"_s.repeated(200'001),
+          u"<p>x<br/></p>"_s.repeated(100'001), u"<p>"_s + u"x<br/>"_s.repeated(2'000) + u"</p>"_s,
+          u"<table>"_s + u"<tr><td colspan='1000' rowspan='1000'>x</td></tr>"_s.repeated(20) +
+              u"</table>"_s}) {
+        const CleanMarkup result = MarkupCleaner().clean(text);
+        EXPECT_EQ(result.xhtml, QString()) << text.left(30);
+        EXPECT_NE(result.problem, QString()) << text.left(30);
+    }
+    EXPECT_NE(MarkupCleaner(MarkupCleaner::ofPage).clean(u"<p>x</p>"_s.repeated(1'001)).problem, QString());
+}
+
+TEST(StyleLoads, AreTakenAway)
+{
+    for (const auto &[css, quiet] : std::initializer_list<std::pair<QString, QString>>{
+             {u"p { color: red } /* url(x) */ a { content: 'url(x)' }"_s,
+              u"p { color: red } /* url(x) */ a { content: 'url(x)' }"_s},
+             {u"@import 'x'; @\\69mport url(x;y); @media print { p {} }"_s, u"  @media print { p {} }"_s},
+             {u"p { background: URL( \"x)\" ) red }"_s, u"p { background: none red }"_s},
+             {u"p { background: image-set('x' 1x, url(y) 2x), url("_s + image + u") }"_s,
+              u"p { background: none, url("_s + image + u") }"_s},
+             {u"p { content: 'a\r b: url(x) }"_s, u"p { content: 'a\n b: none }"_s},
+             {u"p { width: expression(alert(1)) }"_s, u"p { width: none }"_s}}) {
+        EXPECT_EQ(css::withoutLoads(css), quiet);
+        EXPECT_EQ(css::withoutLoads(quiet), quiet);
+        EXPECT_EQ(styleElementText(css), quiet);
+    }
+}
+
+TEST(SelfContainedDocument, OpensNoFile)
+{
+    QTemporaryDir folder;
+    const QString pipe = folder.filePath(u"pipe"_s);
+    ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
+    PdfOutput output(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}), {});
+    SelfContainedDocument document;
+    const QString css = u"p { background-image: url("_s + pipe + u") }"_s;
+    layOutPages(document,
+                page(css, u"<style>@import url("_s + pipe + u");</style><link rel='stylesheet' href='"_s +
+                              pipe + u"'><p style='background: url("_s + pipe + u")'><img src='"_s + pipe +
+                              u"'><img src='file://"_s + pipe + u"'><img src='"_s + image + u"'>x</p>"_s),
+                output.device(), QSizeF(2000, 3000));
+    EXPECT_EQ(document.pageCount(), 1);
+    const auto pixelsOf = [&document](const QString &source) {
+        return document.resource(QTextDocument::ImageResource, QUrl(source))
+            .value<QImage>()
+            .pixelColor(0, 0)
+            .alpha();
+    };
+    EXPECT_EQ(pixelsOf(pipe), 0);
+    EXPECT_GT(pixelsOf(image), 0);
+}
+
+TEST(Pages, EndForHugeLengths)
+{
+    for (const QString &css :
+         {u"p { font-size: 99999pt }"_s, u"p { margin: 1e9px }"_s, u"td { padding: 9999cm }"_s}) {
+        PdfOutput output(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}), {});
+        SelfContainedDocument document;
+        layOutPages(
+            document,
+            page(css,
+                 u"<table><tr><td><p style='margin-top: 5000px'>text</p></td></tr></table>"_s.repeated(500)),
+            output.device(), QSizeF(2000, 3000));
+        EXPECT_LT(document.pageCount(), 9000) << css;
+    }
+}
+
+} // namespace
