@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "views/bomtemplateeditor.h"
 
+#include "host/framework/hostui.h"
 #include "richtext/css/cssscan.h"
 #include "richtext/editor/textedit.h"
 #include "richtext/editor/textedithruler.h"
@@ -112,10 +113,17 @@ QString BOMTemplateEditor::shownCss(const QString &className) const
 void BOMTemplateEditor::load(TextEdit &edit, const QString &fragment, const QString &className) const
 {
     const QString start = htmlDocumentStart(htmlText(windowTitle()), shownCss(className));
-    const QString text = fragment.isEmpty()
+    const CleanMarkup cleaned = MarkupCleaner().clean(fragment);
+    if (!cleaned.problem.isEmpty()) {
+        HostUi::current().warning(
+            parentWidget(), windowTitle(),
+            tr("%1: the text cannot be shown. It stays as it is unless another one is written.\n%2")
+                .arg(edit.accessibleName(), cleaned.problem.section(u'\n', 0, 0)));
+    }
+    const QString text = cleaned.xhtml.isEmpty()
                              ? QStringLiteral("<p class=\"") + className +
                                    QStringLiteral("\" style=\"-qt-paragraph-type:empty;\"><br /></p>")
-                             : MarkupCleaner().clean(fragment).xhtml;
+                             : cleaned.xhtml;
     edit.document()->setParagraphClass(className);
     edit.loadDocument(start + text + htmlDocumentEnd());
 }

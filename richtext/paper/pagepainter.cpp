@@ -3,7 +3,6 @@
 #include "richtext/paper/pagepainter.h"
 
 #include "host/framework/hostui.h"
-#include "richtext/css/stylesheet.h"
 #include "richtext/paper/pagelayouter.h"
 #include "richtext/xhtml/xhtmlparts.h"
 
@@ -42,7 +41,10 @@ double gapFor(double height, const QPaintDevice &device)
 
 PagePainter::PagePainter(const PagedText &text)
     : m_text(text)
+    , m_css(splitXhtml(text.xhtml).css)
 {
+    m_header.fragment = text.header;
+    m_footer.fragment = text.footer;
     const HostUi &ui = HostUi::current();
     m_date = ui.locale().toString(ui.now().date(), QLocale::ShortFormat);
 }
@@ -51,10 +53,10 @@ int PagePainter::layOut(QPagedPaintDevice &device)
 {
     m_device = &device;
     const QSizeF page(device.width(), device.height());
-    m_headerHeight = edgeHeight(m_text.header);
-    m_footerHeight = edgeHeight(m_text.footer);
-    const double top = m_headerHeight + gapFor(m_headerHeight, device);
-    const double bottom = m_footerHeight + gapFor(m_footerHeight, device);
+    measureEdge(m_header);
+    measureEdge(m_footer);
+    const double top = m_header.height + gapFor(m_header.height, device);
+    const double bottom = m_footer.height + gapFor(m_footer.height, device);
     // Whole pixels: the pages of a document stand one under the other.
     m_textArea = QRectF(0, std::ceil(top), page.width(), std::floor(page.height() - std::ceil(top) - bottom));
     layOutPages(m_document, m_text.xhtml, device, m_textArea.size());
@@ -91,29 +93,38 @@ QString PagePainter::withPlaceholders(const QString &fragment, int page, int pag
     return text;
 }
 
-void PagePainter::layOutEdge(SelfContainedDocument &edge, const QString &fragment, int page, int pages) const
+void PagePainter::layOutEdge(Edge &edge, int page, int pages)
 {
-    const QString xhtml = QStringLiteral("<html><head><style type=\"text/css\"></style></head><body>") +
-                          withPlaceholders(fragment, page, pages) + QStringLiteral("</body></html>");
-    edge.shareImages(m_document);
-    layOutStrip(edge, xhtml, StyleSheet(splitXhtml(m_text.xhtml).css), *m_device, m_device->width());
+    const QString shown = withPlaceholders(edge.fragment, page, pages);
+    if (edge.document && shown == edge.shown) {
+        return;
+    }
+    edge.shown = shown;
+    edge.document.emplace();
+    edge.document->shareImages(m_document);
+    layOutStrip(*edge.document,
+                QStringLiteral("<html><head><style type=\"text/css\"></style></head><body>") + shown +
+                    QStringLiteral("</body></html>"),
+                m_css, *m_device, m_device->width());
 }
 
-double PagePainter::edgeHeight(const QString &fragment) const
+void PagePainter::measureEdge(Edge &edge)
 {
-    if (fragment.trimmed().isEmpty()) {
-        return 0;
+    // It may have been laid out for another device.
+    edge.document.reset();
+    edge.height = 0;
+    if (edge.fragment.trimmed().isEmpty()) {
+        return;
     }
     constexpr int widePageNumber = 999;
-    SelfContainedDocument edge;
-    layOutEdge(edge, fragment, widePageNumber, widePageNumber);
-    return std::min(std::ceil(edge.size().height()), m_device->height() * largestEdge);
+    layOutEdge(edge, widePageNumber, widePageNumber);
+    edge.height = std::min(std::ceil(edge.document->size().height()), m_device->height() * largestEdge);
 }
 
 void PagePainter::paintPage(QPainter &painter, int page)
 {
-    paintEdge(painter, m_text.header, page, 0, m_headerHeight);
-    paintEdge(painter, m_text.footer, page, m_device->height() - m_footerHeight, m_footerHeight);
+    paintEdge(painter, m_header, page, 0);
+    paintEdge(painter, m_footer, page, m_device->height() - m_footer.height);
     const QRectF part(0, (page - 1) * m_textArea.height(), m_textArea.width(), m_textArea.height());
     painter.save();
     painter.translate(0, m_textArea.top() - part.top());
@@ -121,17 +132,15 @@ void PagePainter::paintPage(QPainter &painter, int page)
     painter.restore();
 }
 
-void PagePainter::paintEdge(QPainter &painter, const QString &fragment, int page, double top,
-                            double height) const
+void PagePainter::paintEdge(QPainter &painter, Edge &edge, int page, double top)
 {
-    if (height <= 0) {
+    if (edge.height <= 0) {
         return;
     }
-    SelfContainedDocument edge;
-    layOutEdge(edge, fragment, page, m_pages);
+    layOutEdge(edge, page, m_pages);
     painter.save();
     painter.translate(0, top);
-    drawDocument(painter, edge, QRectF(0, 0, m_device->width(), height));
+    drawDocument(painter, *edge.document, QRectF(0, 0, m_device->width(), edge.height));
     painter.restore();
 }
 

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "richtext/css/stylesheet.h"
 #include "richtext/xhtml/selfcontaineddocument.h"
 
 #include <QRectF>
 #include <QString>
+
+#include <optional>
 
 class QPagedPaintDevice;
 class QPainter;
@@ -40,19 +43,31 @@ public:
 
 private:
     [[nodiscard]] QString withPlaceholders(const QString &fragment, int page, int pages) const;
-    void layOutEdge(SelfContainedDocument &edge, const QString &fragment, int page, int pages) const;
-    [[nodiscard]] double edgeHeight(const QString &fragment) const;
+    /// The top or bottom of a page.
+    struct Edge
+    {
+        /// With placeholders.
+        QString fragment;
+        double height = 0;
+        /// What the document shows; nothing before the first time.
+        QString shown;
+        std::optional<SelfContainedDocument> document;
+    };
+
+    void layOutEdge(Edge &edge, int page, int pages);
+    void measureEdge(Edge &edge);
     void paintPage(QPainter &painter, int page);
-    void paintEdge(QPainter &painter, const QString &fragment, int page, double top, double height) const;
+    void paintEdge(QPainter &painter, Edge &edge, int page, double top);
 
     PagedText m_text;
+    StyleSheet m_css;
     QString m_date;
     SelfContainedDocument m_document;
     QPagedPaintDevice *m_device = nullptr;
     /// The part of the page for the text, in the device's pixels.
     QRectF m_textArea;
-    double m_headerHeight = 0;
-    double m_footerHeight = 0;
+    Edge m_header;
+    Edge m_footer;
     int m_pages = 1;
 };
 

@@ -29,8 +29,8 @@ class MarkupCleaner final
 {
 public:
     /// What stands once in a document. What is laid out for every page anew has to be small.
-    static constexpr MarkupLimits ofDocument{200'000, 20'000};
-    static constexpr MarkupLimits ofPage{1'000, 5'000};
+    static constexpr MarkupLimits ofDocument{20'000, 20'000};
+    static constexpr MarkupLimits ofPage{100, 2'000};
 
     explicit MarkupCleaner(const MarkupLimits &limits = ofDocument)
         : m_limits(limits)

@@ -378,6 +378,8 @@ private:
     void writeText(QStringView text)
     {
         countText(text.size());
+        // A cell that is made for the text spans nothing.
+        m_span = {};
         const bool isBlank = text.trimmed().isEmpty() && !text.contains(QChar(QChar::Nbsp));
         if (!isBlank && !xhtml::holds(*m_open.last().element, textElement()) && !makeRoomFor(textElement())) {
             m_result.isChanged = true;

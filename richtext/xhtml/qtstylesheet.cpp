@@ -135,6 +135,27 @@ Declarations translatedDeclarations(const StyleSheet::Rule &rule, const LargestL
     return result;
 }
 
+/// The first rules, as many as QTextDocument can deal with: it compares every element with every selector,
+/// takes over every declaration that fits, and reads the text again for the top and bottom of every page.
+QList<StyleSheet::Rule> firstRules(const QList<StyleSheet::Rule> &rules)
+{
+    constexpr qsizetype mostParts = 2000;
+    constexpr qsizetype charactersOfPart = 200;
+    qsizetype parts = 0;
+    qsizetype count = 0;
+    while (count < rules.size() && parts <= mostParts) {
+        const StyleSheet::Rule &rule = rules[count];
+        qsizetype characters = rule.selector.size();
+        for (const StyleSheet::Declaration &declaration : rule.declarations) {
+            characters += declaration.value.size();
+        }
+        parts += 1 + rule.selector.count(u',') + rule.selector.count(u' ') + rule.declarations.size() +
+                 characters / charactersOfPart;
+        count += parts <= mostParts ? 1 : 0;
+    }
+    return rules.first(count);
+}
+
 } // namespace
 
 LargestLengths largestLengths(QStringView body)
@@ -153,7 +174,7 @@ QtStyleSheet::QtStyleSheet(const StyleSheet &css, const LargestLengths &largest)
     , m_largest(largest.box)
 {
     QSet<QString> known;
-    for (const StyleSheet::Rule &rule : css.rules()) {
+    for (const StyleSheet::Rule &rule : firstRules(css.rules())) {
         const QString tag = paragraphTag(rule.selector);
         const bool isFirst = !known.contains(rule.selector);
         known.insert(rule.selector);
@@ -177,6 +198,12 @@ QtStyleSheet::QtStyleSheet(const StyleSheet &css, const LargestLengths &largest)
         }
         readMargins(rule, name);
     }
+}
+
+bool QtStyleSheet::holds(const StyleSheet &css)
+{
+    const QList<StyleSheet::Rule> rules = css.rules();
+    return firstRules(rules).size() == rules.size();
 }
 
 void QtStyleSheet::readMargins(const StyleSheet::Rule &rule, const QString &name)

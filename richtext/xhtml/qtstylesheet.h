@@ -26,6 +26,9 @@ class QtStyleSheet final
 public:
     explicit QtStyleSheet(const StyleSheet &css, const LargestLengths &largest = {});
 
+    /// Whether all rules of a style sheet are taken over; of a very long one only the first are.
+    [[nodiscard]] static bool holds(const StyleSheet &css);
+
     [[nodiscard]] const QString &text() const { return m_text; }
 
     /// Whether a paragraph of that class has a padding or border, which its cell then has to get: the style

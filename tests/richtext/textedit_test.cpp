@@ -11,10 +11,13 @@
 #include "support/scriptedprintui.h"
 #include "support/scriptedui.h"
 
+#include <QApplication>
+#include <QDialog>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <gmock/gmock.h>
 
@@ -43,6 +46,22 @@ protected:
     QTemporaryDir folder;
     TextEdit edit;
 };
+
+TEST(PageSetupDialog, SaysNothingOfPrinters)
+{
+    static QStringList messages;
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
+        if (text.contains(u"printer"_s)) {
+            messages.append(text);
+        }
+    });
+    QTimer::singleShot(0, qApp, [] { qobject_cast<QDialog *>(QApplication::activeModalWidget())->reject(); });
+    QPageLayout layout(QPageSize(QPageSize::A5), QPageLayout::Portrait, {});
+    EXPECT_FALSE(PrintUi::current().choosePaper(nullptr, layout));
+    qWarning("other printer");
+    qInstallMessageHandler(nullptr);
+    EXPECT_THAT(messages, ElementsAre(u"other printer"_s));
+}
 
 TEST_F(Edit, OpensLinksWithMouseAndKeyboard)
 {

@@ -84,6 +84,16 @@ TEST_F(TemplateEditor, GivesBackUntouchedTextsByteForByte)
     }
 }
 
+TEST_F(TemplateEditor, TellsOfATextThatItCannotShow)
+{
+    const QString deep = QStringLiteral("<div>").repeated(200);
+    editor.setHeader(deep);
+    EXPECT_TRUE(run([] {}));
+    ASSERT_EQ(ui.warnings.size(), 1);
+    EXPECT_TRUE(ui.warnings[0].text.startsWith(QStringLiteral("Header: the text cannot be shown.")));
+    EXPECT_EQ(editor.header(), deep);
+}
+
 TEST_F(TemplateEditor, TypesIntoAnEmptyHeaderInTheLookOfHeaders)
 {
     editor.setHeader({});

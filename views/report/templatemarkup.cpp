@@ -4,6 +4,7 @@
 
 #include "richtext/css/cssloads.h"
 #include "richtext/xhtml/markupcleaner.h"
+#include "richtext/xhtml/qtstylesheet.h"
 #include "templates/bomtemplate.h"
 
 #include <QCoreApplication>
@@ -55,6 +56,10 @@ TemplateMarkup templateMarkup(const BOMTemplate &settings)
     if (css::withoutLoads(settings.css()) != settings.css()) {
         result.notices.append(
             tr("the style sheet of the template is used without what would fetch something"));
+    }
+    if (!QtStyleSheet::holds(StyleSheet(settings.css()))) {
+        result.notices.append(tr(
+            "the style sheet of the template is too long: windows and PDF files show its first rules only"));
     }
     result.notices.removeAll(QString());
     return result;
