@@ -118,7 +118,7 @@ bool Workbench::open(const QString &path)
 
 void Workbench::openVariant(const QString &variant)
 {
-    if (m_session.open(m_path, variant)) {
+    if (m_session.open(m_path, {variant})) {
         m_variant = variant;
         showDesign();
         return;
@@ -242,8 +242,9 @@ void Workbench::undoLastWrite()
         }
         m_window.setstatustext(tr("Restored: ") + names.join(QStringLiteral(", ")));
     }
-    if (!undone.problems.isEmpty()) {
-        HostUi::current().warning(&m_window, tr("Undo Last Write"), undone.problems.join(u'\n'));
+    const QStringList messages = undone.problems + undone.notices;
+    if (!messages.isEmpty()) {
+        HostUi::current().warning(&m_window, tr("Undo Last Write"), messages.join(u'\n'));
     }
 }
 

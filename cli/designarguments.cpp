@@ -54,6 +54,8 @@ void DesignArguments::addTo(CLI::App &command)
     addDesign(command);
     addReading(command);
     addListing(command);
+    command.add_flag("--as-is", readsAsIs,
+                     "Read a design whose files may not belong together, because a write was interrupted");
 }
 
 void DesignArguments::addDesign(CLI::App &command)

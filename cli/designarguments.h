@@ -3,6 +3,7 @@
 #pragma once
 
 #include "standalone/dnpchoice.h"
+#include "standalone/settleddesign.h"
 
 #include <CLI/App.hpp>
 
@@ -23,8 +24,9 @@ struct DesignArguments
     std::string dnp = "exclude";
     std::string propdefs;
     std::string templateName;
+    bool readsAsIs = false;
 
-    /// Adds DESIGN and all its options to a command.
+    /// Adds DESIGN and all its options to a command that only reads.
     void addTo(CLI::App &command);
     /// Adds DESIGN only.
     void addDesign(CLI::App &command);
@@ -35,6 +37,7 @@ struct DesignArguments
 
     [[nodiscard]] QString path() const { return QString::fromStdString(design); }
     [[nodiscard]] DnpChoice dnpChoice() const;
+    [[nodiscard]] OpenOptions openOptions() const { return {QString::fromStdString(variant), readsAsIs}; }
 };
 
 /// The references that a text such as "R1,R4-R7" names. A text that is itself a reference of the design is

@@ -172,7 +172,8 @@ ExitStatus DesignEdits::write(const WriteOptions &options)
     }
     if (!messages.isEmpty()) {
         return reportProblems(messages,
-                              areFilesOnly ? ExitStatus::UnwritableOutput : ExitStatus::DesignProblem);
+                              areFilesOnly ? ExitStatus::UnwritableOutput : ExitStatus::DesignProblem,
+                              result.isUndecided);
     }
     return reportChanges(result, options.isDryRun);
 }
@@ -209,12 +210,13 @@ WriteResult DesignEdits::writeBatch(const WriteOptions &options)
     return result;
 }
 
-ExitStatus DesignEdits::reportProblems(const QStringList &messages, ExitStatus status)
+ExitStatus DesignEdits::reportProblems(const QStringList &messages, ExitStatus status, bool isUndecided)
 {
     for (const QString &message : messages) {
         console::message(message);
     }
-    console::message(QStringLiteral("nothing was written: ") +
+    console::message((isUndecided ? QStringLiteral("the files named above may be written in part: ")
+                                  : QStringLiteral("nothing was written: ")) +
                      counted(messages.size(), QStringLiteral("problem"), QStringLiteral("problems")));
     return status;
 }
@@ -242,5 +244,11 @@ ExitStatus DesignEdits::reportChanges(const WriteResult &result, bool isDryRun) 
             m_renumbered + (m_isMoreRenumbered ? QStringLiteral(" and others") : QString()) +
             QStringLiteral(" may change places (bom parts tells)"));
     }
-    return console::write(text.toUtf8()) ? ExitStatus::Done : ExitStatus::UnwritableOutput;
+    if (console::write(text.toUtf8())) {
+        return ExitStatus::Done;
+    }
+    if (!isDryRun) {
+        console::message(QStringLiteral("the design was written all the same"));
+    }
+    return ExitStatus::UnwritableOutput;
 }

@@ -46,7 +46,8 @@ private:
     void addToBOMPart(const Part &part, const QString &property, const QString &value);
     [[nodiscard]] QString messageOf(const CDBPROBLEM &problem) const;
     [[nodiscard]] WriteResult writeBatch(const WriteOptions &options);
-    [[nodiscard]] static ExitStatus reportProblems(const QStringList &messages, ExitStatus status);
+    [[nodiscard]] static ExitStatus reportProblems(const QStringList &messages, ExitStatus status,
+                                                   bool isUndecided = false);
     [[nodiscard]] ExitStatus reportChanges(const WriteResult &result, bool isDryRun) const;
 
     OpenDesign &m_design;

@@ -78,10 +78,6 @@ std::optional<QList<SetCommand::Assignment>> SetCommand::assignments() const
     QList<Assignment> found;
     for (const std::string &argument : m_assignments) {
         const QString text = QString::fromStdString(argument);
-        if (text.toStdString() != argument) {
-            console::message(u'"' + text + QStringLiteral("\" is no text in UTF-8"));
-            return std::nullopt;
-        }
         const qsizetype sign = text.indexOf(u'=');
         if (sign <= 0) {
             console::message(u'"' + text + QStringLiteral("\" is no NAME=VALUE (bom set --help tells more)"));
@@ -149,7 +145,9 @@ ExitStatus UndoCommand::run()
     const CliUi ui(QLocale::c());
     DesignSession session;
     if (!session.open(QString::fromStdString(m_design))) {
-        console::message(session.error());
+        for (const QString &error : session.errors()) {
+            console::message(error);
+        }
         return ExitStatus::UnreadableInput;
     }
     if (!session.canUndo()) {
@@ -158,7 +156,7 @@ ExitStatus UndoCommand::run()
         return ExitStatus::DesignProblem;
     }
     const UndoResult undone = session.undo({.rereads = false});
-    for (const QString &problem : undone.problems) {
+    for (const QString &problem : undone.problems + undone.notices) {
         console::message(problem);
     }
     QString text;
@@ -166,6 +164,8 @@ ExitStatus UndoCommand::run()
         text += printable(file) + QStringLiteral(" has its previous content again\n");
     }
     if (!console::write(text.toUtf8())) {
+        console::message(
+            QStringLiteral("the files of the design have their previous content again all the same"));
         return ExitStatus::UnwritableOutput;
     }
     if (undone.problems.isEmpty()) {

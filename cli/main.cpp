@@ -121,6 +121,14 @@ ExitStatus run(Command &command, char *argv[])
 int main(int argc, char *argv[])
 {
     occupyClosedStreams();
+    for (int argument = 1; argument < argc; ++argument) {
+        // Its text would name another file, and that one would be read or overwritten.
+        const QString text = QString::fromUtf8(argv[argument]);
+        if (text.toUtf8() != argv[argument]) {
+            console::message(u'"' + text + QStringLiteral("\" is no text in UTF-8"));
+            return int(ExitStatus::WrongUsage);
+        }
+    }
     // PDF files list their fonts in the order of a hash.
     if (sourceDateEpoch()) {
         QHashSeed::setDeterministicGlobalSeed();

@@ -25,8 +25,10 @@ ExitStatus OpenDesign::open(const DesignArguments &arguments, bool printsWarning
         return ExitStatus::UnreadableInput;
     }
     m_session.setDnpChoice(arguments.dnpChoice());
-    if (!m_session.open(arguments.path(), QString::fromStdString(arguments.variant))) {
-        console::message(m_session.error());
+    if (!m_session.open(arguments.path(), arguments.openOptions())) {
+        for (const QString &error : m_session.errors()) {
+            console::message(error);
+        }
         return ExitStatus::UnreadableInput;
     }
     if (printsWarnings) {

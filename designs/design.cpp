@@ -29,7 +29,8 @@ QStringList Design::changedFiles() const
     QStringList changed;
     for (std::size_t file = 0; file < m_fingerprints.size(); ++file) {
         const QString &path = m_files[qsizetype(file)];
-        if (fingerprintOfFile(path) != m_fingerprints[file]) {
+        const bool isUntouched = file < m_stamps.size() && m_stamps[file].isOf(path);
+        if (!isUntouched && fingerprintOfFile(path) != m_fingerprints[file]) {
             changed << path;
         }
     }

@@ -114,6 +114,8 @@ protected:
     QStringList m_files;
     /// Of the files as they were read.
     std::vector<FileFingerprint> m_fingerprints;
+    /// Likewise; may be fewer, contents are compared then.
+    std::vector<FileStamp> m_stamps;
     std::vector<SheetUse> m_sheets;
     SymbolCount m_symbols;
     QStringList m_variants;

@@ -38,6 +38,7 @@ bool FileBuffer::read(const QString &path, std::string_view start, Problem *prob
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return refuse(QStringLiteral("cannot be read: ") + file.errorString());
     }
+    m_stamp = FileStamp::of(file.handle());
     const qint64 size = file.size();
     if (size == 0) {
         return refuse(QStringLiteral("the file is empty"));

@@ -22,6 +22,8 @@ public:
     /// blanks and a byte-order mark) are not `start` is refused without being read. False fills `problem`.
     bool read(const QString &path, std::string_view start, Problem *problem);
 
+    /// Of the file, as it was before it was read.
+    [[nodiscard]] const FileStamp &stamp() const { return m_stamp; }
     /// Of the text.
     [[nodiscard]] FileFingerprint fingerprint() const { return fingerprintOf(text()); }
 
@@ -29,6 +31,7 @@ public:
 
 private:
     LargeMemory m_bytes;
+    FileStamp m_stamp;
     std::size_t m_size = 0;
     std::size_t m_capacity = 0;
 };

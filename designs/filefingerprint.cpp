@@ -7,8 +7,12 @@
 
 #include <xxhash.h>
 
+#include <algorithm>
 #include <array>
+#include <chrono>
 #include <memory>
+
+#include <sys/stat.h>
 
 namespace designs {
 
@@ -20,6 +24,22 @@ struct StateDeleter
 {
     void operator()(XXH3_state_t *state) const { XXH3_freeState(state); }
 };
+
+qint64 nanoseconds(const timespec &time)
+{
+    return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+}
+
+FileStamp stampOf(const struct stat &found)
+{
+    constexpr qint64 longestStep = 3'000'000'000;
+    FileStamp stamp{quint64(found.st_dev),      quint64(found.st_ino),      qint64(found.st_size),
+                    nanoseconds(found.st_mtim), nanoseconds(found.st_ctim), false};
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    const qint64 latest = std::max(stamp.modified, stamp.changed);
+    stamp.isTelling = latest + longestStep < std::chrono::nanoseconds(now).count();
+    return stamp;
+}
 
 QString hex(quint64 number)
 {
@@ -44,6 +64,23 @@ std::optional<FileFingerprint> FileFingerprint::fromString(QStringView text)
                                text.mid(dash + 1, 16).toULongLong(&isNumber[1], 16),
                                text.mid(dash + 17).toULongLong(&isNumber[2], 16)};
     return isNumber[0] && isNumber[1] && isNumber[2] ? std::optional(read) : std::nullopt;
+}
+
+FileStamp FileStamp::of(int file)
+{
+    struct stat found = {};
+    return ::fstat(file, &found) == 0 ? stampOf(found) : FileStamp();
+}
+
+bool FileStamp::isOf(const QString &path) const
+{
+    struct stat found = {};
+    if (!isTelling || ::stat(QFile::encodeName(path).constData(), &found) != 0) {
+        return false;
+    }
+    const FileStamp now = stampOf(found);
+    return now.device == device && now.number == number && now.size == size && now.modified == modified &&
+           now.changed == changed;
 }
 
 FileFingerprint fingerprintOf(std::string_view bytes)

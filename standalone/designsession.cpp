@@ -9,30 +9,9 @@
 #include "standalone/loadeddesign.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFileInfo>
 
 #include <utility>
-
-namespace {
-
-/// The file that stands for a design before it is read: of a project its root sheet.
-QString designFileOf(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.suffix().compare(QLatin1String("kicad_pro"), Qt::CaseInsensitive) == 0
-               ? info.absoluteDir().absoluteFilePath(info.completeBaseName() + QStringLiteral(".kicad_sch"))
-               : info.absoluteFilePath();
-}
-
-designs::ReadResult read(const QString &path, const QString &variant)
-{
-    designs::ReadOptions options;
-    options.variant = variant;
-    return designs::readDesign(path, options);
-}
-
-} // namespace
 
 DesignSession::DesignSession()
     : m_process(m_document, m_netlist)
@@ -49,53 +28,48 @@ DesignSession::~DesignSession()
     setapplnprocess(nullptr);
 }
 
-bool DesignSession::open(const QString &path, const QString &variant)
+bool DesignSession::open(const QString &path, const OpenOptions &options)
 {
-    const QString expected = designFileOf(path);
-    QStringList recoveries = messagesOf(designs::DesignFiles(expected).recover());
-    designs::ReadResult result = read(path, variant);
-    if (result.design && result.design->info().file != expected) {
-        // The project names another root sheet, which may have an interrupted write of its own.
-        const QStringList more = messagesOf(designs::DesignFiles(result.design->info().file).recover());
-        if (!more.isEmpty()) {
-            recoveries << more;
-            result = read(path, variant);
-        }
-    }
-    if (!result.design) {
-        m_error = (recoveries << result.error.message()).join(QStringLiteral("; "));
+    if (!read(path, options)) {
         return false;
     }
-    open(std::move(result.design));
     m_path = QFileInfo(path).absoluteFilePath();
-    m_variant = variant;
-    m_recoveries = recoveries;
+    m_openOptions = options;
     return true;
 }
 
 void DesignSession::open(std::unique_ptr<const designs::Design> design)
 {
     m_path = design->info().file;
-    m_variant = design->info().variant;
+    m_openOptions = {design->info().variant};
     m_recoveries.clear();
     setDesign(std::move(design));
 }
 
 bool DesignSession::reread()
 {
-    designs::ReadResult result = read(m_path, m_variant);
-    if (!result.design) {
-        m_error = result.error.message();
+    if (!read(m_path, m_openOptions)) {
         return false;
     }
-    setDesign(std::move(result.design));
     m_netlist.refreshCaches();
+    return true;
+}
+
+bool DesignSession::read(const QString &path, const OpenOptions &options)
+{
+    SettledDesign settled = readSettledDesign(path, options);
+    if (!settled.design) {
+        m_errors = settled.errors;
+        return false;
+    }
+    m_recoveries = settled.notices;
+    setDesign(std::move(settled.design));
     return true;
 }
 
 void DesignSession::setDesign(std::unique_ptr<const designs::Design> design)
 {
-    m_error.clear();
+    m_errors.clear();
     m_design = std::make_shared<LoadedDesign>(std::move(design), m_dnpChoice);
     m_document.setDesign(m_design);
     m_cdb.setDesign(m_design);
@@ -110,7 +84,7 @@ QStringList DesignSession::warnings() const
 
 WriteResult DesignSession::write(const WriteOptions &options, const std::function<bool()> &runScripts)
 {
-    m_options = options;
+    m_writeOptions = options;
     m_result = {};
     m_cdb.beginbatch();
     if (runScripts()) {
@@ -118,7 +92,7 @@ WriteResult DesignSession::write(const WriteOptions &options, const std::functio
     } else {
         m_cdb.dropbatch();
     }
-    m_options = {};
+    m_writeOptions = {};
     WriteResult result = std::exchange(m_result, {});
     result.problems = m_cdb.problems();
     return result;
@@ -128,8 +102,8 @@ QList<CDBPROBLEM> DesignSession::writeBatch(std::span<const designs::Edit> edits
 {
     // Keep the design: reading it again replaces m_design.
     const std::shared_ptr<const LoadedDesign> design = m_design;
-    m_result = writeEdits(design->design(), edits, m_options);
-    if (!m_result.files.isEmpty() && !m_options.isDryRun && m_options.rereads) {
+    m_result = writeEdits(design->design(), edits, m_writeOptions);
+    if (!m_result.files.isEmpty() && !m_writeOptions.isDryRun && m_writeOptions.rereads) {
         takeOverFiles();
     }
     if (!m_result.notices.isEmpty()) {
@@ -147,7 +121,7 @@ void DesignSession::takeOverFiles()
             nullptr, QCoreApplication::translate("DesignSession", "The design was written"),
             QCoreApplication::translate("DesignSession",
                                         "It cannot be read again, and is shown as it was before: ") +
-                m_error);
+                error());
     }
 }
 
@@ -170,7 +144,7 @@ UndoResult DesignSession::undo(const UndoOptions &options)
 
 bool DesignSession::canUndo() const
 {
-    return m_design && designs::DesignFiles(m_design->design().info().file).canUndo();
+    return m_design && filesOf(m_design->design()).canUndo();
 }
 
 QStringList DesignSession::files() const
@@ -205,14 +179,14 @@ bool DesignSession::rereadBoard()
     options.variant = info.variant;
     designs::ReadResult result = designs::readDesign(info.file, options);
     if (!result.design) {
-        m_error = result.error.message();
+        m_errors = {result.error.message()};
         return false;
     }
     // The board is read at the first question; that of a broken one adds a warning.
     const std::size_t before = result.design->warnings().size();
     (void)result.design->placement({});
     if (result.design->warnings().size() > before) {
-        m_error = result.design->warnings().back().message();
+        m_errors = {result.design->warnings().back().message()};
         return false;
     }
     m_cdb.setBoard(std::move(result.design));

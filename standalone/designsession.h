@@ -4,6 +4,7 @@
 
 #include "standalone/designwriter.h"
 #include "standalone/dnpchoice.h"
+#include "standalone/settleddesign.h"
 #include "standalone/standalonecdb.h"
 #include "standalone/standalonedocument.h"
 #include "standalone/standalonenetlist.h"
@@ -31,17 +32,18 @@ public:
     DesignSession &operator=(const DesignSession &) = delete;
     ~DesignSession();
 
-    /// Opens a design in place of the one that is open; `variant` is empty for the design as drawn. A write
-    /// that was interrupted is first completed or taken back. On failure error() says why and the old design
-    /// stays open.
-    [[nodiscard]] bool open(const QString &path, const QString &variant = {});
+    /// Opens a design in place of the one that is open. A write that was interrupted is first completed or
+    /// taken back. On failure error() says why and the old design stays open.
+    [[nodiscard]] bool open(const QString &path, const OpenOptions &options = {});
     /// Takes over a design that was read elsewhere.
     void open(std::unique_ptr<const designs::Design> design);
-    /// Reads the design again under the variant that it was opened with, fills the caches and tells their
+    /// Reads the design again under the options that it was opened with, fills the caches and tells their
     /// clients. On failure error() says why and the old design stays open.
     [[nodiscard]] bool reread();
-    /// "FILE:LINE: what is wrong" of the last open() or reread().
-    [[nodiscard]] const QString &error() const { return m_error; }
+    /// "FILE:LINE: what is wrong" each, of the last open() or reread().
+    [[nodiscard]] const QStringList &errors() const { return m_errors; }
+    /// All of them in one line.
+    [[nodiscard]] QString error() const { return m_errors.join(QStringLiteral("; ")); }
 
     /// What was done about an interrupted write, and what the reader noticed and went on from, one
     /// "FILE:LINE: text" each.
@@ -85,6 +87,7 @@ public:
     [[nodiscard]] bool rereadBoard();
 
 private:
+    [[nodiscard]] bool read(const QString &path, const OpenOptions &options);
     void setDesign(std::unique_ptr<const designs::Design> design);
     /// What the component database calls for the outermost batch.
     [[nodiscard]] QList<CDBPROBLEM> writeBatch(std::span<const designs::Edit> edits);
@@ -99,10 +102,10 @@ private:
     DnpChoice m_dnpChoice = DnpChoice::Exclude;
     /// What the design is read from: the file that was named, a project too.
     QString m_path;
-    QString m_variant;
+    OpenOptions m_openOptions;
     QStringList m_recoveries;
     /// Of the batch that write() runs: the interface of the host's database has no place for them.
-    WriteOptions m_options;
+    WriteOptions m_writeOptions;
     WriteResult m_result;
-    QString m_error;
+    QStringList m_errors;
 };

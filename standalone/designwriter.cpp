@@ -70,7 +70,7 @@ bool canBeReplaced(const designs::Design &design)
         }
         same.push_back({path, *fingerprint, file.readAll()});
     }
-    return designs::DesignFiles(design.info().file).check(same).empty();
+    return filesOf(design).check(same).empty();
 }
 
 /// Replaces the files of a plan, or in a dry run only checks whether they could be.
@@ -78,15 +78,20 @@ designs::TransactionResult replaceFiles(const designs::Design &design,
                                         std::span<const designs::FileReplacement> replacements,
                                         const WriteOptions &options)
 {
-    const designs::DesignFiles files(design.info().file);
+    const designs::DesignFiles files = filesOf(design);
     if (options.isDryRun && !replacements.empty()) {
-        return {{}, files.check(replacements)};
+        return {{}, files.check(replacements), false, {}};
     }
     return files.replace(replacements,
                          options.keepsBackups ? designs::Backups::Keep : designs::Backups::None);
 }
 
 } // namespace
+
+designs::DesignFiles filesOf(const designs::Design &design)
+{
+    return {design.info().file, design.files()};
+}
 
 WriteResult writeEdits(const designs::Design &design, std::span<const designs::Edit> edits,
                        const WriteOptions &options)
@@ -98,11 +103,12 @@ WriteResult writeEdits(const designs::Design &design, std::span<const designs::E
         return result;
     }
     const designs::TransactionResult transaction = replaceFiles(design, plan.files, options);
-    if (transaction.replaced.isEmpty() && !transaction.problems.empty()) {
+    if (!transaction.problems.empty()) {
         result.problems = problemsOf(transaction.problems);
+        result.isUndecided = transaction.isUndecided;
         return result;
     }
-    result.notices = messagesOf(transaction.problems);
+    result.notices = messagesOf(transaction.notices);
     for (const designs::Change &planned : plan.changes) {
         result.changes.append(changeOf(design, edits, planned));
     }
@@ -114,9 +120,9 @@ WriteResult writeEdits(const designs::Design &design, std::span<const designs::E
 
 UndoResult undoLastWrite(const designs::Design &design)
 {
-    const designs::TransactionResult undone = designs::DesignFiles(design.info().file).undo();
-    const bool isUnwritable = undone.replaced.isEmpty() && !undone.problems.empty() && !canBeReplaced(design);
-    return {undone.replaced, messagesOf(undone.problems), isUnwritable};
+    const designs::TransactionResult undone = filesOf(design).undo();
+    const bool isUnwritable = !undone.problems.empty() && (undone.isUndecided || !canBeReplaced(design));
+    return {undone.replaced, messagesOf(undone.problems), messagesOf(undone.notices), isUnwritable};
 }
 
 QStringList messagesOf(std::span<const designs::Problem> problems)

@@ -14,7 +14,8 @@
 
 namespace designs {
 class Design;
-}
+class DesignFiles;
+} // namespace designs
 
 /// A change (designs::Change) in the words of the host: what was done to a property, or would be.
 struct PropertyChange
@@ -52,6 +53,9 @@ struct WriteResult
 {
     /// Why nothing was written; all else is empty then.
     QList<CDBPROBLEM> problems;
+    /// Beside problems: the write failed between two files and could not be taken back, so that some files
+    /// may be new. The problems say what each holds.
+    bool isUndecided = false;
     /// What was changed, or would be in a dry run, in the order of the edits.
     QList<PropertyChange> changes;
     /// The files that were replaced, or would be in a dry run.
@@ -69,11 +73,16 @@ struct UndoResult
     QStringList files;
     /// Why nothing was taken back, "FILE:LINE: text" each.
     QStringList problems;
+    /// What went wrong although the files have their previous content, likewise.
+    QStringList notices;
     /// The files could not be written now at all: locked, or marked read-only.
     bool isUnwritable = false;
 
     bool operator==(const UndoResult &) const = default;
 };
+
+/// What replaces the files of a design.
+[[nodiscard]] designs::DesignFiles filesOf(const designs::Design &design);
 
 /// Writes all edits into the files of the design, or none. Reads nothing again.
 [[nodiscard]] WriteResult writeEdits(const designs::Design &design, std::span<const designs::Edit> edits,

@@ -145,6 +145,7 @@ void KicadDesign::collectSheets()
     for (const SheetFile &file : m_hierarchy->files()) {
         m_files << file.path;
         m_fingerprints.push_back(file.fingerprint);
+        m_stamps.push_back(file.stamp);
     }
     for (const HierarchyUse &use : m_hierarchy->uses()) {
         m_sheets.push_back({use.namePath, use.file});

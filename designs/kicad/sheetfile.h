@@ -137,6 +137,7 @@ struct SheetFile
     QDateTime modified;
     /// Of the content that was read.
     FileFingerprint fingerprint;
+    FileStamp stamp;
     int formatVersion = 0;
     std::string_view uuid;
     TitleBlock title;

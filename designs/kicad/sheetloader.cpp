@@ -138,6 +138,7 @@ LoadedSheet SheetLoader::read(const QString &path, int thread)
     loaded.sheet.path = path;
     loaded.sheet.modified = info.lastModified();
     loaded.sheet.fingerprint = buffer.fingerprint();
+    loaded.sheet.stamp = buffer.stamp();
     for (const std::string &name : m_knownNames) {
         loaded.names.intern(name);
     }

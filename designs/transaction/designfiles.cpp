@@ -10,7 +10,38 @@ namespace designs {
 
 namespace {
 
-/// One transaction, with the lock taken. Whether the files are replaced; problems are added to `operations`.
+TransactionResult failure(FileOperations &operations)
+{
+    return {{}, std::move(operations.problems()), false, {}};
+}
+
+TransactionResult success(FileOperations &operations, std::span<const FileReplacement> files)
+{
+    TransactionResult result{{}, {}, false, std::move(operations.problems())};
+    for (const FileReplacement &file : files) {
+        result.replaced << file.path;
+    }
+    return result;
+}
+
+/// Nothing was written only if all files are old, and no journal is left by which recovery would make them
+/// new.
+TransactionResult takenBack(FileOperations &operations, const DesignPaths &paths,
+                            FileTransaction &transaction)
+{
+    transaction.takeBack();
+    const bool isOver = !operations.exists(paths.journal()) || transaction.isSettled();
+    if (isOver && transaction.allHold(&RecordedReplacement::before)) {
+        return failure(operations);
+    }
+    operations.add(transaction.states());
+    operations.fail(paths.design(),
+                    QStringLiteral("the write could be neither completed nor taken back; the next command "
+                                   "that reads the design tries again"));
+    return {{}, std::move(operations.problems()), true, {}};
+}
+
+/// One transaction, with the lock taken.
 ///
 /// The promise lies in the order of the steps. Each is on the disk before the next one begins:
 ///   check    touches nothing, so that nearly all that can fail fails here.
@@ -22,45 +53,31 @@ namespace {
 ///   place    renames each new content over its file, so that no reader ever sees half a file.
 ///   finish   puts backups and record in place and removes the journal; only then undo() finds them, so that
 ///            it never takes back what is not in the files.
-bool replaceFiles(FileOperations &operations, const DesignPaths &paths,
-                  std::span<const FileReplacement> files, bool keepsBackups)
+TransactionResult replaceFiles(FileOperations &operations, const DesignPaths &paths,
+                               std::span<const FileReplacement> files, bool keepsBackups)
 {
     WriteCheck check(operations, paths);
     const auto checked = check.run(files, keepsBackups);
     if (!checked) {
-        return false;
+        return failure(operations);
     }
     FileTransaction transaction(operations, paths);
     // Preparing takes time: other programs may have opened the files meanwhile.
     if (!transaction.prepare(*checked, keepsBackups) || !check.areStillClosed(*checked)) {
         transaction.discard();
-        return false;
+        return failure(operations);
     }
     const bool isCommitted = transaction.commit();
     if (!isCommitted && transaction.journal().state == Journal::State::Preparing) {
         transaction.discard();
-        return false;
+        return failure(operations);
     }
     // A commit that failed after its rename may count after a crash: discarding would be too late.
     if (!isCommitted || !transaction.place()) {
-        transaction.takeBack();
-        return false;
+        return takenBack(operations, paths, transaction);
     }
     transaction.finish();
-    return true;
-}
-
-TransactionResult runTransaction(FileOperations &operations, const DesignPaths &paths,
-                                 std::span<const FileReplacement> files, bool keepsBackups)
-{
-    TransactionResult result;
-    if (!files.empty() && replaceFiles(operations, paths, files, keepsBackups)) {
-        for (const FileReplacement &file : files) {
-            result.replaced << file.path;
-        }
-    }
-    result.problems = operations.problems();
-    return result;
+    return success(operations, files);
 }
 
 /// What gives the files their previous content again; empty, with problems, when it cannot be done.
@@ -99,41 +116,37 @@ bool checkNothingInterrupted(FileOperations &operations, const DesignPaths &path
 
 } // namespace
 
-DesignFiles::DesignFiles(const QString &design, FileSystem *system)
-    : m_design(design)
+DesignFiles::DesignFiles(const QString &design, const QStringList &members, FileSystem *system)
+    : m_paths(design, members)
     , m_system(system ? system : &FileSystem::real())
 {
 }
 
-std::vector<Problem> DesignFiles::recover() const
+RecoveryResult DesignFiles::recover() const
 {
-    const DesignPaths paths(m_design);
     FileOperations operations(*m_system);
-    Recovery recovery(operations, paths);
+    Recovery recovery(operations, m_paths);
     if (!recovery.isNeeded()) {
-        return operations.problems();
+        return {{}, std::move(operations.problems()), true};
     }
-    std::vector<Problem> all;
+    Recovery::Result recovered;
     {
-        DesignLock lock(operations, paths);
+        DesignLock lock(operations, m_paths);
         if (lock.take()) {
-            all = recovery.run().actions;
-        } else if (recovery.hasJournal()) {
-            operations.fail(paths.design(),
-                            QStringLiteral("was being written when that was interrupted, which can "
-                                           "now be neither completed nor taken back: its files "
-                                           "may not belong together"));
+            recovered = recovery.run();
+        } else if (!recovery.hasJournal()) {
+            recovered.isSettled = true;
+        } else if (!lock.isTakenElsewhere()) {
+            recovered = recovery.look();
         }
     }
-    all.insert(all.end(), operations.problems().begin(), operations.problems().end());
-    return all;
+    return {std::move(recovered.actions), std::move(operations.problems()), recovered.isSettled};
 }
 
 std::vector<Problem> DesignFiles::check(std::span<const FileReplacement> files) const
 {
-    const DesignPaths paths(m_design);
     FileOperations operations(*m_system);
-    (void)WriteCheck(operations, paths).run(files, false);
+    (void)WriteCheck(operations, m_paths).run(files, false);
     return operations.problems();
 }
 
@@ -142,40 +155,39 @@ TransactionResult DesignFiles::replace(std::span<const FileReplacement> files, B
     if (files.empty()) {
         return {};
     }
-    const DesignPaths paths(m_design);
     FileOperations operations(*m_system);
-    DesignLock lock(operations, paths);
-    if (!lock.take() || !checkNothingInterrupted(operations, paths)) {
-        return {{}, operations.problems()};
+    DesignLock lock(operations, m_paths);
+    if (!lock.take() || !checkNothingInterrupted(operations, m_paths)) {
+        return failure(operations);
     }
-    return runTransaction(operations, paths, files, backups == Backups::Keep);
+    return replaceFiles(operations, m_paths, files, backups == Backups::Keep);
 }
 
 TransactionResult DesignFiles::undo() const
 {
-    const DesignPaths paths(m_design);
     FileOperations operations(*m_system);
     if (!canUndo()) {
-        operations.fail(paths.design(), QStringLiteral("there is nothing to take back"));
-        return {{}, operations.problems()};
+        operations.fail(m_paths.design(), QStringLiteral("there is nothing to take back"));
+        return failure(operations);
     }
-    DesignLock lock(operations, paths);
-    if (!lock.take() || !checkNothingInterrupted(operations, paths)) {
-        return {{}, operations.problems()};
+    DesignLock lock(operations, m_paths);
+    if (!lock.take() || !checkNothingInterrupted(operations, m_paths)) {
+        return failure(operations);
     }
     QString why;
-    const auto record = UndoRecord::read(paths, &why);
+    const auto record = UndoRecord::read(m_paths, &why);
     if (!record) {
-        operations.fail(paths.record(), QStringLiteral("cannot be used: ") + why);
-        return {{}, operations.problems()};
+        operations.fail(m_paths.record(), QStringLiteral("cannot be used: ") + why);
+        return failure(operations);
     }
-    return runTransaction(operations, paths, reversed(operations, paths, *record), false);
+    const std::vector<FileReplacement> files = reversed(operations, m_paths, *record);
+    return files.empty() ? failure(operations) : replaceFiles(operations, m_paths, files, false);
 }
 
 bool DesignFiles::canUndo() const
 {
     FileOperations operations(*m_system);
-    return operations.exists(DesignPaths(m_design).record());
+    return operations.exists(m_paths.record());
 }
 
 } // namespace designs

@@ -4,6 +4,7 @@
 
 #include "designs/edits.h"
 #include "designs/problem.h"
+#include "designs/transaction/designpaths.h"
 
 #include <QString>
 #include <QStringList>
@@ -27,9 +28,25 @@ struct TransactionResult
 {
     /// The files that were replaced: all of the transaction, or none.
     QStringList replaced;
-    /// Why nothing was replaced. Beside replaced files: what failed when all were in place, such as keeping
-    /// the backups; the next recover() completes that.
+    /// Why the files were not replaced; none beside replaced files.
     std::vector<Problem> problems;
+    /// The write failed between two files and taking it back failed, too: some files may be new. The problems
+    /// say what each holds, and recover() tries again.
+    bool isUndecided = false;
+    /// Beside replaced files: what failed when all were in place, such as keeping the backups. The next
+    /// recover() completes that.
+    std::vector<Problem> notices;
+};
+
+/// What came of looking for an interrupted transaction.
+struct RecoveryResult
+{
+    /// What was done about it.
+    std::vector<Problem> actions;
+    /// What could not be done, and what the files hold then.
+    std::vector<Problem> problems;
+    /// False when files may be old in part and new in part.
+    bool isSettled = true;
 };
 
 /// The files of one design, replaced in transactions: whatever happens meanwhile (a file that cannot be
@@ -40,12 +57,13 @@ class DesignFiles final
 {
 public:
     /// `design` is the file that stands for the design (DesignInfo::file); journal, backups and the record
-    /// for undo() are found by it. `system` stays the caller's; null is the real one.
-    explicit DesignFiles(const QString &design, FileSystem *system = nullptr);
+    /// for undo() are found by it. `members` are all of its files (Design::files()): no other one is ever
+    /// touched. `system` stays the caller's; null is the real one.
+    DesignFiles(const QString &design, const QStringList &members, FileSystem *system = nullptr);
 
-    /// Completes or takes back a transaction that was interrupted. To be called before the design is read.
-    /// Gives what was done or why it could not be; nothing when there was nothing to do.
-    [[nodiscard]] std::vector<Problem> recover() const;
+    /// Completes or takes back a transaction that was interrupted. The design is to be read again when
+    /// something was done. Waits for one that is under way.
+    [[nodiscard]] RecoveryResult recover() const;
 
     /// Why the files could not be replaced now: locked, changed meanwhile, not writable. Writes nothing.
     [[nodiscard]] std::vector<Problem> check(std::span<const FileReplacement> files) const;
@@ -61,7 +79,7 @@ public:
     [[nodiscard]] bool canUndo() const;
 
 private:
-    QString m_design;
+    DesignPaths m_paths;
     FileSystem *m_system;
 };
 

@@ -2,11 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/designlock.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QJsonDocument>
-#include <QJsonObject>
-
 #include <cerrno>
 
 namespace designs {
@@ -15,12 +10,6 @@ namespace {
 
 /// With FileSystem::pause() between them, some ten seconds.
 constexpr int attempts = 500;
-
-/// A name from the lock file as it can stand in a message.
-QString named(const QJsonObject &lock, QLatin1String key)
-{
-    return lock.value(key).toString().simplified().left(60);
-}
 
 } // namespace
 
@@ -46,35 +35,14 @@ bool DesignLock::take()
         m_files.system().pause();
         failure = m_files.system().lock(m_path, &m_file);
     }
-    if (failure == EWOULDBLOCK) {
+    m_isTakenElsewhere = failure == EWOULDBLOCK;
+    if (m_isTakenElsewhere) {
         return m_files.fail(m_path, QStringLiteral("another program is just writing this design: try again "
                                                    "when it has finished"));
     }
     return failure == 0 ||
            m_files.fail(m_design, QStringLiteral("cannot be written: ") + m_path +
                                       QStringLiteral(" cannot be created: ") + qt_error_string(failure));
-}
-
-std::optional<QString> openElsewhere(const QString &path)
-{
-    const QFileInfo info(path);
-    const QString lockPath =
-        info.absolutePath() + QStringLiteral("/~") + info.fileName() + QStringLiteral(".lck");
-    const QFileInfo lockInfo(lockPath);
-    if (!lockInfo.exists() && !lockInfo.isSymLink()) {
-        return std::nullopt;
-    }
-    QJsonObject lock;
-    QFile file(lockPath);
-    if (lockInfo.isFile() && file.open(QIODevice::ReadOnly)) {
-        lock = QJsonDocument::fromJson(file.read(4096)).object();
-    }
-    const QString user = named(lock, QLatin1String("username"));
-    const QString host = named(lock, QLatin1String("hostname"));
-    QString who = user.isEmpty() ? QStringLiteral("somebody") : user;
-    who += host.isEmpty() ? QString() : QStringLiteral(" on ") + host;
-    return QStringLiteral("is open in KiCad (") + who +
-           QStringLiteral("): close it there; if it is open nowhere, delete ") + lockPath;
 }
 
 } // namespace designs

@@ -7,8 +7,6 @@
 
 #include <QString>
 
-#include <optional>
-
 namespace designs {
 
 /// The right to write the files of one design, for one process at a time. It ends with the process.
@@ -22,16 +20,15 @@ public:
 
     /// Waits some seconds for another process that writes. False, with a problem, when it cannot be had.
     [[nodiscard]] bool take();
+    /// Whether take() failed because another process writes.
+    [[nodiscard]] bool isTakenElsewhere() const { return m_isTakenElsewhere; }
 
 private:
     FileOperations &m_files;
     QString m_design;
     QString m_path;
     int m_file = -1;
+    bool m_isTakenElsewhere = false;
 };
-
-/// Who has a file open in KiCad, by the lock file beside it: "is open in KiCad (anna on host)". Nothing when
-/// nobody has.
-[[nodiscard]] std::optional<QString> openElsewhere(const QString &path);
 
 } // namespace designs

@@ -28,11 +28,12 @@ QString folderOf(const QString &path)
     return QFileInfo(path).path();
 }
 
-DesignPaths::DesignPaths(const QString &design)
+DesignPaths::DesignPaths(const QString &design, const QStringList &members)
     : m_named(QFileInfo(design).absoluteFilePath())
     , m_design(withoutLinks(design))
     , m_folder(folderOf(m_design))
     , m_name(QFileInfo(m_design).fileName())
+    , m_members(members)
 {
 }
 
@@ -92,6 +93,17 @@ bool DesignPaths::mayHold(const QString &target) const
     const QString inside = m_folder.endsWith(u'/') ? m_folder : m_folder + u'/';
     return target.startsWith(inside) ||
            QFileInfo(target).suffix().compare(QFileInfo(m_design).suffix(), Qt::CaseInsensitive) == 0;
+}
+
+bool DesignPaths::isMember(const QString &target) const
+{
+    if (m_targets.isEmpty()) {
+        m_targets.insert(m_design);
+        for (const QString &member : m_members) {
+            m_targets.insert(withoutLinks(member));
+        }
+    }
+    return m_targets.contains(target);
 }
 
 } // namespace designs

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QSet>
 #include <QString>
+#include <QStringList>
 
 namespace designs {
 
@@ -11,7 +13,8 @@ namespace designs {
 class DesignPaths final
 {
 public:
-    explicit DesignPaths(const QString &design);
+    /// `members` are the files that the design consists of, as it was read; the design itself is always one.
+    explicit DesignPaths(const QString &design, const QStringList &members = {});
 
     [[nodiscard]] const QString &design() const { return m_design; }
     /// The design as it was named, symbolic links kept.
@@ -35,12 +38,18 @@ public:
     /// Whether a file may be written as one of this design: it lies in or below its folder or, elsewhere, is
     /// of the same kind.
     [[nodiscard]] bool mayHold(const QString &target) const;
+    /// Whether a file is one that the design consists of. Journal and record are believed for no others: they
+    /// may have come with the folder from somewhere.
+    [[nodiscard]] bool isMember(const QString &target) const;
 
 private:
     QString m_named;
     QString m_design;
     QString m_folder;
     QString m_name;
+    QStringList m_members;
+    /// Without symbolic links; filled at the first question.
+    mutable QSet<QString> m_targets;
 };
 
 /// The folder that a path lies in.

@@ -15,6 +15,11 @@ constexpr std::size_t blockSize = 1 << 20;
 
 } // namespace
 
+void FileOperations::add(const std::vector<Problem> &problems)
+{
+    m_problems.insert(m_problems.end(), problems.begin(), problems.end());
+}
+
 bool FileOperations::fail(const QString &path, const QString &text)
 {
     m_problems.push_back({path, 0, text});

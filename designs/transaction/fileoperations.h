@@ -25,6 +25,7 @@ public:
     [[nodiscard]] std::vector<Problem> &problems() { return m_problems; }
     [[nodiscard]] FileSystem &system() { return m_system; }
 
+    void add(const std::vector<Problem> &problems);
     /// Adds a problem; always false.
     bool fail(const QString &path, const QString &text);
 

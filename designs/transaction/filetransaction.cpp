@@ -4,6 +4,8 @@
 
 #include <QRandomGenerator>
 
+#include <algorithm>
+
 namespace designs {
 
 namespace {
@@ -173,18 +175,17 @@ bool FileTransaction::dropBackups()
     return done;
 }
 
-/// The journal says so first: recovery must not place again what is just taken back.
+/// The journal says so first: recovery must not place again what is just taken back. Where it cannot be
+/// written, the files are restored all the same: as soon as one is, recovery cannot complete any more. A file
+/// that cannot be restored keeps no other from it; the journal stays then.
 bool FileTransaction::takeBack()
 {
-    if (!saveJournal(Journal::State::TakingBack)) {
-        return false;
-    }
+    (void)saveJournal(Journal::State::TakingBack);
+    bool done = true;
     for (const JournalEntry &entry : m_journal.entries) {
-        if (!restore(entry)) {
-            return false;
-        }
+        done = restore(entry) && done;
     }
-    return m_files.syncFoldersOf(all(&JournalEntry::target)) && discard();
+    return done && m_files.syncFoldersOf(all(&JournalEntry::target)) && discard();
 }
 
 /// Only a file that still holds the new content gets the previous one: others were not replaced, or somebody
@@ -224,6 +225,47 @@ bool FileTransaction::removeJournal()
 {
     return m_files.removeIfThere(m_paths.newJournal()) && m_files.removeIfThere(m_paths.journal()) &&
            m_files.syncFoldersOf({m_paths.journal()});
+}
+
+bool FileTransaction::allHold(FileFingerprint RecordedReplacement::*content) const
+{
+    return std::ranges::all_of(m_journal.entries, [content](const JournalEntry &entry) {
+        return fingerprintOfPlainFile(entry.target) == entry.*content;
+    });
+}
+
+bool FileTransaction::isSettled()
+{
+    switch (m_journal.state) {
+    case Journal::State::Preparing:
+        return true;
+    case Journal::State::Committed:
+        return allHold(&RecordedReplacement::after);
+    case Journal::State::TakingBack:
+        return allHold(&RecordedReplacement::before);
+    }
+    return false;
+}
+
+std::vector<Problem> FileTransaction::states() const
+{
+    std::vector<Problem> states;
+    for (const JournalEntry &entry : m_journal.entries) {
+        const auto now = fingerprintOfPlainFile(entry.target);
+        const QString holds = now == entry.after    ? QStringLiteral("holds the new content")
+                              : now == entry.before ? QStringLiteral("holds the previous content")
+                              : now                 ? QStringLiteral("was changed meanwhile")
+                                                    : QStringLiteral("cannot be read any more");
+        QString text = holds;
+        if (now != entry.after && fingerprintOfPlainFile(entry.prepared) == entry.after) {
+            text += QStringLiteral("; the new content stands in ") + entry.prepared;
+        }
+        if (now != entry.before && fingerprintOfPlainFile(entry.saved) == entry.before) {
+            text += QStringLiteral("; the previous content stands in ") + entry.saved;
+        }
+        states.push_back({entry.target, 0, text});
+    }
+    return states;
 }
 
 QStringList FileTransaction::all(QString JournalEntry::*path) const

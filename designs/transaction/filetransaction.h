@@ -47,13 +47,21 @@ public:
     bool place();
     /// Puts backups and undo record in place and removes the journal.
     bool finish();
-    /// Gives replaced files their previous content again, and removes everything else.
+    /// Gives replaced files their previous content again, as many as it can, and removes everything else.
     bool takeBack();
     /// Removes what a transaction prepared that has replaced nothing.
     bool discard();
 
     /// Whether the new content is not beside the file any more: it became the file.
     [[nodiscard]] bool isPlaced(const JournalEntry &entry) { return !m_files.exists(entry.prepared); }
+
+    /// Whether all files hold their content after, or before, the transaction.
+    [[nodiscard]] bool allHold(FileFingerprint RecordedReplacement::*content) const;
+    /// Whether the files are all old or all new and stay so: what may be left to do concerns backups and the
+    /// transaction's own files.
+    [[nodiscard]] bool isSettled();
+    /// What each file holds now, and where its other content stands.
+    [[nodiscard]] std::vector<Problem> states() const;
 
 private:
     bool saveJournal(Journal::State state);

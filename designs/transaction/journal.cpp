@@ -9,6 +9,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <array>
 
 namespace designs {
@@ -61,7 +62,9 @@ std::optional<std::vector<RecordedReplacement>> replacementsFrom(const QJsonArra
         const QString target = paths.resolved(object.value(QLatin1String("file")).toString());
         const auto before = FileFingerprint::fromString(object.value(QLatin1String("before")).toString());
         const auto after = FileFingerprint::fromString(object.value(QLatin1String("after")).toString());
-        if (target.isEmpty() || !paths.mayHold(target) || !before || !after) {
+        const bool isNamed =
+            std::ranges::any_of(replacements, [&](const auto &other) { return other.target == target; });
+        if (target.isEmpty() || !paths.isMember(target) || isNamed || !before || !after) {
             return std::nullopt;
         }
         replacements.push_back({target, *before, *after});
@@ -71,9 +74,14 @@ std::optional<std::vector<RecordedReplacement>> replacementsFrom(const QJsonArra
 
 /// The object of a journal or record; nothing, with the reason in `why`, when it is no file, cannot be read
 /// or is far too large.
-std::optional<QJsonObject> readRecord(const QString &path, QString *why)
+std::optional<QJsonObject> readRecord(const DesignPaths &paths, const QString &path, QString *why)
 {
     QFile file(path);
+    // Backups would be put into another folder, over files of the same names.
+    if (QFileInfo(paths.backupFolder()).isSymLink()) {
+        *why = paths.backupFolder() + QStringLiteral(" is a symbolic link");
+        return std::nullopt;
+    }
     if (!isPlainFile(path)) {
         *why = QStringLiteral("it is no ordinary file");
         return std::nullopt;
@@ -126,7 +134,7 @@ QByteArray Journal::toJson(const DesignPaths &paths) const
 std::optional<Journal> Journal::read(const DesignPaths &paths, QString *why)
 {
     static const QRegularExpression tokenForm(QStringLiteral(R"(\A[0-9a-f]{16}\z)"));
-    const std::optional<QJsonObject> object = readRecord(paths.journal(), why);
+    const std::optional<QJsonObject> object = readRecord(paths, paths.journal(), why);
     if (!object) {
         return std::nullopt;
     }
@@ -157,7 +165,7 @@ QByteArray UndoRecord::toJson(const DesignPaths &paths) const
 
 std::optional<UndoRecord> UndoRecord::read(const DesignPaths &paths, QString *why)
 {
-    const std::optional<QJsonObject> object = readRecord(paths.record(), why);
+    const std::optional<QJsonObject> object = readRecord(paths, paths.record(), why);
     if (!object) {
         return std::nullopt;
     }

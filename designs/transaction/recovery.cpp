@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/recovery.h"
 
-#include "designs/transaction/designlock.h"
+#include "designs/transaction/kicadlock.h"
 
 #include <algorithm>
 
@@ -20,30 +20,64 @@ bool Recovery::hasJournal()
 
 Recovery::Result Recovery::run()
 {
-    const bool isResolved = resolveAny();
-    return {isResolved, std::move(m_actions)};
+    Result result;
+    resolveAny(&result);
+    result.isSettled = result.isSettled || result.isResolved;
+    result.actions = std::move(m_actions);
+    return result;
 }
 
-bool Recovery::resolveAny()
+void Recovery::resolveAny(Result *result)
 {
     FileStatus found;
     if (!m_files.readStatus(m_paths.journal(), &found)) {
-        return false;
+        return;
     }
     // A journal that did not get its name yet is of a transaction that has not begun.
     if (found.kind == FileStatus::Kind::Missing) {
-        return m_files.removeIfThere(m_paths.newJournal());
+        result->isResolved = m_files.removeIfThere(m_paths.newJournal());
+        result->isSettled = true;
+        return;
     }
+    std::optional<Journal> journal = readJournal();
+    if (!journal) {
+        return;
+    }
+    FileTransaction transaction(m_files, m_paths, std::move(*journal));
+    result->isResolved = resolve(transaction);
+    result->isSettled = result->isResolved || transaction.isSettled();
+    if (!result->isSettled) {
+        m_files.add(transaction.states());
+    }
+}
+
+Recovery::Result Recovery::look()
+{
+    std::optional<Journal> journal = readJournal();
+    if (!journal) {
+        return {};
+    }
+    FileTransaction transaction(m_files, m_paths, std::move(*journal));
+    if (transaction.isSettled()) {
+        return {false, true, {}};
+    }
+    m_files.fail(m_paths.design(), QStringLiteral("was being written when that was interrupted, which can "
+                                                  "now be neither completed nor taken back"));
+    m_files.add(transaction.states());
+    return {};
+}
+
+std::optional<Journal> Recovery::readJournal()
+{
     QString why;
     std::optional<Journal> journal = Journal::read(m_paths, &why);
     if (!journal) {
-        return m_files.fail(m_paths.journal(),
-                            QStringLiteral("tells of an interrupted write, but cannot be used: ") + why +
-                                QStringLiteral(". Nothing was touched. Check the files of the design, then "
-                                               "delete this one"));
+        m_files.fail(m_paths.journal(),
+                     QStringLiteral("tells of an interrupted write, but cannot be used: ") + why +
+                         QStringLiteral(". Nothing was touched. Check the files of the design, then "
+                                        "delete this one"));
     }
-    FileTransaction transaction(m_files, m_paths, std::move(*journal));
-    return resolve(transaction);
+    return journal;
 }
 
 bool Recovery::resolve(FileTransaction &transaction)
@@ -70,7 +104,7 @@ bool Recovery::resolve(FileTransaction &transaction)
     case Way::None:
         break;
     }
-    return giveUp(transaction);
+    return giveUp();
 }
 
 bool Recovery::complete(FileTransaction &transaction)
@@ -108,26 +142,13 @@ bool Recovery::takeBack(FileTransaction &transaction)
     return true;
 }
 
-/// Some files are new, some are old, and neither way is open to all: the user must decide, and is told what
-/// each file holds.
-bool Recovery::giveUp(FileTransaction &transaction)
+/// Some files are new, some are old, and neither way is open to all: the user must decide.
+bool Recovery::giveUp()
 {
-    for (const JournalEntry &entry : transaction.journal().entries) {
-        const auto now = fingerprintOfPlainFile(entry.target);
-        const QString holds = now == entry.after    ? QStringLiteral("holds the new content")
-                              : now == entry.before ? QStringLiteral("holds the previous content")
-                                                    : QStringLiteral("was changed meanwhile");
-        const auto standsIn = [this](const QString &what, const QString &path) {
-            return m_files.exists(path) ? what + path : QString();
-        };
-        m_files.fail(entry.target,
-                     holds + standsIn(QStringLiteral("; the new content stands in "), entry.prepared) +
-                         standsIn(QStringLiteral("; the previous content stands in "), entry.saved));
-    }
     return m_files.fail(m_paths.design(),
                         QStringLiteral("a write was interrupted and files were changed since, so that it can "
                                        "neither be completed nor taken back. Nothing was touched. Bring the "
-                                       "files named above into order, then delete ") +
+                                       "files named here into order, then delete ") +
                             m_paths.journal());
 }
 
@@ -143,6 +164,10 @@ bool Recovery::checkNotOpen(const Journal &journal)
         if (const auto who = openElsewhere(path)) {
             closed = m_files.fail(path, QStringLiteral("a write was interrupted, but this file ") + *who);
         }
+    }
+    if (const auto open = openFromAbove(paths); open && closed) {
+        closed =
+            m_files.fail(open->file, QStringLiteral("a write was interrupted, but this file ") + open->text);
     }
     return closed;
 }

@@ -4,6 +4,8 @@
 
 #include "designs/transaction/filetransaction.h"
 
+#include <optional>
+
 namespace designs {
 
 /// Completes or takes back an interrupted transaction, so that all its files are old or all are new. A file
@@ -26,11 +28,15 @@ public:
     {
         /// Whether no interrupted transaction is left; otherwise the problems of the file operations say why.
         bool isResolved = false;
+        /// Whether no file is still to be replaced or restored: the files belong together.
+        bool isSettled = false;
         /// What was done, and which files were left alone.
         std::vector<Problem> actions;
     };
     /// With the lock taken.
     [[nodiscard]] Result run();
+    /// Without the lock, which cannot be had: only tells what the files hold, as problems.
+    [[nodiscard]] Result look();
 
 private:
     enum class Way
@@ -40,11 +46,12 @@ private:
         None
     };
 
-    bool resolveAny();
+    [[nodiscard]] std::optional<Journal> readJournal();
+    void resolveAny(Result *result);
     bool resolve(FileTransaction &transaction);
     bool complete(FileTransaction &transaction);
     bool takeBack(FileTransaction &transaction);
-    bool giveUp(FileTransaction &transaction);
+    bool giveUp();
     [[nodiscard]] bool checkNotOpen(const Journal &journal);
     [[nodiscard]] Way wayFor(FileTransaction &transaction);
     [[nodiscard]] bool canComplete(FileTransaction &transaction, const JournalEntry &entry);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/writecheck.h"
 
-#include "designs/transaction/designlock.h"
+#include "designs/transaction/kicadlock.h"
 
 #include <QFileInfo>
 
@@ -23,24 +23,32 @@ std::optional<std::vector<CheckedReplacement>> WriteCheck::run(std::span<const F
     for (const FileReplacement &file : files) {
         possible = checkFile(file, keepsBackups) && possible;
     }
-    possible = checkDesignClosed() && possible;
+    possible = checkDesignClosed(m_checked) && possible;
     possible = checkFolders(keepsBackups) && possible;
     return possible ? std::optional(std::move(m_checked)) : std::nullopt;
 }
 
 bool WriteCheck::areStillClosed(std::span<const CheckedReplacement> files)
 {
-    return checkDesignClosed() && std::ranges::all_of(files, [this](const auto &file) {
+    return checkDesignClosed(files) && std::ranges::all_of(files, [this](const auto &file) {
                return checkClosed(file.path, file.target);
            });
 }
 
-/// KiCad marks only the sheet that it was asked to open, but holds those below it in memory, too.
-bool WriteCheck::checkDesignClosed()
+/// Also when the files are open as part of a schematic above them, or below the design.
+bool WriteCheck::checkDesignClosed(std::span<const CheckedReplacement> checked)
 {
     const bool isReported = std::ranges::any_of(
         m_files.problems(), [this](const Problem &problem) { return problem.file == m_paths.named(); });
-    return isReported || checkClosed(m_paths.named(), m_paths.design());
+    if (isReported || !checkClosed(m_paths.named(), m_paths.design())) {
+        return isReported;
+    }
+    QStringList files{m_paths.named()};
+    for (const CheckedReplacement &file : checked) {
+        files << file.target;
+    }
+    const auto open = openFromAbove(files);
+    return !open || m_files.fail(open->file, open->text);
 }
 
 bool WriteCheck::checkClosed(const QString &path, const QString &target)
@@ -89,6 +97,9 @@ bool WriteCheck::checkKind(const FileReplacement &file, const QString &target)
             file.path, QStringLiteral("has %1 names (hard links), and writing would separate them: put a "
                                       "copy in its place, or work on the copy")
                            .arg(status.names));
+    }
+    if (!m_paths.isMember(target)) {
+        return m_files.fail(file.path, QStringLiteral("is no file of this design"));
     }
     return m_paths.mayHold(target) ||
            m_files.fail(file.path, QStringLiteral("lies outside the design's folder and is of another kind"));

@@ -31,7 +31,7 @@ public:
 
 private:
     bool checkClosed(const QString &path, const QString &target);
-    bool checkDesignClosed();
+    bool checkDesignClosed(std::span<const CheckedReplacement> checked);
     bool checkFile(const FileReplacement &file, bool keepsBackups);
     bool checkKind(const FileReplacement &file, const QString &target);
     bool checkWritable(const QString &path, const QString &target);

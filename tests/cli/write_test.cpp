@@ -166,6 +166,34 @@ TEST_F(Write, ReadOnlyDefinitionsMatterWhenLinksAreWritten)
     EXPECT_THAT(read(QStringLiteral("defs.ini")), HasSubstr("BOMLINKS"));
 }
 
+TEST_F(Write, FilesThatMayNotBelongTogetherAreReadOnlyWhenAskedFor)
+{
+    const QString journal = QStringLiteral(".amp.kicad_sch.bom-journal");
+    write(journal, R"({"version":1,"state":"committed","token":"0123456789abcdef","files":[{"file":)"
+                   R"("amp.kicad_sch","before":"1-00000000000000000000000000000000",)"
+                   R"("after":"2-00000000000000000000000000000000"}]})");
+    write(QStringLiteral("~amp.kicad_sch.lck"), "{}");
+    const std::string states = "bom: DIR/amp.kicad_sch: was changed meanwhile\n";
+    for (const char *command : {"report amp.kicad_sch", "parts amp.kicad_sch", "check amp.kicad_sch",
+                                "set amp.kicad_sch R1 MPN=A", "undo amp.kicad_sch"}) {
+        expectRefused(command, states, 3);
+    }
+    const ProgramRun result = run("parts amp.kicad_sch --as-is");
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_THAT(result.err, HasSubstr(states));
+    EXPECT_THAT(result.out, HasSubstr("R1"));
+}
+
+TEST_F(Write, WhatWasDoneIsToldWhereItCannotBePrinted)
+{
+    for (const char *command : {"set amp.kicad_sch R1 VALUE=4k7", "undo amp.kicad_sch"}) {
+        const ProgramRun result = run(command, QStringLiteral("/dev/full"));
+        EXPECT_EQ(result.status, 4) << command;
+        EXPECT_THAT(result.err, HasSubstr("all the same")) << command;
+    }
+    EXPECT_EQ(read(schematic), m_before);
+}
+
 TEST_F(Write, AReportAppliedAsItIsChangesNothing)
 {
     (void)done("report amp.kicad_sch --allow-duplicates --full-csv full.csv --csv lines.csv");
@@ -253,6 +281,7 @@ TEST_F(Write, ApplyRefusesWhatItDoesNotUnderstandWithItsLine)
         {"References,Value\nR1,10k,x\n", "edits.csv:2: there is a text behind the last column"},
         {"References,COST\nR1,cheap\n", "edits.csv:2: R1, COST: \"cheap\""},
         {"References,Value\nC7,5u\n", "C7, VALUE: several symbols"},
+        {"References,Value\nR1,\" \"\n", "R1, VALUE: a part cannot be without a value"},
         {"References,Value\nR1,\n",
          "edits.csv:2: R1, VALUE: a part cannot be without a value (DIR/amp.kicad_sch:"},
     };

@@ -68,7 +68,11 @@ protected:
 
     [[nodiscard]] DesignFiles files(FileSystem *system = nullptr)
     {
-        return DesignFiles(path(names[0]), system ? system : &m_system);
+        QStringList members;
+        for (const char *name : names) {
+            members << path(name);
+        }
+        return {path(names[0]), members, system ? system : &m_system};
     }
     /// Brings all files to a version; the problems.
     std::string replace(int version, Backups backups = Backups::Keep)
@@ -76,7 +80,11 @@ protected:
         return joined(files().replace(replacements(version), backups).problems);
     }
     std::string undo() { return joined(files().undo().problems); }
-    std::string recover() { return joined(files().recover()); }
+    std::string recover()
+    {
+        const RecoveryResult result = files().recover();
+        return joined(result.actions) + joined(result.problems);
+    }
     void removeBackups() const { QDir(path("board-backup")).removeRecursively(); }
 
     /// The version that all files have; -1 for a mixture.
@@ -145,7 +153,7 @@ protected:
 
 TEST_F(DesignFilesTest, ReplacesAllFilesKeepsBackupsAndTakesBackOnce)
 {
-    const DesignFiles design(path(names[0]));
+    const DesignFiles design = files();
     EXPECT_FALSE(design.canUndo());
     EXPECT_EQ(joined(design.check(replacements(1))), "");
     EXPECT_EQ(joined(design.replace(replacements(1), Backups::Keep).problems), "");
@@ -182,6 +190,15 @@ TEST_F(DesignFilesTest, RefusesWhatWouldLoseOthersWork)
                 HasSubstr("board.kicad_sch: is open in KiCad (somebody)"));
     EXPECT_EQ(files().check(planned).size(), 1U);
     QFile::remove(path("~board.kicad_sch.lck"));
+
+    // A schematic above the design that KiCad has open, found through what it names; another one is not.
+    put("top.kicad_sch", R"((sheet (property "Sheetfile" "sub/../board.kicad_sch")))");
+    put("~top.kicad_sch.lck", R"({"username":"anna"})");
+    expectRefused("board.kicad_sch: belongs to ");
+    put("top.kicad_sch", R"((sheet (property "Sheetfile" "elsewhere.kicad_sch")))");
+    EXPECT_EQ(joined(files().check(planned)), "");
+    QFile::remove(path("~top.kicad_sch.lck"));
+    QFile::remove(path("top.kicad_sch"));
 
     put(names[2], "changed");
     expectRefused("sub/a.kicad_sch: was changed since it was read");
@@ -223,15 +240,20 @@ TEST_F(DesignFilesTest, TakesBackOnlyWhatStandsAsItWasLeft)
     put(names[1], content(names[1], 1));
     put("board-backup/a.kicad_sch.bak", "damaged");
     EXPECT_THAT(undo(), HasSubstr("a.kicad_sch.bak: is missing or damaged"));
-    put("board-backup/board.kicad_sch.undo", R"({"version":1,"files":[{"file":"../../etc/passwd",)"
-                                             R"("before":"1-00000000000000000000000000000000",)"
-                                             R"("after":"1-00000000000000000000000000000000"}]})");
-    EXPECT_THAT(undo(), HasSubstr("files that are none of this design"));
+    put("other.kicad_sch", "other");
+    for (const char *foreign : {"../../etc/passwd", "other.kicad_sch"}) {
+        put("board-backup/board.kicad_sch.undo", std::string(R"({"version":1,"files":[{"file":")") + foreign +
+                                                     R"(","before":"1-00000000000000000000000000000000",)"
+                                                     R"("after":"1-00000000000000000000000000000000"}]})");
+        EXPECT_THAT(undo(), HasSubstr("files that are none of this design"));
+    }
     EXPECT_EQ(version(), 1);
 }
 
 TEST_F(DesignFilesTest, HostileJournalsAreRefused)
 {
+    // Names that are none of the design's, though the files are there and of the same kind.
+    put("other.kicad_sch", "other");
     const std::string fingerprint = R"("1-00000000000000000000000000000000")";
     const auto journal = [&](const std::string &file) {
         return R"({"version":1,"state":"committed","token":"0123456789abcdef","files":[{"file":")" + file +
@@ -240,7 +262,10 @@ TEST_F(DesignFilesTest, HostileJournalsAreRefused)
     for (const std::string &text :
          {std::string("\0\x01\xff", 3), std::string(), std::string("[]"), std::string(9U << 20U, ' '),
           journal("/etc/passwd"), journal("../../../../etc/passwd"), journal("sub/../a.kicad_sch"),
-          journal("")}) {
+          journal(""), journal("other.kicad_sch"),
+          R"({"version":1,"state":"taking back","token":"0123456789abcdef","backups":true,"files":[{"file":)"
+          R"("other.kicad_sch","before":)" +
+              fingerprint + R"(,"after":")" + fingerprintOf("other").toString().toStdString() + "\"}]}"}) {
         put(".board.kicad_sch.bom-journal", text);
         const std::string before = listing();
         EXPECT_THAT(recover(), HasSubstr("cannot be used")) << text.substr(0, 200);
@@ -385,6 +410,73 @@ TEST_F(DesignFilesTest, EveryFailureIsReportedAndLeavesAllOldOrAllNew)
             ASSERT_EQ(version(), 0);
         }
     }
+}
+
+/// The machine's file system, on which renames fail from one of them on, or something happens before one.
+class RenameSystem final : public PosixFileSystem
+{
+public:
+    explicit RenameSystem(int failsFrom, std::function<void(int)> before = {})
+        : m_failsFrom(failsFrom)
+        , m_before(std::move(before))
+    {
+    }
+    int rename(const QString &from, const QString &to) override
+    {
+        ++m_renames;
+        if (m_before) {
+            m_before(m_renames);
+        }
+        return m_failsFrom > 0 && m_renames >= m_failsFrom ? EIO : PosixFileSystem::rename(from, to);
+    }
+
+private:
+    int m_failsFrom;
+    int m_renames = 0;
+    std::function<void(int)> m_before;
+};
+
+TEST_F(DesignFilesTest, FailuresThatLastAreToldWithWhatEachFileHolds)
+{
+    int undecided = 0;
+    // Two renames of the journal come first, then those of the files and of their backups.
+    for (int rename = 1; rename <= 9; ++rename) {
+        SCOPED_TRACE(rename);
+        RenameSystem system(rename);
+        const TransactionResult result = files(&system).replace(replacements(1), Backups::Keep);
+        const int left = version();
+        (void)recover();
+        const int recovered = version();
+        if (result.isUndecided) {
+            ++undecided;
+            EXPECT_THAT(joined(result.problems), HasSubstr("sub/a.kicad_sch: holds the previous content"));
+            EXPECT_THAT(joined(result.problems), HasSubstr("next command that reads the design"));
+            EXPECT_EQ(recovered, 0) << "a restored content stands where the new one did";
+        } else {
+            EXPECT_EQ(left, result.replaced.isEmpty() ? 0 : 1);
+            EXPECT_EQ(recovered, left) << "what was said stays true";
+            EXPECT_EQ(result.problems.empty(), left == 1);
+        }
+        (void)undo();
+        removeBackups();
+        ASSERT_EQ(version(), 0);
+    }
+    EXPECT_EQ(undecided, 2) << "behind the first and behind the second file";
+}
+
+TEST_F(DesignFilesTest, WhatIsSavedWhileAWriteIsPreparedStays)
+{
+    RenameSystem system(0, [this](int rename) {
+        if (rename == 2) {
+            put(names[1], "mine");
+        }
+    });
+    const TransactionResult result = files(&system).replace(replacements(1), Backups::Keep);
+    EXPECT_THAT(joined(result.problems), HasSubstr("a.kicad_sch: was changed since it was read"));
+    EXPECT_EQ(get(names[0]) + get(names[1]), content(names[0], 0) + "mine");
+    put(names[1], content(names[1], 0));
+    EXPECT_EQ(version(), 0);
+    expectTidy();
 }
 
 /// A transaction that died with the first file in place and the others not.

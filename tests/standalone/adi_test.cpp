@@ -185,7 +185,7 @@ TEST_F(Batch, IsWrittenAndTheDesignReadAgain)
     EXPECT_EQ(before->value, QByteArrayView("10k")) << "records of the design before are still used";
 
     ASSERT_TRUE(session.canUndo());
-    EXPECT_EQ(session.undo(), (UndoResult{{path}, {}, false}));
+    EXPECT_EQ(session.undo(), (UndoResult{{path}, {}, {}, false}));
     EXPECT_EQ(content(), "Reference,Value\nR1,10k\n");
     EXPECT_EQ(cache.components.size(), 1U);
 }

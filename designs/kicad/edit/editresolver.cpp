@@ -111,7 +111,7 @@ void EditResolver::resolveProperty(const Edit &edit, ResolvedEdit *resolved)
         resolved->refusal = QStringLiteral("references are given by KiCad and cannot be changed here");
         return;
     }
-    if (resolved->name == "Value" && edit.value.value_or(std::string()).empty()) {
+    if (resolved->name == "Value" && fromUtf8(edit.value.value_or(std::string())).trimmed().isEmpty()) {
         resolved->refusal = QStringLiteral("a part cannot be without a value");
         return;
     }

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "standalone/settleddesign.h"
+
+#include "designs/formats/designreader.h"
+#include "designs/transaction/designfiles.h"
+#include "standalone/designwriter.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+/// Each write that overlaps the reading costs one.
+constexpr int attempts = 20;
+
+/// The file that stands for a design that cannot be read: of a project its root sheet.
+QString designFileOf(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.suffix().compare(QLatin1String("kicad_pro"), Qt::CaseInsensitive) == 0
+               ? info.absoluteDir().absoluteFilePath(info.completeBaseName() + QStringLiteral(".kicad_sch"))
+               : info.absoluteFilePath();
+}
+
+/// A design that lacks the variant that is asked for has its files all the same.
+designs::DesignFiles recoverableFiles(const QString &path, const designs::Design *design,
+                                      const OpenOptions &options)
+{
+    if (design) {
+        return filesOf(*design);
+    }
+    const designs::ReadResult drawn =
+        options.variant.isEmpty() ? designs::ReadResult() : designs::readDesign(path);
+    return drawn.design ? filesOf(*drawn.design) : designs::DesignFiles(designFileOf(path), {});
+}
+
+/// One attempt; false when another one may find more.
+bool readOnce(const QString &path, const OpenOptions &options, SettledDesign *result)
+{
+    designs::ReadResult read = designs::readDesign(path, {options.variant});
+    // In this order: when no write is under way after the reading, then one that overlapped it has ended, and
+    // left other contents than were read.
+    const designs::RecoveryResult recovered = recoverableFiles(path, read.design.get(), options).recover();
+    result->notices += messagesOf(recovered.actions);
+    const QStringList problems = messagesOf(recovered.problems);
+    if (!recovered.isSettled && !options.readsAsIs) {
+        result->errors = problems;
+        return true;
+    }
+    if (read.design && !read.design->changedFiles().isEmpty()) {
+        return false;
+    }
+    result->notices += problems;
+    if (!read.design) {
+        result->errors = result->notices << read.error.message();
+        return recovered.actions.empty();
+    }
+    result->design = std::move(read.design);
+    return true;
+}
+
+} // namespace
+
+SettledDesign readSettledDesign(const QString &path, const OpenOptions &options)
+{
+    SettledDesign result;
+    bool isDone = false;
+    for (int attempt = 0; attempt < attempts && !isDone; ++attempt) {
+        result.errors.clear();
+        isDone = readOnce(path, options, &result);
+    }
+    if (!isDone && result.errors.isEmpty()) {
+        result.errors << path + QStringLiteral(": is written again and again while it is read: try again "
+                                               "when that has ended");
+    }
+    result.notices.removeDuplicates();
+    return result;
+}

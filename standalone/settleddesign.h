@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "designs/design.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+/// How a design is opened.
+struct OpenOptions
+{
+    /// Empty for the design as drawn.
+    QString variant;
+    /// Files that may not belong together, because a write was interrupted, are read all the same.
+    bool readsAsIs = false;
+
+    bool operator==(const OpenOptions &) const = default;
+};
+
+/// A design, or why there is none.
+struct SettledDesign
+{
+    std::unique_ptr<const designs::Design> design;
+    /// "FILE:LINE: text" each: what was done about an interrupted write; and what is left of it, where the
+    /// design was read although.
+    QStringList notices;
+    /// Why there is no design.
+    QStringList errors;
+};
+
+/// Reads a design whose files belong together: an interrupted write is completed or taken back first, and one
+/// that overlaps the reading makes it read again.
+[[nodiscard]] SettledDesign readSettledDesign(const QString &path, const OpenOptions &options);
