@@ -198,6 +198,10 @@ std::optional<QByteArray> CsvFile::load(const QString &path, Problem *error, con
     if (info.size() > limits.fileBytes) {
         return fail(tooLarge(limits));
     }
+    // Some files of the system have no size, and reading them waits for ever.
+    if (info.size() == 0) {
+        return QByteArray();
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         return fail(QStringLiteral("the file cannot be opened: ") + file.errorString());

@@ -16,9 +16,10 @@ namespace {
 QByteArray beginning(const QString &path)
 {
     QFile file(path);
-    // A pipe would block.
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.read(64).trimmed()
-                                                                      : QByteArray();
+    // A pipe would block, as do some files of the system, which have no size.
+    const QFileInfo info(path);
+    return info.isFile() && info.size() > 0 && file.open(QIODevice::ReadOnly) ? file.read(64).trimmed()
+                                                                              : QByteArray();
 }
 
 bool isKicad(const QString &suffix, const QByteArray &start)

@@ -9,6 +9,9 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <cerrno>
+
+#include <unistd.h>
 
 namespace {
 
@@ -55,6 +58,14 @@ ReportFileResult writeReportFile(const QString &path, const QByteArray &bytes, Q
     if (isSpecialFile(path)) {
         QFile device(path);
         return write(device, QIODevice::Append, bytes, reason, [](QFile &file) { return file.flush(); });
+    }
+    // A link that leads nowhere but to itself would be replaced by the report.
+    const QByteArray name = QFile::encodeName(path);
+    if (QFileInfo(path).isSymLink() && ::access(name.constData(), F_OK) != 0 && errno == ELOOP) {
+        if (reason) {
+            *reason = qt_error_string(ELOOP);
+        }
+        return ReportFileResult::NotOpened;
     }
     QSaveFile file(path);
     return write(file, QIODevice::WriteOnly, bytes, reason, [](QSaveFile &saved) { return saved.commit(); });
