@@ -19,8 +19,6 @@ public:
 
     /// Takes an XHTML document, with the style sheet in its head. Nothing is shown before show().
     void setSource(const QString &xhtml);
-    /// False until a text was taken.
-    [[nodiscard]] bool hasSource() const { return !m_source.isEmpty(); }
     /// Makes the content from the source, if that was not done yet.
     void show();
     [[nodiscard]] bool isShown() const { return m_isShown; }
