@@ -167,11 +167,12 @@ void KicadDesign::fillInfo()
     m_info.created = resolved(root.title.date);
     m_info.author = fromProject(QLatin1String("AUTHOR"), resolved(root.title.company));
     m_info.documentNumber = fromProject(QLatin1String("DOCNO"), resolved(root.title.comments[0]));
+    constexpr qint64 nanosecondsPerMillisecond = 1'000'000;
+    qint64 modified = 0;
     for (const SheetFile &file : m_hierarchy->files()) {
-        if (!m_info.modified.isValid() || file.modified > m_info.modified) {
-            m_info.modified = file.modified;
-        }
+        modified = std::max(modified, file.stamp.modified);
     }
+    m_info.modified = QDateTime::fromMSecsSinceEpoch(modified / nanosecondsPerMillisecond);
 }
 
 Side KicadDesign::placement(std::string_view reference) const

@@ -5,7 +5,7 @@
 #include "designs/component.h"
 #include "designs/filefingerprint.h"
 
-#include <QDateTime>
+#include <QHash>
 #include <QString>
 
 #include <optional>
@@ -134,7 +134,6 @@ struct TitleBlock
 struct SheetFile
 {
     QString path;
-    QDateTime modified;
     /// Of the content that was read.
     FileFingerprint fingerprint;
     FileStamp stamp;

@@ -130,13 +130,11 @@ LoadedSheet SheetLoader::read(const QString &path, int thread)
 {
     FileBuffer &buffer = m_buffers[std::size_t(thread)];
     LoadedSheet loaded;
-    const QFileInfo info(path);
     if (Problem problem; !buffer.read(path, "(kicad_sch", &problem)) {
         loaded.problem = problem;
         return loaded;
     }
     loaded.sheet.path = path;
-    loaded.sheet.modified = info.lastModified();
     loaded.sheet.fingerprint = buffer.fingerprint();
     loaded.sheet.stamp = buffer.stamp();
     for (const std::string &name : m_knownNames) {
