@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "designs/filebuffer.h"
 
+#include "files/regularfile.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -35,8 +37,9 @@ bool FileBuffer::read(const QString &path, std::string_view start, Problem *prob
         return refuse(QStringLiteral("this is a device or pipe, not a file"));
     }
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        return refuse(QStringLiteral("cannot be read: ") + file.errorString());
+    QString reason;
+    if (!openRegularFile(&file, QIODevice::ReadOnly | QIODevice::Unbuffered, &reason)) {
+        return refuse(QStringLiteral("cannot be read: ") + reason);
     }
     m_stamp = FileStamp::of(file.handle());
     const qint64 size = file.size();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "designs/filefingerprint.h"
 
+#include "files/regularfile.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -92,16 +94,16 @@ FileFingerprint fingerprintOf(std::string_view bytes)
 std::optional<FileFingerprint> fingerprintOfFile(const QString &path)
 {
     QFile file(path);
-    // Opening a pipe would wait for its other end.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+    QString reason;
+    if (!openRegularFile(&file, QIODevice::ReadOnly | QIODevice::Unbuffered, &reason)) {
         return std::nullopt;
     }
     const std::unique_ptr<XXH3_state_t, StateDeleter> state(XXH3_createState());
     XXH3_128bits_reset(state.get());
     QByteArray block(blockSize, Qt::Uninitialized);
-    quint64 size = 0;
-    for (;;) {
-        const qint64 got = file.read(block.data(), block.size());
+    qint64 size = 0;
+    for (const qint64 wanted = file.size(); size < wanted;) {
+        const qint64 got = file.read(block.data(), std::min(qint64(block.size()), wanted - size));
         if (got < 0) {
             return std::nullopt;
         }
@@ -109,10 +111,10 @@ std::optional<FileFingerprint> fingerprintOfFile(const QString &path)
             break;
         }
         XXH3_128bits_update(state.get(), block.constData(), std::size_t(got));
-        size += quint64(got);
+        size += got;
     }
     const XXH128_hash_t hash = XXH3_128bits_digest(state.get());
-    return FileFingerprint{size, hash.high64, hash.low64};
+    return FileFingerprint{quint64(size), hash.high64, hash.low64};
 }
 
 } // namespace designs

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/notesfile.h"
 
+#include "files/regularfile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -24,12 +26,10 @@ struct Form
 /// The byte-order mark and line ends of the present file, by its first line.
 Form formOf(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    const QByteArray line = file.readLine(largestNotes);
-    return {line.startsWith(byteOrderMark), line.endsWith("\r\n")};
+    QString reason;
+    const QByteArray text = contentOfRegularFile(path, largestNotes, &reason).value_or(QByteArray());
+    const QByteArray line = text.left(text.indexOf('\n') + 1);
+    return {text.startsWith(byteOrderMark), line.endsWith("\r\n")};
 }
 
 QByteArray bytesOf(QString text, Form form)
@@ -54,7 +54,10 @@ bool removeFile(const QString &path, QString *reason)
 bool saveFile(const QString &path, const QByteArray &bytes, QString *reason)
 {
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) {
+    if (!openForReplacing(&file, QIODevice::WriteOnly, reason)) {
+        return false;
+    }
+    if (file.write(bytes) == bytes.size() && file.commit()) {
         return true;
     }
     *reason = file.errorString();
@@ -77,11 +80,11 @@ bool keepContent(const QString &path, const QString &backup, QString *reason)
     if (!file.exists()) {
         return true;
     }
-    if (!file.open(QIODevice::ReadOnly)) {
-        *reason = file.errorString();
+    if (!openRegularFile(&file, QIODevice::ReadOnly, reason)) {
         return false;
     }
-    const bool isKept = QDir().mkpath(QFileInfo(backup).path()) && saveFile(backup, file.readAll(), reason);
+    const bool isKept =
+        QDir().mkpath(QFileInfo(backup).path()) && saveFile(backup, file.read(file.size()), reason);
     if (!isKept) {
         *reason = QStringLiteral("the previous notes cannot be kept in ") + backup +
                   (reason->isEmpty() ? QString() : QStringLiteral(": ") + *reason);
@@ -100,16 +103,16 @@ NotesFile readNotesFile(const QString &path)
     if (!info.isFile()) {
         return {{}, QStringLiteral("is no file")};
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return {{}, file.errorString()};
+    QString reason;
+    const std::optional<QByteArray> bytes = contentOfRegularFile(path, largestNotes, &reason);
+    if (!bytes) {
+        return {{}, reason};
     }
-    const QByteArray bytes = file.read(largestNotes + 1);
-    if (bytes.size() > largestNotes) {
+    if (bytes->size() > largestNotes) {
         return {{}, QStringLiteral("is larger than 16 MB")};
     }
     QStringDecoder decoder(QStringDecoder::Utf8);
-    QString text = decoder(bytes);
+    QString text = decoder(*bytes);
     if (decoder.hasError()) {
         return {{}, QStringLiteral("is no UTF-8 text")};
     }

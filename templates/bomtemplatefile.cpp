@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "templates/bomtemplatefile.h"
 
+#include "files/regularfile.h"
 #include "templates/variantxml.h"
 
+#include <QBuffer>
 #include <QDebug>
 #include <QDir>
-#include <QFile>
 #include <QSaveFile>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
@@ -49,12 +50,15 @@ bool readRoot(QXmlStreamReader &reader, BOMTemplateDocument &document)
 
 std::optional<BOMTemplateDocument> BOMTemplateFile::readXmlFile(QString *problem) const
 {
-    QFile file(m_filePath);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *problem = located(file.errorString());
+    QString reason;
+    std::optional<QByteArray> bytes = contentOfRegularFile(m_filePath, MaximumSize, &reason);
+    if (!bytes) {
+        *problem = located(reason);
         return std::nullopt;
     }
-    return readDocument(file, problem);
+    QBuffer buffer(&*bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return readDocument(buffer, problem);
 }
 
 std::optional<BOMTemplateDocument> BOMTemplateFile::readDocument(QIODevice &device, QString *problem) const
@@ -86,8 +90,12 @@ bool BOMTemplateFile::writeXmlFile(const QVariantMap &map, QString *problem) con
         return false;
     }
     QSaveFile file(m_filePath);
-    const bool isWritten = file.open(QIODevice::WriteOnly | QIODevice::Text) &&
-                           writeDocument(file, map, problem) && file.commit();
+    QString reason;
+    if (!openForReplacing(&file, QIODevice::WriteOnly | QIODevice::Text, &reason)) {
+        *problem = located(reason);
+        return false;
+    }
+    const bool isWritten = writeDocument(file, map, problem) && file.commit();
     if (file.error() != QFileDevice::NoError)
         *problem = located(file.errorString());
     return isWritten;

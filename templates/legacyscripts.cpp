@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "templates/legacyscripts.h"
 
+#include "files/regularfile.h"
+
 #ifdef Q_OS_WIN
 #include <QDir>
 #endif
-#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QMap>
@@ -119,24 +120,15 @@ std::optional<QByteArray> bytesOf(const QString &path, QString *reason)
         *reason = QStringLiteral("there is no such file");
         return std::nullopt;
     }
-    if (!QFileInfo(path).isFile()) {
-        *reason = QStringLiteral("this is no ordinary file");
+    std::optional<QByteArray> bytes = contentOfRegularFile(path, mostLegacyScriptBytes, reason);
+    if (!bytes) {
         return std::nullopt;
     }
-    QFile file(path);
-    QByteArray bytes;
-    if (file.open(QIODevice::ReadOnly)) {
-        bytes = file.read(mostLegacyScriptBytes + 1);
-    }
-    if (file.error() != QFileDevice::NoError) {
-        *reason = file.errorString();
-        return std::nullopt;
-    }
-    if (bytes.size() > mostLegacyScriptBytes) {
+    if (bytes->size() > mostLegacyScriptBytes) {
         *reason = QStringLiteral("the file is larger than 4 MiB, the most that BOM scripts may have");
         return std::nullopt;
     }
-    if (bytes.contains('\0')) {
+    if (bytes->contains('\0')) {
         *reason = QStringLiteral("the file is no text");
         return std::nullopt;
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "templates/oldhtmltemplate.h"
 
+#include "files/regularfile.h"
 #include "host/framework/hostui.h"
 #include "richtext/xhtml/tidylibwrapper.h"
 #include "richtext/xhtml/xhtmlparts.h"
@@ -72,21 +73,21 @@ OldHtmlTemplate readOldHtmlTemplate(const QString &path)
         qDebug("BOM: load of HTML template with no name attempted.");
         return {};
     }
-    QFile file(path);
-    if (!file.exists()) {
+    if (!QFile::exists(path)) {
         return {};
     }
-    if (!file.open(QIODevice::ReadOnly)) {
-        logError(file.errorString());
+    QString reason;
+    const std::optional<QByteArray> bytes = contentOfRegularFile(path, largest, &reason);
+    if (!bytes) {
+        logError(reason);
         return {};
     }
-    const QByteArray bytes = file.read(largest + 1);
-    if (bytes.size() > largest) {
+    if (bytes->size() > largest) {
         logError(tr("The file is too large."));
         return {};
     }
     TidyLibWrapper tidy;
-    const QString xhtml = tidy.tidyHtml(QString::fromUtf8(bytes));
+    const QString xhtml = tidy.tidyHtml(QString::fromUtf8(*bytes));
     if (!tidy.errorString().isEmpty()) {
         logError(tidy.errorString());
         return {};

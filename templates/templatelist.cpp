@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "templates/templatelist.h"
 
+#include "files/regularfile.h"
 #include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
 
@@ -29,13 +30,7 @@ std::unique_ptr<QSettings> openLegacySettings()
 
 std::optional<QByteArray> contentOf(const QString &path, QString *reason)
 {
-    QFile file(path);
-    const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    if (file.error() != QFileDevice::NoError) {
-        *reason = file.errorString();
-        return std::nullopt;
-    }
-    return content;
+    return contentOfRegularFile(path, BOMTemplateFile::MaximumSize, reason);
 }
 
 std::optional<QByteArray> newDocument(const BOMTemplate &settings, QString *reason)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/csvfile.h"
 
+#include "files/regularfile.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -198,15 +200,12 @@ std::optional<QByteArray> CsvFile::load(const QString &path, Problem *error, con
     if (info.size() > limits.fileBytes) {
         return fail(tooLarge(limits));
     }
-    // Some files of the system have no size, and reading them waits for ever.
-    if (info.size() == 0) {
-        return QByteArray();
-    }
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return fail(QStringLiteral("the file cannot be opened: ") + file.errorString());
+    QString reason;
+    if (!openRegularFile(&file, QIODevice::ReadOnly, &reason)) {
+        return fail(QStringLiteral("the file cannot be opened: ") + reason);
     }
-    QByteArray bytes = file.readAll();
+    QByteArray bytes = file.read(file.size());
     if (file.error() != QFileDevice::NoError) {
         return fail(QStringLiteral("the file cannot be read: ") + file.errorString());
     }

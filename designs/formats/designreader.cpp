@@ -4,8 +4,8 @@
 
 #include "designs/csv/edit/editablepartlist.h"
 #include "designs/kicad/edit/editablekicaddesign.h"
+#include "files/regularfile.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace designs {
@@ -15,11 +15,8 @@ namespace {
 /// What stands at the beginning of a file, to tell files apart that carry the wrong name.
 QByteArray beginning(const QString &path)
 {
-    QFile file(path);
-    // A pipe would block, as do some files of the system, which have no size.
-    const QFileInfo info(path);
-    return info.isFile() && info.size() > 0 && file.open(QIODevice::ReadOnly) ? file.read(64).trimmed()
-                                                                              : QByteArray();
+    QString reason;
+    return contentOfRegularFile(path, 64, &reason).value_or(QByteArray()).trimmed();
 }
 
 bool isKicad(const QString &suffix, const QByteArray &start)

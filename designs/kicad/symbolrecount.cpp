@@ -4,6 +4,7 @@
 
 #include "designs/kicad/hierarchylimits.h"
 #include "designs/threads.h"
+#include "files/regularfile.h"
 
 #include <QDir>
 #include <QFile>
@@ -26,13 +27,15 @@ QString pathFrom(const QString &path, QString name, const QString &folder)
 SymbolRecount::File SymbolRecount::read(const QString &path, QByteArray *buffer)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        return {{}, file.errorString()};
+    QString reason;
+    if (!openRegularFile(&file, QIODevice::ReadOnly | QIODevice::Unbuffered, &reason)) {
+        return {{}, reason};
     }
-    buffer->resize(std::max(file.size(), qint64(buffer->size())));
+    const qint64 wanted = file.size();
+    buffer->resize(std::max(wanted, qint64(buffer->size())));
     qint64 size = 0;
     for (qint64 got = 1; got > 0; size += std::max<qint64>(got, 0)) {
-        got = file.read(buffer->data() + size, buffer->size() - size);
+        got = file.read(buffer->data() + size, wanted - size);
     }
     return {SymbolCounter({buffer->constData(), std::size_t(size)}).count(), QString()};
 }

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/kicadlock.h"
 
+#include "files/regularfile.h"
+
 #include <QByteArrayMatcher>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -13,6 +14,9 @@
 namespace designs {
 
 namespace {
+
+/// Larger ones are not read as designs.
+constexpr qint64 largestSchematic = qint64(2) * 1024 * 1024 * 1024 - 2;
 
 /// A name from the lock file as it can stand in a message.
 QString named(const QJsonObject &lock, QLatin1String key)
@@ -25,11 +29,8 @@ QString named(const QJsonObject &lock, QLatin1String key)
 QStringList sheetFilesIn(const QString &schematic, const QString &projectFolder)
 {
     static const QByteArrayMatcher end(".kicad_sch\"");
-    QFile file(schematic);
-    if (!QFileInfo(schematic).isFile() || !file.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    const QByteArray text = file.read(file.size());
+    QString reason;
+    const QByteArray text = contentOfRegularFile(schematic, largestSchematic, &reason).value_or(QByteArray());
     QStringList found;
     for (qsizetype at = end.indexIn(text); at >= 0; at = end.indexIn(text, at + 1)) {
         const qsizetype start = text.lastIndexOf('"', at) + 1;
@@ -87,11 +88,9 @@ std::optional<QString> openElsewhere(const QString &path)
     if (!lockInfo.exists() && !lockInfo.isSymLink()) {
         return std::nullopt;
     }
-    QJsonObject lock;
-    QFile file(lockPath);
-    if (lockInfo.isFile() && file.open(QIODevice::ReadOnly)) {
-        lock = QJsonDocument::fromJson(file.read(4096)).object();
-    }
+    QString reason;
+    const QByteArray text = contentOfRegularFile(lockPath, 4096, &reason).value_or(QByteArray());
+    const QJsonObject lock = QJsonDocument::fromJson(text).object();
     const QString user = named(lock, QLatin1String("username"));
     const QString host = named(lock, QLatin1String("hostname"));
     QString who = user.isEmpty() ? QStringLiteral("somebody") : user;

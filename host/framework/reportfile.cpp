@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/framework/reportfile.h"
 
+#include "files/regularfile.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -9,9 +11,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <cerrno>
-
-#include <unistd.h>
 
 namespace {
 
@@ -30,23 +29,12 @@ bool isSpecialFile(const QString &path)
     return info.exists() && !info.isFile() && !info.isDir();
 }
 
-ReportFileResult failed(ReportFileResult result, const QFileDevice &file, QString *reason)
-{
-    if (reason) {
-        *reason = file.errorString();
-    }
-    return result;
-}
-
 template<typename File, typename Finish>
-ReportFileResult write(File &file, QIODevice::OpenMode mode, const QByteArray &bytes, QString *reason,
-                       Finish finish)
+ReportFileResult write(File &file, const QByteArray &bytes, QString *reason, Finish finish)
 {
-    if (!file.open(mode | QIODevice::Text)) {
-        return failed(ReportFileResult::NotOpened, file, reason);
-    }
     if (file.write(bytes) != bytes.size() || !finish(file)) {
-        return failed(ReportFileResult::NotWritten, file, reason);
+        *reason = file.errorString();
+        return ReportFileResult::NotWritten;
     }
     return ReportFileResult::Written;
 }
@@ -55,20 +43,21 @@ ReportFileResult write(File &file, QIODevice::OpenMode mode, const QByteArray &b
 
 ReportFileResult writeReportFile(const QString &path, const QByteArray &bytes, QString *reason)
 {
+    QString unwanted;
+    reason = reason ? reason : &unwanted;
     if (isSpecialFile(path)) {
         QFile device(path);
-        return write(device, QIODevice::Append, bytes, reason, [](QFile &file) { return file.flush(); });
-    }
-    // A link that leads nowhere but to itself would be replaced by the report.
-    const QByteArray name = QFile::encodeName(path);
-    if (QFileInfo(path).isSymLink() && ::access(name.constData(), F_OK) != 0 && errno == ELOOP) {
-        if (reason) {
-            *reason = qt_error_string(ELOOP);
+        if (!device.open(QIODevice::Append | QIODevice::Text)) {
+            *reason = device.errorString();
+            return ReportFileResult::NotOpened;
         }
-        return ReportFileResult::NotOpened;
+        return write(device, bytes, reason, [](QFile &file) { return file.flush(); });
     }
     QSaveFile file(path);
-    return write(file, QIODevice::WriteOnly, bytes, reason, [](QSaveFile &saved) { return saved.commit(); });
+    if (!openForReplacing(&file, QIODevice::WriteOnly | QIODevice::Text, reason)) {
+        return ReportFileResult::NotOpened;
+    }
+    return write(file, bytes, reason, [](QSaveFile &saved) { return saved.commit(); });
 }
 
 QString reportFileMessage(ReportFileResult result, const QString &path, const QString &reason)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/propdefs/propdefsfile.h"
 
+#include "files/regularfile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -80,21 +82,8 @@ QString parseLine(const QString &line, PROPDEF *definition)
 /// The bytes of the file; nothing, with the reason in `wrong`, when it cannot be read or is too large.
 std::optional<QByteArray> contentOf(const QString &path, QString *wrong)
 {
-    if (!QFileInfo(path).isFile()) {
-        *wrong = QStringLiteral("this is no ordinary file");
-        return std::nullopt;
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *wrong = file.errorString();
-        return std::nullopt;
-    }
-    const QByteArray bytes = file.read(mostBytes + 1);
-    if (file.error() != QFileDevice::NoError) {
-        *wrong = file.errorString();
-        return std::nullopt;
-    }
-    if (bytes.size() > mostBytes) {
+    std::optional<QByteArray> bytes = contentOfRegularFile(path, mostBytes, wrong);
+    if (bytes && bytes->size() > mostBytes) {
         *wrong = QStringLiteral("the file is larger than 1 MiB, the most that definitions may have");
         return std::nullopt;
     }
@@ -249,7 +238,8 @@ bool save_defaultdefs(const PROPTEXT &text)
         return false;
     }
     QSaveFile file(theFile);
-    if (!file.open(QIODevice::WriteOnly)) {
+    QString reason;
+    if (!openForReplacing(&file, QIODevice::WriteOnly, &reason)) {
         return false;
     }
     const QByteArray bytes = text.toBytes();

@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "richtext/xhtml/embeddedimage.h"
 
+#include "files/regularfile.h"
+
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QImageReader>
 #include <QMimeDatabase>
 #include <QRegularExpression>
@@ -71,13 +72,12 @@ QImage readImage(QByteArray bytes, qint64 mostPixels)
 
 EmbeddedImage embeddedImage(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return refused(QT_TRANSLATE_NOOP("EmbeddedImage", "The file cannot be read: "), path,
-                       file.errorString());
+    QString reason;
+    std::optional<QByteArray> content = contentOfRegularFile(path, largest, &reason);
+    if (!content) {
+        return refused(QT_TRANSLATE_NOOP("EmbeddedImage", "The file cannot be read: "), path, reason);
     }
-    // One byte more tells a file that is too large, pipes included.
-    const QByteArray bytes = file.read(largest + 1);
+    const QByteArray &bytes = *content;
     if (bytes.size() > largest) {
         return refused(
             QT_TRANSLATE_NOOP("EmbeddedImage", "The image is larger than 2 MiB. Make it smaller first."),

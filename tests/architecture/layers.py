@@ -16,25 +16,27 @@ import tempfile
 
 # What each layer may include, itself aside. A file belongs to the longest of these paths that it lies below; the picture
 # is in docs/architecture.md.
+FILES = {"files"}
 HOST = {"host"}
 RICHTEXT = {"richtext/css", "richtext/xhtml", "richtext/paper", "richtext/editor"}
 FORMATS = {"designs/kicad", "designs/kicad/edit", "designs/csv", "designs/csv/edit"}
 REACH = {
-    "host": set(),
+    "files": set(),
+    "host": FILES,
     "richtext/css": set(),
-    "richtext/xhtml": {"richtext/css"},
+    "richtext/xhtml": {"richtext/css"} | FILES,
     "richtext/paper": {"richtext/css", "richtext/xhtml"} | HOST,
     "richtext/editor": RICHTEXT | HOST,
     # The model.
-    "designs": set(),
-    "designs/kicad": {"designs"},
+    "designs": FILES,
+    "designs/kicad": {"designs"} | FILES,
     "designs/kicad/edit": {"designs", "designs/kicad"},
-    "designs/csv": {"designs"},
+    "designs/csv": {"designs"} | FILES,
     "designs/csv/edit": {"designs", "designs/csv"},
-    "designs/formats": {"designs"} | FORMATS,
-    "designs/transaction": {"designs"},
-    "standalone": {"designs", "designs/formats", "designs/csv", "designs/transaction"} | HOST,
-    "templates": {"richtext/css", "richtext/xhtml"} | HOST,
+    "designs/formats": {"designs"} | FORMATS | FILES,
+    "designs/transaction": {"designs"} | FILES,
+    "standalone": {"designs", "designs/formats", "designs/csv", "designs/transaction"} | HOST | FILES,
+    "templates": {"richtext/css", "richtext/xhtml"} | HOST | FILES,
     "core": {"templates"} | HOST,
     "account/design": {"standalone"} | HOST,
     "account": {"account/design", "core", "templates", "standalone"} | HOST,
@@ -51,7 +53,7 @@ DESIGNS = {"designs", "designs/transaction"}
 THROUGH = {"account/design": DESIGNS, "account": DESIGNS, "cli": DESIGNS, "app": DESIGNS}
 # Layers, or folders of one, that do without Qt's widgets.
 NO_WIDGETS = {
-    "designs", "standalone", "templates", "core", "account", "views/report", "host/framework", "host/netlist",
+    "files", "designs", "standalone", "templates", "core", "account", "views/report", "host/framework", "host/netlist",
     "host/propdefs",
 }
 WIDGET_HEADER = re.compile(

@@ -9,6 +9,8 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 namespace {
 
 using testing::HasSubstr;
@@ -95,11 +97,32 @@ TEST_F(Usage, AnInputThatCannotBeReadIsNamedAndStatusThree)
     }
 }
 
+/// None of these ends when it is read, or begins.
+TEST_F(Usage, AnInputThatIsNoFileIsNamedAndNotWaitedFor)
+{
+    write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path(QStringLiteral("pipe"))).constData(), 0600), 0);
+    const QString link = path(QStringLiteral("link"));
+    for (const QString &target : {path(QStringLiteral("pipe")), QStringLiteral("/proc/kmsg"), link}) {
+        QFile::remove(link);
+        ASSERT_TRUE(QFile::link(target, link));
+        for (const char *command : {"report link", "apply a.csv link", "report a.csv --propdefs link",
+                                    "report a.csv --template ./link", "template import link",
+                                    "template import ./link --script x"}) {
+            const ProgramRun result = run(command);
+            EXPECT_THAT(result.status, testing::AnyOf(2, 3)) << command << ' ' << qPrintable(target);
+            EXPECT_THAT(result.err, HasSubstr("link")) << command;
+            EXPECT_EQ(result.out, "") << command;
+        }
+    }
+}
+
 TEST_F(Usage, AnOutputThatCannotBeWrittenIsNamedAndStatusFour)
 {
     write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
     ASSERT_TRUE(QDir(path(QString())).mkdir(QStringLiteral("folder")));
-    for (const char *output : {"/nonexistent/x.csv", "/dev/full", "folder"}) {
+    ASSERT_TRUE(QFile::link(QStringLiteral("loop"), path(QStringLiteral("loop"))));
+    for (const char *output : {"/nonexistent/x.csv", "/dev/full", "folder", "loop"}) {
         for (const char *option : {"--csv", "--full-csv", "--ascii", "--html", "--pdf", "--xlsx", "--json"}) {
             const std::string arguments = std::string("report a.csv ") + option + ' ' + output;
             const ProgramRun result = run(arguments.c_str());
