@@ -9,6 +9,9 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 /// Each write that overlaps the reading costs one.
@@ -35,13 +38,32 @@ designs::DesignFiles recoverableFiles(const QString &path, const designs::Design
     return drawn.design ? filesOf(*drawn.design) : designs::DesignFiles(designFileOf(path), {});
 }
 
-/// One attempt; false when another one may find more.
-bool readOnce(const QString &path, const OpenOptions &options, SettledDesign *result)
+/// Puts right what was interrupted, also in other designs that have files in common with this one.
+designs::RecoveryResult recoverAll(const QString &path, const designs::Design *design,
+                                   const OpenOptions &options)
 {
-    designs::ReadResult read = designs::readDesign(path, {options.variant});
+    designs::RecoveryResult all = recoverableFiles(path, design, options).recover();
+    const QStringList others =
+        design ? designs::interruptedDesignsAround(design->info().file, design->files()) : QStringList();
+    for (const QString &other : others) {
+        const designs::ReadResult read = designs::readDesign(other);
+        const designs::RecoveryResult recovered =
+            read.design ? filesOf(*read.design).recover() : designs::DesignFiles(other, {}).recover();
+        std::ranges::copy(recovered.actions, std::back_inserter(all.actions));
+        std::ranges::copy(recovered.problems, std::back_inserter(all.problems));
+        all.isSettled = all.isSettled && recovered.isSettled;
+    }
+    return all;
+}
+
+/// One attempt; false when another one may find more.
+bool readOnce(const QString &path, const OpenOptions &options, const DesignReader &reader,
+              SettledDesign *result)
+{
+    designs::ReadResult read = reader(path, {options.variant});
     // In this order: when no write is under way after the reading, then one that overlapped it has ended, and
     // left other contents than were read.
-    const designs::RecoveryResult recovered = recoverableFiles(path, read.design.get(), options).recover();
+    const designs::RecoveryResult recovered = recoverAll(path, read.design.get(), options);
     result->notices += messagesOf(recovered.actions);
     const QStringList problems = messagesOf(recovered.problems);
     if (!recovered.isSettled && !options.readsAsIs) {
@@ -64,11 +86,16 @@ bool readOnce(const QString &path, const OpenOptions &options, SettledDesign *re
 
 SettledDesign readSettledDesign(const QString &path, const OpenOptions &options)
 {
+    return readSettledDesign(path, options, designs::readDesign);
+}
+
+SettledDesign readSettledDesign(const QString &path, const OpenOptions &options, const DesignReader &reader)
+{
     SettledDesign result;
     bool isDone = false;
     for (int attempt = 0; attempt < attempts && !isDone; ++attempt) {
         result.errors.clear();
-        isDone = readOnce(path, options, &result);
+        isDone = readOnce(path, options, reader, &result);
     }
     if (!isDone && result.errors.isEmpty()) {
         result.errors << path + QStringLiteral(": is written again and again while it is read: try again "

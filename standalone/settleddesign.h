@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 /// How a design is opened.
@@ -32,5 +33,11 @@ struct SettledDesign
 };
 
 /// Reads a design whose files belong together: an interrupted write is completed or taken back first, and one
-/// that overlaps the reading makes it read again.
+/// that overlaps the reading makes it read again, up to 20 times.
 [[nodiscard]] SettledDesign readSettledDesign(const QString &path, const OpenOptions &options);
+
+/// What reads a design once.
+using DesignReader =
+    std::function<designs::ReadResult(const QString &path, const designs::ReadOptions &options)>;
+[[nodiscard]] SettledDesign readSettledDesign(const QString &path, const OpenOptions &options,
+                                              const DesignReader &reader);

@@ -6,6 +6,9 @@
 #include "designs/transaction/recovery.h"
 #include "designs/transaction/writecheck.h"
 
+#include <QFileInfo>
+#include <QSet>
+
 namespace designs {
 
 namespace {
@@ -188,6 +191,30 @@ bool DesignFiles::canUndo() const
 {
     FileOperations operations(*m_system);
     return operations.exists(m_paths.record());
+}
+
+QStringList interruptedDesignsAround(const QString &design, const QStringList &files)
+{
+    QSet<QString> targets;
+    QStringList folders;
+    for (const QString &file : files) {
+        targets.insert(QFileInfo(file).canonicalFilePath());
+        folders << folderOf(QFileInfo(file).canonicalFilePath());
+        folders << folderOf(folders.back());
+    }
+    folders.removeDuplicates();
+    const QString own = DesignPaths(design).design();
+    QStringList found;
+    for (const QString &folder : std::as_const(folders)) {
+        for (const QString &name : DesignPaths::designsWithJournals(folder)) {
+            const DesignPaths paths(name);
+            if (paths.design() != own && Journal::names(paths, targets)) {
+                found << paths.design();
+            }
+        }
+    }
+    found.removeDuplicates();
+    return found;
 }
 
 } // namespace designs

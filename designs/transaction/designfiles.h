@@ -83,4 +83,8 @@ private:
     FileSystem *m_system;
 };
 
+/// Other designs whose interrupted write concerns these files, too: their journals stand in the folders of
+/// the files, or one above.
+[[nodiscard]] QStringList interruptedDesignsAround(const QString &design, const QStringList &files);
+
 } // namespace designs

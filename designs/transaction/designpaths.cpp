@@ -5,12 +5,15 @@
 #include "designs/filefingerprint.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
 namespace designs {
 
 namespace {
+
+const QString journalEnd = QStringLiteral(".bom-journal");
 
 /// What most file systems take for a name.
 constexpr qsizetype longestName = 255;
@@ -39,7 +42,21 @@ DesignPaths::DesignPaths(const QString &design, const QStringList &members)
 
 QString DesignPaths::journal() const
 {
-    return m_folder + QStringLiteral("/.") + m_name + QStringLiteral(".bom-journal");
+    return m_folder + QStringLiteral("/.") + m_name + journalEnd;
+}
+
+QStringList DesignPaths::designsWithJournals(const QString &folder)
+{
+    QStringList designs;
+    // Nothing is asked about the single files: a folder may hold many.
+    QDirIterator names(folder, {QStringLiteral(".*") + journalEnd},
+                       QDir::AllEntries | QDir::Hidden | QDir::System);
+    while (names.hasNext()) {
+        names.next();
+        designs << folder + u'/' + names.fileName().sliced(1).chopped(journalEnd.size());
+    }
+    designs.sort();
+    return designs;
 }
 
 QString DesignPaths::newJournal() const

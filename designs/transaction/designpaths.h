@@ -22,6 +22,8 @@ public:
     [[nodiscard]] const QString &folder() const { return m_folder; }
     /// What an interrupted write left to do.
     [[nodiscard]] QString journal() const;
+    /// The designs beside which a journal stands in a folder.
+    [[nodiscard]] static QStringList designsWithJournals(const QString &folder);
     /// The journal before it counts.
     [[nodiscard]] QString newJournal() const;
     [[nodiscard]] QString lock() const;

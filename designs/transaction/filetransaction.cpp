@@ -27,6 +27,7 @@ FileTransaction::FileTransaction(FileOperations &files, const DesignPaths &paths
     : m_files(files)
     , m_paths(paths)
     , m_journal(std::move(journal))
+    , m_wasInterrupted(true)
 {
 }
 
@@ -118,11 +119,12 @@ bool FileTransaction::commit()
     return saveJournal(Journal::State::Committed);
 }
 
-/// Files that an interrupted run placed already are passed over.
+/// Files that an interrupted run placed already are passed over, changed since or not.
 bool FileTransaction::place()
 {
     for (const JournalEntry &entry : m_journal.entries) {
-        if (!isPlaced(entry) && !placeFile(entry)) {
+        const bool isPassedOver = m_wasInterrupted && isPlaced(entry);
+        if (!isPassedOver && !placeFile(entry)) {
             return false;
         }
     }

@@ -77,6 +77,7 @@ private:
     FileOperations &m_files;
     const DesignPaths &m_paths;
     Journal m_journal;
+    bool m_wasInterrupted = false;
 };
 
 } // namespace designs

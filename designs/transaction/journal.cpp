@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/journal.h"
 
+#include "files/regularfile.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -18,7 +20,7 @@ namespace {
 
 constexpr qint64 longestRecord = qint64(8) * 1024 * 1024;
 
-/// Nothing else is opened: a pipe would make the program wait for its other end.
+/// Links lead to files that are none of the design.
 bool isPlainFile(const QString &path)
 {
     return QFileInfo(path).isFile() && !QFileInfo(path).isSymLink();
@@ -76,7 +78,6 @@ std::optional<std::vector<RecordedReplacement>> replacementsFrom(const QJsonArra
 /// or is far too large.
 std::optional<QJsonObject> readRecord(const DesignPaths &paths, const QString &path, QString *why)
 {
-    QFile file(path);
     // Backups would be put into another folder, over files of the same names.
     if (QFileInfo(paths.backupFolder()).isSymLink()) {
         *why = paths.backupFolder() + QStringLiteral(" is a symbolic link");
@@ -86,16 +87,17 @@ std::optional<QJsonObject> readRecord(const DesignPaths &paths, const QString &p
         *why = QStringLiteral("it is no ordinary file");
         return std::nullopt;
     }
-    if (!file.open(QIODevice::ReadOnly)) {
-        *why = QStringLiteral("it cannot be read: ") + file.errorString();
+    QString reason;
+    const std::optional<QByteArray> bytes = contentOfRegularFile(path, longestRecord, &reason);
+    if (!bytes) {
+        *why = QStringLiteral("it cannot be read: ") + reason;
         return std::nullopt;
     }
-    const QByteArray bytes = file.read(longestRecord + 1);
-    if (bytes.size() > longestRecord) {
+    if (bytes->size() > longestRecord) {
         *why = QStringLiteral("it is too large");
         return std::nullopt;
     }
-    const QJsonObject object = QJsonDocument::fromJson(bytes).object();
+    const QJsonObject object = QJsonDocument::fromJson(*bytes).object();
     if (object.value(QLatin1String("version")).toInt() != 1) {
         *why = QStringLiteral("it is damaged or of another version");
         return std::nullopt;
@@ -156,6 +158,17 @@ std::optional<Journal> Journal::read(const DesignPaths &paths, QString *why)
     return journal;
 }
 
+bool Journal::names(const DesignPaths &paths, const QSet<QString> &files)
+{
+    QString why;
+    const std::optional<QJsonObject> object = readRecord(paths, paths.journal(), &why);
+    const QJsonArray named = object ? object->value(QLatin1String("files")).toArray() : QJsonArray();
+    return std::ranges::any_of(named, [&](const QJsonValue &value) {
+        const QString file = value.toObject().value(QLatin1String("file")).toString();
+        return files.contains(paths.resolved(file));
+    });
+}
+
 QByteArray UndoRecord::toJson(const DesignPaths &paths) const
 {
     return QJsonDocument(QJsonObject{{QStringLiteral("version"), 1},
@@ -185,11 +198,13 @@ std::optional<FileFingerprint> fingerprintOfPlainFile(const QString &path)
 std::optional<QByteArray> contentOfPlainFile(const QString &path, const FileFingerprint &expected)
 {
     QFile file(path);
+    QString reason;
     // Compare sizes before reading: another file in this place may be too large to read.
-    if (!isPlainFile(path) || quint64(file.size()) != expected.size || !file.open(QIODevice::ReadOnly)) {
+    if (!isPlainFile(path) || !openRegularFile(&file, QIODevice::ReadOnly, &reason) ||
+        quint64(file.size()) != expected.size) {
         return std::nullopt;
     }
-    QByteArray bytes = file.readAll();
+    QByteArray bytes = file.read(file.size());
     const bool same = fingerprintOf({bytes.constData(), std::size_t(bytes.size())}) == expected;
     return same ? std::optional(std::move(bytes)) : std::nullopt;
 }

@@ -6,6 +6,7 @@
 #include "designs/transaction/designpaths.h"
 
 #include <QByteArray>
+#include <QSet>
 #include <QString>
 
 #include <optional>
@@ -61,6 +62,10 @@ struct Journal
     [[nodiscard]] QByteArray toJson(const DesignPaths &paths) const;
     /// The journal of a design; nothing, with the reason in `why`, when it cannot be used.
     [[nodiscard]] static std::optional<Journal> read(const DesignPaths &paths, QString *why);
+
+    /// Whether the journal of a design, usable or not, names one of these files, given without symbolic
+    /// links.
+    [[nodiscard]] static bool names(const DesignPaths &paths, const QSet<QString> &files);
 
     /// See newRecord.
     [[nodiscard]] QString recordName(const DesignPaths &paths) const;

@@ -177,7 +177,8 @@ bool Recovery::checkNotOpen(const Journal &journal)
 Recovery::Way Recovery::wayFor(FileTransaction &transaction)
 {
     const auto &entries = transaction.journal().entries;
-    if (std::ranges::all_of(entries, [&](const auto &entry) { return canComplete(transaction, entry); })) {
+    if (std::ranges::all_of(entries, [&](const auto &entry) { return canComplete(transaction, entry); }) &&
+        std::ranges::any_of(entries, [&](const auto &entry) { return isKnownHere(entry); })) {
         return Way::Complete;
     }
     const bool back =
@@ -193,6 +194,16 @@ bool Recovery::canComplete(FileTransaction &transaction, const JournalEntry &ent
     }
     return (now == entry.before || now == entry.after) &&
            fingerprintOfPlainFile(entry.prepared) == entry.after;
+}
+
+/// Where no file holds what the journal says, it may have come with the folder from somewhere: that all files
+/// were replaced, and changed since, is not to be believed then.
+bool Recovery::isKnownHere(const JournalEntry &entry) const
+{
+    return fingerprintOfPlainFile(entry.target) == entry.after ||
+           fingerprintOfPlainFile(entry.prepared) == entry.after ||
+           fingerprintOfPlainFile(entry.saved) == entry.before ||
+           fingerprintOfPlainFile(m_paths.backupOf(entry.target)) == entry.before;
 }
 
 bool Recovery::canTakeBack(FileTransaction &transaction, const JournalEntry &entry)

@@ -55,6 +55,7 @@ private:
     [[nodiscard]] bool checkNotOpen(const Journal &journal);
     [[nodiscard]] Way wayFor(FileTransaction &transaction);
     [[nodiscard]] bool canComplete(FileTransaction &transaction, const JournalEntry &entry);
+    [[nodiscard]] bool isKnownHere(const JournalEntry &entry) const;
     [[nodiscard]] bool canTakeBack(FileTransaction &transaction, const JournalEntry &entry);
     void noteAction(const QString &file, const QString &text) { m_actions.push_back({file, 0, text}); }
 

@@ -182,6 +182,18 @@ TEST_F(Write, FilesThatMayNotBelongTogetherAreReadOnlyWhenAskedFor)
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_THAT(result.err, HasSubstr(states));
     EXPECT_THAT(result.out, HasSubstr("R1"));
+    // Without KiCad's lock nothing is completed either: no file holds what the journal says.
+    ASSERT_TRUE(QFile::remove(path(QStringLiteral("~amp.kicad_sch.lck"))));
+    for (const char *command : {"report amp.kicad_sch", "undo amp.kicad_sch"}) {
+        expectRefused(command, states, 3);
+    }
+    // Another design has the sheet, too.
+    write(QStringLiteral("top.kicad_sch"),
+          R"((kicad_sch (version 20231120) (uuid "t") (sheet (at 0 0) (size 9 9) (uuid "s")
+              (property "Sheetname" "Amp") (property "Sheetfile" "amp.kicad_sch"))))");
+    expectRefused("parts top.kicad_sch", states, 3);
+    EXPECT_EQ(run("parts top.kicad_sch --as-is").status, 0);
+    EXPECT_EQ(read(schematic), m_before);
 }
 
 TEST_F(Write, WhatWasDoneIsToldWhereItCannotBePrinted)

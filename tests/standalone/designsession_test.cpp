@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/designsession.h"
 
+#include "designs/formats/designreader.h"
 #include "standalone/environment.h"
 #include "standalone/loadeddesign.h"
 #include "tests/standalone/tabledesign.h"
@@ -50,6 +51,30 @@ TEST(DesignSession, IsTheInstalledHostWhileItLives)
     }
     EXPECT_EQ(getapplnprocess(), nullptr);
     EXPECT_EQ(getcdb(), nullptr);
+}
+
+TEST(DesignSession, ReadsAgainWhatIsWrittenDuringTheReading)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"list.csv"_s);
+    for (const auto &[writes, readings] : {std::pair{0, 1}, {3, 4}, {1000, 20}}) {
+        int read = 0;
+        const auto writingReader = [&](const QString &file, const designs::ReadOptions &options) {
+            designs::ReadResult result = designs::readDesign(file, options);
+            if (++read <= writes) {
+                writeFile(path, "Reference\nR" + QByteArray::number(read) + '\n');
+            }
+            return result;
+        };
+        writeFile(path, "Reference\nR0\n");
+        const SettledDesign settled = readSettledDesign(path, {}, writingReader);
+        EXPECT_EQ(read, readings);
+        EXPECT_EQ(settled.design != nullptr, writes < readings);
+        if (settled.design) {
+            EXPECT_EQ(settled.design->components().front().reference, "R" + std::to_string(writes));
+        }
+        EXPECT_EQ(settled.errors.join(u' ').contains(u"again and again"_s), !settled.design);
+    }
 }
 
 TEST(DesignSession, KeepsTheOpenDesignWhenAnotherCannotBeRead)
