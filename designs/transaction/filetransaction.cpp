@@ -240,7 +240,9 @@ bool FileTransaction::isSettled()
 {
     switch (m_journal.state) {
     case Journal::State::Preparing:
-        return true;
+        return std::ranges::none_of(m_journal.entries, [](const JournalEntry &entry) {
+            return entry.before != entry.after && fingerprintOfPlainFile(entry.target) == entry.after;
+        });
     case Journal::State::Committed:
         return allHold(&RecordedReplacement::after);
     case Journal::State::TakingBack:

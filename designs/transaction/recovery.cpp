@@ -83,7 +83,8 @@ std::optional<Journal> Recovery::readJournal()
 bool Recovery::resolve(FileTransaction &transaction)
 {
     const Journal &journal = transaction.journal();
-    if (journal.state == Journal::State::Preparing) {
+    // Where a file holds its new content all the same, the journal is not as it was written.
+    if (journal.state == Journal::State::Preparing && transaction.isSettled()) {
         noteAction(m_paths.design(),
                    QStringLiteral("a write was interrupted before it changed any file: what it "
                                   "had prepared was removed"));

@@ -526,6 +526,18 @@ TEST_F(InterruptedTransactionTest, WhatCannotBeDecidedStaysAndIsTold)
     EXPECT_THAT(replace(2), HasSubstr("neither be completed"));
 }
 
+TEST_F(InterruptedTransactionTest, AJournalThatDeniesWhatTheFilesHoldIsNotBelieved)
+{
+    interrupt(Backups::Keep);
+    std::string journal = get(".board.kicad_sch.bom-journal");
+    const std::string state = "committed";
+    journal.replace(journal.find(state), state.size(), "preparing");
+    put(".board.kicad_sch.bom-journal", journal);
+    EXPECT_THAT(recover(), HasSubstr("was completed"));
+    EXPECT_EQ(version(), 1);
+    expectTidy();
+}
+
 TEST_F(InterruptedTransactionTest, WaitsForWhoHasAFileOpen)
 {
     interrupt(Backups::Keep);
