@@ -25,8 +25,7 @@ NameId PropertyNames::intern(std::string_view name)
 
 void PropertyNames::setAlias(std::string_view alias, NameId id)
 {
-    const QByteArray &kept = m_storage.emplace_back(alias.data(), qsizetype(alias.size()));
-    m_aliases[{kept.constData(), std::size_t(kept.size())}] = id;
+    m_aliases[caseFolded(alias)] = id;
 }
 
 std::vector<NameId> PropertyNames::candidates(std::string_view name) const
@@ -40,10 +39,11 @@ std::vector<NameId> PropertyNames::candidates(std::string_view name) const
     if (const auto exact = m_ids.find(name); exact != m_ids.end()) {
         add(exact->second);
     }
-    if (const auto alias = m_aliases.find(name); alias != m_aliases.end()) {
+    const std::string folded = caseFolded(name);
+    if (const auto alias = m_aliases.find(folded); alias != m_aliases.end()) {
         add(alias->second);
     }
-    if (const auto twins = m_folded.find(caseFolded(name)); twins != m_folded.end()) {
+    if (const auto twins = m_folded.find(folded); twins != m_folded.end()) {
         std::for_each(twins->second.begin(), twins->second.end(), add);
     }
     return ids;

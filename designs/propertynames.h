@@ -24,7 +24,8 @@ public:
     [[nodiscard]] std::string_view name(NameId id) const { return m_names[id]; }
     [[nodiscard]] std::size_t size() const { return m_names.size(); }
 
-    /// The number whose name may also be asked for as `alias` (PACKAGE for the footprint).
+    /// The number whose name may also be asked for as `alias` (PACKAGE for the footprint), in any letter
+    /// case.
     void setAlias(std::string_view alias, NameId id);
 
     /// The names under which a property may be stored that is asked for as `name`, best first: the exact one,
@@ -35,7 +36,8 @@ private:
     std::deque<QByteArray> m_storage;
     std::vector<std::string_view> m_names;
     std::unordered_map<std::string_view, NameId> m_ids;
-    std::unordered_map<std::string_view, NameId> m_aliases;
+    /// By the folded alias.
+    std::unordered_map<std::string, NameId> m_aliases;
     /// By the folded name, the names that share it in the order of their first sight.
     std::unordered_map<std::string, std::vector<NameId>> m_folded;
 };

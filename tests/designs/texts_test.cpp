@@ -52,7 +52,7 @@ TEST(PropertyNames, CandidatesAreExactThenAliasThenAnyCase)
     names.setAlias("PACKAGE", footprint);
     using Ids = std::vector<designs::NameId>;
     EXPECT_EQ(names.candidates("PACKAGE"), (Ids{upper, footprint, lower, mixed}));
-    EXPECT_EQ(names.candidates("Package"), (Ids{mixed, lower, upper}));
+    EXPECT_EQ(names.candidates("Package"), (Ids{mixed, footprint, lower, upper}));
     EXPECT_EQ(names.candidates("FOOTPRINT"), Ids{footprint});
     EXPECT_EQ(names.candidates("none"), Ids{});
     const auto umlaut = names.intern("Größe");

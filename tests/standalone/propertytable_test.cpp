@@ -51,7 +51,7 @@ TEST(PropertyLookUp, PrefersTheExactNameThenTheAliasThenOtherLetterCase)
         {"stored name before alias", {{"Footprint", "R_0603"}, {"PACKAGE", "0603"}}, "PACKAGE", "0603"},
         {"alias before other case", {{"package", "0603"}, {"Footprint", "R_0603"}}, "PACKAGE", "R_0603"},
         {"other case where the alias is absent", {{"package", "0603"}}, "PACKAGE", "0603"},
-        {"aliases hold for the exact spelling only", {{"Footprint", "R_0603"}}, "Package", "-"},
+        {"alias in another letter case", {{"Footprint", "R_0603"}}, "Package", "R_0603"},
         {"value", {}, "VALUE", "10k"},
         {"value as stored", {}, "Value", "10k"},
         {"reference", {}, "reference", "R1"},
