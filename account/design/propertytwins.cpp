@@ -118,6 +118,9 @@ private:
         Sight &sight = m_seen[m_groups[name]];
         if (sight.component != index) {
             sight = {index, value, false};
+        } else if (sight.value.empty()) {
+            // An empty property hides none, but the next may.
+            sight.value = value;
         } else if (!sight.isReported && differs(sight.value, value)) {
             sight.isReported = true;
             m_hiding[m_groups[name]].append(fromHostText(component.reference));

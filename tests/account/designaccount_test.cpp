@@ -187,6 +187,7 @@ TEST(PropertyTwins, AreNamesThatMeanTheSameToAReport)
     table->add("R3", "1k",
                {{"MPN", "a"}, {"Mpn", "b"}, {"mpn", "c"}, {"Footprint", "R_0603"}, {"PACKAGE", "0603"}});
     table->add("R4", "1k", {{"MPN", "a"}, {"Mpn", "a"}, {"VALUE", "2k"}, {"Other", ""}});
+    table->add("R5", "1k", {{"MPN", ""}, {"Mpn", "a"}, {"mpn", "b"}});
     std::string found;
     for (const PropertyTwins &twins : propertyTwins(LoadedDesign(std::move(table), DnpChoice::Exclude))) {
         for (qsizetype i = 0; i < twins.names.size(); ++i) {
@@ -194,10 +195,10 @@ TEST(PropertyTwins, AreNamesThatMeanTheSameToAReport)
         }
         found += "hides on " + twins.hiding.join(u',').toStdString() + '\n';
     }
-    EXPECT_EQ(found, "Value:4 VALUE:1 hides on R4\n"
+    EXPECT_EQ(found, "Value:5 VALUE:1 hides on R4\n"
                      "Footprint:3 PACKAGE:2 hides on R3\n"
-                     "MPN:3 Mpn:3 mpn:1 hides on R3\n")
-        << "an empty footprint hides nothing";
+                     "MPN:4 Mpn:4 mpn:2 hides on R3,R5\n")
+        << "an empty property hides nothing";
 }
 
 } // namespace
