@@ -22,6 +22,9 @@
 #include <memory>
 #include <optional>
 #include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -61,6 +64,22 @@ ExitStatus printUnknownWord(const QString &word)
     return ExitStatus::WrongUsage;
 }
 
+/// The first of the unexpected words that looks like an option: what follows it is its value, or unexpected
+/// only because of it. Empty when there is none.
+std::string firstUnknownOption(const CLI::App &program, int argc, char *argv[])
+{
+    const std::vector<std::string> unexpected = program.remaining(true);
+    for (int at = 1; at < argc; ++at) {
+        const std::string word = argv[at];
+        const std::string name = word.substr(0, word.find('='));
+        const bool isUnexpected = std::find(unexpected.begin(), unexpected.end(), word) != unexpected.end();
+        if (isUnexpected && name.size() > 1 && name.front() == '-') {
+            return name;
+        }
+    }
+    return {};
+}
+
 /// Nothing when the command line is well formed.
 std::optional<ExitStatus> parse(CLI::App &program, int argc, char *argv[])
 {
@@ -70,7 +89,16 @@ std::optional<ExitStatus> parse(CLI::App &program, int argc, char *argv[])
         if (program.get_subcommands().empty() && argc > 1) {
             return printUnknownWord(QString::fromLocal8Bit(argv[1]));
         }
+        if (argc == 2 && std::string_view(argv[1]) == "template") {
+            console::message(QStringLiteral("a subcommand is required, such as list or show (bom template "
+                                            "--help tells more)"));
+            return ExitStatus::WrongUsage;
+        }
         return printParseResult(program, result);
+    } catch (const CLI::ExtrasError &result) {
+        const std::string option = firstUnknownOption(program, argc, argv);
+        return option.empty() ? printParseResult(program, result)
+                              : printUnknownWord(QString::fromLocal8Bit(option.c_str()));
     } catch (const CLI::ParseError &result) {
         return printParseResult(program, result);
     }

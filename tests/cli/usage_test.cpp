@@ -65,6 +65,8 @@ TEST_F(Usage, WhatIsUnknownIsNamed)
     const std::pair<std::string, std::string> cases[] = {
         {"frob", "no command \"frob\" "},
         {"--frob", "no option \"--frob\" "},
+        {"report --htlm x a.csv", "no option \"--htlm\" "},
+        {"template", "bom template --help"},
         {"report a.csv --locale " + longName, "unknown locale \"" + longName.substr(0, 40) + "\"\n"}};
     for (const auto &[arguments, expected] : cases) {
         EXPECT_THAT(run(arguments.c_str()).err, HasSubstr(expected)) << arguments;
