@@ -8,9 +8,7 @@
 #include <CLI/App.hpp>
 
 #include <QString>
-#include <QStringList>
 
-#include <functional>
 #include <string>
 
 /// For checking an option: empty for a text, what is wrong with an empty one.
@@ -39,9 +37,3 @@ struct DesignArguments
     [[nodiscard]] DnpChoice dnpChoice() const;
     [[nodiscard]] OpenOptions openOptions() const { return {QString::fromStdString(variant), readsAsIs}; }
 };
-
-/// The references that a text such as "R1,R4-R7" names. A text that is itself a reference of the design is
-/// never split; otherwise commas separate references, and each piece is read like a cell of a part list.
-/// Nothing, with the reason in `error`, when a piece cannot be understood. References need not be known.
-[[nodiscard]] QStringList
-namedReferences(const QString &text, const std::function<bool(const QString &)> &isKnown, QString *error);

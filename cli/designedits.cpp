@@ -9,6 +9,7 @@
 #include "core/bompart.h"
 #include "core/propertyquery.h"
 #include "core/reference.h"
+#include "host/framework/hostui.h"
 #include "standalone/loadeddesign.h"
 
 #include <QSet>
@@ -17,6 +18,9 @@
 #include <sstream>
 
 namespace {
+
+/// Of more references that the design does not have, only the number is told.
+constexpr qsizetype mostNamedUnknown = 10;
 
 QString quoted(const std::optional<QString> &text, const QString &otherwise)
 {
@@ -83,8 +87,12 @@ void DesignEdits::add(const QString &reference, const QString &property, const Q
     const bool isNumber =
         value.isEmpty() || value == PropertyAssignments::removal() || !type || isNumberOf(*type, value);
     if (!isNumber || !m_assignments.accepts(property, value)) {
+        const bool mayBeLocale = typed.contains(u',') && HostUi::current().locale() == QLocale::c() &&
+                                 m_design.database().propertyTypes().isNumeric(property);
         refuse(front + u'"' + typed + QStringLiteral("\" is no text that this property can have: ") +
-               typeText(*type));
+               typeText(*type) +
+               (mayBeLocale ? QStringLiteral(" (--locale tells how numbers are written, such as de_DE)")
+                            : QString()));
         return;
     }
     if (isContradicted(reference, property, value)) {
@@ -101,6 +109,14 @@ void DesignEdits::add(const QString &reference, const QString &property, const Q
         m_assignments.assign(reference, property, value);
     } else {
         addDirect(reference, property, value, front);
+    }
+}
+
+void DesignEdits::refuseUnknown(const QString &reference, const QString &origin)
+{
+    if (++m_unknownReferences <= mostNamedUnknown) {
+        refuse((origin.isEmpty() ? QString() : origin + QStringLiteral(": ")) + reference +
+               QStringLiteral(": the design has no part of this reference"));
     }
 }
 
@@ -210,14 +226,21 @@ WriteResult DesignEdits::writeBatch(const WriteOptions &options)
     return result;
 }
 
-ExitStatus DesignEdits::reportProblems(const QStringList &messages, ExitStatus status, bool isUndecided)
+ExitStatus DesignEdits::reportProblems(const QStringList &messages, ExitStatus status, bool isUndecided) const
 {
     for (const QString &message : messages) {
         console::message(message);
     }
-    console::message((isUndecided ? QStringLiteral("the files named above may be written in part: ")
-                                  : QStringLiteral("nothing was written: ")) +
-                     counted(messages.size(), QStringLiteral("problem"), QStringLiteral("problems")));
+    const qsizetype unnamed = std::max(m_unknownReferences - mostNamedUnknown, qsizetype(0));
+    if (unnamed > 0) {
+        console::message(
+            counted(unnamed, QStringLiteral("more reference"), QStringLiteral("more references")) +
+            QStringLiteral(" that the design does not have"));
+    }
+    console::message(
+        (isUndecided ? QStringLiteral("the files named above may be written in part: ")
+                     : QStringLiteral("nothing was written: ")) +
+        counted(messages.size() + unnamed, QStringLiteral("problem"), QStringLiteral("problems")));
     return status;
 }
 

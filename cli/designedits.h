@@ -32,6 +32,8 @@ public:
              const QString &origin = {});
     /// Something else that keeps the edits from being written.
     void refuse(const QString &message) { m_refusals.append(message); }
+    /// A reference that the design does not have. Only the first ones are named, the others are counted.
+    void refuseUnknown(const QString &reference, const QString &origin);
 
     /// Writes the edits, and reports what was changed or why nothing was.
     [[nodiscard]] ExitStatus write(const WriteOptions &options);
@@ -46,8 +48,8 @@ private:
     void addToBOMPart(const Part &part, const QString &property, const QString &value);
     [[nodiscard]] QString messageOf(const CDBPROBLEM &problem) const;
     [[nodiscard]] WriteResult writeBatch(const WriteOptions &options);
-    [[nodiscard]] static ExitStatus reportProblems(const QStringList &messages, ExitStatus status,
-                                                   bool isUndecided = false);
+    [[nodiscard]] ExitStatus reportProblems(const QStringList &messages, ExitStatus status,
+                                            bool isUndecided = false) const;
     [[nodiscard]] ExitStatus reportChanges(const WriteResult &result, bool isDryRun) const;
 
     OpenDesign &m_design;
@@ -55,6 +57,7 @@ private:
     /// Stored values of components that the parts database does not hold.
     QMap<QString, PropertyAssignments::Values> m_direct;
     QStringList m_refusals;
+    qsizetype m_unknownReferences = 0;
     /// Where edits come from, by reference and property.
     QHash<std::pair<QString, QString>, QString> m_origins;
     /// What is changed in BOM-only parts, for the report: the changes of the design only name the definitions

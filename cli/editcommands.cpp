@@ -6,6 +6,7 @@
 #include "cli/designedits.h"
 #include "cli/edittable.h"
 #include "cli/opendesign.h"
+#include "standalone/referencereader.h"
 #include "standalone/tablefile.h"
 
 #include <CLI/Validators.hpp>
@@ -54,16 +55,13 @@ ExitStatus SetCommand::run()
     }
     DesignEdits edits(design);
     QString error;
-    QStringList references = namedReferences(
-        QString::fromStdString(m_references),
-        [&edits](const QString &reference) { return edits.isKnown(reference); }, &error);
-    references.removeDuplicates();
-    if (references.isEmpty()) {
+    ReferenceReader reader([&edits](const QString &reference) { return edits.isKnown(reference); });
+    if (!reader.read(QString::fromStdString(m_references), &error)) {
         edits.refuse(error);
     }
-    for (const QString &reference : std::as_const(references)) {
+    for (const QString &reference : reader.references()) {
         if (!edits.isKnown(reference)) {
-            edits.refuse(reference + QStringLiteral(": the design has no part of this reference"));
+            edits.refuseUnknown(reference, {});
             continue;
         }
         for (const Assignment &assignment : *wanted) {

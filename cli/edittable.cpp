@@ -16,6 +16,7 @@ EditTable::EditTable(const QString &path, OpenDesign &design, DesignEdits &edits
     , m_design(design)
     , m_edits(edits)
     , m_cells(design)
+    , m_reader([&edits](const QString &reference) { return edits.isKnown(reference); })
 {
 }
 
@@ -36,9 +37,28 @@ void EditTable::compare(const Table &table)
     for (const QString &problem : std::as_const(problems)) {
         refuse(table.headingLine, problem);
     }
+    if (!isWithinLimit(table)) {
+        return;
+    }
     for (const TableRow &row : table.rows) {
         compareRow(table, row);
     }
+}
+
+/// Counts the references before any of them is made.
+bool EditTable::isWithinLimit(const Table &table)
+{
+    qsizetype count = 0;
+    QString error;
+    for (const TableRow &row : table.rows) {
+        count += m_reader.read(row.cells.value(table.referenceColumn), &error) ? m_reader.count() : 0;
+        if (count > ReferenceReader::mostReferences()) {
+            refuse(row.line, QStringLiteral("the table names more than %1 references")
+                                 .arg(ReferenceReader::mostReferences()));
+            return false;
+        }
+    }
+    return true;
 }
 
 void EditTable::compareRow(const Table &table, const TableRow &row)
@@ -51,21 +71,20 @@ void EditTable::compareRow(const Table &table, const TableRow &row)
         return;
     }
     QString error;
-    QStringList references = namedReferences(
-        row.cells.value(table.referenceColumn),
-        [this](const QString &reference) { return m_edits.isKnown(reference); }, &error);
-    references.removeDuplicates();
-    if (references.isEmpty()) {
+    if (!m_reader.read(row.cells.value(table.referenceColumn), &error)) {
         refuse(row.line, error);
         return;
     }
-    for (const QString &reference : std::as_const(references)) {
+    const QStringList references = m_reader.references();
+    for (const QString &reference : references) {
+        if (!m_edits.isKnown(reference)) {
+            m_edits.refuseUnknown(reference, place(row.line));
+            continue;
+        }
         const TableRow *&first = m_rows[reference];
         if (first && !hasSameTexts(row, *first)) {
             refuse(row.line,
                    reference + QStringLiteral(" has other texts on line ") + QString::number(first->line));
-        } else if (!m_edits.isKnown(reference)) {
-            refuse(row.line, reference + QStringLiteral(": the design has no part of this reference"));
         } else {
             first = &row;
             for (const EditColumn &column : m_columns) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "cli/editcolumns.h"
+#include "standalone/referencereader.h"
 #include "standalone/tablefile.h"
 
 #include <QHash>
@@ -27,6 +28,7 @@ public:
     [[nodiscard]] const ReportCells &cells() const { return m_cells; }
 
 private:
+    [[nodiscard]] bool isWithinLimit(const Table &table);
     void compareRow(const Table &table, const TableRow &row);
     void compareCell(const QString &reference, const QString &firstReference, const TableRow &row,
                      const EditColumn &column);
@@ -43,6 +45,7 @@ private:
     OpenDesign &m_design;
     DesignEdits &m_edits;
     ReportCells m_cells;
+    ReferenceReader m_reader;
     std::vector<EditColumn> m_columns;
     /// The row in which a reference was met first.
     QHash<QString, const TableRow *> m_rows;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/referenceindex.h"
 
-#include "designs/csv/referencecell.h"
 #include "designs/utf8.h"
 
 ReferenceIndex::ReferenceIndex(const designs::Design &design)
@@ -31,24 +30,4 @@ std::vector<std::size_t> ReferenceIndex::find(std::string_view reference) const
         }
     }
     return indices;
-}
-
-std::optional<QStringList> readReferences(const QString &text, QString *error)
-{
-    const std::string cell = text.toStdString();
-    designs::TextArena arena;
-    designs::ReferenceCell reader(arena);
-    if (!reader.read(cell)) {
-        *error = reader.error();
-        return std::nullopt;
-    }
-    if (reader.references().empty()) {
-        *error = QStringLiteral("no reference is named");
-        return std::nullopt;
-    }
-    QStringList references;
-    for (const std::string_view reference : reader.references()) {
-        references << designs::fromUtf8(reference);
-    }
-    return references;
 }

@@ -4,10 +4,6 @@
 
 #include "designs/design.h"
 
-#include <QString>
-#include <QStringList>
-
-#include <optional>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -32,7 +28,3 @@ private:
     const designs::Design &m_design;
     std::unordered_map<std::string_view, Entry> m_entries;
 };
-
-/// The references that a text names as a cell of a part list does: "R1-R4", "C17/18". Nothing, with the
-/// reason in `error`, when it names none or cannot be understood.
-[[nodiscard]] std::optional<QStringList> readReferences(const QString &text, QString *error);

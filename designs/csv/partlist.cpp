@@ -87,22 +87,45 @@ private:
 class ReferenceCounter
 {
 public:
+    explicit ReferenceCounter(const std::unordered_set<std::string> &names)
+        : m_names(names)
+    {
+    }
+
     void count(QString cell, SymbolCount *symbols) const
     {
         cell.replace(m_blanks, QStringLiteral(" "));
-        cell.replace(m_dashes, QStringLiteral("-"));
-        cell.replace(m_spacedDash, QStringLiteral("-"));
+        cell.replace(m_hyphens, QStringLiteral("-"));
+        cell.replace(m_marks, QStringLiteral("~"));
         QString prefix;
-        const QStringList tokens = cell.split(m_separators, Qt::SkipEmptyParts);
-        for (const QString &token : tokens) {
-            const qsizetype named = ofToken(token, &prefix);
-            symbols->placed += named;
-            symbols->power += token.startsWith(u'#') || prefix.startsWith(u'#') ? named : 0;
+        for (const QString &part : cell.split(m_separators, Qt::SkipEmptyParts)) {
+            QString text = part.trimmed();
+            text.replace(m_wordOrHyphen, QStringLiteral("~"));
+            text.replace(m_spacedMark, QStringLiteral("~"));
+            text.replace(m_and, QStringLiteral(" "));
+            for (const QString &token : text.split(u' ', Qt::SkipEmptyParts)) {
+                const qsizetype named = ofToken(token, &prefix);
+                symbols->placed += named;
+                symbols->power += token.startsWith(u'#') || prefix.startsWith(u'#') ? named : 0;
+            }
         }
     }
 
 private:
     [[nodiscard]] qsizetype ofToken(const QString &token, QString *prefix) const
+    {
+        if (m_names.contains(token.toStdString())) {
+            prefix->clear();
+            return 1;
+        }
+        if (const QRegularExpressionMatch range = m_range.match(token); range.hasMatch()) {
+            *prefix = range.captured(1).isEmpty() ? *prefix : range.captured(1);
+            return difference(range.captured(2), range.captured(3)) + 1;
+        }
+        return ofPieces(token, prefix);
+    }
+
+    [[nodiscard]] qsizetype ofPieces(const QString &token, QString *prefix) const
     {
         qsizetype sum = 0;
         QString common = *prefix;
@@ -134,17 +157,32 @@ private:
         return !last.isEmpty() && match.captured(3).isEmpty() && (numbersIn(match) < 2 || oddZeros);
     }
 
-    /// At most a billion and one, so that no sum of them overflows.
     static qsizetype numbersIn(const QRegularExpressionMatch &match)
     {
-        const qlonglong steps = match.captured(4).toLongLong() - match.captured(2).toLongLong();
-        return match.hasCaptured(4) ? qsizetype(qMin(steps, qlonglong(1'000'000'000))) + 1 : 1;
+        return match.hasCaptured(4) ? difference(match.captured(2), match.captured(4)) + 1 : 1;
     }
 
-    const QRegularExpression m_blanks{QStringLiteral(R"([\t\r\n\x{00A0}\x{200B}\x{202F}\x{3000}\x{FEFF}])")};
-    const QRegularExpression m_dashes{QStringLiteral(R"([\x{2010}\x{2011}\x{2013}\x{2014}\x{2212}])")};
-    const QRegularExpression m_spacedDash{QStringLiteral("(?<=[0-9])(?: +- *|- +)")};
-    const QRegularExpression m_separators{QStringLiteral(R"([ ,;\x{FF0C}\x{3001}]+)")};
+    /// At most a billion, so that no sum of them overflows.
+    static qsizetype difference(const QString &first, const QString &last)
+    {
+        return qsizetype(qMin(last.toLongLong() - first.toLongLong(), qlonglong(1'000'000'000)));
+    }
+
+    const std::unordered_set<std::string> &m_names;
+    const QRegularExpression m_blanks{QStringLiteral(R"([\t\x{00A0}\x{200B}\x{202F}\x{3000}\x{FEFF}])")};
+    const QRegularExpression m_hyphens{QStringLiteral(R"([\x{2010}\x{2011}\x{FF0D}])")};
+    const QRegularExpression m_marks{
+        QStringLiteral(R"([:\x{2012}-\x{2015}\x{2212}\x{301C}\x{FF1A}\x{FF5E}]|\.\.|\x{FF0E}\x{FF0E})")};
+    const QRegularExpression m_separators{
+        QStringLiteral(R"([,;\r\n\x{0085}\x{2028}\x{2029}\x{3001}\x{FF0C}\x{FF1B}])")};
+    const QRegularExpression m_wordOrHyphen{
+        QStringLiteral(R"((?<=[^ ]) +(?:to|thru) +(?=[^ ])|(?<=[^ ]) +-|(?<=[^ ])- +)"),
+        QRegularExpression::CaseInsensitiveOption};
+    const QRegularExpression m_spacedMark{QStringLiteral(" *~ *")};
+    const QRegularExpression m_and{QStringLiteral(R"((?<=.) *[&+\x{FF06}\x{FF0B}] *)")};
+    /// Two ends with a mark that cannot belong to a name, or of the same prefix.
+    const QRegularExpression m_range{QStringLiteral(
+        R"(\A(?|(.*?)([0-9]++)~.*?([0-9]+)|(.*?[^0-9])([0-9]++)(?:-|(?i:to|thru))\1([0-9]+))\z)")};
     /// Prefix and number, perhaps a dash and the same again.
     const QRegularExpression m_piece{
         QStringLiteral(R"(\A((?=[^-./]*(?:[A-Za-z]|[^\x00-\x7F]))[^-./]*[^-./0-9])?([0-9]++))"
@@ -187,6 +225,14 @@ std::optional<std::string_view> PartList::cellText(std::size_t component, std::s
     return found != part.properties.end() ? std::optional(found->value) : std::nullopt;
 }
 
+ReferenceCell::IsName PartList::isName() const
+{
+    if (m_hyphenatedNames.empty()) {
+        return {};
+    }
+    return [this](std::string_view text) { return m_hyphenatedNames.contains(std::string(text)); };
+}
+
 SymbolCount PartList::recount(Problem *error) const
 {
     SymbolCount count;
@@ -197,10 +243,11 @@ SymbolCount PartList::recount(Problem *error) const
     std::string_view text(bytes->constData(), std::size_t(bytes->size()));
     text.remove_prefix(m_dialect.byteOrderMark && text.starts_with(utf8Mark) ? utf8Mark.size() : 0);
     const bool recode = m_dialect.encoding == CsvDialect::Encoding::Windows1252;
-    const ReferenceCounter counter;
+    const ReferenceCounter counter(m_hyphenatedNames);
     ColumnWalker(m_dialect.delimiter, m_columns.reference)
         .walk(text, [&](std::size_t row, const std::string &cell) {
-            if (row > m_columns.headingRow && !cell.empty()) {
+            const bool isPassedOver = std::ranges::binary_search(m_passedOver, row);
+            if (row > m_columns.headingRow && !cell.empty() && !isPassedOver) {
                 counter.count(QString::fromStdString(recode ? utf8FromWindows1252(cell) : cell), &count);
             }
         });

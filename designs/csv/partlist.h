@@ -4,9 +4,14 @@
 
 #include "designs/csv/csvdialect.h"
 #include "designs/csv/partlistcolumns.h"
+#include "designs/csv/referencecell.h"
 #include "designs/design.h"
 
 #include <QByteArray>
+
+#include <string>
+#include <unordered_set>
+#include <vector>
 
 namespace designs {
 
@@ -18,6 +23,9 @@ class PartList : public Design
 public:
     [[nodiscard]] const CsvDialect &dialect() const { return m_dialect; }
     [[nodiscard]] const PartListColumns &columns() const { return m_columns; }
+    /// For reading the list's cells of references: which texts that look like ranges ("X1-2") it uses as
+    /// names.
+    [[nodiscard]] ReferenceCell::IsName isName() const;
 
     /// Counts the references in the file as it is now, with a reader of its own.
     [[nodiscard]] SymbolCount recount(Problem *error) const override;
@@ -34,6 +42,9 @@ private:
     QByteArray m_bytes;
     CsvDialect m_dialect;
     PartListColumns m_columns;
+    std::unordered_set<std::string> m_hyphenatedNames;
+    /// Indices of the rows that repeat the headings or sum up.
+    std::vector<std::size_t> m_passedOver;
 };
 
 } // namespace designs

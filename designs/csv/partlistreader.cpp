@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/partlistreader.h"
 
+#include "designs/csv/hyphenatednames.h"
+#include "designs/csv/passedoverrows.h"
 #include "designs/csv/referencecell.h"
 #include "designs/notfitted.h"
 #include "designs/utf8.h"
@@ -15,8 +17,6 @@
 namespace designs {
 
 namespace {
-
-constexpr std::size_t mostComponents = 2'000'000;
 
 /// More than so many equal warnings are summed up in one.
 constexpr int mostWarnings = 20;
@@ -75,6 +75,8 @@ public:
         m_list->m_columns = std::move(*columns);
         describe();
         nameProperties();
+        findPassedOverRows();
+        findHyphenatedNames();
         if (!readRows()) {
             return failed();
         }
@@ -132,15 +134,78 @@ private:
         }
     }
 
-    bool readRows()
+    void findPassedOverRows()
     {
-        const std::vector<CsvRow> &rows = m_file.rows();
-        for (std::size_t row = m_list->m_columns.headingRow + 1; row < rows.size(); ++row) {
-            if (!readRow(quint32(row))) {
+        const PassedOverRows rows(m_file, m_list->m_columns.headingRow, m_list->m_columns.reference);
+        for (std::size_t row = m_list->m_columns.headingRow + 1; row < m_file.rows().size(); ++row) {
+            if (const QString reason = rows.reason(m_file.rows()[row]); !reason.isEmpty()) {
+                m_list->m_passedOver.push_back(row);
+                warn(m_file.rows()[row], &m_noParts,
+                     QStringLiteral("the row ") + reason +
+                         QStringLiteral(" and names no parts: it is left out"));
+            }
+        }
+    }
+
+    /// Calls `visit` for each row below the headings that may name parts, until one gives false.
+    template<class Visit>
+    bool visitRows(const Visit &visit)
+    {
+        auto passedOver = m_list->m_passedOver.cbegin();
+        for (std::size_t row = m_list->m_columns.headingRow + 1; row < m_file.rows().size(); ++row) {
+            if (passedOver != m_list->m_passedOver.cend() && *passedOver == row) {
+                ++passedOver;
+            } else if (!visit(row)) {
                 return false;
             }
         }
         return true;
+    }
+
+    void findHyphenatedNames()
+    {
+        if (!hasDoubtfulHyphens()) {
+            return;
+        }
+        HyphenatedNames names;
+        (void)visitRows([&](std::size_t row) {
+            const std::string_view quantity = quantityText(m_file.rows()[row]);
+            names.add(referenceText(row), quantity.empty() ? std::nullopt : quantityOf(quantity));
+            return true;
+        });
+        const PartListColumns &columns = m_list->m_columns;
+        const bool isReport =
+            columns.reference == 1 && columns.names[0] == "Category" && columns.names[1] == "References";
+        m_list->m_hyphenatedNames = names.names(isReport);
+        m_guessedNames = names.guessedNames(isReport);
+        m_cell.setNames(m_list->isName());
+    }
+
+    bool hasDoubtfulHyphens()
+    {
+        return !visitRows([this](std::size_t row) {
+            const std::string_view text = referenceText(row);
+            const bool hasHyphen = std::ranges::any_of(
+                text, [](char c) { return c == '-' || static_cast<unsigned char>(c) >= 0x80; });
+            return !hasHyphen || !m_cell.read(text) ||
+                   std::ranges::none_of(m_cell.items(), &ReferenceItem::couldBeName);
+        });
+    }
+
+    std::string_view referenceText(std::size_t row)
+    {
+        return textAt(m_file.rows()[row], m_list->m_columns.reference);
+    }
+
+    std::string_view quantityText(const CsvRow &row)
+    {
+        const std::optional<std::size_t> column = m_list->m_columns.quantity;
+        return column ? trimmed(textAt(row, *column)) : std::string_view();
+    }
+
+    bool readRows()
+    {
+        return visitRows([this](std::size_t row) { return readRow(quint32(row)); });
     }
 
     bool readRow(quint32 index)
@@ -152,13 +217,14 @@ private:
         if (!m_cell.read(textAt(row, m_list->m_columns.reference))) {
             return fail(row, m_cell.error());
         }
-        if (m_cell.references().empty()) {
+        if (m_cell.count() == 0) {
             return m_file.isBlank(row) || fail(row, withoutReference(row));
         }
-        if (m_list->m_components.size() + m_cell.references().size() > mostComponents) {
-            return fail(row, QStringLiteral("the list has more than %1 parts").arg(mostComponents));
+        if (m_list->m_components.size() + m_cell.count() > mostTableReferences) {
+            return fail(row, QStringLiteral("the list has more than %1 parts").arg(mostTableReferences));
         }
         checkQuantity(row);
+        checkNames(row);
         addComponents(index);
         return true;
     }
@@ -197,18 +263,30 @@ private:
 
     void checkQuantity(const CsvRow &row)
     {
-        const std::optional<std::size_t> column = m_list->m_columns.quantity;
-        const std::string_view text = column ? trimmed(textAt(row, *column)) : std::string_view();
+        const std::string_view text = quantityText(row);
         if (text.empty()) {
             return;
         }
         const std::optional<quint64> quantity = quantityOf(text);
-        const std::size_t named = m_cell.references().size();
+        const std::size_t named = m_cell.count();
         if (quantity != named) {
             warn(row, &m_quantity,
                  QStringLiteral("the quantity is ") + quotedForMessage(text) +
                      QStringLiteral(", but the row names ") + counted(named) +
                      QStringLiteral(": the references count"));
+        }
+    }
+
+    void checkNames(const CsvRow &row)
+    {
+        for (const ReferenceItem &item : m_cell.items()) {
+            if (!m_guessedNames.empty() && m_guessedNames.contains(std::string(item.text))) {
+                warn(row, &m_names,
+                     quotedForMessage(item.text) +
+                         QStringLiteral(" is the name of one part and no range, because the list has ") +
+                         quotedForMessage(item.text.substr(0, item.text.find('-', 1))) +
+                         QStringLiteral(" by itself"));
+            }
         }
     }
 
@@ -264,7 +342,7 @@ private:
                                                          "Windows-1252: save it in UTF-8 if letters are "
                                                          "wrong")});
         }
-        for (const WarningKind &kind : {m_short, m_quantity}) {
+        for (const WarningKind &kind : {m_noParts, m_short, m_names, m_quantity}) {
             if (kind.count > mostWarnings) {
                 m_list->m_warnings.push_back(
                     {{}, kind.lastLine, kind.summary.arg(kind.count - mostWarnings)});
@@ -304,10 +382,15 @@ private:
     Problem m_error;
     std::vector<PropertyColumn> m_columns;
     std::vector<Property> m_properties;
+    /// Names that could be ranges, and of which the list does not tell for certain.
+    std::unordered_set<std::string> m_guessedNames;
     /// Of the first reference that begins with "#".
     int m_firstPowerLine = 0;
+    WarningKind m_noParts{
+        QStringLiteral("%1 more rows, the last one here, repeat the headings or sum up and are left out")};
     WarningKind m_short{
         QStringLiteral("%1 more rows, the last one here, have fewer cells than there are headings")};
+    WarningKind m_names{QStringLiteral("%1 more names, the last one here, could be ranges but are none")};
     WarningKind m_quantity{
         QStringLiteral("%1 more rows, the last one here, have a quantity that differs from the "
                        "number of their references")};

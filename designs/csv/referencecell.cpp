@@ -4,11 +4,13 @@
 
 #include "designs/utf8.h"
 
+#include <QByteArrayView>
+#include <QList>
+
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <string>
-#include <utility>
 
 namespace designs {
 
@@ -29,53 +31,50 @@ bool isLetter(char c)
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || isHigh(c);
 }
 
-bool isBlank(char c)
-{
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
-}
-
-bool isSeparator(char c)
-{
-    return isBlank(c) || c == ',' || c == ';';
-}
-
 bool isNumber(std::string_view text)
 {
     return !text.empty() && std::ranges::all_of(text, isDigit);
 }
 
-bool endsInDigit(std::string_view text)
+std::string_view withoutBlanks(std::string_view text)
 {
-    return !text.empty() && isDigit(text.back());
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string_view::npos ? std::string_view()
+                                           : text.substr(first, text.find_last_not_of(' ') + 1 - first);
 }
 
-/// The plain form of the dashes, blanks and commas that word processors and other alphabets put into such
-/// lists.
-std::string withPlainMarks(std::string_view cell)
+bool isNameSign(char32_t c)
 {
-    static constexpr std::array<std::pair<std::string_view, char>, 12> marks = {{
-        {"\xC2\xA0", ' '},     // no-break space
-        {"\xE2\x80\xAF", ' '}, // narrow no-break space
-        {"\xE3\x80\x80", ' '}, // ideographic space
-        {"\xE2\x80\x8B", ' '}, // zero-width space
-        {"\xEF\xBB\xBF", ' '}, // byte-order mark
-        {"\xE2\x80\x90", '-'}, // hyphen
-        {"\xE2\x80\x91", '-'}, // non-breaking hyphen
-        {"\xE2\x80\x93", '-'}, // en dash
-        {"\xE2\x80\x94", '-'}, // em dash
-        {"\xE2\x88\x92", '-'}, // minus
-        {"\xEF\xBC\x8C", ','}, // full-width comma
-        {"\xE3\x80\x81", ','}, // ideographic comma
-    }};
-    std::string result;
-    result.reserve(cell.size());
-    while (!cell.empty()) {
-        const auto mark =
-            std::ranges::find_if(marks, [cell](const auto &m) { return cell.starts_with(m.first); });
-        result += mark == marks.end() ? cell.front() : mark->second;
-        cell.remove_prefix(mark == marks.end() ? 1 : mark->first.size());
+    constexpr std::u32string_view signs = U"./?*$@%'-_#";
+    return signs.find(c) != std::u32string_view::npos || QChar::isLetterOrNumber(c) || QChar::isMark(c);
+}
+
+/// Whether the text can be the name of a part.
+bool isNameText(std::string_view text)
+{
+    constexpr std::string_view firstSigns = "#_+-";
+    const bool beginsWell =
+        !text.empty() && (isLetter(text.front()) || firstSigns.find(text.front()) != std::string_view::npos);
+    if (!beginsWell || std::ranges::none_of(text, isLetter)) {
+        return false;
     }
-    return result;
+    if (std::ranges::none_of(text, isHigh)) {
+        return std::all_of(text.begin() + 1, text.end(), [](char c) { return isNameSign(char32_t(c)); });
+    }
+    const QList<uint> codes = fromUtf8(text).toUcs4();
+    return std::all_of(codes.begin() + (isHigh(text.front()) ? 0 : 1), codes.end(),
+                       [](uint code) { return isNameSign(code); });
+}
+
+/// Whether a text next to another, without a comma between them, can be nothing but a reference or a number.
+bool isClear(std::string_view text)
+{
+    constexpr std::string_view firstSigns = "#_";
+    if (text.find_first_not_of("0123456789-/") == std::string_view::npos) {
+        return true;
+    }
+    return (isLetter(text.front()) || firstSigns.find(text.front()) != std::string_view::npos) &&
+           text.find_first_of("0123456789?") != std::string_view::npos;
 }
 
 /// What stands for a number that is too large to count with.
@@ -88,7 +87,13 @@ quint64 numberOf(std::string_view digits)
     return result.ec == std::errc() ? value : unreadable;
 }
 
-/// A letter, then digits, then perhaps more letters and digits: "R1", "U3A".
+std::string padded(std::string_view prefix, quint64 number, std::size_t width)
+{
+    const std::string digits = std::to_string(number);
+    return std::string(prefix).append(width > digits.size() ? width - digits.size() : 0, '0') + digits;
+}
+
+/// "R1" and "U3A": letters, digits, then perhaps more of both.
 bool isLikeReference(std::string_view text)
 {
     const auto digit = std::ranges::find_if(text, isDigit);
@@ -96,134 +101,217 @@ bool isLikeReference(std::string_view text)
            std::all_of(digit, text.end(), [](char c) { return isLetter(c) || isDigit(c); });
 }
 
-/// True when all that the dashes of the text part are like references: "R1A-R3B", "R1-R3-R5".
+/// True when each text between the hyphens is like a reference: "R1A-R3B", "R1-R3-R5".
 bool joinsReferences(std::string_view text)
 {
-    if (text.find('-') == std::string_view::npos) {
-        return false;
-    }
     while (true) {
-        const std::size_t dash = text.find('-');
-        if (!isLikeReference(text.substr(0, dash))) {
+        const std::size_t hyphen = text.find('-');
+        if (!isLikeReference(text.substr(0, hyphen))) {
             return false;
         }
-        if (dash == std::string_view::npos) {
+        if (hyphen == std::string_view::npos) {
             return true;
         }
-        text.remove_prefix(dash + 1);
+        text.remove_prefix(hyphen + 1);
     }
 }
 
-/// True when zeros in front of the last number speak against a range from the first: 1 to 02, but not 01 to
-/// 02.
+/// Whether two of the texts between the hyphens could be the ends of a range: "R1-R3-5".
+bool hasRangeWithin(std::string_view text)
+{
+    const auto prefix = [](std::string_view piece) {
+        return isLikeReference(piece) ? piece.substr(0, piece.find_first_of("0123456789"))
+                                      : std::string_view();
+    };
+    for (std::size_t hyphen = text.find('-'); hyphen != std::string_view::npos; hyphen = text.find('-')) {
+        const std::string_view left = prefix(text.substr(0, hyphen));
+        text.remove_prefix(hyphen + 1);
+        if (!left.empty() && left == prefix(text.substr(0, text.find('-')))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Whether zeros in front of the number behind a hyphen speak against a range from the first: 1 to 02, but
+/// not 01 to 02.
 bool hasOddZeros(std::string_view first, std::string_view last)
 {
     return last.front() == '0' && last.size() != first.size();
+}
+
+/// Whether the number behind a hyphen goes on from the first.
+bool isHigher(std::string_view last, std::string_view first)
+{
+    return numberOf(last) > numberOf(first) && !hasOddZeros(first, last);
+}
+
+/// Whether the ends of a range do not have the same zeros in front: 08 to 9, 1 to 04.
+bool differsInZeros(std::string_view first, std::string_view last)
+{
+    const bool firstHas = first.size() > 1 && first.front() == '0';
+    return hasOddZeros(first, last) || (firstHas && last.size() < first.size());
+}
+
+/// The ends of a range whose sign is a word within the text, as in "R1toR3".
+struct GluedRange
+{
+    std::string_view left;
+    std::string_view right;
+};
+
+std::optional<GluedRange> gluedRange(std::string_view text)
+{
+    static constexpr std::array<std::string_view, 2> words = {"to", "thru"};
+    for (const std::string_view word : words) {
+        const QByteArrayView sought(word.data(), qsizetype(word.size()));
+        for (std::size_t at = 1; at + word.size() < text.size(); ++at) {
+            const QByteArrayView there(text.data() + at, qsizetype(word.size()));
+            if (isDigit(text[at - 1]) && there.compare(sought, Qt::CaseInsensitive) == 0) {
+                return GluedRange{text.substr(0, at), text.substr(at + word.size())};
+            }
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace
 
 bool ReferenceCell::read(std::string_view cell)
 {
-    m_references.clear();
+    m_items.clear();
     m_error.clear();
     m_prefix = {};
-    m_at = 0;
-    m_cell = std::ranges::any_of(cell, isHigh) ? m_arena.copy(std::string_view(withPlainMarks(cell))) : cell;
-    for (std::string_view token = takeToken(); !token.empty(); token = takeToken()) {
-        const bool dashEnds = token.ends_with('-') && endsInDigit(token.substr(0, token.size() - 1));
-        const bool spaced = dashEnds || (endsInDigit(token) && isDashNext());
-        if (!(spaced ? takeSpacedRange(token) : addToken(token))) {
-            m_references.clear();
-            return false;
-        }
+    m_count = 0;
+    m_isNumeric = true;
+    if (!readCell(cell)) {
+        m_items.clear();
+        m_count = 0;
+        return false;
     }
     return true;
 }
 
-void ReferenceCell::skipBlanks()
+bool ReferenceCell::readCell(std::string_view cell)
 {
-    while (m_at < m_cell.size() && isBlank(m_cell[m_at])) {
-        ++m_at;
+    if (isName(cell)) {
+        return addItem({cell});
     }
-}
-
-bool ReferenceCell::isDashNext() const
-{
-    const std::size_t next = m_cell.find_first_not_of(" \t\r\n", m_at);
-    return next != std::string_view::npos && m_cell[next] == '-';
-}
-
-std::string_view ReferenceCell::takeToken()
-{
-    while (m_at < m_cell.size() && isSeparator(m_cell[m_at])) {
-        ++m_at;
-    }
-    const std::size_t begin = m_at;
-    while (m_at < m_cell.size() && !isSeparator(m_cell[m_at])) {
-        ++m_at;
-    }
-    return m_cell.substr(begin, m_at - begin);
-}
-
-/// A range with blanks beside its dash: glued together, it must be one.
-bool ReferenceCell::takeSpacedRange(std::string_view first)
-{
-    std::string glued(first);
-    skipBlanks();
-    if (!first.ends_with('-')) {
-        glued += '-';
-        ++m_at;
-        skipBlanks();
-    }
-    if (m_at < m_cell.size() && !isSeparator(m_cell[m_at])) {
-        glued += takeToken();
-    }
-    const std::size_t before = m_references.size();
-    const std::string_view token = m_arena.copy(std::string_view(glued));
-    if (token.ends_with('-')) {
-        return fail(token, QStringLiteral("is a range without an end"));
-    }
-    if (endsInDigit(token) && isDashNext()) {
-        return fail(token, QStringLiteral("is followed by another dash: write its references one by one"));
-    }
-    if (!addToken(token)) {
-        return false;
-    }
-    return m_references.size() > before + 1 || m_references.back() != token ||
-           fail(token, QStringLiteral("is no range: write its references one by one"));
-}
-
-bool ReferenceCell::addToken(std::string_view token)
-{
-    if (token.find('/') == std::string_view::npos || !isSlashList(token)) {
-        return addPiece(token);
-    }
-    std::size_t begin = 0;
-    while (begin <= token.size()) {
-        const std::size_t end = std::min(token.find('/', begin), token.size());
-        if (!addPiece(token.substr(begin, end - begin))) {
+    const auto isPlain = [](char c) {
+        return (isLetter(c) && !isHigh(c)) || isDigit(c) || c == ',' || c == '-';
+    };
+    const std::string_view text =
+        std::ranges::all_of(cell, isPlain) ? cell : m_arena.copy(std::string_view(withPlainSigns(cell)));
+    for (std::size_t begin = 0; begin <= text.size();) {
+        const std::size_t end = std::min(text.find(',', begin), text.size());
+        const std::string_view part = withoutBlanks(text.substr(begin, end - begin));
+        if (!part.empty() && !readPart(part)) {
             return false;
-        }
-        if (m_prefix.empty()) {
-            return fail(token,
-                        QStringLiteral("can be read in several ways: write its references one by one"));
         }
         begin = end + 1;
     }
     return true;
 }
 
+bool ReferenceCell::readPart(std::string_view part)
+{
+    if (isName(part)) {
+        m_prefix = {};
+        return addItem({part});
+    }
+    using Kind = ReferenceToken::Kind;
+    const std::vector<ReferenceToken> &tokens = m_tokens.cut(part);
+    const auto kindAt = [&tokens](std::size_t at) {
+        return at < tokens.size() ? std::optional(tokens[at].kind) : std::nullopt;
+    };
+    for (std::size_t at = 0; at < tokens.size(); ++at) {
+        const std::string_view text = tokens[at].text;
+        if (kindAt(at) != Kind::Piece) {
+            return fail(part, QStringLiteral("does not name what its first sign joins"));
+        }
+        if (kindAt(at + 1) == Kind::Range) {
+            const std::string_view upToSign(text.data(),
+                                            std::size_t(tokens[at + 1].text.data() - text.data()) + 1);
+            if (kindAt(at + 2) != Kind::Piece) {
+                return fail(upToSign, QStringLiteral("is a range without an end"));
+            }
+            const std::string_view last = tokens[at + 2].text;
+            const std::string_view whole(text.data(), std::size_t(last.data() + last.size() - text.data()));
+            if (kindAt(at + 3) == Kind::Range) {
+                return fail(whole,
+                            QStringLiteral("is followed by another dash: write its references one by one"));
+            }
+            if (!addMarked(text, last, whole)) {
+                return false;
+            }
+            at += 2;
+        } else if (tokens.size() > 1 && !isClear(text)) {
+            return fail(text,
+                        QStringLiteral("is no reference: write its references one by one, with commas"));
+        } else if (!addPiece(text)) {
+            return false;
+        }
+        if (kindAt(at + 1) == Kind::And && kindAt(++at + 1) != Kind::Piece) {
+            return fail(part, QStringLiteral("ends with a sign that joins nothing"));
+        }
+    }
+    return true;
+}
+
+/// A range with a sign or a word that cannot belong to a name, or with blanks beside its hyphen.
+bool ReferenceCell::addMarked(std::string_view left, std::string_view right, std::string_view text)
+{
+    const bool isBare = isNumber(left) && !m_prefix.empty();
+    const auto first = isBare ? std::optional(Numbered{m_prefix, left}) : numbered(left);
+    if (first && isNumber(right) && (isBare || isHigher(right, first->digits))) {
+        return addBareRange(*first, right, text);
+    }
+    const auto last = numbered(right);
+    const bool hasHyphen =
+        (left.find('-') != std::string_view::npos || right.find('-') != std::string_view::npos);
+    if (!first || !last || (hasHyphen && first->prefix != last->prefix)) {
+        return fail(text, QStringLiteral("is no range: write its references one by one"));
+    }
+    return addRange(*first, *last, text);
+}
+
+bool ReferenceCell::addPiece(std::string_view text)
+{
+    if (isName(text)) {
+        m_prefix = {};
+        return addItem({text});
+    }
+    if (isNumber(text)) {
+        return addNumber(text);
+    }
+    if (text.find('/') != std::string_view::npos && isSlashList(text)) {
+        return addSlashList(text);
+    }
+    return addHyphened(text);
+}
+
+bool ReferenceCell::addNumber(std::string_view digits)
+{
+    if (!m_prefix.empty()) {
+        m_isNumeric = false;
+        return addItem({m_arena.copy(std::string_view(std::string(m_prefix).append(digits)))});
+    }
+    return m_isNumeric ? addItem({digits})
+                       : fail(digits, QStringLiteral("is no reference: write it with its letters"));
+}
+
 /// Each piece is a number, or numbered with the prefix of the first, or a range of such.
-bool ReferenceCell::isSlashList(std::string_view token) const
+bool ReferenceCell::isSlashList(std::string_view text) const
 {
     std::string_view prefix;
-    std::size_t begin = 0;
-    while (begin <= token.size()) {
-        const std::size_t end = std::min(token.find('/', begin), token.size());
-        const Piece piece = pieceOf(token.substr(begin, end - begin));
-        for (const std::string_view side : {piece.left, piece.right.value_or(piece.left)}) {
-            const std::optional<Numbered> found = numberedOrBare(side);
+    for (std::size_t begin = 0; begin <= text.size();) {
+        const std::size_t end = std::min(text.find('/', begin), text.size());
+        const std::string_view piece = text.substr(begin, end - begin);
+        const std::size_t hyphen = piece.find('-');
+        const std::string_view left = piece.substr(0, hyphen);
+        for (const std::string_view side :
+             {left, hyphen == std::string_view::npos ? left : piece.substr(hyphen + 1)}) {
+            const std::optional<Numbered> found = plainOrBare(side);
             if (!found && !(isNumber(side) && !prefix.empty())) {
                 return false;
             }
@@ -237,13 +325,20 @@ bool ReferenceCell::isSlashList(std::string_view token) const
     return true;
 }
 
-ReferenceCell::Piece ReferenceCell::pieceOf(std::string_view text)
+bool ReferenceCell::addSlashList(std::string_view text)
 {
-    const std::size_t dash = text.find('-');
-    if (dash == std::string_view::npos || text.find('-', dash + 1) != std::string_view::npos) {
-        return {text, text, std::nullopt};
+    for (std::size_t begin = 0; begin <= text.size();) {
+        const std::size_t end = std::min(text.find('/', begin), text.size());
+        const std::string_view piece = text.substr(begin, end - begin);
+        if (!(isNumber(piece) ? addNumber(piece) : addHyphened(piece))) {
+            return false;
+        }
+        if (m_prefix.empty()) {
+            return fail(text, QStringLiteral("can be read in several ways: write its references one by one"));
+        }
+        begin = end + 1;
     }
-    return {text, text.substr(0, dash), text.substr(dash + 1)};
+    return true;
 }
 
 std::optional<ReferenceCell::Numbered> ReferenceCell::numbered(std::string_view text)
@@ -253,110 +348,170 @@ std::optional<ReferenceCell::Numbered> ReferenceCell::numbered(std::string_view 
         return std::nullopt;
     }
     const Numbered found{text.substr(0, lastOther + 1), text.substr(lastOther + 1)};
-    const bool plain = found.prefix.find_first_of(".-/") == std::string_view::npos;
-    return plain && std::ranges::any_of(found.prefix, isLetter) ? std::optional(found) : std::nullopt;
+    return isNameText(text) ? std::optional(found) : std::nullopt;
 }
 
-std::optional<ReferenceCell::Numbered> ReferenceCell::numberedOrBare(std::string_view text) const
+/// Without hyphen, point and slash in front of the number.
+std::optional<ReferenceCell::Numbered> ReferenceCell::plainNumbered(std::string_view text)
+{
+    const auto found = numbered(text);
+    return found && found->prefix.find_first_of(".-/") == std::string_view::npos ? found : std::nullopt;
+}
+
+std::optional<ReferenceCell::Numbered> ReferenceCell::plainOrBare(std::string_view text) const
 {
     if (isNumber(text) && !m_prefix.empty()) {
         return Numbered{m_prefix, text};
     }
-    return numbered(text);
+    return plainNumbered(text);
 }
 
-bool ReferenceCell::addPiece(std::string_view text)
+/// A reference that may have hyphens in its name, or a range with one.
+bool ReferenceCell::addHyphened(std::string_view text)
 {
-    const Piece piece = pieceOf(text);
-    if (piece.right) {
-        return addWithDash(piece);
-    }
-    const std::optional<Numbered> found = numberedOrBare(text);
-    m_prefix = found ? found->prefix : std::string_view();
-    if (found && isNumber(text)) {
-        return addSingle(m_arena.copy(std::string_view(std::string(found->prefix).append(text))));
-    }
-    return addSingle(text);
-}
-
-bool ReferenceCell::addWithDash(const Piece &piece)
-{
-    const std::optional<Numbered> first = numberedOrBare(piece.left);
-    if (!first) {
-        m_prefix = {};
-        return addSingle(piece.text);
-    }
-    const bool bareEnd = isNumber(*piece.right);
-    if (bareEnd) {
-        const bool rises = numberOf(*piece.right) > numberOf(first->digits);
-        if (!isNumber(piece.left) && (!rises || hasOddZeros(first->digits, *piece.right))) {
-            m_prefix = {};
-            return addSingle(piece.text);
+    if (const auto glued = gluedRange(text)) {
+        const auto first = plainNumbered(glued->left);
+        const auto last = plainNumbered(glued->right);
+        if (first && last && first->prefix == last->prefix) {
+            return addRange(*first, *last, text);
         }
-        return addRange(*first, *piece.right, piece.text);
     }
-    const std::optional<Numbered> last = numbered(*piece.right);
-    if (!last) {
-        m_prefix = {};
-        return addSingle(piece.text);
+    const std::size_t hyphen = text.find('-');
+    if (hyphen == std::string_view::npos) {
+        return addName(text);
     }
-    if (last->prefix != first->prefix) {
-        return fail(piece.text,
-                    QStringLiteral("joins different kinds of parts: write its references one by one"));
+    if (const auto added = addFullRange(text)) {
+        return *added;
     }
-    return addRange(*first, last->digits, piece.text);
+    const std::string_view right = text.substr(hyphen + 1);
+    const std::optional<Numbered> first = plainOrBare(text.substr(0, hyphen));
+    if (first && isNumber(right)) {
+        const bool isRange = isNumber(text.substr(0, hyphen)) || isHigher(right, first->digits);
+        return isRange ? addBareRange(*first, right, text) : addName(text);
+    }
+    if (const auto last = plainNumbered(right); first && last) {
+        return addRange(*first, *last, text);
+    }
+    return joinsReferences(text) || hasRangeWithin(text)
+               ? fail(text, QStringLiteral("is no range that can be read: write its references one by one"))
+               : addName(text);
 }
 
-bool ReferenceCell::addRange(const Numbered &first, std::string_view lastDigits, std::string_view text)
+/// With the prefix at both ends, which then may have hyphens itself: "X1-1-X1-3".
+std::optional<bool> ReferenceCell::addFullRange(std::string_view text)
 {
+    for (std::size_t hyphen = text.find('-', 1); hyphen != std::string_view::npos;
+         hyphen = text.find('-', hyphen + 1)) {
+        const auto first = numbered(text.substr(0, hyphen));
+        const auto last = numbered(text.substr(hyphen + 1));
+        if (first && last && first->prefix == last->prefix) {
+            return addRange(*first, *last, text);
+        }
+    }
+    return std::nullopt;
+}
+
+bool ReferenceCell::addBareRange(const Numbered &first, std::string_view digits, std::string_view text)
+{
+    const bool isWithHyphen = text.find_first_of(" ~") == std::string_view::npos;
+    const bool couldBeName = isWithHyphen && !isDigit(text.front());
     const quint64 from = numberOf(first.digits);
-    const quint64 to = numberOf(lastDigits);
+    const quint64 to = numberOf(digits);
     if (to < from) {
         return fail(text, QStringLiteral("is a range that runs backwards: put its lower end first"));
     }
-    if (hasOddZeros(first.digits, lastDigits)) {
+    if (hasOddZeros(first.digits, digits)) {
         return fail(text, QStringLiteral(
                               "is a range whose ends differ in their zeros: write both with as many digits"));
     }
-    if (to == unreadable || to - from >= m_limit || m_references.size() + (to - from) >= m_limit) {
-        return fail(
-            text, QStringLiteral("makes more than %1 references in one cell: correct its end").arg(m_limit));
-    }
+    m_prefix = first.prefix;
     const std::size_t width = first.digits.front() == '0' ? first.digits.size() : 0;
-    std::string reference;
-    for (quint64 number = from; number <= to; ++number) {
-        const std::string digits = std::to_string(number);
-        reference.assign(first.prefix);
-        reference.append(width > digits.size() ? width - digits.size() : 0, '0');
-        reference += digits;
-        m_references.push_back(m_arena.copy(std::string_view(reference)));
+    return addItem({text, first.prefix, from, to, width, couldBeName});
+}
+
+bool ReferenceCell::addRange(const Numbered &first, const Numbered &last, std::string_view text)
+{
+    const quint64 from = numberOf(first.digits);
+    const quint64 to = numberOf(last.digits);
+    if (first.prefix != last.prefix) {
+        return fail(text, QStringLiteral("joins different kinds of parts: write its references one by one"));
+    }
+    if (to < from) {
+        return fail(text, QStringLiteral("is a range that runs backwards: put its lower end first"));
     }
     m_prefix = first.prefix;
+    if (differsInZeros(first.digits, last.digits)) {
+        return addKnownRange(first, last) ||
+               fail(text, QStringLiteral(
+                              "is a range whose ends differ in their zeros: write both with as many digits"));
+    }
+    const std::size_t width = first.digits.front() == '0' ? first.digits.size() : 0;
+    return addItem({text, first.prefix, from, to, width});
+}
+
+/// A report joins R08 and R9, whose numbers follow, to "R08-R9": where both ends are known, those between
+/// are taken with as many digits as the first if that is a name, too.
+bool ReferenceCell::addKnownRange(const Numbered &first, const Numbered &last)
+{
+    const std::string from = std::string(first.prefix).append(first.digits);
+    const std::string to = std::string(last.prefix).append(last.digits);
+    const quint64 end = numberOf(last.digits);
+    if (!isName(from) || !isName(to) || end == unreadable || end - numberOf(first.digits) >= m_limit) {
+        return false;
+    }
+    bool isAdded = addItem({m_arena.copy(std::string_view(from))});
+    for (quint64 number = numberOf(first.digits) + 1; number < end && isAdded; ++number) {
+        const std::string wide = padded(first.prefix, number, first.digits.size());
+        const std::string text = isName(wide) ? wide : padded(first.prefix, number, 0);
+        isAdded = addItem({m_arena.copy(std::string_view(text))});
+    }
+    return isAdded && (end == numberOf(first.digits) || addItem({m_arena.copy(std::string_view(to))}));
+}
+
+bool ReferenceCell::addName(std::string_view text)
+{
+    if (!isNameText(text)) {
+        return fail(text, QStringLiteral("is no reference: name the part, or delete the row if it is none"));
+    }
+    const auto found = plainNumbered(text);
+    m_prefix = found ? found->prefix : std::string_view();
+    return addItem({text});
+}
+
+bool ReferenceCell::addItem(const ReferenceItem &item)
+{
+    m_isNumeric = m_isNumeric && isNumber(item.text);
+    if (item.last == unreadable || item.last - item.first >= m_limit || m_count + item.count() > m_limit) {
+        return fail(
+            item.text,
+            QStringLiteral("makes more than %1 references in one cell: correct its end").arg(m_limit));
+    }
+    m_items.push_back(item);
+    m_count += item.count();
     return true;
 }
 
-bool ReferenceCell::addSingle(std::string_view text)
+std::vector<std::string_view> ReferenceCell::references()
 {
-    const auto names = [](char c) { return isLetter(c) || isDigit(c); };
-    if (std::ranges::none_of(text, names)) {
-        return fail(text, QStringLiteral("is no reference: name the part, or delete the row if it is none"));
+    std::vector<std::string_view> found;
+    found.reserve(m_count);
+    for (const ReferenceItem &item : m_items) {
+        if (item.prefix.empty()) {
+            found.push_back(item.text);
+            continue;
+        }
+        for (quint64 number = item.first; number <= item.last; ++number) {
+            found.push_back(m_arena.copy(std::string_view(padded(item.prefix, number, item.width))));
+        }
     }
-    if (text.ends_with('-')) {
-        return fail(text, QStringLiteral("is a range without an end"));
-    }
-    if (joinsReferences(text)) {
-        return fail(text, QStringLiteral("is no range that can be read: write its references one by one"));
-    }
-    if (m_references.size() >= m_limit) {
-        return fail(text, QStringLiteral("is one reference too many: a cell may name %1").arg(m_limit));
-    }
-    m_references.push_back(text);
-    return true;
+    return found;
 }
 
 bool ReferenceCell::fail(std::string_view text, const QString &why)
 {
-    m_error = quotedForMessage(text) + u' ' + why;
+    if (m_error.isEmpty()) {
+        m_error = quotedForMessage(text) + u' ' + why;
+    }
     return false;
 }
 

@@ -211,6 +211,41 @@ TEST_F(CsvPartList, WarnsAndGoesOn)
                                ".*no part follows"));
 }
 
+TEST_F(CsvPartList, TakesHyphensForNamesWhereTheListSaysSo)
+{
+    const std::pair<std::string_view, const char *> cases[] = {
+        {"Ref\nJ1-1\nJ1-2\n", "J1-1 J1-2"},
+        {"Ref\nJ1\nJ1-2\n", "J1 J1-2"},
+        {"Ref\nX1-1-X1-3\nX1-5\n", "X1-1 X1-2 X1-3 X1-5"},
+        {"Ref,Qty\n\"X1-2,X1-5\",2\n", "X1-2 X1-5"},
+        {"Ref,Qty\nX1-2,2\n", "X1 X2"},
+        {"Category,References\nJ,X1-2\nR,R7\n", "X1-2 R7"},
+        {"Category,References\nJ,X1-2\nR,\"R7,R8\"\n", "X1 X2 R7 R8"},
+    };
+    for (const auto &[bytes, references] : cases) {
+        const auto design = load(bytes);
+        std::string named;
+        for (const Component &component : design->components()) {
+            named += (named.empty() ? "" : " ") + std::string(component.reference);
+        }
+        EXPECT_EQ(named, references) << bytes;
+    }
+    EXPECT_EQ(
+        warnings(*load("Ref,Value\nR1,1\nR1-4,1\nJ1-1,1\nJ1-2,1\n")),
+        "list.csv:3: \"R1-4\" is the name of one part and no range, because the list has \"R1\" by itself\n");
+}
+
+TEST_F(CsvPartList, LeavesOutRowsThatRepeatTheHeadingsOrSumUp)
+{
+    const auto design =
+        load("Ref,Value\nR1,1k\nRef,Value\nR2,1k\nTotal,5\n,Total: 2 parts\nTOTAL1,x\nSum,adder\n");
+    EXPECT_THAT(described(*design), ElementsAre("R1=1k@2", "R2=1k@4", "TOTAL1=x@7", "Sum=adder@8"));
+    EXPECT_EQ(warnings(*design),
+              "list.csv:3: the row repeats the headings and names no parts: it is left out\n"
+              "list.csv:5: the row sums up (\"Total\") and names no parts: it is left out\n"
+              "list.csv:6: the row sums up (\"Total: 2 parts\") and names no parts: it is left out\n");
+}
+
 TEST_F(CsvPartList, SumsUpEqualWarnings)
 {
     std::string bytes = "Ref,Value\n";
@@ -229,10 +264,10 @@ TEST_F(CsvPartList, CountsReferencesAnew)
         "\xEF\xBB\xBF\"Value\",\"Refs\"\r\"x\",\"C17/18/19 C20/C21, D1/3-5\"\r",
         "Ref;V\nR1 - R3, R5- R6 R8 -9;\nR1,2,5-7,9-R11;\nR08-R11, "
         "R7-R7;\nU1A2-U1A4;\nX1-2;\nR1\u2013R3\u3001R5\u00A0R6;\n",
-        "Ref|V\nJ1-A TP-1 TP-1-2|\nJ4-1, 5-8|\nX1-02 J1-1|\nU1/A CH1/R5 R? J?-2|\n12, 1-4 1.5-2|\nR1.5-8 +5V "
-        "-V #PWR01, #PWR2-4,7 #PWR8/9 #FLG-1 2 #X/Y R3,4|\n",
+        "Ref|V\nJ1-A TP-1 TP-1-2|\nJ4-1|\nX1-02 J1-1|\nU1/A CH1/R5 R? J?-2|\n12|\nR1.5-8, +5V, "
+        "-V, #PWR01, #PWR2-4,7 #PWR8/9 #FLG-1 #X1/Y R3,4|\nR1 to R3, C1..C3 L1~3&L7+L9|\n",
         "Ref\tV\nR1\x96R4\t\n C2\xA0 C3 \t\n",
-        "Ref\n\"R1\n\"\"-J\"\n",
+        "Ref,V\n\"R1\nJ1\",\"a\"\"b\"\n",
         "Value,Ref\n5\"\" cable,W1\n \"x\" , \"W2 W3\" \n",
     };
     for (const std::string_view bytes : lists) {

@@ -52,6 +52,13 @@ TEST(CsvReferences, TakesReferencesApart)
         {"U1A2-U1A4", "U1A2 U1A3 U1A4"},
         {"\u00B5P1-2", "\u00B5P1 \u00B5P2"},
         {"X1-2", "X1 X2"},
+        {"R1 to R3, R5 THRU 7", "R1 R2 R3 R5 R6 R7"},
+        {"R1..R3 C1:C2 L1~3", "R1 R2 R3 C1 C2 L1 L2 L3"},
+        {"R1toR3", "R1 R2 R3"},
+        {"R1+R3&R5 + R7", "R1 R3 R5 R7"},
+        {"R1\uFF1BR2\uFF06R4\uFF5ER6", "R1 R2 R4 R5 R6"},
+        {"X1-1-X1-3,J1.1-J1.2", "X1-1 X1-2 X1-3 J1.1 J1.2"},
+        {"12,13", "12 13"},
     };
     for (const auto &[cell, references] : cases) {
         EXPECT_EQ(named(cell), references) << cell;
@@ -62,8 +69,8 @@ TEST(CsvReferences, LeavesOddNamesWhole)
 {
     // clang-format off
     for (const char *name :
-         {"J1-A", "TP-1", "TP-1-2", "J4-1", "X1-02", "J1-1", "U1/A", "CH1/R5", "R?", "J?-2", "12", "1-4", "1.5-2",
-          "R1.5-8", "R1.5-R1.8", "+5V", "-V", "#PWR01", "U1A", "R99999999999999999999"}) {
+         {"J1-A", "TP-1", "TP-1-2", "J4-1", "X1-02", "J1-1", "U1/A", "CH1/R5", "R?", "J?-2", "12",
+          "R1.5-8", "+5V", "-V", "#PWR01", "U1A", "R99999999999999999999"}) {
         // clang-format on
         EXPECT_EQ(named(name), name);
     }
@@ -74,7 +81,23 @@ TEST(CsvReferences, RefusesUnclearRanges)
     const std::vector<std::pair<std::string, const char *>> cases = {
         {"C1, R4-R1", "\"R4-R1\" is a range that runs backwards"},
         {"R1-C4", "joins different kinds"},
-        {"R1 - A", "\"R1-A\" is no range"},
+        {"R1 - A", "\"R1 - A\" is no range"},
+        {"R 1", "\"R\" is no reference"},
+        {"R1 (2x)", "\"(2x)\" is no reference"},
+        {"R(1-3)", "is no reference"},
+        {"R1 and R3", "\"and\" is no reference"},
+        {"R1 to", "\"to\" is no reference"},
+        {"to R3", "\"to\" is no reference"},
+        {"R1&", "joins nothing"},
+        {"R1..", "without an end"},
+        {"R3:R1", "runs backwards"},
+        {"R1~C3", "different kinds"},
+        {"R08-R9", "differ in their zeros"},
+        {"R1-R3-5", "is no range"},
+        {"R5,foo,12", "\"12\" is no reference"},
+        {"TP-1,2", "\"2\" is no reference"},
+        {"1-4", "is no reference"},
+        {"TP\u20131", "is no range"},
         {"R4 - 1", "is no range"},
         {"12 - 14", "is no range"},
         {"R1-", "without an end"},
@@ -89,7 +112,7 @@ TEST(CsvReferences, RefusesUnclearRanges)
         {"R1-R99999999999999999999999", "more than 100000 references"},
         {"R99999999999999999999-R99999999999999999999", "more than 100000 references"},
         {"R1-R60000,C1-C60000", "\"C1-C60000\" makes more"},
-        {"R1, --", "is no reference"},
+        {"R1, --", "without an end"},
         {"/", "is no reference"},
         {"-", "is no reference"},
         {"R1A-R3B", "\"R1A-R3B\" is no range"},

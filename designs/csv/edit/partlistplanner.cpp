@@ -203,7 +203,7 @@ void PartListPlanner::writeRow(std::string *out, std::size_t row)
 std::vector<PartListPlanner::Group> PartListPlanner::groupsOf(std::size_t row)
 {
     const std::span<const CsvCell> cells = m_file.cells(m_file.rows()[row]);
-    ReferenceCell cell(m_arena);
+    ReferenceCell cell(m_arena, m_list.isName());
     static_cast<void>(cell.read(m_file.text(cells[m_list.columns().reference], m_arena)));
     std::vector<Group> groups(1);
     std::unordered_map<std::string, std::size_t> known = {{std::string(), 0}};
@@ -256,7 +256,7 @@ bool PartListPlanner::nameReferences(const CsvRow &record, std::vector<Group> *g
     for (const Group &group : *groups) {
         all += group.references.size();
     }
-    const ReferenceStyle style(cell, all);
+    const ReferenceStyle style(cell, all, m_list.isName());
     for (Group &group : *groups) {
         const auto text = style.text(group.references);
         if (!text) {

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/edit/referencestyle.h"
 
-#include "designs/csv/referencecell.h"
-
 #include <algorithm>
 #include <charconv>
 
@@ -78,31 +76,33 @@ std::string joined(const std::vector<std::string_view> &references, const std::s
     return text;
 }
 
-bool names(const std::string &text, const std::vector<std::string_view> &references)
-{
-    TextArena arena;
-    ReferenceCell cell(arena);
-    return cell.read(text) && cell.references() == references;
-}
-
 } // namespace
 
-ReferenceStyle::ReferenceStyle(std::string_view cell, std::size_t references)
+ReferenceStyle::ReferenceStyle(std::string_view cell, std::size_t references, ReferenceCell::IsName isName)
     : m_separator(separatorOf(cell))
     , m_hasRanges(hasRanges(cell, references))
+    , m_isName(std::move(isName))
 {
 }
 
 std::optional<std::string> ReferenceStyle::text(const std::vector<std::string_view> &references) const
 {
-    if (m_hasRanges) {
-        std::string text = joined(references, m_separator, true);
-        if (names(text, references)) {
-            return text;
+    for (const bool withRanges : {m_hasRanges, false}) {
+        for (const std::string &separator : {m_separator, std::string(",")}) {
+            std::string text = joined(references, separator, withRanges);
+            if (names(text, references)) {
+                return text;
+            }
         }
     }
-    std::string text = joined(references, m_separator, false);
-    return names(text, references) ? std::optional(std::move(text)) : std::nullopt;
+    return std::nullopt;
+}
+
+bool ReferenceStyle::names(const std::string &text, const std::vector<std::string_view> &references) const
+{
+    TextArena arena;
+    ReferenceCell cell(arena, m_isName);
+    return cell.read(text) && cell.references() == references;
 }
 
 } // namespace designs
