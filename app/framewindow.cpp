@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
@@ -206,7 +207,7 @@ void FrameWindow::restorePlace()
 {
     const QString place = HostSettings::current().value(settingsGroup(), placeKey()).value_or(QString());
     if (!restoreGeometry(QByteArray::fromBase64(place.toLatin1()))) {
-        resize(firstSize);
+        resize(firstSize.boundedTo(screen()->availableSize()));
     }
 }
 

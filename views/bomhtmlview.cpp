@@ -19,6 +19,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <utility>
+
 BOMHTMLView::BOMHTMLView(QWidget *parent)
     : BOMView(parent)
 {
@@ -120,6 +122,10 @@ void BOMHTMLView::handleBOMDataUpdate()
 {
     if (!isValid()) {
         return;
+    }
+    const QString design = designOf(*database()).file;
+    if (std::exchange(m_shownDesign, design) != design) {
+        textEdit()->goToTop();
     }
     textEdit()->loadDocument(html());
     textEdit()->document()->setTitle(::htmlText(database()->designTitle()));

@@ -53,7 +53,7 @@ public Q_SLOTS:
     /// Asks for a file, writes the document and hands it to the desktop. The user is told when it cannot be
     /// written; the old file then stays.
     void saveHTML();
-    /// Makes the document anew and shows it.
+    /// Makes the document anew and shows it, from its top on when it is that of another design.
     void handleBOMDataUpdate() override;
     /// Edits the template's style sheet, with the report as preview.
     void editStyleTemplate();
@@ -76,6 +76,8 @@ private:
     void takeTemplate(const BOMTemplate &changed);
 
     QStringList m_toldNotices;
+    /// The file of the design that is shown.
+    QString m_shownDesign;
     TextEdit *m_textEdit = nullptr;
     bool m_hasReport = false;
     TextStyleEditor *m_styleEditor = nullptr;

@@ -63,6 +63,12 @@ void TextEdit::loadDocument(const QString &xhtml)
     }
 }
 
+void TextEdit::goToTop()
+{
+    verticalScrollBar()->setValue(0);
+    horizontalScrollBar()->setValue(0);
+}
+
 void TextEdit::setPageFragments(const QString &header, const QString &footer)
 {
     m_pageHeader = header;
@@ -140,7 +146,11 @@ QString TextEdit::finishPdf()
 void TextEdit::showEvent(QShowEvent *event)
 {
     m_document->show();
+    // Qt scrolls to the cursor, in a viewport that may not have its size yet: the title would be out of
+    // sight.
+    const int place = verticalScrollBar()->value();
     QTextEdit::showEvent(event);
+    verticalScrollBar()->setValue(place);
 }
 
 void TextEdit::mouseMoveEvent(QMouseEvent *event)

@@ -26,6 +26,9 @@ public:
     /// is gone; the place that the view was scrolled to stays.
     void loadDocument(const QString &xhtml);
 
+    /// Scrolls back, for a document that is not the old one made anew.
+    void goToTop();
+
     /// The document shown, never null; owned by the widget.
     [[nodiscard]] TextDocument *document() const { return m_document; }
 

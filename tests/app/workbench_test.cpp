@@ -9,6 +9,7 @@
 #include <QDragEnterEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QScreen>
 
 TEST_F(WorkbenchTest, TellsWhatToDoUntilADesignIsOpen)
 {
@@ -144,6 +145,13 @@ TEST_F(WorkbenchTest, SaysThatAModuleCannotStartOrHasNoWindow)
     ASSERT_EQ(ui.warnings.size(), 1);
     EXPECT_TRUE(ui.warnings[0].text.contains(QStringLiteral("\"ABC\"")));
     qunsetenv("OTHER_MODULE_NAME");
+}
+
+TEST(FrameWindowTest, IsNoLargerThanTheScreen)
+{
+    const FrameWindow window;
+    const QSize screen = window.screen()->availableSize();
+    EXPECT_EQ(window.size().boundedTo(screen), window.size());
 }
 
 TEST(FrameWindowTest, PutsTheHelpOfAModuleIntoItsOwn)

@@ -152,6 +152,24 @@ TEST_F(HtmlView, ShowsTheDocumentOnlyWhenItsTabIsVisible)
     EXPECT_EQ(view.textEdit()->focusPolicy(), Qt::WheelFocus);
 }
 
+TEST_F(HtmlView, KeepsItsPlaceUntilAnotherDesignIsShown)
+{
+    for (int i = 2; i < 60; ++i) {
+        netlist.add(u"R%1"_s.arg(i).toUtf8(), u"%1k"_s.arg(i).toUtf8());
+    }
+    view.resize(300, 200);
+    view.show();
+    QScrollBar &bar = *view.textEdit()->verticalScrollBar();
+    database.reload();
+    view.handleBOMDataUpdate();
+    bar.setValue(150);
+    view.handleBOMDataUpdate();
+    EXPECT_EQ(bar.value(), 150);
+    process.design.info.insert("FILENAME", u"/designs/other/other.kicad_sch"_s);
+    view.handleBOMDataUpdate();
+    EXPECT_EQ(bar.value(), 0);
+}
+
 TEST_F(HtmlView, SavesWhatItShows)
 {
     ui.fileName = folder.filePath(u"a.html"_s);
