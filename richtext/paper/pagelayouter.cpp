@@ -3,6 +3,8 @@
 #include "richtext/paper/pagelayouter.h"
 
 #include "richtext/css/stylesheet.h"
+#include "richtext/paper/strip.h"
+#include "richtext/paper/widestrows.h"
 #include "richtext/xhtml/qthtmlwriter.h"
 #include "richtext/xhtml/selfcontaineddocument.h"
 #include "richtext/xhtml/xhtmlparts.h"
@@ -23,17 +25,6 @@ namespace {
 
 /// Each moved section lays the rest out again; later ones stay where they are.
 constexpr int mostMovedSections = 200;
-
-std::vector<QTextTable *> tablesOf(const QTextDocument &document)
-{
-    std::vector<QTextTable *> tables;
-    for (QTextFrame *frame : document.rootFrame()->childFrames()) {
-        if (auto *table = qobject_cast<QTextTable *>(frame)) {
-            tables.push_back(table);
-        }
-    }
-    return tables;
-}
 
 QRectF cellRect(const QTextDocument &document, const QTextTableCell &cell)
 {
@@ -107,11 +98,12 @@ QList<QTextLength> columnWidths(const QTextDocument &document, const QTextTable 
 
 /// Gives the tables of `pages` that are one table in `whole` the columns that they have there. Both documents
 /// have their tables in the same order; a table of `whole` stands for those after it that have as many
-/// columns.
-void shareColumns(QTextDocument &pages, const QTextDocument &whole)
+/// columns. Of a table with headings `whole` may lack rows. `pages` begins behind the `first` tables of
+/// `whole`.
+void shareColumns(QTextDocument &pages, const QTextDocument &whole, bool lacksRows, size_t first)
 {
     const std::vector<QTextTable *> wholes = tablesOf(whole);
-    auto source = wholes.begin();
+    auto source = wholes.begin() + std::ptrdiff_t(std::min(first, wholes.size()));
     QList<QTextLength> widths;
     const QTextTable *measured = nullptr;
     for (QTextTable *table : tablesOf(pages)) {
@@ -125,7 +117,10 @@ void shareColumns(QTextDocument &pages, const QTextDocument &whole)
             measured = *source;
             widths = columnWidths(whole, *measured);
         }
-        if (table->rows() < measured->rows() && !widths.isEmpty()) {
+        const bool isPart = lacksRows
+                                ? table->format().headerRowCount() > 0 || table->rows() != measured->rows()
+                                : table->rows() < measured->rows();
+        if (isPart && !widths.isEmpty()) {
             QTextTableFormat format = table->format();
             format.setColumnWidthConstraints(widths);
             table->setFormat(format);
@@ -163,12 +158,6 @@ void keepHeadingsWithRows(QTextDocument &document, double pageHeight)
             table->setFormat(format);
         }
     }
-}
-
-/// The PDF engine writes addresses as they stand, between brackets, so that a bracket in one would end it.
-QString encodedAddress(const QString &address)
-{
-    return QString::fromLatin1(address.toUtf8().toPercentEncoding("!#$%&'*+,/:;=?@[]~"));
 }
 
 void encodeAddresses(QTextDocument &document)
@@ -236,40 +225,62 @@ void changeAtOnce(QTextDocument &document, Changes changes)
     cursor.endEditBlock();
 }
 
-void fill(QTextDocument &document, const QString &html, QPaintDevice &device)
-{
-    document.setUndoRedoEnabled(false);
-    document.setDocumentMargin(0);
-    setQtHtml(document, html);
-    document.documentLayout()->setPaintDevice(&device);
-}
-
 } // namespace
 
-void layOutStrip(QTextDocument &document, const QString &xhtml, const StyleSheet &css, QPaintDevice &device,
-                 double width)
+std::vector<QTextTable *> tablesOf(const QTextDocument &document)
 {
-    fill(document, toQtHtml(xhtml, css, Medium::Window), device);
-    document.setTextWidth(width);
+    std::vector<QTextTable *> tables;
+    for (QTextFrame *frame : document.rootFrame()->childFrames()) {
+        if (auto *table = qobject_cast<QTextTable *>(frame)) {
+            tables.push_back(table);
+        }
+    }
+    return tables;
+}
+
+QString encodedAddress(const QString &address)
+{
+    return QString::fromLatin1(address.toUtf8().toPercentEncoding("!#$%&'*+,/:;=?@[]~"));
 }
 
 // QTextDocument repeats the head of a table on every page, but a table has one head only, and the report's
 // tables have one for each category. So every section of a table becomes a table. What the sections lose by
-// that is put back: the columns they had in common are measured in a second document with whole tables, and a
-// section whose first row would not stand on the page of its title is moved to the next page, from the first
-// one on, because each move lays out all that follows. Column widths must be set before the pages are made,
-// or rows would be measured with the wrong heights.
-void layOutPages(QTextDocument &document, const QString &xhtml, QPaintDevice &device, const QSizeF &page)
+// that is put back: the columns they had in common are measured in a second document with whole tables, of
+// long ones only with the rows that make the columns wide, and a section whose first row would not stand on
+// the page of its title is moved to the next page, from the first one on, because each move lays out all that
+// follows. Column widths must be set before the pages are made, or rows would be measured with the wrong
+// heights.
+PageLayouter::PageLayouter(const QString &xhtml, QPaintDevice &device, double width)
+    : m_device(device)
+    , m_width(width)
+    , m_css(std::make_unique<StyleSheet>(splitXhtml(xhtml).css))
+    , m_whole(std::make_unique<SelfContainedDocument>())
 {
-    const StyleSheet css(splitXhtml(xhtml).css);
-    SelfContainedDocument whole;
-    layOutStrip(whole, xhtml, css, device, page.width());
-    fill(document, toQtHtml(xhtml, css, Medium::Pages), device);
+    const QString widest = withWidestRows(xhtml, *m_css, device);
+    m_lacksRows = widest.size() != xhtml.size();
+    layOutStrip(*m_whole, widest, *m_css, device, width);
+}
+
+PageLayouter::~PageLayouter() = default;
+
+void PageLayouter::layOut(QTextDocument &document, const QString &xhtml, double pageHeight,
+                          size_t tablesBefore) const
+{
+    fillDocument(document, toQtHtml(xhtml, *m_css, Medium::Pages), m_device);
     changeAtOnce(document, [&] {
         encodeAddresses(document);
         giveBackgroundsToCells(document);
-        shareColumns(document, whole);
+        shareColumns(document, *m_whole, m_lacksRows, tablesBefore);
     });
-    document.setPageSize(page);
-    keepHeadingsWithRows(document, page.height());
+    if (pageHeight > 0) {
+        document.setPageSize(QSizeF(m_width, pageHeight));
+        keepHeadingsWithRows(document, pageHeight);
+    } else {
+        document.setTextWidth(m_width);
+    }
+}
+
+void layOutPages(QTextDocument &document, const QString &xhtml, QPaintDevice &device, const QSizeF &page)
+{
+    PageLayouter(xhtml, device, page.width()).layOut(document, xhtml, page.height());
 }

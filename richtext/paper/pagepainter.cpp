@@ -3,7 +3,9 @@
 #include "richtext/paper/pagepainter.h"
 
 #include "host/framework/hostui.h"
+#include "richtext/paper/longtable.h"
 #include "richtext/paper/pagelayouter.h"
+#include "richtext/paper/strip.h"
 #include "richtext/xhtml/xhtmlparts.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -49,6 +51,8 @@ PagePainter::PagePainter(const PagedText &text)
     m_date = ui.locale().toString(ui.now().date(), QLocale::ShortFormat);
 }
 
+PagePainter::~PagePainter() = default;
+
 int PagePainter::layOut(QPagedPaintDevice &device)
 {
     m_device = &device;
@@ -59,8 +63,11 @@ int PagePainter::layOut(QPagedPaintDevice &device)
     const double bottom = m_footer.height + gapFor(m_footer.height, device);
     // Whole pixels: the pages of a document stand one under the other.
     m_textArea = QRectF(0, std::ceil(top), page.width(), std::floor(page.height() - std::ceil(top) - bottom));
-    layOutPages(m_document, m_text.xhtml, device, m_textArea.size());
-    m_pages = std::max(m_document.pageCount(), 1);
+    m_longTable = LongTable::layOut(m_text.xhtml, device, m_textArea.size());
+    if (!m_longTable) {
+        layOutPages(m_document, m_text.xhtml, device, m_textArea.size());
+    }
+    m_pages = std::max(m_longTable ? m_longTable->pageCount() : m_document.pageCount(), 1);
     return m_pages;
 }
 
@@ -128,7 +135,12 @@ void PagePainter::paintPage(QPainter &painter, int page)
     const QRectF part(0, (page - 1) * m_textArea.height(), m_textArea.width(), m_textArea.height());
     painter.save();
     painter.translate(0, m_textArea.top() - part.top());
-    drawDocument(painter, m_document, part);
+    if (m_longTable) {
+        painter.setClipRect(part, Qt::IntersectClip);
+        m_longTable->draw(painter, page - 1);
+    } else {
+        drawDocument(painter, m_document, part);
+    }
     painter.restore();
 }
 

@@ -10,6 +10,9 @@
 
 #include <optional>
 
+#include <memory>
+
+class LongTable;
 class QPagedPaintDevice;
 class QPainter;
 
@@ -32,6 +35,9 @@ class PagePainter final
 {
 public:
     explicit PagePainter(const PagedText &text);
+    PagePainter(const PagePainter &) = delete;
+    PagePainter &operator=(const PagePainter &) = delete;
+    ~PagePainter();
 
     /// Breaks it for the device's page; returns the number of pages, at least 1. The device must stay until
     /// the painting is done.
@@ -62,6 +68,8 @@ private:
     PagedText m_text;
     StyleSheet m_css;
     QString m_date;
+    /// A document with a long table; otherwise null, and the document holds the pages.
+    std::unique_ptr<LongTable> m_longTable;
     SelfContainedDocument m_document;
     QPagedPaintDevice *m_device = nullptr;
     /// The part of the page for the text, in the device's pixels.

@@ -5,7 +5,10 @@
 #include "richtext/css/cssvalue.h"
 #include "richtext/css/stylesheet.h"
 #include "richtext/documents.h"
+#include "richtext/paper/longtable.h"
 #include "richtext/paper/pagegeometry.h"
+#include "richtext/paper/pagelayouter.h"
+#include "richtext/paper/pdfoutput.h"
 #include "support/pdftext.h"
 #include "support/printtext.h"
 #include "support/scriptedprintui.h"
@@ -85,11 +88,13 @@ TEST_F(Edit, OpensLinksWithMouseAndKeyboard)
     EXPECT_EQ(opened.size(), 2);
 }
 
-TEST_F(Edit, KeepsItsPlaceWhenTheDocumentIsMadeAnew)
+TEST_F(Edit, OpensAtTheTopAndKeepsItsPlaceWhenTheDocumentIsMadeAnew)
 {
-    edit.resize(300, 200);
+    // Before a window is laid out, its parts are small.
+    edit.resize(300, 20);
     edit.loadDocument(page(sheet, longTable()));
     edit.show();
+    edit.resize(300, 200);
     EXPECT_EQ(edit.verticalScrollBar()->value(), 0);
     edit.verticalScrollBar()->setValue(150);
     edit.document()->loadCss(u"p { color: red; }"_s, true);
@@ -136,6 +141,27 @@ TEST_F(Edit, PrintsPagesWithHeadingsAndFragments)
     printUi.printFile.clear();
     EXPECT_FALSE(edit.print(painter));
     EXPECT_FALSE(painter.isActive());
+}
+
+TEST(LongTableTest, HasThePagesThatOneDocumentHas)
+{
+    QString rows;
+    for (int i = 0; i < 400; ++i) {
+        rows += u"<tr><td><p>%1</p></td><td><p>%2</p></td></tr>"_s.arg(i).arg(u"word "_s.repeated(i % 90));
+    }
+    const QString section =
+        u"<tbody><tr><th><p>Heading</p></th><th><p>Other</p></th></tr>"_s + rows + u"</tbody>"_s;
+    const QString body = u"<p>before</p><table>"_s + section + section + u"</table><p>after</p>"_s;
+    const QString xhtml = page(sheet + u"p { margin: 0pt; }"_s, body);
+    PdfOutput output(pageLayout(StyleSheet(sheet)), {});
+    const QSizeF size(output.device().width(), output.device().height());
+    const auto table = LongTable::layOut(xhtml, output.device(), size);
+    ASSERT_TRUE(table);
+    QTextDocument document;
+    layOutPages(document, xhtml, output.device(), size);
+    EXPECT_EQ(table->pageCount(), document.pageCount());
+    // What only QTextDocument knows is left to it.
+    EXPECT_FALSE(LongTable::layOut(page(sheet, body), output.device(), size));
 }
 
 TEST_F(Edit, NeverLeavesAHeadingAloneAtTheFootOfAPage)

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "richtext/paper/strip.h"
+
+#include "richtext/xhtml/qthtmlwriter.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QTextDocument>
+
+void fillDocument(QTextDocument &document, const QString &html, QPaintDevice &device)
+{
+    document.setUndoRedoEnabled(false);
+    document.setDocumentMargin(0);
+    setQtHtml(document, html);
+    document.documentLayout()->setPaintDevice(&device);
+}
+
+void layOutStrip(QTextDocument &document, const QString &xhtml, const StyleSheet &css, QPaintDevice &device,
+                 double width)
+{
+    fillDocument(document, toQtHtml(xhtml, css, Medium::Window), device);
+    document.setTextWidth(width);
+}

@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class QPaintDevice;
+class QTextDocument;
+class StyleSheet;
+
+/// Fills a document with HTML as QTextDocument reads it, to be laid out for a device.
+void fillDocument(QTextDocument &document, const QString &html, QPaintDevice &device);
+
+/// Fills `document` with an XHTML document on one page of that width and any height.
+void layOutStrip(QTextDocument &document, const QString &xhtml, const StyleSheet &css, QPaintDevice &device,
+                 double width);
