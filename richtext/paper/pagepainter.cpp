@@ -6,6 +6,7 @@
 #include "richtext/paper/longtable.h"
 #include "richtext/paper/pagelayouter.h"
 #include "richtext/paper/strip.h"
+#include "richtext/xhtml/qthtmlwriter.h"
 #include "richtext/xhtml/xhtmlparts.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -109,10 +110,9 @@ void PagePainter::layOutEdge(Edge &edge, int page, int pages)
     edge.shown = shown;
     edge.document.emplace();
     edge.document->shareImages(m_document);
-    layOutStrip(*edge.document,
-                QStringLiteral("<html><head><style type=\"text/css\"></style></head><body>") + shown +
-                    QStringLiteral("</body></html>"),
-                m_css, *m_device, m_device->width());
+    const QString xhtml = QStringLiteral("<html><head><style type=\"text/css\"></style></head><body>") +
+                          shown + QStringLiteral("</body></html>");
+    layOutStrip(*edge.document, toQtHtml(xhtml, *edge.style, Medium::Window), *m_device, m_device->width());
 }
 
 void PagePainter::measureEdge(Edge &edge)
@@ -122,6 +122,9 @@ void PagePainter::measureEdge(Edge &edge)
     edge.height = 0;
     if (edge.fragment.trimmed().isEmpty()) {
         return;
+    }
+    if (!edge.style) {
+        edge.style.emplace(m_css, largestLengths(edge.fragment));
     }
     constexpr int widePageNumber = 999;
     layOutEdge(edge, widePageNumber, widePageNumber);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "richtext/css/stylesheet.h"
+#include "richtext/xhtml/qtstylesheet.h"
 #include "richtext/xhtml/selfcontaineddocument.h"
 
 #include <QRectF>
@@ -55,6 +56,7 @@ private:
         /// With placeholders.
         QString fragment;
         double height = 0;
+        std::optional<QtStyleSheet> style;
         /// What the document shows; nothing before the first time.
         QString shown;
         std::optional<SelfContainedDocument> document;

@@ -15,9 +15,14 @@ void fillDocument(QTextDocument &document, const QString &html, QPaintDevice &de
     document.documentLayout()->setPaintDevice(&device);
 }
 
+void layOutStrip(QTextDocument &document, const QString &qtHtml, QPaintDevice &device, double width)
+{
+    fillDocument(document, qtHtml, device);
+    document.setTextWidth(width);
+}
+
 void layOutStrip(QTextDocument &document, const QString &xhtml, const StyleSheet &css, QPaintDevice &device,
                  double width)
 {
-    fillDocument(document, toQtHtml(xhtml, css, Medium::Window), device);
-    document.setTextWidth(width);
+    layOutStrip(document, toQtHtml(xhtml, css, Medium::Window), device, width);
 }

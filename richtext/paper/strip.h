@@ -11,6 +11,9 @@ class StyleSheet;
 /// Fills a document with HTML as QTextDocument reads it, to be laid out for a device.
 void fillDocument(QTextDocument &document, const QString &html, QPaintDevice &device);
 
+/// Fills `document` with Qt HTML on one page of that width and any height.
+void layOutStrip(QTextDocument &document, const QString &qtHtml, QPaintDevice &device, double width);
+
 /// Fills `document` with an XHTML document on one page of that width and any height.
 void layOutStrip(QTextDocument &document, const QString &xhtml, const StyleSheet &css, QPaintDevice &device,
                  double width);

@@ -53,18 +53,40 @@ public:
         if (std::none_of(tag.text.begin(), tag.text.end(), [](QChar c) { return c.isDigit(); })) {
             return;
         }
-        const double largestOfStyle = std::min(m_largest.box, m_largest.font);
-        replace(tag, u"style",
-                [&](const QString &value) { return css::withLengthsUpTo(value, largestOfStyle); });
+        replace(tag, u"style", [&](const QString &value) { return limitedStyle(value); });
         for (const QStringView name :
              {u"width", u"height", u"size", u"border", u"cellpadding", u"cellspacing"}) {
             replace(tag, name, [&](const QString &value) {
-                return value.toDouble() > m_largest.box ? QString::number(m_largest.box, 'f', 0) : value;
+                const double length = value.toDouble();
+                return length > m_largest.box && (length > LargestLengths().box || !isSpare(length))
+                           ? QString::number(m_largest.box, 'f', 0)
+                           : value;
             });
         }
     }
 
 private:
+    QString limitedStyle(const QString &style)
+    {
+        // The largest one that a style may have, above and below, with its paddings.
+        constexpr double most = LargestLengths().font;
+        constexpr int lengthsOfStyle = 6;
+        const QString limited = css::withLengthsUpTo(style, std::min(m_largest.box, m_largest.font));
+        return limited != style && isSpare(most * lengthsOfStyle)
+                   ? css::withLengthsUpTo(style, std::min(most, m_largest.font))
+                   : limited;
+    }
+
+    /// Few large lengths do no harm in a large document.
+    bool isSpare(double length)
+    {
+        if (length > m_spare) {
+            return false;
+        }
+        m_spare -= length;
+        return true;
+    }
+
     template<typename Change>
     void replace(Tag &tag, QStringView name, Change change)
     {
@@ -79,6 +101,8 @@ private:
     }
 
     LargestLengths m_largest;
+    /// In pixels.
+    double m_spare = 200'000;
     /// Of a deque the members stay where they are.
     std::deque<QString> m_texts;
 };
@@ -94,11 +118,11 @@ private:
 class BodyWriter final
 {
 public:
-    BodyWriter(QStringView body, const QtStyleSheet &style, Medium medium, const LargestLengths &largest)
+    BodyWriter(QStringView body, const QtStyleSheet &style, Medium medium)
         : m_tags(body)
         , m_style(style)
         , m_medium(medium)
-        , m_lengths(largest)
+        , m_lengths(style.largest())
     {
         m_result.reserve(body.size() + body.size() / 4);
     }
@@ -308,18 +332,27 @@ void dropRelativeSizes(const QTextBlock &block)
     }
 }
 
+/// Previews draw soft hyphens everywhere; the space without width that follows is enough to break a line.
+QString breakableBody(const XhtmlParts &parts)
+{
+    return bodyOf(parts.tail).toString().replace(QStringLiteral("&shy;&#8203;"), QStringLiteral("&#8203;"));
+}
+
 } // namespace
 
 QString toQtHtml(const QString &xhtml, const StyleSheet &css, Medium medium, const QString &highlighted)
 {
     const XhtmlParts parts = splitXhtml(xhtml);
-    // Previews draw soft hyphens everywhere; the space without width that follows is enough to break a line.
-    const QString body =
-        bodyOf(parts.tail).toString().replace(QStringLiteral("&shy;&#8203;"), QStringLiteral("&#8203;"));
-    const LargestLengths largest = largestLengths(body);
-    const QtStyleSheet style(css, largest);
+    const QString body = breakableBody(parts);
+    const QtStyleSheet style(css, largestLengths(body));
     return joinXhtml(parts, style.text() + highlightRule(highlighted),
-                     BodyWriter(body, style, medium, largest).write());
+                     BodyWriter(body, style, medium).write());
+}
+
+QString toQtHtml(const QString &xhtml, const QtStyleSheet &style, Medium medium)
+{
+    const XhtmlParts parts = splitXhtml(xhtml);
+    return joinXhtml(parts, style.text(), BodyWriter(breakableBody(parts), style, medium).write());
 }
 
 void setQtHtml(QTextDocument &document, const QString &html)

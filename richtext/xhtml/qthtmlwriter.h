@@ -5,6 +5,7 @@
 #include <QString>
 
 class QTextDocument;
+class QtStyleSheet;
 class StyleSheet;
 
 // Qt HTML is what QTextDocument reads: HTML 4 with few properties of CSS, most of them for table cells only.
@@ -23,6 +24,9 @@ enum class Medium
 /// or empty.
 [[nodiscard]] QString toQtHtml(const QString &xhtml, const StyleSheet &css, Medium medium,
                                const QString &highlighted = {});
+
+/// The same in a look that was translated before, for documents that are made again and again.
+[[nodiscard]] QString toQtHtml(const QString &xhtml, const QtStyleSheet &style, Medium medium);
 
 /// Fills a document with what toQtHtml() made. The font sizes that the style sheet gives headings count; with
 /// QTextDocument::setHtml() alone those that headings have without a style sheet would win.

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -43,6 +44,57 @@ QString inUnit(const QString &value, QLatin1String unit, double pointsPerUnit)
     }
     return result + value.mid(copied);
 }
+
+/// What elements have for themselves, in pixels: others inside do not take it over.
+bool isOfElementOnly(const QString &property)
+{
+    return isBoxProperty(property) || property.startsWith(QLatin1String("margin"));
+}
+
+/// A class that few elements have, such as that of headers, may have large boxes in large documents too, as
+/// long as all of these classes together fill no more than so many pixels.
+class LargeBoxes final
+{
+public:
+    explicit LargeBoxes(const LargestLengths &largest)
+        : m_largest(largest)
+    {
+    }
+
+    /// The largest length of the boxes that a rule gives.
+    [[nodiscard]] double largestOf(const QString &selector)
+    {
+        static const QRegularExpression pattern(QStringLiteral("^\\w*\\.([\\w-]+)$"));
+        constexpr double most = LargestLengths().box;
+        const QString name = m_largest.box < most ? pattern.match(selector).captured(1) : QString();
+        if (name.isEmpty() || m_largest.body.isEmpty() || hasHiddenNames()) {
+            return m_largest.box;
+        }
+        // Text that is no class counts as well; there is no harm in that.
+        const double pixels = double(m_largest.body.count(name, Qt::CaseInsensitive) + 1) * most;
+        if (pixels > m_left) {
+            return m_largest.box;
+        }
+        m_left -= pixels;
+        return most;
+    }
+
+private:
+    /// Whether a class is written with character references, so that its name is not found.
+    [[nodiscard]] bool hasHiddenNames()
+    {
+        static const QRegularExpression hidden(QStringLiteral("\\bclass\\s*=\\s*(\"[^\"&]*&|'[^'&]*&)"),
+                                               QRegularExpression::CaseInsensitiveOption);
+        if (!m_hasHiddenNames) {
+            m_hasHiddenNames = hidden.match(m_largest.body).hasMatch();
+        }
+        return *m_hasHiddenNames;
+    }
+
+    LargestLengths m_largest;
+    std::optional<bool> m_hasHiddenNames;
+    double m_left = 100'000;
+};
 
 QString translated(const StyleSheet::Declaration &declaration, const LargestLengths &largest)
 {
@@ -117,14 +169,16 @@ struct Declarations
     bool hasBox = false;
 };
 
-Declarations translatedDeclarations(const StyleSheet::Rule &rule, const LargestLengths &largest)
+Declarations translatedDeclarations(const StyleSheet::Rule &rule, const LargestLengths &largest,
+                                    double largestBox)
 {
     Declarations result;
     for (const StyleSheet::Declaration &declaration : rule.declarations) {
         if (isPageMargin(rule, declaration)) {
             continue;
         }
-        const QString text = translated(declaration, largest);
+        const QString text = translated(
+            declaration, {isOfElementOnly(declaration.property) ? largestBox : largest.box, largest.font});
         const bool isBox = isBoxProperty(declaration.property);
         result.hasBox = result.hasBox || isBox;
         result.all += text;
@@ -166,20 +220,22 @@ LargestLengths largestLengths(QStringView body)
     const double tags = double(body.count(u'<')) + 1;
     const double characters = double(body.size()) + 1;
     return {std::clamp(allBoxes / tags, 20.0, 1000.0),
-            std::clamp(std::sqrt(allText / characters), 32.0, 400.0)};
+            std::clamp(std::sqrt(allText / characters), 32.0, 400.0), body};
 }
 
 QtStyleSheet::QtStyleSheet(const StyleSheet &css, const LargestLengths &largest)
-    : m_text(headingRules(css))
-    , m_largest(largest.box)
+    : m_largest{largest.box, largest.font}
+    , m_text(headingRules(css))
 {
+    LargeBoxes boxes(largest);
     QSet<QString> known;
     for (const StyleSheet::Rule &rule : firstRules(css.rules())) {
         const QString tag = paragraphTag(rule.selector);
         const bool isFirst = !known.contains(rule.selector);
         known.insert(rule.selector);
         const double margin = isFirst ? defaultMargin(rule, tag) : 0;
-        const Declarations declarations = translatedDeclarations(rule, largest);
+        const double largestBox = boxes.largestOf(rule.selector);
+        const Declarations declarations = translatedDeclarations(rule, largest, largestBox);
         m_text += rule.selector + QStringLiteral(" { ") + defaultMarginDeclarations(margin) +
                   declarations.all + QStringLiteral("}\n");
         const qsizetype dot = rule.selector.indexOf(u'.');
@@ -196,7 +252,7 @@ QtStyleSheet::QtStyleSheet(const StyleSheet &css, const LargestLengths &largest)
             m_marginsAbove.insert(name, margin);
             m_marginsBelow.insert(name, margin);
         }
-        readMargins(rule, name);
+        readMargins(rule, name, largestBox);
     }
 }
 
@@ -206,15 +262,15 @@ bool QtStyleSheet::holds(const StyleSheet &css)
     return firstRules(rules).size() == rules.size();
 }
 
-void QtStyleSheet::readMargins(const StyleSheet::Rule &rule, const QString &name)
+void QtStyleSheet::readMargins(const StyleSheet::Rule &rule, const QString &name, double largest)
 {
     using cssbox::Side;
     const cssbox::Lengths lengths = cssbox::lengths(cssbox::Family::Margin, rule, fontSize(rule), 0);
     if (const std::optional<double> above = lengths[size_t(Side::Top)]) {
-        m_marginsAbove.insert(name, std::clamp(*above / pointsPerPixel, 0.0, m_largest));
+        m_marginsAbove.insert(name, std::clamp(*above / pointsPerPixel, 0.0, largest));
     }
     if (const std::optional<double> below = lengths[size_t(Side::Bottom)]) {
-        m_marginsBelow.insert(name, std::clamp(*below / pointsPerPixel, 0.0, m_largest));
+        m_marginsBelow.insert(name, std::clamp(*below / pointsPerPixel, 0.0, largest));
     }
 }
 

@@ -16,6 +16,8 @@ struct LargestLengths
 {
     double box = 1000;
     double font = 400;
+    /// The body that they are for.
+    QStringView body = {};
 };
 [[nodiscard]] LargestLengths largestLengths(QStringView body);
 
@@ -29,6 +31,8 @@ public:
     /// Whether all rules of a style sheet are taken over; of a very long one only the first are.
     [[nodiscard]] static bool holds(const StyleSheet &css);
 
+    /// The limits of the documents that it is for.
+    [[nodiscard]] LargestLengths largest() const { return m_largest; }
     [[nodiscard]] const QString &text() const { return m_text; }
 
     /// Whether a paragraph of that class has a padding or border, which its cell then has to get: the style
@@ -39,10 +43,10 @@ public:
     [[nodiscard]] double marginBelow(QStringView className) const;
 
 private:
-    void readMargins(const StyleSheet::Rule &rule, const QString &name);
+    void readMargins(const StyleSheet::Rule &rule, const QString &name, double largest);
 
+    LargestLengths m_largest;
     QString m_text;
-    double m_largest = 0;
     QSet<QString> m_boxes;
     QHash<QString, double> m_marginsAbove;
     QHash<QString, double> m_marginsBelow;

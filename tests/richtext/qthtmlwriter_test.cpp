@@ -151,6 +151,29 @@ TEST(QtHtml, StandsMarkupThatIsNone)
     }
 }
 
+TEST(QtHtml, KeepsFewLargeLengthsInLargeDocuments)
+{
+    const QString css = u"p.Head { margin-left: 200px; } p.cell { margin-left: 200px; }"_s;
+    const QString html = toQtHtml(
+        page(css, u"<p class=\"Head\" style=\"margin-top: 70px\"><img width=\"200\" /></p><table>"_s +
+                      u"<tr><td width=\"200\"><p class=\"cell\">x</p></td></tr>"_s.repeated(10'000) +
+                      u"</table>"_s),
+        StyleSheet(css), Medium::Window);
+    for (const char *text : {"p.Head { margin-left: 200px", "margin-top: 70px", "<img width=\"200\""}) {
+        EXPECT_TRUE(html.contains(QLatin1String(text))) << text;
+    }
+    EXPECT_FALSE(html.contains(u"p.cell { margin-left: 200px"_s));
+    EXPECT_LT(html.count(u"<td width=\"200\""_s), 1'001);
+}
+
+TEST(QtStyleSheet, TakesOverTheFirstRulesOfALongStyleSheet)
+{
+    const StyleSheet css(u"p.a { color: red } "_s.repeated(1'001));
+    EXPECT_FALSE(QtStyleSheet::holds(css));
+    EXPECT_LT(QtStyleSheet(css).text().count(u"p.a"_s), 1'001);
+    EXPECT_TRUE(QtStyleSheet::holds(StyleSheet(defaultSheet())));
+}
+
 TEST(QtStyleSheet, KeepsTheMarginsOfASelectorWhenALaterRuleHasNone)
 {
     const QtStyleSheet style{
