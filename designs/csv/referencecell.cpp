@@ -370,10 +370,13 @@ std::optional<ReferenceCell::Numbered> ReferenceCell::plainOrBare(std::string_vi
 bool ReferenceCell::addHyphened(std::string_view text)
 {
     if (const auto glued = gluedRange(text)) {
-        const auto first = plainNumbered(glued->left);
-        const auto last = plainNumbered(glued->right);
+        const auto first = numbered(glued->left);
+        const auto last = numbered(glued->right);
         if (first && last && first->prefix == last->prefix) {
             return addRange(*first, *last, text);
+        }
+        if (first && isNumber(glued->right)) {
+            return fail(text, QStringLiteral("is no range that can be read: put blanks around its word"));
         }
     }
     const std::size_t hyphen = text.find('-');
