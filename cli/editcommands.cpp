@@ -104,6 +104,8 @@ void ApplyCommand::addTo(CLI::App &program)
                      "CSV file; its headings are fields of the template or names of properties")
         ->required()
         ->check(CLI::Validator(isGiven, ""));
+    m_app->add_flag("--accept-spreadsheet-changes", m_acceptsSpreadsheetChanges,
+                    "Write also what spreadsheets make of texts by themselves: 0402 to 402, 1-2 to a date");
     m_arguments.addTo(*m_app);
 }
 
@@ -119,7 +121,7 @@ ExitStatus ApplyCommand::run()
     }
     DesignEdits edits(design);
     const QString path = QString::fromStdString(m_edits);
-    EditTable comparison(path, design, edits);
+    EditTable comparison(path, design, edits, m_acceptsSpreadsheetChanges);
     QString error;
     const auto table = readTable(path, comparison.cells().columnHeadings(true).at(2), &error);
     if (!table) {

@@ -60,6 +60,7 @@ public:
 private:
     WriteArguments m_arguments;
     std::string m_edits;
+    bool m_acceptsSpreadsheetChanges = false;
 };
 
 /// bom undo: takes back what the last command wrote into a design.

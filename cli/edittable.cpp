@@ -5,18 +5,35 @@
 #include "cli/designedits.h"
 #include "cli/opendesign.h"
 #include "cli/reportcell.h"
+#include "cli/spreadsheetchange.h"
 #include "core/part.h"
 #include "host/framework/hosttext.h"
+#include "host/framework/hostui.h"
 #include "standalone/loadeddesign.h"
 
 #include <algorithm>
 
-EditTable::EditTable(const QString &path, OpenDesign &design, DesignEdits &edits)
+namespace {
+
+/// Of more cells that a spreadsheet changed, only the number is told.
+constexpr qsizetype mostNamedChanges = 10;
+
+QString plainText(const QString &cell, const EditColumn &column)
+{
+    return column.isField ? withoutAffixes(cell, column.report.field) : cell;
+}
+
+} // namespace
+
+EditTable::EditTable(const QString &path, OpenDesign &design, DesignEdits &edits,
+                     bool acceptsSpreadsheetChanges)
     : m_path(path)
     , m_design(design)
     , m_edits(edits)
     , m_cells(design)
     , m_reader([&edits](const QString &reference) { return edits.isKnown(reference); })
+    , m_numbers(HostUi::current().locale())
+    , m_acceptsSpreadsheetChanges(acceptsSpreadsheetChanges)
 {
 }
 
@@ -42,6 +59,9 @@ void EditTable::compare(const Table &table)
     }
     for (const TableRow &row : table.rows) {
         compareRow(table, row);
+    }
+    if (m_spreadsheetChanges > mostNamedChanges) {
+        m_edits.refuse(QStringLiteral("%1 more such changes").arg(m_spreadsheetChanges - mostNamedChanges));
     }
 }
 
@@ -98,18 +118,23 @@ void EditTable::compareCell(const QString &reference, const QString &firstRefere
                             const EditColumn &column)
 {
     const QString cell = row.cells.value(column.index);
-    if (isUnchanged(reference, firstReference, cell, column)) {
+    const QStringList shown = shownTexts(reference, firstReference, column);
+    if (std::any_of(shown.cbegin(), shown.cend(),
+                    [&](const QString &text) { return isUnchanged(cell, text, column); })) {
         return;
     }
+    const QString made = m_acceptsSpreadsheetChanges ? QString() : spreadsheetChangeOf(cell, shown, column);
     if (column.isFixed) {
         refuse(row.line, reference + QStringLiteral(", ") + column.heading +
                              QStringLiteral(": this column tells what cannot be changed here"));
     } else if (column.index >= row.cells.size()) {
         refuse(row.line, reference + QStringLiteral(", ") + column.heading +
                              QStringLiteral(": the row has no cell for it"));
+    } else if (!made.isEmpty()) {
+        refuseSpreadsheetChange(row.line, reference + QStringLiteral(", ") + column.heading +
+                                              QStringLiteral(": ") + made);
     } else {
-        m_edits.add(reference, column.report.field.propertyName,
-                    column.isField ? withoutAffixes(cell, column.report.field) : cell, place(row.line));
+        m_edits.add(reference, column.report.field.propertyName, plainText(cell, column), place(row.line));
     }
 }
 
@@ -120,26 +145,56 @@ bool EditTable::hasSameTexts(const TableRow &row, const TableRow &other) const
     });
 }
 
-bool EditTable::isUnchanged(const QString &reference, const QString &firstReference, const QString &cell,
-                            const EditColumn &column) const
+QStringList EditTable::shownTexts(const QString &reference, const QString &firstReference,
+                                  const EditColumn &column) const
 {
     const Part *part = m_design.database().part(reference);
-    const QString text = part ? m_cells.text(*part, column) : QString();
-    if (part && isReportCell(cell, text)) {
-        return true;
+    QStringList shown;
+    if (part) {
+        shown << m_cells.text(*part, column);
     }
-    const QStringList others = componentTexts(reference, column);
-    if (std::any_of(others.cbegin(), others.cend(),
-                    [&cell](const QString &other) { return isReportCell(cell, other); })) {
-        return true;
-    }
+    shown << componentTexts(reference, column);
     // A line of the report shows the texts of its first part.
     const Part *first = m_design.database().part(firstReference);
-    if (!part || !first || part == first || m_design.database().currentTemplate().caseSensitiveGrouping()) {
-        return false;
+    if (part && first && part != first && !m_design.database().currentTemplate().caseSensitiveGrouping()) {
+        const QString firstText = m_cells.text(*first, column);
+        if (shown.first().compare(firstText, Qt::CaseInsensitive) == 0) {
+            shown << firstText;
+        }
     }
-    const QString firstText = m_cells.text(*first, column);
-    return text.compare(firstText, Qt::CaseInsensitive) == 0 && isReportCell(cell, firstText);
+    return shown;
+}
+
+bool EditTable::isUnchanged(const QString &cell, const QString &shown, const EditColumn &column) const
+{
+    if (isReportCell(cell, shown)) {
+        return true;
+    }
+    const QString before = plainText(shown, column);
+    const QString after = plainText(cell, column);
+    return isSameNumber(before, after, m_numbers) &&
+           (column.report.isNumeric || spreadsheetChange(before, after, m_numbers).isEmpty());
+}
+
+QString EditTable::spreadsheetChangeOf(const QString &cell, const QStringList &shown,
+                                       const EditColumn &column) const
+{
+    for (const QString &text : shown) {
+        const QString before = plainText(text, column);
+        const QString after = plainText(cell, column);
+        if (const QString made = spreadsheetChange(before, after, m_numbers); !made.isEmpty()) {
+            return u'"' + before + QStringLiteral("\" became \"") + after + QStringLiteral("\": ") + made;
+        }
+    }
+    return {};
+}
+
+void EditTable::refuseSpreadsheetChange(int line, const QString &text)
+{
+    if (++m_spreadsheetChanges <= mostNamedChanges) {
+        refuse(line, text + QStringLiteral(", as spreadsheets do by themselves "
+                                           "(--accept-spreadsheet-changes writes it)"));
+    }
 }
 
 QStringList EditTable::componentTexts(const QString &reference, const EditColumn &column) const

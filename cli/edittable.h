@@ -3,6 +3,7 @@
 #pragma once
 
 #include "cli/editcolumns.h"
+#include "core/numberreader.h"
 #include "standalone/referencereader.h"
 #include "standalone/tablefile.h"
 
@@ -19,8 +20,9 @@ class OpenDesign;
 class EditTable final
 {
 public:
-    /// All of them must outlive the object; `path` is the table's file, for messages.
-    EditTable(const QString &path, OpenDesign &design, DesignEdits &edits);
+    /// All of them must outlive the object; `path` is the table's file, for messages. What spreadsheets make
+    /// of texts by themselves is refused unless `acceptsSpreadsheetChanges`.
+    EditTable(const QString &path, OpenDesign &design, DesignEdits &edits, bool acceptsSpreadsheetChanges);
 
     /// Adds an edit for each cell that differs. A row may name several references.
     void compare(const Table &table);
@@ -32,9 +34,15 @@ private:
     void compareRow(const Table &table, const TableRow &row);
     void compareCell(const QString &reference, const QString &firstReference, const TableRow &row,
                      const EditColumn &column);
-    /// Whether the cell is what a report would hold for the reference now.
-    [[nodiscard]] bool isUnchanged(const QString &reference, const QString &firstReference,
-                                   const QString &cell, const EditColumn &column) const;
+    /// What a report may hold for the reference now.
+    [[nodiscard]] QStringList shownTexts(const QString &reference, const QString &firstReference,
+                                         const EditColumn &column) const;
+    /// Whether the cell is such a text, or says the same number.
+    [[nodiscard]] bool isUnchanged(const QString &cell, const QString &shown, const EditColumn &column) const;
+    /// What a spreadsheet has made of one of the texts; empty when it has not.
+    [[nodiscard]] QString spreadsheetChangeOf(const QString &cell, const QStringList &shown,
+                                              const EditColumn &column) const;
+    void refuseSpreadsheetChange(int line, const QString &text);
     [[nodiscard]] bool hasSameTexts(const TableRow &row, const TableRow &other) const;
     /// What the report shows of every component of that reference.
     [[nodiscard]] QStringList componentTexts(const QString &reference, const EditColumn &column) const;
@@ -46,6 +54,9 @@ private:
     DesignEdits &m_edits;
     ReportCells m_cells;
     ReferenceReader m_reader;
+    NumberReader m_numbers;
+    bool m_acceptsSpreadsheetChanges;
+    qsizetype m_spreadsheetChanges = 0;
     std::vector<EditColumn> m_columns;
     /// The row in which a reference was met first.
     QHash<QString, const TableRow *> m_rows;

@@ -278,6 +278,26 @@ TEST_F(Write, ApplyStripsWhatTheFieldPutsAround)
                 HasSubstr("R1 COST: \"2.5\" -> removed"));
 }
 
+TEST_F(Write, ApplyTakesNoChangesThatSpreadsheetsMakeByThemselves)
+{
+    const QString before = QStringLiteral("Reference,Value,A,B,COST\nR1,1k,0402,1E3,3.9\nR2,1k,1-2,=A1,0\n");
+    write(list, before.toUtf8());
+    write(edits, "Reference,A,B,COST\nR1,0402,1E3,3.90\nR2,1-2,=A1,0.00\n");
+    EXPECT_EQ(done("apply list.csv edits.csv"), "nothing to change\n");
+    for (const char *row : {"R1,402,1E3,", "R1,0402,1.00E+03,", "R1,0402,1000,", "R2,02-Jan,=A1,",
+                            "R2,2026-02-01,=A1,", "R2,1-2,7,", "R2,1-2,#NAME?,"}) {
+        write(edits, QByteArray("Reference,A,B,COST\n") + row + (row[1] == '1' ? "3.9\n" : "0\n"));
+        const ProgramRun refused = run("apply list.csv edits.csv --dry-run");
+        EXPECT_EQ(refused.status, 1) << row;
+        EXPECT_THAT(refused.err, AllOf(HasSubstr("edits.csv:2: R"), HasSubstr("as spreadsheets do"))) << row;
+        EXPECT_THAT(done("apply list.csv edits.csv --dry-run --accept-spreadsheet-changes"),
+                    HasSubstr("would change 1 property"))
+            << row;
+    }
+    write(edits, "Reference,A,B,COST\nR1,0603,2E3,3.95\nR2,1-3,=A2,1\n");
+    EXPECT_THAT(done("apply list.csv edits.csv"), HasSubstr("changed 6 properties"));
+}
+
 TEST_F(Write, ApplyRefusesWhatItDoesNotUnderstandWithItsLine)
 {
     const std::pair<const char *, const char *> cases[] = {
