@@ -31,12 +31,12 @@ struct NETLIST
     /// Entries may be null.
     std::span<const COMPONENT *const> components;
 
+    /// Every property name that occurs in the design.
+    QByteArrayList propertyNames;
+
     /// What the text of a property DNP, empty where there is none, says of a part that the host does not
     /// know. Without it such parts are fitted and listed.
     std::function<FITTING(QByteArrayView)> fitting;
-
-    /// Every property name that occurs in the design.
-    QByteArrayList propertyNames;
 
     [[nodiscard]] bool isValid() const { return (validMask & wantedMask) != 0; }
 };

@@ -9,6 +9,7 @@
 namespace {
 
 constexpr qsizetype longestParagraph = 4000;
+constexpr qsizetype longestWord = 20'000;
 
 bool isBreakable(QChar c)
 {
@@ -22,6 +23,18 @@ bool isBreakBefore(QStringView text, qsizetype position)
     return isBreakable(text[position - 1]) || text.first(position).endsWith(u"&#8203;");
 }
 
+/// The nearest place at `position` or before it that is not inside a character or an entity.
+qsizetype betweenCharacters(QStringView text, qsizetype position)
+{
+    constexpr qsizetype longestEntity = 10;
+    const qsizetype from = std::max<qsizetype>(position - longestEntity, 1);
+    const qsizetype entity = text.first(position).lastIndexOf(u'&');
+    if (entity >= from && !text.sliced(entity, position - entity).contains(u';')) {
+        return entity;
+    }
+    return text[position].isLowSurrogate() ? position - 1 : position;
+}
+
 /// Where a text can be cut, at `wanted` or as near before it as possible, else behind it; its size when
 /// nowhere.
 qsizetype breakPosition(QStringView text, qsizetype wanted)
@@ -31,11 +44,14 @@ qsizetype breakPosition(QStringView text, qsizetype wanted)
             return position;
         }
     }
+    // No name is as long as this, and a line without end would take as long to lay out.
+    const qsizetype last = std::min(wanted + longestWord, text.size());
     qsizetype position = wanted + 1;
-    while (position < text.size() && !isBreakBefore(text, position)) {
+    while (position < last && !isBreakBefore(text, position)) {
         ++position;
     }
-    return std::min(position, text.size());
+    return position < last || last == text.size() ? std::min(position, text.size())
+                                                  : betweenCharacters(text, last);
 }
 
 } // namespace

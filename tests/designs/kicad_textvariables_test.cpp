@@ -59,6 +59,12 @@ TEST(KicadTextVariables, AreLookedUpFromTheInsideOut)
     }
     EXPECT_EQ(shown("${RAIL} ${SHEETPATH} ${REFERENCE}", "R2"), "+3V3 /Twin/Inner/ R2")
         << "another use of the sheet";
+    const std::pair<int, std::string> units[] = {{26, "Z"}, {27, "AA"}, {52, "AZ"}, {53, "BA"}};
+    for (const auto &[unit, letters] : units) {
+        const auto design =
+            designOf(v10, symbol(v10, {.reference = "U1", .unit = unit, .fields = {{"Note", "${UNIT}"}}}));
+        EXPECT_EQ(property(*design, "U1", "Note"), letters);
+    }
 }
 
 TEST(KicadTextVariables, AnEscapedOneIsLiteralFromVersion10On)

@@ -30,16 +30,20 @@ TEST(KicadVariants, ChangeFieldsAndFlags)
 TEST(KicadVariants, InBomWasWrittenTheWrongWayRoundOnce)
 {
     for (const int version : {20260101, 20260305, v10}) {
-        const auto resistor = [version](const std::string &reference, const std::string &variant) {
-            return symbol(version, {.uses = {{.path = "/top", .reference = reference, .more = variant}}});
+        const auto resistor = [version](const std::string &reference, const std::string &variant,
+                                        const std::string &dnp = {}) {
+            return symbol(version,
+                          {.dnp = dnp, .uses = {{.path = "/top", .reference = reference, .more = variant}}});
         };
         const DesignFolder folder;
-        folder.write(root, schematic(version, "top",
-                                     resistor("R1", "(variant (name \"A\") (in_bom yes))") +
-                                         resistor("R2", "(variant (name \"A\") (in_bom no))") +
-                                         resistor("R3", "")));
+        folder.write(root,
+                     schematic(version, "top",
+                               resistor("R1", "(variant (name \"A\") (in_bom yes))") +
+                                   resistor("R2", "(variant (name \"A\") (in_bom no))") + resistor("R3", "") +
+                                   // A variant that says nothing of dnp leaves the symbol's.
+                                   resistor("R4", "(variant (name \"A\") (in_bom yes))", "yes")));
         EXPECT_EQ(marks(*folder.load(root, u"A"_s)),
-                  version < v10 ? "R1:s- R2:-- R3:--" : "R1:-- R2:s- R3:--");
+                  version < v10 ? "R1:s- R2:-- R3:-- R4:ss" : "R1:-- R2:s- R3:-- R4:-s");
     }
 }
 

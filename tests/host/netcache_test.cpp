@@ -106,8 +106,8 @@ TEST(NetCache, LeavesItsServerWhenItGoesAway)
 TEST(NetList, IsValidWhenTheMasksShareABit)
 {
     EXPECT_FALSE(NETLIST().isValid());
-    EXPECT_FALSE((NETLIST{0b0110, 0b1001, {}, {}}.isValid()));
-    EXPECT_TRUE((NETLIST{0b0110, 0b1011, {}, {}}.isValid()));
+    EXPECT_FALSE((NETLIST{0b0110, 0b1001, {}, {}, {}}.isValid()));
+    EXPECT_TRUE((NETLIST{0b0110, 0b1011, {}, {}, {}}.isValid()));
 }
 
 } // namespace

@@ -136,6 +136,12 @@ TEST(QtHtml, BreaksLongParagraphsBetweenWordsOnly)
     // Not inside a word or an element, which would be cut in two.
     const QString word = u"<p>"_s + u"\U0001F600"_s.repeated(9001) + u"</p>"_s;
     EXPECT_EQ(qtBody({}, word, Medium::Window), word);
+    // Unless it is without end.
+    const QString endless =
+        qtBody({}, u"<p>"_s + u"\U0001F600&copy;"_s.repeated(9000) + u"</p>"_s, Medium::Window);
+    EXPECT_GT(endless.count(u"<p>"_s), 2);
+    EXPECT_EQ(endless.count(u"\U0001F600"_s), 9000);
+    EXPECT_EQ(endless.count(u"&copy;"_s), 9000);
     const QString link = u"<p><a href='x'>"_s + u"y"_s.repeated(9000) + u"</a></p>"_s;
     EXPECT_EQ(qtBody({}, link, Medium::Window), link);
 }
