@@ -13,7 +13,9 @@
 #include <tidy/tidybuffio.h>
 
 #include <algorithm>
+#include <csetjmp>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -210,6 +212,45 @@ QString xmlError(const QString &xhtml, int mode)
     return reader.hasError() ? reader.errorString() : QString();
 }
 
+/// Ends the reading of a text about which the library has no end of reports: it goes round in circles on
+/// some, such as a definition list between the rows of a table, and takes more memory each time.
+class ReportLimit
+{
+public:
+    explicit ReportLimit(TidyDoc document)
+        : m_document(document)
+    {
+        tidySetAppData(document, this);
+        tidySetReportFilter(document, &ReportLimit::count);
+    }
+
+    /// What tidyParseString() gives; nothing when the limit was met. The document cannot be used then, not
+    /// even be released.
+    [[nodiscard]] std::optional<int> parse(const char *html)
+    {
+        if (setjmp(m_away) != 0) {
+            return std::nullopt;
+        }
+        return tidyParseString(m_document, html);
+    }
+
+private:
+    /// The library has no other way out of its reading; between here and parse() there is nothing but C.
+    static Bool TIDY_CALL count(TidyDoc document, TidyReportLevel, uint, uint, ctmbstr)
+    {
+        constexpr int mostReports = 100'000;
+        auto *self = static_cast<ReportLimit *>(tidyGetAppData(document));
+        if (++self->m_reports > mostReports) {
+            std::longjmp(self->m_away, 1);
+        }
+        return yes;
+    }
+
+    TidyDoc m_document;
+    int m_reports = 0;
+    std::jmp_buf m_away;
+};
+
 } // namespace
 
 QString TidyLibWrapper::tidyHtml(const QString &html, int mode)
@@ -220,12 +261,20 @@ QString TidyLibWrapper::tidyHtml(const QString &html, int mode)
     }
     Buffer output;
     Buffer errors;
-    const TidyOwner document(tidyCreate());
+    TidyOwner document(tidyCreate());
     const TidyDoc tidy = document.get();
     tidySetErrorBuffer(tidy, &errors);
     setOptions(tidy, mode);
 
-    int result = tidyParseString(tidy, xmlText(html).toUtf8().constData());
+    const QByteArray bytes = xmlText(html).toUtf8();
+    ReportLimit limit(tidy);
+    const std::optional<int> parsed = limit.parse(bytes.constData());
+    if (!parsed) {
+        (void)document.release();
+        m_errorString = text("The HTML text cannot be read.");
+        return {};
+    }
+    int result = *parsed;
     if (result >= 0) {
         result = tidyCleanAndRepair(tidy);
     }
