@@ -4,8 +4,8 @@
 
 #include <cmath>
 
-NumberReader::NumberReader(QLocale locale)
-    : m_locale(std::move(locale))
+NumberReader::NumberReader(const QLocale &locale)
+    : m_locale(locale)
 {
     m_locale.setNumberOptions(QLocale::RejectGroupSeparator);
 }

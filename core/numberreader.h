@@ -12,7 +12,7 @@
 class NumberReader final
 {
 public:
-    explicit NumberReader(QLocale locale);
+    explicit NumberReader(const QLocale &locale);
 
     /// Nothing for a text that is no finite number.
     [[nodiscard]] std::optional<double> read(const QString &text) const;

@@ -46,6 +46,7 @@ Hierarchy::Hierarchy(PropertyNames *names, int threads)
 bool Hierarchy::read(const std::vector<RootSheet> &roots, Problem *problem)
 {
     std::vector<QString> paths;
+    paths.reserve(roots.size());
     for (const RootSheet &root : roots) {
         paths.push_back(root.path);
     }

@@ -62,6 +62,7 @@ void SymbolRecount::countAhead(const QStringList &roots)
     }
     while (!level.empty()) {
         std::vector<qint64> sizes;
+        sizes.reserve(level.size());
         for (const Wanted &wanted : level) {
             sizes.push_back(QFileInfo(wanted.path).size());
         }
