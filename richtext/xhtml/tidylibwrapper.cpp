@@ -14,8 +14,10 @@
 
 #include <algorithm>
 #include <csetjmp>
+#include <cstdlib>
 #include <memory>
 #include <optional>
+#include <unordered_set>
 
 namespace {
 
@@ -212,6 +214,48 @@ QString xmlError(const QString &xhtml, int mode)
     return reader.hasError() ? reader.errorString() : QString();
 }
 
+/// The memory of one document, which goes with it even where the document cannot be released.
+class Memory final : public TidyAllocator
+{
+public:
+    Memory()
+        : TidyAllocator{&functions}
+    {
+    }
+    Memory(const Memory &) = delete;
+    Memory &operator=(const Memory &) = delete;
+    ~Memory()
+    {
+        for (void *block : m_blocks) {
+            std::free(block);
+        }
+    }
+
+private:
+    static void *TIDY_CALL take(TidyAllocator *self, size_t size) { return resize(self, nullptr, size); }
+    static void *TIDY_CALL resize(TidyAllocator *self, void *block, size_t size)
+    {
+        auto &blocks = static_cast<Memory *>(self)->m_blocks;
+        blocks.erase(block);
+        void *resized = std::realloc(block, std::max<size_t>(size, 1));
+        if (resized == nullptr) {
+            qFatal("There is not enough memory.");
+        }
+        blocks.insert(resized);
+        return resized;
+    }
+    static void TIDY_CALL giveBack(TidyAllocator *self, void *block)
+    {
+        static_cast<Memory *>(self)->m_blocks.erase(block);
+        std::free(block);
+    }
+    static void TIDY_CALL panic(TidyAllocator *, ctmbstr message) { qFatal("%s", message); }
+
+    static constexpr TidyAllocatorVtbl functions{&take, &resize, &giveBack, &panic};
+
+    std::unordered_set<void *> m_blocks;
+};
+
 /// Ends the reading of a text about which the library has no end of reports: it goes round in circles on
 /// some, such as a definition list between the rows of a table, and takes more memory each time.
 class ReportLimit
@@ -238,7 +282,7 @@ private:
     /// The library has no other way out of its reading; between here and parse() there is nothing but C.
     static Bool TIDY_CALL count(TidyDoc document, TidyReportLevel, uint, uint, ctmbstr)
     {
-        constexpr int mostReports = 100'000;
+        constexpr int mostReports = 20'000;
         auto *self = static_cast<ReportLimit *>(tidyGetAppData(document));
         if (++self->m_reports > mostReports) {
             std::longjmp(self->m_away, 1);
@@ -261,7 +305,8 @@ QString TidyLibWrapper::tidyHtml(const QString &html, int mode)
     }
     Buffer output;
     Buffer errors;
-    TidyOwner document(tidyCreate());
+    Memory memory;
+    TidyOwner document(tidyCreateWithAllocator(&memory));
     const TidyDoc tidy = document.get();
     tidySetErrorBuffer(tidy, &errors);
     setOptions(tidy, mode);
