@@ -2,13 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/referencecell.h"
 
+#include "designs/csv/referencetext.h"
 #include "designs/utf8.h"
 
-#include <QByteArrayView>
-#include <QList>
-
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <string>
 
@@ -16,65 +13,11 @@ namespace designs {
 
 namespace {
 
-bool isHigh(char c)
-{
-    return static_cast<unsigned char>(c) >= 0x80;
-}
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-bool isLetter(char c)
-{
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || isHigh(c);
-}
-
-bool isNumber(std::string_view text)
-{
-    return !text.empty() && std::ranges::all_of(text, isDigit);
-}
-
 std::string_view withoutBlanks(std::string_view text)
 {
     const std::size_t first = text.find_first_not_of(' ');
     return first == std::string_view::npos ? std::string_view()
                                            : text.substr(first, text.find_last_not_of(' ') + 1 - first);
-}
-
-bool isNameSign(char32_t c)
-{
-    constexpr std::u32string_view signs = U"./?*$@%'-_#";
-    return signs.find(c) != std::u32string_view::npos || QChar::isLetterOrNumber(c) || QChar::isMark(c);
-}
-
-/// Whether the text can be the name of a part.
-bool isNameText(std::string_view text)
-{
-    constexpr std::string_view firstSigns = "#_+-";
-    const bool beginsWell =
-        !text.empty() && (isLetter(text.front()) || firstSigns.find(text.front()) != std::string_view::npos);
-    if (!beginsWell || std::ranges::none_of(text, isLetter)) {
-        return false;
-    }
-    if (std::ranges::none_of(text, isHigh)) {
-        return std::all_of(text.begin() + 1, text.end(), [](char c) { return isNameSign(char32_t(c)); });
-    }
-    const QList<uint> codes = fromUtf8(text).toUcs4();
-    return std::all_of(codes.begin() + (isHigh(text.front()) ? 0 : 1), codes.end(),
-                       [](uint code) { return isNameSign(code); });
-}
-
-/// Whether a text next to another, without a comma between them, can be nothing but a reference or a number.
-bool isClear(std::string_view text)
-{
-    constexpr std::string_view firstSigns = "#_";
-    if (text.find_first_not_of("0123456789-/") == std::string_view::npos) {
-        return true;
-    }
-    return (isLetter(text.front()) || firstSigns.find(text.front()) != std::string_view::npos) &&
-           text.find_first_of("0123456789?") != std::string_view::npos;
 }
 
 /// What stands for a number that is too large to count with.
@@ -91,46 +34,6 @@ std::string padded(std::string_view prefix, quint64 number, std::size_t width)
 {
     const std::string digits = std::to_string(number);
     return std::string(prefix).append(width > digits.size() ? width - digits.size() : 0, '0') + digits;
-}
-
-/// "R1" and "U3A": letters, digits, then perhaps more of both.
-bool isLikeReference(std::string_view text)
-{
-    const auto digit = std::ranges::find_if(text, isDigit);
-    return digit != text.begin() && digit != text.end() && std::all_of(text.begin(), digit, isLetter) &&
-           std::all_of(digit, text.end(), [](char c) { return isLetter(c) || isDigit(c); });
-}
-
-/// True when each text between the hyphens is like a reference: "R1A-R3B", "R1-R3-R5".
-bool joinsReferences(std::string_view text)
-{
-    while (true) {
-        const std::size_t hyphen = text.find('-');
-        if (!isLikeReference(text.substr(0, hyphen))) {
-            return false;
-        }
-        if (hyphen == std::string_view::npos) {
-            return true;
-        }
-        text.remove_prefix(hyphen + 1);
-    }
-}
-
-/// Whether two of the texts between the hyphens could be the ends of a range: "R1-R3-5".
-bool hasRangeWithin(std::string_view text)
-{
-    const auto prefix = [](std::string_view piece) {
-        return isLikeReference(piece) ? piece.substr(0, piece.find_first_of("0123456789"))
-                                      : std::string_view();
-    };
-    for (std::size_t hyphen = text.find('-'); hyphen != std::string_view::npos; hyphen = text.find('-')) {
-        const std::string_view left = prefix(text.substr(0, hyphen));
-        text.remove_prefix(hyphen + 1);
-        if (!left.empty() && left == prefix(text.substr(0, text.find('-')))) {
-            return true;
-        }
-    }
-    return false;
 }
 
 /// Whether zeros in front of the number behind a hyphen speak against a range from the first: 1 to 02, but
@@ -151,28 +54,6 @@ bool differsInZeros(std::string_view first, std::string_view last)
 {
     const bool firstHas = first.size() > 1 && first.front() == '0';
     return hasOddZeros(first, last) || (firstHas && last.size() < first.size());
-}
-
-/// The ends of a range whose sign is a word within the text, as in "R1toR3".
-struct GluedRange
-{
-    std::string_view left;
-    std::string_view right;
-};
-
-std::optional<GluedRange> gluedRange(std::string_view text)
-{
-    static constexpr std::array<std::string_view, 2> words = {"to", "thru"};
-    for (const std::string_view word : words) {
-        const QByteArrayView sought(word.data(), qsizetype(word.size()));
-        for (std::size_t at = 1; at + word.size() < text.size(); ++at) {
-            const QByteArrayView there(text.data() + at, qsizetype(word.size()));
-            if (isDigit(text[at - 1]) && there.compare(sought, Qt::CaseInsensitive) == 0) {
-                return GluedRange{text.substr(0, at), text.substr(at + word.size())};
-            }
-        }
-    }
-    return std::nullopt;
 }
 
 } // namespace

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace designs {
+
+[[nodiscard]] constexpr bool isHigh(char c)
+{
+    return static_cast<unsigned char>(c) >= 0x80;
+}
+
+[[nodiscard]] constexpr bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+/// Every part of a character beyond ASCII counts as one.
+[[nodiscard]] constexpr bool isLetter(char c)
+{
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || isHigh(c);
+}
+
+/// Digits only.
+[[nodiscard]] bool isNumber(std::string_view text);
+
+/// Whether the text can be the name of a part.
+[[nodiscard]] bool isNameText(std::string_view text);
+
+/// Whether a text next to another, without a comma between them, can be nothing but a reference or a number.
+[[nodiscard]] bool isClear(std::string_view text);
+
+/// True when each text between the hyphens is like a reference: "R1A-R3B", "R1-R3-R5".
+[[nodiscard]] bool joinsReferences(std::string_view text);
+
+/// Whether two of the texts between the hyphens could be the ends of a range: "R1-R3-5".
+[[nodiscard]] bool hasRangeWithin(std::string_view text);
+
+/// The ends of a range whose sign is a word within the text, as in "R1toR3".
+struct GluedRange
+{
+    std::string_view left;
+    std::string_view right;
+};
+
+[[nodiscard]] std::optional<GluedRange> gluedRange(std::string_view text);
+
+} // namespace designs
