@@ -4,6 +4,7 @@
 
 #include "richtext/css/stylesheet.h"
 #include "richtext/paper/pagelayouter.h"
+#include "richtext/paper/strip.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
@@ -28,15 +29,6 @@ constexpr qsizetype longestText = 2000;
 double textTop(const QTextDocument &document, const QTextTableCell &cell)
 {
     return document.documentLayout()->blockBoundingRect(cell.firstCursorPosition().block()).top();
-}
-
-/// Draws a part of a document at its place in it.
-void drawDocument(QPainter &painter, const QTextDocument &document, const QRectF &part)
-{
-    QAbstractTextDocumentLayout::PaintContext context;
-    context.clip = part;
-    context.palette.setColor(QPalette::Text, Qt::black);
-    document.documentLayout()->draw(&painter, context);
 }
 
 /// Puts an empty frame before all of a document. Margins would be kept free at the foot of pages too.
@@ -68,21 +60,7 @@ double topFromEnd(const QTextDocument &document, int blocks)
     return document.documentLayout()->blockBoundingRect(block).top();
 }
 
-Qt::Alignment visualAlignment(Qt::Alignment alignment, bool isRightToLeft)
-{
-    constexpr Qt::Alignment sides = Qt::AlignLeft | Qt::AlignRight;
-    const bool turns = isRightToLeft && !(alignment & Qt::AlignAbsolute) && (alignment & sides);
-    return turns ? alignment ^ sides : alignment;
-}
-
 } // namespace
-
-/// The text of a cell on its lines, which stand at their places on the pages.
-struct LongTable::CellLayout
-{
-    std::unique_ptr<QTextLayout> text;
-    double height = 0;
-};
 
 LongTable::LongTable(const QString &xhtml, QPaintDevice &device, const QSizeF &page)
     : m_xhtml(xhtml)
@@ -287,7 +265,7 @@ bool LongTable::placeHeadings(size_t section)
 {
     const PlainSection &from = m_table.sections[section];
     const size_t row = from.firstRow + from.headings;
-    const std::optional<RowLayout> cells = texts(row);
+    const std::optional<RowTexts> cells = texts(row);
     if (!cells) {
         return false;
     }
@@ -305,7 +283,7 @@ bool LongTable::placeHeadings(size_t section)
 
 bool LongTable::layOutRow(size_t row, size_t section)
 {
-    std::optional<RowLayout> cells = texts(row);
+    std::optional<RowTexts> cells = texts(row);
     if (!cells) {
         return false;
     }
@@ -329,11 +307,11 @@ void LongTable::addHeadings(int page, size_t section)
     m_headings.push_back({page, section, page * m_page.height() + m_headingTop});
 }
 
-std::optional<LongTable::RowLayout> LongTable::texts(size_t row) const
+std::optional<RowTexts> LongTable::texts(size_t row) const
 {
     const RowLook &shape = look(row);
     const PlainRow &from = m_table.rows[row];
-    RowLayout cells;
+    RowTexts cells;
     cells.reserve(shape.cells.size());
     for (size_t i = from.firstCell; i < m_table.cellEnd(row); ++i) {
         const PlainCell &cell = m_table.cells[i];
@@ -341,39 +319,14 @@ std::optional<LongTable::RowLayout> LongTable::texts(size_t row) const
         if (!text || cell.content.size() > longestText || cells.size() == shape.cells.size()) {
             return std::nullopt;
         }
-        cells.push_back(cellLayout(*text, cell.link, shape.cells[cells.size()]));
+        cells.push_back(
+            layOutCell(*text, cell.link, shape.cells[cells.size()], m_sample.defaultTextOption(), m_device));
     }
     return cells;
 }
 
-LongTable::CellLayout LongTable::cellLayout(const QString &text, QStringView link, const CellLook &look) const
-{
-    CellLayout cell;
-    cell.text = std::make_unique<QTextLayout>(text, look.font, &m_device);
-    const bool isRightToLeft = text.isRightToLeft();
-    QTextOption option = m_sample.defaultTextOption();
-    option.setTextDirection(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    option.setAlignment(visualAlignment(look.alignment, isRightToLeft));
-    cell.text->setTextOption(option);
-    if (const std::optional<QString> address = link.isEmpty() ? std::nullopt : plainText(link)) {
-        QTextLayout::FormatRange range{0, int(text.size()), {}};
-        range.format.setAnchor(true);
-        range.format.setAnchorHref(encodedAddress(*address));
-        cell.text->setFormats({range});
-    }
-    cell.text->beginLayout();
-    for (QTextLine line = cell.text->createLine(); line.isValid(); line = cell.text->createLine()) {
-        line.setLeadingIncluded(true);
-        line.setLineWidth(look.textWidth());
-        line.setPosition(QPointF(0, cell.height));
-        cell.height += line.height();
-    }
-    cell.text->endLayout();
-    return cell;
-}
-
 /// Whether the first line of any text has room on the page; if not, the row begins on the next one.
-bool LongTable::startsOnPage(size_t row, double top, const RowLayout &cells) const
+bool LongTable::startsOnPage(size_t row, double top, const RowTexts &cells) const
 {
     const RowLook &shape = look(row);
     for (size_t i = 0; i < cells.size(); ++i) {
@@ -388,7 +341,7 @@ bool LongTable::startsOnPage(size_t row, double top, const RowLayout &cells) con
 }
 
 /// Gives the lines of a row their places in the flow of pages. Returns the bottom of the row.
-double LongTable::placeLines(size_t row, double top, RowLayout &cells, double areaOffset) const
+double LongTable::placeLines(size_t row, double top, RowTexts &cells, double areaOffset) const
 {
     const RowLook &shape = look(row);
     double bottom = top;
@@ -409,19 +362,6 @@ double LongTable::placeLines(size_t row, double top, RowLayout &cells, double ar
         lowerLines(shape, bottom - top, cells);
     }
     return bottom;
-}
-
-/// In a row on one page, texts may stand lower than at its top.
-void LongTable::lowerLines(const RowLook &shape, double height, RowLayout &cells)
-{
-    for (size_t i = 0; i < cells.size(); ++i) {
-        const CellLook &cell = shape.cells[i];
-        const double free = height - cell.paddingAbove - cells[i].height - cell.paddingBelow;
-        for (int number = 0; cell.place > 0 && number < cells[i].text->lineCount(); ++number) {
-            QTextLine line = cells[i].text->lineAt(number);
-            line.setPosition(line.position() + QPointF(0, cell.place * free));
-        }
-    }
 }
 
 void LongTable::layOutRest()
@@ -490,7 +430,7 @@ void LongTable::drawRow(QPainter &painter, size_t row, const QRectF &part) const
 {
     const RowLook &shape = look(row);
     const Place &place = m_places[row];
-    std::optional<RowLayout> cells = texts(row);
+    std::optional<RowTexts> cells = texts(row);
     if (!cells) {
         return;
     }

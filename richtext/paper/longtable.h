@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "richtext/paper/celltext.h"
 #include "richtext/paper/plaintable.h"
 #include "richtext/paper/rowlook.h"
 #include "richtext/xhtml/selfcontaineddocument.h"
@@ -17,7 +18,6 @@
 class PageLayouter;
 class QPainter;
 class QRectF;
-class QTextLayout;
 
 /// A document with a table of many plain rows, broken into pages. The rows are laid out one by one, when
 /// their page is made and again when it is painted, so that they take little time and memory; what stands
@@ -52,9 +52,6 @@ private:
         double bottom;
         double areaOffset;
     };
-    struct CellLayout;
-    using RowLayout = std::vector<CellLayout>;
-
     LongTable(const QString &xhtml, QPaintDevice &device, const QSizeF &page);
 
     [[nodiscard]] bool layOutAll();
@@ -77,11 +74,9 @@ private:
     [[nodiscard]] int pageAt(double y) const { return int(y / m_page.height()); }
     [[nodiscard]] double pageEnd(double y) const { return (pageAt(y) + 1) * m_page.height(); }
 
-    [[nodiscard]] std::optional<RowLayout> texts(size_t row) const;
-    [[nodiscard]] bool startsOnPage(size_t row, double top, const RowLayout &cells) const;
-    [[nodiscard]] CellLayout cellLayout(const QString &text, QStringView link, const CellLook &look) const;
-    double placeLines(size_t row, double top, RowLayout &cells, double areaOffset) const;
-    static void lowerLines(const RowLook &shape, double height, RowLayout &cells);
+    [[nodiscard]] std::optional<RowTexts> texts(size_t row) const;
+    [[nodiscard]] bool startsOnPage(size_t row, double top, const RowTexts &cells) const;
+    double placeLines(size_t row, double top, RowTexts &cells, double areaOffset) const;
     void drawRow(QPainter &painter, size_t row, const QRectF &part) const;
 
     QString m_xhtml;

@@ -26,15 +26,6 @@ constexpr double largestEdge = 0.25;
 constexpr double edgeGap = 6;
 constexpr double pointsPerInch = 72;
 
-void drawDocument(QPainter &painter, const QTextDocument &document, const QRectF &part)
-{
-    QAbstractTextDocumentLayout::PaintContext context;
-    context.clip = part;
-    context.palette.setColor(QPalette::Text, Qt::black);
-    painter.setClipRect(part, Qt::IntersectClip);
-    document.documentLayout()->draw(&painter, context);
-}
-
 double gapFor(double height, const QPaintDevice &device)
 {
     return height > 0 ? edgeGap * device.logicalDpiY() / pointsPerInch : 0;
@@ -138,8 +129,8 @@ void PagePainter::paintPage(QPainter &painter, int page)
     const QRectF part(0, (page - 1) * m_textArea.height(), m_textArea.width(), m_textArea.height());
     painter.save();
     painter.translate(0, m_textArea.top() - part.top());
+    painter.setClipRect(part, Qt::IntersectClip);
     if (m_longTable) {
-        painter.setClipRect(part, Qt::IntersectClip);
         m_longTable->draw(painter, page - 1);
     } else {
         drawDocument(painter, m_document, part);
@@ -155,7 +146,9 @@ void PagePainter::paintEdge(QPainter &painter, Edge &edge, int page, double top)
     layOutEdge(edge, page, m_pages);
     painter.save();
     painter.translate(0, top);
-    drawDocument(painter, *edge.document, QRectF(0, 0, m_device->width(), edge.height));
+    const QRectF part(0, 0, m_device->width(), edge.height);
+    painter.setClipRect(part, Qt::IntersectClip);
+    drawDocument(painter, *edge.document, part);
     painter.restore();
 }
 

@@ -5,6 +5,8 @@
 #include "richtext/xhtml/qthtmlwriter.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QPalette>
+#include <QRectF>
 #include <QTextDocument>
 
 void fillDocument(QTextDocument &document, const QString &html, QPaintDevice &device)
@@ -25,4 +27,12 @@ void layOutStrip(QTextDocument &document, const QString &xhtml, const StyleSheet
                  double width)
 {
     layOutStrip(document, toQtHtml(xhtml, css, Medium::Window), device, width);
+}
+
+void drawDocument(QPainter &painter, const QTextDocument &document, const QRectF &part)
+{
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.clip = part;
+    context.palette.setColor(QPalette::Text, Qt::black);
+    document.documentLayout()->draw(&painter, context);
 }

@@ -5,6 +5,8 @@
 #include <QString>
 
 class QPaintDevice;
+class QPainter;
+class QRectF;
 class QTextDocument;
 class StyleSheet;
 
@@ -17,3 +19,6 @@ void layOutStrip(QTextDocument &document, const QString &qtHtml, QPaintDevice &d
 /// Fills `document` with an XHTML document on one page of that width and any height.
 void layOutStrip(QTextDocument &document, const QString &xhtml, const StyleSheet &css, QPaintDevice &device,
                  double width);
+
+/// Draws a part of a document, in black where it names no colour, at its place in it.
+void drawDocument(QPainter &painter, const QTextDocument &document, const QRectF &part);

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "richtext/paper/rowlook.h"
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class QPaintDevice;
+class QTextLayout;
+class QTextOption;
+
+/// The text of a cell on its lines, the first at 0.
+struct CellText
+{
+    std::unique_ptr<QTextLayout> text;
+    double height = 0;
+};
+
+using RowTexts = std::vector<CellText>;
+
+/// Breaks a text into lines as wide as the cell; `link` is its address as markup, empty for none.
+[[nodiscard]] CellText layOutCell(const QString &text, QStringView link, const CellLook &look,
+                                  QTextOption option, QPaintDevice &device);
+
+/// In a row of that height on one page, texts may stand lower than at its top.
+void lowerLines(const RowLook &shape, double height, RowTexts &cells);
