@@ -85,14 +85,16 @@ private:
     {
         static const QRegularExpression hidden(QStringLiteral("\\bclass\\s*=\\s*(\"[^\"&]*&|'[^'&]*&)"),
                                                QRegularExpression::CaseInsensitiveOption);
-        if (!m_hasHiddenNames) {
+        if (!m_knowsHiddenNames) {
+            m_knowsHiddenNames = true;
             m_hasHiddenNames = hidden.match(m_largest.body).hasMatch();
         }
-        return *m_hasHiddenNames;
+        return m_hasHiddenNames;
     }
 
     LargestLengths m_largest;
-    std::optional<bool> m_hasHiddenNames;
+    bool m_knowsHiddenNames = false;
+    bool m_hasHiddenNames = false;
     double m_left = 100'000;
 };
 
