@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/bompartsdatabase.h"
 
+#include "core/componentreader.h"
 #include "core/designinfo.h"
 #include "core/propertyquery.h"
 #include "core/templatesettings.h"
@@ -12,11 +13,8 @@
 #include "host/netlist/netcache.h"
 #include "host/netlist/proplist.h"
 
-#include <QHash>
-
 #include <memory>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -25,65 +23,6 @@ std::unique_ptr<BOMPartsDatabase> &theDatabase()
     static std::unique_ptr<BOMPartsDatabase> database;
     return database;
 }
-
-PROPPREFIX definitionPrefix()
-{
-    return PROPPREFIX(toHostText(bomPartPropertyStart()));
-}
-
-/// Takes from components, besides the parts, their links and the definitions of BOM-only parts. Definitions
-/// of components with one reference are put together.
-class ComponentReader
-{
-public:
-    explicit ComponentReader(LinkTable *links)
-        : m_links(links)
-        , m_linksName(toHostText(bomLinksProperty()))
-        , m_definitionPrefix(definitionPrefix())
-    {
-    }
-
-    void read(const COMPONENT &component)
-    {
-        if (!component.properties) {
-            return;
-        }
-        const std::vector<PROPERTY> definitions = component.properties->startingwith(m_definitionPrefix);
-        const auto links = component.properties->find(m_linksName);
-        if (definitions.empty() && !links) {
-            return;
-        }
-        const QString reference = fromHostText(component.reference);
-        if (links) {
-            m_links->insert(reference, readBOMLinks(fromHostText(*links)));
-        }
-        if (!definitions.empty()) {
-            collect(reference, definitions);
-        }
-    }
-
-    [[nodiscard]] const QList<ParentDefinitions> &parents() const { return m_parents; }
-
-private:
-    void collect(const QString &reference, const std::vector<PROPERTY> &definitions)
-    {
-        const auto known = m_indices.constFind(reference);
-        const qsizetype index = known == m_indices.cend() ? m_parents.size() : *known;
-        if (known == m_indices.cend()) {
-            m_indices.insert(reference, index);
-            m_parents.append({reference, {}});
-        }
-        for (const PROPERTY &property : definitions) {
-            m_parents[index].definitions.append({fromHostText(property.name), fromHostText(property.value)});
-        }
-    }
-
-    LinkTable *m_links;
-    PROPNAME m_linksName;
-    PROPPREFIX m_definitionPrefix;
-    QList<ParentDefinitions> m_parents;
-    QHash<QString, qsizetype> m_indices;
-};
 
 } // namespace
 
@@ -222,13 +161,7 @@ void BOMPartsDatabase::updatePropertyTypes()
 
 QStringList BOMPartsDatabase::bomPartDefinitions(const COMPONENT &component)
 {
-    QStringList texts;
-    if (component.properties) {
-        for (const PROPERTY &property : component.properties->startingwith(definitionPrefix())) {
-            texts.append(fromHostText(property.value));
-        }
-    }
-    return texts;
+    return ComponentReader::definitionTexts(component);
 }
 
 void BOMPartsDatabase::createBOMParts(const QString &parentReference, const QStringList &definitions)
