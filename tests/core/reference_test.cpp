@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "core/reference.h"
+
+#include "core/referenceformat.h"
+#include "support/datatable.h"
 #include "support/printtext.h"
 
 #include <gtest/gtest.h>
@@ -11,29 +14,12 @@ namespace {
 
 TEST(SplitReference, CutsTheNumberOffTheEnd)
 {
-    const struct
-    {
-        QString reference, prefix;
-        int number;
-        bool hasNumber;
-    } cases[] = {
-        {u"R12"_s, u"R"_s, 12, true},
-        {u"U"_s, u"U"_s, 0, false},
-        {u"U0"_s, u"U"_s, 0, true},
-        {u"R007"_s, u"R"_s, 7, true},
-        {u"123"_s, u"1"_s, 23, true},
-        {u"7"_s, u"7"_s, 0, false},
-        {u""_s, u""_s, 0, false},
-        {u"U1A2"_s, u"U1A"_s, 2, true},
-        {u"U12A"_s, u"U12A"_s, 0, false},
-        {u"R2147483647"_s, u"R"_s, 2147483647, true},
-        {u"R2147483648"_s, u"R2147483648"_s, 0, false},
-        {u"R99999999999999999999999"_s, u"R99999999999999999999999"_s, 0, false},
-        {u"R\u0663"_s, u"R\u0663"_s, 0, false},
-    };
-    for (const auto &[reference, prefix, number, hasNumber] : cases) {
-        EXPECT_EQ(splitReference(reference), (SplitReference{prefix, number, hasNumber}))
-            << reference.toStdString();
+    for (const auto &[reference, prefix, number] : dataTable<3>("core/split-references.txt")) {
+        const QString start = QString::fromStdString(prefix);
+        const int end = number.empty() ? 0 : std::stoi(number);
+        EXPECT_EQ(splitReference(QString::fromStdString(reference)),
+                  (SplitReference{start, end, !number.empty()}))
+            << reference;
     }
 }
 
@@ -56,6 +42,37 @@ TEST(ReferenceOrder, KeepsEqualReferencesAsTheyCame)
     QStringList references{u"R2"_s, u"R01"_s, u"R1"_s, u"R001"_s};
     sortReferences(references);
     EXPECT_EQ(references, (QStringList{u"R01"_s, u"R1"_s, u"R001"_s, u"R2"_s}));
+}
+
+TEST(FormatReferences, MakesRangesBreaksLinesAndCutsWhatDoesNotFit)
+{
+    for (const auto &[style, references, text] : dataTable<3>("core/formatted-references.txt")) {
+        const QStringList words = QString::fromStdString(style).split(u' ');
+        const ReferenceStyle wanted{words[0] == u"yes", words[1].toInt(), words[2].toInt()};
+        EXPECT_EQ(formatReferences(QString::fromStdString(references).split(u' '), wanted).toStdString(),
+                  text)
+            << style << ": " << references;
+    }
+    EXPECT_EQ(formatReferences({}, {true, 50000, 1}), QString());
+}
+
+TEST(FormatReferences, NeverExceedsTheWidthByMoreThanTheMarker)
+{
+    QStringList references = u"TP98 TP99 TP100 TP101 X100 X102 X104 X1000 X1002 X30 X20"_s.split(u' ');
+    for (int number = 1; number <= 60; ++number) {
+        references << u'R' + QString::number(number);
+    }
+    for (const bool ranges : {true, false}) {
+        for (int width = 8; width < 40; ++width) {
+            for (int lines = 2; lines < 6; ++lines) {
+                const QString text = formatReferences(references, {ranges, width, lines});
+                for (const QString &line : text.split(u'\n')) {
+                    EXPECT_LE(line.size(), width + 3) << text.toStdString();
+                }
+                EXPECT_LE(text.count(u'\n'), lines - 1);
+            }
+        }
+    }
 }
 
 } // namespace

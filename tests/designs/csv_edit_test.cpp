@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/csvfile.h"
 #include "designs/editfixture.h"
+#include "support/datatable.h"
 
 #include <gmock/gmock.h>
 
@@ -131,62 +132,20 @@ void expectOthersUntouched(const std::string &before, const Design &design, cons
 
 } // namespace
 
-TEST_F(CsvEdit, ChangesOnlyTheCellAndKeepsTheManner)
+TEST_F(CsvEdit, ChangesOnlyWhatIsAskedAndKeepsTheManner)
 {
-    EXPECT_EQ(edited("\xEF\xBB\xBF"
-                     "My board;;\r\n\r\nRef;\"Value\";MPN\nR1; 10k ;\"a\"\r\n\"R2\";1k;'b'",
-                     {{"R1", "value", "22k"}, {"R1", "mpn", "x\"y"}, {"R2", "MPN", "1;2"}}),
-              "\xEF\xBB\xBF"
-              "My board;;\r\n\r\nRef;\"Value\";MPN\nR1; 22k ;\"x\"\"y\"\r\n\"R2\";1k;\"1;2\"");
-    EXPECT_EQ(edited("Ref\tValue\rR1\t1k\r", {{"R1", "VALUE", "a\nb"}}), "Ref\tValue\rR1\t\"a\nb\"\r");
-    EXPECT_EQ(edited("\"Ref\",\"Value\"\n\"R1\",\"\"\n", {{"R1", "Value", " 1"}}),
-              "\"Ref\",\"Value\"\n\"R1\",\" 1\"\n");
-    EXPECT_EQ(edited("Ref,Value,A,B\nR1\nR2,1,,\n", {{"R1", "A", "x"}}), "Ref,Value,A,B\nR1,,x\nR2,1,,\n");
-    EXPECT_EQ(edited("Ref,Value\nR1,1k\n", {{"R1", "Value", "2k"}, {"R1", "VALUE", "1k"}}), "unchanged");
-    EXPECT_EQ(edited("Ref,Value,Package\nR1,1k,0603\n", {{"R1", "PACKAGE", "0805"}, {"R1", "Value", {}}}),
-              "Ref,Value,Package\nR1,,0805\n");
-}
-
-TEST_F(CsvEdit, SplitsARowWhereReferencesDiffer)
-{
-    const std::string list = "Qty,Ref,Value,MPN\n7,\"R1,R2, R4-R7,#X,R9\",10k,a\n1,C1,1u,\n";
-    EXPECT_EQ(edited(list, {{"R5", "MPN", "b"}, {"R1", "MPN", "b"}, {"R9", "MPN", "c"}}),
-              "Qty,Ref,Value,MPN\n5,\"R2,R4,R6,R7,#X\",10k,a\n2,\"R1,R5\",10k,b\n1,\"R9\",10k,c\n1,C1,1u,\n");
-    EXPECT_EQ(edited("Ref;Qty;Value\r\nR01-R12; 12;1k", {{"R06", "Value", "2k"}}),
-              "Ref;Qty;Value\r\nR01-R05,R07-R12; 11;1k\r\nR06; 1;2k");
-    EXPECT_EQ(edited("Ref;Qty;Value\nC17/18/19;;1k\n", {{"C17", "Value", "2k"}}),
-              "Ref;Qty;Value\nC18,C19;;1k\nC17;;2k\n");
-    // All alike: no new row, and the cell with the references stays as it is written.
-    EXPECT_EQ(edited("Ref,Value\nR1 - R2,1\n", {{"R1", "Value", "2"}, {"R2", "Value", "2"}}),
-              "Ref,Value\nR1 - R2,2\n");
-    EXPECT_EQ(edited("Ref,Value\n\"R1 R2\",1\n", {{"R1", "Value", "2"}, {"R2", "Value", "3"}}),
-              "Ref,Value\n\"R1\",2\n\"R2\",3\n");
-}
-
-TEST_F(CsvEdit, AddsAColumnForANewName)
-{
-    EXPECT_EQ(edited("Title\nRef,Value\nR1,1k\n\nR2\n\"R3,R4\",2k\n",
-                     {{"R1", "MPN", "a"}, {"R4", "mpn", "b"}, {"R4", "BOMSKIP", "Yes"}}),
-              "Title\nRef,Value,MPN,BOMSKIP\nR1,1k,a,\n\nR2\n\"R3\",2k,,\n\"R4\",2k,b,Yes\n");
-    EXPECT_EQ(edited("\"Ref\",\"Value\"\n\"R1\",\"1\"\n\"R2\",\"1\"", {{"R2", "A,B", "x"}}),
-              "\"Ref\",\"Value\",\"A,B\"\n\"R1\",\"1\",\"\"\n\"R2\",\"1\",\"x\"");
-    EXPECT_EQ(edited("Ref\nR1\n\nR2", {{"R2", "A", "x"}}), "Ref,A\nR1,\n\nR2,x");
-    EXPECT_EQ(edited("Ref\nR1\n", {{"R1", "A", "x"}, {"R1", "B", "y"}, {"R1", "A", {}}}), "Ref,B\nR1,y\n");
-    EXPECT_EQ(edited("Ref\nR1\n", {{"R1", "A", ""}, {"R1", "B", {}}}), "unchanged");
-    EXPECT_EQ(edited("Ref\nR1\n", {{"R1", "VALUE", "1k"}, {"R1", "PACKAGE", "0603"}}),
-              "Ref,VALUE,PACKAGE\nR1,1k,0603\n");
-    EXPECT_THAT(edited("Ref\nR1\n", {{"R1", "Qty", "1"}}), HasSubstr("no column \"Qty\""));
-}
-
-TEST_F(CsvEdit, KeepsWindows1252AndRefusesWhatItLacks)
-{
-    EXPECT_EQ(edited("Ref,Value,Maker\nR1,1k,M\xFCller\n", {{"R1", "Value", "5\xE2\x82\xAC \xC2\xB5"}}),
-              "Ref,Value,Maker\nR1,5\x80 \xB5,M\xFCller\n");
-    EXPECT_THAT(edited("Ref,Value,Maker\nR1,1k,M\xFCller\n", {{"R1", "Value", "1k\xCE\xA9"}}),
-                HasSubstr("list.csv:2: the text \"1k\xCE\xA9\" has characters"));
-    // The only letter that tells the encoding would be read as UTF-8 then.
-    EXPECT_THAT(edited("Ref,Value\nR1,\xFC\n", {{"R1", "Value", "\xC3\x83\xC2\xA4"}}),
-                HasSubstr("would not be read as it is meant"));
+    for (const auto &[list, edits, expected] : dataTable<3>("csv/edits.txt")) {
+        std::vector<AskedEdit> asked;
+        for (const QString &edit : QString::fromStdString(edits).split(QStringLiteral(" + "))) {
+            const std::string reference = edit.section(u' ', 0, 0).toStdString();
+            const QString rest = edit.section(u' ', 1);
+            asked.push_back({reference, rest.section(u'=', 0, 0).toStdString()});
+            if (rest.contains(u'=')) {
+                asked.back().value = rest.section(u'=', 1).toStdString();
+            }
+        }
+        EXPECT_EQ(edited(list, asked), expected) << edits;
+    }
 }
 
 TEST_F(CsvEdit, RefusesByNameAndReason)
@@ -208,6 +167,12 @@ TEST_F(CsvEdit, RefusesByNameAndReason)
         const std::string messages = edited(list, {{"R1", "Value", "2k"}, asked});
         EXPECT_THAT(messages, testing::AllOf(HasSubstr("list.csv:2: "), HasSubstr(why)));
     }
+    EXPECT_THAT(edited("Ref\nR1\n", {{"R1", "Qty", "1"}}), HasSubstr("no column \"Qty\""));
+    EXPECT_THAT(edited("Ref,Value,Maker\nR1,1k,M\xFCller\n", {{"R1", "Value", "1k\xCE\xA9"}}),
+                HasSubstr("list.csv:2: the text \"1k\xCE\xA9\" has characters"));
+    // The only letter that tells the encoding would be read as UTF-8 then.
+    EXPECT_THAT(edited("Ref,Value\nR1,\xFC\n", {{"R1", "Value", "\xC3\x83\xC2\xA4"}}),
+                HasSubstr("would not be read as it is meant"));
     write(list);
     const auto design = load();
     write(list + "R2,1,1k,0603\n");

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/partlistreader.h"
 #include "designs/designfolder.h"
+#include "support/datatable.h"
 
 #include <QDir>
 #include <QFile>
@@ -156,33 +157,13 @@ TEST_F(CsvPartList, KeepsRepeatedReferencesApart)
                 ElementsAre("R1=1k@2", "R1=2k@3", "R2=3k@6"));
 }
 
-TEST_F(CsvPartList, RefusesWhatWouldLoseSomething)
+TEST_F(CsvPartList, RefusesWhatWouldLoseSomethingAndWhatIsNoText)
 {
-    const struct
-    {
-        std::string_view bytes;
-        int line;
-        const char *says;
-    } cases[] = {
-        {"", 0, "file is empty"},
-        {" \n,,\n", 0, "file is empty"},
-        {"\nMPN,Price\nx,1\n", 2,
-         "no reference column: call one Reference, Designator or RefDes (the headings here are "
-         "\"MPN\", \"Price\")"},
-        {"Ref,Value\nR1,1k\n,2k\n", 3, "the row (\"2k\" …) has no reference"},
-        {"Ref,Value\nR1,1k\nTotal: 5\n - ,2\n", 4, "is no reference"},
-        {"Ref,Value\nR1,1k\nR2,\"a\nb\"\nR3,1,5\n", 5, "3 cells, but there are 2 headings"},
-        {"Ref,Value\nR5-R2,1k\n", 2, "runs backwards"},
-        {"Ref,Value\nR1,1k\nR2A-R5B,1k\n", 3, "\"R2A-R5B\" is no range"},
-        {"Ref,Value\n\"R1,1k\n", 2, "never closed"},
-        {"Ref,Value,VALUE\nR1,1,2\n", 1, "2 \"Value\" and 3 \"VALUE\" have the same meaning"},
-        {"Ref,Value,ref\nR1,1,2\n", 1, "have the same meaning"},
-    };
-    for (const auto &c : cases) {
-        const ReadResult result = read(c.bytes);
-        EXPECT_EQ(result.error.line, c.line) << c.bytes;
+    for (const auto &[bytes, line, says] : dataTable<3>("csv/refused-lists.txt")) {
+        const ReadResult result = read(bytes);
+        EXPECT_EQ(std::to_string(result.error.line), line) << bytes;
         EXPECT_EQ(result.error.file, m_folder.path(m_file));
-        EXPECT_THAT(errorOf(result), HasSubstr(c.says));
+        EXPECT_THAT(errorOf(result), HasSubstr(says));
     }
 }
 
@@ -201,7 +182,8 @@ TEST_F(CsvPartList, RefusesVariantsAndTooManyParts)
 
 TEST_F(CsvPartList, WarnsAndGoesOn)
 {
-    EXPECT_EQ(warnings(*load("Ref,Qty,Value\nR1-R2,3,1k\nR3\nR4,1.0,,,\nR5,two,x\nR6,\"1\n\",x\n")),
+    EXPECT_EQ(warnings(*load(
+                  "Ref,Qty,Value\nR1-R2,3,1k\nR3\nR4,1.0,,,\nR5,two,x\nR6,\"1\n\",x\nR7-R9,\"3,00\",x\n")),
               "list.csv:2: the quantity is \"3\", but the row names 2 references: the references count\n"
               "list.csv:3: the row has only 1 of 3 cells: the others are read as empty\n"
               "list.csv:5: the quantity is \"two\", but the row names 1 reference: the references count\n");

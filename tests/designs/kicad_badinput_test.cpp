@@ -3,13 +3,10 @@
 #include "designs/designfolder.h"
 #include "designs/kicad/sheetparser.h"
 #include "designs/kicadtext.h"
-
-#include <QDir>
+#include "support/datatable.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <sys/stat.h>
 
 using namespace kicadtext;
 using namespace Qt::StringLiterals;
@@ -43,24 +40,14 @@ std::vector<BadInput> badInputs()
     const std::size_t inText = good.find("Reference\" \"R1") + 12;
     const int lineOfText = int(std::count(good.begin(), good.begin() + std::ptrdiff_t(inText), '\n')) + 1;
     const int lines = int(std::count(good.begin(), good.end(), '\n'));
-    return {
-        {"empty", "", 0, "is empty"},
-        {"blanks only", "  \n\n ", 1, "does not begin"},
-        {"picture", "\x89PNG\r\n\x1A\n(kicad_sch (version 20250114))", 1, "does not begin"},
-        {"another kind of file", "(kicad_pcb (version 20250114))", 1, "does not begin"},
-        {"longer first word", "(kicad_schematic (version 20250114))", 1, "no KiCad schematic"},
-        {"comment, then nothing", "# (kicad_sch)\n", 2, "no KiCad schematic"},
-        {"comment, then another kind", "# note\n\n(kicad_pcb)", 3, "no KiCad schematic"},
-        {"version 5", "EESchema Schematic File Version 4\n", 1, "does not begin"},
-        {"dummy", "dummy", 1, "does not begin"},
+    std::vector<BadInput> inputs;
+    for (const auto &[text, line, says] : dataTable<3>("kicad/bad-input.txt")) {
+        inputs.push_back({text, text, std::stoi(line), says});
+    }
+    const std::vector<BadInput> made = {
         {"cut in a text", good.substr(0, inText), lineOfText, "not closed on its line"},
         {"cut behind a text", good.substr(0, inText + 3), lineOfText, "cut off"},
         {"last parenthesis missing", good.substr(0, good.size() - 2), lines, "cut off"},
-        {"only the first word", "(kicad_sch", 1, "cut off"},
-        {"version missing", "(kicad_sch\n (generator x)\n)", 3, "no version"},
-        {"version is no number", "(kicad_sch (version abc))", 1, "no version"},
-        {"version too large", "(kicad_sch (version 99999999999999999999))", 1, "no version"},
-        {"version before KiCad 6", "(kicad_sch (version 20200310))", 1, "before KiCad 6"},
         {"text behind the end", good + "\n\n(more)", lines + 3, "behind the end"},
         {"word behind the end", good + ")", lines + 1, "behind the end"},
         {"nested without end", "(kicad_sch (version 20250114)\n" + std::string(100'000, '('), 2,
@@ -69,10 +56,6 @@ std::vector<BadInput> badInputs()
          "(kicad_sch (version 20250114)\n(symbol (property \"A\" " + std::string(100'000, '(') +
              std::string(100'000, ')') + ")))",
          2, "nested deeper"},
-        {"text over two lines", "(kicad_sch (version 20250114)\n(title_block (title \"a\nb\")))", 2,
-         "not closed"},
-        {"text over two lines in a skipped list", "(kicad_sch (version 20250114)\n\n(wire \"a\nb\"))", 3,
-         "not closed"},
         {"too many properties",
          "(kicad_sch (version 20250114)\n(symbol\n" + repeated("(property \"P%\" \"\")", 1001) + "))", 3,
          "1000 properties"},
@@ -84,8 +67,9 @@ std::vector<BadInput> badInputs()
          "(kicad_sch (version 20260306)\n(rule_area (dnp yes) (polyline (pts" + repeated("(xy 1 %)", 10'001) +
              "))))",
          2, "10000 corners"},
-        {"null bytes", "(kicad_sch (version 20250114)\n\0\0"s, 2, "cut off"},
     };
+    inputs.insert(inputs.end(), made.begin(), made.end());
+    return inputs;
 }
 
 } // namespace
@@ -102,23 +86,6 @@ TEST(KicadBadInput, IsRefusedWithFileAndLineInTheRootAndBelow)
             EXPECT_EQ(result.error.line, input.line) << input.name;
             EXPECT_THAT(errorOf(result), HasSubstr(input.says)) << input.name;
         }
-    }
-}
-
-TEST(KicadBadInput, ThatIsNoFileIsRefused)
-{
-    const DesignFolder folder;
-    QDir().mkpath(folder.path(u"folder.kicad_sch"_s));
-    ASSERT_EQ(mkfifo(folder.path(u"pipe.kicad_sch"_s).toLocal8Bit().constData(), 0600), 0);
-    const std::vector<std::pair<QString, std::string>> cases{
-        {u"folder.kicad_sch"_s, "folder"},
-        {u"pipe.kicad_sch"_s, "pipe"},
-        {u"absent.kicad_sch"_s, "cannot be read"},
-    };
-    for (const auto &[name, says] : cases) {
-        const auto result = folder.read(name);
-        EXPECT_EQ(result.error.file, folder.path(name));
-        EXPECT_THAT(result.error.text.toStdString(), HasSubstr(says));
     }
 }
 

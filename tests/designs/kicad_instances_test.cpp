@@ -101,15 +101,3 @@ TEST(KicadInstances, ASymbolMissingInTheLibraryCacheIsNamedOnceAndItsPartsCount)
     EXPECT_THAT(warnings(*design), HasSubstr("X1 and 2 more: the symbol Lost:X is missing"));
     EXPECT_GT(design->warnings().front().line, 0);
 }
-
-TEST(KicadInstances, LinesOfComponentsAreThoseOfTheirSymbols)
-{
-    // The file must still be there: lines are looked up when they are asked for.
-    const std::string one = symbol(v8, resistor("R1"));
-    const DesignFolder folder;
-    folder.write(root, schematic(v8, "top", one + symbol(v8, resistor("R2"))));
-    const auto design = folder.load();
-    const int first = design->lineOf(part(*design, "R1"));
-    EXPECT_GT(first, 1);
-    EXPECT_EQ(design->lineOf(part(*design, "R2")) - first, std::count(one.begin(), one.end(), '\n'));
-}

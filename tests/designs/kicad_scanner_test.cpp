@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/sexprscanner.h"
 
+#include "support/datatable.h"
+
 #include <gtest/gtest.h>
 
 #include <random>
@@ -102,33 +104,7 @@ std::string randomLists(std::mt19937 *random)
 
 TEST(KicadScanner, GivesTokens)
 {
-    const std::vector<std::pair<std::string, std::string>> cases{
-        {"", "END"},
-        {" \t\r\n", "END"},
-        {"(a b \"c d\" (e))", "(a b 'c d' (e ) ) END"},
-        {"\xEF\xBB\xBF(a)", "(a ) END"},
-        {"(a\"b\"c)", "(a 'b' c ) END"},
-        {"( a )", "(a ) END"},
-        {"(\"a\" b)", "( 'a' b ) END"},
-        {"((a) b)", "( (a ) b ) END"},
-        {"()", "( ) END"},
-        {"(", "( END"},
-        {"(a \"\")", "(a '' ) END"},
-        {"# whole ( line\n(a)", "(a ) END"},
-        {"(a\n  # ) \" not here\n  b)", "(a b ) END"},
-        {"(a #b c#d)", "(a #b c#d ) END"},
-        {"(a \"#\"\r\n\"x\")", "(a '#' 'x' ) END"},
-        {"(a ; b)", "(a ; b ) END"},
-        {"(a |bc==| d)", "(a |bc==| d ) END"},
-        {"(a # at the end of the file", "(a # at the end of the file END"},
-        {"(a\n# at the end of the file", "(a END"},
-        // A text ends on its line.
-        {"(a\n\"b\n\")", "(a ERROR 2"},
-        {"(a\n\n  \"b", "(a ERROR 3"},
-        {"(a \"b\\", "(a ERROR 1"},
-        {"(a \"b\r\n\")", "(a ERROR 1"},
-    };
-    for (const auto &[text, expected] : cases) {
+    for (const auto &[text, expected] : dataTable<2>("kicad/tokens.txt")) {
         EXPECT_EQ(tokens(text), expected) << text;
     }
 }
@@ -152,20 +128,6 @@ TEST(KicadScanner, ResolvesEscapes)
         EXPECT_EQ(unescapeQuoted(raw), expected) << raw;
     }
     EXPECT_EQ(tokens("(a \"\\\"\" \"\\\\\" \"b\\\\\\\")\")"), "(a '\"' '\\' 'b\\\")' ) END");
-}
-
-TEST(KicadScanner, TakesTextsUpToTheNextList)
-{
-    SexprScanner scanner("(property \"Name\" value (id 0))");
-    ASSERT_EQ(scanner.next(), Token::Open);
-    ASSERT_TRUE(scanner.takeText());
-    EXPECT_EQ(scanner.text(), "Name");
-    EXPECT_EQ(scanner.tokenOffset(), 10u);
-    ASSERT_TRUE(scanner.takeText());
-    EXPECT_EQ(scanner.text(), "value");
-    EXPECT_FALSE(scanner.takeText());
-    EXPECT_EQ(scanner.next(), Token::Open);
-    EXPECT_EQ(scanner.keyword(), "id");
 }
 
 TEST(KicadScanner, SkipsAListWhereverItLiesInItsBlock)

@@ -108,35 +108,6 @@ TEST(KicadSheet, UnknownTokensAndEmbeddedFilesAreSkipped)
     EXPECT_NE(parsed.file.librarySymbol(parsed.file.symbols[0]), nullptr);
 }
 
-TEST(KicadSheet, LayoutDoesNotMatter)
-{
-    const std::string text =
-        schematic(v7, "top", symbol(v7, {.reference = "R1", .value = "a  b"}) + sheet(v7, {}));
-    std::string oneLine;
-    std::string crlf;
-    std::string tabs;
-    for (const char c : text) {
-        oneLine += c == '\n' ? ' ' : c;
-        crlf += c == '\n' ? std::string("\r\n") : std::string{c};
-        tabs += c == '(' ? std::string("\n\t\t(") : std::string{c};
-    }
-    for (const std::string &layout :
-         {text, crlf, oneLine, tabs, text.substr(0, text.size() - 1), "\xEF\xBB\xBF" + text}) {
-        const Parsed parsed(layout);
-        EXPECT_EQ(parsed.file.symbols.at(0).value, "a  b");
-        EXPECT_EQ(parsed.file.sheets.at(0).file, "sub.kicad_sch");
-    }
-}
-
-TEST(KicadSheet, TextsLoseTheirEscapes)
-{
-    const Parsed escaped =
-        parsed(v9, {.value = "1{slash}2 ${A}{dblquote}", .fields = {{"N", "C:\\x\ny\"\tÄ{unknown}"}}});
-    EXPECT_EQ(escaped.file.symbols[0].value, "1/2 ${A}\"");
-    EXPECT_EQ(escaped.properties(), "N=C:\\x\ny\"\tÄ{unknown}");
-    EXPECT_TRUE(escaped.file.symbols[0].hasVariables);
-}
-
 TEST(KicadSheet, TextThatIsNotUtf8IsReadWithAWarning)
 {
     const auto design = designOf(v9, symbol(v9, {.reference = "R1", .value = "10\xB5 F"}));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/designfolder.h"
 #include "designs/kicadtext.h"
+#include "support/datatable.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -30,31 +31,7 @@ std::string shown(const std::string &text, std::string_view reference = "R1")
 
 TEST(KicadTextVariables, AreLookedUpFromTheInsideOut)
 {
-    const std::vector<std::pair<std::string, std::string>> cases{
-        {"no variable", "no variable"},
-        {"${Tol}", "1%"},
-        {"a ${tol} b ${TOL}${TOL}", "a 1% b 1%1%"},
-        {"${REFERENCE} ${Value}", "R1 10k"},
-        {"${Nested}", "1%/10k"},
-        {"${${Name}}", "1%"},
-        {"${C9:VALUE} ${C9:Voltage} ${uuid-of-c9:REFERENCE}", "100n 7V C9"},
-        {"${C9:NoSuch} ${Q1:VALUE}", "${C9:NoSuch} ${Q1:VALUE}"},
-        {"${FOOTPRINT_NAME} ${FOOTPRINT_LIBRARY}", "R_0402 R_SMD"},
-        {"${SYMBOL_NAME} ${SYMBOL_LIBRARY} ${UNIT}", "R Device B"},
-        {"${SHEETNAME} ${SHEETPATH} ${SHEETFILE} ${FILENAME}",
-         "Inner /Outer/Inner/ inner.kicad_sch root.kicad_sch"},
-        {"${CHANNEL} ${RAIL}", "inner +5V"},
-        {"${TITLE} [${COMMENT3}]", "Inner title []"},
-        {"${REV} ${Mixed} ${MIXED}", "7 case ${MIXED}"},
-        {"${DEEP}", "<7>"},
-        {"${UNKNOWN} ${} ${", "${UNKNOWN} ${} ${"},
-        {"${UNKNOWN ${Tol}", "${UNKNOWN 1%"},
-        {"~{RESET} $Tol {Tol} }", "~{RESET} $Tol {Tol} }"},
-        {"{dollar}{slash}", "$/"},
-        {"@{1+1}", "@{1+1}"},
-        {"\\${VALUE}", "\\10k"},
-    };
-    for (const auto &[text, expected] : cases) {
+    for (const auto &[text, expected] : dataTable<2>("kicad/variables/shown.txt")) {
         EXPECT_EQ(shown(text), expected) << text;
     }
     EXPECT_EQ(shown("${RAIL} ${SHEETPATH} ${REFERENCE}", "R2"), "+3V3 /Twin/Inner/ R2")

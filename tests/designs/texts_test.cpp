@@ -4,6 +4,7 @@
 #include "designs/propertynames.h"
 #include "designs/textarena.h"
 #include "designs/utf8.h"
+#include "support/datatable.h"
 
 #include <gtest/gtest.h>
 
@@ -12,19 +13,7 @@
 
 TEST(BraceEscapes, AreResolvedUnlessTheyAreMarkup)
 {
-    const std::vector<std::pair<std::string, std::string>> cases{
-        {"", ""},
-        {"{slash}{backslash}{lt}{gt}{colon}{dblquote}{quote}", "/\\<>:\"'"},
-        {"{bar}{comma}{space}{dollar}{tab}{return}{brace}", "|, $\t\n{"},
-        {"a{slash}b{slash}c", "a/b/c"},
-        {"${slash} ~{slash} ^{slash} _{slash} @{slash}", "${slash} ~{slash} ^{slash} _{slash} @{slash}"},
-        {"{unknown} {} {SLASH} { slash}", "{unknown} {} {SLASH} { slash}"},
-        {"{{slash}} {slash", "{/} {slash"},
-        {"{brace}slash}", "{slash}"},
-        {"{backslash", "{backslash"},
-        {"}{slash}", "}/"},
-    };
-    for (const auto &[text, expected] : cases) {
+    for (const auto &[text, expected] : dataTable<2>("kicad/brace-escapes.txt")) {
         EXPECT_EQ(designs::kicad::resolveBraceEscapes(text), expected) << text;
     }
 }

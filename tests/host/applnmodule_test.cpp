@@ -7,8 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -42,19 +40,6 @@ public:
 };
 
 } // namespace
-
-TEST(ApplnModule, IsFoundByItsNameWhileItLives)
-{
-    FakeProcess process;
-    auto module = std::make_unique<Module>(&process);
-    EXPECT_EQ(process.findmodule("ABC"), nullptr);
-    module->setapplnname(u"ABC"_s, u"Something"_s);
-    EXPECT_EQ(process.findmodule("ABC"), module.get());
-    EXPECT_EQ(process.findmodule("abc"), nullptr);
-    EXPECT_EQ(process.findmodule(nullptr), nullptr);
-    module.reset();
-    EXPECT_EQ(process.findmodule("ABC"), nullptr);
-}
 
 TEST(ApplnModule, ContextsNest)
 {

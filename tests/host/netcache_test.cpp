@@ -103,11 +103,4 @@ TEST(NetCache, LeavesItsServerWhenItGoesAway)
     EXPECT_EQ(server.log, (Log{"add", "remove"}));
 }
 
-TEST(NetList, IsValidWhenTheMasksShareABit)
-{
-    EXPECT_FALSE(NETLIST().isValid());
-    EXPECT_FALSE((NETLIST{0b0110, 0b1001, {}, {}, {}}.isValid()));
-    EXPECT_TRUE((NETLIST{0b0110, 0b1011, {}, {}, {}}.isValid()));
-}
-
 } // namespace

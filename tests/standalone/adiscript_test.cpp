@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/adiscript.h"
 
+#include "support/datatable.h"
+
 #include <gmock/gmock.h>
 
 #include <sstream>
@@ -52,28 +54,9 @@ TEST(AdiScript, CarriesTextsThatLookLikeScript)
 TEST(AdiScript, IsRefusedAsAWholeWithTheLineThatIsWrong)
 {
     const std::string good = "DATA NAME : R1-\n\"A\"   :   \"x\"\nEND\n\n";
-    const std::pair<std::string, const char *> cases[] = {
-        {"\n", "line 5"},
-        {"DATA NAME : R2\nEND\n\n", "line 5"},
-        {"data name : R2-\nEND\n\n", "line 5"},
-        {"DATA NAME : -\nEND\n\n", "line 5: the reference is missing"},
-        {"DATA NAME : R2-\r\nEND\n\n", "line 5"},
-        {"DATA NAME : R2-\n\"A\" : \"x\"\nEND\n\n", "line 6"},
-        {"DATA NAME : R2-\n\"A\"   :   \"x\nEND\n\n", "line 6"},
-        {"DATA NAME : R2-\n\"A\"   :   \"\nEND\n\n", "line 6"},
-        {"DATA NAME : R2-\n\"A\"   :   \"x\" \nEND\n\n", "line 6"},
-        {"DATA NAME : R2-\n\"A\"   :   \"x\ny\"\nEND\n\n", "line 6"},
-        {"DATA NAME : R2-\n\"\"   :   \"x\"\nEND\n\n", "line 6: the property has no name"},
-        {"DATA NAME : R2-\n\"A\"   :   \"\xC3\"\nEND\n\n", "line 6: the line is no UTF-8"},
-        {"DATA NAME : R2-\n\nEND\n\n", "line 6"},
-        {"DATA NAME : R2-\nEND\nDATA NAME : R3-\nEND\n\n", "line 7: an empty line must follow END"},
-        {"DATA NAME : R2-\nEND\n", "line 7: the script ends"},
-        {"DATA NAME : R2-\n", "line 6: the script ends"},
-        {"DATA NAME : R2-", "line 5: the script ends within a line"},
-    };
-    for (const auto &[text, where] : cases) {
+    for (const auto &[text, where] : dataTable<2>("standalone/refused-scripts.txt")) {
         const AdiScript script = read(good + text);
-        EXPECT_THAT(script.error.toStdString(), testing::StartsWith(std::string("script ") + where)) << text;
+        EXPECT_THAT(script.error.toStdString(), testing::StartsWith("script " + where)) << text;
         EXPECT_TRUE(script.assignments.empty()) << text;
     }
 }

@@ -32,11 +32,5 @@ public:
     {
         return QByteArrayView(application) == "BOM" ? dataPath : QString();
     }
-    /// What the module "BOM" offers as interface 10.
-    IMODULE *viewer = nullptr;
-
-    IMODULE *getmoduleinterface(const char *application, unsigned id) override
-    {
-        return QByteArrayView(application) == "BOM" && id == 10 ? viewer : nullptr;
-    }
+    IMODULE *getmoduleinterface(const char *, unsigned) override { return nullptr; }
 };

@@ -21,6 +21,7 @@ static void restoreResources()
 namespace {
 
 using BomTemplate = TemplateFixture;
+using TemplatePaths = TemplateFixture;
 
 TEST_F(BomTemplate, DefaultsKeepIdentityAndResetEverythingElse)
 {
@@ -76,14 +77,6 @@ TEST_F(BomTemplate, AFieldIsItsFirstMentionAndHasDefaultWidths)
     EXPECT_EQ(read.categories(), QList{BOMCategory()});
 }
 
-TEST_F(BomTemplate, ANewerVersionIsReadForWhatIsKnown)
-{
-    const BOMTemplate read(u"x"_s, data("newer-version.bomt"));
-    EXPECT_EQ(read.css(), u"known"_s);
-    EXPECT_EQ(read.version(), 5);
-    EXPECT_TRUE(m_messages.isEmpty());
-}
-
 TEST_F(BomTemplate, NameThatIsNoFileNameGetsNoFile)
 {
     for (const char *name : {"", ".", "..", "../x", "a/b", "a\\b", ".hidden", "con", "Lpt1.old", "a\nb"}) {
@@ -136,6 +129,18 @@ TEST_F(BomTemplate, VersionZeroLoadsNothing)
     EXPECT_EQ(made.css(), u"mine"_s);
     EXPECT_EQ(made.version(), 0);
     EXPECT_TRUE(m_messages.isEmpty());
+}
+
+TEST_F(TemplatePaths, OfAHostComeInOrderAndTheFirstThatCanBeMadeIsPrimary)
+{
+    const QString blocked = write(u"file"_s, {}) + u"/x"_s;
+    const QString made = path(u"a/made"_s);
+    const QString data = path(u"data"_s);
+    EXPECT_EQ(hostTemplatePaths(u";%1; %2 ;;%2"_s.arg(blocked, made), data),
+              QStringList({made, blocked, data, shippedTemplateFolder()}));
+    EXPECT_TRUE(QDir(made).exists() && !QDir(data).exists());
+    EXPECT_EQ(hostTemplatePaths(shippedTemplateFolder(), blocked),
+              QStringList({blocked, shippedTemplateFolder()}));
 }
 
 class LegacySettings : public TemplateFixture

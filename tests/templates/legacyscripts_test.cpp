@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "templates/legacytemplate.h"
 
+#include "host/framework/hostsettings.h"
 #include "support/scopeddefinitions.h"
 #include "templates/templatefixture.h"
 #include "templates/templatestore.h"
@@ -101,6 +102,18 @@ TEST_F(LegacyFile, OfSettingsIsSearchedForTheHighestVersion)
     EXPECT_EQ(legacyScriptsIn(settings, &group), expected);
     // Capitals come first.
     EXPECT_EQ(group, u"Orin A/10.0/BOM Scripts"_s);
+}
+
+TEST_F(LegacyFile, IsOfferedOnce)
+{
+    IniHostSettings settings(path(u"bom.ini"_s));
+    HostSettings::install(&settings);
+    EXPECT_TRUE(TemplateStore::isLegacyImportPending());
+    EXPECT_TRUE(QDir(m_folder.path()).isEmpty());
+    TemplateStore::setLegacyImportDone();
+    EXPECT_FALSE(TemplateStore::isLegacyImportPending());
+    EXPECT_EQ(IniHostSettings(path(u"bom.ini"_s)).value(u"BOM"_s, u"BomScriptsImported"_s), u"true"_s);
+    HostSettings::install(nullptr);
 }
 
 TEST(LegacyScriptValues, AreSplitAtCommasOutsideQuotes)

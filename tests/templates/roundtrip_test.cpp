@@ -4,9 +4,6 @@
 #include "templates/bomtemplate.h"
 #include "templates/templatefixture.h"
 
-#include <QBuffer>
-#include <QScopeGuard>
-
 namespace {
 
 /// Makes the maps of templates with awkward texts.
@@ -147,24 +144,6 @@ TEST_F(RoundTrip, WhatCannotBeWrittenLeavesTheOldFile)
     EXPECT_EQ(m_messages[0].title, u"BOM Template Save Failed"_s);
     EXPECT_EQ(m_messages[0].text,
               u"The BOM template '5%1 \u00e4' was not saved.  An unknown error occurred."_s);
-}
-
-TEST_F(RoundTrip, AFileCutAnywhereIsRefusedOrWhole)
-{
-    const QByteArray bytes = readFile(data("every-key.bomt"));
-    const qsizetype end = bytes.lastIndexOf('>') + 1;
-    const auto debugLines =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    const auto cleanUp = qScopeGuard([debugLines] { qInstallMessageHandler(debugLines); });
-    for (qsizetype size = 0; size < bytes.size(); ++size) {
-        QByteArray start = bytes.first(size);
-        QBuffer buffer(&start);
-        ASSERT_TRUE(buffer.open(QIODevice::ReadOnly));
-        QString problem;
-        const auto read = BOMTemplateFile(u"cut.bomt"_s).readDocument(buffer, &problem);
-        ASSERT_EQ(read.has_value(), size >= end) << size;
-        ASSERT_EQ(problem.isEmpty(), size >= end) << size;
-    }
 }
 
 /// The first version that has the key.

@@ -77,7 +77,6 @@ protected:
         write(u"old.html"_s, "<div id='customHeader'>ACME</div><p>rest");
         return writeWithHtml("Mine", u"old.html"_s);
     }
-    [[nodiscard]] QString header() const { return m_working.settings.documentHeader(); }
     /// Puts a folder in the way of a file, so that it can neither be written nor deleted.
     void block(const char *name) const { ASSERT_TRUE(QDir().mkpath(file(name) + u"/inside"_s)); }
 
@@ -88,16 +87,6 @@ protected:
 };
 
 using Messages = QList<ScriptedUi::Message>;
-
-TEST_F(TemplateStoreTest, AnEmptyFolderHoldsOnlyDefaultWhichHasNoFileYet)
-{
-    m_store.reload();
-    EXPECT_EQ(names(), "Default");
-    EXPECT_EQ(m_store.currentName(), u"Default"_s);
-    EXPECT_EQ(remembered(), u"Default"_s);
-    EXPECT_EQ(m_working.settings.toVariantMap(), BOMTemplate().toVariantMap());
-    EXPECT_TRUE(QDir(m_folder.path()).isEmpty());
-}
 
 TEST_F(TemplateStoreTest, TheFirstFolderWinsIgnoringCase)
 {
@@ -346,18 +335,18 @@ TEST_F(TemplateStoreTest, ImportRefusesWhatIsNoTemplateAndSaysWhenTheFolderTakes
     EXPECT_EQ(names(), "Default");
 }
 
-const Messages upgraded = {{u"BOM Template Upgraded"_s,
-                            u"The BOM template 'Mine' has been upgraded.  Some styling may have changed."_s}};
-
 TEST_F(TemplateStoreTest, AnOldHeaderIsTakenAtEachSelectionUntilItIsSavedAndToldOnce)
 {
     const QString mine = writeWithHeader();
     m_store.reload();
     for (int time = 0; time < 2; ++time) {
         ASSERT_TRUE(m_store.select(u"Mine"_s));
-        EXPECT_EQ(header(), u"ACME"_s);
+        EXPECT_EQ(m_working.settings.documentHeader(), u"ACME"_s);
         EXPECT_TRUE(m_store.isModified());
-        EXPECT_EQ(m_ui.informations, upgraded);
+        EXPECT_EQ(
+            m_ui.informations,
+            (Messages{{u"BOM Template Upgraded"_s,
+                       u"The BOM template 'Mine' has been upgraded.  Some styling may have changed."_s}}));
         ASSERT_TRUE(m_store.select(u"Default"_s));
         EXPECT_FALSE(m_store.isModified());
     }
@@ -365,29 +354,8 @@ TEST_F(TemplateStoreTest, AnOldHeaderIsTakenAtEachSelectionUntilItIsSavedAndTold
     EXPECT_TRUE(m_store.saveCurrent());
     EXPECT_EQ(BOMTemplate({}, mine).documentHeader(), u"ACME"_s);
     m_store.reload();
-    EXPECT_EQ(header(), u"ACME"_s);
+    EXPECT_EQ(m_working.settings.documentHeader(), u"ACME"_s);
     EXPECT_FALSE(m_store.isModified());
-}
-
-TEST_F(TemplateStoreTest, AnOldHeaderIsImportedAndAdded)
-{
-    const QTemporaryDir elsewhere;
-    const QString mine = writeWithHeader();
-    const QString moved = elsewhere.filePath(u"Mine.bomt"_s);
-    ASSERT_TRUE(QFile::rename(mine, moved));
-    m_store.reload();
-    ASSERT_TRUE(m_store.importFile(moved));
-    EXPECT_EQ(BOMTemplate({}, mine).documentHeader(), u"ACME"_s);
-    EXPECT_EQ(m_ui.informations, upgraded);
-    EXPECT_EQ(header(), u"ACME"_s);
-    EXPECT_FALSE(m_store.isModified());
-
-    QString problem;
-    auto settings = BOMTemplate::fromFile(moved, &problem);
-    ASSERT_TRUE(settings) << problem.toStdString();
-    settings->setName(u"More"_s);
-    EXPECT_TRUE(m_store.add(*settings));
-    EXPECT_EQ(header(), u"ACME"_s);
 }
 
 TEST_F(TemplateStoreTest, AFileOfALaterVersionIsToldAndNotReplacedWithoutAQuestion)
@@ -455,29 +423,6 @@ TEST_F(TemplateStoreTest, AShippedTemplateStaysAndSavingItMakesTheUsersOwn)
     EXPECT_TRUE(m_store.templates().isShipped(name));
     EXPECT_EQ(m_store.currentName(), name);
     EXPECT_NE(workingWidth(), 61);
-}
-
-TEST_F(TemplateStoreTest, TheFoldersOfAHostComeInOrderAndTheFirstThatCanBeMadeIsPrimary)
-{
-    const QString blocked = write(u"file"_s, {}) + u"/x"_s;
-    const QString made = path(u"a/made"_s);
-    const QString data = path(u"data"_s);
-    EXPECT_EQ(hostTemplatePaths(u";%1; %2 ;;%2"_s.arg(blocked, made), data),
-              QStringList({made, blocked, data, shippedTemplateFolder()}));
-    EXPECT_TRUE(QDir(made).exists() && !QDir(data).exists());
-    EXPECT_EQ(hostTemplatePaths(shippedTemplateFolder(), blocked),
-              QStringList({blocked, shippedTemplateFolder()}));
-}
-
-TEST_F(TemplateStoreTest, TheLegacyImportIsPendingUntilItWasOffered)
-{
-    IniHostSettings settings(path(u"bom.ini"_s));
-    HostSettings::install(&settings);
-    EXPECT_TRUE(TemplateStore::isLegacyImportPending());
-    EXPECT_TRUE(QDir(m_folder.path()).isEmpty());
-    TemplateStore::setLegacyImportDone();
-    EXPECT_FALSE(TemplateStore::isLegacyImportPending());
-    EXPECT_EQ(IniHostSettings(path(u"bom.ini"_s)).value(u"BOM"_s, u"BomScriptsImported"_s), u"true"_s);
 }
 
 } // namespace
