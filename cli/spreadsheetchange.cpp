@@ -9,41 +9,79 @@
 
 namespace {
 
-bool matches(const QString &text, const char *pattern)
+/// What a whole text may look like. Thousands of cells are looked at, and most differ in their first
+/// character.
+class Form
 {
-    const QRegularExpression whole(QRegularExpression::anchoredPattern(QString::fromLatin1(pattern)),
-                                   QRegularExpression::CaseInsensitiveOption);
-    return whole.match(text).hasMatch();
-}
+public:
+    /// `starts` are the characters, in lower case, with which such a text may begin.
+    Form(const QByteArray &pattern, QLatin1String starts)
+        : m_whole(QRegularExpression::anchoredPattern(QString::fromLatin1(pattern)),
+                  QRegularExpression::CaseInsensitiveOption)
+        , m_starts(starts)
+    {
+    }
+
+    [[nodiscard]] bool matches(const QString &text) const
+    {
+        // A letter outside of ASCII may be another form of one inside.
+        const bool mayMatch = !text.isEmpty() && (text.front().unicode() > 127 ||
+                                                  m_starts.contains(text.front(), Qt::CaseInsensitive));
+        return mayMatch && m_whole.match(text).hasMatch();
+    }
+
+private:
+    QRegularExpression m_whole;
+    QLatin1String m_starts;
+};
 
 constexpr const char *month = "(?:jan|feb|mar|apr|may|mai|jun|jul|aug|sep|oct|okt|nov|dec|dez)[a-z]*";
+constexpr QLatin1String digits("0123456789");
+constexpr QLatin1String digitsAndMonths("0123456789jfmasond");
 
 bool hasMonth(const QString &text)
 {
-    return text.contains(
-        QRegularExpression(QString::fromLatin1(month), QRegularExpression::CaseInsensitiveOption));
+    static const QRegularExpression pattern(QString::fromLatin1(month),
+                                            QRegularExpression::CaseInsensitiveOption);
+    return text.contains(pattern);
 }
 
 /// "1-2", "10/12", "3.4.", "MAR1", "2-Sep": what spreadsheets take for a date.
 bool isTakenForDate(const QString &text)
 {
-    static const QByteArray named = QByteArray("(?:\\d{1,4}[-/. ]*)?") + month + "[-/. ]*\\d{0,4}";
-    return matches(text, "\\d{1,4}[-/.]\\d{1,2}(?:[-/.]\\d{0,4})?") || matches(text, named.constData());
+    static const Form numbers("\\d{1,4}[-/.]\\d{1,2}(?:[-/.]\\d{0,4})?", digits);
+    static const Form named(QByteArray("(?:\\d{1,4}[-/. ]*)?") + month + "[-/. ]*\\d{0,4}", digitsAndMonths);
+    return numbers.matches(text) || named.matches(text);
 }
 
 /// A whole date, or day and month by name, or the number of a day from 1982 to 2063.
 bool isDate(const QString &text)
 {
-    static const QByteArray named =
-        QByteArray("\\d{1,2}[-/. ]+") + month + "(?:[-/. ]+\\d{2,4})?|" + month + "[-/. ]+\\d{1,4}";
-    return matches(text,
-                   "\\d{1,2}[-/.]\\d{1,2}[-/.]\\d{2,4}|\\d{4}[-/.]\\d{1,2}[-/.]\\d{1,2}(?:[ T]00:00.*)?") ||
-           matches(text, named.constData()) || matches(text, "[3-5]\\d{4}");
+    static const Form numbers(
+        "\\d{1,2}[-/.]\\d{1,2}[-/.]\\d{2,4}|\\d{4}[-/.]\\d{1,2}[-/.]\\d{1,2}(?:[ T]00:00.*)?", digits);
+    static const Form named(QByteArray("\\d{1,2}[-/. ]+") + month + "(?:[-/. ]+\\d{2,4})?|" + month +
+                                "[-/. ]+\\d{1,4}",
+                            digitsAndMonths);
+    static const Form day("[3-5]\\d{4}", digits);
+    return numbers.matches(text) || named.matches(text) || day.matches(text);
 }
 
 bool isExponential(const QString &text)
 {
-    return matches(text, "[-+]?\\d+(?:[.,]\\d*)?e[-+]?\\d+");
+    static const Form form("[-+]?\\d+(?:[.,]\\d*)?e[-+]?\\d+", QLatin1String("-+0123456789"));
+    return form.matches(text);
+}
+
+bool hasZerosInFront(const QString &text)
+{
+    static const Form form("[-+]?0+\\d.*", QLatin1String("-+0"));
+    return form.matches(text);
+}
+
+bool isError(const QString &text)
+{
+    static const Form form("#(?:NAME\\?|REF!|VALUE!|DIV/0!|N/A|NUM!|NULL!)|Err:\\d+", QLatin1String("#e"));
+    return form.matches(text);
 }
 
 qsizetype digitsOf(const QString &text)
@@ -55,7 +93,7 @@ qsizetype digitsOf(const QString &text)
 bool isAbout(const QString &a, const QString &b, const NumberReader &numbers)
 {
     const auto x = numbers.read(a);
-    const auto y = numbers.read(b);
+    const auto y = x ? numbers.read(b) : std::nullopt;
     return x && y && std::abs(*x - *y) <= 0.01 * std::max(std::abs(*x), std::abs(*y));
 }
 
@@ -65,14 +103,12 @@ bool isSameNumber(const QString &a, const QString &b, const NumberReader &number
 {
     constexpr qsizetype exactDigits = 15;
     const auto x = numbers.read(a);
-    const auto y = numbers.read(b);
-    return x && x == y && digitsOf(a) <= exactDigits && digitsOf(b) <= exactDigits;
+    return x && x == numbers.read(b) && digitsOf(a) <= exactDigits && digitsOf(b) <= exactDigits;
 }
 
 QString spreadsheetChange(const QString &before, const QString &after, const NumberReader &numbers)
 {
-    const bool hasZeros = matches(before, "[-+]?0+\\d.*");
-    if (hasZeros && !matches(after, "[-+]?0+\\d.*") && isSameNumber(before, after, numbers)) {
+    if (hasZerosInFront(before) && !hasZerosInFront(after) && isSameNumber(before, after, numbers)) {
         return QStringLiteral("zeros in front are gone");
     }
     const bool isLong = digitsOf(before) > 11 && isExponential(after);
@@ -85,7 +121,5 @@ QString spreadsheetChange(const QString &before, const QString &after, const Num
     if (before.startsWith(u'=') && !after.startsWith(u'=')) {
         return QStringLiteral("it is taken for a formula");
     }
-    return matches(after, "#(?:NAME\\?|REF!|VALUE!|DIV/0!|N/A|NUM!|NULL!)|Err:\\d+")
-               ? QStringLiteral("it is taken for a formula")
-               : QString();
+    return isError(after) ? QStringLiteral("it is taken for a formula") : QString();
 }

@@ -12,6 +12,10 @@ NumberReader::NumberReader(const QLocale &locale)
 
 std::optional<double> NumberReader::read(const QString &text) const
 {
+    // Only "inf" and "nan", which do not count, begin so; most texts that are no numbers do.
+    if (!text.isEmpty() && text.front().unicode() < 128 && text.front().isLetter()) {
+        return std::nullopt;
+    }
     bool isNumber = false;
     double number = m_locale.toDouble(text, &isNumber);
     if (!isNumber) {

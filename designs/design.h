@@ -129,7 +129,8 @@ struct ReadOptions
 {
     /// The variant to apply; empty for the design as drawn.
     QString variant;
-    /// How many threads read files, 0 for as many as are worth while. The design is the same for any number.
+    /// How many threads read files and work out new ones, 0 for as many as are worth while. The design and
+    /// its plans are the same for any number.
     int threads = 0;
 };
 

@@ -4,8 +4,8 @@
 
 #include "designs/filefingerprint.h"
 #include "designs/problem.h"
+#include "designs/splices.h"
 
-#include <QByteArray>
 #include <QString>
 
 #include <optional>
@@ -59,7 +59,18 @@ struct FileReplacement
     QString path;
     /// Of the content that the edits were worked out on.
     FileFingerprint before;
-    QByteArray after;
+    FileFingerprint after;
+    /// What becomes of the content before, sorted: all new contents of a large design would not go into
+    /// memory.
+    std::vector<Splice> splices;
+
+    /// For content that has nothing to do with the one before.
+    [[nodiscard]] static FileReplacement whole(const QString &path, const FileFingerprint &before,
+                                               std::string after)
+    {
+        const FileFingerprint fingerprint = fingerprintOf(after);
+        return {path, before, fingerprint, {{0, std::size_t(before.size), std::move(after)}}};
+    }
 };
 
 /// What edits come to. Files may be written only when there are no problems.

@@ -68,7 +68,7 @@ bool canBeReplaced(const designs::Design &design)
             return false;
         }
         // Only checked, not written: the content does not matter.
-        same.push_back({path, *fingerprint, {}});
+        same.push_back({path, *fingerprint, *fingerprint, {}});
     }
     return filesOf(design).check(same).empty();
 }

@@ -33,6 +33,8 @@ public:
     [[nodiscard]] const std::vector<SymbolUse> &symbolUses() const { return m_symbolUses; }
     /// The variant that was chosen for reading, empty for none.
     [[nodiscard]] const std::string &variant() const { return m_variant; }
+    /// See ReadOptions.
+    [[nodiscard]] int threads() const { return m_threads; }
 
 private:
     bool findProject(const QString &path, Problem *problem);

@@ -94,7 +94,7 @@ std::vector<FileReplacement> reversed(FileOperations &operations, const DesignPa
             operations.fail(recorded.target,
                             QStringLiteral("was changed since it was written: nothing is taken back"));
         } else if (auto content = contentOfPlainFile(backup, recorded.before)) {
-            files.push_back({recorded.target, recorded.after, std::move(*content)});
+            files.push_back(FileReplacement::whole(recorded.target, recorded.after, std::move(*content)));
         } else {
             operations.fail(backup, QStringLiteral("is missing or damaged: nothing is taken back"));
         }
@@ -119,15 +119,16 @@ bool checkNothingInterrupted(FileOperations &operations, const DesignPaths &path
 
 } // namespace
 
-DesignFiles::DesignFiles(const QString &design, const QStringList &members, FileSystem *system)
+DesignFiles::DesignFiles(const QString &design, const QStringList &members, FileSystem *system, int threads)
     : m_paths(design, members)
     , m_system(system ? system : &FileSystem::real())
+    , m_threads(threads)
 {
 }
 
 RecoveryResult DesignFiles::recover() const
 {
-    FileOperations operations(*m_system);
+    FileOperations operations(*m_system, m_threads);
     Recovery recovery(operations, m_paths);
     if (!recovery.isNeeded()) {
         return {{}, std::move(operations.problems()), true};
@@ -148,7 +149,7 @@ RecoveryResult DesignFiles::recover() const
 
 std::vector<Problem> DesignFiles::check(std::span<const FileReplacement> files) const
 {
-    FileOperations operations(*m_system);
+    FileOperations operations(*m_system, m_threads);
     (void)WriteCheck(operations, m_paths).run(files, false);
     return operations.problems();
 }
@@ -158,7 +159,7 @@ TransactionResult DesignFiles::replace(std::span<const FileReplacement> files, B
     if (files.empty()) {
         return {};
     }
-    FileOperations operations(*m_system);
+    FileOperations operations(*m_system, m_threads);
     DesignLock lock(operations, m_paths);
     if (!lock.take() || !checkNothingInterrupted(operations, m_paths)) {
         return failure(operations);
@@ -168,7 +169,7 @@ TransactionResult DesignFiles::replace(std::span<const FileReplacement> files, B
 
 TransactionResult DesignFiles::undo() const
 {
-    FileOperations operations(*m_system);
+    FileOperations operations(*m_system, m_threads);
     if (!canUndo()) {
         operations.fail(m_paths.design(), QStringLiteral("there is nothing to take back"));
         return failure(operations);
@@ -189,7 +190,7 @@ TransactionResult DesignFiles::undo() const
 
 bool DesignFiles::canUndo() const
 {
-    FileOperations operations(*m_system);
+    FileOperations operations(*m_system, m_threads);
     return operations.exists(m_paths.record());
 }
 

@@ -58,8 +58,10 @@ class DesignFiles final
 public:
     /// `design` is the file that stands for the design (DesignInfo::file); journal, backups and the record
     /// for undo() are found by it. `members` are all of its files (Design::files()): no other one is ever
-    /// touched. `system` stays the caller's; null is the real one.
-    DesignFiles(const QString &design, const QStringList &members, FileSystem *system = nullptr);
+    /// touched. `system` stays the caller's; null is the real one. `threads` is how many work on large files
+    /// at once, 0 for as many as are worth while; what comes of it is the same for any number.
+    DesignFiles(const QString &design, const QStringList &members, FileSystem *system = nullptr,
+                int threads = 0);
 
     /// Completes or takes back a transaction that was interrupted. The design is to be read again when
     /// something was done. Waits for one that is under way.
@@ -81,6 +83,7 @@ public:
 private:
     DesignPaths m_paths;
     FileSystem *m_system;
+    int m_threads;
 };
 
 /// Other designs whose interrupted write concerns these files, too: their journals stand in the folders of

@@ -114,12 +114,12 @@ bool DesignPaths::mayHold(const QString &target) const
 
 bool DesignPaths::isMember(const QString &target) const
 {
-    if (m_targets.isEmpty()) {
+    std::call_once(m_hasTargets, [this] {
         m_targets.insert(m_design);
         for (const QString &member : m_members) {
             m_targets.insert(withoutLinks(member));
         }
-    }
+    });
     return m_targets.contains(target);
 }
 

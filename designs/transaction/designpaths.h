@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <mutex>
+
 namespace designs {
 
 /// Where the files lie that belong to writing one design. All paths are absolute and, but for
@@ -50,8 +52,9 @@ private:
     QString m_folder;
     QString m_name;
     QStringList m_members;
-    /// Without symbolic links; filled at the first question.
+    /// Without symbolic links; filled at the first question, which several threads may ask.
     mutable QSet<QString> m_targets;
+    mutable std::once_flag m_hasTargets;
 };
 
 /// The folder that a path lies in.

@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/fileoperations.h"
 
+#include "designs/threads.h"
 #include "designs/transaction/designpaths.h"
 
+#include <algorithm>
+#include <atomic>
 #include <cerrno>
+#include <iterator>
 #include <utility>
 
 namespace designs {
@@ -12,6 +16,8 @@ namespace designs {
 namespace {
 
 constexpr std::size_t blockSize = 1 << 20;
+/// Disks work on many requests at once.
+constexpr int threadsThatWait = 8;
 
 } // namespace
 
@@ -31,20 +37,62 @@ bool FileOperations::succeeded(int failure, const QString &path, const QString &
     return failure == 0 || fail(path, what + QStringLiteral(": ") + qt_error_string(failure));
 }
 
-bool FileOperations::writeFile(const QString &owner, const QString &path, const QByteArray &bytes,
+int FileOperations::threadsFor(const std::vector<qint64> &sizes, WaitsFor waitsFor) const
+{
+    if (m_threads > 0) {
+        return m_threads;
+    }
+    const int threads = threadsForFiles(sizes);
+    return threads > 1 && waitsFor == WaitsFor::Disk ? threadsThatWait : threads;
+}
+
+/// All files before the first that failed have been worked on when this returns: items are begun in their
+/// order, and only those behind a failure are left out. So the problems are the same for any number of
+/// threads.
+bool FileOperations::forEachFile(const std::vector<qint64> &sizes, const FileWork &work, WaitsFor waitsFor)
+{
+    struct Outcome
+    {
+        std::vector<Problem> problems;
+        std::vector<Written> unsynced;
+    };
+    const std::size_t count = sizes.size();
+    const int threads = threadsFor(sizes, waitsFor);
+    std::vector<Outcome> outcomes(count);
+    std::vector<FileOperations> each(std::size_t(threads), FileOperations(m_system, 1));
+    std::atomic<std::size_t> firstFailed = count;
+    forEachInThreads(count, threads, [&](std::size_t file, int thread) {
+        std::size_t failed = firstFailed;
+        if (file > failed) {
+            return;
+        }
+        FileOperations &own = each[std::size_t(thread)];
+        const bool isDone = work(own, file);
+        outcomes[file] = {std::exchange(own.m_problems, {}), std::exchange(own.m_unsynced, {})};
+        while (!isDone && file < failed && !firstFailed.compare_exchange_weak(failed, file)) {
+        }
+    });
+    for (std::size_t file = 0; file < std::min(firstFailed + 1, count); ++file) {
+        std::ranges::move(outcomes[file].problems, std::back_inserter(m_problems));
+        std::ranges::move(outcomes[file].unsynced, std::back_inserter(m_unsynced));
+    }
+    return firstFailed == count;
+}
+
+bool FileOperations::writeFile(const QString &owner, const QString &path, QByteArrayView bytes,
                                const FileStatus &like)
 {
     return write(owner, path, bytes, like, Sync::Now);
 }
 
-bool FileOperations::writeLater(const QString &owner, const QString &path, const QByteArray &bytes,
+bool FileOperations::writeLater(const QString &owner, const QString &path, QByteArrayView bytes,
                                 const FileStatus &like)
 {
-    m_unsynced.push_back({owner, path});
+    m_unsynced.push_back({owner, path, bytes.size()});
     return write(owner, path, bytes, like, Sync::Later);
 }
 
-bool FileOperations::write(const QString &owner, const QString &path, const QByteArray &bytes,
+bool FileOperations::write(const QString &owner, const QString &path, QByteArrayView bytes,
                            const FileStatus &like, Sync sync)
 {
     const std::size_t before = m_problems.size();
@@ -61,7 +109,7 @@ void FileOperations::putOwnerFirst(const QString &owner, std::size_t firstProble
     }
 }
 
-bool FileOperations::writeNewFile(const QString &path, const QByteArray &bytes, const FileStatus &like,
+bool FileOperations::writeNewFile(const QString &path, QByteArrayView bytes, const FileStatus &like,
                                   Sync sync)
 {
     int file = -1;
@@ -72,10 +120,10 @@ bool FileOperations::writeNewFile(const QString &path, const QByteArray &bytes, 
     return succeeded(m_system.close(file), path, QStringLiteral("cannot be written")) && isFilled;
 }
 
-bool FileOperations::writeContent(int file, const QString &path, const QByteArray &bytes,
-                                  const FileStatus &like, Sync sync)
+bool FileOperations::writeContent(int file, const QString &path, QByteArrayView bytes, const FileStatus &like,
+                                  Sync sync)
 {
-    std::string_view rest(bytes.constData(), std::size_t(bytes.size()));
+    std::string_view rest(bytes.data(), std::size_t(bytes.size()));
     while (!rest.empty()) {
         std::size_t written = 0;
         const int failure = m_system.write(file, rest.substr(0, blockSize), &written);
@@ -96,13 +144,19 @@ bool FileOperations::writeContent(int file, const QString &path, const QByteArra
 
 bool FileOperations::syncWritten()
 {
-    bool done = true;
-    for (const Written &written : std::exchange(m_unsynced, {})) {
-        const std::size_t before = m_problems.size();
-        done = syncFile(written.path) && done;
-        putOwnerFirst(written.owner, before);
+    const std::vector<Written> all = std::exchange(m_unsynced, {});
+    std::vector<qint64> sizes;
+    for (const Written &written : all) {
+        sizes.push_back(written.size);
     }
-    return done;
+    const std::size_t before = m_problems.size();
+    const auto syncOne = [&](FileOperations &files, std::size_t file) {
+        (void)files.syncFile(all[file].path);
+        files.putOwnerFirst(all[file].owner, 0);
+        return true;
+    };
+    (void)forEachFile(sizes, syncOne, WaitsFor::Disk);
+    return m_problems.size() == before;
 }
 
 bool FileOperations::syncFile(const QString &path)
@@ -116,7 +170,7 @@ bool FileOperations::syncFile(const QString &path)
 }
 
 bool FileOperations::linkOrCopy(const QString &owner, const QString &file, const QString &name,
-                                const QByteArray &content, const FileStatus &like)
+                                QByteArrayView content, const FileStatus &like)
 {
     return m_system.link(file, name) == 0 || writeLater(owner, name, content, like);
 }

@@ -142,6 +142,17 @@ int PosixFileSystem::sync(int file)
     return failureOf(::fsync(file));
 }
 
+void PosixFileSystem::dropFromMemory([[maybe_unused]] const QString &path)
+{
+#ifdef POSIX_FADV_DONTNEED
+    const Descriptor file(
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (file.number() >= 0) {
+        (void)::posix_fadvise(file.number(), 0, 0, POSIX_FADV_DONTNEED);
+    }
+#endif
+}
+
 int PosixFileSystem::close(int file)
 {
     return failureOf(::close(file));

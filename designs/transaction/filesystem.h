@@ -30,7 +30,7 @@ struct FileStatus
 };
 
 /// The operations by which design files are replaced, so that tests can let each of them fail. Each gives 0,
-/// or the errno that says why it failed.
+/// or the errno that says why it failed. Those on large files are called from several threads at once.
 class FileSystem
 {
 public:
@@ -57,6 +57,9 @@ public:
     /// Begins to bring what was written to the disk, without waiting.
     virtual void startSync(int file) = 0;
     [[nodiscard]] virtual int sync(int file) = 0;
+    /// Says that nobody will read the file soon, so that what the system keeps of it in memory makes room.
+    /// Its content stays.
+    virtual void dropFromMemory(const QString &path) = 0;
     [[nodiscard]] virtual int close(int file) = 0;
 
     /// Gives the file a further name, which must be free.
@@ -90,6 +93,7 @@ public:
     [[nodiscard]] int setAttributes(int file, const FileStatus &like) override;
     void startSync(int file) override;
     [[nodiscard]] int sync(int file) override;
+    void dropFromMemory(const QString &path) override;
     [[nodiscard]] int close(int file) override;
     [[nodiscard]] int link(const QString &file, const QString &name) override;
     [[nodiscard]] int rename(const QString &from, const QString &to) override;

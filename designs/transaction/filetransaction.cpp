@@ -43,18 +43,18 @@ bool FileTransaction::prepare(const std::vector<CheckedReplacement> &files, bool
     }
     m_journal.makesBackupFolder = keepsBackups && folder.kind == FileStatus::Kind::Missing;
     for (const CheckedReplacement &file : files) {
-        const std::string_view after(file.after->constData(), std::size_t(file.after->size()));
-        m_journal.add(m_paths, {file.target, file.before, fingerprintOf(after)});
+        m_journal.add(m_paths, {file.target, file.replacement->before, file.replacement->after});
     }
     // The journal comes first: it names all that a crash from here on would leave beside the files.
     if (!saveJournal(Journal::State::Preparing) ||
         (m_journal.makesBackupFolder && !m_files.makeFolder(m_paths.backupFolder()))) {
         return false;
     }
-    for (std::size_t file = 0; file < files.size(); ++file) {
-        if (!prepareFile(files[file], m_journal.entries[file])) {
-            return false;
-        }
+    const bool arePrepared = forEachEntry([&](FileOperations &own, std::size_t entry) {
+        return prepareFile(own, files[entry], m_journal.entries[entry]);
+    });
+    if (!arePrepared) {
+        return false;
     }
     // The commit point promises that all of this can be read, so it must be on the disk before. The folder of
     // the design is synced too: it holds that of the backups, which may be new.
@@ -63,24 +63,32 @@ bool FileTransaction::prepare(const std::vector<CheckedReplacement> &files, bool
                                  << all(&JournalEntry::saved) << m_paths.design());
 }
 
-bool FileTransaction::prepareFile(const CheckedReplacement &file, const JournalEntry &entry)
+bool FileTransaction::prepareFile(FileOperations &files, const CheckedReplacement &file,
+                                  const JournalEntry &entry) const
 {
-    const std::optional<QByteArray> previous = contentOfPlainFile(entry.target, entry.before);
-    if (!previous) {
-        return m_files.fail(entry.target, QStringLiteral("was changed since it was read"));
+    auto &[before, after] = files.contents();
+    if (!readPlainFile(entry.target, entry.before, &before)) {
+        return files.fail(entry.target, QStringLiteral("was changed since it was read"));
     }
-    const FileStatus like = m_files.status(entry.target);
-    if (like.kind != FileStatus::Kind::File ||
-        !m_files.writeLater(file.path, entry.prepared, *file.after, like) ||
-        !m_files.linkOrCopy(file.path, entry.target, entry.saved, *previous, like)) {
+    makeSpliced(before, file.replacement->splices, &after);
+    if (fingerprintOf(after) != entry.after) {
+        return files.fail(file.path, QStringLiteral("its new content is not the one that was checked"));
+    }
+    if (m_journal.keepsBackups) {
+        // The present backup goes when this is done; as much memory is wanted now.
+        files.dropFromMemory(m_paths.backupOf(entry.target));
+    }
+    const FileStatus like = files.status(entry.target);
+    if (like.kind != FileStatus::Kind::File || !files.writeLater(file.path, entry.prepared, after, like) ||
+        !files.linkOrCopy(file.path, entry.target, entry.saved, before, like)) {
         return false;
     }
     // From the commit point on both copies are relied on: look what is really there.
-    return (m_files.status(entry.prepared).size == entry.after.size &&
-            m_files.status(entry.saved).size == entry.before.size) ||
-           m_files.fail(file.path, QStringLiteral("cannot be written: ") + entry.prepared +
-                                       QStringLiteral(" or ") + entry.saved +
-                                       QStringLiteral(" does not hold what was written to it"));
+    return (files.status(entry.prepared).size == entry.after.size &&
+            files.status(entry.saved).size == entry.before.size) ||
+           files.fail(file.path, QStringLiteral("cannot be written: ") + entry.prepared +
+                                     QStringLiteral(" or ") + entry.saved +
+                                     QStringLiteral(" does not hold what was written to it"));
 }
 
 bool FileTransaction::prepareRecord()
@@ -122,23 +130,22 @@ bool FileTransaction::commit()
 /// Files that an interrupted run placed already are passed over, changed since or not.
 bool FileTransaction::place()
 {
-    for (const JournalEntry &entry : m_journal.entries) {
-        const bool isPassedOver = m_wasInterrupted && isPlaced(entry);
-        if (!isPassedOver && !placeFile(entry)) {
-            return false;
-        }
-    }
-    return m_files.syncFoldersOf(all(&JournalEntry::target));
+    const bool arePlaced = forEachEntry([this](FileOperations &own, std::size_t number) {
+        const JournalEntry &entry = m_journal.entries[number];
+        const bool isPassedOver = m_wasInterrupted && !own.exists(entry.prepared);
+        return isPassedOver || placeFile(own, entry);
+    });
+    return arePlaced && m_files.syncFoldersOf(all(&JournalEntry::target));
 }
 
-bool FileTransaction::placeFile(const JournalEntry &entry)
+bool FileTransaction::placeFile(FileOperations &files, const JournalEntry &entry)
 {
     const auto now = fingerprintOfPlainFile(entry.target);
     // The last look before the rename, which would otherwise throw away what somebody saved meanwhile.
     if (now != entry.before && now != entry.after) {
-        return m_files.fail(entry.target, QStringLiteral("was changed since it was read"));
+        return files.fail(entry.target, QStringLiteral("was changed since it was read"));
     }
-    return m_files.rename(entry.prepared, entry.target);
+    return files.rename(entry.prepared, entry.target);
 }
 
 /// The journal goes last: as long as it is there, recovery comes back to what is left to do.
@@ -150,10 +157,13 @@ bool FileTransaction::finish()
 
 bool FileTransaction::placeBackups()
 {
-    for (const JournalEntry &entry : m_journal.entries) {
-        if (m_files.exists(entry.saved) && !m_files.rename(entry.saved, m_paths.backupOf(entry.target))) {
-            return false;
-        }
+    const auto placeOne = [this](FileOperations &own, std::size_t number) {
+        const JournalEntry &entry = m_journal.entries[number];
+        return !own.exists(entry.saved) || own.rename(entry.saved, m_paths.backupOf(entry.target));
+    };
+    // The blocks of the backups before are given back to the disk.
+    if (!forEachEntry(placeOne, FileOperations::WaitsFor::Disk)) {
+        return false;
     }
     if (m_files.exists(m_journal.newRecord) && !m_files.rename(m_journal.newRecord, m_paths.record())) {
         return false;
@@ -170,11 +180,13 @@ bool FileTransaction::dropBackups()
         !(m_files.removeIfThere(m_paths.record()) && m_files.syncFoldersOf({m_paths.record()}))) {
         return false;
     }
-    bool done = true;
-    for (const JournalEntry &entry : m_journal.entries) {
-        done = m_files.removeIfThere(entry.saved) && done;
-    }
-    return done;
+    const std::size_t before = m_files.problems().size();
+    const auto dropOne = [this](FileOperations &own, std::size_t number) {
+        (void)own.removeIfThere(m_journal.entries[number].saved);
+        return true;
+    };
+    (void)forEachEntry(dropOne, FileOperations::WaitsFor::Disk);
+    return m_files.problems().size() == before;
 }
 
 /// The journal says so first: recovery must not place again what is just taken back. Where it cannot be
@@ -197,7 +209,7 @@ bool FileTransaction::restore(const JournalEntry &entry)
     if (entry.before == entry.after || fingerprintOfPlainFile(entry.target) != entry.after) {
         return true;
     }
-    const std::optional<QByteArray> previous = contentOfPlainFile(entry.saved, entry.before);
+    const std::optional<std::string> previous = contentOfPlainFile(entry.saved, entry.before);
     if (!previous) {
         return m_files.fail(entry.target, QStringLiteral("cannot get its previous content again: it does not "
                                                          "stand any more in ") +
@@ -270,6 +282,18 @@ std::vector<Problem> FileTransaction::states() const
         states.push_back({entry.target, 0, text});
     }
     return states;
+}
+
+bool FileTransaction::forEachEntry(const FileOperations::FileWork &work,
+                                   FileOperations::WaitsFor waitsFor) const
+{
+    // The journal of an interrupted run may say anything.
+    constexpr quint64 most = quint64(1) << 31U;
+    std::vector<qint64> sizes;
+    for (const JournalEntry &entry : m_journal.entries) {
+        sizes.push_back(qint64(std::min(entry.before.size, most)));
+    }
+    return m_files.forEachFile(sizes, work, waitsFor);
 }
 
 QStringList FileTransaction::all(QString JournalEntry::*path) const

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "designs/edits.h"
 #include "designs/transaction/fileoperations.h"
 #include "designs/transaction/journal.h"
 
@@ -16,8 +17,7 @@ struct CheckedReplacement
     QString path;
     /// Without symbolic links.
     QString target;
-    FileFingerprint before;
-    const QByteArray *after = nullptr;
+    const FileReplacement *replacement = nullptr;
 };
 
 /// The steps of one transaction on files, which replaces all of them or none. Its journal says how far it is,
@@ -65,13 +65,17 @@ public:
 
 private:
     bool saveJournal(Journal::State state);
-    bool prepareFile(const CheckedReplacement &file, const JournalEntry &entry);
+    bool prepareFile(FileOperations &files, const CheckedReplacement &file, const JournalEntry &entry) const;
     bool prepareRecord();
-    bool placeFile(const JournalEntry &entry);
+    static bool placeFile(FileOperations &files, const JournalEntry &entry);
     bool restore(const JournalEntry &entry);
     bool placeBackups();
     bool dropBackups();
     bool removeJournal();
+    /// See FileOperations::forEachFile().
+    [[nodiscard]] bool
+    forEachEntry(const FileOperations::FileWork &work,
+                 FileOperations::WaitsFor waitsFor = FileOperations::WaitsFor::Processor) const;
     [[nodiscard]] QStringList all(QString JournalEntry::*path) const;
 
     FileOperations &m_files;

@@ -195,18 +195,31 @@ std::optional<FileFingerprint> fingerprintOfPlainFile(const QString &path)
     return isPlainFile(path) ? fingerprintOfFile(path) : std::nullopt;
 }
 
-std::optional<QByteArray> contentOfPlainFile(const QString &path, const FileFingerprint &expected)
+std::optional<std::string> contentOfPlainFile(const QString &path, const FileFingerprint &expected)
+{
+    std::string content;
+    return readPlainFile(path, expected, &content) ? std::optional(std::move(content)) : std::nullopt;
+}
+
+bool readPlainFile(const QString &path, const FileFingerprint &expected, std::string *content)
 {
     QFile file(path);
     QString reason;
     // Compare sizes before reading: another file in this place may be too large to read.
-    if (!isPlainFile(path) || !openRegularFile(&file, QIODevice::ReadOnly, &reason) ||
+    if (!isPlainFile(path) || !openRegularFile(&file, QIODevice::ReadOnly | QIODevice::Unbuffered, &reason) ||
         quint64(file.size()) != expected.size) {
-        return std::nullopt;
+        return false;
     }
-    QByteArray bytes = file.read(file.size());
-    const bool same = fingerprintOf({bytes.constData(), std::size_t(bytes.size())}) == expected;
-    return same ? std::optional(std::move(bytes)) : std::nullopt;
+    content->resize(expected.size);
+    std::size_t size = 0;
+    while (size < content->size()) {
+        const qint64 got = file.read(content->data() + size, qint64(content->size() - size));
+        if (got <= 0) {
+            return false;
+        }
+        size += std::size_t(got);
+    }
+    return fingerprintOf(*content) == expected;
 }
 
 } // namespace designs

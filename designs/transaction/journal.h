@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace designs {
@@ -86,7 +87,9 @@ struct UndoRecord
 [[nodiscard]] std::optional<FileFingerprint> fingerprintOfPlainFile(const QString &path);
 
 /// The content of such a file, if it is the expected one.
-[[nodiscard]] std::optional<QByteArray> contentOfPlainFile(const QString &path,
-                                                           const FileFingerprint &expected);
+[[nodiscard]] std::optional<std::string> contentOfPlainFile(const QString &path,
+                                                            const FileFingerprint &expected);
+/// The same into memory that is used again; false where there is no such content.
+[[nodiscard]] bool readPlainFile(const QString &path, const FileFingerprint &expected, std::string *content);
 
 } // namespace designs

@@ -5,6 +5,7 @@
 #include "designs/transaction/kicadlock.h"
 
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 
@@ -19,10 +20,7 @@ constexpr quint32 anyWriteBit = 0222;
 std::optional<std::vector<CheckedReplacement>> WriteCheck::run(std::span<const FileReplacement> files,
                                                                bool keepsBackups)
 {
-    bool possible = true;
-    for (const FileReplacement &file : files) {
-        possible = checkFile(file, keepsBackups) && possible;
-    }
+    bool possible = checkFiles(files, keepsBackups);
     possible = checkDesignClosed(m_checked) && possible;
     possible = checkFolders(keepsBackups) && possible;
     return possible ? std::optional(std::move(m_checked)) : std::nullopt;
@@ -61,48 +59,77 @@ bool WriteCheck::checkClosed(const QString &path, const QString &target)
     return true;
 }
 
-bool WriteCheck::checkFile(const FileReplacement &file, bool keepsBackups)
+bool WriteCheck::checkFiles(std::span<const FileReplacement> files, bool keepsBackups)
 {
-    const QString target = QFileInfo(file.path).canonicalFilePath();
+    struct Candidate
+    {
+        CheckedReplacement file;
+        bool isNamedBefore = false;
+        bool isPossible = false;
+    };
+    std::vector<Candidate> candidates;
+    std::vector<qint64> sizes;
+    QSet<QString> targets;
+    for (const FileReplacement &file : files) {
+        const QString target = QFileInfo(file.path).canonicalFilePath();
+        candidates.push_back({{file.path, target, &file}, targets.contains(target)});
+        sizes.push_back(qint64(file.before.size));
+        targets.insert(target);
+    }
+    (void)m_files.forEachFile(sizes, [&](FileOperations &own, std::size_t number) {
+        Candidate &one = candidates[number];
+        one.isPossible = WriteCheck(own, m_paths).checkFile(one.file, one.isNamedBefore, keepsBackups);
+        return true;
+    });
+    for (Candidate &one : candidates) {
+        if (one.isPossible) {
+            m_checked.push_back(std::move(one.file));
+        }
+    }
+    return m_checked.size() == files.size();
+}
+
+bool WriteCheck::checkFile(const CheckedReplacement &file, bool isNamedBefore, bool keepsBackups)
+{
+    const QString &target = file.target;
     if (target.isEmpty()) {
         return m_files.fail(file.path, QStringLiteral("does not exist any more"));
     }
     if (!checkClosed(file.path, target)) {
         return false;
     }
-    if (std::ranges::any_of(m_checked, [&](const auto &other) { return other.target == target; })) {
+    if (isNamedBefore) {
         return m_files.fail(file.path, QStringLiteral("is named twice among the files to write"));
     }
-    if (!checkKind(file, target) || !checkWritable(file.path, target) ||
+    if (!checkKind(file.path, target) || !checkWritable(file.path, target) ||
         (keepsBackups && !checkBackup(m_paths.backupOf(target)))) {
         return false;
     }
     const auto now = fingerprintOfFile(target);
-    if (now != file.before) {
+    if (now != file.replacement->before) {
         return m_files.fail(file.path, now ? QStringLiteral("was changed since it was read")
                                            : QStringLiteral("cannot be read any more"));
     }
-    m_checked.push_back({file.path, target, file.before, &file.after});
     return true;
 }
 
-bool WriteCheck::checkKind(const FileReplacement &file, const QString &target)
+bool WriteCheck::checkKind(const QString &path, const QString &target)
 {
     const FileStatus status = m_files.status(target);
     if (status.kind != FileStatus::Kind::File) {
-        return m_files.fail(file.path, QStringLiteral("is no ordinary file"));
+        return m_files.fail(path, QStringLiteral("is no ordinary file"));
     }
     if (status.names > 1) {
         return m_files.fail(
-            file.path, QStringLiteral("has %1 names (hard links), and writing would separate them: put a "
-                                      "copy in its place, or work on the copy")
-                           .arg(status.names));
+            path, QStringLiteral("has %1 names (hard links), and writing would separate them: put a "
+                                 "copy in its place, or work on the copy")
+                      .arg(status.names));
     }
     if (!m_paths.isMember(target)) {
-        return m_files.fail(file.path, QStringLiteral("is no file of this design"));
+        return m_files.fail(path, QStringLiteral("is no file of this design"));
     }
     return m_paths.mayHold(target) ||
-           m_files.fail(file.path, QStringLiteral("lies outside the design's folder and is of another kind"));
+           m_files.fail(path, QStringLiteral("lies outside the design's folder and is of another kind"));
 }
 
 bool WriteCheck::checkWritable(const QString &path, const QString &target)

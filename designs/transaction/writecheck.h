@@ -32,8 +32,9 @@ public:
 private:
     bool checkClosed(const QString &path, const QString &target);
     bool checkDesignClosed(std::span<const CheckedReplacement> checked);
-    bool checkFile(const FileReplacement &file, bool keepsBackups);
-    bool checkKind(const FileReplacement &file, const QString &target);
+    bool checkFiles(std::span<const FileReplacement> files, bool keepsBackups);
+    bool checkFile(const CheckedReplacement &file, bool isNamedBefore, bool keepsBackups);
+    bool checkKind(const QString &path, const QString &target);
     bool checkWritable(const QString &path, const QString &target);
     bool checkBackup(const QString &target);
     bool checkFolders(bool keepsBackups);

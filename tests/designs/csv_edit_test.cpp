@@ -25,7 +25,7 @@ protected:
         const EditPlan plan = planned(*load(), asked);
         return !plan.problems.empty() ? problemsOf(plan)
                : plan.files.empty()   ? "unchanged"
-                                      : plan.files.front().after.toStdString();
+                                      : contentAfter(text, plan.files.front());
     }
 };
 
@@ -120,7 +120,7 @@ void expectOthersUntouched(const std::string &before, const Design &design, cons
         const auto at = std::ranges::find(design.components(), quint32(change.line), &Component::line);
         touched[at->origin] = true;
     }
-    const std::vector<std::string> after = recordsOf(plan.files.front().after.toStdString());
+    const std::vector<std::string> after = recordsOf(contentAfter(before, plan.files.front()));
     auto next = after.begin();
     for (std::size_t row = 0; row < touched.size(); ++row) {
         if (!touched[row]) {

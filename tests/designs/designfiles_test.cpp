@@ -60,8 +60,9 @@ protected:
     {
         std::vector<FileReplacement> files;
         for (const char *name : names) {
-            files.push_back({path(name), fingerprintOfFile(path(name)).value_or(FileFingerprint()),
-                             QByteArray::fromStdString(content(name, version))});
+            files.push_back(FileReplacement::whole(path(name),
+                                                   fingerprintOfFile(path(name)).value_or(FileFingerprint()),
+                                                   content(name, version)));
         }
         return files;
     }
@@ -72,7 +73,7 @@ protected:
         for (const char *name : names) {
             members << path(name);
         }
-        return {path(names[0]), members, system ? system : &m_system};
+        return {path(names[0]), members, system ? system : &m_system, m_threads};
     }
     /// Brings all files to a version; the problems.
     std::string replace(int version, Backups backups = Backups::Keep)
@@ -147,6 +148,7 @@ protected:
         return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + QStringLiteral("/bom-XXXXXX");
     }
 
+    int m_threads = 1;
     DesignFolder m_folder{pattern()};
     InterruptedFileSystem m_system{0, 0};
 };
@@ -307,7 +309,7 @@ constexpr int stride = 7;
 
 TEST_F(DesignFilesTest, EveryDeathLeavesAllOldOrAllNew)
 {
-    for (const Backups backups : {Backups::Keep, Backups::None}) {
+    for (const Backups backups : {Backups::Keep, Backups::None, Backups::Keep}) {
         ASSERT_EQ(replace(1), "");
         int step = 1;
         int completed = 0;
@@ -337,6 +339,7 @@ TEST_F(DesignFilesTest, EveryDeathLeavesAllOldOrAllNew)
         EXPECT_GT(step, 60);
         EXPECT_GT(completed, 10);
         ASSERT_EQ(replace(0, Backups::None), "");
+        m_threads = backups == Backups::None ? 3 : 1;
     }
 }
 
@@ -383,7 +386,7 @@ TEST_F(DesignFilesTest, DeathsInTheRecoveryAreRecoveredFrom)
 
 TEST_F(DesignFilesTest, EveryFailureIsReportedAndLeavesAllOldOrAllNew)
 {
-    for (const int failure : {ENOSPC, EIO}) {
+    for (const int failure : {ENOSPC, EIO, EIO}) {
         bool failed = true;
         for (int step = 1; failed; ++step) {
             SCOPED_TRACE(step);
@@ -409,6 +412,30 @@ TEST_F(DesignFilesTest, EveryFailureIsReportedAndLeavesAllOldOrAllNew)
             removeBackups();
             ASSERT_EQ(version(), 0);
         }
+        m_threads = failure == EIO ? 3 : 1;
+    }
+}
+
+TEST_F(DesignFilesTest, AnyNumberOfThreadsLeavesTheSameFilesAndProblems)
+{
+    std::string expected;
+    for (m_threads = 1; m_threads <= 4; m_threads += 3) {
+        std::string told;
+        for (const char *foreign : {"", names[0], names[2]}) {
+            const std::vector<FileReplacement> planned = replacements(1);
+            if (*foreign != 0) {
+                put(foreign, "mine");
+            }
+            PosixFileSystem system;
+            told += joined(files(&system).replace(planned, Backups::Keep).problems) + listing();
+            for (const char *name : names) {
+                told += get(name);
+                put(name, content(name, 0));
+            }
+            removeBackups();
+        }
+        expected = m_threads == 1 ? told : expected;
+        EXPECT_EQ(told, expected);
     }
 }
 

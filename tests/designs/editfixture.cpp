@@ -84,6 +84,15 @@ std::string problemsOf(const designs::EditPlan &plan)
     return text;
 }
 
+std::string contentAfter(std::string_view before, const designs::FileReplacement &file)
+{
+    EXPECT_EQ(designs::fingerprintOf(before), file.before);
+    std::string after;
+    designs::makeSpliced(before, file.splices, &after);
+    EXPECT_EQ(designs::fingerprintOf(after), file.after);
+    return after;
+}
+
 std::string changesOf(const designs::EditPlan &plan)
 {
     std::string text;
@@ -99,7 +108,8 @@ designs::EditPlan EditTest::make(const std::vector<AskedEdit> &edits) const
     designs::EditPlan plan = planned(*load(), edits);
     EXPECT_EQ(problemsOf(plan), "");
     for (const designs::FileReplacement &file : plan.files) {
-        writeFile(file.path, file.after);
+        const std::string after = contentAfter(readFile(file.path).toStdString(), file);
+        writeFile(file.path, QByteArray::fromStdString(after));
     }
     return plan;
 }

@@ -28,6 +28,9 @@ struct AskedEdit
 /// The messages of all problems, one line each.
 [[nodiscard]] std::string problemsOf(const designs::EditPlan &plan);
 
+/// What a file of a plan is to hold that holds this now.
+[[nodiscard]] std::string contentAfter(std::string_view before, const designs::FileReplacement &file);
+
 /// Each change as "NAME: BEFORE > AFTER", "-" for nothing.
 [[nodiscard]] std::string changesOf(const designs::EditPlan &plan);
 

@@ -4,11 +4,12 @@
 
 #include "designs/transaction/filesystem.h"
 
+#include <atomic>
 #include <unistd.h>
 
 /// The machine's file system until a certain step: there one operation fails, or the process ends. Each
 /// operation is a step; where the process is to end, there is one before and one after it. Nothing waits for
-/// the disk.
+/// the disk. Several threads may use it.
 class InterruptedFileSystem final : public designs::FileSystem
 {
 public:
@@ -30,6 +31,7 @@ public:
     int open(const QString &path, int *file) override { return run(&FileSystem::open, path, file); }
     int link(const QString &file, const QString &name) override { return run(&FileSystem::link, file, name); }
     void startSync(int) override {}
+    void dropFromMemory(const QString &) override {}
     int write(int file, std::string_view bytes, std::size_t *written) override
     {
         // In small pieces, so that a file can be left half written.
@@ -80,7 +82,7 @@ private:
 
     bool step()
     {
-        if (m_left <= 0 || --m_left > 0) {
+        if (m_left <= 0 || --m_left != 0) {
             return false;
         }
         if (m_failure == 0) {
@@ -90,6 +92,6 @@ private:
     }
 
     designs::PosixFileSystem m_real;
-    int m_left = 0;
+    std::atomic<int> m_left = 0;
     int m_failure;
 };

@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "designs/designfolder.h"
+#include "designs/editfixture.h"
 #include "designs/kicad/edit/editablekicaddesign.h"
 #include "designs/kicadtext.h"
 #include "designs/threads.h"
 
 #include <QDirIterator>
-
-#include <gtest/gtest.h>
 
 #include <stdexcept>
 
@@ -67,6 +65,32 @@ void writeFan(const DesignFolder &folder, const std::string &fifth)
     }
 }
 
+/// Everything that a plan says for edits of all sheets; two files change meanwhile where `spoils`.
+std::string toldPlan(const DesignFolder &folder, int threads, bool spoils)
+{
+    writeFan(folder, {});
+    designs::ReadOptions options;
+    options.threads = threads;
+    const auto design = designs::kicad::readKicadDesign(folder.path(root), options).design;
+    std::vector<designs::Edit> edits;
+    for (std::size_t component = 0; component < design->components().size(); ++component) {
+        edits.push_back({component, "N" + std::to_string(component % 4), "new"});
+    }
+    if (spoils) {
+        folder.write(u"s6.kicad_sch"_s, "no schematic");
+        folder.write(u"s2.kicad_sch"_s, schematic(v9, "u2", symbol(v9, {})));
+    }
+    const designs::EditPlan plan = design->planEdits(edits);
+    std::string text = changesOf(plan) + problemsOf(plan);
+    for (const designs::Change &change : plan.changes) {
+        text += '\n' + std::to_string(change.line);
+    }
+    for (const designs::FileReplacement &file : plan.files) {
+        text += file.path.toStdString() + contentAfter(readFile(file.path).toStdString(), file);
+    }
+    return text.replace(0, 0, std::to_string(plan.files.size()) + ' ');
+}
+
 } // namespace
 
 TEST(KicadThreads, AnyNumberOfThreadsReadsTheSameDesign)
@@ -93,6 +117,18 @@ TEST(KicadThreads, TheFirstProblemInTheOrderOfTheHierarchyIsTold)
         folder.write(u"s7.kicad_sch"_s, "(kicad_sch (version 1))");
         EXPECT_NE(told(folder.path(root), 1).find("s4.kicad_sch"), std::string::npos);
         expectSameForAnyNumber(folder.path(root));
+    }
+}
+
+TEST(KicadThreads, AnyNumberOfThreadsPlansTheSame)
+{
+    const DesignFolder folder;
+    for (const bool spoils : {false, true}) {
+        const std::string expected = toldPlan(folder, 1, spoils);
+        EXPECT_EQ(expected.substr(0, 2), spoils ? "0 " : "10");
+        for (const int threads : {2, 7}) {
+            EXPECT_EQ(toldPlan(folder, threads, spoils), expected);
+        }
     }
 }
 

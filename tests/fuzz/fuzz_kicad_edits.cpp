@@ -68,8 +68,8 @@ void checkEdit(const designs::Design &design, std::string_view text, const desig
     }
     promise(plan.files.size() == 1 && plan.changes.size() == 1, "one edit changes the one file");
     const designs::Change &change = plan.changes.front();
-    const std::string_view after(plan.files.front().after.constData(),
-                                 std::size_t(plan.files.front().after.size()));
+    std::string after;
+    designs::makeSpliced(text, plan.files.front().splices, &after);
     if (change.alsoChanges.empty() && change.name != "Value") {
         const std::size_t most = 2000 + 4 * change.before.value_or("").size();
         promise(isChangedInOnePlace(text, after, most), "one edit changes one place");

@@ -46,16 +46,18 @@ EditPlan PartListPlanner::run(std::span<const Edit> edits)
     if (m_planned.empty()) {
         return std::move(m_plan);
     }
-    FileReplacement file;
-    writeFile(&file);
+    std::string text = newText();
     if (!m_plan.problems.empty()) {
         return std::move(m_plan);
     }
-    if (const auto problem = checkPartList(m_list, m_newColumns, m_order, m_planned, file.after)) {
+    if (const auto problem =
+            checkPartList(m_list, m_newColumns, m_order, m_planned, QByteArray::fromStdString(text))) {
         m_plan.problems.push_back({std::nullopt, *problem});
         return std::move(m_plan);
     }
-    m_plan.files.push_back(std::move(file));
+    const QByteArray &bytes = m_file.bytes();
+    m_plan.files.push_back(FileReplacement::whole(
+        m_list.info().file, fingerprintOf({bytes.constData(), std::size_t(bytes.size())}), std::move(text)));
     return std::move(m_plan);
 }
 
@@ -155,7 +157,7 @@ void PartListPlanner::addChange(const PlannedCell &planned, const Edit &edit)
     m_plan.changes.push_back(std::move(change));
 }
 
-void PartListPlanner::writeFile(FileReplacement *file)
+std::string PartListPlanner::newText()
 {
     const std::vector<CsvRow> &rows = m_file.rows();
     const QByteArray &bytes = m_file.bytes();
@@ -168,9 +170,7 @@ void PartListPlanner::writeFile(FileReplacement *file)
         writeRow(&out, row);
     }
     out += lineEnd(rows.size() - 1);
-    file->path = m_list.info().file;
-    file->before = fingerprintOf({bytes.constData(), std::size_t(bytes.size())});
-    file->after = QByteArray(out.data(), qsizetype(out.size()));
+    return out;
 }
 
 void PartListPlanner::writeHeading(std::string *out) const

@@ -42,7 +42,7 @@ private:
     [[nodiscard]] std::string textBefore(std::size_t component, std::size_t column) const;
     void addChange(const PlannedCell &planned, const Edit &edit);
 
-    void writeFile(FileReplacement *file);
+    [[nodiscard]] std::string newText();
     void writeHeading(std::string *out) const;
     void writeRow(std::string *out, std::size_t row);
     [[nodiscard]] std::vector<Group> groupsOf(std::size_t row);

@@ -22,7 +22,7 @@ std::optional<QString> EditableKicadDesign::checkEdit(const Edit &edit) const
 
 EditPlan EditableKicadDesign::planEdits(std::span<const Edit> edits) const
 {
-    return EditPlanner(editModel()).plan(edits);
+    return EditPlanner(editModel(), threads()).plan(edits);
 }
 
 ReadResult readKicadDesign(const QString &path, const ReadOptions &options)

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "designs/kicad/edit/splices.h"
 #include "designs/kicad/edit/symbolrewrite.h"
 #include "designs/kicad/sheetfile.h"
+#include "designs/splices.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/edit/editplanner.h"
 
-#include "designs/kicad/edit/sheetrewriter.h"
+#include "designs/threads.h"
 #include "designs/utf8.h"
 
 #include <QSet>
@@ -32,8 +32,9 @@ QStringList variableNames(std::string_view text)
 
 } // namespace
 
-EditPlanner::EditPlanner(const EditModel &model)
+EditPlanner::EditPlanner(const EditModel &model, int threads)
     : m_model(model)
+    , m_threads(threads)
     , m_resolver(model)
     , m_rewrites(model)
 {
@@ -170,31 +171,54 @@ void EditPlanner::refuseConflicts()
     }
 }
 
+int EditPlanner::threadsForFiles() const
+{
+    std::vector<qint64> sizes;
+    for (const auto &[number, rewrite] : m_rewrites.sheets()) {
+        sizes.push_back(qint64(m_model.hierarchy().files()[number].fingerprint.size));
+    }
+    return m_threads > 0 ? m_threads : designs::threadsForFiles(sizes);
+}
+
+/// Sheets do not depend on each other: each thread works on one, and what comes of them is put together in
+/// their order.
 void EditPlanner::buildFiles()
 {
-    for (const auto &[number, rewrite] : m_rewrites.sheets()) {
-        buildFile(number, rewrite);
+    std::vector<const std::pair<const quint32, SheetRewrite> *> sheets;
+    for (const auto &sheet : m_rewrites.sheets()) {
+        sheets.push_back(&sheet);
+    }
+    const int threads = threadsForFiles();
+    std::vector<Workplace> workplaces(static_cast<std::size_t>(threads));
+    std::vector<RewrittenSheet> results(sheets.size());
+    forEachInThreads(sheets.size(), threads, [&](std::size_t item, int thread) {
+        const auto &[number, rewrite] = *sheets[item];
+        results[item] = rewritten(number, rewrite, &workplaces[std::size_t(thread)]);
+    });
+    for (RewrittenSheet &result : results) {
+        if (result.problem) {
+            m_plan.problems.push_back(std::move(*result.problem));
+        } else if (result.file) {
+            m_plan.files.push_back(std::move(*result.file));
+        }
     }
 }
 
-void EditPlanner::buildFile(quint32 number, const SheetRewrite &rewrite)
+RewrittenSheet EditPlanner::rewritten(quint32 number, const SheetRewrite &rewrite, Workplace *workplace)
 {
     const SheetFile &sheet = m_model.hierarchy().files()[number];
+    FileBuffer &bytes = workplace->before;
     Problem problem;
-    if (!m_buffer.read(sheet.path, "(kicad_sch", &problem)) {
-        m_plan.problems.push_back({std::nullopt, problem});
-        return;
+    if (!bytes.read(sheet.path, "(kicad_sch", &problem)) {
+        return {std::nullopt, EditProblem{std::nullopt, problem}};
     }
-    if (m_buffer.fingerprint() != sheet.fingerprint) {
-        m_plan.problems.push_back(
-            {std::nullopt,
-             {sheet.path, 0, QStringLiteral("was changed since it was read; read the design again")}});
-        return;
+    if (bytes.fingerprint() != sheet.fingerprint) {
+        problem = {sheet.path, 0, QStringLiteral("was changed since it was read; read the design again")};
+        return {std::nullopt, EditProblem{std::nullopt, problem}};
     }
-    SheetRewriter rewriter(m_buffer.text(), sheet, m_model.names(), m_model.variant());
-    if (auto problem = rewriter.run(rewrite, &m_plan)) {
-        m_plan.problems.push_back(std::move(*problem));
-    }
+    return SheetRewriter(bytes.text(), sheet, m_model.names(), m_model.variant(), m_plan.changes,
+                         &workplace->after)
+        .run(rewrite);
 }
 
 } // namespace designs::kicad

@@ -7,6 +7,7 @@
 #include "designs/kicad/edit/editmodel.h"
 #include "designs/kicad/edit/editresolver.h"
 #include "designs/kicad/edit/rewritecollector.h"
+#include "designs/kicad/edit/sheetrewriter.h"
 
 #include <map>
 #include <span>
@@ -20,8 +21,9 @@ namespace designs::kicad {
 class EditPlanner
 {
 public:
-    /// The model must outlive the planner.
-    explicit EditPlanner(const EditModel &model);
+    /// The model must outlive the planner. `threads` is how many write new texts at once, 0 for as many as
+    /// are worth while; the plan is the same for any number.
+    EditPlanner(const EditModel &model, int threads);
 
     [[nodiscard]] EditPlan plan(std::span<const Edit> edits);
 
@@ -33,14 +35,21 @@ private:
     [[nodiscard]] std::vector<std::string> sharedKeys(const ResolvedEdit &edit) const;
     [[nodiscard]] QString referenceOf(std::size_t component) const;
     void buildFiles();
-    void buildFile(quint32 number, const SheetRewrite &rewrite);
+    [[nodiscard]] int threadsForFiles() const;
+    /// What one thread needs; memory that is used for one sheet after the other.
+    struct Workplace
+    {
+        FileBuffer before;
+        std::string after;
+    };
+    [[nodiscard]] RewrittenSheet rewritten(quint32 number, const SheetRewrite &rewrite, Workplace *workplace);
 
     const EditModel &m_model;
+    int m_threads;
     EditResolver m_resolver;
     /// The edits that count, with their number; sorted by it.
     std::map<std::size_t, ResolvedEdit> m_edits;
     RewriteCollector m_rewrites;
-    FileBuffer m_buffer;
     EditPlan m_plan;
 };
 

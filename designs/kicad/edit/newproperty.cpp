@@ -3,8 +3,8 @@
 #include "designs/kicad/edit/newproperty.h"
 
 #include "designs/kicad/edit/listlayout.h"
-#include "designs/kicad/edit/splices.h"
 #include "designs/kicad/sheetfile.h"
+#include "designs/splices.h"
 
 #include <algorithm>
 #include <array>

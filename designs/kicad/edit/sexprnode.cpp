@@ -10,6 +10,17 @@ namespace designs::kicad {
 
 namespace {
 
+/// Adds to what mostly has a few entries, without growing for each of them.
+template<typename Entry>
+Entry &appended(std::vector<Entry> *entries)
+{
+    constexpr std::size_t usual = 6;
+    if (entries->empty()) {
+        entries->reserve(usual);
+    }
+    return entries->emplace_back();
+}
+
 /// Reads one list behind its opening.
 class NodeReader
 {
@@ -68,13 +79,13 @@ private:
         for (;;) {
             switch (m_scanner.next()) {
             case SexprScanner::Token::Open:
-                if (!fill(&node->lists.emplace_back(), depth + 1)) {
+                if (!fill(&appended(&node->lists), depth + 1)) {
                     return false;
                 }
                 break;
             case SexprScanner::Token::Text:
-                node->atoms.push_back({m_offset + m_scanner.tokenOffset(), m_offset + m_scanner.offset(),
-                                       m_scanner.isQuoted()});
+                appended(&node->atoms) = {m_offset + m_scanner.tokenOffset(), m_offset + m_scanner.offset(),
+                                          m_scanner.isQuoted()};
                 break;
             case SexprScanner::Token::Close:
                 return true;

@@ -7,18 +7,23 @@
 namespace designs::kicad {
 
 SheetRewriter::SheetRewriter(std::string_view bytes, const SheetFile &sheet, const PropertyNames &names,
-                             std::string_view variant)
+                             std::string_view variant, std::span<Change> changes, std::string *after)
     : m_bytes(bytes)
     , m_sheet(sheet)
     , m_names(names)
     , m_variant(variant)
+    , m_changes(changes)
+    , m_after(*after)
     , m_writer(bytes, sheet, variant, &m_splices)
 {
 }
 
-std::optional<EditProblem> SheetRewriter::run(const SheetRewrite &rewrite, EditPlan *plan)
+RewrittenSheet SheetRewriter::run(const SheetRewrite &rewrite)
 {
-    return write(rewrite, plan) ? std::nullopt : std::optional(m_problem);
+    if (!write(rewrite)) {
+        return {std::nullopt, std::move(m_problem)};
+    }
+    return {std::move(m_file), std::nullopt};
 }
 
 bool SheetRewriter::fail(std::size_t offset, const QString &text)
@@ -27,10 +32,10 @@ bool SheetRewriter::fail(std::size_t offset, const QString &text)
     return false;
 }
 
-bool SheetRewriter::write(const SheetRewrite &rewrite, EditPlan *plan)
+bool SheetRewriter::write(const SheetRewrite &rewrite)
 {
     for (const auto &[number, symbol] : rewrite.symbols) {
-        if (!writeSymbol(m_sheet.symbols[number], symbol, plan)) {
+        if (!writeSymbol(m_sheet.symbols[number], symbol)) {
             return false;
         }
     }
@@ -43,10 +48,10 @@ bool SheetRewriter::write(const SheetRewrite &rewrite, EditPlan *plan)
         m_lists.push_back({node->begin, node->end});
         m_writer.write(*node, row);
     }
-    return finish(rewrite, plan);
+    return finish(rewrite);
 }
 
-bool SheetRewriter::writeSymbol(const PlacedSymbol &placed, const SymbolRewrite &rewrite, EditPlan *plan)
+bool SheetRewriter::writeSymbol(const PlacedSymbol &placed, const SymbolRewrite &rewrite)
 {
     const auto node = nodeAt(m_bytes, placed.offset);
     if (!node || node->keyword != "symbol") {
@@ -55,13 +60,13 @@ bool SheetRewriter::writeSymbol(const PlacedSymbol &placed, const SymbolRewrite 
     const QString refusal = m_writer.write(*node, placed, rewrite, m_names);
     if (!refusal.isEmpty()) {
         if (!rewrite.changes.empty()) {
-            m_problem.edit = plan->changes[rewrite.changes.front()].edit;
+            m_problem.edit = m_changes[rewrite.changes.front()].edit;
         }
         return fail(placed.offset, refusal);
     }
     m_lists.push_back({node->begin, node->end});
     for (const std::size_t change : rewrite.changes) {
-        m_sites.emplace_back(siteOf(*node, plan->changes[change].name), change);
+        m_sites.emplace_back(siteOf(*node, m_changes[change].name), change);
     }
     return true;
 }
@@ -89,26 +94,25 @@ int SheetRewriter::lineOf(std::size_t offset)
     return m_line;
 }
 
-bool SheetRewriter::finish(const SheetRewrite &rewrite, EditPlan *plan)
+bool SheetRewriter::finish(const SheetRewrite &rewrite)
 {
     std::sort(m_sites.begin(), m_sites.end());
     for (const auto &[offset, change] : m_sites) {
-        plan->changes[change].line = lineOf(offset);
+        m_changes[change].line = lineOf(offset);
     }
     std::sort(m_lists.begin(), m_lists.end(),
               [](const ChangedList &a, const ChangedList &b) { return a.begin < b.begin; });
     if (!sortSplices(&m_splices)) {
         return fail(0, QStringLiteral("the changes to the file get in each other's way"));
     }
-    const QByteArray after = spliced(m_bytes, m_splices);
-    const std::string_view text(after.constData(), std::size_t(after.size()));
-    QString wrong = compareTexts(m_bytes, text, m_splices, m_lists);
-    wrong = wrong.isEmpty() ? compareSheets(m_sheet, m_names, rewrite, m_variant, text) : wrong;
+    makeSpliced(m_bytes, m_splices, &m_after);
+    QString wrong = compareTexts(m_bytes, m_after, m_splices, m_lists);
+    wrong = wrong.isEmpty() ? compareSheets(m_sheet, m_names, rewrite, m_variant, m_after) : wrong;
     if (!wrong.isEmpty()) {
         return fail(0, QStringLiteral("the file's new text did not stand the check: ") + wrong);
     }
-    if (text != m_bytes) {
-        plan->files.push_back({m_sheet.path, m_sheet.fingerprint, after});
+    if (m_after != m_bytes) {
+        m_file = {m_sheet.path, m_sheet.fingerprint, fingerprintOf(m_after), std::move(m_splices)};
     }
     return true;
 }

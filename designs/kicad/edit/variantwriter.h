@@ -3,9 +3,9 @@
 #pragma once
 
 #include "designs/kicad/edit/sexprnode.h"
-#include "designs/kicad/edit/splices.h"
 #include "designs/kicad/edit/symbolrewrite.h"
 #include "designs/kicad/sheetfile.h"
+#include "designs/splices.h"
 
 #include <functional>
 #include <string>

@@ -1,11 +1,27 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "designs/kicad/edit/splices.h"
+#include "designs/splices.h"
 
 #include <algorithm>
 #include <numeric>
 
-namespace designs::kicad {
+namespace designs {
+
+namespace {
+
+void append(std::string_view text, std::size_t begin, std::size_t end, const std::vector<Splice> &splices,
+            std::string *result)
+{
+    std::size_t at = begin;
+    for (const Splice &splice : splices) {
+        *result += text.substr(at, splice.begin - at);
+        *result += splice.text;
+        at = splice.end;
+    }
+    *result += text.substr(at, end - at);
+}
+
+} // namespace
 
 bool sortSplices(std::vector<Splice> *splices)
 {
@@ -17,35 +33,22 @@ bool sortSplices(std::vector<Splice> *splices)
            }) == splices->end();
 }
 
-QByteArray spliced(std::string_view text, const std::vector<Splice> &splices)
+void makeSpliced(std::string_view text, const std::vector<Splice> &splices, std::string *result)
 {
     const std::size_t more =
         std::accumulate(splices.begin(), splices.end(), std::size_t(0),
                         [](std::size_t sum, const Splice &splice) { return sum + splice.text.size(); });
-    QByteArray result;
-    result.reserve(qsizetype(text.size()) + qsizetype(more));
-    std::size_t at = 0;
-    for (const Splice &splice : splices) {
-        result.append(text.data() + at, qsizetype(splice.begin - at));
-        result.append(splice.text.data(), qsizetype(splice.text.size()));
-        at = splice.end;
-    }
-    result.append(text.data() + at, qsizetype(text.size() - at));
-    return result;
+    result->clear();
+    result->reserve(text.size() + more);
+    append(text, 0, text.size(), splices, result);
 }
 
 std::string splicedPart(std::string_view text, std::size_t begin, std::size_t end,
                         const std::vector<Splice> &splices)
 {
     std::string result;
-    std::size_t at = begin;
-    for (const Splice &splice : splices) {
-        result += text.substr(at, splice.begin - at);
-        result += splice.text;
-        at = splice.end;
-    }
-    result += text.substr(at, end - at);
+    append(text, begin, end, splices, &result);
     return result;
 }
 
-} // namespace designs::kicad
+} // namespace designs
