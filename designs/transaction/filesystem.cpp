@@ -165,7 +165,13 @@ int PosixFileSystem::link(const QString &file, const QString &name)
 
 int PosixFileSystem::rename(const QString &from, const QString &to)
 {
-    return failureOf(std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()));
+    const QByteArray target = QFile::encodeName(to);
+#ifdef O_PATH
+    // A file that is replaced goes when this is closed. Within the rename the folder would be locked as long
+    // as the disk takes its blocks back, and renames in several threads would wait for each other.
+    const Descriptor replaced(::open(target.constData(), O_PATH | O_NOFOLLOW | O_CLOEXEC));
+#endif
+    return failureOf(std::rename(QFile::encodeName(from).constData(), target.constData()));
 }
 
 int PosixFileSystem::remove(const QString &path)
