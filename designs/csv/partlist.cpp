@@ -162,10 +162,20 @@ private:
         return match.hasCaptured(4) ? difference(match.captured(2), match.captured(4)) + 1 : 1;
     }
 
-    /// At most a billion, so that no sum of them overflows.
+    /// At most a billion, so that no sum of them overflows; negative where the last is lower.
     static qsizetype difference(const QString &first, const QString &last)
     {
-        return qsizetype(qMin(last.toLongLong() - first.toLongLong(), qlonglong(1'000'000'000)));
+        const qulonglong from = numberOf(first);
+        const qulonglong to = numberOf(last);
+        return to < from ? -1 : qsizetype(qMin(to - from, qulonglong(1'000'000'000)));
+    }
+
+    /// The largest number for digits that are too many to count with.
+    static qulonglong numberOf(const QString &digits)
+    {
+        bool isReadable = false;
+        const qulonglong number = digits.toULongLong(&isReadable);
+        return isReadable ? number : ~qulonglong(0);
     }
 
     const std::unordered_set<std::string> &m_names;

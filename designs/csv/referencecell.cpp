@@ -20,6 +20,11 @@ std::string_view withoutBlanks(std::string_view text)
                                            : text.substr(first, text.find_last_not_of(' ') + 1 - first);
 }
 
+bool isSign(char c)
+{
+    return c == '+' || c == '-';
+}
+
 /// What stands for a number that is too large to count with.
 constexpr quint64 unreadable = ~quint64(0);
 
@@ -126,7 +131,8 @@ bool ReferenceCell::readPart(std::string_view part)
                 return false;
             }
             at += 2;
-        } else if (tokens.size() > 1 && !isClear(text)) {
+        } else if (tokens.size() > 1 &&
+                   (!isClear(text) || hasRangeWord(text, at > 0 ? m_prefix : std::string_view()))) {
             return fail(text,
                         QStringLiteral("is no reference: write its references one by one, with commas"));
         } else if (!addPiece(text)) {
@@ -144,16 +150,23 @@ bool ReferenceCell::addMarked(std::string_view left, std::string_view right, std
 {
     const bool isBare = isNumber(left) && !m_prefix.empty();
     const auto first = isBare ? std::optional(Numbered{m_prefix, left}) : numbered(left);
-    if (first && isNumber(right) && (isBare || isHigher(right, first->digits))) {
+    if (first && isNumber(right) && !namesSeveral(left) && (isBare || isHigher(right, first->digits))) {
         return addBareRange(*first, right, text);
     }
     const auto last = numbered(right);
     const bool hasHyphen =
         (left.find('-') != std::string_view::npos || right.find('-') != std::string_view::npos);
-    if (!first || !last || (hasHyphen && first->prefix != last->prefix)) {
+    if (!first || !last || namesSeveral(left) || (hasHyphen && first->prefix != last->prefix)) {
         return fail(text, QStringLiteral("is no range: write its references one by one"));
     }
     return addRange(*first, *last, text);
+}
+
+/// Whether the end of a range is a list or a range itself: "R1/R3 to 5".
+bool ReferenceCell::namesSeveral(std::string_view text) const
+{
+    return text.find_first_of("-/") != std::string_view::npos &&
+           (namesOneKindTwice(text) || (text.find('/') != std::string_view::npos && isSlashList(text)));
 }
 
 bool ReferenceCell::addPiece(std::string_view text)
@@ -211,7 +224,7 @@ bool ReferenceCell::addSlashList(std::string_view text)
     for (std::size_t begin = 0; begin <= text.size();) {
         const std::size_t end = std::min(text.find('/', begin), text.size());
         const std::string_view piece = text.substr(begin, end - begin);
-        if (!(isNumber(piece) ? addNumber(piece) : addHyphened(piece))) {
+        if (!addPiece(piece)) {
             return false;
         }
         if (m_prefix.empty()) {
@@ -262,7 +275,8 @@ bool ReferenceCell::addHyphened(std::string_view text)
     }
     const std::size_t hyphen = text.find('-');
     if (hyphen == std::string_view::npos) {
-        return addName(text);
+        const bool hasSlash = text.find('/') != std::string_view::npos;
+        return hasSlash && namesOneKindTwice(text) ? failAsRange(text) : addName(text);
     }
     if (const auto added = addFullRange(text)) {
         return *added;
@@ -276,9 +290,7 @@ bool ReferenceCell::addHyphened(std::string_view text)
     if (const auto last = plainNumbered(right); first && last) {
         return addRange(*first, *last, text);
     }
-    return joinsReferences(text) || hasRangeWithin(text)
-               ? fail(text, QStringLiteral("is no range that can be read: write its references one by one"))
-               : addName(text);
+    return joinsReferences(text) || namesOneKindTwice(text) ? failAsRange(text) : addName(text);
 }
 
 /// With the prefix at both ends, which then may have hyphens itself: "X1-1-X1-3".
@@ -357,6 +369,12 @@ bool ReferenceCell::addName(std::string_view text)
     if (!isNameText(text)) {
         return fail(text, QStringLiteral("is no reference: name the part, or delete the row if it is none"));
     }
+    if (hasUnclearDigits(text)) {
+        return fail(text, QStringLiteral("has digits other than 0 to 9: write it with these"));
+    }
+    if (text.front() == '-' && !m_prefix.empty() && !isSign(m_prefix.front()) && numbered(text.substr(1))) {
+        return fail(text, QStringLiteral("is a range without a beginning"));
+    }
     const auto found = plainNumbered(text);
     m_prefix = found ? found->prefix : std::string_view();
     return addItem({text});
@@ -389,6 +407,11 @@ std::vector<std::string_view> ReferenceCell::references()
         }
     }
     return found;
+}
+
+bool ReferenceCell::failAsRange(std::string_view text)
+{
+    return fail(text, QStringLiteral("is no range that can be read: write its references one by one"));
 }
 
 bool ReferenceCell::fail(std::string_view text, const QString &why)

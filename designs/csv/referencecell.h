@@ -49,10 +49,12 @@ struct ReferenceItem
 ///   reference each. A cell of numbers without any prefix names parts that are called so.
 /// - A hyphen that cannot make a range belongs to the name: "J1-A", "TP-1-2", "J4-1" (downwards), "X1-02"
 ///   (zeros that the first number lacks). "X1-2" can be either: it is a range unless `isName` says that it is
-///   a name. A slash that makes no list of one prefix belongs to the name, too: "U1/A".
+///   a name. A slash that makes no list of one prefix belongs to the name, too: "U1/A". But what names parts
+///   of one kind twice and is neither range nor list is an error: "R1-R3*", "R1/R3A".
 /// - A name starts with a letter, "#", "_" or a sign that belongs to a voltage ("+5V"), goes on with these,
 ///   digits and any of . / ? * $ @ % ' -, and next to a blank, "&" or "+" has a digit or "?" in it: "R1 and
-///   R2" is an error and not a part "and".
+///   R2" is an error and not a part "and", as are "R1to R3" and a line that begins with "-R3". Digits other
+///   than 0 to 9 are read only where they end a name: "R１".
 ///
 /// Everything else is an error: nothing becomes a reference because it was left over.
 class ReferenceCell final
@@ -100,6 +102,7 @@ private:
     [[nodiscard]] bool readCell(std::string_view cell);
     [[nodiscard]] bool readPart(std::string_view part);
     [[nodiscard]] bool addMarked(std::string_view left, std::string_view right, std::string_view text);
+    [[nodiscard]] bool namesSeveral(std::string_view text) const;
     [[nodiscard]] bool addPiece(std::string_view text);
     [[nodiscard]] bool addHyphened(std::string_view text);
     [[nodiscard]] std::optional<bool> addFullRange(std::string_view text);
@@ -111,6 +114,7 @@ private:
     [[nodiscard]] bool addKnownRange(const Numbered &first, const Numbered &last);
     [[nodiscard]] bool addName(std::string_view text);
     [[nodiscard]] bool addItem(const ReferenceItem &item);
+    [[nodiscard]] bool failAsRange(std::string_view text);
     [[nodiscard]] bool fail(std::string_view text, const QString &why);
 
     TextArena &m_arena;

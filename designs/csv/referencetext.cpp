@@ -4,11 +4,11 @@
 
 #include "designs/utf8.h"
 
-#include <QByteArrayView>
 #include <QList>
 
 #include <algorithm>
 #include <array>
+#include <unordered_set>
 
 namespace designs {
 
@@ -20,12 +20,21 @@ bool isNameSign(char32_t c)
     return signs.find(c) != std::u32string_view::npos || QChar::isLetterOrNumber(c) || QChar::isMark(c);
 }
 
+constexpr std::array<std::string_view, 2> rangeWords = {"to", "thru"};
+
+/// Of "R1", "U3A" and "R3*"; empty for a text that does not begin so.
+std::string_view lettersBeforeNumber(std::string_view text)
+{
+    const auto digit = std::ranges::find_if(text, isDigit);
+    const bool isNumbered = digit != text.end() && std::all_of(text.begin(), digit, isLetter);
+    return isNumbered ? text.substr(0, std::size_t(digit - text.begin())) : std::string_view();
+}
+
 /// "R1" and "U3A": letters, digits, then perhaps more of both.
 bool isLikeReference(std::string_view text)
 {
-    const auto digit = std::ranges::find_if(text, isDigit);
-    return digit != text.begin() && digit != text.end() && std::all_of(text.begin(), digit, isLetter) &&
-           std::all_of(digit, text.end(), [](char c) { return isLetter(c) || isDigit(c); });
+    return !lettersBeforeNumber(text).empty() &&
+           std::ranges::all_of(text, [](char c) { return isLetter(c) || isDigit(c); });
 }
 
 } // namespace
@@ -75,30 +84,66 @@ bool joinsReferences(std::string_view text)
     }
 }
 
-bool hasRangeWithin(std::string_view text)
+bool namesOneKindTwice(std::string_view text)
 {
-    const auto prefix = [](std::string_view piece) {
-        return isLikeReference(piece) ? piece.substr(0, piece.find_first_of("0123456789"))
-                                      : std::string_view();
-    };
-    for (std::size_t hyphen = text.find('-'); hyphen != std::string_view::npos; hyphen = text.find('-')) {
-        const std::string_view left = prefix(text.substr(0, hyphen));
-        text.remove_prefix(hyphen + 1);
-        if (!left.empty() && left == prefix(text.substr(0, text.find('-')))) {
+    std::unordered_set<std::string_view> kinds;
+    for (std::size_t begin = 0; begin <= text.size();) {
+        const std::size_t end = std::min(text.find_first_of("-/", begin), text.size());
+        const std::string_view letters = lettersBeforeNumber(text.substr(begin, end - begin));
+        if (!letters.empty() && !kinds.insert(letters).second) {
             return true;
         }
+        begin = end + 1;
     }
     return false;
 }
 
+bool hasUnclearDigits(std::string_view text)
+{
+    if (std::ranges::none_of(text, isHigh)) {
+        return false;
+    }
+    int numbers = 0;
+    bool isForeign = false;
+    bool isInNumber = false;
+    const QList<uint> codes = fromUtf8(text).toUcs4();
+    for (const uint code : codes) {
+        const bool isDecimal = QChar::isDigit(code);
+        numbers += isDecimal && !isInNumber ? 1 : 0;
+        isForeign = isForeign || (isDecimal && code > '9');
+        isInNumber = isDecimal;
+    }
+    return isForeign && (numbers > 1 || QChar::isDigit(codes.front()));
+}
+
+bool hasRangeWord(std::string_view text, std::string_view prefix)
+{
+    return std::ranges::any_of(rangeWords, [text, prefix](std::string_view word) {
+        if (text.size() <= word.size()) {
+            return false;
+        }
+        const std::size_t front = text.size() - word.size();
+        if (equalIgnoringCase(text.substr(front), word) && isDigit(text[front - 1])) {
+            return true;
+        }
+        const std::string_view rest = text.substr(word.size());
+        const std::string_view start = text.substr(0, word.size());
+        return equalIgnoringCase(start, word) && !prefix.empty() &&
+               (isNumber(rest) ? start != prefix : lettersBeforeNumber(rest) == prefix);
+    });
+}
+
+bool isRangeWord(std::string_view word)
+{
+    return std::ranges::any_of(rangeWords,
+                               [word](std::string_view known) { return equalIgnoringCase(word, known); });
+}
+
 std::optional<GluedRange> gluedRange(std::string_view text)
 {
-    static constexpr std::array<std::string_view, 2> words = {"to", "thru"};
-    for (const std::string_view word : words) {
-        const QByteArrayView sought(word.data(), qsizetype(word.size()));
+    for (const std::string_view word : rangeWords) {
         for (std::size_t at = 1; at + word.size() < text.size(); ++at) {
-            const QByteArrayView there(text.data() + at, qsizetype(word.size()));
-            if (isDigit(text[at - 1]) && there.compare(sought, Qt::CaseInsensitive) == 0) {
+            if (isDigit(text[at - 1]) && equalIgnoringCase(text.substr(at, word.size()), word)) {
                 return GluedRange{text.substr(0, at), text.substr(at + word.size())};
             }
         }

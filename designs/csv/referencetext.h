@@ -35,8 +35,18 @@ namespace designs {
 /// True when each text between the hyphens is like a reference: "R1A-R3B", "R1-R3-R5".
 [[nodiscard]] bool joinsReferences(std::string_view text);
 
-/// Whether two of the texts between the hyphens could be the ends of a range: "R1-R3-5".
-[[nodiscard]] bool hasRangeWithin(std::string_view text);
+/// Whether two of the texts between hyphens and slashes name parts of one kind: "R1-R3-5", "U1/A-U2/A".
+[[nodiscard]] bool namesOneKindTwice(std::string_view text);
+
+/// Whether digits beyond 0 to 9 leave open what the text counts: "Ｒ１-Ｒ３" and "２", but not "Ｒ１".
+[[nodiscard]] bool hasUnclearDigits(std::string_view text);
+
+/// Whether the text next to a blank is a reference with the word of a range on it: "R1to", or "toR3" and
+/// "to3" behind a reference with that prefix.
+[[nodiscard]] bool hasRangeWord(std::string_view text, std::string_view prefix);
+
+/// "to" and "thru" in any letter case.
+[[nodiscard]] bool isRangeWord(std::string_view word);
 
 /// The ends of a range whose sign is a word within the text, as in "R1toR3".
 struct GluedRange

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/referencetokens.h"
 
-#include <QByteArrayView>
+#include "designs/csv/referencetext.h"
 
 #include <algorithm>
 #include <array>
@@ -48,15 +48,6 @@ constexpr std::array<std::pair<std::string_view, char>, 32> plainSigns = {{
 }};
 
 constexpr std::string_view blanksAndSigns = " &+~";
-
-bool isRangeWord(std::string_view word)
-{
-    const auto is = [word](std::string_view known) {
-        return QByteArrayView(word.data(), qsizetype(word.size()))
-                   .compare(QByteArrayView(known.data(), qsizetype(known.size())), Qt::CaseInsensitive) == 0;
-    };
-    return is("to") || is("thru");
-}
 
 } // namespace
 

@@ -246,7 +246,8 @@ TEST_F(CsvPartList, CountsReferencesAnew)
         "\xEF\xBB\xBF\"Value\",\"Refs\"\r\"x\",\"C17/18/19 C20/C21, D1/3-5\"\r",
         "Ref;V\nR1 - R3, R5- R6 R8 -9;\nR1,2,5-7,9-R11;\nR08-R11, "
         "R7-R7;\nU1A2-U1A4;\nX1-2;\nR1\u2013R3\u3001R5\u00A0R6;\n",
-        "Ref|V\nJ1-A TP-1 TP-1-2|\nJ4-1|\nX1-02 J1-1|\nU1/A CH1/R5 R? J?-2|\n12|\nR1.5-8, +5V, "
+        "Ref|V\nJ1-A TP-1 TP-1-2|\nJ4-1 J99999999999999999999-1|\nX1-02 J1-1|\nU1/A CH1/R5 R? "
+        "J?-2|\n12|\nR1.5-8, +5V, "
         "-V, #PWR01, #PWR2-4,7 #PWR8/9 #FLG-1 #X1/Y R3,4|\nR1 to R3, C1..C3 L1~3&L7+L9|\n",
         "Ref\tV\nR1\x96R4\t\n C2\xA0 C3 \t\n",
         "Ref,V\n\"R1\nJ1\",\"a\"\"b\"\n",

@@ -59,6 +59,7 @@ TEST(CsvReferences, TakesReferencesApart)
         {"R1\uFF1BR2\uFF06R4\uFF5ER6", "R1 R2 R4 R5 R6"},
         {"X1-1-X1-3,J1.1-J1.2", "X1-1 X1-2 X1-3 J1.1 J1.2"},
         {"12,13", "12 13"},
+        {"L1 TOR1,TO1 TO2,+V1,-V2", "L1 TOR1 TO1 TO2 +V1 -V2"},
     };
     for (const auto &[cell, references] : cases) {
         EXPECT_EQ(named(cell), references) << cell;
@@ -70,7 +71,7 @@ TEST(CsvReferences, LeavesOddNamesWhole)
     // clang-format off
     for (const char *name :
          {"J1-A", "TP-1", "TP-1-2", "J4-1", "X1-02", "J1-1", "U1/A", "CH1/R5", "R?", "J?-2", "12",
-          "R1.5-8", "+5V", "-V", "#PWR01", "U1A", "R99999999999999999999"}) {
+          "R1.5-8", "+5V", "-V", "#PWR01", "U1A", "R\uFF11", "R99999999999999999999"}) {
         // clang-format on
         EXPECT_EQ(named(name), name);
     }
@@ -120,6 +121,17 @@ TEST(CsvReferences, RefusesUnclearRanges)
         {"C1 R1-R3A", "\"R1-R3A\" is no range"},
         {"R1-R3-R5", "\"R1-R3-R5\" is no range"},
         {"U1A-", "without an end"},
+        {"R1-3-R5", "is no range"},
+        {"R1-R3*", "is no range"},
+        {"R1/R3A", "is no range"},
+        {"R1/R3 to 5", "is no range"},
+        {"R1-R3 to 5", "is no range"},
+        {"R\uFF11-R\uFF13", "digits other than 0 to 9"},
+        {"R1,\uFF12", "digits other than 0 to 9"},
+        {"R1to R3", "\"R1to\" is no reference"},
+        {"R1 toR3", "\"toR3\" is no reference"},
+        {"R1 to3", "\"to3\" is no reference"},
+        {"R1\n-R3", "without a beginning"},
     };
     for (const auto &[cell, says] : cases) {
         EXPECT_THAT(named(cell), testing::HasSubstr(says)) << cell;
