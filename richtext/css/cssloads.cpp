@@ -86,6 +86,33 @@ bool isImage(QStringView function)
     return image.match(function).hasMatch();
 }
 
+/// With the letters and digits that escapes stand for: "\\69nf" is "inf" to Qt.
+QString withPlainLetters(const QString &value)
+{
+    if (!value.contains(u'\\')) {
+        return value;
+    }
+    QString result;
+    for (qsizetype at = 0; at < value.size();) {
+        const qsizetype begin = at;
+        const bool isEscape = value[at] == u'\\';
+        const QChar character = isEscape ? unescaped(value, at) : value[at++];
+        const bool isPlain = character.unicode() < 0x80 && character.isLetterOrNumber();
+        result += isPlain ? QStringView(&character, 1) : QStringView(value).sliced(begin, at - begin);
+    }
+    return result;
+}
+
+/// Qt takes "inf" and "nan" for lengths, and lays out such cells for ever.
+QString withoutEndlessNumbers(const QString &value)
+{
+    static const QRegularExpression endless(
+        QStringLiteral("(?<![\\w#.-])(?:inf|infinity|nan)(?=(?:px|pt|pc|mm|cm|in|em|ex|rem)?(?![\\w-]))"),
+        QRegularExpression::CaseInsensitiveOption);
+    QString result = value;
+    return result.replace(endless, QStringLiteral("0"));
+}
+
 /// Copies a style sheet piece by piece. It looks for names, because an escape can stand for any letter of
 /// one.
 class Copier final
@@ -185,8 +212,9 @@ QString withoutLoads(const QString &text)
     return result == lines ? text : result;
 }
 
-QString withSensibleNumbers(const QString &value)
+QString withSensibleNumbers(const QString &text)
 {
+    const QString value = withoutEndlessNumbers(withPlainLetters(text));
     static const QRegularExpression number(QStringLiteral("(?<![\\w#.])\\d+(?:\\.\\d*)?(?:e\\+?\\d+)?"),
                                            QRegularExpression::CaseInsensitiveOption);
     QString result;

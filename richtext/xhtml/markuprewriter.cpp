@@ -129,6 +129,10 @@ private:
 
     void readToken(QXmlStreamReader::TokenType token)
     {
+        // What stands inside of `hr` or `br` is written behind it.
+        const bool isMisplaced = m_isInEmptyElement && token != QXmlStreamReader::EndElement;
+        m_result.isChanged = m_result.isChanged || isMisplaced;
+        m_isInEmptyElement = false;
         switch (token) {
         case QXmlStreamReader::StartElement:
             start();
@@ -298,6 +302,7 @@ private:
         countTables(element);
         countLines(element);
         if (element.isEmpty()) {
+            m_isInEmptyElement = true;
             outer.hasContent = true;
             m_result.xhtml += QStringLiteral("<") + element.name + attributes + QStringLiteral(" />");
             return;
@@ -399,6 +404,8 @@ private:
     /// For each open element of the fragment the place in m_open that it has, -1 when it is not written.
     QList<qsizetype> m_input;
     CellSpan m_span;
+    /// The last token was the start of an element that holds nothing.
+    bool m_isInEmptyElement = false;
     MarkupLimits m_limits;
     int m_elements = 0;
     int m_images = 0;

@@ -64,6 +64,8 @@ TEST(MarkupCleaner, MendsAndLeavesOutWhatActsOrFetches)
         {"<ul></ul><table><tbody></tbody></table><p/>x<table><tr><td colspan='99999'>y</table>",
          "\n\n<p></p>\nx\n<table><tr><td colspan=\"1000\">y</td></tr></table>",
          {}},
+        {"<hr>x</hr>", "<hr />\nx", {}},
+        {"<p style='margin: i\\6e f \\39 9999px'>x</p>", "<p style=\"margin: 0 9999px\">x</p>", {}},
     };
     for (const auto &[markup, xhtml, leftOut] : cases) {
         EXPECT_EQ(MarkupCleaner().clean(QString::fromUtf8(markup)).xhtml, QString::fromUtf8(xhtml)) << markup;
@@ -137,13 +139,14 @@ TEST(SelfContainedDocument, OpensNoFile)
 TEST(Pages, EndForHugeLengths)
 {
     for (const QString &css :
-         {u"p { font-size: 99999pt }"_s, u"p { margin: 1e9px }"_s, u"td { padding: 9999cm }"_s}) {
+         {u"p { font-size: 99999pt }"_s, u"p { margin: 1e9px }"_s, u"td { padding: 9999cm }"_s,
+          u"td { padding: INFpx }"_s, u"td { padding: 'in\\66' }"_s, u"[class] { margin-top: nan }"_s}) {
         PdfOutput output(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}), {});
         SelfContainedDocument document;
         layOutPages(
             document,
-            page(css,
-                 u"<table><tr><td><p style='margin-top: 5000px'>text</p></td></tr></table>"_s.repeated(500)),
+            page(css, u"<table class='a'><tr><td><p style='margin-top: 5000px'>text</p></td></tr></table>"_s
+                          .repeated(500)),
             output.device(), QSizeF(2000, 3000));
         EXPECT_LT(document.pageCount(), 9000) << css;
     }
