@@ -4,6 +4,7 @@
 
 #include "report/reportfixture.h"
 #include "richtext/xhtml/links.h"
+#include "views/report/templatemarkup.h"
 
 #include <QRegularExpression>
 #include <QUrl>
@@ -70,6 +71,28 @@ TEST_F(Html, GivesManualWidthsByPositionAndNoneBeyondAHundredPercent)
     EXPECT_THAT(widthsWith({70, 10}), ElementsAre(style(10), style(30), QString(), QString()));
     EXPECT_THAT(widthsWith({2000000000, 2000000000, 5}),
                 ElementsAre(style(10), style(30), QString(), QString(), QString()));
+}
+
+TEST(TemplateMarkup, TellsWhatTheReportIsWithout)
+{
+    BOMTemplate settings;
+    settings.setDocumentHeader(
+        u"<p id='a' onclick='' ondblclick='' onmousedown='' onmouseup='' onmouseover='' "
+        "onmouseout=''>x</p>"_s);
+    settings.setDocumentFooter(u"<p id='a'>y</p>"_s);
+    settings.setPageHeader(u"<p>x</p>"_s.repeated(101));
+    settings.setCss(u"p.a { color: red } "_s.repeated(1'001));
+    const TemplateMarkup markup = templateMarkup(settings);
+    EXPECT_EQ(markup.documentFooter, u"<p>y</p>"_s);
+    EXPECT_THAT(
+        markup.notices,
+        ElementsAre(
+            u"the header of the template is shown without what would run or fetch something: onclick, "
+            "ondblclick, onmousedown, onmouseup, onmouseover and 1 more"_s,
+            u"the report is without the page header of the template: The HTML text has too many "
+            "elements."_s,
+            u"the style sheet of the template is too long: windows and PDF files show its first rules "
+            "only"_s));
 }
 
 TEST(ReportLink, LeadsToFilesAndAddressesOnly)

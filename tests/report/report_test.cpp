@@ -4,6 +4,7 @@
 
 #include "report/reportfixture.h"
 #include "report/xlsxtext.h"
+#include "support/datatable.h"
 #include "support/scopeddefinitions.h"
 #include "views/report/asciireport.h"
 #include "views/report/csvreport.h"
@@ -109,24 +110,9 @@ TEST_F(ReportValue, ShowsNumbersOfNumericFieldsWithTheirDecimals)
 {
     const ScopedDefinitions definitions("\"COST\",FLOAT\n\"COUNT\",INT");
     database.load();
-    const std::tuple<int, const char *, const char *> cases[] = {{2, "1.5", "1.50"},
-                                                                 {2, "1,5", "1,5"},
-                                                                 {2, "1,234.50", "1,234.50"},
-                                                                 {2, "n/a", "n/a"},
-                                                                 {2, "nan", "nan"},
-                                                                 {2, "inf", "inf"},
-                                                                 {2, "\"0805\"", "0805"},
-                                                                 {2, "\"", ""},
-                                                                 {2, "\"x", "\"x"},
-                                                                 {2, "1e3", "1000.00"},
-                                                                 {0, "0.000001234", "1.234e-06"},
-                                                                 {0, "1.50", "1.5"},
-                                                                 {-3, "1234567", "1.23457e+06"},
-                                                                 {40, "0.5", "0.500000000000000"},
-                                                                 {2, "", ""}};
-    for (const auto &[precision, value, text] : cases) {
-        changeField(cost, [decimals = precision](BOMField &field) { field.precision = decimals; });
-        EXPECT_EQ(shown(QString::fromLatin1(value)), QString::fromLatin1(text));
+    for (const auto &[precision, value, text] : dataTable<3>("report/numbers.txt")) {
+        changeField(cost, [decimals = std::stoi(precision)](BOMField &field) { field.precision = decimals; });
+        EXPECT_EQ(shown(QString::fromStdString(value)).toStdString(), text) << value;
     }
     const Report report = this->report();
     EXPECT_EQ(report.text(u"007"_s, *report.column(u"Stock Code"_s)), u"007"_s);

@@ -123,15 +123,6 @@ TEST_F(HtmlView, LinksInsideTheDocumentScrollAndThoseToProgramsAsk)
     EXPECT_EQ(ui.openedUrls, QList<QUrl>{QUrl::fromLocalFile(program)});
 }
 
-TEST_F(HtmlView, FillsItselfBeforeTheFirstOutput)
-{
-    BOMHTMLView fresh;
-    fresh.setPartsDatabase(&database);
-    ui.fileName = folder.filePath(u"fresh.html"_s);
-    fresh.saveHTML();
-    EXPECT_EQ(QString::fromUtf8(readFile(ui.fileName)), view.html());
-}
-
 TEST_F(HtmlView, TellsOnceWhatItDoesNotShowOfTheTemplate)
 {
     changeTemplate([](BOMTemplate &settings) { settings.setDocumentHeader(u"<p onclick='x()'>ACME</p>"_s); });
