@@ -46,9 +46,10 @@ TEST_F(Check, AccountsForEverySymbolAndListsWhatIsToDecideAndToKnow)
     EXPECT_EQ(run("check left-out-bom-only-parts.csv --dnp include").out,
               data("check", "left-out-bom-only-parts.included"));
     EXPECT_THAT(run("report unread-texts.csv --template unread-texts.bomt --propdefs unread-texts.ini").err,
-                HasSubstr("bom: column Unit Cost: 3 parts have a text that is no number and counts 0: "
-                          "\"$1.50\" on R3, \"1,234.50\" on R1-R2\n"));
-    EXPECT_THAT(run("report not-annotated.kicad_sch").err, HasSubstr("bom: 2 symbols are not annotated"));
+                HasSubstr("bom: column Unit Cost: 5 parts have a text that is no number and counts 0: "
+                          "\"\"5\"\" on R5, \"$1.50\" on R3, \"1,234.50\" on R1-R2, ...\n"));
+    EXPECT_THAT(run("report not-annotated.kicad_sch --allow-duplicates").err,
+                HasSubstr("bom: 3 symbols are not annotated"));
 }
 
 TEST_F(Check, TakesOneNameForEachRequire)

@@ -155,7 +155,8 @@ TEST_F(Report, WarnsOfALineThatAnotherReplaces)
     EXPECT_EQ(run("report list.csv --csv -").err,
               "bom: the line of 1 part R1 is left out of the report, because R1 and R01 count as the same "
               "reference; renumber one of them\n");
-    EXPECT_THAT(run("report list.csv --full-csv -").err, HasSubstr("left out of the report of single parts"));
+    EXPECT_THAT(run("report list.csv --full-csv -").err,
+                StartsWith("bom: R1 is left out of the report of single parts"));
 }
 
 TEST_F(Report, GivesEqualBytesTwice)

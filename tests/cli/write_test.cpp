@@ -285,7 +285,7 @@ TEST_F(Write, ApplyTakesNoChangesThatSpreadsheetsMakeByThemselves)
     write(edits, "Reference,A,B,COST\nR1,0402,1E3,3.90\nR2,1-2,=A1,0.00\n");
     EXPECT_EQ(done("apply list.csv edits.csv"), "nothing to change\n");
     for (const char *row : {"R1,402,1E3,", "R1,0402,1.00E+03,", "R1,0402,1000,", "R2,02-Jan,=A1,",
-                            "R2,2026-02-01,=A1,", "R2,1-2,7,", "R2,1-2,#NAME?,"}) {
+                            "R2,2026-02-01,=A1,", "R2,44563,=A1,", "R2,1-2,7,", "R2,1-2,#NAME?,"}) {
         write(edits, QByteArray("Reference,A,B,COST\n") + row + (row[1] == '1' ? "3.9\n" : "0\n"));
         const ProgramRun refused = run("apply list.csv edits.csv --dry-run");
         EXPECT_EQ(refused.status, 1) << row;

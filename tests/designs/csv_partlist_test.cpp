@@ -108,6 +108,8 @@ TEST_F(CsvPartList, ChoosesColumnsByTheirHeadings)
     for (const auto &[headings, part] : cases) {
         EXPECT_THAT(described(*load(headings + "\nR1,R2,R3,R4\n")), ElementsAre(part)) << headings;
     }
+    EXPECT_THAT(described(*load("Refs,,b\nR1,,x\n")), ElementsAre("R1=@2 b:x"));
+    EXPECT_THAT(described(*load(std::string(19, '\n') + "Refs\nR1\n")), ElementsAre("R1=@21"));
 }
 
 TEST_F(CsvPartList, MarksPartsWhoseDnpIsAnyTextButAWordForNo)
@@ -213,15 +215,15 @@ TEST_F(CsvPartList, TakesHyphensForNamesWhereTheListSaysSo)
         EXPECT_EQ(named, references) << bytes;
     }
     EXPECT_EQ(
-        warnings(*load("Ref,Value\nR1,1\nR1-4,1\nJ1-1,1\nJ1-2,1\n")),
+        warnings(*load("Ref,Value\nR1,1\nR1-4,1\nJ1,1\nJ1-1,1\nJ1-2,1\n")),
         "list.csv:3: \"R1-4\" is the name of one part and no range, because the list has \"R1\" by itself\n");
 }
 
 TEST_F(CsvPartList, LeavesOutRowsThatRepeatTheHeadingsOrSumUp)
 {
     const auto design =
-        load("Ref,Value\nR1,1k\nRef,Value\nR2,1k\nTotal,5\n,Total: 2 parts\nTOTAL1,x\nSum,adder\n");
-    EXPECT_THAT(described(*design), ElementsAre("R1=1k@2", "R2=1k@4", "TOTAL1=x@7", "Sum=adder@8"));
+        load("Ref,Value\nR1,1k\nRef,Value\nR2,1k\nTotal,5\n,Total: 2 parts\nTOTAL1,5\nSum,adder\n");
+    EXPECT_THAT(described(*design), ElementsAre("R1=1k@2", "R2=1k@4", "TOTAL1=5@7", "Sum=adder@8"));
     EXPECT_EQ(warnings(*design),
               "list.csv:3: the row repeats the headings and names no parts: it is left out\n"
               "list.csv:5: the row sums up (\"Total\") and names no parts: it is left out\n"

@@ -8,17 +8,21 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QRegularExpression>
 
 #include <gmock/gmock.h>
 
 #include <cerrno>
 #include <functional>
+#include <map>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
 using namespace designs;
+using testing::AllOf;
 using testing::AnyOf;
 using testing::HasSubstr;
+using testing::Not;
 
 namespace {
 
@@ -194,13 +198,18 @@ TEST_F(DesignFilesTest, RefusesWhatWouldLoseOthersWork)
     QFile::remove(path("~board.kicad_sch.lck"));
 
     // A schematic above the design that KiCad has open, found through what it names; another one is not.
-    put("top.kicad_sch", R"((sheet (property "Sheetfile" "sub/../board.kicad_sch")))");
+    put("top.kicad_sch", R"((sheet (property "Sheetfile" "sub\mid.kicad_sch")))");
+    put("sub/mid.kicad_sch", R"((sheet (property "Sheetfile" "${KIPRJMOD}/sub/../board.kicad_sch")))");
     put("~top.kicad_sch.lck", R"({"username":"anna"})");
     expectRefused("board.kicad_sch: belongs to ");
     put("top.kicad_sch", R"((sheet (property "Sheetfile" "elsewhere.kicad_sch")))");
     EXPECT_EQ(joined(files().check(planned)), "");
     QFile::remove(path("~top.kicad_sch.lck"));
     QFile::remove(path("top.kicad_sch"));
+    QFile::remove(path("sub/mid.kicad_sch"));
+    std::vector<FileReplacement> twice = planned;
+    twice.push_back(planned.front());
+    EXPECT_THAT(joined(files().check(twice)), HasSubstr("is named twice among the files to write"));
 
     put(names[2], "changed");
     expectRefused("sub/a.kicad_sch: was changed since it was read");
@@ -257,14 +266,20 @@ TEST_F(DesignFilesTest, HostileJournalsAreRefused)
     // Names that are none of the design's, though the files are there and of the same kind.
     put("other.kicad_sch", "other");
     const std::string fingerprint = R"("1-00000000000000000000000000000000")";
-    const auto journal = [&](const std::string &file) {
-        return R"({"version":1,"state":"committed","token":"0123456789abcdef","files":[{"file":")" + file +
-               R"(","before":)" + fingerprint + R"(,"after":)" + fingerprint + "}]}";
+    const auto entry = [&](const std::string &file) {
+        return R"({"file":")" + file + R"(","before":)" + fingerprint + R"(,"after":)" + fingerprint + '}';
+    };
+    const auto journal = [&](const std::string &file, const std::string &token = "0123456789abcdef",
+                             int version = 1, const std::string &more = {}) {
+        return R"({"version":)" + std::to_string(version) + R"(,"state":"committed","token":")" + token +
+               R"(","files":[)" + entry(file) + more + "]}";
     };
     for (const std::string &text :
          {std::string("\0\x01\xff", 3), std::string(), std::string("[]"), std::string(9U << 20U, ' '),
           journal("/etc/passwd"), journal("../../../../etc/passwd"), journal("sub/../a.kicad_sch"),
-          journal(""), journal("other.kicad_sch"),
+          journal(""), journal("other.kicad_sch"), journal("a.kicad_sch", "../../../0123456"),
+          journal("a.kicad_sch", "0123456789abcdef", 2),
+          journal("a.kicad_sch", "0123456789abcdef", 1, ',' + entry("a.kicad_sch")),
           R"({"version":1,"state":"taking back","token":"0123456789abcdef","backups":true,"files":[{"file":)"
           R"("other.kicad_sch","before":)" +
               fingerprint + R"(,"after":")" + fingerprintOf("other").toString().toStdString() + "\"}]}"}) {
@@ -294,10 +309,33 @@ TEST_F(DesignFilesTest, OneProcessWritesAtATime)
     InterruptedFileSystem holder(0, 0);
     ASSERT_EQ(holder.lock(lock, &file), 0);
     EXPECT_THAT(replace(1), HasSubstr("just writing"));
-    EXPECT_THAT(recover(), HasSubstr("just writing"));
+    put(".board.kicad_sch.bom-journal", "of that process");
+    EXPECT_THAT(recover(), AllOf(HasSubstr("just writing"), Not(HasSubstr("interrupted"))));
+    QFile::remove(path(".board.kicad_sch.bom-journal"));
     EXPECT_EQ(version(), 0);
     ASSERT_EQ(holder.unlock(lock, file), 0);
     EXPECT_EQ(replace(1), "");
+}
+
+/// The machine's file system, on which somebody holds every lock for a while.
+class BusySystem final : public PosixFileSystem
+{
+public:
+    int lock(const QString &path, int *file) override
+    {
+        return --m_left > 0 ? EWOULDBLOCK : PosixFileSystem::lock(path, file);
+    }
+    void pause() override {}
+
+private:
+    int m_left = 100;
+};
+
+TEST_F(DesignFilesTest, WaitsUntilTheOtherProcessHasWritten)
+{
+    BusySystem system;
+    EXPECT_EQ(joined(files(&system).replace(replacements(1), Backups::Keep).problems), "");
+    EXPECT_EQ(version(), 1);
 }
 
 /// A copy of a process is made for each death, which takes its time where memory is watched.
@@ -448,6 +486,28 @@ public:
         , m_before(std::move(before))
     {
     }
+    int create(const QString &path, int *file) override
+    {
+        const int failure = PosixFileSystem::create(path, file);
+        m_paths[*file] = path;
+        return failure;
+    }
+    int open(const QString &path, int *file) override
+    {
+        const int failure = PosixFileSystem::open(path, file);
+        m_paths[*file] = path;
+        return failure;
+    }
+    int sync(int file) override
+    {
+        synced << m_paths[file];
+        return PosixFileSystem::sync(file);
+    }
+    int syncFolder(const QString &path) override
+    {
+        synced << path + u'/';
+        return PosixFileSystem::syncFolder(path);
+    }
     int rename(const QString &from, const QString &to) override
     {
         ++m_renames;
@@ -457,8 +517,12 @@ public:
         return m_failsFrom > 0 && m_renames >= m_failsFrom ? EIO : PosixFileSystem::rename(from, to);
     }
 
+    /// The files and folders that were brought to the disk.
+    QStringList synced;
+
 private:
     int m_failsFrom;
+    std::map<int, QString> m_paths;
     int m_renames = 0;
     std::function<void(int)> m_before;
 };
@@ -506,6 +570,32 @@ TEST_F(DesignFilesTest, WhatIsSavedWhileAWriteIsPreparedStays)
     expectTidy();
 }
 
+TEST_F(DesignFilesTest, AllThatACommitPromisesIsOnTheDiskBefore)
+{
+    int contents = 0;
+    RenameSystem system(0, [&](int rename) {
+        if (rename == 2) {
+            contents = int(system.synced.filter(QRegularExpression(QStringLiteral("-[0-2].new$"))).size());
+            EXPECT_EQ(system.synced.filter(QStringLiteral(".undo")).size(), 1);
+            for (const char *folder : {"board-backup/", "sub/"}) {
+                EXPECT_TRUE(system.synced.contains(path(folder))) << folder;
+            }
+        }
+    });
+    EXPECT_EQ(joined(files(&system).replace(replacements(1), Backups::Keep).problems), "");
+    EXPECT_EQ(contents, 3);
+}
+
+TEST_F(DesignFilesTest, WhatIsOpenedWhileAWriteIsPreparedIsNotWritten)
+{
+    RenameSystem system(0, [this](int) { put("sub/~a.kicad_sch.lck", "{}"); });
+    EXPECT_THAT(joined(files(&system).replace(replacements(1), Backups::Keep).problems),
+                HasSubstr("sub/a.kicad_sch: is open in KiCad (somebody)"));
+    QFile::remove(path("sub/~a.kicad_sch.lck"));
+    EXPECT_EQ(version(), 0);
+    expectTidy();
+}
+
 /// A transaction that died with the first file in place and the others not.
 class InterruptedTransactionTest : public DesignFilesTest
 {
@@ -528,9 +618,8 @@ TEST_F(InterruptedTransactionTest, ForeignChangesAreKeptAndTheRestGoesBack)
     for (const Backups backups : {Backups::Keep, Backups::None}) {
         interrupt(backups);
         put(names[2], "somebody's");
-        EXPECT_THAT(recover(),
-                    testing::AllOf(HasSubstr("sub/a.kicad_sch: was changed while a write was interrupted"),
-                                   HasSubstr("was taken back")));
+        EXPECT_THAT(recover(), AllOf(HasSubstr("sub/a.kicad_sch: was changed while a write was interrupted"),
+                                     HasSubstr("was taken back")));
         EXPECT_EQ(get(names[2]), "somebody's");
         put(names[2], content(names[2], 0));
         EXPECT_EQ(version(), 0);
@@ -570,8 +659,12 @@ TEST_F(InterruptedTransactionTest, WaitsForWhoHasAFileOpen)
     interrupt(Backups::Keep);
     put("~a.kicad_sch.lck", "no json");
     EXPECT_THAT(recover(), HasSubstr("is open in KiCad (somebody)"));
-    EXPECT_EQ(version(), -1);
     QFile::remove(path("~a.kicad_sch.lck"));
+    put("top.kicad_sch", R"((sheet (property "Sheetfile" "board.kicad_sch")))");
+    put("~top.kicad_sch.lck", "{}");
+    EXPECT_THAT(recover(), HasSubstr("belongs to "));
+    EXPECT_EQ(version(), -1);
+    QFile::remove(path("~top.kicad_sch.lck"));
     EXPECT_THAT(recover(), HasSubstr("was completed"));
     EXPECT_EQ(version(), 1);
 }
