@@ -68,8 +68,9 @@ struct FileReplacement
     [[nodiscard]] static FileReplacement whole(const QString &path, const FileFingerprint &before,
                                                std::string after)
     {
-        const FileFingerprint fingerprint = fingerprintOf(after);
-        return {path, before, fingerprint, {{0, std::size_t(before.size), std::move(after)}}};
+        FileReplacement made{path, before, fingerprintOf(after), {}};
+        made.splices.push_back({0, std::size_t(before.size), std::move(after)});
+        return made;
     }
 };
 

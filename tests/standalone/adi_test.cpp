@@ -44,7 +44,7 @@ protected:
         const auto before = designs::fingerprintOfFile(path);
         ASSERT_TRUE(before);
         design->planning = [this, after, before](designs::EditPlan &plan) {
-            plan.files.push_back({path, *before, after});
+            plan.files.push_back(designs::FileReplacement::whole(path, *before, after.toStdString()));
         };
     }
     static std::string adi(const std::string &script)
