@@ -99,7 +99,10 @@ std::vector<FileReplacement> reversed(FileOperations &operations, const DesignPa
             operations.fail(backup, QStringLiteral("is missing or damaged: nothing is taken back"));
         }
     }
-    return operations.problems().empty() ? files : std::vector<FileReplacement>();
+    if (!operations.problems().empty()) {
+        files.clear();
+    }
+    return files;
 }
 
 /// With the lock taken. False, with problems, when a transaction had been interrupted: the caller worked out
