@@ -310,6 +310,9 @@ ExitStatus TemplateCommand::exportFile(TemplateStore &store)
     }
     QString reason;
     const auto content = store.templates().document(name, &reason);
+    if (BOMTemplate settings = store.templates().stored(name); content && upgradeTemplate(settings)) {
+        showTemplateUpgraded(nullptr, name);
+    }
     if (!content) {
         console::message(store.templates().stored(name).filePath() + QStringLiteral(": ") + reason);
         return ExitStatus::UnreadableInput;

@@ -104,6 +104,8 @@ bool BOMMainWindow::canbeclosed()
     case HostUi::SaveAnswer::Save:
         return m_templates->saveCurrent();
     case HostUi::SaveAnswer::Discard:
+        // The window may stay, and one that is made anew shows what is being worked on.
+        m_templates->discardChanges();
         return true;
     case HostUi::SaveAnswer::Cancel:
         break;

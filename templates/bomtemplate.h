@@ -171,7 +171,12 @@ public:
     /// Whether the file comes from a later version of the program, so that it may hold more than was read.
     /// Ends with save().
     [[nodiscard]] bool isOfLaterVersion() const { return m_record.fileVersion > CurrentVersion; }
-    /// What the user is to be told then.
+    /// Whether the file is of an earlier version. Ends with save().
+    [[nodiscard]] bool isOfEarlierVersion() const
+    {
+        return m_record.fileVersion != 0 && m_record.fileVersion < CurrentVersion;
+    }
+    /// What the user is to be told about a later version.
     [[nodiscard]] TemplateMessage laterVersionMessage() const;
 
     /// Absolute path of the HTML file that an old template used, else empty.

@@ -3,6 +3,7 @@
 #include "templates/templatelist.h"
 
 #include "files/regularfile.h"
+#include "templates/oldhtmltemplate.h"
 #include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
 
@@ -206,7 +207,10 @@ void TemplateList::removeLegacyEntry(const QString &name) const
 
 std::optional<QByteArray> TemplateList::document(const QString &name, QString *reason) const
 {
-    const BOMTemplate settings = stored(name);
-    return QFileInfo::exists(settings.filePath()) ? contentOf(settings.filePath(), reason)
-                                                  : newDocument(settings, reason);
+    BOMTemplate settings = stored(name);
+    // The HTML file of an old template stays behind, and what a file of an old version lacks may have another
+    // meaning one day.
+    const bool isOld = upgradeTemplate(settings) || settings.isOfEarlierVersion();
+    return QFileInfo::exists(settings.filePath()) && !isOld ? contentOf(settings.filePath(), reason)
+                                                            : newDocument(settings, reason);
 }

@@ -56,8 +56,8 @@ public:
     /// that it hid takes its place. False, with nothing changed, when its file cannot be deleted.
     [[nodiscard]] bool remove(const QString &name);
 
-    /// What the template's file holds; of one without a file, what it would hold. Nothing, with the problem
-    /// in `reason`, when it cannot be read.
+    /// What the template's file holds; of one without a file or with a file of an earlier version, what it
+    /// would hold. Nothing, with the problem in `reason`, when it cannot be read.
     [[nodiscard]] std::optional<QByteArray> document(const QString &name, QString *reason) const;
 
 private:

@@ -73,6 +73,13 @@ bool TemplateStore::select(const QString &name)
     return true;
 }
 
+void TemplateStore::discardChanges()
+{
+    if (!m_currentName.isEmpty()) {
+        makeCurrent(m_currentName);
+    }
+}
+
 HostUi::SaveAnswer TemplateStore::askToSave(bool withCancel) const
 {
     return HostUi::current().saveQuestion(m_dialogParent, tr("Unsaved BOM Template Changes"),

@@ -69,6 +69,9 @@ public:
     /// That, and a file of a later version, is told once.
     bool select(const QString &name);
 
+    /// Makes the stored settings of the current template the working ones again, as select() does.
+    void discardChanges();
+
     /// Writes the working settings under a name, always into the primary folder. Asks before it replaces a
     /// file of a later version.
     bool save(const QString &name);
@@ -100,7 +103,8 @@ public:
     /// The same with a file that is known.
     bool importFile(const QString &path);
 
-    /// Asks for a destination and copies the current template's file there. Says nothing when that fails.
+    /// Asks for a destination and copies the current template's file there, one of an earlier version in the
+    /// present form. Says nothing when that fails.
     bool exportTemplate();
 
     /// Asks whether unsaved changes are to be saved. The caller does what was answered.

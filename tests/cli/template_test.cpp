@@ -108,19 +108,19 @@ TEST_F(TemplateCommandTest, WhatIsRefusedUnreadableOrUnwritableHasItsOwnStatus)
     EXPECT_THAT(done("template list"), StartsWith("Default\nMine\nAssembly"));
 }
 
-TEST_F(TemplateCommandTest, AnOldHeaderComesAlongOnEveryWayIn)
+TEST_F(TemplateCommandTest, AnOldHeaderComesAlongIntoReportsAndExports)
 {
     ASSERT_TRUE(QDir(path({})).mkpath(folder));
     write(folder + QStringLiteral("old.html"), "<div id='customHeader'>ACME</div>");
     write(QStringLiteral("old.bomt"),
           templateFile(2, "<htmlTemplateFileName>old.html</htmlTemplateFileName>"));
     const std::string told = "The BOM template 'old' has been upgraded.  Some styling may have changed.";
-    expect(0, "template import old.bomt", told);
-    EXPECT_THAT(done("report a.csv --html - --template old"), HasSubstr("ACME"));
-    expect(0, "template new copy --from old.bomt", "'copy' has been upgraded");
-    EXPECT_THAT(done("template show copy"), HasSubstr("Document header: ACME\n"));
     EXPECT_THAT(done("template show old.bomt"), HasSubstr("Document header: ACME\n"));
     expect(0, "report a.csv --html x.html --pdf x.pdf --template ./old.bomt", told);
+    EXPECT_THAT(read(QStringLiteral("x.html")), HasSubstr("ACME"));
+    write(folder + QStringLiteral("old.bomt"), QByteArray::fromStdString(read(QStringLiteral("old.bomt"))));
+    expect(0, "template export old new.bomt", told);
+    EXPECT_THAT(read(QStringLiteral("new.bomt")), HasSubstr("ACME"));
 }
 
 TEST_F(TemplateCommandTest, AFileOfALaterVersionIsReadWithAWordAndNotReplaced)
@@ -133,9 +133,6 @@ TEST_F(TemplateCommandTest, AFileOfALaterVersionIsReadWithAWordAndNotReplaced)
     EXPECT_THAT(read(QStringLiteral("x.txt")), HasSubstr("1k"));
     expect(1, "template reset", "Save it nevertheless? No.");
     EXPECT_EQ(read(folder + QStringLiteral("Default.bomt")), later.toStdString());
-    write(QStringLiteral("new.bomt"), later);
-    expect(0, "template import new.bomt", "new.bomt: has the format version 6");
-    EXPECT_THAT(done("template export new -"), HasSubstr("version=\"5\""));
 }
 
 TEST_F(TemplateCommandTest, AFolderThatCannotBeWrittenKeepsWhatIsThere)

@@ -399,6 +399,17 @@ TEST_F(TemplateStoreTest, ExportReplacesTheFileAndWritesATemplateThatHasNone)
     m_ui.fileName = exported;
     EXPECT_TRUE(m_store.exportTemplate());
     EXPECT_EQ(readFile(exported), readFile(file("Mine")));
+
+    // The old HTML file is not exported; its header is.
+    write(u"Mine.bomt"_s, readFile(writeWithHeader()).replace("version=\"5\"", "version=\"2\""));
+    m_store.reload();
+    EXPECT_TRUE(m_store.exportTemplate());
+    EXPECT_EQ(BOMTemplate({}, exported).documentHeader(), u"ACME"_s);
+    write(u"Mine.bomt"_s, "<BOMTemplate version=\"2\"/>");
+    m_store.reload();
+    EXPECT_TRUE(m_store.exportTemplate());
+    EXPECT_TRUE(readFile(exported).contains("version=\"5\""));
+    EXPECT_EQ(BOMTemplate({}, exported).toVariantMap(), BOMTemplate({}, file("Mine")).toVariantMap());
 }
 
 TEST_F(TemplateStoreTest, AShippedTemplateStaysAndSavingItMakesTheUsersOwn)
