@@ -66,6 +66,7 @@ bool differsInZeros(std::string_view first, std::string_view last)
 bool ReferenceCell::read(std::string_view cell)
 {
     m_items.clear();
+    m_cell = cell;
     m_error.clear();
     m_prefix = {};
     m_count = 0;
@@ -156,6 +157,11 @@ bool ReferenceCell::addMarked(std::string_view left, std::string_view right, std
     const auto last = numbered(right);
     const bool hasHyphen =
         (left.find('-') != std::string_view::npos || right.find('-') != std::string_view::npos);
+    constexpr std::size_t longestUnit = 2;
+    if (first && right.size() <= longestUnit && std::ranges::all_of(right, isLetter)) {
+        return fail(text, QStringLiteral("is no range: write its references one by one, a part of several "
+                                         "units once, without their letters"));
+    }
     if (!first || !last || namesSeveral(left) || (hasHyphen && first->prefix != last->prefix)) {
         return fail(text, QStringLiteral("is no range: write its references one by one"));
     }
@@ -417,7 +423,9 @@ bool ReferenceCell::failAsRange(std::string_view text)
 bool ReferenceCell::fail(std::string_view text, const QString &why)
 {
     if (m_error.isEmpty()) {
-        m_error = quotedForMessage(text) + u' ' + why;
+        // With other signs people would look for it in vain.
+        const bool isAsWritten = m_cell.find(text) != std::string_view::npos;
+        m_error = quotedForMessage(isAsWritten ? text : m_cell) + u' ' + why;
     }
     return false;
 }

@@ -115,6 +115,7 @@ private:
     [[nodiscard]] bool addName(std::string_view text);
     [[nodiscard]] bool addItem(const ReferenceItem &item);
     [[nodiscard]] bool failAsRange(std::string_view text);
+    /// `text` is what is wrong in the cell, with plain signs.
     [[nodiscard]] bool fail(std::string_view text, const QString &why);
 
     TextArena &m_arena;
@@ -123,6 +124,7 @@ private:
     ReferenceTokens m_tokens;
     std::vector<ReferenceItem> m_items;
     std::size_t m_count = 0;
+    std::string_view m_cell;
     QString m_error;
     /// Of the numbered reference before, empty where there is none.
     std::string_view m_prefix;
