@@ -13,6 +13,8 @@ namespace {
 
 constexpr int longestRun = 60 * 1000;
 
+const QString bomProgram = QStringLiteral(BOM_BINARY_DIR "/bin/bom");
+
 const char *const head = R"((kicad_sch
 	(version 20231120)
 	(generator "eeschema")
@@ -75,17 +77,29 @@ std::string ProgramTest::data(const char *folder, const std::string &file)
 
 ProgramRun ProgramTest::run(const char *arguments, const QString &output) const
 {
+    QStringList words = QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts);
+    words.replaceInStrings(QStringLiteral("\"\""), QString());
+    return run(bomProgram, words, output);
+}
+
+ProgramRun ProgramTest::runInShell(const QByteArray &command) const
+{
+    const QString script = QStringLiteral("command.sh");
+    write(script, "BOM=" + bomProgram.toUtf8() + '\n' + command + '\n');
+    return run(QStringLiteral("/bin/sh"), {script}, {});
+}
+
+ProgramRun ProgramTest::run(const QString &program, const QStringList &words, const QString &output) const
+{
     QProcess process;
     process.setProcessEnvironment(m_environment);
     process.setWorkingDirectory(m_folder.path());
     if (!output.isEmpty()) {
         process.setStandardOutputFile(output);
     }
-    QStringList words = QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts);
-    words.replaceInStrings(QStringLiteral("\"\""), QString());
-    process.start(QStringLiteral(BOM_BINARY_DIR "/bin/bom"), words);
+    process.start(program, words);
     if (!process.waitForFinished(longestRun) || process.exitStatus() != QProcess::NormalExit) {
-        ADD_FAILURE() << "bom " << arguments << ": " << qPrintable(process.errorString());
+        ADD_FAILURE() << "bom " << qPrintable(words.join(u' ')) << ": " << qPrintable(process.errorString());
         return {};
     }
     const auto text = [this](QByteArray bytes) {

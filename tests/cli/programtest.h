@@ -40,8 +40,13 @@ protected:
 
     /// Arguments are separated by blanks, "" is an empty one. Standard output may go to a file instead.
     [[nodiscard]] ProgramRun run(const char *arguments, const QString &output = {}) const;
+    /// Runs a command of the shell, in which $BOM is the program: for arguments of any bytes.
+    [[nodiscard]] ProgramRun runInShell(const QByteArray &command) const;
 
 private:
+    [[nodiscard]] ProgramRun run(const QString &program, const QStringList &words,
+                                 const QString &output) const;
+
     QTemporaryDir m_folder;
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
 };

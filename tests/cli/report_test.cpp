@@ -4,8 +4,14 @@
 
 #include <gmock/gmock.h>
 
+#include <QFile>
+
+#include <chrono>
+#include <thread>
+
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -43,6 +49,48 @@ TEST_F(Report, GoesToItsFileOrToStandardOutput)
     EXPECT_THAT(run("report list.csv").out, StartsWith(text));
     EXPECT_THAT(run("report list.csv --full-csv - --csv out").out, StartsWith(cases[1].second));
     EXPECT_EQ(read(QStringLiteral("out")), lines);
+}
+
+/// Changes a file as often as it can.
+class Rewriter final
+{
+public:
+    explicit Rewriter(const QString &file, qint64 at)
+        : m_thread([file, at](const std::stop_token &stop) {
+            QFile rewritten(file);
+            EXPECT_TRUE(rewritten.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+            for (int number = 10'000'000; !stop.stop_requested(); ++number) {
+                rewritten.seek(at);
+                rewritten.write(QByteArray::number(number));
+                std::this_thread::sleep_for(std::chrono::microseconds(100));
+            }
+        })
+    {
+    }
+
+private:
+    std::jthread m_thread;
+};
+
+TEST_F(Report, OfFilesThatAreWrittenAllTheTimeIsNotMade)
+{
+    const QByteArray heading = "Reference,Value\n";
+    QByteArray rows = "R0,10000000\n";
+    for (int number = 1; number < 2'000; ++number) {
+        rows += 'R' + QByteArray::number(number) + ",1k\n";
+    }
+    write(QStringLiteral("list.csv"), heading + rows);
+    ProgramRun result;
+    {
+        const Rewriter rewriter(path(QStringLiteral("list.csv")), heading.size() + 3);
+        // Where the other processes leave the writer no time, one of twenty readings may be whole.
+        for (int time = 0; time < 10 && result.status != 3; ++time) {
+            result = run("report list.csv --csv out.csv");
+        }
+    }
+    EXPECT_EQ(result.status, 3);
+    EXPECT_THAT(result.err, AllOf(StartsWith("bom: list.csv: "), HasSubstr("written again and again")));
+    EXPECT_EQ(result.out, "");
 }
 
 TEST_F(Report, AsSpreadsheetSaysWhyItIsNotWritten)

@@ -99,6 +99,22 @@ TEST_F(Usage, AnInputThatCannotBeReadIsNamedAndStatusThree)
     }
 }
 
+/// Its text would name another file.
+TEST_F(Usage, AnArgumentThatIsNoTextIsNamedAndStatusTwo)
+{
+    write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
+    for (const char *arguments :
+         {"report a.csv --csv a\xff", "parts '\xc3\x28.csv'", "set a.csv R1 MPN=\xed\xa0\x80"}) {
+        const ProgramRun result = runInShell(QByteArray("exec $BOM ") + arguments);
+        EXPECT_EQ(result.status, 2) << arguments;
+        EXPECT_TRUE(isOneMessage(result.err)) << result.err;
+        EXPECT_THAT(result.err, HasSubstr("is no text in UTF-8")) << arguments;
+        EXPECT_EQ(result.out, "") << arguments;
+    }
+    EXPECT_EQ(QDir(path({})).entryList(QDir::Files),
+              (QStringList{QStringLiteral("a.csv"), QStringLiteral("command.sh")}));
+}
+
 /// None of these ends when it is read, or begins.
 TEST_F(Usage, AnInputThatIsNoFileIsNamedAndNotWaitedFor)
 {
