@@ -34,9 +34,8 @@ ListedPart listed(const COMPONENT &component, const BOMPartsDatabase &database)
     part.name = fromHostText(component.name);
     part.placed = placement(component);
     part.category = database.categoryOf(part.reference);
-    for (const QByteArray &name : component.properties->names()) {
-        const auto value = component.properties->find(PROPNAME(name));
-        part.properties.append({fromHostText(name), fromHostText(value.value_or(QByteArrayView()))});
+    for (const PROPERTY &property : component.properties->all()) {
+        part.properties.append({fromHostText(property.name), fromHostText(property.value)});
     }
     return part;
 }

@@ -63,4 +63,17 @@ std::optional<std::string_view> Design::stored(const Component &component, NameI
     return component.stored(id);
 }
 
+std::optional<NameId> Design::storedName(const Component &component, std::span<const NameId> names) const
+{
+    std::optional<NameId> empty;
+    for (const NameId id : names) {
+        const auto text = stored(component, id);
+        if (text && (!text->empty() || id == m_valueName || id == m_referenceName)) {
+            return id;
+        }
+        empty = text && !empty ? id : empty;
+    }
+    return empty;
+}
+
 } // namespace designs

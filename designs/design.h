@@ -106,6 +106,12 @@ public:
     /// The value of a component's property under its stored name; knows the value and the reference too.
     [[nodiscard]] std::optional<std::string_view> stored(const Component &component, NameId id) const;
 
+    /// Under which of the names, best first, a component has what they stand for: the first that says
+    /// something, else the first that is stored at all, so that an empty property hides no other. The value
+    /// and the reference count even when they are empty. Nothing when none is stored.
+    [[nodiscard]] std::optional<NameId> storedName(const Component &component,
+                                                   std::span<const NameId> names) const;
+
 protected:
     TextArena m_arena;
     PropertyNames m_names;

@@ -40,9 +40,9 @@ std::vector<PROPERTY> LoadedDesign::Record::startingwith(const PROPPREFIX &prefi
     return m_table->startingWith(*m_component, prefix);
 }
 
-QByteArrayList LoadedDesign::Record::names() const
+std::vector<PROPERTY> LoadedDesign::Record::all() const
 {
-    return m_table->names(*m_component);
+    return m_table->all(*m_component);
 }
 
 LoadedDesign::LoadedDesign(std::unique_ptr<const designs::Design> design, DnpChoice choice)

@@ -7,8 +7,6 @@
 #include "standalone/propertytable.h"
 #include "standalone/referenceindex.h"
 
-#include <QByteArrayList>
-
 #include <memory>
 #include <optional>
 #include <span>
@@ -40,7 +38,7 @@ private:
         [[nodiscard]] const COMPONENT *publish();
         [[nodiscard]] std::optional<QByteArrayView> find(const PROPNAME &name) const override;
         [[nodiscard]] std::vector<PROPERTY> startingwith(const PROPPREFIX &prefix) const override;
-        [[nodiscard]] QByteArrayList names() const override;
+        [[nodiscard]] std::vector<PROPERTY> all() const override;
 
     private:
         COMPONENT m_published;

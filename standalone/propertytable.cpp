@@ -78,27 +78,27 @@ std::vector<PROPERTY> PropertyTable::startingWith(const designs::Component &comp
     return found;
 }
 
-QByteArrayList PropertyTable::names(const designs::Component &component) const
+std::vector<PROPERTY> PropertyTable::all(const designs::Component &component) const
 {
-    QByteArrayList names;
+    std::vector<PROPERTY> properties;
     const bool isNotFitted = component.notFitted != designs::MarkedBy::Nothing;
-    bool namesNotFitted = false;
+    bool hasNotFitted = false;
     for (const designs::Property &property : component.properties) {
-        if (contains(m_notFitted->candidates, property.name)) {
-            if (!isNotFitted || namesNotFitted) {
-                continue;
-            }
-            namesNotFitted = true;
+        const QByteArrayView name = view(m_design.names().name(property.name));
+        if (!contains(m_notFitted->candidates, property.name)) {
+            properties.push_back({name, view(property.value)});
+        } else if (isNotFitted && !hasNotFitted) {
+            properties.push_back({name, flagText});
+            hasNotFitted = true;
         }
-        names.append(bytes(m_design.names().name(property.name)));
     }
-    if (isNotFitted && !namesNotFitted) {
-        names.append(notFittedName);
+    if (isNotFitted && !hasNotFitted) {
+        properties.push_back({notFittedName, flagText});
     }
     if (component.notInBom != designs::MarkedBy::Nothing && !hasStoredSkip(component)) {
-        names.append(skipName);
+        properties.push_back({skipName, flagText});
     }
-    return names;
+    return properties;
 }
 
 QByteArrayList PropertyTable::allNames() const
@@ -199,12 +199,11 @@ const std::vector<designs::NameId> &PropertyTable::lookup(const PROPPREFIX &pref
 std::optional<QByteArrayView> PropertyTable::stored(const designs::Component &component,
                                                     const Lookup &lookup) const
 {
-    for (const designs::NameId id : lookup.candidates) {
-        // The value and the reference stand beside the properties, not among them.
-        const auto value = lookup.isPlain ? component.stored(id) : m_design.stored(component, id);
-        if (value) {
-            return view(*value);
-        }
+    // Most names stand for one property; the value and the reference stand beside the properties.
+    if (lookup.isPlain && lookup.candidates.size() == 1) {
+        const auto value = component.stored(lookup.candidates.front());
+        return value ? std::optional(view(*value)) : std::nullopt;
     }
-    return std::nullopt;
+    const auto name = m_design.storedName(component, lookup.candidates);
+    return name ? std::optional(view(*m_design.stored(component, *name))) : std::nullopt;
 }

@@ -30,9 +30,8 @@ public:
     /// The stored properties whose names begin like that, in file order. Letter case counts.
     [[nodiscard]] std::vector<PROPERTY> startingWith(const designs::Component &component,
                                                      const PROPPREFIX &prefix) const;
-    /// The names under which the component has properties: as stored, in file order, the two flags last
-    /// unless they are stored.
-    [[nodiscard]] QByteArrayList names(const designs::Component &component) const;
+    /// The properties of the component: as stored, in file order, the two flags last unless they are stored.
+    [[nodiscard]] std::vector<PROPERTY> all(const designs::Component &component) const;
     /// Every name that occurs in the design, without the reference and the value.
     [[nodiscard]] QByteArrayList allNames() const;
 

@@ -20,13 +20,11 @@ std::string storedName(const designs::Design &design, const designs::Edit &edit)
 {
     const designs::Component &component = design.components()[edit.component];
     const std::vector<designs::NameId> candidates = design.names().candidates(edit.name);
-    const auto found = std::find_if(candidates.begin(), candidates.end(), [&](designs::NameId id) {
-        return design.stored(component, id).has_value();
-    });
     if (candidates.empty()) {
         return designs::caseFolded(edit.name);
     }
-    return std::string(design.names().name(found == candidates.end() ? candidates.front() : *found));
+    return std::string(
+        design.names().name(design.storedName(component, candidates).value_or(candidates.front())));
 }
 
 /// Whether a definition of BOM-only parts would be stored in the letter case of a property that the design

@@ -201,7 +201,7 @@ private:
 
 } // namespace
 
-std::optional<std::size_t> PartList::columnOf(std::string_view name) const
+std::optional<std::size_t> PartList::columnOf(std::string_view name, std::size_t component) const
 {
     const auto of = [this](std::string_view known) -> std::optional<std::size_t> {
         const auto at = std::ranges::find(m_columns.names, known);
@@ -212,7 +212,11 @@ std::optional<std::size_t> PartList::columnOf(std::string_view name) const
     if (m_columns.quantity && equalIgnoringCase(name, m_columns.names[*m_columns.quantity])) {
         return m_columns.quantity;
     }
-    for (const NameId id : m_names.candidates(name)) {
+    std::vector<NameId> names = m_names.candidates(name);
+    if (const auto stored = storedName(m_components[component], names)) {
+        names.insert(names.begin(), *stored);
+    }
+    for (const NameId id : names) {
         if (const auto column = of(m_names.name(id))) {
             return column;
         }

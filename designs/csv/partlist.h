@@ -30,8 +30,9 @@ public:
     /// Counts the references in the file as it is now, with a reader of its own.
     [[nodiscard]] SymbolCount recount(Problem *error) const override;
 
-    /// The column that a name stands for: exactly, by alias (VALUE, PACKAGE), ignoring letter case.
-    [[nodiscard]] std::optional<std::size_t> columnOf(std::string_view name) const;
+    /// The column that a name stands for: exactly, by alias (VALUE, PACKAGE), ignoring letter case; of
+    /// several the one that says something of the component.
+    [[nodiscard]] std::optional<std::size_t> columnOf(std::string_view name, std::size_t component) const;
     /// What the cell of a component says; nothing where it has no such property.
     [[nodiscard]] std::optional<std::string_view> cellText(std::size_t component, std::size_t column) const;
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QByteArrayList>
 #include <QByteArrayView>
 
 #include <optional>
@@ -77,8 +76,8 @@ public:
     /// the netlist has one.
     [[nodiscard]] virtual std::vector<PROPERTY> startingwith(const PROPPREFIX &prefix) const = 0;
 
-    /// The names as stored, in list order.
-    [[nodiscard]] virtual QByteArrayList names() const = 0;
+    /// All properties, each under its own name, in list order.
+    [[nodiscard]] virtual std::vector<PROPERTY> all() const = 0;
 
     /// Non-zero when the component has the property.
     [[nodiscard]] int test(const char *name) const { return find(PROPNAME(name)) ? 1 : 0; }

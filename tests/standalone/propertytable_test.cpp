@@ -21,6 +21,16 @@ std::string answer(const LoadedDesign &design, const char *name)
     return value ? value->toByteArray().toStdString() : "-";
 }
 
+/// All properties as text.
+std::string listed(const LoadedDesign &design)
+{
+    QByteArrayList all;
+    for (const PROPERTY &property : design.components()[0]->properties->all()) {
+        all << property.name.toByteArray() + '=' + property.value.toByteArray();
+    }
+    return all.join(' ').toStdString();
+}
+
 /// A design of R1 with these properties and marks.
 LoadedDesign designOf(const TableDesign::Properties &stored, MarkedBy notInBom = MarkedBy::Nothing,
                       MarkedBy notFitted = MarkedBy::Nothing, DnpChoice choice = DnpChoice::Exclude)
@@ -56,6 +66,9 @@ TEST(PropertyLookUp, PrefersTheExactNameThenTheAliasThenOtherLetterCase)
         {"value as stored", {}, "Value", "10k"},
         {"reference", {}, "reference", "R1"},
         {"empty is there", {{"MPN", ""}}, "MPN", ""},
+        {"empty hides nothing", {{"MPN", ""}, {"mPn", ""}, {"Mpn", "x"}, {"mpn", "y"}}, "MPN", "x"},
+        {"empty hides no alias", {{"PACKAGE", ""}, {"Footprint", "R_0603"}}, "PACKAGE", "R_0603"},
+        {"empty hides no value", {{"VALUE", ""}}, "VALUE", "10k"},
         {"missing", {{"MPN", "x"}}, "Supplier", "-"},
         {"beyond ASCII", {{"Größe", "ä"}}, "GRÖßE", "ä"},
     };
@@ -105,7 +118,7 @@ struct FlagCase
     DnpChoice choice;
     const char *skip;
     const char *dnp;
-    const char *names;
+    const char *all;
 };
 
 TEST(FlagProperties, AnswerFromTheFlagsAndTheChoice)
@@ -113,21 +126,22 @@ TEST(FlagProperties, AnswerFromTheFlagsAndTheChoice)
     using enum MarkedBy;
     using enum DnpChoice;
     const FlagCase cases[] = {
-        {{{"A", "x"}}, Nothing, Nothing, Exclude, "-", "-", "A"},
-        {{{"A", "x"}}, Sheet, Nothing, Include, "1", "-", "A BOMSKIP"},
-        {{{"BomSkip", ""}}, Nothing, Nothing, Include, "", "-", "BomSkip"},
-        {{{"BOMSKIP", "y"}}, Symbol, Nothing, Include, "y", "-", "BOMSKIP"},
-        {{{"A", "x"}}, Nothing, Symbol, Exclude, "1", "1", "A DNP"},
-        {{{"A", "x"}}, Nothing, RuleArea, Include, "-", "1", "A DNP"},
-        {{}, Nothing, Sheet, Only, "-", "1", "DNP"},
-        {{{"A", "x"}}, Nothing, Nothing, Only, "1", "-", "A"},
+        {{{"A", "x"}}, Nothing, Nothing, Exclude, "-", "-", "A=x"},
+        {{{"A", "x"}}, Sheet, Nothing, Include, "1", "-", "A=x BOMSKIP=1"},
+        {{{"BomSkip", ""}}, Nothing, Nothing, Include, "", "-", "BomSkip="},
+        {{{"BOMSKIP", "y"}}, Symbol, Nothing, Include, "y", "-", "BOMSKIP=y"},
+        {{{"A", "x"}}, Nothing, Symbol, Exclude, "1", "1", "A=x DNP=1"},
+        {{{"A", "x"}}, Nothing, RuleArea, Include, "-", "1", "A=x DNP=1"},
+        {{}, Nothing, Sheet, Only, "-", "1", "DNP=1"},
+        {{{"A", "x"}}, Nothing, Nothing, Only, "1", "-", "A=x"},
         // That only these are wanted does not undo a mark.
-        {{}, Symbol, Sheet, Only, "1", "1", "DNP BOMSKIP"},
-        {{{"dnp", "yes"}, {"A", "x"}}, Nothing, Property, Include, "-", "1", "dnp A"},
+        {{}, Symbol, Sheet, Only, "1", "1", "DNP=1 BOMSKIP=1"},
+        {{{"dnp", "yes"}, {"A", "x"}}, Nothing, Property, Include, "-", "1", "dnp=1 A=x"},
         // The flag, not the stored text, decides; two spellings count once.
-        {{{"DNP", "0"}}, Nothing, Symbol, Include, "-", "1", "DNP"},
-        {{{"DNP", "0"}, {"A", "x"}}, Nothing, Nothing, Exclude, "-", "-", "A"},
-        {{{"DNP", ""}, {"dnp", "1"}}, Nothing, Property, Include, "-", "1", "DNP"},
+        {{{"DNP", "0"}}, Nothing, Symbol, Include, "-", "1", "DNP=1"},
+        {{{"DNP", "0"}, {"A", "x"}}, Nothing, Nothing, Exclude, "-", "-", "A=x"},
+        {{{"DNP", ""}, {"dnp", "1"}}, Nothing, Property, Include, "-", "1", "DNP=1"},
+        {{{"A", ""}, {"a", "x"}}, Nothing, Nothing, Include, "-", "-", "A= a=x"},
     };
     for (const FlagCase &c : cases) {
         const LoadedDesign design = designOf(c.stored, c.notInBom, c.notFitted, c.choice);
@@ -135,7 +149,7 @@ TEST(FlagProperties, AnswerFromTheFlagsAndTheChoice)
         EXPECT_EQ(answer(design, "BOMSKIP"), c.skip) << what;
         EXPECT_EQ(answer(design, "DNP"), c.dnp) << what;
         EXPECT_EQ(answer(design, "Dnp"), c.dnp) << what;
-        EXPECT_EQ(design.components()[0]->properties->names().join(' '), c.names) << what;
+        EXPECT_EQ(listed(design), c.all) << what;
     }
 }
 

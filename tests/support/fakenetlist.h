@@ -42,14 +42,7 @@ public:
         }
         return found;
     }
-    QByteArrayList names() const override
-    {
-        QByteArrayList all;
-        for (const auto &[name, value] : m_properties) {
-            all.append(name);
-        }
-        return all;
-    }
+    std::vector<PROPERTY> all() const override { return startingwith(PROPPREFIX({})); }
 
 private:
     FakeProperties m_properties;

@@ -70,7 +70,7 @@ std::optional<QString> unusableHeading(std::string_view name, const PartListColu
 
 std::optional<QString> EditablePartList::checkEdit(const Edit &edit) const
 {
-    const std::optional<std::size_t> column = columnOf(edit.name);
+    const std::optional<std::size_t> column = columnOf(edit.name, edit.component);
     if (column == columns().reference) {
         return QStringLiteral("the reference of a part cannot be changed");
     }

@@ -93,7 +93,7 @@ void PartListPlanner::collect(std::span<const Edit> edits)
 
 std::optional<std::size_t> PartListPlanner::columnFor(const Edit &edit)
 {
-    if (const auto column = m_list.columnOf(edit.name)) {
+    if (const auto column = m_list.columnOf(edit.name, edit.component)) {
         return column;
     }
     const std::string key = caseFolded(edit.name);

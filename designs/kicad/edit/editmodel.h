@@ -30,6 +30,10 @@ public:
 
     [[nodiscard]] const std::vector<Component> &components() const { return m_design.components(); }
     [[nodiscard]] const PropertyNames &names() const { return m_design.names(); }
+    [[nodiscard]] std::optional<NameId> storedName(std::size_t component, std::span<const NameId> names) const
+    {
+        return m_design.storedName(components()[component], names);
+    }
     [[nodiscard]] const std::string &variant() const { return m_design.variant(); }
     [[nodiscard]] const Hierarchy &hierarchy() const { return m_design.hierarchy(); }
     [[nodiscard]] const OuterMarks &outerMarks() const { return m_outer; }

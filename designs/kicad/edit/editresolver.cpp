@@ -85,12 +85,10 @@ std::optional<std::string> EditResolver::readText(std::size_t component, NameId 
 void EditResolver::findName(const std::string &name, ResolvedEdit *resolved)
 {
     const auto candidates = m_model.names().candidates(name);
-    for (const NameId id : candidates) {
-        if (auto text = readText(resolved->component, id)) {
-            resolved->name = m_model.names().name(id);
-            resolved->before = std::move(text);
-            return;
-        }
+    if (const auto stored = m_model.storedName(resolved->component, candidates)) {
+        resolved->name = m_model.names().name(*stored);
+        resolved->before = readText(resolved->component, *stored);
+        return;
     }
     if (!candidates.empty()) {
         resolved->name = m_model.names().name(candidates.front());
