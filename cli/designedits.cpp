@@ -29,10 +29,13 @@ QString quoted(const std::optional<QString> &text, const QString &otherwise)
 
 QString changeLine(const PropertyChange &change)
 {
-    QString line = printable(change.reference) + u' ' + printable(change.name) + QStringLiteral(": ") +
-                   quoted(change.before, QStringLiteral("none")) + QStringLiteral(" -> ") +
-                   quoted(change.after, QStringLiteral("removed")) + QStringLiteral(" (") +
-                   printable(change.file) + u':' + QString::number(change.line) + u')';
+    QString line =
+        printable(change.reference) + u' ' + printable(change.name) + QStringLiteral(": ") +
+        quoted(change.before, QStringLiteral("none")) + QStringLiteral(" -> ") +
+        quoted(change.after, QStringLiteral("removed")) + QStringLiteral(" (") + printable(change.file) +
+        u':' + QString::number(change.line) +
+        (change.variant.isEmpty() ? QString() : QStringLiteral(", variant ") + printable(change.variant)) +
+        u')';
     if (!change.alsoChanges.isEmpty()) {
         line += QStringLiteral(" also changes ") + printable(change.alsoChanges.join(QStringLiteral(", ")));
     }
@@ -62,6 +65,7 @@ QString summary(const QList<PropertyChange> &changes, qsizetype files, bool isDr
 DesignEdits::DesignEdits(OpenDesign &design)
     : m_design(design)
     , m_assignments(&design.database())
+    , m_newProperties(design)
 {
 }
 
@@ -139,6 +143,9 @@ void DesignEdits::addToBOMPart(const Part &part, const QString &property, const 
         return;
     }
     m_assignments.assign(part.reference(), property, value);
+    if (!after.isEmpty()) {
+        m_newProperties.add(part.reference(), property);
+    }
     const QString parent = static_cast<const BOMPart &>(part).parentReference();
     if (m_design.database().bomParts(parent).size() > 1) {
         m_isMoreRenumbered = m_isMoreRenumbered || (!m_renumbered.isEmpty() && m_renumbered != parent);
@@ -244,7 +251,7 @@ ExitStatus DesignEdits::reportProblems(const QStringList &messages, ExitStatus s
     return status;
 }
 
-ExitStatus DesignEdits::reportChanges(const WriteResult &result, bool isDryRun) const
+ExitStatus DesignEdits::reportChanges(const WriteResult &result, bool isDryRun)
 {
     QList<PropertyChange> changes = result.changes;
     if (changes.isEmpty()) {
@@ -259,8 +266,17 @@ ExitStatus DesignEdits::reportChanges(const WriteResult &result, bool isDryRun) 
     }
     for (const PropertyChange &change : std::as_const(changes)) {
         text += changeLine(change);
+        if (!change.before && change.after) {
+            m_newProperties.add(change.reference, change.name);
+            for (const QString &reference : change.alsoChanges) {
+                m_newProperties.add(reference, change.name);
+            }
+        }
     }
-    text += summary(changes, result.files.size(), isDryRun);
+    text += m_newProperties.lines() + summary(changes, result.files.size(), isDryRun);
+    for (const QString &notice : m_newProperties.notices()) {
+        console::message(notice);
+    }
     if (!m_renumbered.isEmpty()) {
         console::message(
             QStringLiteral("BOM-only parts are numbered in the order of their definitions: those of ") +

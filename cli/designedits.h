@@ -3,6 +3,7 @@
 #pragma once
 
 #include "cli/console.h"
+#include "cli/newproperties.h"
 #include "core/propertyassignments.h"
 #include "standalone/designwriter.h"
 
@@ -50,7 +51,7 @@ private:
     [[nodiscard]] WriteResult writeBatch(const WriteOptions &options);
     [[nodiscard]] ExitStatus reportProblems(const QStringList &messages, ExitStatus status,
                                             bool isUndecided = false) const;
-    [[nodiscard]] ExitStatus reportChanges(const WriteResult &result, bool isDryRun) const;
+    [[nodiscard]] ExitStatus reportChanges(const WriteResult &result, bool isDryRun);
 
     OpenDesign &m_design;
     PropertyAssignments m_assignments;
@@ -63,6 +64,7 @@ private:
     /// What is changed in BOM-only parts, for the report: the changes of the design only name the definitions
     /// of their parents.
     QStringList m_bomPartLines;
+    NewProperties m_newProperties;
     /// The first parent whose BOM-only parts may be numbered anew, and whether there are others.
     QString m_renumbered;
     bool m_isMoreRenumbered = false;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/editcolumns.h"
 
+#include "cli/newproperties.h"
 #include "cli/opendesign.h"
 #include "core/bompart.h"
 #include "core/bompartsdatabase.h"
@@ -28,16 +29,28 @@ std::optional<EditColumn> ReportCells::columnOf(const QString &heading) const
             }
         }
     }
-    const bool isFixed = heading == placedProperty() || heading == nameProperty();
-    if (!isFixed && !isProperty(heading)) {
-        return std::nullopt;
-    }
+    return isProperty(heading) ? std::optional(propertyColumn(heading)) : std::nullopt;
+}
+
+EditColumn ReportCells::propertyColumn(const QString &name) const
+{
     BOMField field;
-    field.fieldName = heading;
-    field.propertyName = heading;
+    field.fieldName = name;
+    field.propertyName = name;
     const PropertyTypes &types = m_design.database().propertyTypes();
-    return EditColumn{
-        0, heading, {field, PropertyQuery(heading, &types), types.isNumeric(heading)}, false, isFixed};
+    const bool isFixed = name == placedProperty() || name == nameProperty();
+    return EditColumn{0, name, {field, PropertyQuery(name, &types), types.isNumeric(name)}, false, isFixed};
+}
+
+QString ReportCells::refusal(const QString &heading) const
+{
+    const QStringList similar = similarProperties(m_design, heading);
+    return QStringLiteral("is neither a field of the template nor a property") +
+           (similar.isEmpty() ? QString()
+                              : QStringLiteral("; the design has ") + similar.join(QStringLiteral(", "))) +
+           (heading.isEmpty()
+                ? QString()
+                : QStringLiteral(" (--new-property \"") + heading + QStringLiteral("\" makes it one)"));
 }
 
 QString ReportCells::text(const Part &part, const EditColumn &column) const
@@ -47,15 +60,8 @@ QString ReportCells::text(const Part &part, const EditColumn &column) const
 
 bool ReportCells::isProperty(const QString &name) const
 {
-    const QStringList standard = standardPropertyNames();
-    if (standard.contains(name, Qt::CaseInsensitive) || m_design.database().propertyTypes().type(name) ||
-        !m_design.design().design().names().candidates(name.toStdString()).empty()) {
-        return true;
-    }
-    const auto parts = m_design.database().parts();
-    return std::any_of(parts.begin(), parts.end(), [&name](const Part *part) {
-        return part->isBOMPart() && static_cast<const BOMPart *>(part)->properties().contains(name.toUpper());
-    });
+    return standardPropertyNames().contains(name, Qt::CaseInsensitive) ||
+           m_design.database().propertyTypes().type(name) || hasProperty(m_design, name);
 }
 
 namespace {
@@ -88,13 +94,17 @@ Meaning meaningOf(const QString &heading, qsizetype index, const Table &table, c
 
 } // namespace
 
-std::vector<EditColumn> editColumns(const Table &table, const ReportCells &cells, QStringList *problems)
+std::vector<EditColumn> editColumns(const Table &table, const ReportCells &cells,
+                                    const QStringList &newProperties, QStringList *problems)
 {
     std::vector<EditColumn> found;
     QSet<QString> met;
     for (qsizetype index = 0; index < table.headings.size(); ++index) {
         const QString heading = table.headings.at(index).trimmed();
         auto column = cells.columnOf(heading);
+        if (!column && newProperties.contains(heading, Qt::CaseInsensitive)) {
+            column = cells.propertyColumn(heading);
+        }
         const Meaning meaning = meaningOf(heading, index, table, cells, column);
         if (index == table.referenceColumn || meaning == Meaning::Own) {
             continue;
@@ -113,8 +123,8 @@ std::vector<EditColumn> editColumns(const Table &table, const ReportCells &cells
             continue;
         }
         if (!column) {
-            problems->append(QStringLiteral("column %1 \"").arg(index + 1) + heading +
-                             QStringLiteral("\" is neither a field of the template nor a property"));
+            problems->append(QStringLiteral("column %1 \"").arg(index + 1) + heading + QStringLiteral("\" ") +
+                             cells.refusal(heading));
             continue;
         }
         const QString name = (column->isField ? QStringLiteral("f") : QStringLiteral("p")) +
@@ -127,6 +137,16 @@ std::vector<EditColumn> editColumns(const Table &table, const ReportCells &cells
         met.insert(name);
         column->index = index;
         found.push_back(*column);
+    }
+    for (const QString &name : newProperties) {
+        const bool isHeading =
+            std::any_of(table.headings.begin(), table.headings.end(), [&name](const QString &heading) {
+                return heading.trimmed().compare(name, Qt::CaseInsensitive) == 0;
+            });
+        if (!isHeading) {
+            problems->append(QStringLiteral("there is no column \"") + name +
+                             QStringLiteral("\", which --new-property names"));
+        }
     }
     return found;
 }

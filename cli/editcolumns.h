@@ -35,6 +35,10 @@ public:
     /// What a table's column under that heading holds: a field of the template by its title, else a property
     /// by its name. Nothing for an unknown one.
     [[nodiscard]] std::optional<EditColumn> columnOf(const QString &heading) const;
+    /// A column whose cells are texts of a property, which need not be one yet.
+    [[nodiscard]] EditColumn propertyColumn(const QString &name) const;
+    /// Why there is no columnOf() the heading.
+    [[nodiscard]] QString refusal(const QString &heading) const;
 
     /// The text that a report writes, or that people see of a property.
     [[nodiscard]] QString text(const Part &part, const EditColumn &column) const;
@@ -53,6 +57,8 @@ private:
 };
 
 /// The columns of a table that hold values; categories, quantities and references, as a report writes them,
-/// are left out. Headings that mean nothing, or the same as another, are added to `problems`.
+/// are left out. Headings that mean nothing, or the same as another, are added to `problems`; a heading out
+/// of `newProperties`, letter case ignored, means a property even if the design has none of that name. One of
+/// these that is no heading is a problem, too.
 [[nodiscard]] std::vector<EditColumn> editColumns(const Table &table, const ReportCells &cells,
-                                                  QStringList *problems);
+                                                  const QStringList &newProperties, QStringList *problems);

@@ -106,6 +106,12 @@ void ApplyCommand::addTo(CLI::App &program)
         ->check(CLI::Validator(isGiven, ""));
     m_app->add_flag("--accept-spreadsheet-changes", m_acceptsSpreadsheetChanges,
                     "Write also what spreadsheets make of texts by themselves: 0402 to 402, 1-2 to a date");
+    m_app
+        ->add_option("--new-property", m_newProperties,
+                     "Take the column of this heading for a property although no part has it yet")
+        ->type_name("NAME")
+        ->check(CLI::Validator(isGiven, ""))
+        ->allow_extra_args(false);
     m_arguments.addTo(*m_app);
 }
 
@@ -121,7 +127,11 @@ ExitStatus ApplyCommand::run()
     }
     DesignEdits edits(design);
     const QString path = QString::fromStdString(m_edits);
-    EditTable comparison(path, design, edits, m_acceptsSpreadsheetChanges);
+    QStringList newProperties;
+    for (const std::string &name : m_newProperties) {
+        newProperties << QString::fromStdString(name).trimmed();
+    }
+    EditTable comparison(path, design, edits, {m_acceptsSpreadsheetChanges, newProperties});
     QString error;
     const auto table = readTable(path, comparison.cells().columnHeadings(true).at(2), &error);
     if (!table) {

@@ -61,6 +61,7 @@ private:
     WriteArguments m_arguments;
     std::string m_edits;
     bool m_acceptsSpreadsheetChanges = false;
+    std::vector<std::string> m_newProperties;
 };
 
 /// bom undo: takes back what the last command wrote into a design.

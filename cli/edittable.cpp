@@ -26,14 +26,14 @@ QString plainText(const QString &cell, const EditColumn &column)
 } // namespace
 
 EditTable::EditTable(const QString &path, OpenDesign &design, DesignEdits &edits,
-                     bool acceptsSpreadsheetChanges)
+                     const EditTableOptions &options)
     : m_path(path)
     , m_design(design)
     , m_edits(edits)
     , m_cells(design)
     , m_reader([&edits](const QString &reference) { return edits.isKnown(reference); })
     , m_numbers(HostUi::current().locale())
-    , m_acceptsSpreadsheetChanges(acceptsSpreadsheetChanges)
+    , m_options(options)
 {
 }
 
@@ -50,7 +50,7 @@ void EditTable::refuse(int line, const QString &text)
 void EditTable::compare(const Table &table)
 {
     QStringList problems;
-    m_columns = editColumns(table, m_cells, &problems);
+    m_columns = editColumns(table, m_cells, m_options.newProperties, &problems);
     for (const QString &problem : std::as_const(problems)) {
         refuse(table.headingLine, problem);
     }
@@ -123,7 +123,8 @@ void EditTable::compareCell(const QString &reference, const QString &firstRefere
                     [&](const QString &text) { return isUnchanged(cell, text, column); })) {
         return;
     }
-    const QString made = m_acceptsSpreadsheetChanges ? QString() : spreadsheetChangeOf(cell, shown, column);
+    const QString made =
+        m_options.acceptsSpreadsheetChanges ? QString() : spreadsheetChangeOf(cell, shown, column);
     if (column.isFixed) {
         refuse(row.line, reference + QStringLiteral(", ") + column.heading +
                              QStringLiteral(": this column tells what cannot be changed here"));

@@ -16,13 +16,23 @@
 class DesignEdits;
 class OpenDesign;
 
+/// How a table of edits is read.
+struct EditTableOptions
+{
+    /// What spreadsheets make of texts by themselves is written, not refused.
+    bool acceptsSpreadsheetChanges = false;
+    /// Headings that mean properties which the design does not have yet.
+    QStringList newProperties;
+
+    bool operator==(const EditTableOptions &) const = default;
+};
+
 /// Finds the cells of a table that differ from what a report would hold now, and makes edits of them.
 class EditTable final
 {
 public:
-    /// All of them must outlive the object; `path` is the table's file, for messages. What spreadsheets make
-    /// of texts by themselves is refused unless `acceptsSpreadsheetChanges`.
-    EditTable(const QString &path, OpenDesign &design, DesignEdits &edits, bool acceptsSpreadsheetChanges);
+    /// Design and edits must outlive the object; `path` is the table's file, for messages.
+    EditTable(const QString &path, OpenDesign &design, DesignEdits &edits, const EditTableOptions &options);
 
     /// Adds an edit for each cell that differs. A row may name several references.
     void compare(const Table &table);
@@ -55,7 +65,7 @@ private:
     ReportCells m_cells;
     ReferenceReader m_reader;
     NumberReader m_numbers;
-    bool m_acceptsSpreadsheetChanges;
+    EditTableOptions m_options;
     qsizetype m_spreadsheetChanges = 0;
     std::vector<EditColumn> m_columns;
     /// The row in which a reference was met first.

@@ -51,6 +51,8 @@ struct Change
     int line = 0;
     /// The other components that share what is changed, as indices into Design::components().
     std::vector<std::size_t> alsoChanges;
+    /// The variant that it is made in; empty for the design as drawn.
+    std::string variant = {};
 };
 
 /// New content for a file.

@@ -51,7 +51,8 @@ PropertyChange changeOf(const designs::Design &design, std::span<const designs::
                           text(planned.after),
                           planned.file,
                           planned.line,
-                          {}};
+                          {},
+                          designs::fromUtf8(planned.variant)};
     for (const std::size_t component : planned.alsoChanges) {
         change.alsoChanges << reference(design, component);
     }

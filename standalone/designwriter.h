@@ -31,6 +31,8 @@ struct PropertyChange
     int line = 0;
     /// The other references that share what is changed.
     QStringList alsoChanges;
+    /// The variant that it is made in; empty for the design as drawn.
+    QString variant = {};
 
     bool operator==(const PropertyChange &) const = default;
 };

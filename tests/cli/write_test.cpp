@@ -298,10 +298,63 @@ TEST_F(Write, ApplyTakesNoChangesThatSpreadsheetsMakeByThemselves)
     EXPECT_THAT(done("apply list.csv edits.csv"), HasSubstr("changed 6 properties"));
 }
 
+TEST_F(Write, NewPropertiesAreToldWithThoseThatTheyMayBe)
+{
+    write(list, "Reference,Value,MPN,Part_No,MPN2\nR1,1k,a,,\nR2,1k,a,,\nR3,1k,a,,\n");
+    const std::tuple<const char *, const char *, const char *> cases[] = {
+        {"MPM", "new property MPM on 3 parts\n", "nearly the same name: MPN\n"},
+        {"MNP", "new property MNP on 3 parts\n", "nearly the same name: MPN\n"},
+        {"PART NO.", "new property PART NO. on 3 parts\n", "nearly the same name: Part_No\n"},
+        {"MPN3", "new property MPN3 on 3 parts\n", ""},
+        {"Mpn", "", ""},
+        {"DNP", "", ""},
+    };
+    for (const auto &[name, told, similar] : cases) {
+        write(edits, QByteArray("Reference,Value,") + name + "\n\"R1,R2,R3\",1k,1\n");
+        const ProgramRun result = runInShell("$BOM apply list.csv edits.csv --dry-run --new-property '" +
+                                             QByteArray(name).toLower() + "'");
+        EXPECT_EQ(result.status, 0) << name << result.err;
+        EXPECT_THAT(result.out, HasSubstr(std::string(told) + "would change 3 properties")) << name;
+        EXPECT_THAT(result.err, HasSubstr(similar));
+        EXPECT_EQ(result.err.empty(), std::string(similar).empty()) << result.err;
+    }
+    EXPECT_THAT(done("set amp.kicad_sch R1,SCR1 TOLERANCE=1%"),
+                HasSubstr("\nnew property TOLERANCE on 2 parts\n"));
+    EXPECT_THAT(done("set amp.kicad_sch R1,SCR1 TOLERANCE=2%"), Not(HasSubstr("new")));
+}
+
+TEST_F(Write, ChangesOfAVariantNameIt)
+{
+    const std::string name = copyData("kicad/variants", "fields-and-flags.kicad_sch");
+    for (const char *option : {" --dry-run", ""}) {
+        const std::string out =
+            done(("set " + name + ".kicad_sch R1 VALUE=4k7 --variant Lite" + option).c_str());
+        EXPECT_THAT(out, AllOf(HasSubstr("R1 Value: \"22k\" -> \"4k7\" ("), HasSubstr(", variant Lite)\n")));
+    }
+    EXPECT_THAT(done(("set " + name + ".kicad_sch R1 VALUE=4k7").c_str()), Not(HasSubstr("variant")));
+}
+
+TEST_F(Write, AnEmptyPropertyHidesNoOtherFromEdits)
+{
+    write(list, "Reference,Value,MPN,Mpn\nR1,1k,,a\nR2,1k,b,\nR3,1k,,\n");
+    EXPECT_THAT(done("set list.csv R1,R2,R3 MPN=c"),
+                AllOf(HasSubstr("R1 Mpn: \"a\" -> \"c\""), HasSubstr("R2 MPN: \"b\" -> \"c\""),
+                      HasSubstr("R3 MPN: \"\" -> \"c\"")));
+    (void)done("set list.csv R1 mpn=");
+    EXPECT_THAT(done("parts list.csv --json"), HasSubstr("\"MPN\":\"\",\"Mpn\":\"\""));
+    write(schematic,
+          kicadSchematic(
+              {{"R1", "1k", "(property \"MPN\" \"\" (at 0 0 0)) (property \"Mpn\" \"a\" (at 0 0 0))"}}));
+    EXPECT_THAT(done("set amp.kicad_sch R1 MPN=c"), HasSubstr("R1 Mpn: \"a\" -> \"c\""));
+    EXPECT_THAT(done("parts amp.kicad_sch --json"), HasSubstr("\"MPN\":\"\",\"Mpn\":\"c\""));
+}
+
 TEST_F(Write, ApplyRefusesWhatItDoesNotUnderstandWithItsLine)
 {
     const std::pair<const char *, const char *> cases[] = {
-        {"References,Valeu\nR1,1\n", "edits.csv:1: column 2 \"Valeu\" is neither"},
+        {"References,Valeu\nR1,1\n",
+         "edits.csv:1: column 2 \"Valeu\" is neither a field of the template nor a "
+         "property; the design has Value (--new-property \"Valeu\" makes it one)"},
         {"References,Stock Code,CODE\nR1,1,2\n", "edits.csv:2: R1, CODE: two values"},
         {"References,MPN,MPN\nR1,1,1\n", "edits.csv:1: the heading \"MPN\" stands over two columns"},
         {"References,Nut,cost,COST\nR1,1,2,3\n", "edits.csv:1: column 2 \"Nut\" is neither"},
@@ -322,6 +375,8 @@ TEST_F(Write, ApplyRefusesWhatItDoesNotUnderstandWithItsLine)
         write(edits, table);
         expectRefused("apply amp.kicad_sch edits.csv", message);
     }
+    expectRefused("apply amp.kicad_sch edits.csv --new-property MPM",
+                  "edits.csv:1: there is no column \"MPM\"");
     write(edits, "Part,Value\nR1,1\n");
     expectRefused("apply amp.kicad_sch edits.csv", "edits.csv:1: there is no reference column", 3);
 }

@@ -65,7 +65,8 @@ Change RewriteCollector::add(std::size_t number, const ResolvedEdit &edit, std::
     }
     site = site ? site : &places.front();
     rewriteOf(*site).changes.push_back(index);
-    return {number, edit.name, edit.before, edit.wanted, m_model.sheetOf(*site).path, 0, alsoChanges(edit)};
+    return {number, edit.name,         edit.before,      edit.wanted, m_model.sheetOf(*site).path,
+            0,      alsoChanges(edit), m_model.variant()};
 }
 
 bool RewriteCollector::addProperty(const ResolvedEdit &edit, const SymbolUse &place)
