@@ -146,6 +146,7 @@ bool FileOperations::syncWritten()
 {
     const std::vector<Written> all = std::exchange(m_unsynced, {});
     std::vector<qint64> sizes;
+    sizes.reserve(all.size());
     for (const Written &written : all) {
         sizes.push_back(written.size);
     }
