@@ -275,22 +275,27 @@ public:
         if (setjmp(m_away) != 0) {
             return std::nullopt;
         }
-        return tidyParseString(m_document, html);
+        m_isReading = true;
+        const int result = tidyParseString(m_document, html);
+        m_isReading = false;
+        return result;
     }
 
 private:
-    /// The library has no other way out of its reading; between here and parse() there is nothing but C.
+    /// The library has no other way out of its reading; between here and parse() there is nothing but C. What
+    /// it reports on a document that was read has an end, and parse() is over then.
     static Bool TIDY_CALL count(TidyDoc document, TidyReportLevel, uint, uint, ctmbstr)
     {
         constexpr int mostReports = 20'000;
         auto *self = static_cast<ReportLimit *>(tidyGetAppData(document));
-        if (++self->m_reports > mostReports) {
+        if (self->m_isReading && ++self->m_reports > mostReports) {
             std::longjmp(self->m_away, 1);
         }
         return yes;
     }
 
     TidyDoc m_document;
+    bool m_isReading = false;
     int m_reports = 0;
     std::jmp_buf m_away;
 };

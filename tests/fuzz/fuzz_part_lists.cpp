@@ -20,7 +20,9 @@ using designs::PartList;
 /// What a part says, by name; texts that are empty say nothing.
 using Texts = std::map<std::string, std::string>;
 
-constexpr const char *valueKey = "the value";
+/// No headings, because a list with zero bytes is refused.
+const std::string referenceKey("\0reference", 10);
+const std::string valueKey("\0value", 6);
 /// Of lists that are read a second and third time; ranges make many parts out of few bytes.
 constexpr std::size_t mostParts = 500;
 
@@ -40,7 +42,7 @@ std::vector<Texts> partsOf(const designs::Design &design)
 {
     std::vector<Texts> parts;
     for (const designs::Component &component : design.components()) {
-        Texts texts{{"the reference", std::string(component.reference)},
+        Texts texts{{referenceKey, std::string(component.reference)},
                     {valueKey, std::string(component.value)}};
         for (const designs::Property &property : component.properties) {
             texts[std::string(design.names().name(property.name))] = property.value;
