@@ -16,7 +16,6 @@
 #include <QTextTable>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -102,8 +101,7 @@ bool LongTable::layOutAll()
 
 int LongTable::pageCount() const
 {
-    const int rows = pageAt(std::max(m_places.back().bottom - 1, 0.0)) + 1;
-    return std::max(rows, m_rest.isEmpty() ? 0 : m_restPage + m_rest.pageCount());
+    return std::max(pageAbove(m_bottom) + 1, m_rest.isEmpty() ? 0 : m_restPage + m_rest.pageCount());
 }
 
 QString LongTable::document(const QString &body) const
@@ -138,7 +136,9 @@ void LongTable::layOutStart()
                          rowsText(first.firstRow, first.firstRow + first.headings + 1) %
                          QStringLiteral("</tbody></table>");
     m_layouter->layOut(m_start, document(body), m_page.height());
-    m_tablesBefore = tablesOf(m_start).size() - 1;
+    const std::vector<QTextTable *> tables = tablesOf(m_start);
+    m_tablesBefore = tables.size() - 1;
+    m_tableTop = m_start.documentLayout()->frameBoundingRect(tables.back()).top();
 }
 
 /// What surrounds the table, with two of its sections: one with a row of each shape, one with any.
@@ -234,20 +234,18 @@ bool LongTable::layOutSection(size_t section)
         return false;
     }
     for (size_t row = from.firstRow; row < from.firstRow + from.headings; ++row) {
-        m_places.push_back({m_y, m_y, m_y});
+        m_places.push_back({m_bottom, m_bottom, 0});
     }
     size_t row = from.firstRow + from.headings;
-    m_areaOffset = m_headingTop + headingsHeight(section);
+    m_areaOffset = snapped(m_headingTop + headingsHeight(section));
     if (section == 0) {
-        const QTextTable &table = *tablesOf(m_start).back();
-        const auto looks = readRowLooks(m_start, table, int(from.headings), m_device);
+        const auto looks = readRowLooks(m_start, *tablesOf(m_start).back(), int(from.headings), m_device);
         if (!looks) {
             return false;
         }
-        const double bottom = looks->front().top + looks->front().height;
+        m_bottom = snapped(looks->front().top + looks->front().height);
         // It is painted with what stands before it.
-        m_places.push_back({bottom, bottom, bottom});
-        m_y = bottom + m_spacing;
+        m_places.push_back({m_bottom, m_bottom, 0});
         ++row;
     } else if (!placeHeadings(section)) {
         return false;
@@ -269,15 +267,14 @@ bool LongTable::placeHeadings(size_t section)
     if (!cells) {
         return false;
     }
-    double title = m_y - m_spacing + m_sectionGap;
+    double title = m_bottom + m_sectionGap;
     double first = title + m_areaOffset - m_headingTop;
-    const bool hasRoom = pageAt(title) == pageAt(m_y) && pageAt(first) == pageAt(m_y);
-    if (!hasRoom || !startsOnPage(row, first, *cells)) {
-        title = pageEnd(m_y) + m_headingTop;
-        first = title + m_areaOffset - m_headingTop;
+    if (first >= nextPage() || !startsOnPage(row, first, *cells)) {
+        title = nextPage() + m_headingTop;
+        first = nextPage() + m_areaOffset;
     }
     m_headings.push_back({pageAt(title), section, title});
-    m_y = first;
+    m_bottom = first - m_spacing;
     return true;
 }
 
@@ -287,17 +284,16 @@ bool LongTable::layOutRow(size_t row, size_t section)
     if (!cells) {
         return false;
     }
-    double top = m_y;
-    if (!startsOnPage(row, top, *cells)) {
-        top = pageEnd(top) + m_areaOffset;
+    double top = m_bottom + m_spacing;
+    if (top >= nextPage() || !startsOnPage(row, top, *cells)) {
+        top = nextPage() + m_areaOffset;
         addHeadings(pageAt(top), section);
     }
-    const double bottom = placeLines(row, top, *cells, m_areaOffset);
-    for (int page = pageAt(top) + 1; page <= pageAt(bottom); ++page) {
+    m_bottom = placeLines(row, top, *cells, m_areaOffset);
+    for (int page = pageAt(top) + 1; page <= pageAbove(m_bottom); ++page) {
         addHeadings(page, section);
     }
-    m_places.push_back({top, bottom, m_areaOffset});
-    m_y = bottom + m_spacing;
+    m_places.push_back({top, m_bottom, m_areaOffset});
     return true;
 }
 
@@ -356,9 +352,9 @@ double LongTable::placeLines(size_t row, double top, RowTexts &cells, double are
             line.setPosition(QPointF(line.position().x(), y));
             y += line.height();
         }
-        bottom = std::max(bottom, std::ceil(y + cell.paddingBelow));
+        bottom = std::max(bottom, snapped(y + cell.paddingBelow));
     }
-    if (pageAt(bottom) == pageAt(top)) {
+    if (pageAbove(bottom) == pageAt(top)) {
         lowerLines(shape, bottom - top, cells);
     }
     return bottom;
@@ -375,8 +371,8 @@ void LongTable::layOutRest()
     // In the sample the rest follows the table of the second section.
     const RowLook &last = m_looks.back();
     const double sampleBottom = m_sampleBottom + last.height;
-    const double wanted = m_y - m_spacing + topFromEnd(m_sample, text) - sampleBottom;
-    m_restPage = pageAt(m_y);
+    const double wanted = m_bottom + topFromEnd(m_sample, text) - sampleBottom;
+    m_restPage = pageAbove(m_bottom);
     const double place = wanted - m_restPage * m_page.height();
     QTextFrame &spacer = insertSpacer(m_rest);
     // Heights of frames are in the device's pixels.

@@ -12,6 +12,8 @@
 #include <QSizeF>
 #include <QString>
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 #include <vector>
 
@@ -71,7 +73,13 @@ private:
     [[nodiscard]] QString document(const QString &body) const;
     [[nodiscard]] QTextDocument &headings(size_t section);
     [[nodiscard]] double headingsHeight(size_t section);
+    /// Rows stand whole pixels below the top of their table; rounding errors are far below 0.01.
+    [[nodiscard]] double snapped(double y) const { return m_tableTop + std::ceil(y - m_tableTop - 0.01); }
     [[nodiscard]] int pageAt(double y) const { return int(y / m_page.height()); }
+    /// The page of what ends there.
+    [[nodiscard]] int pageAbove(double bottom) const { return pageAt(std::max(bottom - 1, 0.0)); }
+    /// Where the page after the last row begins.
+    [[nodiscard]] double nextPage() const { return (pageAbove(m_bottom) + 1) * m_page.height(); }
     [[nodiscard]] double pageEnd(double y) const { return (pageAt(y) + 1) * m_page.height(); }
 
     [[nodiscard]] std::optional<RowTexts> texts(size_t row) const;
@@ -113,7 +121,9 @@ private:
 
     std::vector<Place> m_places;
     std::vector<Headings> m_headings;
-    double m_y = 0;
+    double m_tableTop = 0;
+    /// Of the last row that has its place.
+    double m_bottom = 0;
 
     size_t m_headingSection = size_t(-1);
     std::unique_ptr<SelfContainedDocument> m_headingDocument;

@@ -9,6 +9,7 @@
 #include "richtext/paper/pagegeometry.h"
 #include "richtext/paper/pagelayouter.h"
 #include "richtext/paper/pdfoutput.h"
+#include "richtext/paper/strip.h"
 #include "support/pdftext.h"
 #include "support/printtext.h"
 #include "support/scriptedprintui.h"
@@ -16,6 +17,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QImage>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -23,6 +25,9 @@
 #include <QTimer>
 
 #include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <functional>
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -143,16 +148,53 @@ TEST_F(Edit, PrintsPagesWithHeadingsAndFragments)
     EXPECT_FALSE(painter.isActive());
 }
 
-TEST(LongTableTest, HasThePagesThatOneDocumentHas)
+/// A page, small but with all that stands on it.
+QImage imageOf(const QSizeF &size, int page, const std::function<void(QPainter &, const QRectF &)> &draw)
+{
+    constexpr int width = 300;
+    const double scale = width / size.width();
+    QImage image(width, int(size.height() * scale), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    const QRectF part(0, page * size.height(), size.width(), size.height());
+    QPainter painter(&image);
+    painter.scale(scale, scale);
+    painter.translate(0, -part.top());
+    painter.setClipRect(part);
+    draw(painter, part);
+    return image;
+}
+
+/// How many pixels are plainly others.
+int differenceOf(const QImage &a, const QImage &b)
+{
+    int count = 0;
+    for (int at = 0; at < a.width() * a.height(); ++at) {
+        const QRgb one = reinterpret_cast<const QRgb *>(a.constBits())[at];
+        const QRgb other = reinterpret_cast<const QRgb *>(b.constBits())[at];
+        count += std::abs(qRed(one) - qRed(other)) + std::abs(qBlue(one) - qBlue(other)) > 128 ? 1 : 0;
+    }
+    return count;
+}
+
+TEST(LongTableTest, ShowsThePagesThatOneDocumentHas)
 {
     QString rows;
-    for (int i = 0; i < 400; ++i) {
-        rows += u"<tr><td><p>%1</p></td><td><p>%2</p></td></tr>"_s.arg(i).arg(u"word "_s.repeated(i % 90));
+    for (int i = 0; i < 160; ++i) {
+        const int words = i % 30;
+        rows += u"<tr><td><p class='%1'>%2</p></td><td><p class='%1'>%3</p></td></tr>"_s.arg(
+            words < 4 ? u"a"_s : u"b"_s, i % 3 == 0 ? u"<a href='x'>%1</a>"_s.arg(i) : QString::number(i),
+            u"word "_s.repeated(words));
     }
-    const QString section =
-        u"<tbody><tr><th><p>Heading</p></th><th><p>Other</p></th></tr>"_s + rows + u"</tbody>"_s;
-    const QString body = u"<p>before</p><table>"_s + section + section + u"</table><p>after</p>"_s;
-    const QString xhtml = page(sheet + u"p { margin: 0pt; }"_s, body);
+    const auto section = [&rows](const QString &title) {
+        return u"<tbody><tr><th><p>Heading</p></th><th><p>"_s + title + u"</p></th></tr>"_s + rows +
+               u"</tbody>"_s;
+    };
+    const QString body = u"<p>before</p><table>"_s + section(u"Other"_s) +
+                         section(u"Title of many words "_s.repeated(8)) + u"</table><p>after</p>"_s;
+    const QString xhtml =
+        page(sheet + u"p { margin: 0pt; } p.a { background-color: #ccddff; padding: 2pt 5pt; } "
+                     "p.b { color: #cc0000; }"_s,
+             body);
     PdfOutput output(pageLayout(StyleSheet(sheet)), {});
     const QSizeF size(output.device().width(), output.device().height());
     const auto table = LongTable::layOut(xhtml, output.device(), size);
@@ -160,6 +202,14 @@ TEST(LongTableTest, HasThePagesThatOneDocumentHas)
     QTextDocument document;
     layOutPages(document, xhtml, output.device(), size);
     EXPECT_EQ(table->pageCount(), document.pageCount());
+    for (int number = 0; number < document.pageCount(); ++number) {
+        const QImage shown =
+            imageOf(size, number, [&](QPainter &painter, const QRectF &) { table->draw(painter, number); });
+        const QImage expected = imageOf(size, number, [&](QPainter &painter, const QRectF &part) {
+            drawDocument(painter, document, part);
+        });
+        EXPECT_LT(differenceOf(shown, expected), 20) << "page " << number;
+    }
     // What only QTextDocument knows is left to it.
     EXPECT_FALSE(LongTable::layOut(page(sheet, body), output.device(), size));
 }
