@@ -5,6 +5,7 @@
 #include "designs/csv/csvfile.h"
 #include "designs/csv/edit/editablepartlist.h"
 #include "designs/csv/partlistreader.h"
+#include "designs/splices.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -107,7 +108,7 @@ void checkOtherDialect(const QByteArray &bytes, const designs::Design *design)
             "the parts do not depend on how the cells stand in the file");
 }
 
-void checkEdit(const PartList &list, const designs::Edit &edit)
+void checkEdit(const PartList &list, const QByteArray &bytes, const designs::Edit &edit)
 {
     const designs::EditPlan plan = list.planEdits(std::span(&edit, 1));
     promise(plan.problems.empty() || plan.files.empty(), "nothing is written where there is a problem");
@@ -123,7 +124,9 @@ void checkEdit(const PartList &list, const designs::Edit &edit)
     Texts &part = expected[edit.component];
     part[isValue ? valueKey : change.name] = change.after.value_or("");
     std::erase_if(part, [](const auto &text) { return text.second.empty(); });
-    const designs::ReadResult again = read(plan.files.front().after);
+    std::string after;
+    designs::makeSpliced({bytes.constData(), std::size_t(bytes.size())}, plan.files.front().splices, &after);
+    const designs::ReadResult again = read(QByteArray::fromStdString(after));
     promise(bool(again.design), "what was written is read again");
     promise(sorted(partsOf(*again.design)) == sorted(expected),
             "what was written says what was meant and all else that it said");
@@ -172,8 +175,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
                                                 "DNP",   "BOMSKIP", "value"};
     static const std::vector<std::optional<std::string>> values{
         "x", "", std::nullopt, " a, \"b\";\n\t'c' ", "Yes", "\xC3\xA4"};
-    checkEdit(list, {data[0] % list.components().size(), names[data[1] % names.size()],
-                     values[data[2] % values.size()]});
+    checkEdit(
+        list, bytes,
+        {data[0] % list.components().size(), names[data[1] % names.size()], values[data[2] % values.size()]});
     return 0;
 }
 
