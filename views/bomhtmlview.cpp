@@ -145,7 +145,7 @@ void BOMHTMLView::onLinkActivated(const QString &link)
         return;
     }
     if (link.startsWith(u'#')) {
-        textEdit()->scrollToAnchor(QUrl::fromPercentEncoding(link.mid(1).toUtf8()));
+        textEdit()->goToAnchor(QUrl::fromPercentEncoding(link.mid(1).toUtf8()));
         return;
     }
     const QUrl target = linkTarget(link, QFileInfo(designOf(*database()).file).absolutePath());

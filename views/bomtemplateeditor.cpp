@@ -15,7 +15,6 @@
 
 #include <QPushButton>
 #include <QTabBar>
-#include <QTextFrame>
 
 namespace {
 
@@ -27,25 +26,6 @@ const QString footerClass = QStringLiteral("DocFooter");
 QString paragraphRule(const QString &className)
 {
     return QStringLiteral("p.") + className;
-}
-
-/// The document shows them; they are none of the text, and no step for undo.
-void showPaperMargins(TextEdit &edit, const QMarginsF &points)
-{
-    TextDocument &document = *edit.document();
-    QTextFrameFormat format = document.rootFrame()->frameFormat();
-    const QMarginsF pixels = points * pixelsPerPoint;
-    if (qFuzzyCompare(1 + format.leftMargin(), 1 + pixels.left()) &&
-        qFuzzyCompare(1 + format.rightMargin(), 1 + pixels.right())) {
-        return;
-    }
-    const bool isModified = document.isModified();
-    document.setUndoRedoEnabled(false);
-    format.setLeftMargin(pixels.left());
-    format.setRightMargin(pixels.right());
-    document.rootFrame()->setFrameFormat(format);
-    document.setUndoRedoEnabled(true);
-    document.setModified(isModified);
 }
 
 } // namespace
@@ -90,13 +70,7 @@ bool BOMTemplateEditor::run()
     m_css = StyleSheet(m_templateCss);
     load(*m_ui->headerTextEdit, m_header, headerClass);
     load(*m_ui->footerTextEdit, m_footer, footerClass);
-    const double paper = pageLayout(m_css).fullRect(QPageLayout::Point).width();
-    for (TextEditHRuler *ruler : {m_ui->headerHRuler, m_ui->footerHRuler}) {
-        ruler->setPaperWidth(paper);
-    }
-    for (TextEdit *edit : {m_ui->headerTextEdit, m_ui->footerTextEdit}) {
-        edit->setLineWrapColumnOrWidth(qRound(paper * pixelsPerPoint));
-    }
+    showPaper();
     m_ui->tabWidget->setCurrentWidget(m_ui->headerTab);
     updateCurrentEdit();
     m_ui->headerTextEdit->setFocus();
@@ -105,9 +79,11 @@ bool BOMTemplateEditor::run()
 
 QString BOMTemplateEditor::shownCss(const QString &className) const
 {
-    // Paragraphs that bring no class have the look of those that people write here.
+    // Paragraphs that bring no class have the look of those that people write here. The editor has the
+    // margins beside the text, see showPaper().
     return styleElementText(m_templateCss + css::scan(m_templateCss).closer + QStringLiteral("\np {") +
-                            m_css.body(paragraphRule(className)) + QStringLiteral("}\n"));
+                            m_css.body(paragraphRule(className)) +
+                            QStringLiteral("}\nbody { margin-left: 0pt; margin-right: 0pt; }\n"));
 }
 
 void BOMTemplateEditor::load(TextEdit &edit, const QString &fragment, const QString &className) const
@@ -167,8 +143,18 @@ TextEdit *BOMTemplateEditor::currentEdit() const
 void BOMTemplateEditor::updateCurrentEdit()
 {
     m_ui->toolBars->setTextEdit(currentEdit());
-    if (currentEdit()->isVisible()) {
-        showPaperMargins(*currentEdit(), pageMargins(m_css));
+}
+
+void BOMTemplateEditor::showPaper()
+{
+    const double width = pageLayout(m_css).fullRect(QPageLayout::Point).width();
+    for (TextEditHRuler *ruler : {m_ui->headerHRuler, m_ui->footerHRuler}) {
+        ruler->setPaperWidth(width);
+    }
+    const QMarginsF margins = pageMargins(m_css) * pixelsPerPoint;
+    for (TextEdit *edit : {m_ui->headerTextEdit, m_ui->footerTextEdit}) {
+        edit->setPaperMargins(margins.left(), margins.right());
+        edit->setLineWrapColumnOrWidth(qRound(width * pixelsPerPoint - margins.left() - margins.right()));
     }
 }
 
@@ -181,6 +167,6 @@ void BOMTemplateEditor::movePaperMargins(double left, double right)
     margins.setRight(right);
     if (layout.setMargins(margins)) {
         setPageLayout(m_css, layout);
-        updateCurrentEdit();
+        showPaper();
     }
 }

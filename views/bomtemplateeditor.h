@@ -50,6 +50,7 @@ private:
     [[nodiscard]] static QString textOf(const TextEdit &edit, const QString &source);
     [[nodiscard]] QString shownCss(const QString &className) const;
     [[nodiscard]] TextEdit *currentEdit() const;
+    void showPaper();
     void movePaperMargins(double left, double right);
 
     std::unique_ptr<Ui::BOMTemplateEditor> m_ui;

@@ -3,6 +3,7 @@
 #include "richtext/editor/textdocument.h"
 
 #include "richtext/css/stylesheet.h"
+#include "richtext/editor/growingtable.h"
 #include "richtext/paper/pagegeometry.h"
 #include "richtext/xhtml/qthtmlwriter.h"
 #include "richtext/xhtml/qtstylesheet.h"
@@ -10,10 +11,14 @@
 #include "richtext/xhtml/xhtmlwriter.h"
 #include "richtext/xhtml/xmltext.h"
 
+#include <QCursor>
 #include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextFrame>
 #include <QTextFrameFormat>
+#include <QTextLayout>
 
 namespace {
 
@@ -22,6 +27,8 @@ constexpr double pointsPerPixel = 0.75;
 // In ms.
 constexpr int noticeableEffort = 300;
 constexpr int pauseBetweenChanges = 250;
+/// While QTextDocument lays out what is there.
+constexpr int pauseForLayout = 20;
 
 /// QTextDocument leaves the margins of the body to its root frame.
 void applyBodyMargins(QTextDocument &document, const StyleSheet &css)
@@ -44,6 +51,8 @@ TextDocument::TextDocument(QObject *parent)
     m_pause.setSingleShot(true);
     m_pause.setInterval(pauseBetweenChanges);
     connect(&m_pause, &QTimer::timeout, this, &TextDocument::makeContent);
+    m_idle.setSingleShot(true);
+    connect(&m_idle, &QTimer::timeout, this, &TextDocument::grow);
 }
 
 TextDocument::~TextDocument() = default;
@@ -70,6 +79,7 @@ void TextDocument::suspend()
 {
     m_isShown = false;
     m_pause.stop();
+    m_idle.stop();
 }
 
 void TextDocument::setTitle(const QString &title)
@@ -152,12 +162,7 @@ void TextDocument::makeContent()
     const StyleSheet css(m_shownCss);
     const bool keepsUndo = isUndoRedoEnabled();
     setUndoRedoEnabled(false);
-    // In one go, so that a document that is shown is laid out once.
-    QTextCursor cursor(this);
-    cursor.beginEditBlock();
-    setQtHtml(*this, toQtHtml(m_source, css, Medium::Window, m_highlighted));
-    applyBodyMargins(*this, css);
-    cursor.endEditBlock();
+    fill(css);
     setUndoRedoEnabled(keepsUndo);
     if (!m_title.isEmpty()) {
         setMetaInformation(DocumentTitle, m_title);
@@ -165,4 +170,78 @@ void TextDocument::makeContent()
     setModified(false);
     Q_EMIT contentMade();
     m_effort = effort.elapsed();
+}
+
+void TextDocument::fill(const StyleSheet &css)
+{
+    m_idle.stop();
+    m_growing.reset();
+    if (m_grows && startGrowing(css)) {
+        return;
+    }
+    // In one go, so that a document that is shown is laid out once.
+    QTextCursor cursor(this);
+    cursor.beginEditBlock();
+    setQtHtml(*this, toQtHtml(m_source, css, Medium::Window, m_highlighted));
+    applyBodyMargins(*this, css);
+    cursor.endEditBlock();
+}
+
+bool TextDocument::startGrowing(const StyleSheet &css)
+{
+    setLayoutEnabled(false);
+    m_growing = GrowingTable::begin(*this, m_source, css, m_highlighted);
+    if (m_growing) {
+        applyBodyMargins(*this, css);
+        m_growing->alignColumns(textWidth());
+    }
+    setLayoutEnabled(true);
+    if (m_growing) {
+        setPageSize(pageSize());
+        m_idle.start(0);
+    }
+    return m_growing != nullptr;
+}
+
+bool TextDocument::isComplete() const
+{
+    return !m_growing || m_growing->isComplete();
+}
+
+void TextDocument::complete(double height)
+{
+    if (isComplete() || !m_isShown) {
+        return;
+    }
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    if (height == HUGE_VAL) {
+        m_growing->appendAll();
+    }
+    while (!isComplete() && size().height() < height) {
+        m_growing->append();
+    }
+    setModified(false);
+    QGuiApplication::restoreOverrideCursor();
+}
+
+/// One piece. QTextDocument may still be about to lay out what is there, after another width; a piece more
+/// would make it do so at once.
+void TextDocument::grow()
+{
+    const bool isLaidOut = lastBlock().layout()->lineCount() > 0;
+    if (isLaidOut) {
+        m_growing->append();
+        setModified(false);
+    }
+    if (!isComplete()) {
+        m_idle.start(isLaidOut ? 0 : pauseForLayout);
+    }
+}
+
+void TextDocument::alignColumns(double width)
+{
+    if (m_growing) {
+        m_growing->alignColumns(width);
+        setModified(false);
+    }
 }

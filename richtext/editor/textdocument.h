@@ -7,6 +7,12 @@
 #include <QString>
 #include <QTimer>
 
+#include <cmath>
+#include <memory>
+
+class GrowingTable;
+class StyleSheet;
+
 /// A rich-text document that remembers the XHTML text and the style sheet it was made from. The content is
 /// made when it is first shown; before that the document is empty.
 class TextDocument : public SelfContainedDocument
@@ -22,6 +28,19 @@ public:
     /// Makes the content from the source, if that was not done yet.
     void show();
     [[nodiscard]] bool isShown() const { return m_isShown; }
+
+    /// Whether show() makes the first rows of a long table only, and the others follow whenever there is
+    /// nothing else to do. For documents that are not edited.
+    void setGrows(bool grows) { m_grows = grows; }
+    /// Whether nothing is to follow.
+    [[nodiscard]] bool isComplete() const;
+    /// Whether a table stands there in pieces, see GrowingTable.
+    [[nodiscard]] bool isGrown() const { return m_growing != nullptr; }
+    /// Makes what is to follow, at least until the document is that high.
+    void complete(double height = HUGE_VAL);
+    /// Tells the width that the document is about to get, so that all rows of a table that grows have common
+    /// columns.
+    void alignColumns(double width);
     /// Lets what is shown stay as it is, whatever changes, until show().
     void suspend();
 
@@ -56,6 +75,9 @@ Q_SIGNALS:
 private:
     void changeLook();
     void makeContent();
+    void fill(const StyleSheet &css);
+    [[nodiscard]] bool startGrowing(const StyleSheet &css);
+    void grow();
 
     QString m_source;
     QString m_css;
@@ -64,6 +86,11 @@ private:
     QString m_title;
     QString m_paragraphClass;
     bool m_isShown = true;
+    bool m_grows = false;
+    /// Stays when it is complete, for the columns; null for content that was made in one go.
+    std::unique_ptr<GrowingTable> m_growing;
+    /// Runs out when there is nothing else to do.
+    QTimer m_idle;
     QTimer m_pause;
     /// What making the content took, in ms.
     qint64 m_effort = 0;

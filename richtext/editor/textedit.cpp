@@ -5,6 +5,7 @@
 #include "host/framework/hostui.h"
 #include "host/framework/reportfile.h"
 #include "richtext/css/stylesheet.h"
+#include "richtext/editor/grownselection.h"
 #include "richtext/editor/textcommands.h"
 #include "richtext/paper/pagegeometry.h"
 #include "richtext/paper/pdfoutput.h"
@@ -36,6 +37,18 @@ QPalette paperPalette(QPalette palette)
     return palette;
 }
 
+bool hasAnchor(const QTextDocument &document, const QString &name)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto at = block.begin(); !at.atEnd(); ++at) {
+            if (at.fragment().charFormat().anchorNames().contains(name)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 TextEdit::TextEdit(QWidget *parent)
@@ -44,13 +57,13 @@ TextEdit::TextEdit(QWidget *parent)
 {
     setDocument(m_document);
     setPalette(paperPalette(palette()));
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
     setAccessibleName(tr("Document"));
     connect(m_document, &TextDocument::aboutToMakeContent, this,
             [this] { m_place = verticalScrollBar()->value(); });
-    connect(m_document, &TextDocument::contentMade, this, [this] {
-        moveCursor(QTextCursor::Start);
-        verticalScrollBar()->setValue(m_place);
-    });
+    connect(m_document, &TextDocument::contentMade, this, &TextEdit::showPlace);
+    connect(this, &QTextEdit::selectionChanged, this, &TextEdit::completeSelection);
 }
 
 TextEdit::~TextEdit() = default;
@@ -58,15 +71,58 @@ TextEdit::~TextEdit() = default;
 void TextEdit::loadDocument(const QString &xhtml)
 {
     m_document->setSource(xhtml);
+    m_document->setGrows(isReadOnly());
     if (isVisible()) {
         m_document->show();
     }
+}
+
+void TextEdit::showPlace()
+{
+    moveCursor(QTextCursor::Start);
+    if (!m_document->isComplete()) {
+        // Rows that follow are not to be selected because all was.
+        QTextCursor cursor = textCursor();
+        cursor.setKeepPositionOnInsert(true);
+        setTextCursor(cursor);
+        if (m_place > verticalScrollBar()->maximum()) {
+            const int height = viewport()->height();
+            m_document->complete(m_place + height);
+            // It hears of the new height later.
+            verticalScrollBar()->setMaximum(std::max(0, int(m_document->size().height()) - height));
+        }
+    }
+    verticalScrollBar()->setValue(m_place);
+}
+
+void TextEdit::completeSelection()
+{
+    const QTextCursor cursor = textCursor();
+    const int end = m_document->characterCount() - 1;
+    if (!m_document->isComplete() && cursor.selectionStart() == 0 && cursor.selectionEnd() == end) {
+        m_document->complete();
+        selectAll();
+    }
+}
+
+void TextEdit::setPaperMargins(double left, double right)
+{
+    m_paperMargins = QMarginsF(left, 0, right, 0);
+    setViewportMargins(m_paperMargins.toMargins());
 }
 
 void TextEdit::goToTop()
 {
     verticalScrollBar()->setValue(0);
     horizontalScrollBar()->setValue(0);
+}
+
+void TextEdit::goToAnchor(const QString &name)
+{
+    if (!hasAnchor(*m_document, name)) {
+        m_document->complete();
+    }
+    scrollToAnchor(name);
 }
 
 void TextEdit::setPageFragments(const QString &header, const QString &footer)
@@ -141,6 +197,27 @@ QString TextEdit::finishPdf()
         ui.openUrl(QUrl::fromLocalFile(QFileInfo(m_pdfPath).absoluteFilePath()));
     }
     return m_pdfPath;
+}
+
+QMimeData *TextEdit::createMimeDataFromSelection() const
+{
+    return m_document->isGrown() ? new GrownSelection(textCursor().selection())
+                                 : QTextEdit::createMimeDataFromSelection();
+}
+
+void TextEdit::resizeEvent(QResizeEvent *event)
+{
+    m_document->alignColumns(viewport()->width());
+    QTextEdit::resizeEvent(event);
+}
+
+void TextEdit::changeEvent(QEvent *event)
+{
+    QTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange && m_document->isGrown()) {
+        m_document->alignColumns(m_document->textWidth());
+        m_document->setPageSize(m_document->pageSize());
+    }
 }
 
 void TextEdit::showEvent(QShowEvent *event)

@@ -5,6 +5,7 @@
 #include "richtext/editor/textdocument.h"
 #include "richtext/paper/pagepainter.h"
 
+#include <QMarginsF>
 #include <QPageRanges>
 #include <QTextEdit>
 
@@ -23,11 +24,19 @@ public:
     ~TextEdit() override;
 
     /// Takes an XHTML document. It is laid out when the widget is, or becomes, visible. What was shown before
-    /// is gone; the place that the view was scrolled to stays.
+    /// is gone; the place that the view was scrolled to stays. Of a long table in a document that cannot be
+    /// edited the first rows are shown at once, the others follow by and by; all that is done with the
+    /// document is done with the whole.
     void loadDocument(const QString &xhtml);
+
+    /// White beside the lines, in pixels, that is none of the document: moving it is no step for undo.
+    void setPaperMargins(double left, double right);
+    [[nodiscard]] QMarginsF paperMargins() const { return m_paperMargins; }
 
     /// Scrolls back, for a document that is not the old one made anew.
     void goToTop();
+    /// Scrolls to the anchor of that name, if there is one.
+    void goToAnchor(const QString &name);
 
     /// The document shown, never null; owned by the widget.
     [[nodiscard]] TextDocument *document() const { return m_document; }
@@ -58,13 +67,19 @@ Q_SIGNALS:
     void previewPainted(QPainter *painter);
 
 protected:
+    [[nodiscard]] QMimeData *createMimeDataFromSelection() const override;
     void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void showPlace();
+    /// Selects the whole document when all of it that is there yet is selected.
+    void completeSelection();
     /// What Return does: no look is lost, but a heading and a list end.
     void beginParagraph();
     [[nodiscard]] PagedText pagedText() const;
@@ -73,6 +88,7 @@ private:
     TextDocument *m_document = nullptr;
     /// Where the view was scrolled to before the content changed.
     int m_place = 0;
+    QMarginsF m_paperMargins;
     QString m_pageHeader;
     QString m_pageFooter;
     QString m_pressedLink;

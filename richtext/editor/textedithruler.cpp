@@ -10,7 +10,6 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
-#include <QTextFrame>
 
 #include <algorithm>
 #include <array>
@@ -25,11 +24,6 @@ constexpr double reach = 5;
 constexpr double narrowestText = 20;
 /// Marks stop at whole millimetres.
 constexpr double snap = 96.0 / 25.4;
-
-QTextFrameFormat paperFormat(const TextEdit &edit)
-{
-    return edit.document()->rootFrame()->frameFormat();
-}
 
 } // namespace
 
@@ -91,14 +85,14 @@ QTextBlockFormat TextEditHRuler::format() const
 double TextEditHRuler::originX() const
 {
     const int viewport = mapFromGlobal(m_edit->viewport()->mapToGlobal(QPoint(0, 0))).x();
-    return viewport - m_edit->horizontalScrollBar()->value() + paperFormat(*m_edit).leftMargin();
+    return viewport - m_edit->horizontalScrollBar()->value();
 }
 
 double TextEditHRuler::linesWidth() const
 {
-    const double paper = m_paperWidth > 0 ? m_paperWidth * pixelsPerPoint : m_edit->viewport()->width();
-    const QTextFrameFormat format = paperFormat(*m_edit);
-    return paper - format.leftMargin() - format.rightMargin();
+    const QMarginsF margins = m_edit->paperMargins();
+    return m_paperWidth > 0 ? m_paperWidth * pixelsPerPoint - margins.left() - margins.right()
+                            : m_edit->viewport()->width();
 }
 
 double TextEditHRuler::place(Mark mark) const
@@ -195,12 +189,12 @@ void TextEditHRuler::paintEvent(QPaintEvent *)
     if (m_edit == nullptr) {
         return;
     }
-    const QTextFrameFormat paper = paperFormat(*m_edit);
+    const QMarginsF paper = m_edit->paperMargins();
     RulerContent content;
     content.origin = originX();
     content.linesWidth = linesWidth();
-    content.paperLeftMargin = paper.leftMargin();
-    content.paperRightMargin = paper.rightMargin();
+    content.paperLeftMargin = paper.left();
+    content.paperRightMargin = paper.right();
     content.paperLeft = shownPlace(Mark::PaperLeft);
     content.paperRight = shownPlace(Mark::PaperRight);
     content.firstLine = shownPlace(Mark::FirstLine);
@@ -224,18 +218,17 @@ void TextEditHRuler::mouseMoveEvent(QMouseEvent *event)
         return;
     }
     const double at = snapped(event->position().x() - originX());
-    const QTextFrameFormat paper = paperFormat(*m_edit);
+    const QMarginsF paper = m_edit->paperMargins();
     switch (m_drag->mark) {
     case Mark::Right:
         m_drag->place =
             std::clamp(at, std::min(place(Mark::Left) + narrowestText, linesWidth()), linesWidth());
         break;
     case Mark::PaperLeft:
-        m_drag->place = std::clamp(at, -paper.leftMargin(), std::max(0.0, linesWidth() - narrowestText));
+        m_drag->place = std::clamp(at, -paper.left(), std::max(0.0, linesWidth() - narrowestText));
         break;
     case Mark::PaperRight:
-        m_drag->place =
-            std::clamp(at, std::min(narrowestText, linesWidth()), linesWidth() + paper.rightMargin());
+        m_drag->place = std::clamp(at, std::min(narrowestText, linesWidth()), linesWidth() + paper.right());
         break;
     default:
         m_drag->place = std::clamp(at, 0.0, std::max(0.0, place(Mark::Right) - narrowestText));
@@ -270,10 +263,10 @@ void TextEditHRuler::apply(const Drag &drag)
 
 void TextEditHRuler::applyToPaper(const Drag &drag)
 {
-    const QTextFrameFormat paper = paperFormat(*m_edit);
+    const QMarginsF paper = m_edit->paperMargins();
     const bool isLeft = drag.mark == Mark::PaperLeft;
-    const double left = paper.leftMargin() + (isLeft ? drag.place : 0);
-    const double right = paper.rightMargin() + (isLeft ? 0 : linesWidth() - drag.place);
+    const double left = paper.left() + (isLeft ? drag.place : 0);
+    const double right = paper.right() + (isLeft ? 0 : linesWidth() - drag.place);
     Q_EMIT paperMarginsChanged(left / pixelsPerPoint, right / pixelsPerPoint);
 }
 

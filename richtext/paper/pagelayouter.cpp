@@ -31,21 +31,6 @@ QRectF cellRect(const QTextDocument &document, const QTextTableCell &cell)
     return document.documentLayout()->blockBoundingRect(cell.firstCursorPosition().block());
 }
 
-/// The row of a table whose cells span one column each, or -1.
-int plainRow(const QTextTable &table)
-{
-    for (int row = 0; row < table.rows(); ++row) {
-        bool isPlain = true;
-        for (int column = 0; isPlain && column < table.columns(); ++column) {
-            isPlain = table.cellAt(row, column).columnSpan() == 1;
-        }
-        if (isPlain) {
-            return row;
-        }
-    }
-    return -1;
-}
-
 /// The widths of columns. Qt tells only where the texts of cells stand. Between two of them lie two paddings
 /// and a gap; a table has one gap more than columns, which is what its width has left.
 std::vector<double> measuredWidths(const std::vector<QRectF> &texts, double tableWidth)
@@ -236,6 +221,20 @@ std::vector<QTextTable *> tablesOf(const QTextDocument &document)
         }
     }
     return tables;
+}
+
+int plainRow(const QTextTable &table)
+{
+    for (int row = 0; row < table.rows(); ++row) {
+        bool isPlain = true;
+        for (int column = 0; isPlain && column < table.columns(); ++column) {
+            isPlain = table.cellAt(row, column).columnSpan() == 1;
+        }
+        if (isPlain) {
+            return row;
+        }
+    }
+    return -1;
 }
 
 QString encodedAddress(const QString &address)

@@ -45,6 +45,9 @@ void layOutPages(QTextDocument &document, const QString &xhtml, QPaintDevice &de
 /// The tables of a document that stand in no other.
 [[nodiscard]] std::vector<QTextTable *> tablesOf(const QTextDocument &document);
 
+/// The first row of a table whose cells span one column each, or -1.
+[[nodiscard]] int plainRow(const QTextTable &table);
+
 /// An address for the PDF engine, which writes addresses as they stand, between brackets: a bracket in one
 /// would end it.
 [[nodiscard]] QString encodedAddress(const QString &address);

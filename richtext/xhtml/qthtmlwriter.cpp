@@ -332,6 +332,15 @@ void dropRelativeSizes(const QTextBlock &block)
     }
 }
 
+void dropRelativeSizesFrom(QTextBlock block)
+{
+    for (; block.isValid(); block = block.next()) {
+        if (block.blockFormat().headingLevel() > 0) {
+            dropRelativeSizes(block);
+        }
+    }
+}
+
 /// Previews draw soft hyphens everywhere; the space without width that follows is enough to break a line.
 QString breakableBody(const XhtmlParts &parts)
 {
@@ -349,18 +358,26 @@ QString toQtHtml(const QString &xhtml, const StyleSheet &css, Medium medium, con
                      BodyWriter(body, style, medium).write());
 }
 
-QString toQtHtml(const QString &xhtml, const QtStyleSheet &style, Medium medium)
+QString toQtHtml(const QString &xhtml, const QtStyleSheet &style, Medium medium, const QString &highlighted)
 {
     const XhtmlParts parts = splitXhtml(xhtml);
-    return joinXhtml(parts, style.text(), BodyWriter(breakableBody(parts), style, medium).write());
+    return joinXhtml(parts, style.text() + highlightRule(highlighted),
+                     BodyWriter(breakableBody(parts), style, medium).write());
 }
 
 void setQtHtml(QTextDocument &document, const QString &html)
 {
     document.setHtml(html);
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        if (block.blockFormat().headingLevel() > 0) {
-            dropRelativeSizes(block);
-        }
-    }
+    dropRelativeSizesFrom(document.begin());
+}
+
+void appendQtHtml(QTextDocument &document, const QString &html)
+{
+    QTextCursor cursor(&document);
+    cursor.movePosition(QTextCursor::End);
+    const int place = cursor.position();
+    cursor.beginEditBlock();
+    cursor.insertHtml(html);
+    dropRelativeSizesFrom(document.findBlock(place));
+    cursor.endEditBlock();
 }

@@ -26,8 +26,12 @@ enum class Medium
                                const QString &highlighted = {});
 
 /// The same in a look that was translated before, for documents that are made again and again.
-[[nodiscard]] QString toQtHtml(const QString &xhtml, const QtStyleSheet &style, Medium medium);
+[[nodiscard]] QString toQtHtml(const QString &xhtml, const QtStyleSheet &style, Medium medium,
+                               const QString &highlighted = {});
 
 /// Fills a document with what toQtHtml() made. The font sizes that the style sheet gives headings count; with
 /// QTextDocument::setHtml() alone those that headings have without a style sheet would win.
 void setQtHtml(QTextDocument &document, const QString &html);
+
+/// Puts the same behind the content of a document, as one step.
+void appendQtHtml(QTextDocument &document, const QString &html);

@@ -16,8 +16,10 @@
 #include "support/scriptedui.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDialog>
 #include <QImage>
+#include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -46,9 +48,42 @@ QString longTable()
            u"</tbody></table>"_s;
 }
 
+/// With links in late rows and text behind the table.
+QString reportOf(int rows, const QString &word = u"part"_s)
+{
+    QString body;
+    for (int i = 0; i < rows; ++i) {
+        body +=
+            u"<tr><td><p>%1%2</p></td><td><p><a href='%2.pdf'>%3</a></p></td></tr>"_s.arg(word).arg(i).arg(
+                u"x "_s.repeated(i % 40));
+    }
+    return page(
+        sheet, u"<h1>Title</h1><table><tbody><tr><th><p>Heading</p></th><th><p>Other</p></th></tr>"_s + body +
+                   u"</tbody><tbody><tr><td><p>Totals</p></td></tr></tbody></table>"
+                   "<p><a name='end'>the end</a></p>"_s);
+}
+
 class Edit : public testing::Test
 {
 protected:
+    /// As reports are shown.
+    void showReport(const QString &xhtml)
+    {
+        edit.setReadOnly(true);
+        edit.setUndoRedoEnabled(false);
+        edit.resize(400, 300);
+        edit.show();
+        edit.loadDocument(xhtml);
+    }
+    QString copied(bool isWhole = true)
+    {
+        if (isWhole) {
+            edit.selectAll();
+        }
+        edit.copy();
+        return QApplication::clipboard()->text();
+    }
+
     ScriptedUi ui;
     ScriptedPrintUi printUi;
     QTemporaryDir folder;
@@ -106,6 +141,57 @@ TEST_F(Edit, OpensAtTheTopAndKeepsItsPlaceWhenTheDocumentIsMadeAnew)
     EXPECT_EQ(edit.verticalScrollBar()->value(), 150);
     edit.loadDocument(page(sheet, longTable()));
     EXPECT_EQ(edit.verticalScrollBar()->value(), 150);
+}
+
+TEST_F(Edit, ShowsTheFirstRowsOfALongTableAtOnceAndThenAllAsOneTable)
+{
+    const QString xhtml = reportOf(3000);
+    edit.resize(400, 300);
+    edit.show();
+    edit.loadDocument(xhtml);
+    const QString text = copied();
+    const QString markup = QApplication::clipboard()->mimeData()->html();
+    const double height = edit.document()->size().height();
+    ASSERT_TRUE(edit.document()->isComplete());
+
+    showReport(xhtml);
+    EXPECT_FALSE(edit.document()->isComplete());
+    EXPECT_TRUE(text.startsWith(edit.toPlainText().left(1000)));
+    EXPECT_LT(edit.document()->blockCount(), 1000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return edit.document()->isComplete(); }, 60000));
+    EXPECT_EQ(edit.document()->size().height(), height);
+    EXPECT_EQ(copied(), text);
+    EXPECT_EQ(QApplication::clipboard()->mimeData()->html().count(u"<table"_s), markup.count(u"<table"_s));
+    EXPECT_FALSE(edit.document()->isModified());
+    edit.resize(300, 300);
+    const double narrow = edit.document()->size().height();
+    edit.setReadOnly(false);
+    edit.loadDocument(xhtml);
+    EXPECT_EQ(edit.document()->size().height(), narrow);
+}
+
+TEST_F(Edit, DoesWithTheWholeDocumentWhatIsAskedForWhileItGrows)
+{
+    const QString xhtml = reportOf(3000);
+    showReport(xhtml);
+    EXPECT_EQ(edit.document()->getHtml(), xhtml);
+    const QString all = copied();
+    EXPECT_TRUE(all.contains(u"part2999"_s) && all.trimmed().endsWith(u"the end"_s)) << all.size();
+    edit.loadDocument(xhtml);
+    edit.goToAnchor(u"end"_s);
+    EXPECT_EQ(edit.verticalScrollBar()->value(), edit.verticalScrollBar()->maximum());
+    const int bottom = edit.verticalScrollBar()->value();
+    EXPECT_GT(bottom, 3000);
+    edit.loadDocument(xhtml);
+    EXPECT_EQ(edit.verticalScrollBar()->value(), bottom);
+    edit.goToTop();
+    edit.loadDocument(xhtml);
+    EXPECT_FALSE(edit.document()->isComplete());
+    // Another takes its place.
+    edit.loadDocument(reportOf(1500, u"other"_s));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return edit.document()->isComplete(); }, 60000));
+    EXPECT_FALSE(edit.toPlainText().contains(u"part"_s));
+    EXPECT_EQ(edit.toPlainText().count(u"other"_s), 1500);
 }
 
 TEST_F(Edit, PrintsPagesWithHeadingsAndFragments)

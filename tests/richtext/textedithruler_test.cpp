@@ -11,7 +11,6 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
-#include <QTextFrame>
 #include <QVBoxLayout>
 
 namespace {
@@ -32,10 +31,7 @@ protected:
         edit->setLineWrapMode(QTextEdit::FixedPixelWidth);
         edit->setLineWrapColumnOrWidth(paper);
         edit->setPlainText(QStringLiteral("text"));
-        QTextFrameFormat format = edit->document()->rootFrame()->frameFormat();
-        format.setLeftMargin(40);
-        format.setRightMargin(60);
-        edit->document()->rootFrame()->setFrameFormat(format);
+        edit->setPaperMargins(40, 60);
         ruler->setPaperWidth(paper * 0.75);
         ruler->setTextEdit(edit);
         window.resize(900, 300);
@@ -46,7 +42,7 @@ protected:
     QPoint upper(double place) const
     {
         const int viewport = ruler->mapFromGlobal(edit->viewport()->mapToGlobal(QPoint(0, 0))).x();
-        return {qRound(viewport - edit->horizontalScrollBar()->value() + 40 + place), 5};
+        return {qRound(viewport - edit->horizontalScrollBar()->value() + place), 5};
     }
     QPoint lower(double place) const { return {upper(place).x(), ruler->height() - 5}; }
     void drag(const QPoint &from, const QPoint &to)

@@ -146,7 +146,13 @@ TEST_F(TemplateEditor, KeepsParagraphsWithABoxParagraphs)
 
 TEST_F(TemplateEditor, PutsMovedPaperMarginsIntoTheBodyRule)
 {
-    EXPECT_TRUE(run([&] { Q_EMIT child<TextEditHRuler>("headerHRuler")->paperMarginsChanged(40, 50); }));
+    EXPECT_TRUE(run([&] {
+        auto *edit = child<TextEdit>("headerTextEdit");
+        QTest::keyClicks(edit, QStringLiteral("typed"));
+        Q_EMIT child<TextEditHRuler>("headerHRuler")->paperMarginsChanged(40, 50);
+        EXPECT_EQ(edit->viewport()->width(), edit->width() - 2 * edit->frameWidth() - qRound(90 / 0.75));
+        QTest::keyClick(edit, Qt::Key_Z, Qt::ControlModifier);
+    }));
     EXPECT_EQ(editor.header(), headerText);
     const StyleSheet css(editor.css());
     EXPECT_TRUE(
