@@ -108,7 +108,8 @@ void TextEdit::completeSelection()
 void TextEdit::setPaperMargins(double left, double right)
 {
     m_paperMargins = QMarginsF(left, 0, right, 0);
-    setViewportMargins(m_paperMargins.toMargins());
+    // On the right the lines just end.
+    setViewportMargins(qRound(left), 0, 0, 0);
 }
 
 void TextEdit::goToTop()

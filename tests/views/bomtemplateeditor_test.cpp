@@ -150,7 +150,7 @@ TEST_F(TemplateEditor, PutsMovedPaperMarginsIntoTheBodyRule)
         auto *edit = child<TextEdit>("headerTextEdit");
         QTest::keyClicks(edit, QStringLiteral("typed"));
         Q_EMIT child<TextEditHRuler>("headerHRuler")->paperMarginsChanged(40, 50);
-        EXPECT_EQ(edit->viewport()->width(), edit->width() - 2 * edit->frameWidth() - qRound(90 / 0.75));
+        EXPECT_EQ(edit->viewport()->width(), edit->width() - 2 * edit->frameWidth() - qRound(40 / 0.75));
         QTest::keyClick(edit, Qt::Key_Z, Qt::ControlModifier);
     }));
     EXPECT_EQ(editor.header(), headerText);
