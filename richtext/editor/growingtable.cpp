@@ -115,7 +115,7 @@ bool GrowingTable::makeSample(const QString &body)
     m_plainRow = plainRow(*m_sampleTable);
     // What surrounds a table would surround each of its pieces.
     const QTextTableFormat format = m_sampleTable->format();
-    if (m_plainRow < 0 || format.border() > 0 || format.padding() > 0 || format.borderCollapse()) {
+    if (m_plainRow < 0 || format.border() > 0 || format.padding() > 0) {
         return false;
     }
     measurePaddings();
@@ -184,7 +184,8 @@ void GrowingTable::join(QTextTable &table, bool isContinuation) const
     format.setColumnWidthConstraints(m_columns);
     if (isContinuation) {
         format.setProperty(continuationProperty, true);
-        format.setTopMargin(-format.cellSpacing());
+        // Never quite 0: pieces are known by it when they are copied, see GrownSelection.
+        format.setTopMargin(format.borderCollapse() ? -0.001 : -format.cellSpacing());
     }
     if (!m_isComplete) {
         format.setBottomMargin(0);

@@ -118,17 +118,6 @@ QString LongTable::rowsText(size_t first, size_t end) const
     return text;
 }
 
-QString LongTable::shapeOf(size_t row) const
-{
-    QString shape;
-    for (size_t i = m_table.rows[row].firstCell; i < m_table.cellEnd(row); ++i) {
-        const PlainCell &cell = m_table.cells[i];
-        shape += QString::number(cell.span) % u'/' % QString::number(cell.kind) %
-                 (cell.link.isEmpty() ? u' ' : u'a') % (cell.content.isEmpty() ? u' ' : u't');
-    }
-    return shape;
-}
-
 void LongTable::layOutStart()
 {
     const PlainSection &first = m_table.sections.front();
@@ -136,9 +125,7 @@ void LongTable::layOutStart()
                          rowsText(first.firstRow, first.firstRow + first.headings + 1) %
                          QStringLiteral("</tbody></table>");
     m_layouter->layOut(m_start, document(body), m_page.height());
-    const std::vector<QTextTable *> tables = tablesOf(m_start);
-    m_tablesBefore = tables.size() - 1;
-    m_tableTop = m_start.documentLayout()->frameBoundingRect(tables.back()).top();
+    m_tablesBefore = tablesOf(m_start).size() - 1;
 }
 
 /// What surrounds the table, with two of its sections: one with a row of each shape, one with any.
@@ -151,7 +138,7 @@ QString LongTable::sampleBody()
     for (size_t section = 0; section < m_table.sections.size(); ++section) {
         const PlainSection &from = m_table.sections[section];
         for (size_t row = from.firstRow + from.headings; row < m_table.rowEnd(section); ++row) {
-            const QString shape = shapeOf(row);
+            const QString shape = shapeOf(m_table, row);
             if (const auto found = known.constFind(shape); found != known.cend()) {
                 m_shapes[row] = *found;
                 continue;
@@ -191,6 +178,10 @@ bool LongTable::measureSample()
     }
     m_looks = std::move(*looks);
     m_spacing = rowSpacing(table, m_device);
+    if (m_looks.size() > 1) {
+        m_borderAbove = m_looks[0].top - (m_looks[1].top - m_spacing - m_looks[0].height);
+        m_looks[0].top -= m_borderAbove;
+    }
     m_headingsHeight = m_looks.front().top - textTop(m_sample, table.cellAt(0, 0));
     m_headingTop =
         table.format().topMargin() * deviceScale(m_device) + m_spacing + cellPaddingAbove(table, m_device);
@@ -237,13 +228,11 @@ bool LongTable::layOutSection(size_t section)
         m_places.push_back({m_bottom, m_bottom, 0});
     }
     size_t row = from.firstRow + from.headings;
+    if (section == 0 && !placeFirstRow()) {
+        return false;
+    }
     m_areaOffset = snapped(m_headingTop + headingsHeight(section));
     if (section == 0) {
-        const auto looks = readRowLooks(m_start, *tablesOf(m_start).back(), int(from.headings), m_device);
-        if (!looks) {
-            return false;
-        }
-        m_bottom = snapped(looks->front().top + looks->front().height);
         // It is painted with what stands before it.
         m_places.push_back({m_bottom, m_bottom, 0});
         ++row;
@@ -255,6 +244,20 @@ bool LongTable::layOutSection(size_t section)
             return false;
         }
     }
+    return true;
+}
+
+bool LongTable::placeFirstRow()
+{
+    QTextTable *table = tablesOf(m_start).back();
+    const auto looks = readRowLooks(m_start, *table, int(m_table.sections.front().headings), m_device);
+    if (!looks) {
+        return false;
+    }
+    const double top = looks->front().top - m_borderAbove;
+    m_grid =
+        table->format().borderCollapse() ? top : m_start.documentLayout()->frameBoundingRect(table).top();
+    m_bottom = snapped(top + looks->front().height);
     return true;
 }
 

@@ -61,20 +61,20 @@ private:
     [[nodiscard]] QString sampleBody();
     void layOutStart();
     [[nodiscard]] bool layOutSection(size_t section);
+    [[nodiscard]] bool placeFirstRow();
     [[nodiscard]] bool layOutRow(size_t row, size_t section);
     [[nodiscard]] bool placeHeadings(size_t section);
     void addHeadings(int page, size_t section);
     void layOutRest();
     [[nodiscard]] QString restBody() const;
 
-    [[nodiscard]] QString shapeOf(size_t row) const;
     [[nodiscard]] const RowLook &look(size_t row) const { return m_looks[size_t(m_shapes[row])]; }
     [[nodiscard]] QString rowsText(size_t first, size_t end) const;
     [[nodiscard]] QString document(const QString &body) const;
     [[nodiscard]] QTextDocument &headings(size_t section);
     [[nodiscard]] double headingsHeight(size_t section);
-    /// Rows stand whole pixels below the top of their table; rounding errors are far below 0.01.
-    [[nodiscard]] double snapped(double y) const { return m_tableTop + std::ceil(y - m_tableTop - 0.01); }
+    /// Rows stand whole pixels one under the other; rounding errors are far below 0.01.
+    [[nodiscard]] double snapped(double y) const { return m_grid + std::ceil(y - m_grid - 0.01); }
     [[nodiscard]] int pageAt(double y) const { return int(y / m_page.height()); }
     /// The page of what ends there.
     [[nodiscard]] int pageAbove(double bottom) const { return pageAt(std::max(bottom - 1, 0.0)); }
@@ -105,6 +105,8 @@ private:
     std::vector<RowLook> m_looks;
     SelfContainedDocument m_sample;
     double m_spacing = 0;
+    /// How much lower a row stands under headings whose border it shares.
+    double m_borderAbove = 0;
     /// From the text of a section's first heading to its first row, in the first section.
     double m_headingsHeight = 0;
     double m_firstHeadings = 0;
@@ -121,7 +123,7 @@ private:
 
     std::vector<Place> m_places;
     std::vector<Headings> m_headings;
-    double m_tableTop = 0;
+    double m_grid = 0;
     /// Of the last row that has its place.
     double m_bottom = 0;
 

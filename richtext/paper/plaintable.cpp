@@ -212,6 +212,17 @@ std::optional<PlainTable> readPlainTable(QStringView body)
     return std::nullopt;
 }
 
+QString shapeOf(const PlainTable &table, size_t row)
+{
+    QString shape;
+    for (size_t i = table.rows[row].firstCell; i < table.cellEnd(row); ++i) {
+        const PlainCell &cell = table.cells[i];
+        shape += QString::number(cell.span) % u'/' % QString::number(cell.kind) %
+                 (cell.link.isEmpty() ? u' ' : u'a') % (cell.content.isEmpty() ? u' ' : u't');
+    }
+    return shape;
+}
+
 std::optional<QString> plainText(QStringView content)
 {
     QString text;

@@ -140,7 +140,7 @@ std::optional<std::vector<RowLook>> readRowLooks(const QTextDocument &document, 
                                                  int first, QPaintDevice &device)
 {
     constexpr double tolerance = 1;
-    if (table.format().border() > 0 || table.format().borderCollapse()) {
+    if (table.format().border() > 0) {
         return std::nullopt;
     }
     const SampleReader reader(document, table, device);
@@ -162,7 +162,8 @@ std::optional<std::vector<RowLook>> readRowLooks(const QTextDocument &document, 
 
 double rowSpacing(const QTextTable &table, const QPaintDevice &device)
 {
-    return std::round(table.format().cellSpacing() * deviceScale(device));
+    return table.format().borderCollapse() ? 0
+                                           : std::round(table.format().cellSpacing() * deviceScale(device));
 }
 
 double cellPaddingAbove(const QTextTable &table, const QPaintDevice &device)
