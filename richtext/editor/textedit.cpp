@@ -64,6 +64,12 @@ TextEdit::TextEdit(QWidget *parent)
             [this] { m_place = verticalScrollBar()->value(); });
     connect(m_document, &TextDocument::contentMade, this, &TextEdit::showPlace);
     connect(this, &QTextEdit::selectionChanged, this, &TextEdit::completeSelection);
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int, int maximum) {
+        if (m_followsEnd) {
+            verticalScrollBar()->setValue(maximum);
+        }
+    });
+    connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, [this] { m_followsEnd = false; });
 }
 
 TextEdit::~TextEdit() = default;
@@ -72,6 +78,7 @@ void TextEdit::loadDocument(const QString &xhtml)
 {
     m_document->setSource(xhtml);
     m_document->setGrows(isReadOnly());
+    m_followsEnd = false;
     if (isVisible()) {
         m_document->show();
     }
@@ -280,6 +287,7 @@ void TextEdit::keyPressEvent(QKeyEvent *event)
     const QString link = isReadOnly() && opens ? textCursor().charFormat().anchorHref() : QString();
     if (link.isEmpty()) {
         QTextEdit::keyPressEvent(event);
+        m_followsEnd = event->key() == Qt::Key_End && !m_document->isComplete();
     } else {
         Q_EMIT linkActivated(link);
     }

@@ -88,6 +88,8 @@ private:
     TextDocument *m_document = nullptr;
     /// Where the view was scrolled to before the content changed.
     int m_place = 0;
+    /// Whether the end of a document that grows is shown, wherever it is.
+    bool m_followsEnd = false;
     QMarginsF m_paperMargins;
     QString m_pageHeader;
     QString m_pageFooter;

@@ -5,6 +5,7 @@
 #include "richtext/paper/pagelayouter.h"
 #include "richtext/paper/plaintable.h"
 
+#include <QPainter>
 #include <QTextLayout>
 #include <QTextOption>
 
@@ -43,6 +44,17 @@ CellText layOutCell(const QString &text, QStringView link, const CellLook &look,
     }
     cell.text->endLayout();
     return cell;
+}
+
+void drawLines(QPainter &painter, const QTextLayout &text, double left, const QRectF &part)
+{
+    for (int number = 0; number < text.lineCount(); ++number) {
+        const QTextLine line = text.lineAt(number);
+        // QTextLayout would draw the line before these as well.
+        if (line.y() < part.bottom() && line.y() + line.height() > part.top()) {
+            line.draw(&painter, QPointF(left, 0));
+        }
+    }
 }
 
 void lowerLines(const RowLook &shape, double height, RowTexts &cells)

@@ -10,6 +10,8 @@
 #include <vector>
 
 class QPaintDevice;
+class QPainter;
+class QRectF;
 class QTextLayout;
 class QTextOption;
 
@@ -25,6 +27,9 @@ using RowTexts = std::vector<CellText>;
 /// Breaks a text into lines as wide as the cell; `link` is its address as markup, empty for none.
 [[nodiscard]] CellText layOutCell(const QString &text, QStringView link, const CellLook &look,
                                   QTextOption option, QPaintDevice &device);
+
+/// Paints the lines that reach into a part of the flow of pages.
+void drawLines(QPainter &painter, const QTextLayout &text, double left, const QRectF &part);
 
 /// In a row of that height on one page, texts may stand lower than at its top.
 void lowerLines(const RowLook &shape, double height, RowTexts &cells);

@@ -22,8 +22,8 @@ namespace {
 /// QTextDocument lays shorter tables out fast enough.
 constexpr size_t leastRows = 300;
 constexpr qsizetype mostShapes = 200;
-/// QTextDocument gets longer texts in pieces.
-constexpr qsizetype longestText = 2000;
+/// In characters. One text without an end would keep all others waiting.
+constexpr qsizetype longestText = 100'000;
 
 double textTop(const QTextDocument &document, const QTextTableCell &cell)
 {
@@ -145,7 +145,7 @@ QString LongTable::sampleBody()
             }
             m_shapes[row] = int(known.size());
             known.insert(shape, m_shapes[row]);
-            last = m_table.rows[row].text.toString();
+            last = sampleRow(m_table, row);
             rows += last;
         }
     }
@@ -315,7 +315,7 @@ std::optional<RowTexts> LongTable::texts(size_t row) const
     for (size_t i = from.firstCell; i < m_table.cellEnd(row); ++i) {
         const PlainCell &cell = m_table.cells[i];
         const std::optional<QString> text = plainText(cell.content);
-        if (!text || cell.content.size() > longestText || cells.size() == shape.cells.size()) {
+        if (!text || text->size() > longestText || cells.size() == shape.cells.size()) {
             return std::nullopt;
         }
         cells.push_back(
@@ -413,7 +413,7 @@ void LongTable::draw(QPainter &painter, int page)
         const QTextDocument &document = headings(heading->section);
         painter.save();
         painter.translate(0, heading->top - textTop(document, tablesOf(document).front()->cellAt(0, 0)));
-        drawDocument(painter, document, QRectF(QPointF(), document.size()));
+        drawDocument(painter, document, QRectF(QPointF(), m_page));
         painter.restore();
     }
     if (!m_rest.isEmpty() && page >= m_restPage) {
@@ -441,6 +441,6 @@ void LongTable::drawRow(QPainter &painter, size_t row, const QRectF &part) const
                              cell.background);
         }
         painter.setPen(cell.color);
-        (*cells)[i].text->draw(&painter, QPointF(cell.left + cell.paddingLeft, 0), {}, part);
+        drawLines(painter, *(*cells)[i].text, cell.left + cell.paddingLeft, part);
     }
 }

@@ -223,6 +223,21 @@ QString shapeOf(const PlainTable &table, size_t row)
     return shape;
 }
 
+QString sampleRow(const PlainTable &table, size_t row)
+{
+    QStringView rest = table.rows[row].text;
+    QString sample;
+    for (size_t i = table.rows[row].firstCell; i < table.cellEnd(row); ++i) {
+        const QStringView content = table.cells[i].content;
+        if (!content.isEmpty()) {
+            const qsizetype begin = content.data() - rest.data();
+            sample += rest.first(begin) % u'x';
+            rest = rest.sliced(begin + content.size());
+        }
+    }
+    return sample % rest;
+}
+
 std::optional<QString> plainText(QStringView content)
 {
     QString text;

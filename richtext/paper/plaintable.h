@@ -69,6 +69,9 @@ struct PlainTable
 /// Rows of the same shape differ in texts and addresses only.
 [[nodiscard]] QString shapeOf(const PlainTable &table, size_t row);
 
+/// XHTML of a row of the same look with short texts: QTextDocument gets long ones as several paragraphs.
+[[nodiscard]] QString sampleRow(const PlainTable &table, size_t row);
+
 /// The text of XHTML content without tags: entities resolved, runs of blanks as one. Nothing when it has an
 /// entity that is not known here, or a character that ends a paragraph.
 [[nodiscard]] std::optional<QString> plainText(QStringView content);

@@ -59,13 +59,16 @@ QImage readImage(QByteArray bytes, qint64 mostPixels)
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
+    // Before its size is asked for: that loads all of a drawing, with the files that it names.
+    if (reader.format().startsWith("svg") && !isPlainDrawing(bytes)) {
+        return {};
+    }
     const QSize size = reader.size();
     const bool isSensible = !size.isEmpty() && size.width() <= widest && size.height() <= widest &&
                             size.width() <= steepest * size.height() &&
                             size.height() <= steepest * size.width() &&
                             qint64(size.width()) * size.height() <= mostPixels;
-    const bool isDrawing = reader.format().startsWith("svg");
-    return isSensible && (!isDrawing || isPlainDrawing(bytes)) ? reader.read() : QImage();
+    return isSensible ? reader.read() : QImage();
 }
 
 } // namespace

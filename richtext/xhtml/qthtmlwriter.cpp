@@ -50,7 +50,9 @@ public:
     /// The tag's text is then one that lives as long as this.
     void limit(Tag &tag)
     {
-        if (std::none_of(tag.text.begin(), tag.text.end(), [](QChar c) { return c.isDigit(); })) {
+        const bool isShort =
+            std::none_of(tag.text.begin(), tag.text.end(), [](QChar c) { return c.isDigit(); });
+        if (isShort && !mayBreakPage(tag.text)) {
             return;
         }
         replace(tag, u"style", [&](const QString &value) { return limitedStyle(value); });
@@ -66,8 +68,17 @@ public:
     }
 
 private:
+    /// Escapes may hide anything.
+    [[nodiscard]] static bool mayBreakPage(QStringView text)
+    {
+        return text.contains(u'\\') || text.contains(u"page-break", Qt::CaseInsensitive);
+    }
+
     QString limitedStyle(const QString &style)
     {
+        if (mayBreakPage(style) && !isSpare(LargestLengths().box)) {
+            return {};
+        }
         // The largest one that a style may have, above and below, with its paddings.
         constexpr double most = LargestLengths().font;
         constexpr int lengthsOfStyle = 6;

@@ -176,7 +176,9 @@ Declarations translatedDeclarations(const StyleSheet::Rule &rule, const LargestL
 {
     Declarations result;
     for (const StyleSheet::Declaration &declaration : rule.declarations) {
-        if (isPageMargin(rule, declaration)) {
+        const bool breaksPage = declaration.property.startsWith(QLatin1String("page-break")) ||
+                                declaration.property.contains(u'\\');
+        if (isPageMargin(rule, declaration) || (breaksPage && largestBox < LargestLengths().box)) {
             continue;
         }
         const QString text = translated(

@@ -24,6 +24,8 @@ namespace {
 // The library descends into elements by recursion and takes time in proportion to size times depth.
 constexpr int mostElements = 200'000;
 constexpr int deepest = 100;
+/// It compares each attribute of a tag with each.
+constexpr int mostAttributeEnds = 400;
 constexpr qsizetype longest = 32 * 1024 * 1024;
 
 /// How much work a text is for a parser that descends into every element.
@@ -33,6 +35,8 @@ struct HtmlSize
     int elements = 0;
     /// The deepest nesting when unclosed elements are taken as open to the end of what holds them.
     int depth = 0;
+    /// Of one tag: the most places at which an attribute can begin or end.
+    int attributeEnds = 0;
 };
 
 bool isNameStart(QChar unit)
@@ -71,6 +75,28 @@ qsizetype afterTag(QStringView html, qsizetype at)
         }
     }
     return at;
+}
+
+/// Rather too many than too few; what stands in quotes is no end.
+int attributeEnds(QStringView tag)
+{
+    int count = 0;
+    QChar quote;
+    bool isValue = false;
+    for (qsizetype at = 1; at < tag.size(); ++at) {
+        const QChar unit = tag[at];
+        if (!quote.isNull()) {
+            quote = unit == quote ? QChar() : quote;
+        } else if ((unit == u'"' || unit == u'\'') && tag[at - 1] == u'=') {
+            quote = unit;
+        } else if (unit == u'=') {
+            isValue = true;
+        } else if (unit.isSpace() || unit == u'"' || unit == u'\'' || (unit == u'/' && !isValue)) {
+            isValue = false;
+            ++count;
+        }
+    }
+    return count;
 }
 
 /// Elements that never hold others, and those that end where the next of their kind begins.
@@ -117,6 +143,7 @@ private:
         }
         const QString name = nameAt(m_html, nameStart);
         const qsizetype next = afterTag(m_html, nameStart + name.size());
+        m_size.attributeEnds = std::max(m_size.attributeEnds, attributeEnds(m_html.sliced(at, next - at)));
         if (ends) {
             close(name);
             return next;
@@ -197,6 +224,9 @@ QString sizeError(const QString &html)
     const HtmlSize size = SizeCounter(html).run();
     if (size.depth > deepest) {
         return text("The HTML elements are nested too deeply.");
+    }
+    if (size.attributeEnds > mostAttributeEnds) {
+        return text("An HTML element has too many attributes.");
     }
     return size.elements > mostElements ? text("The HTML text has too many elements.") : QString();
 }

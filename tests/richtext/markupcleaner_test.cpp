@@ -67,6 +67,7 @@ TEST(MarkupCleaner, RefusesWhatIsTooDeepOrTooMuch)
           table.repeated(9) + tableEnd.repeated(9), u"<br/>"_s.repeated(20'001), u"<p>x"_s.repeated(20'001),
           longest.repeated(101), picture.repeated(101), u"<p>x<br/></p>"_s.repeated(10'001),
           u"<p>"_s + u"x<br/>"_s.repeated(2'000) + u"</p>"_s,
+          u"<p"_s + u" title=''"_s.repeated(500) + u">x</p>"_s,
           u"<table>"_s + u"<tr><td colspan='1000' rowspan='1000'>x</td></tr>"_s.repeated(20) +
               u"</table>"_s}) {
         const CleanMarkup result = MarkupCleaner().clean(text);
@@ -101,10 +102,16 @@ TEST(SelfContainedDocument, OpensNoFile)
     PdfOutput output(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}), {});
     SelfContainedDocument document;
     const QString css = u"p { background-image: url("_s + pipe + u") }"_s;
+    const QString svg =
+        u"<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><image width='9' height='9' "
+        "xlink:href='"_s +
+        pipe + u"' xmlns:xlink='http://www.w3.org/1999/xlink'/></svg>"_s;
+    const QString drawing = u"data:image/svg+xml;base64,"_s + QString::fromLatin1(svg.toUtf8().toBase64());
     layOutPages(document,
                 page(css, u"<style>@import url("_s + pipe + u");</style><link rel='stylesheet' href='"_s +
                               pipe + u"'><p style='background: url("_s + pipe + u")'><img src='"_s + pipe +
-                              u"'><img src='file://"_s + pipe + u"'><img src='"_s + image + u"'>x</p>"_s),
+                              u"'><img src='file://"_s + pipe + u"'><img src='"_s + image +
+                              u"'><img src='"_s + drawing + u"'>x</p>"_s),
                 output.device(), QSizeF(2000, 3000));
     EXPECT_EQ(document.pageCount(), 1);
     const auto pixelsOf = [&document](const QString &source) {
@@ -121,13 +128,17 @@ TEST(Pages, EndForHugeLengths)
 {
     for (const QString &css :
          {u"p { font-size: 99999pt }"_s, u"p { margin: 1e9px }"_s, u"td { padding: 9999cm }"_s,
-          u"td { padding: INFpx }"_s, u"td { padding: 'in\\66' }"_s, u"[class] { margin-top: nan }"_s}) {
+          u"td { padding: INFpx }"_s, u"td { padding: 'in\\66' }"_s, u"[class] { margin-top: nan }"_s,
+          u"p.b { page-break-before: always } p.b { pa\\67 e-break-after: always }"_s}) {
         PdfOutput output(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {}), {});
         SelfContainedDocument document;
         layOutPages(
             document,
-            page(css, u"<table class='a'><tr><td><p style='margin-top: 5000px'>text</p></td></tr></table>"_s
-                          .repeated(500)),
+            page(
+                css,
+                u"<table class='a'><tr><td><p style='margin-top: 5000px'>text</p></td></tr></table>"
+                "<p class='b' style='page-break-before:always'>x</p><p style='pag\\65-break-after: always'>y</p>"_s
+                    .repeated(500)),
             output.device(), QSizeF(2000, 3000));
         EXPECT_LT(document.pageCount(), 9000) << css;
     }

@@ -197,6 +197,12 @@ TEST_F(Edit, DoesWithTheWholeDocumentWhatIsAskedForWhileItGrows)
     edit.goToTop();
     edit.loadDocument(xhtml);
     EXPECT_FALSE(edit.document()->isComplete());
+    QTest::keyClick(&edit, Qt::Key_End, Qt::ControlModifier);
+    EXPECT_FALSE(edit.document()->isComplete());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return edit.document()->isComplete(); }, 60000));
+    EXPECT_EQ(edit.verticalScrollBar()->value(), bottom);
+    edit.goToTop();
+    edit.loadDocument(xhtml);
     // Another takes its place.
     edit.loadDocument(reportOf(1500, u"other"_s));
     ASSERT_TRUE(QTest::qWaitFor([&] { return edit.document()->isComplete(); }, 60000));
@@ -328,6 +334,9 @@ TEST(LongTableTest, ShowsThePagesThatOneDocumentHas)
     PdfOutput output(pageLayout(StyleSheet(sheet)), {});
     const QSizeF size(output.device().width(), output.device().height());
     EXPECT_FALSE(LongTable::layOut(twoSections(u"p.b { margin: 3pt; }"_s), output.device(), size));
+    QString references = twoSections(box);
+    references.replace(u"word "_s.repeated(29), u"R1,&shy;&#8203;"_s.repeated(800));
+    EXPECT_TRUE(LongTable::layOut(references, output.device(), size));
 }
 
 TEST_F(Edit, NeverLeavesAHeadingAloneAtTheFootOfAPage)
