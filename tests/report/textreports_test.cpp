@@ -27,6 +27,20 @@ TEST_F(Csv, DropsQuotesAndLineBreaksAndEnclosesCommas)
                                                            "Resistors,1,R3,5%1,\",\",,\n");
 }
 
+TEST_F(Csv, IsReadBySpreadsheetProgramsInTheirLocale)
+{
+    netlist.add("R1", "1,2;3", {{"CODE", "a"}});
+    database.load();
+    for (const auto &[locale, cell] : {std::pair("de_DE", ";\"1,2;3\";a;"), {"C", ",\"1,2;3\",a,"}}) {
+        const CsvDialect dialect = spreadsheetDialect(QLocale(QString::fromLatin1(locale)));
+        const QByteArray csv = csvReport(dataReport(), CsvRows::Lines, dialect);
+        EXPECT_TRUE(csv.startsWith("\xEF\xBB\xBF"
+                                   "Category"))
+            << csv.data();
+        EXPECT_TRUE(csv.contains(cell)) << csv.data();
+    }
+}
+
 TEST_F(Csv, EnclosesReferencesAndLeavesOutValuesWhereTheTemplateSaysSo)
 {
     for (const auto &[reference, value] : {std::pair("R1", "1k"), {"R2", "2k"}, {"R4", "2k"}}) {

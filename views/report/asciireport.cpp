@@ -21,21 +21,6 @@ QString tr(const char *text)
     return QCoreApplication::translate("BOMAsciiView", text);
 }
 
-/// Line breaks and other control characters would tear the columns apart.
-QString inOneLine(const QString &text)
-{
-    const auto tears = [](QChar c) {
-        return c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
-               c == QChar::ParagraphSeparator;
-    };
-    if (std::none_of(text.begin(), text.end(), tears)) {
-        return text;
-    }
-    QString line = text;
-    std::replace_if(line.begin(), line.end(), tears, QChar(u' '));
-    return line;
-}
-
 /// Filled up or cut to the width; a pair of surrogates is not cut in two.
 void appendCell(QString &line, const QString &text, int width)
 {
@@ -61,27 +46,6 @@ QString underlined(const QString &text, QChar stroke)
     return text + u'\n' + QString(text.size(), stroke) + u'\n';
 }
 
-QString informationBlock(const ReportDesign &design)
-{
-    QList<std::pair<QString, QString>> entries{{tr("Design Title"), design.title},
-                                               {tr("Document Number"), design.documentNumber},
-                                               {tr("Revision"), design.revision}};
-    if (!design.variant.isEmpty()) {
-        entries.append({tr("Assembly Variant"), design.variant});
-    }
-    entries.append(
-        {{tr("Author"), design.author}, {tr("Created"), design.created}, {tr("Modified"), design.modified}});
-    qsizetype longest = 0;
-    for (const auto &[label, value] : std::as_const(entries)) {
-        longest = std::max(longest, label.size());
-    }
-    QString block;
-    for (const auto &[label, value] : std::as_const(entries)) {
-        block += label + u':' + QString(longest + 1 - label.size(), u' ') + inOneLine(value) + u'\n';
-    }
-    return block + u'\n';
-}
-
 /// Quantity, references, then the report's columns.
 QList<int> columnWidths(const Report &report)
 {
@@ -96,7 +60,7 @@ QList<int> columnWidths(const Report &report)
 
 QString headingLines(const Report &report, const QList<int> &widths)
 {
-    const QStringList headings = QStringList{tr("QTY"), tr("PART-REFS")} + report.columnNames();
+    const QStringList headings = asciiHeadings(report);
     QStringList strokes;
     for (const QString &heading : headings) {
         strokes.append(QString(heading.size(), u'-'));
@@ -125,9 +89,9 @@ QString billLine(const Report &report, BomLine line, const QList<int> &widths)
 QByteArray asciiReport(const Report &report)
 {
     const QList<int> widths = columnWidths(report);
-    QByteArray text = (underlined(tr("Bill Of Materials"), u'=') + informationBlock(report.design()) +
-                       headingLines(report, widths))
-                          .toUtf8();
+    QByteArray text =
+        (underlined(asciiTitle(), u'=') + asciiInformation(report.design()) + headingLines(report, widths))
+            .toUtf8();
     for (const QString &category : report.categories()) {
         text += underlined(inOneLine(category), u'-').toUtf8();
         const ReportLines listed = report.lines(category, true);
@@ -137,4 +101,49 @@ QByteArray asciiReport(const Report &report)
         text += '\n';
     }
     return text;
+}
+
+QString asciiTitle()
+{
+    return tr("Bill Of Materials");
+}
+
+QString asciiInformation(const ReportDesign &design)
+{
+    QList<std::pair<QString, QString>> entries{{tr("Design Title"), design.title},
+                                               {tr("Document Number"), design.documentNumber},
+                                               {tr("Revision"), design.revision}};
+    if (!design.variant.isEmpty()) {
+        entries.append({tr("Assembly Variant"), design.variant});
+    }
+    entries.append(
+        {{tr("Author"), design.author}, {tr("Created"), design.created}, {tr("Modified"), design.modified}});
+    qsizetype longest = 0;
+    for (const auto &[label, value] : std::as_const(entries)) {
+        longest = std::max(longest, label.size());
+    }
+    QString block;
+    for (const auto &[label, value] : std::as_const(entries)) {
+        block += label + u':' + QString(longest + 1 - label.size(), u' ') + inOneLine(value) + u'\n';
+    }
+    return block + u'\n';
+}
+
+QStringList asciiHeadings(const Report &report)
+{
+    return QStringList{tr("QTY"), tr("PART-REFS")} + report.columnNames();
+}
+
+QString inOneLine(const QString &text)
+{
+    const auto tears = [](QChar c) {
+        return c.category() == QChar::Other_Control || c == QChar::LineSeparator ||
+               c == QChar::ParagraphSeparator;
+    };
+    if (std::none_of(text.begin(), text.end(), tears)) {
+        return text;
+    }
+    QString line = text;
+    std::replace_if(line.begin(), line.end(), tears, QChar(u' '));
+    return line;
 }

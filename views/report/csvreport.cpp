@@ -26,13 +26,19 @@ void appendUtf8(QByteArray &bytes, QStringView text)
     bytes.resize(end - bytes.constData());
 }
 
-/// A growing CSV text: cells, each ended by a comma, and the ends of rows.
+/// A growing CSV text: cells, each ended by a separator, and the ends of rows.
 class CsvText final
 {
 public:
+    explicit CsvText(const CsvDialect &dialect)
+        : m_separator(dialect.separator)
+        , m_bytes(dialect.hasByteOrderMark ? "\xEF\xBB\xBF" : "")
+    {
+    }
+
     void addCell(QStringView text, bool alwaysQuote = false)
     {
-        const bool isEnclosed = alwaysQuote || text.contains(u',');
+        const bool isEnclosed = alwaysQuote || text.contains(m_separator);
         if (isEnclosed) {
             m_bytes.append('"');
         }
@@ -41,7 +47,10 @@ public:
             appendUtf8(m_bytes, text.first(kept));
             text = text.mid(kept + 1);
         }
-        m_bytes.append(isEnclosed ? "\"," : ",");
+        if (isEnclosed) {
+            m_bytes.append('"');
+        }
+        m_bytes.append(m_separator.toLatin1());
     }
     /// After at least one cell.
     void endRow() { m_bytes.back() = '\n'; }
@@ -49,16 +58,23 @@ public:
     [[nodiscard]] const QByteArray &bytes() const { return m_bytes; }
 
 private:
+    QChar m_separator;
     QByteArray m_bytes;
 };
 
 } // namespace
 
-QByteArray csvReport(const Report &report, CsvRows rows)
+CsvDialect spreadsheetDialect(const QLocale &locale)
+{
+    const bool hasSemicolon = locale.decimalPoint() == QStringLiteral(",");
+    return {hasSemicolon ? u';' : u',', true};
+}
+
+QByteArray csvReport(const Report &report, CsvRows rows, const CsvDialect &dialect)
 {
     const bool isGrouped = rows == CsvRows::Lines;
     const bool quotesReferences = report.settings().alwaysQuoteRefs();
-    CsvText csv;
+    CsvText csv(dialect);
     for (const QString &heading : report.headings(isGrouped)) {
         csv.addCell(heading);
     }

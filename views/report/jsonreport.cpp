@@ -9,16 +9,6 @@
 
 namespace {
 
-void writeTexts(JsonWriter &json, QStringView name, const QStringList &texts)
-{
-    json.key(name);
-    json.beginArray();
-    for (const QString &text : texts) {
-        json.text(text);
-    }
-    json.endArray();
-}
-
 void writeLine(JsonWriter &json, const Report &report, BomLine line)
 {
     json.newLine();
@@ -61,6 +51,16 @@ void writeCategory(JsonWriter &json, const Report &report, const QString &catego
 }
 
 } // namespace
+
+void writeTexts(JsonWriter &json, QStringView name, const QStringList &texts)
+{
+    json.key(name);
+    json.beginArray();
+    for (const QString &text : texts) {
+        json.text(text);
+    }
+    json.endArray();
+}
 
 QByteArray jsonReport(const Report &report)
 {

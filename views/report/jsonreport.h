@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QStringList>
 
 class JsonWriter;
 class Report;
@@ -10,6 +11,9 @@ struct ReportDesign;
 
 /// The report as a JSON document in UTF-8, for programs.
 [[nodiscard]] QByteArray jsonReport(const Report &report);
+
+/// Writes an entry that is a list of texts.
+void writeTexts(JsonWriter &json, QStringView name, const QStringList &texts);
 
 /// Writes the entry "design" of the object that is open.
 void writeDesign(JsonWriter &json, const ReportDesign &design);
