@@ -8,9 +8,12 @@
 #include "account/design/propertytwins.h"
 #include "account/sentences.h"
 #include "core/bompartsdatabase.h"
+#include "core/reference.h"
 #include "core/unreadtexts.h"
 #include "standalone/designsession.h"
 #include "standalone/loadeddesign.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -18,12 +21,15 @@ using Sum = DesignCheck::Sum;
 
 Sum sum(const QString &name, qsizetype count)
 {
-    return {name, QString::number(count)};
+    return {name, QString::number(count), count};
 }
 
-Sum sum(const QString &name, const QStringList &references)
+Sum sum(const QString &name, QStringList references)
 {
-    return {name, QString::number(references.size()) + QStringLiteral(": ") + referenceText(references)};
+    std::stable_sort(references.begin(), references.end(),
+                     [](const QString &a, const QString &b) { return compareReferences(a, b) < 0; });
+    return {name, QString::number(references.size()) + QStringLiteral(": ") + referenceText(references),
+            references.size(), references};
 }
 
 QList<Sum> symbolSums(const SymbolAccount &symbols)
@@ -57,7 +63,7 @@ QString notFittedText(const ComponentAccount &components)
 
 QList<Sum> partSums(const LoadedDesign &design, const ComponentAccount &components, const BillAccount &bill)
 {
-    QList<Sum> sums{{QStringLiteral("in the bill"), billText(bill)}};
+    QList<Sum> sums{{QStringLiteral("in the bill"), billText(bill), bill.parts}};
     if (!bill.replaced.isEmpty()) {
         sums << sum(QStringLiteral("left out for an equal reference"), bill.replaced);
     }
@@ -68,7 +74,8 @@ QList<Sum> partSums(const LoadedDesign &design, const ComponentAccount &componen
     for (const SkippedComponents &group : skippedComponents(design)) {
         sums << sum(QStringLiteral("  ") + group.reason, group.references);
     }
-    sums << Sum{QStringLiteral("of all components, not fitted"), notFittedText(components)};
+    sums << Sum{QStringLiteral("of all components, not fitted"), notFittedText(components),
+                components.notFitted};
     return sums;
 }
 

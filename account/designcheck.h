@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 class BOMPartsDatabase;
 class DesignSession;
 
@@ -16,6 +18,10 @@ struct DesignCheck
     {
         QString name;
         QString text;
+        /// The number that the text begins with; nothing where it is none.
+        std::optional<qsizetype> count = {};
+        /// The components that are counted, where the text names them.
+        QStringList references = {};
 
         bool operator==(const Sum &) const = default;
     };
