@@ -4,7 +4,13 @@
 
 #include "account/designcheck.h"
 #include "cli/console.h"
+#include "cli/nearnames.h"
+#include "cli/newproperties.h"
 #include "cli/opendesign.h"
+#include "cli/terminal.h"
+#include "views/report/jsonreport.h"
+#include "views/report/jsonwriter.h"
+#include "views/report/report.h"
 
 #include <CLI/Validators.hpp>
 
@@ -14,12 +20,13 @@ namespace {
 
 void append(QString *text, const QString &heading, const QStringList &lines)
 {
+    const auto terminal = outputTerminal();
     if (lines.isEmpty()) {
         return;
     }
-    *text += u'\n' + heading + QStringLiteral(":\n");
+    *text += u'\n' + emphasized(heading + u':', terminal && terminal->isColoured) + u'\n';
     for (const QString &line : lines) {
-        *text += QStringLiteral("  ") + printable(line) + u'\n';
+        *text += QStringLiteral("  ") + printable(console::withShownPaths(line)) + u'\n';
     }
 }
 
@@ -39,6 +46,60 @@ QString readableText(const DesignCheck &check)
     return text;
 }
 
+void writeMessages(JsonWriter &json, QStringView name, const QStringList &texts)
+{
+    QStringList shown;
+    for (const QString &text : texts) {
+        shown << console::withShownPaths(text);
+    }
+    json.newLine();
+    writeTexts(json, name, shown);
+}
+
+QByteArray jsonText(OpenDesign &design, const DesignCheck &check)
+{
+    JsonWriter json;
+    json.beginObject();
+    writeDesign(json, designOf(design.database()));
+    json.newLine();
+    json.key(u"sums");
+    json.beginArray();
+    for (const DesignCheck::Sum &sum : check.sums) {
+        json.newLine();
+        json.beginObject();
+        json.entry(u"name", sum.name.trimmed());
+        if (sum.count) {
+            json.key(u"count");
+            json.number(*sum.count);
+        }
+        json.entry(u"text", sum.text);
+        if (!sum.references.isEmpty()) {
+            writeTexts(json, u"references", sum.references);
+        }
+        json.endObject();
+    }
+    json.endArray();
+    writeMessages(json, u"findings", check.findings);
+    writeMessages(json, u"notices", check.notices);
+    json.newLine();
+    json.endObject();
+    return json.bytes() + '\n';
+}
+
+/// The required properties that no part has, where another one may be meant.
+QStringList misspelt(OpenDesign &design, const QStringList &required)
+{
+    QStringList texts;
+    for (const QString &name : required) {
+        const QString hint =
+            isNewProperty(design, name) ? didYouMean(name, propertyNames(design)) : QString();
+        if (!hint.isEmpty()) {
+            texts << QStringLiteral("no part has a property \"") + name + u'"' + hint;
+        }
+    }
+    return texts;
+}
+
 } // namespace
 
 void CheckCommand::addTo(CLI::App &program)
@@ -50,6 +111,7 @@ void CheckCommand::addTo(CLI::App &program)
         ->type_name("NAME")
         ->check(CLI::Validator(isGiven, ""))
         ->allow_extra_args(false);
+    m_app->add_flag("--json", m_json, "Write JSON for programs instead of text for people");
 }
 
 ExitStatus CheckCommand::run()
@@ -62,8 +124,9 @@ ExitStatus CheckCommand::run()
     if (const ExitStatus status = design.open(m_design, false); status != ExitStatus::Done) {
         return status;
     }
-    const DesignCheck check = checkDesign(design.session(), design.database(), required);
-    if (!console::write(readableText(check).toUtf8())) {
+    DesignCheck check = checkDesign(design.session(), design.database(), required);
+    check.notices += misspelt(design, required);
+    if (!console::write(m_json ? jsonText(design, check) : readableText(check).toUtf8())) {
         return ExitStatus::UnwritableOutput;
     }
     return check.findings.isEmpty() ? ExitStatus::Done : ExitStatus::DesignProblem;

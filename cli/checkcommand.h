@@ -17,4 +17,5 @@ public:
 private:
     DesignArguments m_design;
     std::vector<std::string> m_required;
+    bool m_json = false;
 };

@@ -4,9 +4,12 @@
 
 #include "standalone/environment.h"
 
+#include <QList>
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 QString printable(const QString &text)
 {
@@ -27,12 +30,82 @@ QString printable(const QString &text)
     return shown;
 }
 
+namespace {
+
+struct ShownFolder
+{
+    QString folder;
+    QString shown;
+};
+
+struct Manners
+{
+    bool isQuiet = false;
+    QList<ShownFolder> folders;
+};
+
+Manners &manners()
+{
+    static Manners chosen;
+    return chosen;
+}
+
+} // namespace
+
 namespace console {
 
 void message(const QString &text)
 {
-    const QByteArray line = "bom: " + printable(text).toUtf8() + '\n';
+    const QByteArray line = "bom: " + printable(withShownPaths(text)).toUtf8() + '\n';
     std::fwrite(line.constData(), 1, std::size_t(line.size()), stderr);
+}
+
+void notice(const QString &text)
+{
+    if (!manners().isQuiet) {
+        message(text);
+    }
+}
+
+void notices(const QStringList &texts)
+{
+    for (const QString &text : texts) {
+        notice(text);
+    }
+}
+
+void setQuiet(bool isQuiet)
+{
+    manners().isQuiet = isQuiet;
+}
+
+bool isQuiet()
+{
+    return manners().isQuiet;
+}
+
+void showFolderAs(const QString &folder, const QString &shown)
+{
+    if (folder.size() > 1) {
+        manners().folders.append({folder + u'/', shown});
+    }
+}
+
+QString withShownPaths(const QString &text)
+{
+    QString shown = text;
+    for (const ShownFolder &known : std::as_const(manners().folders)) {
+        qsizetype at = 0;
+        while ((at = shown.indexOf(known.folder, at)) >= 0) {
+            if (at == 0 || shown[at - 1] == u' ' || shown[at - 1] == u'(') {
+                shown.replace(at, known.folder.size(), known.shown);
+                at += known.shown.size();
+            } else {
+                ++at;
+            }
+        }
+    }
+    return shown;
 }
 
 bool write(QByteArrayView bytes)

@@ -6,6 +6,7 @@
 
 #include <QByteArrayView>
 #include <QString>
+#include <QStringList>
 
 /// What the program returns to the shell.
 enum class ExitStatus
@@ -24,8 +25,19 @@ enum class ExitStatus
 
 namespace console {
 
-/// Writes the line "bom: text" to standard error.
+/// Writes the line "bom: text" to standard error: why something cannot be done.
 void message(const QString &text);
+
+/// The same for what the user should know although nothing failed, unless the user wants none of it.
+void notice(const QString &text);
+void notices(const QStringList &texts);
+void setQuiet(bool isQuiet);
+[[nodiscard]] bool isQuiet();
+
+/// Messages name the files below this folder, an absolute path, as they do below the other one.
+void showFolderAs(const QString &folder, const QString &shown);
+/// The text with the paths at its beginning and behind blanks and brackets as messages name them.
+[[nodiscard]] QString withShownPaths(const QString &text);
 
 /// Writes to standard output; false, after a message, when it takes no more.
 [[nodiscard]] bool write(QByteArrayView bytes);

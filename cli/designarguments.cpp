@@ -18,9 +18,11 @@ void DesignArguments::addTo(CLI::App &command)
                      "Read a design whose files may not belong together, because a write was interrupted");
 }
 
-void DesignArguments::addDesign(CLI::App &command)
+void DesignArguments::addPath(CLI::App &command, std::string &design)
 {
-    command.add_option("DESIGN", design, "KiCad schematic or project, or CSV part list")
+    command
+        .add_option("DESIGN", design,
+                    "KiCad schematic or project, or CSV part list, or a folder with one design in it")
         ->required()
         ->check(CLI::Validator(isGiven, ""));
 }

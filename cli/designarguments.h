@@ -27,7 +27,8 @@ struct DesignArguments
     /// Adds DESIGN and all its options to a command that only reads.
     void addTo(CLI::App &command);
     /// Adds DESIGN only.
-    void addDesign(CLI::App &command);
+    void addDesign(CLI::App &command) { addPath(command, design); }
+    static void addPath(CLI::App &command, std::string &design);
     /// Adds what does not depend on parts being listed: the variant and the property definitions.
     void addReading(CLI::App &command);
     /// Adds what decides how parts are listed.

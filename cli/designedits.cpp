@@ -8,11 +8,8 @@
 #include "cli/opendesign.h"
 #include "core/bompart.h"
 #include "core/propertyquery.h"
-#include "core/reference.h"
 #include "host/framework/hostui.h"
 #include "standalone/loadeddesign.h"
-
-#include <QSet>
 
 #include <algorithm>
 #include <sstream>
@@ -21,44 +18,6 @@ namespace {
 
 /// Of more references that the design does not have, only the number is told.
 constexpr qsizetype mostNamedUnknown = 10;
-
-QString quoted(const std::optional<QString> &text, const QString &otherwise)
-{
-    return text ? u'"' + printable(*text) + u'"' : otherwise;
-}
-
-QString changeLine(const PropertyChange &change)
-{
-    QString line =
-        printable(change.reference) + u' ' + printable(change.name) + QStringLiteral(": ") +
-        quoted(change.before, QStringLiteral("none")) + QStringLiteral(" -> ") +
-        quoted(change.after, QStringLiteral("removed")) + QStringLiteral(" (") + printable(change.file) +
-        u':' + QString::number(change.line) +
-        (change.variant.isEmpty() ? QString() : QStringLiteral(", variant ") + printable(change.variant)) +
-        u')';
-    if (!change.alsoChanges.isEmpty()) {
-        line += QStringLiteral(" also changes ") + printable(change.alsoChanges.join(QStringLiteral(", ")));
-    }
-    return line + u'\n';
-}
-
-QString summary(const QList<PropertyChange> &changes, qsizetype files, bool isDryRun)
-{
-    QSet<QString> parts;
-    for (const PropertyChange &change : changes) {
-        parts.insert(change.reference);
-        for (const QString &reference : change.alsoChanges) {
-            parts.insert(reference);
-        }
-    }
-    const QString what =
-        counted(changes.size(), QStringLiteral("property"), QStringLiteral("properties")) +
-        QStringLiteral(" of ") + counted(parts.size(), QStringLiteral("part"), QStringLiteral("parts")) +
-        QStringLiteral(" in ") + counted(files, QStringLiteral("file"), QStringLiteral("files"));
-    return (isDryRun ? QStringLiteral("would change ") + what + QStringLiteral("; nothing was written")
-                     : QStringLiteral("changed ") + what) +
-           u'\n';
-}
 
 } // namespace
 
@@ -151,9 +110,9 @@ void DesignEdits::addToBOMPart(const Part &part, const QString &property, const 
         m_isMoreRenumbered = m_isMoreRenumbered || (!m_renumbered.isEmpty() && m_renumbered != parent);
         m_renumbered = m_renumbered.isEmpty() ? parent : m_renumbered;
     }
-    m_bomPartLines.append(part.reference() + u' ' + property + QStringLiteral(": ") + quoted(before, {}) +
-                          QStringLiteral(" -> ") + quoted(after, {}) +
-                          QStringLiteral(" (a BOM-only part of ") + parent + u')');
+    m_bomPartChanges.append({part.reference(), property + QStringLiteral(": ") + quotedText(before, {}) +
+                                                   QStringLiteral(" -> ") + quotedText(after, {}) +
+                                                   QStringLiteral(" (a BOM-only part of ") + parent + u')'});
 }
 
 bool DesignEdits::isContradicted(const QString &reference, const QString &property,
@@ -253,19 +212,10 @@ ExitStatus DesignEdits::reportProblems(const QStringList &messages, ExitStatus s
 
 ExitStatus DesignEdits::reportChanges(const WriteResult &result, bool isDryRun)
 {
-    QList<PropertyChange> changes = result.changes;
-    if (changes.isEmpty()) {
+    if (result.changes.isEmpty()) {
         return console::write("nothing to change\n") ? ExitStatus::Done : ExitStatus::UnwritableOutput;
     }
-    std::stable_sort(changes.begin(), changes.end(), [](const PropertyChange &a, const PropertyChange &b) {
-        return compareReferences(a.reference, b.reference) < 0;
-    });
-    QString text;
-    for (const QString &line : m_bomPartLines) {
-        text += printable(line) + u'\n';
-    }
-    for (const PropertyChange &change : std::as_const(changes)) {
-        text += changeLine(change);
+    for (const PropertyChange &change : result.changes) {
         if (!change.before && change.after) {
             m_newProperties.add(change.reference, change.name);
             for (const QString &reference : change.alsoChanges) {
@@ -273,12 +223,12 @@ ExitStatus DesignEdits::reportChanges(const WriteResult &result, bool isDryRun)
             }
         }
     }
-    text += m_newProperties.lines() + summary(changes, result.files.size(), isDryRun);
-    for (const QString &notice : m_newProperties.notices()) {
-        console::message(notice);
-    }
+    const QString text = changeLines(m_bomPartChanges) + changeLines(result.changes) +
+                         m_newProperties.lines() +
+                         changeSummary(result.changes, result.files.size(), isDryRun);
+    console::notices(m_newProperties.notices());
     if (!m_renumbered.isEmpty()) {
-        console::message(
+        console::notice(
             QStringLiteral("BOM-only parts are numbered in the order of their definitions: those of ") +
             m_renumbered + (m_isMoreRenumbered ? QStringLiteral(" and others") : QString()) +
             QStringLiteral(" may change places (bom parts tells)"));

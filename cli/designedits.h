@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/changelist.h"
 #include "cli/console.h"
 #include "cli/newproperties.h"
 #include "core/propertyassignments.h"
@@ -63,7 +64,7 @@ private:
     QHash<std::pair<QString, QString>, QString> m_origins;
     /// What is changed in BOM-only parts, for the report: the changes of the design only name the definitions
     /// of their parents.
-    QStringList m_bomPartLines;
+    QList<BomPartChange> m_bomPartChanges;
     NewProperties m_newProperties;
     /// The first parent whose BOM-only parts may be numbered anew, and whether there are others.
     QString m_renumbered;

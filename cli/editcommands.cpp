@@ -5,7 +5,9 @@
 #include "cli/console.h"
 #include "cli/designedits.h"
 #include "cli/edittable.h"
+#include "cli/newproperties.h"
 #include "cli/opendesign.h"
+#include "core/propertyassignments.h"
 #include "standalone/referencereader.h"
 #include "standalone/tablefile.h"
 
@@ -39,6 +41,9 @@ void SetCommand::addTo(CLI::App &program)
         ->add_option("NAME=VALUE", m_assignments,
                      "Property with its new value; NAME= takes the property away")
         ->required();
+    m_app->add_flag("--new", m_makesNew,
+                    "Make a property that the design does not have, although it has one of nearly the same "
+                    "name");
     m_arguments.addTo(*m_app);
 }
 
@@ -52,6 +57,9 @@ ExitStatus SetCommand::run()
     OpenDesign design(*locale);
     if (const ExitStatus status = design.open(m_arguments.design, true); status != ExitStatus::Done) {
         return status;
+    }
+    if (!areMeant(design, *wanted)) {
+        return ExitStatus::WrongUsage;
     }
     DesignEdits edits(design);
     QString error;
@@ -92,6 +100,28 @@ std::optional<QList<SetCommand::Assignment>> SetCommand::assignments() const
         found.append({name, text.mid(sign + 1)});
     }
     return found;
+}
+
+bool SetCommand::areMeant(OpenDesign &design, const QList<Assignment> &wanted) const
+{
+    bool isMeant = true;
+    for (const Assignment &assignment : wanted) {
+        const QString &name = assignment.property;
+        const bool isRemoved =
+            assignment.value.isEmpty() || assignment.value == PropertyAssignments::removal();
+        const bool isDefined = design.database().propertyTypes().type(name).has_value();
+        if (m_makesNew || isRemoved || isDefined || !isNewProperty(design, name)) {
+            continue;
+        }
+        if (const QStringList similar = similarProperties(design, name); !similar.isEmpty()) {
+            console::message(QStringLiteral("the design has no property \"") + name +
+                             QStringLiteral("\"; did you mean \"") +
+                             similar.join(QStringLiteral("\" or \"")) +
+                             QStringLiteral("\"? (--new makes it)"));
+            isMeant = false;
+        }
+    }
+    return isMeant;
 }
 
 void ApplyCommand::addTo(CLI::App &program)
@@ -145,20 +175,16 @@ ExitStatus ApplyCommand::run()
 void UndoCommand::addTo(CLI::App &program)
 {
     m_app = program.add_subcommand("undo", "Take back what was written into a design last");
-    m_app->add_option("DESIGN", m_design, "KiCad schematic or project, or CSV part list")
-        ->required()
-        ->check(CLI::Validator(isGiven, ""));
+    DesignArguments::addPath(*m_app, m_design);
 }
 
 ExitStatus UndoCommand::run()
 {
     const CliUi ui(QLocale::c());
     DesignSession session;
-    if (!session.open(QString::fromStdString(m_design))) {
-        for (const QString &error : session.errors()) {
-            console::message(error);
-        }
-        return ExitStatus::UnreadableInput;
+    if (const ExitStatus status = openSession(session, QString::fromStdString(m_design), {});
+        status != ExitStatus::Done) {
+        return status;
     }
     if (!session.canUndo()) {
         console::message(QString::fromStdString(m_design) +
@@ -166,12 +192,14 @@ ExitStatus UndoCommand::run()
         return ExitStatus::DesignProblem;
     }
     const UndoResult undone = session.undo({.rereads = false});
-    for (const QString &problem : undone.problems + undone.notices) {
+    for (const QString &problem : undone.problems) {
         console::message(problem);
     }
+    console::notices(undone.notices);
     QString text;
     for (const QString &file : undone.files) {
-        text += printable(file) + QStringLiteral(" has its previous content again\n");
+        text +=
+            printable(console::withShownPaths(file)) + QStringLiteral(" has its previous content again\n");
     }
     if (!console::write(text.toUtf8())) {
         console::message(

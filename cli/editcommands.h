@@ -16,6 +16,8 @@
 #include <string>
 #include <vector>
 
+class OpenDesign;
+
 /// The part of a command line that says which design is changed, and how.
 struct WriteArguments
 {
@@ -44,10 +46,13 @@ private:
     };
     /// Nothing, after a message, when one of them is none or a property is named twice.
     [[nodiscard]] std::optional<QList<Assignment>> assignments() const;
+    /// False, after messages, when a new property may be another one misspelt.
+    [[nodiscard]] bool areMeant(OpenDesign &design, const QList<Assignment> &wanted) const;
 
     WriteArguments m_arguments;
     std::string m_references;
     std::vector<std::string> m_assignments;
+    bool m_makesNew = false;
 };
 
 /// bom apply: takes the values of an edited report into the design.

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "cli/checkcommand.h"
+#include "cli/commandline.h"
 #include "cli/console.h"
 #include "cli/editcommands.h"
+#include "cli/helpcommand.h"
 #include "cli/partscommand.h"
 #include "cli/reportcommand.h"
 #include "cli/templatechoice.h"
 #include "cli/templatecommand.h"
+#include "cli/variantscommand.h"
 #include "standalone/environment.h"
-
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
 
 #include <QGuiApplication>
 #include <QHashFunctions>
@@ -18,13 +18,7 @@
 #include <algorithm>
 #include <array>
 #include <clocale>
-#include <initializer_list>
 #include <memory>
-#include <optional>
-#include <sstream>
-#include <string>
-#include <string_view>
-#include <vector>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -41,76 +35,23 @@ void occupyClosedStreams()
     }
 }
 
-/// Help and version go to standard output; what is wrong goes, as one line, to standard error.
-ExitStatus printParseResult(const CLI::App &program, const CLI::ParseError &result)
-{
-    if (result.get_exit_code() == int(CLI::ExitCodes::Success)) {
-        std::ostringstream text;
-        std::ostringstream none;
-        (void)program.exit(result, text, none);
-        return console::write(QByteArray::fromStdString(text.str())) ? ExitStatus::Done
-                                                                     : ExitStatus::UnwritableOutput;
-    }
-    console::message(QString::fromStdString(result.what()) + QStringLiteral(" (bom --help tells more)"));
-    return ExitStatus::WrongUsage;
-}
-
-ExitStatus printUnknownWord(const QString &word)
-{
-    constexpr qsizetype longestWord = 40;
-    console::message((word.startsWith(u'-') ? QStringLiteral("there is no option \"")
-                                            : QStringLiteral("there is no command \"")) +
-                     word.left(longestWord) + QStringLiteral("\" (bom --help tells more)"));
-    return ExitStatus::WrongUsage;
-}
-
-/// The first of the unexpected words that looks like an option: what follows it is its value, or unexpected
-/// only because of it. Empty when there is none.
-std::string firstUnknownOption(const CLI::App &program, int argc, char *argv[])
-{
-    const std::vector<std::string> unexpected = program.remaining(true);
-    for (int at = 1; at < argc; ++at) {
-        const std::string word = argv[at];
-        const std::string name = word.substr(0, word.find('='));
-        const bool isUnexpected = std::find(unexpected.begin(), unexpected.end(), word) != unexpected.end();
-        if (isUnexpected && name.size() > 1 && name.front() == '-') {
-            return name;
-        }
-    }
-    return {};
-}
-
-/// Nothing when the command line is well formed.
-std::optional<ExitStatus> parse(CLI::App &program, int argc, char *argv[])
-{
-    try {
-        program.parse(argc, argv);
-    } catch (const CLI::RequiredError &result) {
-        if (program.get_subcommands().empty() && argc > 1) {
-            return printUnknownWord(QString::fromLocal8Bit(argv[1]));
-        }
-        if (argc == 2 && std::string_view(argv[1]) == "template") {
-            console::message(QStringLiteral("a subcommand is required, such as list or show (bom template "
-                                            "--help tells more)"));
-            return ExitStatus::WrongUsage;
-        }
-        return printParseResult(program, result);
-    } catch (const CLI::ExtrasError &result) {
-        const std::string option = firstUnknownOption(program, argc, argv);
-        return option.empty() ? printParseResult(program, result)
-                              : printUnknownWord(QString::fromLocal8Bit(option.c_str()));
-    } catch (const CLI::ParseError &result) {
-        return printParseResult(program, result);
-    }
-    return std::nullopt;
-}
-
 /// The libraries' own remarks are no messages of this program; BOM_DEBUG shows them.
 void handleLibraryMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     static const bool isShown = !qEnvironmentVariableIsEmpty("BOM_DEBUG");
     if (isShown || type == QtCriticalMsg || type == QtFatalMsg) {
         console::message(text);
+    }
+}
+
+/// Before and behind the command, as people write it.
+void addQuiet(CLI::App &app, bool *isQuiet)
+{
+    for (CLI::App *command : app.get_subcommands({})) {
+        addQuiet(*command, isQuiet);
+    }
+    if (app.get_require_subcommand_min() == 0 || !app.get_parent()) {
+        app.add_flag("-q,--quiet", *isQuiet, "Leave out notices on standard error; errors stay");
     }
 }
 
@@ -167,18 +108,24 @@ int main(int argc, char *argv[])
     SetCommand set;
     ApplyCommand apply;
     UndoCommand undo;
+    VariantsCommand variants;
     TemplateCommand templates;
-    const std::array<Command *, 7> commands{&report, &parts, &check, &set, &apply, &undo, &templates};
+    HelpCommand help;
+    const std::array<Command *, 9> commands{&report, &parts, &check,     &variants, &set,
+                                            &apply,  &undo,  &templates, &help};
 
     CLI::App program("Bills of materials from KiCad designs and CSV part lists.", "bom");
-    program.set_version_flag("--version", "bom " BOM_VERSION);
+    program.set_version_flag("-V,--version", "bom " BOM_VERSION);
     program.require_subcommand(1);
     for (Command *command : commands) {
         command->addTo(program);
     }
-    if (const auto status = parse(program, argc, argv)) {
+    bool isQuiet = false;
+    addQuiet(program, &isQuiet);
+    if (const auto status = parseCommandLine(program, argc, argv)) {
         return int(*status);
     }
+    console::setQuiet(isQuiet);
     const auto chosen = std::find_if(commands.begin(), commands.end(),
                                      [](const Command *command) { return command->isChosen(); });
     return int(chosen == commands.end() ? ExitStatus::WrongUsage : run(**chosen, argv));

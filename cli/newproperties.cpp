@@ -58,8 +58,20 @@ bool differsByOneLetter(const QString &a, const QString &b)
     return isSwapped || rest.mid(1) == otherRest.mid(1);
 }
 
-/// The names under which parts have a property.
-QStringList usedNames(OpenDesign &open)
+} // namespace
+
+bool hasProperty(OpenDesign &design, const QString &name)
+{
+    if (!design.design().design().names().candidates(name.toStdString()).empty()) {
+        return true;
+    }
+    const auto parts = design.database().parts();
+    return std::any_of(parts.begin(), parts.end(), [&name](const Part *part) {
+        return part->isBOMPart() && static_cast<const BOMPart *>(part)->properties().contains(name.toUpper());
+    });
+}
+
+QStringList propertyNames(OpenDesign &open)
 {
     const designs::Design &design = open.design().design();
     std::vector<bool> isUsed(design.names().size(), false);
@@ -84,24 +96,16 @@ QStringList usedNames(OpenDesign &open)
     return names;
 }
 
-} // namespace
-
-bool hasProperty(OpenDesign &design, const QString &name)
+bool isNewProperty(OpenDesign &design, const QString &name)
 {
-    if (!design.design().design().names().candidates(name.toStdString()).empty()) {
-        return true;
-    }
-    const auto parts = design.database().parts();
-    return std::any_of(parts.begin(), parts.end(), [&name](const Part *part) {
-        return part->isBOMPart() && static_cast<const BOMPart *>(part)->properties().contains(name.toUpper());
-    });
+    return !hasOwnMeaning(name) && !hasProperty(design, name);
 }
 
 QStringList similarProperties(OpenDesign &design, const QString &name)
 {
     const QString plain = plainName(name);
     QStringList similar;
-    for (const QString &used : usedNames(design)) {
+    for (const QString &used : propertyNames(design)) {
         const QString other = plainName(used);
         const bool isSimilar = !other.isEmpty() && (other == plain || differsByOneLetter(other, plain));
         if (isSimilar && used.compare(name, Qt::CaseInsensitive) != 0) {
@@ -116,8 +120,7 @@ void NewProperties::add(const QString &reference, const QString &property)
     const QString key = property.toCaseFolded();
     auto found = m_properties.find(key);
     if (found == m_properties.end()) {
-        const bool isNew = !hasOwnMeaning(property) && !hasProperty(m_design, property);
-        found = m_properties.insert(key, {property, isNew, {}});
+        found = m_properties.insert(key, {property, isNewProperty(m_design, property), {}});
     }
     if (found->isNew) {
         found->references.insert(reference);

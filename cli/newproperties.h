@@ -13,6 +13,13 @@ class OpenDesign;
 /// property.
 [[nodiscard]] bool hasProperty(OpenDesign &design, const QString &name);
 
+/// The names under which parts have a property.
+[[nodiscard]] QStringList propertyNames(OpenDesign &design);
+
+/// Whether an edit would bring a name into the design that had none such, and that the program itself gives
+/// no meaning, as it does DNP.
+[[nodiscard]] bool isNewProperty(OpenDesign &design, const QString &name);
+
 /// The names of properties which parts have and which may be meant by a name that no part has: those that
 /// differ from it in blanks and signs, or by one letter that is added, missing, another one or changed places
 /// with the next. A digit makes another name: MPN2 is none for MPN.

@@ -3,6 +3,9 @@
 #include "cli/opendesign.h"
 
 #include "cli/console.h"
+#include "cli/designpath.h"
+#include "cli/nearnames.h"
+#include "cli/progressline.h"
 #include "cli/templatechoice.h"
 #include "host/netlist/netlist.h"
 #include "host/propdefs/propdefsfile.h"
@@ -12,6 +15,42 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+
+#include <utility>
+
+namespace {
+
+/// What may be meant by a variant that the design does not have; empty where nothing is near, or the design
+/// cannot be read without it either.
+QString variantHint(DesignSession &session, const QString &path, OpenOptions options)
+{
+    const QString wanted = std::exchange(options.variant, {});
+    return !wanted.isEmpty() && session.open(path, options) ? didYouMean(wanted, session.variants())
+                                                            : QString();
+}
+
+} // namespace
+
+ExitStatus openSession(DesignSession &session, const QString &named, const OpenOptions &options)
+{
+    const auto path = designPath(named);
+    if (!path) {
+        return ExitStatus::WrongUsage;
+    }
+    const bool isOpen = [&] {
+        const ProgressLine progress(QStringLiteral("reading ") + *path);
+        return session.open(*path, options);
+    }();
+    QStringList errors = session.errors();
+    if (isOpen) {
+        return ExitStatus::Done;
+    }
+    errors.last() += variantHint(session, *path, options);
+    for (const QString &error : std::as_const(errors)) {
+        console::message(error);
+    }
+    return ExitStatus::UnreadableInput;
+}
 
 ExitStatus OpenDesign::open(const DesignArguments &arguments, bool printsWarnings)
 {
@@ -25,23 +64,19 @@ ExitStatus OpenDesign::open(const DesignArguments &arguments, bool printsWarning
         return ExitStatus::UnreadableInput;
     }
     m_session.setDnpChoice(arguments.dnpChoice());
-    if (!m_session.open(arguments.path(), arguments.openOptions())) {
-        for (const QString &error : m_session.errors()) {
-            console::message(error);
-        }
-        return ExitStatus::UnreadableInput;
+    if (const ExitStatus status = openSession(m_session, arguments.path(), arguments.openOptions());
+        status != ExitStatus::Done) {
+        return status;
     }
     if (printsWarnings) {
-        for (const QString &warning : m_session.warnings()) {
-            console::message(warning);
-        }
+        console::notices(m_session.warnings());
     }
     m_session.projectNotes().setPagePainter([](QPainter &painter, const QString &text) {
         (void)paintTextPages(painter, QCoreApplication::translate("ProjectNotes", "Project Notes"), text);
     });
     fillDatabase(*settings);
     for (const QString &repair : m_database.templateRepairs()) {
-        console::message(settings->filePath() + QStringLiteral(": ") + repair);
+        console::notice(settings->filePath() + QStringLiteral(": ") + repair);
     }
     return ExitStatus::Done;
 }
@@ -56,7 +91,7 @@ bool OpenDesign::loadDefinitions(const QString &path)
     QStringList problems;
     const bool isLoaded = load_defaultdefs(nullptr, nullptr, &problems);
     for (const QString &problem : std::as_const(problems)) {
-        console::message(problem);
+        isLoaded ? console::notice(problem) : console::message(problem);
     }
     return isLoaded;
 }

@@ -8,6 +8,10 @@
 #include "host/netlist/netcache.h"
 #include "standalone/designsession.h"
 
+/// Opens the design that a command line names in the session; prints what is wrong.
+[[nodiscard]] ExitStatus openSession(DesignSession &session, const QString &named,
+                                     const OpenOptions &options);
+
 /// A design that was opened for a command, with its parts database under the template that was asked for.
 class OpenDesign final
 {

@@ -118,9 +118,7 @@ ExitStatus PartsCommand::run()
     }
     const PartsListing listing = listParts(design);
     // Only now: the board file is read when the first part is placed.
-    for (const QString &warning : design.session().warnings()) {
-        console::message(warning);
-    }
+    console::notices(design.session().warnings());
     const QByteArray text = m_json ? jsonText(design, listing) : readableText(listing).toUtf8();
     return console::write(text) ? ExitStatus::Done : ExitStatus::UnwritableOutput;
 }

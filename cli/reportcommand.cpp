@@ -9,6 +9,8 @@
 #include "cli/console.h"
 #include "cli/opendesign.h"
 #include "cli/outputfile.h"
+#include "cli/terminal.h"
+#include "host/framework/hostui.h"
 #include "host/propdefs/propdefsfile.h"
 #include "templates/oldhtmltemplate.h"
 #include "views/pdfreport.h"
@@ -19,6 +21,7 @@
 #include "views/report/report.h"
 #include "views/report/spreadsheetreport.h"
 #include "views/report/templatemarkup.h"
+#include "views/report/terminalreport.h"
 
 #include <QFileInfo>
 #include <QFont>
@@ -45,13 +48,13 @@ bool hasFonts()
 } // namespace
 
 const std::array<ReportCommand::OutputOption, 7> ReportCommand::outputOptions{{
-    {"--csv", "Write CSV with one row per line of the bill; - is standard output", Form::Csv},
-    {"--full-csv", "Write CSV with one row per part; - is standard output", Form::FullCsv},
-    {"--ascii", "Write text in columns of fixed widths; - is standard output", Form::Ascii},
-    {"--html", "Write a web page (XHTML); - is standard output", Form::Html},
-    {"--pdf", "Write a PDF document; - is standard output", Form::Pdf},
-    {"--xlsx", "Write a spreadsheet (.xlsx); - is standard output", Form::Xlsx},
-    {"--json", "Write JSON for programs; - is standard output", Form::Json},
+    {"--csv", "Write CSV with one row per line of the bill; - is standard output", Form::Csv, "csv"},
+    {"--full-csv", "Write CSV with one row per part; - is standard output", Form::FullCsv, ""},
+    {"--ascii", "Write text in columns of fixed widths; - is standard output", Form::Ascii, "txt"},
+    {"--html", "Write a web page (XHTML); - is standard output", Form::Html, "html"},
+    {"--pdf", "Write a PDF document; - is standard output", Form::Pdf, "pdf"},
+    {"--xlsx", "Write a spreadsheet (.xlsx); - is standard output", Form::Xlsx, "xlsx"},
+    {"--json", "Write JSON for programs; - is standard output", Form::Json, "json"},
 }};
 
 void ReportCommand::addTo(CLI::App &program)
@@ -59,9 +62,18 @@ void ReportCommand::addTo(CLI::App &program)
     m_app = program.add_subcommand("report", "Write the bill of materials; text in columns goes to standard "
                                              "output when no output is named");
     m_design.addTo(*m_app);
+    m_app
+        ->add_option("-o,--output", m_outputs,
+                     "Write the form that the file's ending says: .csv, .html, .json, .pdf, .txt, .xlsx")
+        ->type_name("F")
+        ->allow_extra_args(false);
     for (size_t i = 0; i < outputOptions.size(); ++i) {
         m_app->add_option(outputOptions[i].name, m_paths[i], outputOptions[i].description)->type_name("F");
     }
+    m_app->add_flag(
+        "--excel-csv", m_isForSpreadsheets,
+        "Write CSV as spreadsheet programs open it by a double click: with a byte order mark, and "
+        "semicolons where --locale has a decimal comma");
     m_app->add_flag("--allow-duplicates", m_allowDuplicates,
                     "Write the report although references occur more than once");
     m_locale.addTo(*m_app, "Format numbers as in this locale, such as de_DE; C without it");
@@ -81,7 +93,14 @@ ExitStatus ReportCommand::run()
         return ExitStatus::WrongUsage;
     }
     const QList<Output> outputs = this->outputs();
-    if (!areDistinct(outputs)) {
+    if (!haveForms() || !areDistinct(outputs)) {
+        return ExitStatus::WrongUsage;
+    }
+    const bool hasCsv = std::any_of(outputs.cbegin(), outputs.cend(), [](const Output &output) {
+        return output.form == Form::Csv || output.form == Form::FullCsv;
+    });
+    if (m_isForSpreadsheets && !hasCsv) {
+        console::message(QStringLiteral("--excel-csv needs an output of CSV (bom report --help tells more)"));
         return ExitStatus::WrongUsage;
     }
     OpenDesign design(*locale);
@@ -95,16 +114,19 @@ ExitStatus ReportCommand::run()
     if (!shouldContinue(design, components)) {
         return ExitStatus::DesignProblem;
     }
-    for (const QString &notice :
-         reportNotices(components, design.database(), formsOf(outputs)) + missingNotes(design, outputs)) {
-        console::message(notice);
-    }
+    console::notices(reportNotices(components, design.database(), formsOf(outputs)) +
+                     missingNotes(design, outputs));
     return write(design, outputs);
 }
 
 QList<ReportCommand::Output> ReportCommand::outputs() const
 {
     QList<Output> outputs;
+    for (const std::string &path : m_outputs) {
+        if (const OutputOption *option = optionOf(QString::fromStdString(path))) {
+            outputs.append({QString::fromStdString(path), option->form});
+        }
+    }
     for (size_t i = 0; i < outputOptions.size(); ++i) {
         if (m_app->count(outputOptions[i].name) > 0) {
             outputs.append({QString::fromStdString(m_paths[i]), outputOptions[i].form});
@@ -114,6 +136,34 @@ QList<ReportCommand::Output> ReportCommand::outputs() const
         outputs.append({QStringLiteral("-"), Form::Ascii});
     }
     return outputs;
+}
+
+const ReportCommand::OutputOption *ReportCommand::optionOf(const QString &path)
+{
+    const QString ending = QFileInfo(path).suffix().toLower();
+    const auto found =
+        std::find_if(outputOptions.begin(), outputOptions.end(), [&ending](const OutputOption &option) {
+            return !ending.isEmpty() && ending == QLatin1String(option.ending);
+        });
+    return found == outputOptions.end() ? nullptr : &*found;
+}
+
+bool ReportCommand::haveForms() const
+{
+    for (const std::string &text : m_outputs) {
+        const QString path = QString::fromStdString(text);
+        if (path.isEmpty()) {
+            console::message(QStringLiteral("an output needs a file name"));
+            return false;
+        }
+        if (!optionOf(path)) {
+            console::message(
+                path + QStringLiteral(": the ending says no form of a report; -o takes .csv, .html, .json, "
+                                      ".pdf, .txt and .xlsx, other names need --csv or its like"));
+            return false;
+        }
+    }
+    return true;
 }
 
 bool ReportCommand::areDistinct(const QList<Output> &outputs)
@@ -155,14 +205,15 @@ bool ReportCommand::protectDesignFiles(OpenDesign &design, const QList<Output> &
 
 bool ReportCommand::shouldContinue(OpenDesign &design, const ComponentAccount &components) const
 {
+    const bool isAllowed = m_allowDuplicates || design.database().duplicateReferences().isEmpty();
     qsizetype count = 0;
     for (const RepeatedReference &repeated : components.repeated) {
         count += repeated.listed > 1 ? 1 : 0;
         if (repeated.isDoubtful()) {
-            console::message(repeated.message());
+            isAllowed ? console::notice(repeated.message()) : console::message(repeated.message());
         }
     }
-    if (m_allowDuplicates || design.database().duplicateReferences().isEmpty()) {
+    if (isAllowed) {
         return true;
     }
     const QStringList bomParts = repeatedBomParts(design.database());
@@ -206,24 +257,32 @@ QStringList ReportCommand::missingNotes(OpenDesign &design, const QList<Output> 
     return problems;
 }
 
-ReportCommand::Content ReportCommand::content(Form form, BOMPartsDatabase &database)
+QByteArray ReportCommand::columns(const Output &output, const Report &report)
 {
+    const auto terminal = isStandardOutput(output.path) ? outputTerminal() : std::nullopt;
+    return terminal ? terminalReport(report, *terminal) : asciiReport(report);
+}
+
+ReportCommand::Content ReportCommand::content(const Output &output, BOMPartsDatabase &database) const
+{
+    const Form form = output.form;
     if (form == Form::Html || form == Form::Pdf) {
         return documentContent(form, database);
     }
     const BOMTemplate &settings = database.currentTemplate();
     const Report report(database, dataFields(settings.fields(), settings));
     if (form == Form::Ascii) {
-        return {asciiReport(report)};
+        return {columns(output, report)};
     }
     if (form == Form::Json) {
         return {jsonReport(report)};
     }
     if (form == Form::Xlsx) {
-        const SpreadsheetReport output = spreadsheetReport(report);
-        return {output.file, output.problem, output.notices};
+        const SpreadsheetReport made = spreadsheetReport(report);
+        return {made.file, made.problem, made.notices};
     }
-    return {csvReport(report, form == Form::FullCsv ? CsvRows::Parts : CsvRows::Lines)};
+    return {csvReport(report, form == Form::FullCsv ? CsvRows::Parts : CsvRows::Lines,
+                      m_isForSpreadsheets ? spreadsheetDialect(HostUi::current().locale()) : CsvDialect())};
 }
 
 ReportCommand::Content ReportCommand::documentContent(Form form, BOMPartsDatabase &database)
@@ -234,7 +293,9 @@ ReportCommand::Content ReportCommand::documentContent(Form form, BOMPartsDatabas
     BOMTemplate settings = database.currentTemplate();
     if (upgradeTemplate(settings)) {
         database.setTemplateLook(settings);
-        showTemplateUpgraded(nullptr, settings.name());
+        if (!console::isQuiet()) {
+            showTemplateUpgraded(nullptr, settings.name());
+        }
     }
     const Report report(database, database.currentTemplate().fields());
     return {form == Form::Pdf ? pdfReport(report) : htmlReport(report).toUtf8(),
@@ -242,18 +303,18 @@ ReportCommand::Content ReportCommand::documentContent(Form form, BOMPartsDatabas
             templateMarkup(report.settings()).notices};
 }
 
-ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs)
+ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs) const
 {
     ExitStatus status = ExitStatus::Done;
     for (const Output &output : outputs) {
-        const Content content = ReportCommand::content(output.form, design.database());
+        const Content content = this->content(output, design.database());
         if (!content.problem.isEmpty()) {
             console::message(output.path + QStringLiteral(": is not written: ") + content.problem);
             status = ExitStatus::UnwritableOutput;
             continue;
         }
         for (const QString &notice : content.notices) {
-            console::message(output.path + QStringLiteral(": ") + notice);
+            console::notice(output.path + QStringLiteral(": ") + notice);
         }
         if (!writeOutput(output.path, content.bytes)) {
             status = ExitStatus::UnwritableOutput;

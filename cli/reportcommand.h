@@ -11,9 +11,11 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 class BOMPartsDatabase;
 class OpenDesign;
+class Report;
 struct ComponentAccount;
 struct ReportForms;
 
@@ -43,6 +45,8 @@ private:
         const char *name;
         const char *description;
         Form form;
+        /// The ending of file names that stands for the form; empty where none does.
+        const char *ending;
     };
     struct Output
     {
@@ -61,6 +65,10 @@ private:
     static const std::array<OutputOption, 7> outputOptions;
 
     [[nodiscard]] QList<Output> outputs() const;
+    /// The option of the form that the ending of a file name says; null when it says none.
+    [[nodiscard]] static const OutputOption *optionOf(const QString &path);
+    /// False, after a message, when an output has no ending that says its form.
+    [[nodiscard]] bool haveForms() const;
     [[nodiscard]] static bool areDistinct(const QList<Output> &outputs);
     /// False, after a message, when an output would overwrite a file that belongs to the design.
     [[nodiscard]] bool protectDesignFiles(OpenDesign &design, const QList<Output> &outputs) const;
@@ -69,13 +77,18 @@ private:
     [[nodiscard]] static ReportForms formsOf(const QList<Output> &outputs);
     /// The user's notes that cannot be read and are missing in the documents, one sentence each.
     [[nodiscard]] static QStringList missingNotes(OpenDesign &design, const QList<Output> &outputs);
-    [[nodiscard]] static Content content(Form form, BOMPartsDatabase &database);
+    [[nodiscard]] Content content(const Output &output, BOMPartsDatabase &database) const;
     [[nodiscard]] static Content documentContent(Form form, BOMPartsDatabase &database);
-    [[nodiscard]] static ExitStatus write(OpenDesign &design, const QList<Output> &outputs);
+    /// The text in columns: fitted to the terminal that it goes to, else as the template says.
+    [[nodiscard]] static QByteArray columns(const Output &output, const Report &report);
+    [[nodiscard]] ExitStatus write(OpenDesign &design, const QList<Output> &outputs) const;
 
     DesignArguments m_design;
+    /// Whose endings say their forms.
+    std::vector<std::string> m_outputs;
     /// In the order of the options.
     std::array<std::string, 7> m_paths;
     LocaleOption m_locale;
     bool m_allowDuplicates = false;
+    bool m_isForSpreadsheets = false;
 };

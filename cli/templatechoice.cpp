@@ -3,6 +3,7 @@
 #include "cli/templatechoice.h"
 
 #include "cli/console.h"
+#include "cli/nearnames.h"
 #include "standalone/environment.h"
 #include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
@@ -56,6 +57,12 @@ void prepareTemplates()
     });
 }
 
+void reportUnknownTemplate(const QString &name, const TemplateList &templates)
+{
+    console::message(QStringLiteral("there is no template \"") + name + u'"' +
+                     didYouMean(name, templates.names()) + QStringLiteral(" (bom template list names them)"));
+}
+
 std::optional<BOMTemplate> readTemplate(const QString &nameOrFile)
 {
     if (isFileName(nameOrFile)) {
@@ -74,8 +81,7 @@ std::optional<BOMTemplate> readTemplate(const QString &nameOrFile)
     store.reload();
     const QString name = store.templates().listedName(nameOrFile);
     if (name.isEmpty()) {
-        console::message(QStringLiteral("there is no template \"") + nameOrFile +
-                         QStringLiteral("\" (bom template list names them)"));
+        reportUnknownTemplate(nameOrFile, store.templates());
         return std::nullopt;
     }
     BOMTemplate settings = store.templates().stored(name);

@@ -185,10 +185,10 @@ ExitStatus TemplateCommand::run()
 
 QString TemplateCommand::listedName(const TemplateStore &store) const
 {
-    const QString name = store.templates().listedName(QString::fromStdString(m_name));
+    const QString wanted = QString::fromStdString(m_name);
+    const QString name = store.templates().listedName(wanted);
     if (name.isEmpty()) {
-        console::message(QStringLiteral("there is no template \"") + QString::fromStdString(m_name) +
-                         QStringLiteral("\" (bom template list names them)"));
+        reportUnknownTemplate(wanted, store.templates());
     }
     return name;
 }
@@ -279,7 +279,7 @@ ExitStatus TemplateCommand::importLegacy(TemplateStore &store)
     const std::optional<LegacyScript> found =
         readLegacyScript(QString::fromStdString(m_file), QString::fromStdString(m_script), &problems);
     for (const QString &problem : std::as_const(problems)) {
-        console::message(problem);
+        found ? console::notice(problem) : console::message(problem);
     }
     if (!found) {
         return ExitStatus::UnreadableInput;
@@ -295,8 +295,8 @@ ExitStatus TemplateCommand::importLegacy(TemplateStore &store)
     setpropdefsfile(userDefinitionsFile());
     const QStringList undefined = undefinedProperties(made);
     if (!undefined.isEmpty()) {
-        console::message(QStringLiteral("properties without a definition: ") +
-                         undefined.join(QLatin1String(", ")));
+        console::notice(QStringLiteral("properties without a definition: ") +
+                        undefined.join(QLatin1String(", ")));
     }
     return console::write(made.name().toUtf8() + '\n') ? ExitStatus::Done : ExitStatus::UnwritableOutput;
 }
@@ -310,7 +310,8 @@ ExitStatus TemplateCommand::exportFile(TemplateStore &store)
     }
     QString reason;
     const auto content = store.templates().document(name, &reason);
-    if (BOMTemplate settings = store.templates().stored(name); content && upgradeTemplate(settings)) {
+    if (BOMTemplate settings = store.templates().stored(name);
+        content && upgradeTemplate(settings) && !console::isQuiet()) {
         showTemplateUpgraded(nullptr, name);
     }
     if (!content) {

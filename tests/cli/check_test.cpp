@@ -6,7 +6,9 @@
 
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 struct CheckCase
 {
@@ -42,7 +44,7 @@ TEST_F(Check, AccountsForEverySymbolAndListsWhatIsToDecideAndToKnow)
         EXPECT_EQ(result.out, data("check", name + ".expected")) << c.design;
     }
     EXPECT_THAT(run("parts unreadable-companions.kicad_sch").err,
-                HasSubstr("bom: DIR/unreadable-companions.kicad_pcb:"));
+                HasSubstr("bom: unreadable-companions.kicad_pcb:"));
     EXPECT_EQ(run("check left-out-bom-only-parts.csv --dnp include").out,
               data("check", "left-out-bom-only-parts.included"));
     EXPECT_THAT(run("report unread-texts.csv --template unread-texts.bomt --propdefs unread-texts.ini").err,
@@ -50,6 +52,18 @@ TEST_F(Check, AccountsForEverySymbolAndListsWhatIsToDecideAndToKnow)
                           "\"\"5\"\" on R5, \"$1.50\" on R3, \"1,234.50\" on R1-R2, ...\n"));
     EXPECT_THAT(run("report not-annotated.kicad_sch --allow-duplicates").err,
                 HasSubstr("bom: 3 symbols are not annotated"));
+}
+
+TEST_F(Check, TellsProgramsTheSame)
+{
+    (void)copyData("check", "in-and-out.csv");
+    const ProgramRun result = run("check in-and-out.csv --json");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.out, StartsWith("{\"design\":{\"title\":"));
+    EXPECT_THAT(result.out, HasSubstr("{\"name\":\"components\",\"count\":3,\"text\":\"3\"},\n"));
+    EXPECT_THAT(result.out, HasSubstr("\"text\":\"1: R1\",\"references\":[\"R1\"]}"));
+    EXPECT_THAT(result.out, HasSubstr("\"findings\":[\"in-and-out.csv:2: R1 occurs 2 times"));
+    EXPECT_THAT(result.out, EndsWith("\"notices\":[]\n}\n"));
 }
 
 TEST_F(Check, TakesOneNameForEachRequire)
@@ -63,7 +77,7 @@ TEST_F(Check, TakesOneNameForEachRequire)
 TEST_F(Check, FindsAReferenceInAndOutOfTheBillForEveryChoice)
 {
     (void)copyData("check", "in-and-out.csv");
-    const std::string repeated = "DIR/in-and-out.csv:2: R1 occurs 2 times, also at DIR/in-and-out.csv:3";
+    const std::string repeated = "in-and-out.csv:2: R1 occurs 2 times, also at in-and-out.csv:3";
     for (const char *choice : {"exclude", "include", "only"}) {
         const ProgramRun result = run((std::string("check in-and-out.csv --dnp ") + choice).c_str());
         EXPECT_EQ(result.status, 1) << choice;

@@ -25,10 +25,17 @@ bool isOneMessage(const std::string &err)
 
 TEST_F(Usage, HelpAndVersionGoToStandardOutput)
 {
-    const std::pair<const char *, const char *> cases[] = {
-        {"--help", "report"},       {"--version", "bom "},         {"report --help", "--full-csv"},
-        {"parts --help", "--json"}, {"check --help", "--require"}, {"set --help", "--dry-run"},
-        {"apply --help", "EDITS"},  {"undo --help", "DESIGN"}};
+    const std::pair<const char *, const char *> cases[] = {{"--help", "report"},
+                                                           {"--version", "bom "},
+                                                           {"report --help", "--full-csv"},
+                                                           {"parts --help", "--json"},
+                                                           {"check --help", "--require"},
+                                                           {"set --help", "--dry-run"},
+                                                           {"apply --help", "EDITS"},
+                                                           {"undo --help", "DESIGN"},
+                                                           {"help", "report"},
+                                                           {"-V", "bom "},
+                                                           {"help template show", "bom template show"}};
     for (const auto &[arguments, expected] : cases) {
         const ProgramRun result = run(arguments);
         EXPECT_EQ(result.status, 0) << arguments;
@@ -65,12 +72,80 @@ TEST_F(Usage, WhatIsUnknownIsNamed)
     const std::pair<std::string, std::string> cases[] = {
         {"frob", "no command \"frob\" "},
         {"--frob", "no option \"--frob\" "},
-        {"report --htlm x a.csv", "no option \"--htlm\" "},
+        {"reprot a.csv", "no command \"reprot\"; did you mean \"report\"? ("},
+        {"help chek", "no command \"chek\"; did you mean \"check\"? ("},
+        {"template shwo x", "no command \"template shwo\"; did you mean \"show\"? (bom template --help"},
+        {"report --htlm x a.csv", "no option \"--htlm\"; did you mean \"--html\"? ("},
+        {"report --full", "no option \"--full\"; did you mean \"--full-csv\"? ("},
+        {"report a.csv --template Purchsing", "template \"Purchsing\"; did you mean \"Purchasing\"? ("},
+        {"template show asembly", "template \"asembly\"; did you mean \"Assembly\"? ("},
+        {"report a.csv --template Frob", "template \"Frob\" (bom template list names them)"},
+        {"report fields-and-flags.kicad_sch --variant Lit",
+         "\"Lit\"; it has Full, Lite; did you mean \"Lite\"?\n"},
         {"template", "bom template --help"},
         {"report a.csv --locale " + longName, "unknown locale \"" + longName.substr(0, 40) + "\"\n"}};
+    write(QStringLiteral("a.csv"), "Reference,Value,MPN\nR1,10k,\n");
+    (void)copyData("kicad/variants", "fields-and-flags.kicad_sch");
     for (const auto &[arguments, expected] : cases) {
         EXPECT_THAT(run(arguments.c_str()).err, HasSubstr(expected)) << arguments;
     }
+    EXPECT_THAT(run("check a.csv --require MPM").out,
+                HasSubstr("\n  no part has a property \"MPM\"; did you mean \"MPN\"?\n"));
+}
+
+TEST_F(Usage, AFolderStandsForTheOneDesignInIt)
+{
+    const QDir here(path({}));
+    ASSERT_TRUE(here.mkdir(QStringLiteral("kicad")) && here.mkdir(QStringLiteral("lists")));
+    write(QStringLiteral("kicad/bom.csv"), "Reference,Value\nC1,1u\n");
+    write(QStringLiteral("kicad/_autosave-a.kicad_sch"), "");
+    write(QStringLiteral("kicad/a.kicad_sch"), kicadSchematic({{"R1", "10k"}, {"R1", "22k"}}));
+    write(QStringLiteral("lists/a.csv"), "Reference,Value\nR2,10k\n");
+    EXPECT_THAT(run("check kicad").out,
+                HasSubstr("  kicad/a.kicad_sch:19: R1 occurs 2 times, also at kicad/"));
+    EXPECT_THAT(run("check .").err, HasSubstr("bom: .: this is a folder; give"));
+    EXPECT_THAT(run("report lists/ --csv -").out, HasSubstr("R2"));
+    write(QStringLiteral("lists/b.csv"), "Reference,Value\nR3,10k\n");
+    for (const char *command : {"report lists", "undo lists", "variants lists", "set lists R1 A=1"}) {
+        const ProgramRun result = run(command);
+        EXPECT_EQ(result.status, 2) << command;
+        EXPECT_EQ(result.err,
+                  "bom: lists: this folder has several designs, name one of them: a.csv, b.csv\n");
+    }
+}
+
+TEST_F(Usage, TheEndingOfAnOutputSaysItsForm)
+{
+    write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
+    EXPECT_EQ(run("report a.csv -o b.csv -o b.TXT --output b.html -o b.json -o b.pdf -o b.xlsx").status, 0);
+    EXPECT_EQ(read(QStringLiteral("b.csv")), run("report a.csv --csv -").out);
+    EXPECT_EQ(read(QStringLiteral("b.TXT")), run("report a.csv").out);
+    const std::pair<const char *, const char *> starts[] = {
+        {"b.html", "<!DOCTYPE"}, {"b.json", "{"}, {"b.pdf", "%PDF"}, {"b.xlsx", "PK"}};
+    for (const auto &[name, start] : starts) {
+        EXPECT_THAT(read(QString::fromLatin1(name)), HasSubstr(start)) << name;
+    }
+    EXPECT_THAT(run("report a.csv -o b.docx").err,
+                HasSubstr("-o takes .csv, .html, .json, .pdf, .txt and .xlsx"));
+}
+
+TEST_F(Usage, QuietLeavesOutNoticesAndKeepsErrors)
+{
+    write(QStringLiteral("a.csv"), "Reference,Value,DNP\nR1,10k,\nR2,10k,1\n");
+    EXPECT_NE(run("report a.csv").err, "");
+    EXPECT_EQ(run("report a.csv -q").err, "");
+    EXPECT_EQ(run("--quiet report a.csv").out, run("report a.csv").out);
+    EXPECT_NE(run("report b.csv -q").err, "");
+}
+
+TEST_F(Usage, VariantsAreListed)
+{
+    (void)copyData("kicad/variants", "fields-and-flags.kicad_sch");
+    write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
+    EXPECT_EQ(run("variants fields-and-flags.kicad_sch").out, "Full\nLite\n");
+    EXPECT_EQ(run("variants fields-and-flags.kicad_sch --json").out, "{\"variants\":[\"Full\",\"Lite\"]}\n");
+    EXPECT_EQ(run("variants a.csv").err, "bom: a.csv: the design has no variants\n");
+    EXPECT_EQ(run("variants b.csv").status, 3);
 }
 
 TEST_F(Usage, AnInputThatCannotBeReadIsNamedAndStatusThree)

@@ -57,7 +57,7 @@ protected:
 TEST_F(Write, SetChangesWhatIsNamedAndNothingElse)
 {
     EXPECT_THAT(done("set amp.kicad_sch R1 VALUE=4k7"),
-                AllOf(HasSubstr("R1 Value: \"10k\" -> \"4k7\" (DIR/amp.kicad_sch:"),
+                AllOf(HasSubstr("R1 Value: \"10k\" -> \"4k7\" (amp.kicad_sch:"),
                       HasSubstr("\nchanged 1 property of 1 part in 1 file\n")));
     std::string expected = m_before;
     expected.replace(expected.find("10k"), 3, "4k7");
@@ -124,8 +124,9 @@ TEST_F(Write, ValuesAreStoredAsTheDefinitionsSay)
 {
     EXPECT_THAT(
         done("set amp.kicad_sch R1,R3 POL=yes COST=1.234,5 PINS=1.500 --propdefs defs.ini --locale de_DE"),
-        AllOf(HasSubstr("R1 POL: none -> \"1\""), HasSubstr("R3 POL: none -> \"1\""),
-              HasSubstr("R1 COST: \"1.5\" -> \"1234.5\""), HasSubstr("R1 PINS: none -> \"1500\"")));
+        AllOf(HasSubstr("R1,R3 POL: none -> \"1\" (amp.kicad_sch:19, 32)\n"),
+              HasSubstr("R1 COST: \"1.5\" -> \"1234.5\""), HasSubstr("R3 COST: none -> \"1234.5\""),
+              HasSubstr("R1,R3 PINS: none -> \"1500\"")));
 }
 
 TEST_F(Write, WrongUsageIsStatusTwo)
@@ -174,7 +175,7 @@ TEST_F(Write, FilesThatMayNotBelongTogetherAreReadOnlyWhenAskedFor)
                    R"("amp.kicad_sch","before":"1-00000000000000000000000000000000",)"
                    R"("after":"2-00000000000000000000000000000000"}]})");
     write(QStringLiteral("~amp.kicad_sch.lck"), "{}");
-    const std::string states = "bom: DIR/amp.kicad_sch: was changed meanwhile\n";
+    const std::string states = "bom: amp.kicad_sch: was changed meanwhile\n";
     for (const char *command : {"report amp.kicad_sch", "parts amp.kicad_sch", "check amp.kicad_sch",
                                 "set amp.kicad_sch R1 MPN=A", "undo amp.kicad_sch"}) {
         expectRefused(command, states, 3);
@@ -221,8 +222,8 @@ TEST_F(Write, ApplyTakesTheCellsThatDiffer)
                         "x,9,\"R1-R2,R4\",10k,2.25,\"a \"\"b\"\"\"\n"
                         ",,SCR1,M4,,\n"
                         ",,J1-2,Plug,,\n"),
-                AllOf(HasSubstr("R1 COST: \"1.5\" -> \"2.25\""), HasSubstr("R4 COST: none -> \"2.25\""),
-                      HasSubstr("R2 MPN: none -> \"a \"b\"\""),
+                AllOf(HasSubstr("R1 COST: \"1.5\" -> \"2.25\""), HasSubstr("R2,R4 COST: none -> \"2.25\""),
+                      HasSubstr("R2,R4 MPN: none -> \"a \"b\"\""),
                       HasSubstr("SCR1 VALUE: \"M3\" -> \"M4\" (a BOM-only part of J1-2)")));
     EXPECT_THAT(applied("References,Unit Cost,MPN\nR1,,\nR2,2.25,\"a \"\"b\"\"\"\n"),
                 AllOf(HasSubstr("R1 COST: \"2.25\" -> removed"), HasSubstr("R1 MPN: \"a \"b\"\" -> removed"),
@@ -245,9 +246,9 @@ TEST_F(Write, ARangeHasAsManyDigitsAsItsEnds)
     write(schematic,
           kicadSchematic({{"R01", "1"}, {"R02", "1"}, {"R03", "1"}, {"R1", "2"}, {"R2", "2"}, {"R3", "2"}}));
     EXPECT_THAT(done("set amp.kicad_sch R01-R03 MPN=A"),
-                AllOf(HasSubstr("R02 MPN"), HasSubstr("changed 3 properties")));
+                AllOf(HasSubstr("R01-R03 MPN"), HasSubstr("changed 3 properties")));
     EXPECT_THAT(done("set amp.kicad_sch R1-R3 MPN=A"),
-                AllOf(HasSubstr("R2 MPN"), HasSubstr("changed 3 properties")));
+                AllOf(HasSubstr("R1-R3 MPN"), HasSubstr("changed 3 properties")));
 }
 
 TEST_F(Write, WhatABomOnlyPartHasAlreadyIsNotWritten)
@@ -323,6 +324,35 @@ TEST_F(Write, NewPropertiesAreToldWithThoseThatTheyMayBe)
     EXPECT_THAT(done("set amp.kicad_sch R1,SCR1 TOLERANCE=2%"), Not(HasSubstr("new")));
 }
 
+TEST_F(Write, ANewPropertyOfNearlyTheNameOfAnotherHasToBeMeant)
+{
+    write(list, "Reference,Value,MPN,Mode\nR1,1k,a,x\n");
+    const std::string misspelt = "set list.csv R1 MNP=b --dry-run";
+    const ProgramRun refused = run(misspelt.c_str());
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_EQ(refused.err,
+              "bom: the design has no property \"MNP\"; did you mean \"MPN\"? (--new makes it)\n");
+    EXPECT_EQ(refused.out, "");
+    EXPECT_EQ(run((misspelt + " --new").c_str()).status, 0);
+    for (const char *meant : {"MNP=", "Tolerance=1", "CODE=1", "DNP=1"}) {
+        EXPECT_EQ(run((std::string("set list.csv R1 ") + meant + " --dry-run").c_str()).status, 0) << meant;
+    }
+}
+
+TEST_F(Write, EqualChangesAreToldOnceWithTheFirstOfTheirPlaces)
+{
+    write(list, "Reference,Value,MPN\nR1,1,a\nR2,1,a\nR3,1,b\nR4,1,a\nR5,1,a\nR6,1,a\nR7,1,a\nR8,1,a\n");
+    EXPECT_EQ(done("set list.csv R1-R8 MPN=c --dry-run"),
+              "R1-R2,R4-R8 MPN: \"a\" -> \"c\" (list.csv:2, 3, 5, 6, 7 and 2 more places)\n"
+              "R3 MPN: \"b\" -> \"c\" (list.csv:4)\n"
+              "would change 8 properties of 8 parts in 1 file; nothing was written\n");
+    const std::string shared = copyData("kicad/variants", "sheets.kicad_sch") + ".kicad_sch";
+    (void)copyData("kicad/variants", "sheets-sub.kicad_sch");
+    EXPECT_THAT(done(("set " + shared + " R1 VALUE=4k7 --dry-run").c_str()), HasSubstr("also changes R2\n"));
+    EXPECT_THAT(done(("set " + shared + " R1,R2 VALUE=4k7 --dry-run").c_str()),
+                AllOf(HasSubstr("R1-R2 Value: "), Not(HasSubstr("also changes"))));
+}
+
 TEST_F(Write, ChangesOfAVariantNameIt)
 {
     const std::string name = copyData("kicad/variants", "fields-and-flags.kicad_sch");
@@ -369,7 +399,7 @@ TEST_F(Write, ApplyRefusesWhatItDoesNotUnderstandWithItsLine)
         {"References,Value\nC7,5u\n", "C7, VALUE: several symbols"},
         {"References,Value\nR1,\" \"\n", "R1, VALUE: a part cannot be without a value"},
         {"References,Value\nR1,\n",
-         "edits.csv:2: R1, VALUE: a part cannot be without a value (DIR/amp.kicad_sch:"},
+         "edits.csv:2: R1, VALUE: a part cannot be without a value (amp.kicad_sch:"},
     };
     for (const auto &[table, message] : cases) {
         write(edits, table);
@@ -386,7 +416,7 @@ TEST_F(Write, UndoGivesTheFilesBackOnce)
     (void)done("set amp.kicad_sch R1 VALUE=1k");
     (void)done("set amp.kicad_sch R2 VALUE=2k");
     const std::string second = read(schematic);
-    EXPECT_EQ(done("undo amp.kicad_sch"), "DIR/amp.kicad_sch has its previous content again\n");
+    EXPECT_EQ(done("undo amp.kicad_sch"), "amp.kicad_sch has its previous content again\n");
     EXPECT_NE(read(schematic), second);
     EXPECT_EQ(run("undo amp.kicad_sch").status, 1);
 
