@@ -5,6 +5,7 @@
 #include "host/propdefs/propdefsfile.h"
 #include "host/widgets/qthostui.h"
 #include "standalone/environment.h"
+#include "standalone/manualpage.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -23,14 +24,41 @@ constexpr int unreadable = 3;
 /// The one for wrong usage.
 constexpr int wrongUsage = 2;
 
+const QString purpose = QStringLiteral("Shows the bill of materials of a KiCad schematic or a part list.");
+const QString designText = QStringLiteral("A .kicad_sch, .kicad_pro or .csv file.");
+const QCommandLineOption moduleOption(QStringLiteral("module"), QStringLiteral("The library of the module."),
+                                      QStringLiteral("FILE"));
+
 /// Whether the arguments ask for a text only, which needs no display.
 bool asksForText(int argc, char **argv)
 {
     const std::span<char *const> arguments(argv, std::size_t(argc));
     return std::any_of(arguments.begin(), arguments.end(), [](std::string_view argument) {
         return argument == "--help" || argument == "-h" || argument == "--help-all" ||
-               argument == "--version" || argument == "-v";
+               argument == "--version" || argument == "-v" || argument == "--manual";
     });
+}
+
+/// The manual page bomviewer(1), of what --help prints.
+QString manualText(const QList<QCommandLineOption> &options)
+{
+    ManualPage page(QStringLiteral("bomviewer"), QStringLiteral("bomviewer " BOM_VERSION));
+    page.section(QStringLiteral("NAME"));
+    page.paragraph(QStringLiteral("bomviewer - ") + purpose.chopped(1));
+    page.section(QStringLiteral("SYNOPSIS"));
+    page.usage(QStringLiteral("bomviewer"), QStringLiteral("[OPTION]... [DESIGN]"));
+    page.section(QStringLiteral("OPTIONS"));
+    page.entry(QStringLiteral("DESIGN"), {}, designText);
+    for (const QCommandLineOption &option : options) {
+        QStringList names;
+        for (const QString &name : option.names()) {
+            names << (name.size() == 1 ? QStringLiteral("-") : QStringLiteral("--")) + name;
+        }
+        page.entry(names.join(QStringLiteral(", ")), option.valueName(), option.description());
+    }
+    page.section(QStringLiteral("SEE ALSO"));
+    page.reference(QStringLiteral("bom"));
+    return page.text();
 }
 
 } // namespace
@@ -46,21 +74,22 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("bomviewer"));
     QCoreApplication::setApplicationVersion(QStringLiteral(BOM_VERSION));
     QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Shows the bill of materials of a KiCad schematic or a part list."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("DESIGN"),
-                                 QStringLiteral("A .kicad_sch, .kicad_pro or .csv file."),
-                                 QStringLiteral("[DESIGN]"));
-    const QCommandLineOption module(QStringLiteral("module"), QStringLiteral("The library of the module."),
-                                    QStringLiteral("FILE"));
-    parser.addOption(module);
+    parser.setApplicationDescription(purpose);
+    const QList<QCommandLineOption> options{parser.addHelpOption(), parser.addVersionOption(), moduleOption};
+    parser.addPositionalArgument(QStringLiteral("DESIGN"), designText, QStringLiteral("[DESIGN]"));
+    parser.addOption(moduleOption);
+    QCommandLineOption manual(QStringLiteral("manual"));
+    manual.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(manual);
     if (!parser.parse(QCoreApplication::arguments())) {
         QTextStream(stderr) << "bomviewer: " << parser.errorText() << '\n';
         return wrongUsage;
     }
     parser.process(application);
+    if (parser.isSet(manual)) {
+        QTextStream(stdout) << manualText(options);
+        return 0;
+    }
     const QStringList designs = parser.positionalArguments();
     if (designs.size() > 1) {
         QTextStream(stderr) << "bomviewer: one design at a time\n";
@@ -75,7 +104,7 @@ int main(int argc, char **argv)
     int status = unreadable;
     {
         Workbench workbench;
-        if (workbench.start(parser.value(module))) {
+        if (workbench.start(parser.value(moduleOption))) {
             workbench.window().show();
             if (!designs.isEmpty()) {
                 // Behind the window, which can be seen while the design is read.

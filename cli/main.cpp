@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/checkcommand.h"
 #include "cli/commandline.h"
+#include "cli/completioncommand.h"
 #include "cli/console.h"
 #include "cli/editcommands.h"
 #include "cli/helpcommand.h"
@@ -111,11 +112,15 @@ int main(int argc, char *argv[])
     VariantsCommand variants;
     TemplateCommand templates;
     HelpCommand help;
-    const std::array<Command *, 9> commands{&report, &parts, &check,     &variants, &set,
-                                            &apply,  &undo,  &templates, &help};
+    CompletionCommand completion;
+    const std::array<Command *, 10> commands{&report, &parts, &check,     &variants, &set,
+                                             &apply,  &undo,  &templates, &help,     &completion};
 
     CLI::App program("Bills of materials from KiCad designs and CSV part lists.", "bom");
     program.set_version_flag("-V,--version", "bom " BOM_VERSION);
+    program.footer(
+        "Exit status: 0 done; 1 the design has a problem that the user must decide on; 2 wrong usage; "
+        "3 an input cannot be read; 4 an output cannot be written.");
     program.require_subcommand(1);
     for (Command *command : commands) {
         command->addTo(program);

@@ -14,6 +14,10 @@ set(CMAKE_AUTOUIC ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 
+# Where the programs look for the module, and the libraries beside it.
+set(BOM_LIBRARIES lib/bom)
+set(CMAKE_INSTALL_RPATH "$ORIGIN:$ORIGIN/../${BOM_LIBRARIES}")
+
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   # Paths below the source folder count as relative, so that another checkout of the same sources is a hit.
@@ -70,9 +74,23 @@ function(bom_library name)
     bom_sources(arg_SOURCES)
   endif()
   add_library(${name} ${kind} ${arg_SOURCES})
+  if(arg_SHARED)
+    install(TARGETS ${name} DESTINATION ${BOM_LIBRARIES})
+  endif()
   target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${arg_LINKS})
   bom_precompile(${name} corepch.h PRODUCT)
+endfunction()
+
+# bom_printed_file(PROGRAM ARGUMENTS FOLDER NAME): a file that the program prints with these arguments, made with the program
+# and installed in that folder below share.
+function(bom_printed_file program arguments folder name)
+  set(file ${CMAKE_BINARY_DIR}/share/${folder}/${name})
+  get_filename_component(place ${file} DIRECTORY)
+  add_custom_command(OUTPUT ${file} COMMAND ${CMAKE_COMMAND} -E make_directory ${place}
+                     COMMAND ${program} ${arguments} > ${file} DEPENDS ${program} VERBATIM)
+  add_custom_target(${program}_${name} ALL DEPENDS ${file})
+  install(FILES ${file} DESTINATION share/${folder})
 endfunction()
 
 # bom_test(FOLDER [WIDGETS] LINKS targets...): the test program of one folder, run with Qt's hash seed fixed and with a random one
