@@ -53,6 +53,11 @@ qsizetype unitsOf(char32_t c)
     return QChar::requiresSurrogates(c) ? 2 : 1;
 }
 
+bool isBreak(char32_t c)
+{
+    return c == U' ' || c == U',' || c == U';' || c == U'/' || c == U'-' || c == U'_';
+}
+
 /// Where the first line of the text ends, which has room for `width` columns: behind the last blank or sign
 /// that fits, else behind the last character, of which there is at least one.
 qsizetype lineEnd(QStringView text, int width)
@@ -66,8 +71,7 @@ qsizetype lineEnd(QStringView text, int width)
             return good > 0 ? good : at;
         }
         at += unitsOf(c);
-        const bool isBreak = c == U' ' || c == U',' || c == U';' || c == U'/' || c == U'-' || c == U'_';
-        good = isBreak ? at : good;
+        good = isBreak(c) ? at : good;
     }
     return text.size();
 }
@@ -99,20 +103,36 @@ QList<Section> sectionsOf(const Report &report)
     return sections;
 }
 
-QList<int> naturalWidths(const QStringList &headings, const QList<Section> &sections)
+/// The longest piece of a text that is not broken; references are broken at their commas only.
+int pieceWidth(const QString &text, bool isReferences)
 {
-    QList<int> widths;
-    for (const QString &heading : headings) {
-        widths << terminalWidth(heading);
+    int longest = 0;
+    int width = 0;
+    for (qsizetype at = 0; at < text.size();) {
+        const char32_t c = characterAt(text, at);
+        at += unitsOf(c);
+        width += widthOf(c);
+        longest = std::max(longest, c == U' ' ? width - 1 : width);
+        width = c == U',' || (!isReferences && isBreak(c)) ? 0 : width;
     }
-    for (const Section &section : sections) {
-        for (const QStringList &cells : section.cells) {
-            for (qsizetype i = 0; i < widths.size(); ++i) {
-                widths[i] = std::max(widths[i], terminalWidth(cells.at(i)));
-            }
+    return longest;
+}
+
+QList<ColumnNeed> needsOf(const QStringList &headings, const QList<Section> &sections)
+{
+    QList<ColumnNeed> needs(headings.size());
+    const auto add = [&needs](const QStringList &cells) {
+        for (qsizetype i = 0; i < needs.size(); ++i) {
+            const bool isReferences = i == referenceColumn;
+            needs[i].text = std::max(needs[i].text, terminalWidth(cells.at(i)));
+            needs[i].piece = std::max(needs[i].piece, pieceWidth(cells.at(i), isReferences));
         }
+    };
+    add(headings);
+    for (const Section &section : sections) {
+        std::for_each(section.cells.begin(), section.cells.end(), add);
     }
-    return widths;
+    return needs;
 }
 
 /// Cells beside each other, each in as many lines as it takes; nothing stands behind the last text.
@@ -168,7 +188,7 @@ QByteArray terminalReport(const Report &report, const TerminalLook &look)
     const QStringList headings = asciiHeadings(report);
     const QList<Section> sections = sectionsOf(report);
     const int room = look.width - gap * int(headings.size() - 1);
-    const QList<int> widths = fittedWidths(naturalWidths(headings, sections), room);
+    const QList<int> widths = fittedWidths(needsOf(headings, sections), room);
     QList<QStringList> titles;
     QList<QStringList> strokes;
     for (qsizetype i = 0; i < headings.size(); ++i) {
@@ -196,22 +216,33 @@ int terminalWidth(QStringView text)
     return width;
 }
 
-QList<int> fittedWidths(QList<int> widths, int room)
+QList<int> fittedWidths(const QList<ColumnNeed> &needs, int room)
 {
-    const auto sumWith = [&widths](int most) {
-        return std::accumulate(widths.begin(), widths.end(), 0,
-                               [most](int sum, int width) { return sum + std::min(width, most); });
+    const auto widthsFor = [&needs](int most, bool keepsPieces) {
+        QList<int> widths;
+        for (const ColumnNeed &need : needs) {
+            widths << std::max(std::min(need.text, most), keepsPieces ? need.piece : 0);
+        }
+        return widths;
     };
-    int most = widths.isEmpty() ? 0 : *std::max_element(widths.begin(), widths.end());
-    while (most > narrowestColumn && sumWith(most) > room) {
+    const auto sumOf = [](const QList<int> &widths) {
+        return std::accumulate(widths.begin(), widths.end(), 0);
+    };
+    const bool keepsPieces = sumOf(widthsFor(narrowestColumn, true)) <= room;
+    int most = narrowestColumn;
+    for (const ColumnNeed &need : needs) {
+        most = std::max(most, need.text);
+    }
+    while (most > narrowestColumn && sumOf(widthsFor(most, keepsPieces)) > room) {
         --most;
     }
     // What the last step left over goes to the first of the columns that gave way.
-    int rest = room - sumWith(most);
-    for (int &width : widths) {
-        const int more = width > most && rest > 0 ? 1 : 0;
-        width = std::min(width, most + more);
-        rest -= more;
+    QList<int> widths = widthsFor(most, keepsPieces);
+    qsizetype rest = room - sumOf(widths);
+    for (qsizetype i = 0; i < widths.size() && rest > 0; ++i) {
+        const bool gaveWay = widths[i] < needs[i].text;
+        widths[i] += gaveWay ? 1 : 0;
+        rest -= gaveWay ? 1 : 0;
     }
     return widths;
 }

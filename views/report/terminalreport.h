@@ -28,9 +28,19 @@ struct TerminalLook
 /// that stands over another character.
 [[nodiscard]] int terminalWidth(QStringView text);
 
-/// The widths that columns get of the room for all of them: the widest give way, as equal as can be, and none
-/// below a few characters.
-[[nodiscard]] QList<int> fittedWidths(QList<int> widths, int room);
+/// What a column of texts would like: room for the longest text, and for the longest piece of one that is not
+/// broken.
+struct ColumnNeed
+{
+    int text = 0;
+    int piece = 0;
+
+    bool operator==(const ColumnNeed &) const = default;
+};
+
+/// The widths that columns get of the room for all of them: the widest give way, as equal as can be; none so
+/// that words are broken, as long as there is room for these, and none below a few characters.
+[[nodiscard]] QList<int> fittedWidths(const QList<ColumnNeed> &needs, int room);
 
 /// The text in lines of at most that many columns, broken behind blanks and signs where there are any.
 [[nodiscard]] QStringList wrappedText(const QString &text, int width);
