@@ -17,6 +17,7 @@ namespace {
 constexpr int gap = 2;
 constexpr int narrowestColumn = 6;
 constexpr qsizetype referenceColumn = 1;
+constexpr int readableReferences = 20;
 
 /// Blocks of characters that terminals show twice as wide as others (East Asian width W and F).
 constexpr std::array<std::pair<char32_t, char32_t>, 9> wideBlocks{{{0x1100, 0x115F},
@@ -132,6 +133,9 @@ QList<ColumnNeed> needsOf(const QStringList &headings, const QList<Section> &sec
     for (const Section &section : sections) {
         std::for_each(section.cells.begin(), section.cells.end(), add);
     }
+    // Broken at each comma, long lists would be as readable as a tape.
+    ColumnNeed &references = needs[referenceColumn];
+    references.piece = std::max(references.piece, std::min(references.text, readableReferences));
     return needs;
 }
 
@@ -218,31 +222,35 @@ int terminalWidth(QStringView text)
 
 QList<int> fittedWidths(const QList<ColumnNeed> &needs, int room)
 {
-    const auto widthsFor = [&needs](int most, bool keepsPieces) {
+    const auto widthsFor = [&needs](int mostText, int mostPiece) {
         QList<int> widths;
         for (const ColumnNeed &need : needs) {
-            widths << std::max(std::min(need.text, most), keepsPieces ? need.piece : 0);
+            widths << std::max(std::min(need.text, mostText), std::min(need.piece, mostPiece));
         }
         return widths;
     };
-    const auto sumOf = [](const QList<int> &widths) {
-        return std::accumulate(widths.begin(), widths.end(), 0);
+    const auto fits = [room](const QList<int> &widths) {
+        return std::accumulate(widths.begin(), widths.end(), 0) <= room;
     };
-    const bool keepsPieces = sumOf(widthsFor(narrowestColumn, true)) <= room;
-    int most = narrowestColumn;
+    int widest = narrowestColumn;
     for (const ColumnNeed &need : needs) {
-        most = std::max(most, need.text);
+        widest = std::max(widest, need.text);
     }
-    while (most > narrowestColumn && sumOf(widthsFor(most, keepsPieces)) > room) {
-        --most;
+    // First the room for words, then what is left for texts.
+    int mostPiece = widest;
+    while (mostPiece > narrowestColumn && !fits(widthsFor(narrowestColumn, mostPiece))) {
+        --mostPiece;
+    }
+    int mostText = widest;
+    while (mostText > narrowestColumn && !fits(widthsFor(mostText, mostPiece))) {
+        --mostText;
     }
     // What the last step left over goes to the first of the columns that gave way.
-    QList<int> widths = widthsFor(most, keepsPieces);
-    qsizetype rest = room - sumOf(widths);
-    for (qsizetype i = 0; i < widths.size() && rest > 0; ++i) {
-        const bool gaveWay = widths[i] < needs[i].text;
-        widths[i] += gaveWay ? 1 : 0;
-        rest -= gaveWay ? 1 : 0;
+    QList<int> widths = widthsFor(mostText, mostPiece);
+    for (qsizetype i = 0; i < widths.size(); ++i) {
+        QList<int> wider = widths;
+        ++wider[i];
+        widths = widths[i] < needs[i].text && fits(wider) ? wider : widths;
     }
     return widths;
 }

@@ -38,8 +38,8 @@ struct ColumnNeed
     bool operator==(const ColumnNeed &) const = default;
 };
 
-/// The widths that columns get of the room for all of them: the widest give way, as equal as can be; none so
-/// that words are broken, as long as there is room for these, and none below a few characters.
+/// The widths that columns get of the room for all of them: the widest give way, as equal as can be, those
+/// first that break no word; none gets fewer than a few characters that it needs.
 [[nodiscard]] QList<int> fittedWidths(const QList<ColumnNeed> &needs, int room);
 
 /// The text in lines of at most that many columns, broken behind blanks and signs where there are any.
