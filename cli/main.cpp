@@ -45,7 +45,21 @@ void handleLibraryMessage(QtMsgType type, const QMessageLogContext &, const QStr
     }
 }
 
-/// Before and behind the command, as people write it.
+/// False, after a message, when an argument is no UTF-8: its text would name another file, and that one would
+/// be read or overwritten.
+bool areTexts(int argc, char *argv[])
+{
+    for (int argument = 1; argument < argc; ++argument) {
+        const QString text = QString::fromUtf8(argv[argument]);
+        if (text.toUtf8() != argv[argument]) {
+            console::message(u'"' + text + QStringLiteral("\" is no text in UTF-8"));
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Adds --quiet before and behind the command, as people write it.
 void addQuiet(CLI::App &app, bool *isQuiet)
 {
     for (CLI::App *command : app.get_subcommands({})) {
@@ -91,13 +105,8 @@ ExitStatus run(Command &command, char *argv[])
 int main(int argc, char *argv[])
 {
     occupyClosedStreams();
-    for (int argument = 1; argument < argc; ++argument) {
-        // Its text would name another file, and that one would be read or overwritten.
-        const QString text = QString::fromUtf8(argv[argument]);
-        if (text.toUtf8() != argv[argument]) {
-            console::message(u'"' + text + QStringLiteral("\" is no text in UTF-8"));
-            return int(ExitStatus::WrongUsage);
-        }
+    if (!areTexts(argc, argv)) {
+        return int(ExitStatus::WrongUsage);
     }
     // PDF files list their fonts in the order of a hash.
     if (sourceDateEpoch()) {
