@@ -3,6 +3,7 @@
 #include "report/reportfixture.h"
 #include "views/report/asciireport.h"
 #include "views/report/csvreport.h"
+#include "views/report/terminalreport.h"
 
 using namespace Qt::StringLiterals;
 
@@ -81,6 +82,44 @@ protected:
         return text.mid(text.indexOf("\n\n") + 2).split('\n');
     }
 };
+
+TEST(TerminalColumns, BreakTextsBehindSignsAndCountWideCharactersTwice)
+{
+    struct Case
+    {
+        QString text;
+        int width;
+        QStringList lines;
+    };
+    const Case cases[] = {{u""_s, 8, {}},
+                          {u"100n 50V X7R"_s, 8, {u"100n 50V"_s, u"X7R"_s}},
+                          {u"RC0603FR-0710KL"_s, 9, {u"RC0603FR-"_s, u"0710KL"_s}},
+                          {u"LMK107BJ475"_s, 6, {u"LMK107"_s, u"BJ475"_s}},
+                          {u"電阻器"_s, 4, {u"電阻"_s, u"器"_s}},
+                          {u"電"_s, 1, {u"電"_s}},
+                          {u"e\u0301\u00b5\U0001F600"_s, 2, {u"e\u0301\u00b5"_s, u"\U0001F600"_s}}};
+    for (const auto &[text, width, lines] : cases) {
+        EXPECT_EQ(wrappedText(text, width), lines) << qPrintable(text);
+    }
+}
+
+TEST(TerminalColumns, GiveWayWhereNoWordIsBroken)
+{
+    struct Case
+    {
+        QList<ColumnNeed> needs;
+        int room;
+        QList<int> widths;
+    };
+    const Case cases[] = {{{}, 80, {}},
+                          {{{3, 3}, {40, 8}}, 80, {3, 40}},
+                          {{{3, 3}, {40, 8}, {15, 15}}, 40, {3, 22, 15}},
+                          {{{3, 3}, {40, 30}, {30, 30}}, 40, {3, 19, 18}},
+                          {{{40, 8}, {40, 8}, {40, 8}}, 10, {6, 6, 6}}};
+    for (const auto &[needs, room, widths] : cases) {
+        EXPECT_EQ(fittedWidths(needs, room), widths) << room;
+    }
+}
 
 TEST_F(Ascii, WrapsReferencesAndCutsValues)
 {

@@ -69,7 +69,7 @@ qsizetype lineEnd(QStringView text, int width)
         const char32_t c = characterAt(text, at);
         used += widthOf(c);
         if (used > width && at > 0) {
-            return good > 0 ? good : at;
+            return c == U' ' || good == 0 ? at : good;
         }
         at += unitsOf(c);
         good = isBreak(c) ? at : good;
