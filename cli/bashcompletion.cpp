@@ -106,7 +106,8 @@ const QLatin1String bashPlace(R"sh(_bom_place() {
     place=0
     for ((i = start; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
-        -*) [[ " $1 " == *" ${COMP_WORDS[i]} "* ]] && ((i++)) ;;
+        -*) [[ ${COMP_WORDS[i+1]} == = ]] && ((i++))
+            [[ " $1 " == *" ${COMP_WORDS[i]} "* || ${COMP_WORDS[i]} == = ]] && ((i++)) ;;
         *) ((place++ == 0)) && design=${COMP_WORDS[i]} ;;
         esac
     done
@@ -115,6 +116,9 @@ _bom() {
     local cur=${COMP_WORDS[COMP_CWORD]} prev=${COMP_WORDS[COMP_CWORD-1]}
     local command= start=1 place=0 design= i
     COMPREPLY=()
+    # Of --option=value, readline makes three words.
+    [[ $prev == = ]] && prev=${COMP_WORDS[COMP_CWORD-2]}
+    [[ $cur == = ]] && cur=
     for ((i = 1; i < COMP_CWORD; i++)); do
         case "$command ${COMP_WORDS[i]}" in
 )sh");

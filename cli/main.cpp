@@ -65,9 +65,7 @@ void addQuiet(CLI::App &app, bool *isQuiet)
     for (CLI::App *command : app.get_subcommands({})) {
         addQuiet(*command, isQuiet);
     }
-    if (app.get_require_subcommand_min() == 0 || !app.get_parent()) {
-        app.add_flag("-q,--quiet", *isQuiet, "Leave out notices on standard error; errors stay");
-    }
+    app.add_flag("-q,--quiet", *isQuiet, "Leave out notices on standard error; errors stay");
 }
 
 /// Painting takes a platform, though nothing is shown.

@@ -41,6 +41,8 @@ TEST_F(Completion, OffersBashCommandsOptionsFilesAndNames)
         {"template imp", "import import-legacy"},
         {"help var", "variants"},
         {"report --dnp ''", "exclude include only"},
+        {"report --dnp = inc", "include"},
+        {"report --dnp = only fields-and-flags.kicad_sch --variant = F", "Full"},
         {"report --full", "--full-csv"},
         {"report --template Pu", "Purchasing"},
         {"template show As", "Assembly"},

@@ -66,7 +66,9 @@ private:
 
 CsvDialect spreadsheetDialect(const QLocale &locale)
 {
-    const bool hasSemicolon = locale.decimalPoint() == QStringLiteral(",");
+    const bool hasSemicolon = locale.decimalPoint() == QStringLiteral(",") ||
+                              locale.territory() == QLocale::Switzerland ||
+                              locale.territory() == QLocale::Liechtenstein;
     return {hasSemicolon ? u';' : u',', true};
 }
 

@@ -27,7 +27,8 @@ struct CsvDialect
 };
 
 /// Of the spreadsheet programs that open a file by a double click in that locale: they take the separator of
-/// the system's lists, a semicolon where the comma is in numbers, and UTF-8 by a byte order mark only.
+/// the system's lists, a semicolon where the comma is in numbers and in Switzerland, and UTF-8 by a byte
+/// order mark only.
 [[nodiscard]] CsvDialect spreadsheetDialect(const QLocale &locale);
 
 /// The report as comma-separated text in UTF-8, a row of headings in front, rows ended by line feeds. Double
