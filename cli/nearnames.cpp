@@ -10,6 +10,8 @@
 namespace {
 
 constexpr qsizetype mostNames = 3;
+/// What is longer is no name that somebody typed; comparing takes the square of it.
+constexpr qsizetype longestName = 200;
 
 QString compared(const QString &name)
 {
@@ -52,6 +54,9 @@ QStringList nearNames(const QString &typed, const QStringList &known)
 {
     constexpr qsizetype mostLetters = 3;
     const QString wanted = compared(typed);
+    if (wanted.size() > longestName) {
+        return {};
+    }
     const qsizetype most = std::min(wanted.size() / 3, mostLetters);
     std::vector<std::pair<qsizetype, QString>> found;
     for (const QString &name : known) {

@@ -8,6 +8,7 @@ namespace {
 
 using testing::AllOf;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 /// What the program shows on a terminal, without the carriage returns of that.
@@ -42,6 +43,13 @@ TEST_F(Terminal, ColumnsFitAndNothingIsCut)
         const std::string joined = QByteArray::fromStdString(out).simplified().toStdString();
         EXPECT_THAT(joined, AllOf(HasSubstr("R13"), HasSubstr("ESR"), HasSubstr("Resistors")));
     }
+}
+
+TEST_F(Terminal, ADesignCannotSteerIt)
+{
+    write(QStringLiteral("a.csv"), "Reference,Value\nR1,1\x1b[2Jk\nR2,\xc2\x9b\x31mk\n");
+    const std::string out = shown("NO_COLOR=1 COLUMNS=1 $BOM report a.csv");
+    EXPECT_THAT(out, AllOf(HasSubstr("[2J"), Not(HasSubstr("\x1b")), Not(HasSubstr("\xc2\x9b"))));
 }
 
 TEST_F(Terminal, ColoursAreForTerminalsThatWantThem)

@@ -92,7 +92,7 @@ QList<Section> sectionsOf(const Report &report)
         Section section{inOneLine(category), {}, {}};
         const ReportLines listed = report.lines(category, true);
         for (const BomLine line : listed.lines) {
-            QStringList cells{QString::number(line.size()), report.references(line)};
+            QStringList cells{QString::number(line.size()), inOneLine(report.references(line))};
             for (const ReportColumn &column : report.columns()) {
                 cells << inOneLine(report.text(*line.front(), column));
             }
@@ -167,7 +167,10 @@ QString rowText(const QList<QStringList> &cells, const QList<int> &widths)
 /// References are broken between references.
 QStringList referenceLines(const Report &report, BomLine line, int width)
 {
-    return report.references(line, width, Report::UnlimitedWidth).split(u'\n', Qt::SkipEmptyParts);
+    QStringList lines =
+        report.references(line, width, Report::UnlimitedWidth).split(u'\n', Qt::SkipEmptyParts);
+    std::transform(lines.begin(), lines.end(), lines.begin(), inOneLine);
+    return lines;
 }
 
 QString sectionText(const Report &report, const Section &section, const QList<int> &widths, bool isColoured)
