@@ -3,6 +3,7 @@
 #include "templates/bomtemplatefile.h"
 
 #include "files/regularfile.h"
+#include "richtext/xhtml/htmlsize.h"
 #include "templates/variantxml.h"
 
 #include <QBuffer>
@@ -66,6 +67,10 @@ std::optional<BOMTemplateDocument> BOMTemplateFile::readDocument(QIODevice &devi
     const QByteArray bytes = readUpTo(device, MaximumSize);
     if (bytes.size() > MaximumSize) {
         *problem = located(tr("the file is too large for a template"));
+        return std::nullopt;
+    }
+    if (htmlSize(QString::fromLatin1(bytes)).attributeEnds > HtmlSize::mostAttributeEnds) {
+        *problem = located(tr("an element has too many attributes"));
         return std::nullopt;
     }
     BOMTemplateDocument document;

@@ -3,6 +3,7 @@
 #include "richtext/xhtml/embeddedimage.h"
 
 #include "files/regularfile.h"
+#include "richtext/xhtml/htmlsize.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -34,6 +35,9 @@ EmbeddedImage refused(const char *reason, const QString &path, const QString &de
 bool isPlainDrawing(const QByteArray &svg)
 {
     constexpr int mostElements = 10'000;
+    if (htmlSize(QString::fromUtf8(svg)).attributeEnds > HtmlSize::mostAttributeEnds) {
+        return false;
+    }
     QXmlStreamReader reader(svg);
     int elements = 0;
     while (!reader.atEnd()) {

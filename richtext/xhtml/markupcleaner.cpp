@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "richtext/xhtml/markupcleaner.h"
 
+#include "richtext/xhtml/htmlsize.h"
 #include "richtext/xhtml/markuprewriter.h"
 #include "richtext/xhtml/tagscanner.h"
 #include "richtext/xhtml/tidylibwrapper.h"
@@ -78,6 +79,9 @@ CleanMarkup mended(const QString &fragment, QSet<QString> &ids, const MarkupLimi
 CleanMarkup MarkupCleaner::clean(const QString &fragment)
 {
     const QString text = xmlText(fragment);
+    if (htmlSize(text).attributeEnds > HtmlSize::mostAttributeEnds) {
+        return {{}, HtmlSize::tooManyAttributes(), {}};
+    }
     const RewrittenMarkup asItIs = rewriteMarkup(text, m_ids, m_limits);
     if (asItIs.isTooLarge) {
         return {{}, asItIs.problem, {}};

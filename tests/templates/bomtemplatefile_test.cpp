@@ -212,6 +212,11 @@ TEST_F(BomTemplateFile, AFileThatIsMissingOrTooLargeIsNamed)
     ASSERT_TRUE(QFile::resize(large, BOMTemplateFile::MaximumSize + 1));
     EXPECT_FALSE(BOMTemplateFile(large).readXmlFile(&problem));
     EXPECT_EQ(problem, large + u": the file is too large for a template"_s);
+    QByteArray attributes;
+    for (int i = 0; i < 500; ++i) {
+        attributes += " a" + QByteArray::number(i) + "=''";
+    }
+    EXPECT_FALSE(readBody("<a" + attributes + "/>").document);
 }
 
 TEST_F(BomTemplateFile, AValueThatIsNoTextIsLeftOutAlone)
