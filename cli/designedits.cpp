@@ -45,6 +45,14 @@ void DesignEdits::add(const QString &reference, const QString &property, const Q
         return;
     }
     const auto type = m_design.database().propertyTypes().type(property);
+    if (const QStringList forms = clearForms(typed); type == PropType::Float && !forms.isEmpty()) {
+        refuse(
+            front + u'"' + typed +
+            QStringLiteral("\" has a mark before three digits that may stand for thousands or for decimals: "
+                           "write ") +
+            forms.join(QStringLiteral(" or ")));
+        return;
+    }
     const QString value =
         m_design.database().propertyTypes().isNumeric(property) ? withoutThousands(typed) : typed;
     const bool isNumber =

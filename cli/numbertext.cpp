@@ -4,13 +4,30 @@
 
 #include "host/framework/hostui.h"
 
+#include <QLocale>
+
+#include <algorithm>
 #include <cmath>
+
+namespace {
+
+/// "0.125" with marks between thousands: nobody groups the digits of a number so.
+bool isGroupedBehindZero(const QString &text, const QLocale &locale)
+{
+    const QString front = text.left(text.indexOf(locale.groupSeparator()));
+    const auto isDigit = [](QChar c) { return c.isDigit(); };
+    const auto digit = std::find_if(front.begin(), front.end(), isDigit);
+    return front.size() < text.size() && digit != front.end() && digit->digitValue() == 0;
+}
+
+} // namespace
 
 bool isNumberOf(PropType type, const QString &text)
 {
     const QLocale locale = HostUi::current().locale();
     const bool isAsked = type == PropType::Int || type == PropType::Float;
-    if (isAsked && locale == QLocale::c() && text.contains(u',')) {
+    const bool isGrouped = locale == QLocale::c() ? text.contains(u',') : isGroupedBehindZero(text, locale);
+    if (isAsked && isGrouped) {
         return false;
     }
     bool isNumber = true;
@@ -28,11 +45,28 @@ QString withoutThousands(const QString &text)
     bool isNumber = false;
     (void)locale.toDouble(text, &isNumber);
     // In the C locale a comma may be meant as the decimal point.
-    if (!isNumber || locale == QLocale::c()) {
+    if (!isNumber || locale == QLocale::c() || isGroupedBehindZero(text, locale)) {
         return text;
     }
     QString number = text;
     return number.remove(locale.groupSeparator());
+}
+
+QStringList clearForms(const QString &text)
+{
+    const QLocale locale = HostUi::current().locale();
+    const QString mark = locale.groupSeparator();
+    bool isNumber = false;
+    (void)locale.toDouble(text, &isNumber);
+    const bool mayBeDecimal = mark == u'.' || mark == u',';
+    if (!isNumber || !mayBeDecimal || locale == QLocale::c() || text.count(mark) != 1 ||
+        text.contains(locale.decimalPoint())) {
+        return {};
+    }
+    const QString trimmed = text.trimmed();
+    const QString decimal = QString(trimmed).replace(mark, locale.decimalPoint());
+    return isGroupedBehindZero(text, locale) ? QStringList{decimal}
+                                             : QStringList{QString(trimmed).remove(mark), decimal};
 }
 
 QString typeText(PropType type)

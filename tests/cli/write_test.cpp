@@ -106,6 +106,12 @@ TEST_F(Write, EditsAreRefusedByNameAllOrNone)
         {"set amp.kicad_sch R1 COST=1,234 --propdefs defs.ini", "a decimal number"},
         {"set amp.kicad_sch R1 PINS=1,234 --propdefs defs.ini", "a whole number"},
         {"set amp.kicad_sch R1 COST=1,5 --propdefs defs.ini", "a decimal number (--locale tells"},
+        {"set amp.kicad_sch R1 COST=1.234 --locale de_DE", "for decimals: write 1234 or 1,234\n"},
+        {"set amp.kicad_sch R3 COST=-1.234 --locale tr_TR", "write -1234 or -1,234\n"},
+        {"set amp.kicad_sch R1 COST=1,234 --locale en_US", "write 1234 or 1.234\n"},
+        {"set amp.kicad_sch R1 COST=0,125 --locale en_US", "write 0.125\n"},
+        {"set amp.kicad_sch R1 COST=0.125.000,5 --locale de_DE", "a decimal number"},
+        {"set amp.kicad_sch R1 PINS=0.125 --locale de_DE --propdefs defs.ini", "a whole number"},
         {"set amp.kicad_sch R10-R99999 MPN=A", "99980 more references that the design does not have"},
         {"set amp.kicad_sch R1 PINS=1.5 --propdefs defs.ini", "a whole number"},
         {"set amp.kicad_sch R1 PACKAGE=0402 Footprint=0805", "another text is asked for"},
@@ -277,6 +283,21 @@ TEST_F(Write, ApplyStripsWhatTheFieldPutsAround)
               HasSubstr("R1 Value: \"10k\" -> \"12k\""), HasSubstr("changed 3 properties of 2 parts")));
     EXPECT_THAT(applied("References,Unit Cost\nR1,\"< , EUR\"\n", " --template shop.bomt"),
                 HasSubstr("R1 COST: \"2.5\" -> removed"));
+}
+
+TEST_F(Write, ApplyReadsWhatAReportWroteOfThousands)
+{
+    write(list, "Reference,Value,COST\nR1,1k,1234.5\nR2,2k,3\n");
+    (void)done("report list.csv --csv full.csv --locale de_DE");
+    EXPECT_THAT(read(QStringLiteral("full.csv")), HasSubstr("\"1.234,50\""));
+    EXPECT_EQ(done("apply list.csv full.csv --locale de_DE"), "nothing to change\n");
+    write(edits, "Reference;COST\nR2;1.234\n");
+    const ProgramRun refused = run("apply list.csv edits.csv --locale de_DE");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.err, HasSubstr("edits.csv:2: R2, COST: \"1.234\" has a mark before three digits"));
+    write(edits, "Reference;COST\nR1;1.234,60\nR2;1,234\n");
+    EXPECT_THAT(done("apply list.csv edits.csv --locale de_DE"),
+                AllOf(HasSubstr("-> \"1234.60\""), HasSubstr("-> \"1.234\"")));
 }
 
 TEST_F(Write, ApplyTakesNoChangesThatSpreadsheetsMakeByThemselves)
