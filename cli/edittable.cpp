@@ -180,6 +180,11 @@ bool EditTable::isUnchanged(const QString &cell, const QString &shown, const Edi
 QString EditTable::spreadsheetChangeOf(const QString &cell, const QStringList &shown,
                                        const EditColumn &column) const
 {
+    const auto type = m_design.database().propertyTypes().type(column.report.field.propertyName);
+    // TRUE means the same as True there, and other texts are refused.
+    if (type && hasTwoStates(*type)) {
+        return {};
+    }
     for (const QString &text : shown) {
         const QString before = plainText(text, column);
         const QString after = plainText(cell, column);

@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "cli/spreadsheetchange.h"
 
+#include <QHash>
+#include <QList>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -35,22 +39,21 @@ private:
     QLatin1String m_starts;
 };
 
-constexpr const char *month = "(?:jan|feb|mar|apr|may|mai|jun|jul|aug|sep|oct|okt|nov|dec|dez)[a-z]*";
+constexpr const char *month =
+    "(?:jan|feb|mar|m\\x{e4}r|mrz|apr|may|mai|jun|jul|aug|sep|oct|okt|nov|dec|dez)[a-z]*";
+/// Spreadsheets calculate with so many digits; those behind become zeros.
+constexpr qsizetype exactDigits = 15;
+
 constexpr QLatin1String digits("0123456789");
 constexpr QLatin1String digitsAndMonths("0123456789jfmasond");
-
-bool hasMonth(const QString &text)
-{
-    static const QRegularExpression pattern(QString::fromLatin1(month),
-                                            QRegularExpression::CaseInsensitiveOption);
-    return text.contains(pattern);
-}
 
 /// "1-2", "10/12", "3.4.", "MAR1", "2-Sep": what spreadsheets take for a date.
 bool isTakenForDate(const QString &text)
 {
     static const Form numbers("\\d{1,4}[-/.]\\d{1,2}(?:[-/.]\\d{0,4})?", digits);
-    static const Form named(QByteArray("(?:\\d{1,4}[-/. ]*)?") + month + "[-/. ]*\\d{0,4}", digitsAndMonths);
+    static const Form named(QByteArray("(?:\\d{1,4}[-/., ]*)?") + month +
+                                "[-/., ]*\\d{0,4}(?:[-/., ]+\\d{2,4})?",
+                            digitsAndMonths);
     return numbers.matches(text) || named.matches(text);
 }
 
@@ -59,11 +62,95 @@ bool isDate(const QString &text)
 {
     static const Form numbers(
         "\\d{1,2}[-/.]\\d{1,2}[-/.]\\d{2,4}|\\d{4}[-/.]\\d{1,2}[-/.]\\d{1,2}(?:[ T]00:00.*)?", digits);
-    static const Form named(QByteArray("\\d{1,2}[-/. ]+") + month + "(?:[-/. ]+\\d{2,4})?|" + month +
-                                "[-/. ]+\\d{1,4}",
+    static const Form named(QByteArray("\\d{1,2}[-/. ]+") + month + "(?:[-/., ]+\\d{2,4})?|" + month +
+                                "[-/. ]+\\d{1,4}(?:[-/., ]+\\d{2,4})?",
                             digitsAndMonths);
     static const Form day("[3-5]\\d{4}", digits);
     return numbers.matches(text) || named.matches(text) || day.matches(text);
+}
+
+/// The first letters of the month in English: "Dez" and "December" are "dec".
+QString monthOf(const QString &text)
+{
+    static const QRegularExpression pattern(QString::fromLatin1(month),
+                                            QRegularExpression::CaseInsensitiveOption);
+    const QString name = pattern.match(text).captured().left(3).toLower();
+    static const QHash<QString, QString> english = {{QStringLiteral("m\u00e4r"), QStringLiteral("mar")},
+                                                    {QStringLiteral("mrz"), QStringLiteral("mar")},
+                                                    {QStringLiteral("mai"), QStringLiteral("may")},
+                                                    {QStringLiteral("okt"), QStringLiteral("oct")},
+                                                    {QStringLiteral("dez"), QStringLiteral("dec")}};
+    return english.value(name, name);
+}
+
+/// The numbers of a date, years without their century.
+QList<int> dateNumbers(const QString &text)
+{
+    static const QRegularExpression number(QStringLiteral("\\d+"));
+    QList<int> numbers;
+    for (auto found = number.globalMatch(text); found.hasNext();) {
+        numbers.append(found.next().captured().toInt() % 100);
+    }
+    return numbers;
+}
+
+/// Whether a date in words was only written in another way, perhaps with a year: "Jan 5", "05. Jan",
+/// "5-Jan-26".
+bool isSameNamedDate(const QString &before, const QString &after)
+{
+    const QList<int> told = dateNumbers(before);
+    const QList<int> shown = dateNumbers(after);
+    const QString name = monthOf(before);
+    return !name.isEmpty() && name == monthOf(after) && !told.isEmpty() &&
+           std::all_of(told.begin(), told.end(), [&shown](int number) { return shown.contains(number); });
+}
+
+constexpr qint64 millisecondsOfDay = 24 * 60 * 60 * 1000;
+
+/// Of a time such as "1:1", "12:30:00" or "1:01 PM"; a ratio reads as one, too.
+std::optional<qint64> millisecondsOf(const QString &text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^(\\d{1,4}):(\\d{1,4})(?::(\\d{1,2}(?:[.,]\\d+)?))?(?: ?([ap])m)?$"),
+        QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = text.contains(u':') ? form.match(text) : QRegularExpressionMatch();
+    if (!match.hasMatch()) {
+        return std::nullopt;
+    }
+    const QString half = match.captured(4).toLower();
+    const qint64 hours =
+        half.isEmpty() ? match.captured(1).toInt() : match.captured(1).toInt() % 12 + (half == u'p' ? 12 : 0);
+    const double seconds = match.captured(3).replace(u',', u'.').toDouble();
+    return (hours * 60 + match.captured(2).toInt()) * 60 * 1000 + std::llround(seconds * 1000);
+}
+
+/// Whether a time, or a ratio that was taken for one, was written in another way or as a part of a day.
+bool isSameTime(const QString &before, const QString &after, const NumberReader &numbers)
+{
+    const auto told = millisecondsOf(before);
+    if (!told) {
+        return false;
+    }
+    if (const auto shown = millisecondsOf(after)) {
+        return *told % millisecondsOfDay == *shown % millisecondsOfDay;
+    }
+    constexpr double leastDigit = 5e-6;
+    const auto day = numbers.read(after);
+    return day && std::abs(*day - double(*told) / millisecondsOfDay) <= leastDigit;
+}
+
+/// Whether "true" or "false" became the word of the spreadsheet's language.
+bool isSameTruth(const QString &before, const QString &after)
+{
+    static const QSet<QString> yes = {QStringLiteral("TRUE"),       QStringLiteral("WAHR"),
+                                      QStringLiteral("VRAI"),       QStringLiteral("VERDADERO"),
+                                      QStringLiteral("VERDADEIRO"), QStringLiteral("VERO"),
+                                      QStringLiteral("WAAR"),       QStringLiteral("PRAWDA")};
+    static const QSet<QString> no = {QStringLiteral("FALSE"),  QStringLiteral("FALSCH"),
+                                     QStringLiteral("FAUX"),   QStringLiteral("FALSO"),
+                                     QStringLiteral("ONWAAR"), QStringLiteral("FA\u0141SZ")};
+    const QString told = before.toUpper();
+    return (yes.contains(told) && yes.contains(after)) || (no.contains(told) && no.contains(after));
 }
 
 bool isExponential(const QString &text)
@@ -89,25 +176,39 @@ qsizetype digitsOf(const QString &text)
     return std::count_if(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
 }
 
+/// The digits of a number from the first to the last that is no zero.
+qsizetype significantDigits(const QString &text)
+{
+    qsizetype count = 0;
+    qsizetype last = 0;
+    for (const QChar c : text) {
+        count += c.isDigit() && (c != u'0' || count > 0) ? 1 : 0;
+        last = c.isDigit() && c != u'0' ? count : last;
+    }
+    return last;
+}
+
 /// As near as the digits of a cell that is shown with an exponent tell.
-bool isAbout(const QString &a, const QString &b, const NumberReader &numbers)
+bool isAbout(const QString &a, const QString &b, const NumberReader &numbers, double share = 0.01)
 {
     const auto x = numbers.read(a);
     const auto y = x ? numbers.read(b) : std::nullopt;
-    return x && y && std::abs(*x - *y) <= 0.01 * std::max(std::abs(*x), std::abs(*y));
+    return x && y && std::abs(*x - *y) <= share * std::max(std::abs(*x), std::abs(*y));
 }
 
 } // namespace
 
 bool isSameNumber(const QString &a, const QString &b, const NumberReader &numbers)
 {
-    constexpr qsizetype exactDigits = 15;
     const auto x = numbers.read(a);
     return x && x == numbers.read(b) && digitsOf(a) <= exactDigits && digitsOf(b) <= exactDigits;
 }
 
 QString spreadsheetChange(const QString &before, const QString &after, const NumberReader &numbers)
 {
+    if (before == after) {
+        return {};
+    }
     if (hasZerosInFront(before) && !hasZerosInFront(after) && isSameNumber(before, after, numbers)) {
         return QStringLiteral("zeros in front are gone");
     }
@@ -115,7 +216,20 @@ QString spreadsheetChange(const QString &before, const QString &after, const Num
     if ((isExponential(before) || isLong) && isAbout(before, after, numbers)) {
         return QStringLiteral("it is taken for a number with an exponent");
     }
-    if (isTakenForDate(before) && isDate(after) && (!isDate(before) || hasMonth(before) != hasMonth(after))) {
+    constexpr double lastExactDigit = 1e-14;
+    if (significantDigits(before) > exactDigits && significantDigits(after) <= exactDigits &&
+        isAbout(before, after, numbers, lastExactDigit)) {
+        return QStringLiteral("digits behind the 15th are gone");
+    }
+    if (isSameTime(before, after, numbers)) {
+        return QStringLiteral("it is taken for a time");
+    }
+    if (isSameTruth(before, after)) {
+        return QStringLiteral("it is taken for true or false");
+    }
+    if (isTakenForDate(before) && isDate(after) &&
+        (!isDate(before) || monthOf(before).isEmpty() != monthOf(after).isEmpty() ||
+         isSameNamedDate(before, after))) {
         return QStringLiteral("it is taken for a date");
     }
     if (before.startsWith(u'=') && !after.startsWith(u'=')) {

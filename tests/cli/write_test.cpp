@@ -51,6 +51,17 @@ protected:
         return done((std::string("apply amp.kicad_sch edits.csv") + options).c_str());
     }
 
+    /// Expects that the one change in the table of edits is not taken for one that somebody made.
+    void expectRefusedAsSpreadsheetChange(const std::string &row)
+    {
+        const ProgramRun refused = run("apply list.csv edits.csv --dry-run");
+        EXPECT_EQ(refused.status, 1) << row;
+        EXPECT_THAT(refused.err, AllOf(HasSubstr("edits.csv:2: R"), HasSubstr("as spreadsheets do"))) << row;
+        EXPECT_THAT(done("apply list.csv edits.csv --dry-run --accept-spreadsheet-changes"),
+                    HasSubstr("would change 1 property"))
+            << row;
+    }
+
     std::string m_before;
 };
 
@@ -309,15 +320,41 @@ TEST_F(Write, ApplyTakesNoChangesThatSpreadsheetsMakeByThemselves)
     for (const char *row : {"R1,402,1E3,", "R1,0402,1.00E+03,", "R1,0402,1000,", "R2,02-Jan,=A1,",
                             "R2,2026-02-01,=A1,", "R2,44563,=A1,", "R2,1-2,7,", "R2,1-2,#NAME?,"}) {
         write(edits, QByteArray("Reference,A,B,COST\n") + row + (row[1] == '1' ? "3.9\n" : "0\n"));
-        const ProgramRun refused = run("apply list.csv edits.csv --dry-run");
-        EXPECT_EQ(refused.status, 1) << row;
-        EXPECT_THAT(refused.err, AllOf(HasSubstr("edits.csv:2: R"), HasSubstr("as spreadsheets do"))) << row;
-        EXPECT_THAT(done("apply list.csv edits.csv --dry-run --accept-spreadsheet-changes"),
-                    HasSubstr("would change 1 property"))
-            << row;
+        expectRefusedAsSpreadsheetChange(row);
     }
     write(edits, "Reference,A,B,COST\nR1,0603,2E3,3.95\nR2,1-3,=A2,1\n");
     EXPECT_THAT(done("apply list.csv edits.csv"), HasSubstr("changed 6 properties"));
+}
+
+TEST_F(Write, WhatSpreadsheetsMakeOfATextIsToldFromAnEdit)
+{
+    struct Case
+    {
+        const char *before;
+        QStringList made;
+        const char *edited;
+    };
+    const Case cases[] = {
+        {"8934071179001234567", {QStringLiteral("8934071179001230000")}, "8934071179001234568"},
+        {"1:1",
+         {QStringLiteral("1:01"), QStringLiteral("01:01:00"), QStringLiteral("1:01:00 AM"),
+          QStringLiteral("0.042361111")},
+         "1:2"},
+        {"12:30", {QStringLiteral("0.520833333"), QStringLiteral("12:30:00")}, "0.5"},
+        {"true", {QStringLiteral("TRUE"), QStringLiteral("WAHR")}, "FALSE"},
+        {"False", {QStringLiteral("FALSE"), QStringLiteral("FALSCH")}, "no"},
+        {"Jan 5", {QStringLiteral("05. Jan"), QStringLiteral("5-Jan"), QStringLiteral("Jan-05")}, "6-Jan"},
+        {"5 March 2026", {QStringLiteral("05. Mrz 26"), QStringLiteral("5-Mar-26")}, "5-May-26"},
+    };
+    for (const Case &c : cases) {
+        write(list, QByteArray("Reference,Value,A\nR1,1k,") + c.before + '\n');
+        for (const QString &made : c.made) {
+            write(edits, "Reference,A\nR1," + made.toUtf8() + '\n');
+            expectRefusedAsSpreadsheetChange(made.toStdString());
+        }
+        write(edits, QByteArray("Reference,A\nR1,") + c.edited + '\n');
+        EXPECT_THAT(done("apply list.csv edits.csv --dry-run"), HasSubstr("would change 1 property"));
+    }
 }
 
 TEST_F(Write, NewPropertiesAreToldWithThoseThatTheyMayBe)
