@@ -5,6 +5,7 @@
 #include "designs/csv/hyphenatednames.h"
 #include "designs/csv/passedoverrows.h"
 #include "designs/csv/referencecell.h"
+#include "designs/csv/referencetext.h"
 #include "designs/notfitted.h"
 #include "designs/utf8.h"
 
@@ -77,6 +78,7 @@ public:
         nameProperties();
         findPassedOverRows();
         findHyphenatedNames();
+        m_cell.setTakesXForCount(!namesX());
         if (!readRows()) {
             return failed();
         }
@@ -179,6 +181,27 @@ private:
         m_list->m_hyphenatedNames = names.names(isReport);
         m_guessedNames = names.guessedNames(isReport);
         m_cell.setNames(m_list->isName());
+    }
+
+    /// Whether a row, or a text behind a comma, begins with a reference such as X1.
+    bool namesX()
+    {
+        return !visitRows([this](std::size_t row) {
+            const std::string_view text = referenceText(row);
+            std::size_t at = text.find('X');
+            while (at != std::string_view::npos && !beginsNumberedX(text, at)) {
+                at = text.find('X', at + 1);
+            }
+            return at == std::string_view::npos;
+        });
+    }
+
+    [[nodiscard]] static bool beginsNumberedX(std::string_view text, std::size_t at)
+    {
+        const std::size_t last = text.substr(0, at).find_last_not_of(' ');
+        const bool isFirst = last == std::string_view::npos ||
+                             std::string_view(",;\n\r&+").find(text[last]) != std::string_view::npos;
+        return isFirst && at + 1 < text.size() && isDigit(text[at + 1]);
     }
 
     bool hasDoubtfulHyphens()

@@ -132,6 +132,10 @@ bool ReferenceCell::readPart(std::string_view part)
                 return false;
             }
             at += 2;
+        } else if (at > 0 && kindAt(at - 1) == Kind::Piece && isCount(text)) {
+            return fail(text,
+                        QStringLiteral("may be a count: delete it, or put a comma in front of it if it is "
+                                       "the name of a part"));
         } else if (tokens.size() > 1 &&
                    (!isClear(text) || hasRangeWord(text, at > 0 ? m_prefix : std::string_view()))) {
             return fail(text,
@@ -144,6 +148,14 @@ bool ReferenceCell::readPart(std::string_view part)
         }
     }
     return true;
+}
+
+/// Whether the text behind a reference and a blank says how many there are: "R1 x2". In "X1 X2" it does not,
+/// and nowhere if X2 is known to be a part.
+bool ReferenceCell::isCount(std::string_view text) const
+{
+    const std::string_view sign = text.substr(0, text.find_first_of("0123456789"));
+    return isLikeCount(text) && sign != m_prefix && !isName(text) && (sign != "X" || m_takesXForCount);
 }
 
 /// A range with a sign or a word that cannot belong to a name, or with blanks beside its hyphen.
@@ -372,7 +384,7 @@ bool ReferenceCell::addKnownRange(const Numbered &first, const Numbered &last)
 
 bool ReferenceCell::addName(std::string_view text)
 {
-    if (!isNameText(text)) {
+    if (!isNameText(text) || saysNoPart(text)) {
         return fail(text, QStringLiteral("is no reference: name the part, or delete the row if it is none"));
     }
     if (hasUnclearDigits(text)) {

@@ -55,6 +55,8 @@ struct ReferenceItem
 ///   digits and any of . / ? * $ @ % ' -, and next to a blank, "&" or "+" has a digit or "?" in it: "R1 and
 ///   R2" is an error and not a part "and", as are "R1to R3" and a line that begins with "-R3". Digits other
 ///   than 0 to 9 are read only where they end a name: "R１".
+/// - A count behind a reference and a blank is an error: "R1 x2", "R1 ×2". "R1 X2" is one where the list has
+///   no X1 of its own, see setTakesXForCount(). "N/A" and "none" name no part, and are errors, too.
 ///
 /// Everything else is an error: nothing becomes a reference because it was left over.
 class ReferenceCell final
@@ -73,6 +75,8 @@ public:
     }
 
     void setNames(IsName isName) { m_isName = std::move(isName); }
+    /// Whether the X in "R1 X2" cannot begin the name of a part.
+    void setTakesXForCount(bool takes) { m_takesXForCount = takes; }
 
     /// Reads a cell; false, with the reason in error(), for one that cannot be understood or names too many
     /// references. A blank cell names none and is no error.
@@ -99,6 +103,8 @@ private:
     [[nodiscard]] std::optional<Numbered> plainOrBare(std::string_view text) const;
     [[nodiscard]] bool isName(std::string_view text) const { return m_isName && m_isName(text); }
 
+    [[nodiscard]] bool isCount(std::string_view text) const;
+
     [[nodiscard]] bool readCell(std::string_view cell);
     [[nodiscard]] bool readPart(std::string_view part);
     [[nodiscard]] bool addMarked(std::string_view left, std::string_view right, std::string_view text);
@@ -121,6 +127,7 @@ private:
     TextArena &m_arena;
     IsName m_isName;
     std::size_t m_limit;
+    bool m_takesXForCount = false;
     ReferenceTokens m_tokens;
     std::vector<ReferenceItem> m_items;
     std::size_t m_count = 0;

@@ -70,6 +70,21 @@ bool isClear(std::string_view text)
            text.find_first_of("0123456789?") != std::string_view::npos;
 }
 
+bool saysNoPart(std::string_view text)
+{
+    constexpr std::array<std::string_view, 4> words = {"n/a", "n.a.", "na", "none"};
+    return std::ranges::any_of(words,
+                               [text](std::string_view word) { return equalIgnoringCase(text, word); });
+}
+
+bool isLikeCount(std::string_view text)
+{
+    constexpr std::array<std::string_view, 3> signs = {"x", "X", "\xC3\x97"};
+    return std::ranges::any_of(signs, [text](std::string_view sign) {
+        return text.starts_with(sign) && isNumber(text.substr(sign.size()));
+    });
+}
+
 bool joinsReferences(std::string_view text)
 {
     while (true) {

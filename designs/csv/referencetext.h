@@ -32,6 +32,12 @@ namespace designs {
 /// Whether a text next to another, without a comma between them, can be nothing but a reference or a number.
 [[nodiscard]] bool isClear(std::string_view text);
 
+/// "n/a", "none" and their like, in any letter case: what people write into a cell that names no part.
+[[nodiscard]] bool saysNoPart(std::string_view text);
+
+/// "x2", "×2" or "X2": behind a reference and a blank this may be a count.
+[[nodiscard]] bool isLikeCount(std::string_view text);
+
 /// True when each text between the hyphens is like a reference: "R1A-R3B", "R1-R3-R5".
 [[nodiscard]] bool joinsReferences(std::string_view text);
 

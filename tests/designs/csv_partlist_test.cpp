@@ -219,6 +219,15 @@ TEST_F(CsvPartList, TakesHyphensForNamesWhereTheListSaysSo)
         "list.csv:3: \"R1-4\" is the name of one part and no range, because the list has \"R1\" by itself\n");
 }
 
+TEST_F(CsvPartList, TakesXForANameWhereTheListHasOne)
+{
+    for (const char *row : {"X1", "\"C1; X1\"", "X1 C1"}) {
+        const auto design = load("Ref\nR1 X2\n" + std::string(row) + '\n');
+        ASSERT_TRUE(design) << row;
+        EXPECT_EQ(design->components()[1].reference, "X2") << row;
+    }
+}
+
 TEST_F(CsvPartList, LeavesOutRowsThatRepeatTheHeadingsOrSumUp)
 {
     const auto design =
