@@ -38,6 +38,8 @@ QString whatIsUnread(const UnreadColumn &column)
         return QStringLiteral(" is no number and counts 0");
     case UnreadColumn::Kind::Numeric:
         return QStringLiteral(" is no number and is shown as it is");
+    case UnreadColumn::Kind::DecimalComma:
+        return QStringLiteral(" has a comma before three digits, which is read as the decimal mark");
     case UnreadColumn::Kind::TwoStates:
         break;
     }
@@ -168,8 +170,10 @@ QString unreadColumnNotice(const UnreadColumn &column)
     }
     return QStringLiteral("column ") + column.field + QStringLiteral(": ") +
            counted(parts, QStringLiteral("part has"), QStringLiteral("parts have")) +
-           QStringLiteral(" a text that") + whatIsUnread(column) + QStringLiteral(": ") +
-           examples.join(QStringLiteral(", "));
+           (column.kind == UnreadColumn::Kind::DecimalComma
+                ? QStringLiteral(" a comma before three digits, which is read as the decimal mark")
+                : QStringLiteral(" a text that") + whatIsUnread(column)) +
+           QStringLiteral(": ") + examples.join(QStringLiteral(", "));
 }
 
 QString unreadTextNotice(const UnreadColumn &column, const UnreadText &text)

@@ -147,9 +147,14 @@ QStringList missingFindings(const BOMPartsDatabase &database, const QStringList 
 }
 
 /// Texts that a column cannot read: those that make a total wrong or show as their opposite are to decide.
+/// Commas that may stand for thousands can be many and mostly are decimal marks: they are told together.
 void checkTexts(DesignCheck *check, const BOMPartsDatabase &database)
 {
     for (const UnreadColumn &column : unreadColumns(database)) {
+        if (column.kind == UnreadColumn::Kind::DecimalComma) {
+            check->notices << unreadColumnNotice(column);
+            continue;
+        }
         QStringList &list = column.kind == UnreadColumn::Kind::Numeric ? check->notices : check->findings;
         for (const UnreadText &text : column.texts) {
             list << unreadTextNotice(column, text);

@@ -10,6 +10,7 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -28,18 +29,57 @@ std::optional<Kind> kindOf(const BOMField &field, const PropertyTypes &types)
     return type && hasTwoStates(*type) ? std::optional(Kind::TwoStates) : std::nullopt;
 }
 
+/// "1,234": a number whose comma is the decimal mark here, but elsewhere a mark between thousands.
+bool mayBeThousands(const QString &stored)
+{
+    const QStringView text =
+        QStringView(stored).mid(stored.startsWith(u'-') || stored.startsWith(u'+') ? 1 : 0);
+    constexpr qsizetype mostInFront = 3;
+    const qsizetype comma = text.indexOf(u',');
+    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+    return comma >= 1 && comma <= mostInFront && text.size() == comma + 4 && text.front() != u'0' &&
+           std::all_of(text.begin(), text.begin() + comma, isDigit) &&
+           std::all_of(text.begin() + comma + 1, text.end(), isDigit);
+}
+
+/// The texts of one kind, each with the parts that have it.
+class TextCollector
+{
+public:
+    TextCollector(const QString &field, Kind kind)
+        : column{field, kind, {}, {}}
+    {
+    }
+
+    void enter(const QString &text, const QString &reference)
+    {
+        const auto known = m_indices.constFind(text);
+        const qsizetype index = known == m_indices.cend() ? column.texts.size() : *known;
+        if (known == m_indices.cend()) {
+            m_indices.insert(text, index);
+            column.texts.append({text, {}});
+        }
+        column.texts[index].references.append(reference);
+    }
+
+    UnreadColumn column;
+
+private:
+    QHash<QString, qsizetype> m_indices;
+};
+
 /// Finds the texts of one column.
 class ColumnReader
 {
 public:
     ColumnReader(const BOMField &field, Kind kind, const PropertyTypes &types)
-        : m_property(field.propertyName, &types)
+        : m_unread(field.fieldName, kind)
+        , m_commas(field.fieldName, Kind::DecimalComma)
+        , m_property(field.propertyName, &types)
         , m_numbers(HostUi::current().locale())
     {
-        m_column.field = field.fieldName;
-        m_column.kind = kind;
         if (kind == Kind::TwoStates) {
-            m_column.shownAs = DisplayConversion(types.type(field.propertyName))(QStringLiteral("0"));
+            m_unread.column.shownAs = DisplayConversion(types.type(field.propertyName))(QStringLiteral("0"));
         }
     }
 
@@ -47,7 +87,7 @@ public:
     /// as the same state.
     void read(BomLine line)
     {
-        if (m_column.kind == Kind::TwoStates) {
+        if (m_unread.column.kind == Kind::TwoStates) {
             for (const Part *part : line) {
                 readState(*part);
             }
@@ -56,18 +96,49 @@ public:
         }
     }
 
-    [[nodiscard]] const UnreadColumn &column() const { return m_column; }
+    /// Those that have texts.
+    [[nodiscard]] QList<UnreadColumn> columns() const
+    {
+        QList<UnreadColumn> found;
+        for (const TextCollector *collector : {&m_unread, &m_commas}) {
+            if (!collector->column.texts.isEmpty()) {
+                found.append(collector->column);
+            }
+        }
+        return found;
+    }
 
 private:
     void readNumber(BomLine line)
     {
         const QString text = line.front()->property(m_property);
         const bool isShownAsText = text.startsWith(u'"') && text.endsWith(u'"');
-        if (text.isEmpty() || (m_column.kind == Kind::Numeric && isShownAsText) || m_numbers.read(text)) {
+        if (text.isEmpty() || (m_unread.column.kind == Kind::Numeric && isShownAsText)) {
+            return;
+        }
+        if (m_numbers.read(text)) {
+            readCommas(line, text);
             return;
         }
         for (const Part *part : line) {
-            enter(text, part->reference());
+            m_unread.enter(text, part->reference());
+        }
+    }
+
+    /// A comma may be shown as a point: what is stored counts.
+    void readCommas(BomLine line, const QString &shown)
+    {
+        constexpr qsizetype decimals = 3;
+        if (shown.size() < decimals + 2 || shown.at(shown.size() - decimals - 1).isDigit()) {
+            return;
+        }
+        for (const Part *part : line) {
+            const bool isShownAsStored = part->isBOMPart() || m_property.name() == valueProperty();
+            const QString stored = isShownAsStored ? part->property(m_property)
+                                                   : fromHostText(m_property.hostText(part->component()));
+            if (mayBeThousands(stored)) {
+                m_commas.enter(stored, part->reference());
+            }
         }
     }
 
@@ -80,25 +151,14 @@ private:
             return;
         }
         if (const QString text = fromHostText(stored); text != part.property(m_property)) {
-            enter(text, part.reference());
+            m_unread.enter(text, part.reference());
         }
     }
 
-    void enter(const QString &text, const QString &reference)
-    {
-        const auto known = m_indices.constFind(text);
-        const qsizetype index = known == m_indices.cend() ? m_column.texts.size() : *known;
-        if (known == m_indices.cend()) {
-            m_indices.insert(text, index);
-            m_column.texts.append({text, {}});
-        }
-        m_column.texts[index].references.append(reference);
-    }
-
-    UnreadColumn m_column;
+    TextCollector m_unread;
+    TextCollector m_commas;
     PropertyQuery m_property;
     NumberReader m_numbers;
-    QHash<QString, qsizetype> m_indices;
 };
 
 } // namespace
@@ -118,9 +178,7 @@ QList<UnreadColumn> unreadColumns(const BOMPartsDatabase &database)
                 reader.read(lines->line(i));
             }
         }
-        if (!reader.column().texts.isEmpty()) {
-            columns.append(reader.column());
-        }
+        columns += reader.columns();
     }
     return columns;
 }

@@ -17,7 +17,8 @@ struct UnreadText
     bool operator==(const UnreadText &) const = default;
 };
 
-/// The texts of one column of the current template that cannot be read as what the column holds.
+/// The texts of one column of the current template that cannot be read as what the column holds, or are
+/// perhaps not meant as they are read.
 struct UnreadColumn
 {
     enum class Kind
@@ -28,7 +29,10 @@ struct UnreadColumn
         Numeric,
         /// Neither "1", "0" nor what is shown for them, in a column of two states: they show as the lower
         /// state.
-        TwoStates
+        TwoStates,
+        /// Numbers such as "1,234", in a column with totals or of numbers: the comma is read as the decimal
+        /// mark, but may be meant for thousands.
+        DecimalComma
     };
 
     QString field;
@@ -41,5 +45,5 @@ struct UnreadColumn
     bool operator==(const UnreadColumn &) const = default;
 };
 
-/// The columns that have such texts, in their order.
+/// The columns that have such texts, in their order; a column with texts of two kinds comes once for each.
 [[nodiscard]] QList<UnreadColumn> unreadColumns(const BOMPartsDatabase &database);

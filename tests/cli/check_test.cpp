@@ -49,7 +49,9 @@ TEST_F(Check, AccountsForEverySymbolAndListsWhatIsToDecideAndToKnow)
               data("check", "left-out-bom-only-parts.included"));
     EXPECT_THAT(run("report unread-texts.csv --template unread-texts.bomt --propdefs unread-texts.ini").err,
                 HasSubstr("bom: column Unit Cost: 5 parts have a text that is no number and counts 0: "
-                          "\"\"5\"\" on R5, \"$1.50\" on R3, \"1,234.50\" on R1-R2, ...\n"));
+                          "\"\"5\"\" on R5, \"$1.50\" on R3, \"1,234.50\" on R1-R2, ...\n"
+                          "bom: column Unit Cost: 2 parts have a comma before three digits, which is read as "
+                          "the decimal mark: \"1,234\" on R7, \"-12,345\" on R9\n"));
     EXPECT_THAT(run("report not-annotated.kicad_sch --allow-duplicates").err,
                 HasSubstr("bom: 3 symbols are not annotated"));
 }
