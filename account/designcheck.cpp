@@ -6,6 +6,7 @@
 #include "account/billfindings.h"
 #include "account/design/designaccount.h"
 #include "account/design/propertytwins.h"
+#include "account/fieldnotices.h"
 #include "account/sentences.h"
 #include "core/bompartsdatabase.h"
 #include "core/reference.h"
@@ -215,10 +216,13 @@ DesignCheck checkDesign(const DesignSession &session, const BOMPartsDatabase &da
     check.findings += definedPartProblems(database);
     check.findings += readerFindings(session);
     check.findings += missingFindings(database, required);
+    const QList<FieldReading> readings = billReadings(design, database, required);
+    check.findings += disagreementNotices(readings);
     checkTexts(&check, database);
     check.notices += leftOutBomPartNotices(database);
     check.notices += notFittedParentNotices(database, components);
     check.notices += blockedCategoryNotices(database);
+    check.notices += otherNameNotices(readings);
     check.notices += twinNotices(design);
     check.notices += variableNotices(design);
     return check;

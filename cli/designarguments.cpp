@@ -14,8 +14,21 @@ void DesignArguments::addTo(CLI::App &command)
     addDesign(command);
     addReading(command);
     addListing(command);
+    addNames(command);
+    addAsIs(command);
+}
+
+void DesignArguments::addAsIs(CLI::App &command)
+{
     command.add_flag("--as-is", readsAsIs,
                      "Read a design whose files may not belong together, because a write was interrupted");
+}
+
+void DesignArguments::addNames(CLI::App &command)
+{
+    command.add_flag(
+        "--exact-names", hasExactNames,
+        "Find properties by their own names only, not by names of the same meaning (bom fields)");
 }
 
 void DesignArguments::addPath(CLI::App &command, std::string &design)

@@ -23,6 +23,7 @@ struct DesignArguments
     std::string propdefs;
     std::string templateName;
     bool readsAsIs = false;
+    bool hasExactNames = false;
 
     /// Adds DESIGN and all its options to a command that only reads.
     void addTo(CLI::App &command);
@@ -31,6 +32,10 @@ struct DesignArguments
     static void addPath(CLI::App &command, std::string &design);
     /// Adds what does not depend on parts being listed: the variant and the property definitions.
     void addReading(CLI::App &command);
+    /// Adds --as-is.
+    void addAsIs(CLI::App &command);
+    /// Adds whether names of properties are taken as they are.
+    void addNames(CLI::App &command);
     /// Adds what decides how parts are listed.
     void addListing(CLI::App &command);
 

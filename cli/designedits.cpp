@@ -19,6 +19,26 @@ namespace {
 /// Of more references that the design does not have, only the number is told.
 constexpr qsizetype mostNamedUnknown = 10;
 
+/// "written under the names that the design has: MPN as "manf#" on 3 parts", nothing where all names are
+/// those that were asked for.
+QStringList otherNameNotices(const QList<PropertyChange> &changes)
+{
+    QMap<std::pair<QString, QString>, qsizetype> counts;
+    for (const PropertyChange &change : changes) {
+        if (!change.askedName.isEmpty()) {
+            counts[{change.askedName, change.name}] += 1 + change.alsoChanges.size();
+        }
+    }
+    QStringList texts;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        texts << it.key().first + QStringLiteral(" as \"") + it.key().second + QStringLiteral("\" on ") +
+                     counted(it.value(), QStringLiteral("part"), QStringLiteral("parts"));
+    }
+    return texts.isEmpty() ? QStringList()
+                           : QStringList(QStringLiteral("written under the names that the design has: ") +
+                                         texts.join(QStringLiteral(", ")));
+}
+
 } // namespace
 
 DesignEdits::DesignEdits(OpenDesign &design)
@@ -118,7 +138,9 @@ void DesignEdits::addToBOMPart(const Part &part, const QString &property, const 
         m_isMoreRenumbered = m_isMoreRenumbered || (!m_renumbered.isEmpty() && m_renumbered != parent);
         m_renumbered = m_renumbered.isEmpty() ? parent : m_renumbered;
     }
-    m_bomPartChanges.append({part.reference(), property + QStringLiteral(": ") + quotedText(before, {}) +
+    const QString stored = static_cast<const BOMPart &>(part).storedName(property);
+    const QString name = stored == property.toUpper() ? property : stored;
+    m_bomPartChanges.append({part.reference(), name + QStringLiteral(": ") + quotedText(before, {}) +
                                                    QStringLiteral(" -> ") + quotedText(after, {}) +
                                                    QStringLiteral(" (a BOM-only part of ") + parent + u')'});
 }
@@ -234,7 +256,7 @@ ExitStatus DesignEdits::reportChanges(const WriteResult &result, bool isDryRun)
     const QString text = changeLines(m_bomPartChanges) + changeLines(result.changes) +
                          m_newProperties.lines() +
                          changeSummary(result.changes, result.files.size(), isDryRun);
-    console::notices(m_newProperties.notices());
+    console::notices(m_newProperties.notices() + otherNameNotices(result.changes));
     if (!m_renumbered.isEmpty()) {
         console::notice(
             QStringLiteral("BOM-only parts are numbered in the order of their definitions: those of ") +

@@ -22,6 +22,7 @@ void WriteArguments::addTo(CLI::App &command)
                      "Keep no copy of the files as they are before; bom undo needs one");
     design.addReading(command);
     design.addListing(command);
+    design.addNames(command);
     locale.addTo(command, "Read numbers as in this locale, such as de_DE; C without it");
 }
 

@@ -131,12 +131,37 @@ void EditTable::compareCell(const QString &reference, const QString &firstRefere
     } else if (column.index >= row.cells.size()) {
         refuse(row.line, reference + QStringLiteral(", ") + column.heading +
                              QStringLiteral(": the row has no cell for it"));
+    } else if (const QString other = columnOfSameText(reference, column); !other.isEmpty()) {
+        refuse(row.line,
+               reference + QStringLiteral(", ") + column.heading +
+                   QStringLiteral(": the part has this under the name ") + other +
+                   QStringLiteral(", which is a column as well; delete one of the two, or take names "
+                                  "as they are (--exact-names)"));
     } else if (!made.isEmpty()) {
         refuseSpreadsheetChange(row.line, reference + QStringLiteral(", ") + column.heading +
                                               QStringLiteral(": ") + made);
     } else {
         m_edits.add(reference, column.report.field.propertyName, plainText(cell, column), place(row.line));
     }
+}
+
+QString EditTable::columnOfSameText(const QString &reference, const EditColumn &column) const
+{
+    const LoadedDesign &design = m_design.design();
+    const QString &property = column.report.field.propertyName;
+    for (const std::size_t index : design.references().find(reference.toStdString())) {
+        const QString written = fromHostText(
+            design.properties().writtenName(design.design().components()[index], toHostText(property)));
+        const auto other = std::find_if(m_columns.begin(), m_columns.end(), [&](const EditColumn &candidate) {
+            const QString &name = candidate.report.field.propertyName;
+            return name.compare(property, Qt::CaseInsensitive) != 0 &&
+                   name.compare(written, Qt::CaseInsensitive) == 0;
+        });
+        if (other != m_columns.end()) {
+            return other->heading;
+        }
+    }
+    return {};
 }
 
 bool EditTable::hasSameTexts(const TableRow &row, const TableRow &other) const

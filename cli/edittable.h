@@ -54,6 +54,9 @@ private:
                                               const EditColumn &column) const;
     void refuseSpreadsheetChange(int line, const QString &text);
     [[nodiscard]] bool hasSameTexts(const TableRow &row, const TableRow &other) const;
+    /// The heading of another column that holds the property in which this one's text is stored: the cells of
+    /// both would be one text. Empty when there is none.
+    [[nodiscard]] QString columnOfSameText(const QString &reference, const EditColumn &column) const;
     /// What the report shows of every component of that reference.
     [[nodiscard]] QStringList componentTexts(const QString &reference, const EditColumn &column) const;
     void refuse(int line, const QString &text);

@@ -5,6 +5,7 @@
 #include "cli/completioncommand.h"
 #include "cli/console.h"
 #include "cli/editcommands.h"
+#include "cli/fieldscommand.h"
 #include "cli/helpcommand.h"
 #include "cli/partscommand.h"
 #include "cli/reportcommand.h"
@@ -113,6 +114,7 @@ int main(int argc, char *argv[])
     ReportCommand report;
     PartsCommand parts;
     CheckCommand check;
+    FieldsCommand fields;
     SetCommand set;
     ApplyCommand apply;
     UndoCommand undo;
@@ -120,8 +122,8 @@ int main(int argc, char *argv[])
     TemplateCommand templates;
     HelpCommand help;
     CompletionCommand completion;
-    const std::array<Command *, 10> commands{&report, &parts, &check,     &variants, &set,
-                                             &apply,  &undo,  &templates, &help,     &completion};
+    const std::array<Command *, 11> commands{&report, &parts, &check,     &fields, &variants,  &set,
+                                             &apply,  &undo,  &templates, &help,   &completion};
 
     CLI::App program("Bills of materials from KiCad designs and CSV part lists.", "bom");
     program.set_version_flag("-V,--version", "bom " BOM_VERSION);

@@ -62,7 +62,8 @@ bool differsByOneLetter(const QString &a, const QString &b)
 
 bool hasProperty(OpenDesign &design, const QString &name)
 {
-    if (!design.design().design().names().candidates(name.toStdString()).empty()) {
+    if (!design.design().design().names().candidates(name.toStdString()).empty() ||
+        !design.design().properties().otherNames(toHostText(name)).empty()) {
         return true;
     }
     const auto parts = design.database().parts();

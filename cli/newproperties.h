@@ -9,8 +9,8 @@
 
 class OpenDesign;
 
-/// Whether the design knows the name, in any letter case: some part, BOM-only or not, may have such a
-/// property.
+/// Whether the design knows the name, in any letter case, or another one of the same meaning: some part,
+/// BOM-only or not, may have such a property.
 [[nodiscard]] bool hasProperty(OpenDesign &design, const QString &name);
 
 /// The names under which parts have a property.

@@ -64,6 +64,7 @@ ExitStatus OpenDesign::open(const DesignArguments &arguments, bool printsWarning
         return ExitStatus::UnreadableInput;
     }
     m_session.setDnpChoice(arguments.dnpChoice());
+    m_session.setExactNames(arguments.hasExactNames);
     if (const ExitStatus status = openSession(m_session, arguments.path(), arguments.openOptions());
         status != ExitStatus::Done) {
         return status;

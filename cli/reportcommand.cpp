@@ -4,6 +4,7 @@
 
 #include "account/billaccount.h"
 #include "account/design/designaccount.h"
+#include "account/fieldnotices.h"
 #include "account/reportnotices.h"
 #include "account/sentences.h"
 #include "cli/console.h"
@@ -12,6 +13,9 @@
 #include "cli/terminal.h"
 #include "host/framework/hostui.h"
 #include "host/propdefs/propdefsfile.h"
+#include "standalone/environment.h"
+#include "standalone/fieldtables.h"
+#include "standalone/loadeddesign.h"
 #include "templates/oldhtmltemplate.h"
 #include "views/pdfreport.h"
 #include "views/report/asciireport.h"
@@ -114,7 +118,9 @@ ExitStatus ReportCommand::run()
     if (!shouldContinue(design, components)) {
         return ExitStatus::DesignProblem;
     }
-    console::notices(reportNotices(components, design.database(), formsOf(outputs)) +
+    const QList<FieldReading> readings = billReadings(design.design(), design.database());
+    console::notices(otherNameNotices(readings) + disagreementNotices(readings) +
+                     reportNotices(components, design.database(), formsOf(outputs)) +
                      missingNotes(design, outputs));
     return write(design, outputs);
 }
@@ -189,6 +195,7 @@ bool ReportCommand::protectDesignFiles(OpenDesign &design, const QList<Output> &
 {
     QStringList inputs = design.session().files();
     const StandaloneDocument &document = design.session().document();
+    inputs << userFieldTable() << fieldTableBeside(design.design().design().info().file);
     inputs << m_design.path() << document.notesFile() << document.projectNotesFile() << propdefsfile()
            << design.database().currentTemplate().filePath();
     for (const Output &output : outputs) {

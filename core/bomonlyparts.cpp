@@ -174,7 +174,7 @@ bool BOMOnlyParts::setProperty(const QString &reference, const QString &name, co
         return false;
     }
     BOMPartDefinition wanted{1, changed->prefix(), changed->value(), changed->properties()};
-    const QString key = name.toUpper();
+    const QString key = changed->storedName(name);
     if (key == valueProperty()) {
         wanted.value = text;
     } else if (text.isEmpty()) {

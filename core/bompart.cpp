@@ -39,5 +39,14 @@ QString BOMPart::property(const QString &name) const
         const Part *parent = database()->part(m_parentReference);
         return parent && !parent->isBOMPart() ? parent->property(name) : QString();
     }
-    return m_properties.value(name.toUpper());
+    return m_properties.value(storedName(name));
+}
+
+QString BOMPart::storedName(const QString &name) const
+{
+    const QString own = name.toUpper();
+    const QString other = m_properties.isEmpty() || !database() || !m_properties.value(own).isEmpty()
+                              ? QString()
+                              : database()->otherName(name, m_properties);
+    return other.isEmpty() ? own : other;
 }

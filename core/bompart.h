@@ -25,6 +25,8 @@ public:
     /// empty when the database holds no placed part of that reference.
     [[nodiscard]] QString property(const QString &name) const override;
     using Part::property;
+    /// The upper-case name under which the part has a property, or would.
+    [[nodiscard]] QString storedName(const QString &name) const;
 
     [[nodiscard]] const QString &parentReference() const { return m_parentReference; }
 

@@ -102,6 +102,7 @@ void BOMPartsDatabase::readNetlist()
         reader.read(*component);
     }
     m_parts.endLoading();
+    m_otherNames.setRank(m_netlist->samemeaning);
     m_bomOnlyParts.load(reader.parents(), m_netlist->fitting);
 }
 

@@ -6,6 +6,7 @@
 #include "core/bomlinks.h"
 #include "core/bomonlyparts.h"
 #include "core/designnotes.h"
+#include "core/othernames.h"
 #include "core/partstore.h"
 #include "core/propertytypes.h"
 #include "templates/bomtemplate.h"
@@ -80,6 +81,11 @@ public:
 
     /// Null when no part has that reference. Parts live until clear().
     [[nodiscard]] Part *part(const QString &reference) const override { return m_parts.find(reference); }
+    [[nodiscard]] QString otherName(const QString &asked,
+                                    const QMap<QString, QString> &properties) const override
+    {
+        return m_otherNames.find(asked, properties);
+    }
     /// All parts in the order of the netlist, BOM-only parts behind.
     [[nodiscard]] std::span<Part *const> parts() const { return m_parts.parts(); }
     /// Empty for an unknown reference.
@@ -198,6 +204,7 @@ private:
     QString m_notes;
     PropertyTypes m_propertyTypes;
     PartStore m_parts;
+    OtherNames m_otherNames;
     LinkTable m_links;
     BOMCategories m_categories;
     BOMOnlyParts m_bomOnlyParts;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QMap>
 #include <QString>
 
 class CategoryGroups;
@@ -18,6 +19,15 @@ public:
     [[nodiscard]] virtual const PropertyTypes &propertyTypes() const = 0;
     /// Null when no part has that reference.
     [[nodiscard]] virtual Part *part(const QString &reference) const = 0;
+    /// Under which of the names of a BOM-only part it has what is asked for under another one of the same
+    /// meaning; empty when under none.
+    [[nodiscard]] virtual QString otherName(const QString &asked,
+                                            const QMap<QString, QString> &properties) const
+    {
+        Q_UNUSED(asked)
+        Q_UNUSED(properties)
+        return {};
+    }
 
 protected:
     PartDatabase() = default;

@@ -24,6 +24,9 @@ struct Edit
     std::string name;
     /// Nothing takes the property away.
     std::optional<std::string> value;
+    /// The name that the user said, where another one of the same meaning is written. Empty where it is the
+    /// same.
+    std::string askedName = {};
 
     bool operator==(const Edit &) const = default;
 };

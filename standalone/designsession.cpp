@@ -6,6 +6,7 @@
 #include "designs/transaction/designfiles.h"
 #include "host/framework/hostui.h"
 #include "standalone/companionfiles.h"
+#include "standalone/fieldtables.h"
 #include "standalone/loadeddesign.h"
 
 #include <QCoreApplication>
@@ -70,7 +71,9 @@ bool DesignSession::read(const QString &path, const OpenOptions &options)
 void DesignSession::setDesign(std::unique_ptr<const designs::Design> design)
 {
     m_errors.clear();
-    m_design = std::make_shared<LoadedDesign>(std::move(design), m_dnpChoice);
+    LoadedFieldNames fields = m_hasExactNames ? LoadedFieldNames() : loadFieldNames(design->info().file);
+    m_tableProblems = fields.problems;
+    m_design = std::make_shared<LoadedDesign>(std::move(design), m_dnpChoice, std::move(fields.names));
     m_document.setDesign(m_design);
     m_cdb.setDesign(m_design);
     m_process.setOpen(true);
@@ -79,7 +82,8 @@ void DesignSession::setDesign(std::unique_ptr<const designs::Design> design)
 
 QStringList DesignSession::warnings() const
 {
-    return m_design ? m_recoveries + messagesOf(m_design->design().warnings()) : QStringList();
+    return m_design ? m_recoveries + messagesOf(m_design->design().warnings()) + m_tableProblems
+                    : QStringList();
 }
 
 WriteResult DesignSession::write(const WriteOptions &options, const std::function<bool()> &runScripts)

@@ -45,8 +45,8 @@ public:
     /// All of them in one line.
     [[nodiscard]] QString error() const { return m_errors.join(QStringLiteral("; ")); }
 
-    /// What was done about an interrupted write, and what the reader noticed and went on from, one
-    /// "FILE:LINE: text" each.
+    /// What was done about an interrupted write, and what the readers of the design and of the tables of
+    /// property names noticed and went on from, one "FILE:LINE: text" each.
     [[nodiscard]] QStringList warnings() const;
     /// The files that make up the design, absolute.
     [[nodiscard]] QStringList files() const;
@@ -74,6 +74,10 @@ public:
     /// The caches become stale when the choice changes.
     void setDnpChoice(DnpChoice choice);
 
+    /// Whether designs that are opened from now on have their properties found by the exact name, the alias
+    /// and the letter case only, not by names of the same meaning.
+    void setExactNames(bool areExact) { m_hasExactNames = areExact; }
+
     /// Null before a design is open.
     [[nodiscard]] const LoadedDesign *design() const { return m_design.get(); }
     [[nodiscard]] StandaloneNetlist &netlist() { return m_netlist; }
@@ -100,6 +104,9 @@ private:
     StandaloneProcess m_process;
     std::shared_ptr<LoadedDesign> m_design;
     DnpChoice m_dnpChoice = DnpChoice::Exclude;
+    bool m_hasExactNames = false;
+    /// What is wrong with the tables of property names.
+    QStringList m_tableProblems;
     /// What the design is read from: the file that was named, a project too.
     QString m_path;
     OpenOptions m_openOptions;

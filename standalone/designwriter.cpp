@@ -26,9 +26,10 @@ QList<CDBPROBLEM> problemsOf(const designs::Design &design, std::span<const desi
     QList<CDBPROBLEM> found;
     for (const designs::EditProblem &problem : problems) {
         const designs::Edit *edit = problem.edit ? &edits[*problem.edit] : nullptr;
-        found.append({edit ? reference(design, edit->component) : QString(),
-                      edit ? designs::fromUtf8(edit->name) : QString(), problem.problem.file,
-                      problem.problem.line, problem.problem.text});
+        found.append(
+            {edit ? reference(design, edit->component) : QString(),
+             edit ? designs::fromUtf8(edit->askedName.empty() ? edit->name : edit->askedName) : QString(),
+             problem.problem.file, problem.problem.line, problem.problem.text});
     }
     return found;
 }
@@ -52,7 +53,8 @@ PropertyChange changeOf(const designs::Design &design, std::span<const designs::
                           planned.file,
                           planned.line,
                           {},
-                          designs::fromUtf8(planned.variant)};
+                          designs::fromUtf8(planned.variant),
+                          designs::fromUtf8(edits[planned.edit].askedName)};
     for (const std::size_t component : planned.alsoChanges) {
         change.alsoChanges << reference(design, component);
     }

@@ -33,6 +33,8 @@ struct PropertyChange
     QStringList alsoChanges;
     /// The variant that it is made in; empty for the design as drawn.
     QString variant = {};
+    /// The name that was asked for, where the property is stored under another one of the same meaning.
+    QString askedName = {};
 
     bool operator==(const PropertyChange &) const = default;
 };

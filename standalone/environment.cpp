@@ -37,3 +37,8 @@ QString userDefinitionsFile()
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
            QStringLiteral("/bom/PROPDEFS.INI");
 }
+
+QString userFieldTable()
+{
+    return userDataFolder(QStringLiteral("BOM")) + QStringLiteral("/bomfields.txt");
+}

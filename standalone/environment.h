@@ -22,3 +22,6 @@
 
 /// The user's property definitions, PROPDEFS.INI in the configuration folder. It need not exist.
 [[nodiscard]] QString userDefinitionsFile();
+
+/// The user's table of property names that mean the same, see loadFieldNames(). It need not exist.
+[[nodiscard]] QString userFieldTable();

@@ -45,9 +45,10 @@ std::vector<PROPERTY> LoadedDesign::Record::all() const
     return m_table->all(*m_component);
 }
 
-LoadedDesign::LoadedDesign(std::unique_ptr<const designs::Design> design, DnpChoice choice)
+LoadedDesign::LoadedDesign(std::unique_ptr<const designs::Design> design, DnpChoice choice,
+                           std::shared_ptr<const FieldNames> fieldNames)
     : m_design(std::move(design))
-    , m_properties(*m_design)
+    , m_properties(*m_design, std::move(fieldNames))
 {
     m_properties.setDnpChoice(choice);
     const auto &components = m_design->components();

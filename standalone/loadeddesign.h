@@ -17,7 +17,9 @@
 class LoadedDesign final
 {
 public:
-    LoadedDesign(std::unique_ptr<const designs::Design> design, DnpChoice choice);
+    /// Without names of fields a property is found by its own name only.
+    LoadedDesign(std::unique_ptr<const designs::Design> design, DnpChoice choice,
+                 std::shared_ptr<const FieldNames> fieldNames = nullptr);
 
     [[nodiscard]] const designs::Design &design() const { return *m_design; }
     [[nodiscard]] std::span<const COMPONENT *const> components() const { return m_components; }

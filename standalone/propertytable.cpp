@@ -37,8 +37,9 @@ bool contains(const std::vector<designs::NameId> &ids, designs::NameId id)
 
 } // namespace
 
-PropertyTable::PropertyTable(const designs::Design &design)
+PropertyTable::PropertyTable(const designs::Design &design, std::shared_ptr<const FieldNames> fieldNames)
     : m_design(design)
+    , m_fields(design, std::move(fieldNames))
     , m_stamp(nextStamp())
     , m_skip(&lookup(QByteArray(skipName)))
     , m_notFitted(&lookup(QByteArray(notFittedName)))
@@ -178,6 +179,13 @@ const PropertyTable::Lookup &PropertyTable::lookup(const QByteArray &name) const
     } else if (name.compare(notFittedName, Qt::CaseInsensitive) == 0) {
         made.meaning = Meaning::NotFitted;
     }
+    if (made.meaning == Meaning::Stored && made.isPlain) {
+        made.others = m_fields.sameMeaning(name, made.candidates);
+        for (std::size_t rank = 0; rank < made.others.size(); ++rank) {
+            made.ranks.emplace_back(made.others[rank], rank);
+        }
+        std::sort(made.ranks.begin(), made.ranks.end());
+    }
     return m_lookups.emplace(key, std::move(made)).first->second;
 }
 
@@ -200,10 +208,90 @@ std::optional<QByteArrayView> PropertyTable::stored(const designs::Component &co
                                                     const Lookup &lookup) const
 {
     // Most names stand for one property; the value and the reference stand beside the properties.
-    if (lookup.isPlain && lookup.candidates.size() == 1) {
+    if (lookup.isPlain && lookup.candidates.size() == 1 && lookup.others.empty()) {
         const auto value = component.stored(lookup.candidates.front());
         return value ? std::optional(view(*value)) : std::nullopt;
     }
-    const auto name = m_design.storedName(component, lookup.candidates);
+    const auto name = usedName(component, lookup);
     return name ? std::optional(view(*m_design.stored(component, *name))) : std::nullopt;
+}
+
+std::optional<designs::NameId> PropertyTable::usedName(const designs::Component &component,
+                                                       const Lookup &lookup) const
+{
+    const auto own = m_design.storedName(component, lookup.candidates);
+    if (lookup.others.empty() || (own && DesignFields::isFilled(*m_design.stored(component, *own)))) {
+        return own;
+    }
+    std::optional<std::size_t> filled;
+    std::optional<std::size_t> empty;
+    for (const designs::Property &property : component.properties) {
+        if (const auto rank = rankOf(lookup, property.name)) {
+            auto &best = DesignFields::isFilled(property.value) ? filled : empty;
+            best = std::min(best.value_or(*rank), *rank);
+        }
+    }
+    if (!filled && own) {
+        return own;
+    }
+    const auto best = filled ? filled : empty;
+    return best ? std::optional(lookup.others[*best]) : std::nullopt;
+}
+
+std::optional<std::size_t> PropertyTable::rankOf(const Lookup &lookup, designs::NameId name)
+{
+    const auto found =
+        std::lower_bound(lookup.ranks.begin(), lookup.ranks.end(), name,
+                         [](const auto &ranked, designs::NameId id) { return ranked.first < id; });
+    return found != lookup.ranks.end() && found->first == name ? std::optional(found->second) : std::nullopt;
+}
+
+const std::vector<designs::NameId> &PropertyTable::otherNames(const QByteArray &name) const
+{
+    return lookup(name).others;
+}
+
+std::optional<designs::NameId> PropertyTable::usedName(const designs::Component &component,
+                                                       const QByteArray &name) const
+{
+    return usedName(component, lookup(name));
+}
+
+std::vector<designs::NameId> PropertyTable::filledNames(const designs::Component &component,
+                                                        const QByteArray &name) const
+{
+    const Lookup &asked = lookup(name);
+    std::vector<designs::NameId> filled;
+    for (const designs::NameId id : asked.candidates) {
+        const auto text = m_design.stored(component, id);
+        if (text && DesignFields::isFilled(*text)) {
+            filled.push_back(id);
+        }
+    }
+    std::vector<std::size_t> others;
+    for (const designs::Property &property : component.properties) {
+        const auto rank = rankOf(asked, property.name);
+        if (rank && DesignFields::isFilled(property.value)) {
+            others.push_back(*rank);
+        }
+    }
+    std::sort(others.begin(), others.end());
+    std::transform(others.begin(), others.end(), std::back_inserter(filled),
+                   [&asked](std::size_t rank) { return asked.others[rank]; });
+    return filled;
+}
+
+QByteArray PropertyTable::writtenName(const designs::Component &component, const QByteArray &name) const
+{
+    const Lookup &asked = lookup(name);
+    if (!m_fields.names() || asked.meaning != Meaning::Stored || !asked.isPlain ||
+        FieldNames::isExact(QString::fromUtf8(name))) {
+        return name;
+    }
+    if (const auto used = usedName(component, asked)) {
+        return rankOf(asked, *used) ? bytes(m_design.names().name(*used)) : name;
+    }
+    std::vector<designs::NameId> ids = asked.candidates;
+    ids.insert(ids.end(), asked.others.begin(), asked.others.end());
+    return ids.empty() ? name : bytes(m_design.names().name(m_fields.commonest(ids)));
 }

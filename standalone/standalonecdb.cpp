@@ -27,6 +27,11 @@ std::string storedName(const designs::Design &design, const designs::Edit &edit)
         design.names().name(design.storedName(component, candidates).value_or(candidates.front())));
 }
 
+const std::string &askedName(const designs::Edit &edit)
+{
+    return edit.askedName.empty() ? edit.name : edit.askedName;
+}
+
 /// Whether a definition of BOM-only parts would be stored in the letter case of a property that the design
 /// has, in which it would define nothing.
 bool losesDefinition(const designs::Design &design, const designs::Edit &edit)
@@ -130,6 +135,12 @@ void StandaloneCdb::stage(const AdiAssignment &assignment)
         return;
     }
     designs::Edit edit{found.front(), assignment.property, assignment.value};
+    const QByteArray written = m_design->properties().writtenName(
+        m_design->design().components()[found.front()], QByteArray::fromStdString(assignment.property));
+    if (written != QByteArrayView(assignment.property)) {
+        edit.name = written.toStdString();
+        edit.askedName = assignment.property;
+    }
     if (const auto reason = m_design->design().checkEdit(edit)) {
         const designs::Design &design = m_design->design();
         const designs::Component &component = design.components()[edit.component];
@@ -145,8 +156,8 @@ void StandaloneCdb::stage(const AdiAssignment &assignment)
         return;
     }
     if (const designs::Edit *other = contradicted(edit)) {
-        refuse(assignment,
-               QStringLiteral("another text is asked for under the name ") + designs::fromUtf8(other->name));
+        refuse(assignment, QStringLiteral("another text is asked for under the name ") +
+                               designs::fromUtf8(askedName(*other)));
         return;
     }
     m_staged.push_back(std::move(edit));
@@ -157,7 +168,7 @@ const designs::Edit *StandaloneCdb::contradicted(const designs::Edit &edit)
     const std::string key = std::to_string(edit.component) + ':' + storedName(m_design->design(), edit);
     const auto [last, isNew] = m_lastEdits.try_emplace(key, m_staged.size());
     const designs::Edit *before = isNew ? nullptr : &m_staged[last->second];
-    if (before && before->name != edit.name && before->value != edit.value) {
+    if (before && askedName(*before) != askedName(edit) && before->value != edit.value) {
         return before;
     }
     last->second = m_staged.size();

@@ -16,6 +16,7 @@ void clear(NETCACHE &cache)
     cache.validMask = 0;
     cache.components = {};
     cache.fitting = nullptr;
+    cache.samemeaning = nullptr;
     cache.propertyNames.clear();
 }
 
@@ -70,6 +71,9 @@ bool StandaloneNetlist::sendnetlist(NETCACHE &cache, int, int)
     cache.wantedMask = usable;
     cache.components = m_design->components();
     cache.fitting = [design = m_design](QByteArrayView dnp) { return design->properties().fitting(dnp); };
+    cache.samemeaning = [design = m_design](const QByteArray &asked, const QByteArray &other) {
+        return design->properties().fields().rank(asked, other);
+    };
     cache.propertyNames = m_design->properties().allNames();
     if (client->sent.empty() || client->sent.back() != m_design) {
         client->sent.push_back(m_design);

@@ -8,6 +8,7 @@
 #include <QByteArrayView>
 
 #include <functional>
+#include <optional>
 #include <span>
 
 /// What a mark for parts that are not fitted makes of a part.
@@ -37,6 +38,11 @@ struct NETLIST
     /// What the text of a property DNP, empty where there is none, says of a part that the host does not
     /// know. Without it such parts are fitted and listed.
     std::function<FITTING(QByteArrayView)> fitting;
+
+    /// How well a property of another name answers for the one that is asked for, on a part that the host
+    /// does not know: the smallest is the best, nothing when it does not mean the same. Without it such parts
+    /// have each property under its own name only.
+    std::function<std::optional<std::size_t>(const QByteArray &asked, const QByteArray &other)> samemeaning;
 
     [[nodiscard]] bool isValid() const { return (validMask & wantedMask) != 0; }
 };

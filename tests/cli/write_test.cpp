@@ -362,8 +362,9 @@ TEST_F(Write, NewPropertiesAreToldWithThoseThatTheyMayBe)
     write(list, "Reference,Value,MPN,Part_No,MPN2\nR1,1k,a,,\nR2,1k,a,,\nR3,1k,a,,\n");
     const std::tuple<const char *, const char *, const char *> cases[] = {
         {"MPM", "new property MPM on 3 parts\n", "nearly the same name: MPN\n"},
-        {"MNP", "new property MNP on 3 parts\n", "nearly the same name: MPN\n"},
-        {"PART NO.", "new property PART NO. on 3 parts\n", "nearly the same name: Part_No\n"},
+        {"PMN", "new property PMN on 3 parts\n", "nearly the same name: MPN\n"},
+        {"PART/NO", "new property PART/NO on 3 parts\n", "nearly the same name: Part_No\n"},
+        {"PART NO.", "", "PART NO. as \"Part_No\" on 3 parts\n"},
         {"MPN3", "new property MPN3 on 3 parts\n", ""},
         {"Mpn", "", ""},
         {"DNP", "", ""},
@@ -385,14 +386,14 @@ TEST_F(Write, NewPropertiesAreToldWithThoseThatTheyMayBe)
 TEST_F(Write, ANewPropertyOfNearlyTheNameOfAnotherHasToBeMeant)
 {
     write(list, "Reference,Value,MPN,Mode\nR1,1k,a,x\n");
-    const std::string misspelt = "set list.csv R1 MNP=b --dry-run";
+    const std::string misspelt = "set list.csv R1 PMN=b --dry-run";
     const ProgramRun refused = run(misspelt.c_str());
     EXPECT_EQ(refused.status, 2);
     EXPECT_EQ(refused.err,
-              "bom: the design has no property \"MNP\"; did you mean \"MPN\"? (--new makes it)\n");
+              "bom: the design has no property \"PMN\"; did you mean \"MPN\"? (--new makes it)\n");
     EXPECT_EQ(refused.out, "");
     EXPECT_EQ(run((misspelt + " --new").c_str()).status, 0);
-    for (const char *meant : {"MNP=", "Tolerance=1", "CODE=1", "DNP=1"}) {
+    for (const char *meant : {"PMN=", "Tolerance=1", "CODE=1", "DNP=1"}) {
         EXPECT_EQ(run((std::string("set list.csv R1 ") + meant + " --dry-run").c_str()).status, 0) << meant;
     }
 }

@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "account/fieldnotices.h"
+
+#include "account/sentences.h"
+#include "core/bompart.h"
+#include "core/bompartsdatabase.h"
+
+#include <algorithm>
+
+namespace {
+
+/// MPN from "manf#" (12 parts): the name with its parts.
+QString useText(const FieldUse &use)
+{
+    return u'"' + use.name + QStringLiteral("\" (") +
+           counted(use.parts, QStringLiteral("part"), QStringLiteral("parts")) + u')';
+}
+
+QString useTexts(const QList<FieldUse> &uses)
+{
+    constexpr qsizetype mostNames = 5;
+    QStringList texts;
+    for (const FieldUse &use : uses.first(std::min(mostNames, uses.size()))) {
+        texts << useText(use);
+    }
+    if (uses.size() > mostNames) {
+        texts << QString::number(uses.size() - mostNames) + QStringLiteral(" more names");
+    }
+    return texts.join(QStringLiteral(" and "));
+}
+
+void addBomOnlyParts(FieldReading *reading, const BOMPartsDatabase &database)
+{
+    const QString own = reading->asked.toUpper();
+    const auto parts = database.parts();
+    const auto isPlaced = [](const Part *part) { return !part->isBOMPart(); };
+    for (auto it = std::partition_point(parts.begin(), parts.end(), isPlaced); it != parts.end(); ++it) {
+        const Part *part = *it;
+        const QString name = static_cast<const BOMPart *>(part)->storedName(reading->asked);
+        if (name == own) {
+            continue;
+        }
+        const auto isSame = [&name](const FieldUse &use) {
+            return use.name.compare(name, Qt::CaseInsensitive) == 0;
+        };
+        auto use = std::find_if(reading->others.begin(), reading->others.end(), isSame);
+        if (use == reading->others.end()) {
+            use = reading->others.insert(use, {name, 0, part->reference(), part->property(reading->asked)});
+        }
+        ++use->parts;
+    }
+}
+
+} // namespace
+
+QList<FieldReading> billReadings(const LoadedDesign &design, const BOMPartsDatabase &database,
+                                 const QStringList &further)
+{
+    QStringList asked;
+    for (const BOMField &field : database.currentTemplate().fields().fields()) {
+        asked << field.propertyName;
+    }
+    QList<FieldReading> readings = fieldReadings(design, asked + further);
+    for (FieldReading &reading : readings) {
+        addBomOnlyParts(&reading, database);
+    }
+    readings.removeIf([](const FieldReading &reading) {
+        return reading.others.isEmpty() && reading.disagreements.isEmpty() && reading.proposed.isEmpty();
+    });
+    return readings;
+}
+
+QStringList otherNameNotices(const QList<FieldReading> &readings)
+{
+    QStringList read;
+    QStringList proposed;
+    for (const FieldReading &reading : readings) {
+        if (!reading.others.isEmpty()) {
+            read << reading.asked + QStringLiteral(" from ") + useTexts(reading.others);
+        }
+        if (!reading.proposed.isEmpty()) {
+            proposed << reading.asked + QStringLiteral(" may be ") + useTexts(reading.proposed);
+        }
+    }
+    QStringList notices;
+    if (!read.isEmpty()) {
+        notices << QStringLiteral("read under other names: ") + read.join(QStringLiteral(", "));
+    }
+    if (!proposed.isEmpty()) {
+        notices << QStringLiteral("not read, as the names do not say it for certain: ") +
+                       proposed.join(QStringLiteral(", ")) + QStringLiteral(" (bom fields tells more)");
+    }
+    return notices;
+}
+
+QStringList disagreementNotices(const QList<FieldReading> &readings)
+{
+    QStringList notices;
+    for (const FieldReading &reading : readings) {
+        if (!reading.disagreements.isEmpty()) {
+            notices << reading.asked + QStringLiteral(": ") +
+                           counted(reading.disagreements.size(), QStringLiteral("part has"),
+                                   QStringLiteral("parts have")) +
+                           QStringLiteral(" different texts under names of this meaning: ") +
+                           disagreementText(reading.disagreements);
+        }
+    }
+    return notices;
+}
+
+QString disagreementText(const QList<FieldDisagreement> &disagreements)
+{
+    constexpr qsizetype mostParts = 3;
+    constexpr qsizetype mostTexts = 4;
+    QStringList parts;
+    for (const FieldDisagreement &part : disagreements.first(std::min(mostParts, disagreements.size()))) {
+        QStringList texts;
+        for (const FieldDisagreement::Text &text : part.texts.first(std::min(mostTexts, part.texts.size()))) {
+            texts << u'"' + text.text + QStringLiteral("\" under ") + text.name +
+                         (texts.isEmpty() ? QStringLiteral(" is read") : QStringLiteral(" is not"));
+        }
+        if (part.texts.size() > mostTexts) {
+            texts << QStringLiteral("...");
+        }
+        parts << part.reference + QStringLiteral(" (") + texts.join(QStringLiteral(", ")) + u')';
+    }
+    if (disagreements.size() > mostParts) {
+        parts << QStringLiteral("...");
+    }
+    return parts.join(QStringLiteral(", "));
+}

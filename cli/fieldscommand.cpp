@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "cli/fieldscommand.h"
+
+#include "account/fieldnotices.h"
+#include "account/sentences.h"
+#include "cli/opendesign.h"
+#include "standalone/fieldtables.h"
+#include "standalone/loadeddesign.h"
+#include "views/report/jsonreport.h"
+#include "views/report/jsonwriter.h"
+#include "views/report/report.h"
+
+#include <algorithm>
+
+namespace {
+
+QString partsText(qsizetype count)
+{
+    return counted(count, QStringLiteral("part"), QStringLiteral("parts"));
+}
+
+QString shortened(const QString &text)
+{
+    constexpr qsizetype longest = 50;
+    return printable(text.size() > longest ? text.first(longest - 1) + QChar(u'…') : text);
+}
+
+/// The names in columns: name, parts, example, and what else there is to say of each.
+QString nameLines(const QList<FieldUse> &uses, const QStringList &remarks = {})
+{
+    qsizetype width = 0;
+    qsizetype partsWidth = 0;
+    for (const FieldUse &use : uses) {
+        width = std::max(width, printable(use.name).size());
+        partsWidth = std::max(partsWidth, partsText(use.parts).size());
+    }
+    QString text;
+    for (qsizetype i = 0; i < uses.size(); ++i) {
+        const FieldUse &use = uses.at(i);
+        const QString parts = partsText(use.parts);
+        text += QStringLiteral("  ") + printable(use.name).leftJustified(width) + QStringLiteral("  ") +
+                parts.rightJustified(partsWidth) + QStringLiteral("  \"") + shortened(use.exampleText) +
+                QStringLiteral("\" on ") + printable(use.exampleReference) + remarks.value(i) + u'\n';
+    }
+    return text;
+}
+
+QString meaningText(const FieldOverview::Meaning &meaning)
+{
+    QString text = meaning.meaning.title + QStringLiteral(" [") + meaning.meaning.key +
+                   QStringLiteral("], ") + partsText(meaning.parts) +
+                   (meaning.meaning.use == FieldMeaning::Use::Listed
+                        ? QStringLiteral("; each name is read by itself only")
+                        : QString()) +
+                   u'\n' + nameLines(meaning.names);
+    if (!meaning.disagreements.isEmpty()) {
+        text += QStringLiteral("  different texts on ") + partsText(meaning.disagreements.size()) +
+                QStringLiteral(": ") + printable(disagreementText(meaning.disagreements)) + u'\n';
+    }
+    return text;
+}
+
+/// The names that may mean something, and how to have them read.
+QString proposalsText(const QList<FieldOverview::Proposal> &proposals, const QString &table)
+{
+    QList<FieldUse> uses;
+    QStringList remarks;
+    for (const FieldOverview::Proposal &proposal : proposals) {
+        QStringList meanings;
+        for (const FieldMeaning &meaning : proposal.meanings) {
+            meanings << meaning.title + QStringLiteral(" [") + meaning.key + u']';
+        }
+        uses << proposal.name;
+        remarks << QStringLiteral(": may be ") + meanings.join(QStringLiteral(", "));
+    }
+    if (uses.isEmpty()) {
+        return {};
+    }
+    const FieldOverview::Proposal &first = proposals.first();
+    return QStringLiteral("Not read, as the name does not say it for certain\n") + nameLines(uses, remarks) +
+           QStringLiteral("  To have one read, write it below its meaning into ") +
+           printable(console::withShownPaths(table)) + QStringLiteral(":\n    [") +
+           first.meanings.first().key + QStringLiteral("]\n    ") + printable(first.name.name) + u'\n';
+}
+
+QString readableText(const FieldOverview &overview, const QString &table)
+{
+    QStringList blocks;
+    for (const FieldOverview::Meaning &meaning : overview.meanings) {
+        if (meaning.meaning.use != FieldMeaning::Use::Ignored) {
+            blocks << meaningText(meaning);
+        }
+    }
+    blocks << proposalsText(overview.proposals, table);
+    if (!overview.others.isEmpty()) {
+        blocks << QStringLiteral("Without a known meaning\n") + nameLines(overview.others);
+    }
+    blocks.removeAll(QString());
+    return blocks.isEmpty() ? QStringLiteral("no part has a property besides value and footprint\n")
+                            : blocks.join(u'\n');
+}
+
+void writeUse(JsonWriter &json, const FieldUse &use)
+{
+    json.entry(u"name", use.name);
+    json.key(u"parts");
+    json.number(use.parts);
+    json.entry(u"reference", use.exampleReference);
+    json.entry(u"text", use.exampleText);
+}
+
+void writeDisagreements(JsonWriter &json, const QList<FieldDisagreement> &disagreements)
+{
+    json.key(u"disagreements");
+    json.beginArray();
+    for (const FieldDisagreement &part : disagreements) {
+        json.newLine();
+        json.beginObject();
+        json.entry(u"reference", part.reference);
+        json.key(u"texts");
+        json.beginArray();
+        for (const FieldDisagreement::Text &text : part.texts) {
+            json.beginObject();
+            json.entry(u"name", text.name);
+            json.entry(u"text", text.text);
+            json.endObject();
+        }
+        json.endArray();
+        json.endObject();
+    }
+    json.endArray();
+}
+
+void writeMeaning(JsonWriter &json, const FieldOverview::Meaning &meaning)
+{
+    json.newLine();
+    json.beginObject();
+    json.entry(u"meaning", meaning.meaning.key);
+    json.entry(u"title", meaning.meaning.title);
+    json.entry(u"use", meaning.meaning.use == FieldMeaning::Use::Read     ? u"read"
+                       : meaning.meaning.use == FieldMeaning::Use::Listed ? u"listed"
+                                                                          : u"ignored");
+    json.key(u"parts");
+    json.number(meaning.parts);
+    json.key(u"names");
+    json.beginArray();
+    for (const FieldUse &use : meaning.names) {
+        json.newLine();
+        json.beginObject();
+        writeUse(json, use);
+        json.endObject();
+    }
+    json.endArray();
+    writeDisagreements(json, meaning.disagreements);
+    json.endObject();
+}
+
+void writeProposal(JsonWriter &json, const FieldOverview::Proposal &proposal)
+{
+    json.newLine();
+    json.beginObject();
+    writeUse(json, proposal.name);
+    json.key(u"meanings");
+    json.beginArray();
+    for (const FieldMeaning &meaning : proposal.meanings) {
+        json.text(meaning.key);
+    }
+    json.endArray();
+    json.endObject();
+}
+
+QByteArray jsonText(OpenDesign &design, const FieldOverview &overview)
+{
+    JsonWriter json;
+    json.beginObject();
+    writeDesign(json, designOf(design.database()));
+    json.newLine();
+    json.key(u"meanings");
+    json.beginArray();
+    for (const FieldOverview::Meaning &meaning : overview.meanings) {
+        writeMeaning(json, meaning);
+    }
+    json.endArray();
+    json.newLine();
+    json.key(u"proposed");
+    json.beginArray();
+    for (const FieldOverview::Proposal &proposal : overview.proposals) {
+        writeProposal(json, proposal);
+    }
+    json.endArray();
+    json.newLine();
+    json.key(u"unknown");
+    json.beginArray();
+    for (const FieldUse &use : overview.others) {
+        json.newLine();
+        json.beginObject();
+        writeUse(json, use);
+        json.endObject();
+    }
+    json.endArray();
+    json.newLine();
+    json.endObject();
+    return json.bytes() + '\n';
+}
+
+} // namespace
+
+void FieldsCommand::addTo(CLI::App &program)
+{
+    m_app = program.add_subcommand("fields", "List the names of properties by what they mean: how many parts "
+                                             "have them, where they disagree, which names are not read");
+    m_design.addDesign(*m_app);
+    m_design.addReading(*m_app);
+    m_design.addAsIs(*m_app);
+    m_app->add_flag("--json", m_json, "Write JSON for programs instead of text for people");
+}
+
+ExitStatus FieldsCommand::run()
+{
+    OpenDesign design;
+    if (const ExitStatus status = design.open(m_design, true); status != ExitStatus::Done) {
+        return status;
+    }
+    const FieldOverview overview = fieldOverview(design.design());
+    const QByteArray text =
+        m_json ? jsonText(design, overview)
+               : readableText(overview, fieldTableBeside(design.design().design().info().file)).toUtf8();
+    return console::write(text) ? ExitStatus::Done : ExitStatus::UnwritableOutput;
+}
