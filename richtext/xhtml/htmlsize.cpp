@@ -83,7 +83,7 @@ bool staysOpen(const QString &name)
     return !others.contains(name);
 }
 
-/// Counts tags without building anything, so that hostile input costs no more than a look at each character.
+/// Keeps what stands open, which is no more than deepest.
 class SizeCounter final
 {
 public:
@@ -95,7 +95,7 @@ public:
     HtmlSize run()
     {
         qsizetype at = 0;
-        while ((at = m_html.indexOf(u'<', at)) >= 0) {
+        while (m_size.depth <= HtmlSize::deepest && (at = m_html.indexOf(u'<', at)) >= 0) {
             at = tagAt(at);
         }
         return m_size;

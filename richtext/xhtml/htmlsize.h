@@ -15,10 +15,13 @@ struct HtmlSize
     /// Of one tag: the most places at which an attribute can begin or end.
     int attributeEnds = 0;
 
+    /// Parsers descend into elements by recursion, and take time in proportion to size times depth.
+    static constexpr int deepest = 100;
     /// Parsers compare each attribute of a tag with each.
     static constexpr int mostAttributeEnds = 400;
     [[nodiscard]] static QString tooManyAttributes();
 };
 
-/// Counts without building anything, so that hostile input costs no more than a look at each character.
+/// Counts without building anything, so that hostile input costs no more than a look at each character, and
+/// goes no further than to the first place that is too deep.
 [[nodiscard]] HtmlSize htmlSize(QStringView html);

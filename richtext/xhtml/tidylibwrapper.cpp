@@ -20,9 +20,7 @@
 
 namespace {
 
-// The library descends into elements by recursion and takes time in proportion to size times depth.
 constexpr int mostElements = 200'000;
-constexpr int deepest = 100;
 constexpr qsizetype longest = 32 * 1024 * 1024;
 
 QString text(const char *source)
@@ -75,7 +73,7 @@ QString sizeError(const QString &html)
         return text("The HTML text is too long.");
     }
     const HtmlSize size = htmlSize(html);
-    if (size.depth > deepest) {
+    if (size.depth > HtmlSize::deepest) {
         return text("The HTML elements are nested too deeply.");
     }
     if (size.attributeEnds > HtmlSize::mostAttributeEnds) {
