@@ -8,6 +8,7 @@
 #include "cli/opendesign.h"
 #include "core/bompart.h"
 #include "core/propertyquery.h"
+#include "host/framework/hosttext.h"
 #include "host/framework/hostui.h"
 #include "standalone/loadeddesign.h"
 
@@ -52,6 +53,21 @@ bool DesignEdits::isKnown(const QString &reference) const
 {
     return m_design.database().part(reference) ||
            !m_design.design().references().find(reference.toStdString()).empty();
+}
+
+QStringList DesignEdits::writtenNames(const QString &reference, const QString &property) const
+{
+    QStringList names;
+    const LoadedDesign &design = m_design.design();
+    for (const std::size_t index : design.references().find(reference.toStdString())) {
+        names << fromHostText(
+            design.properties().writtenName(design.design().components()[index], toHostText(property)));
+    }
+    const Part *part = m_design.database().part(reference);
+    if (part && part->isBOMPart()) {
+        names << static_cast<const BOMPart *>(part)->storedName(property);
+    }
+    return names;
 }
 
 void DesignEdits::add(const QString &reference, const QString &property, const QString &typed,

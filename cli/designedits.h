@@ -27,6 +27,8 @@ public:
 
     /// Whether a component or a BOM-only part has that reference.
     [[nodiscard]] bool isKnown(const QString &reference) const;
+    /// The names under which an edit of the property is stored in the parts of that reference, one each.
+    [[nodiscard]] QStringList writtenNames(const QString &reference, const QString &property) const;
 
     /// Gives a property a value as people see it; an empty one takes the property away. A value that the
     /// property cannot have is refused; `origin`, "FILE:LINE" or empty, stands in front of the message then.

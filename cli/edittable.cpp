@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/edittable.h"
 
+#include "account/sentences.h"
+#include "cli/changelist.h"
 #include "cli/designedits.h"
 #include "cli/opendesign.h"
 #include "cli/reportcell.h"
@@ -12,6 +14,7 @@
 #include "standalone/loadeddesign.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -21,6 +24,11 @@ constexpr qsizetype mostNamedChanges = 10;
 QString plainText(const QString &cell, const EditColumn &column)
 {
     return column.isField ? withoutAffixes(cell, column.report.field) : cell;
+}
+
+bool isFilled(const QString &text)
+{
+    return DesignFields::isFilled(text.toStdString());
 }
 
 } // namespace
@@ -60,6 +68,7 @@ void EditTable::compare(const Table &table)
     for (const TableRow &row : table.rows) {
         compareRow(table, row);
     }
+    refuseEmptyCells();
     if (m_spreadsheetChanges > mostNamedChanges) {
         m_edits.refuse(QStringLiteral("%1 more such changes").arg(m_spreadsheetChanges - mostNamedChanges));
     }
@@ -131,6 +140,16 @@ void EditTable::compareCell(const QString &reference, const QString &firstRefere
     } else if (column.index >= row.cells.size()) {
         refuse(row.line, reference + QStringLiteral(", ") + column.heading +
                              QStringLiteral(": the row has no cell for it"));
+    } else if (const QString name = otherName(reference, column);
+               !name.isEmpty() && !isFilled(plainText(cell, column))) {
+        EmptyCells &cells = m_emptyCells[column.index];
+        if (cells.count++ == 0) {
+            cells.line = row.line;
+            cells.example = reference + QStringLiteral(", ") + column.heading +
+                            QStringLiteral(": the cell is empty and the part has ") +
+                            quotedText(plainText(shown.first(), column), {}) +
+                            QStringLiteral(" under the name ") + name;
+        }
     } else if (const QString other = columnOfSameText(reference, column); !other.isEmpty()) {
         refuse(row.line,
                reference + QStringLiteral(", ") + column.heading +
@@ -142,6 +161,31 @@ void EditTable::compareCell(const QString &reference, const QString &firstRefere
                                               QStringLiteral(": ") + made);
     } else {
         m_edits.add(reference, column.report.field.propertyName, plainText(cell, column), place(row.line));
+    }
+}
+
+QString EditTable::otherName(const QString &reference, const EditColumn &column) const
+{
+    const QString &property = column.report.field.propertyName;
+    const QStringList names = m_edits.writtenNames(reference, property);
+    const auto other = std::find_if(names.begin(), names.end(), [&property](const QString &name) {
+        return name.compare(property, Qt::CaseInsensitive) != 0;
+    });
+    return other == names.end() ? QString() : *other;
+}
+
+/// The table may never have shown the texts: names that mean the same can have become more since.
+void EditTable::refuseEmptyCells()
+{
+    for (const EmptyCells &cells : std::as_const(m_emptyCells)) {
+        const qsizetype more = cells.count - 1;
+        refuse(cells.line,
+               cells.example +
+                   (more > 0 ? QStringLiteral(", as ") +
+                                   counted(more, QStringLiteral("more part"), QStringLiteral("more parts"))
+                             : QString()) +
+                   QStringLiteral("; empty cells take away texts only in a column of their own name. A table "
+                                  "made with --exact-names is applied with --exact-names"));
     }
 }
 

@@ -8,6 +8,7 @@
 #include "standalone/tablefile.h"
 
 #include <QHash>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -57,6 +58,10 @@ private:
     /// The heading of another column that holds the property in which this one's text is stored: the cells of
     /// both would be one text. Empty when there is none.
     [[nodiscard]] QString columnOfSameText(const QString &reference, const EditColumn &column) const;
+    /// Another name under which the reference has what the column shows; empty when it has it under the
+    /// column's own.
+    [[nodiscard]] QString otherName(const QString &reference, const EditColumn &column) const;
+    void refuseEmptyCells();
     /// What the report shows of every component of that reference.
     [[nodiscard]] QStringList componentTexts(const QString &reference, const EditColumn &column) const;
     void refuse(int line, const QString &text);
@@ -69,7 +74,18 @@ private:
     ReferenceReader m_reader;
     NumberReader m_numbers;
     EditTableOptions m_options;
+    /// Cells of one column that say nothing where the parts have a text under another name.
+    struct EmptyCells
+    {
+        /// In words, of the first.
+        QString example;
+        int line = 0;
+        qsizetype count = 0;
+    };
+
     qsizetype m_spreadsheetChanges = 0;
+    /// By the number of the column.
+    QMap<qsizetype, EmptyCells> m_emptyCells;
     std::vector<EditColumn> m_columns;
     /// The row in which a reference was met first.
     QHash<QString, const TableRow *> m_rows;

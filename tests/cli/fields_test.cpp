@@ -80,10 +80,16 @@ TEST_F(Fields, AreWrittenWhereTheyAreRead)
         {"apply two-names.csv one.csv", "R4 manf#: \"RC-22K\" -> \"N\"", "MPN as \"manf#\" on 1 part\n"},
         {"apply two-names.csv both.csv", "",
          "both.csv:2: R4, MPN: the part has this under the name manf#, which is a column as well"},
+        {"apply two-names.csv empty.csv", "",
+         "empty.csv:2: R1, MPN: the cell is empty and the part has \"RC0603\" under the name manf#, as 2 "
+         "more "
+         "parts; empty cells"},
+        {"apply two-names.csv empty.csv --exact-names", "R3 Value: \"22k\" -> \"N\"", ""},
         {"apply two-names.csv both.csv --exact-names", "R4 MPN: \"\" -> \"N\"", ""},
     };
     write(QStringLiteral("one.csv"), "Reference,MPN\nR1,RC0603\nR4,N\n");
     write(QStringLiteral("both.csv"), "Reference,MPN,manf#\nR4,N,RC-22K\n");
+    write(QStringLiteral("empty.csv"), "Reference,MPN,Value\nR1,,10k\nR3,,N\nR4, ,22k\nSCR1,~,M3\n");
     for (const auto &c : cases) {
         const ProgramRun result = run((std::string(c.command) + " --dry-run").c_str());
         EXPECT_THAT(result.out, HasSubstr(c.out)) << c.command;
