@@ -67,6 +67,9 @@ std::string firstUnknownOption(const CLI::App &program, int argc, char *argv[])
     const std::vector<std::string> unexpected = program.remaining(true);
     for (int at = 1; at < argc; ++at) {
         const std::string word = argv[at];
+        if (word == "--") {
+            break;
+        }
         const std::string name = word.substr(0, word.find('='));
         const bool isUnexpected = std::find(unexpected.begin(), unexpected.end(), word) != unexpected.end();
         if (isUnexpected && name.size() > 1 && name.front() == '-') {
@@ -108,7 +111,9 @@ std::optional<ExitStatus> parseCommandLine(CLI::App &program, int argc, char *ar
         return app.get_require_subcommand_min() > 0 ? reportMissingCommand(program, app, error)
                                                     : reportOptionOr(error);
     } catch (const CLI::ExtrasError &error) {
-        return reportOptionOr(error);
+        std::vector<std::string> words = program.remaining(true);
+        std::erase(words, "--");
+        return reportOptionOr(words.empty() ? error : CLI::ExtrasError(std::move(words)));
     } catch (const CLI::ParseError &error) {
         return printParseResult(program, error);
     }

@@ -6,8 +6,6 @@
 
 #include <CLI/Formatter.hpp>
 
-#include <algorithm>
-
 void HelpCommand::addTo(CLI::App &program)
 {
     m_program = &program;
@@ -20,14 +18,13 @@ ExitStatus HelpCommand::run()
     const CLI::App *app = m_program;
     std::string name = app->get_name();
     for (const std::string &word : m_words) {
-        const auto commands = commandsOf(*app);
-        const auto found = std::find_if(commands.begin(), commands.end(), [&word](const CLI::App *command) {
-            return command->get_name() == word;
-        });
-        if (found == commands.end()) {
+        // Those that the list of commands leaves out, too.
+        const auto found =
+            app->get_subcommands([&word](const CLI::App *command) { return command->get_name() == word; });
+        if (found.empty()) {
             return reportUnknownCommand(*app, QString::fromStdString(word));
         }
-        app = *found;
+        app = found.front();
         name += ' ' + word;
     }
     const std::string text = app->get_formatter()->make_help(app, name, CLI::AppFormatMode::Normal);
