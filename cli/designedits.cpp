@@ -12,6 +12,8 @@
 #include "host/framework/hostui.h"
 #include "standalone/loadeddesign.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <sstream>
 
@@ -24,16 +26,19 @@ constexpr qsizetype mostNamedUnknown = 10;
 /// those that were asked for.
 QStringList otherNameNotices(const QList<PropertyChange> &changes)
 {
-    QMap<std::pair<QString, QString>, qsizetype> counts;
+    // Of parts that share a sheet each change names the others.
+    QMap<std::pair<QString, QString>, QSet<QString>> parts;
     for (const PropertyChange &change : changes) {
         if (!change.askedName.isEmpty()) {
-            counts[{change.askedName, change.name}] += 1 + change.alsoChanges.size();
+            QSet<QString> &references = parts[{change.askedName, change.name}];
+            references.insert(change.reference);
+            references.unite(QSet<QString>(change.alsoChanges.cbegin(), change.alsoChanges.cend()));
         }
     }
     QStringList texts;
-    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+    for (auto it = parts.cbegin(); it != parts.cend(); ++it) {
         texts << it.key().first + QStringLiteral(" as \"") + it.key().second + QStringLiteral("\" on ") +
-                     counted(it.value(), QStringLiteral("part"), QStringLiteral("parts"));
+                     counted(it.value().size(), QStringLiteral("part"), QStringLiteral("parts"));
     }
     return texts.isEmpty() ? QStringList()
                            : QStringList(QStringLiteral("written under the names that the design has: ") +
@@ -111,7 +116,7 @@ void DesignEdits::add(const QString &reference, const QString &property, const Q
     }
     const Part *part = m_design.database().part(reference);
     if (part && part->isBOMPart()) {
-        addToBOMPart(*part, property, value);
+        addToBOMPart(static_cast<const BOMPart &>(*part), property, value, front);
     } else if (part) {
         m_assignments.assign(reference, property, value);
     } else {
@@ -138,27 +143,49 @@ QString DesignEdits::fixedReason(const QString &reference, const QString &proper
                : QString();
 }
 
-void DesignEdits::addToBOMPart(const Part &part, const QString &property, const QString &value)
+void DesignEdits::addToBOMPart(const BOMPart &part, const QString &property, const QString &value,
+                               const QString &front)
 {
-    const QString before = part.property(property.toUpper());
+    const QString reference = part.reference();
+    if (!m_bomPartProperties.contains(reference)) {
+        m_bomPartProperties.insert(reference, part.properties());
+    }
+    QMap<QString, QString> &properties = m_bomPartProperties[reference];
+    // The edits are made one after the other: one may give the part the name that the next is found by.
+    const BOMPart edited(&m_design.database(), reference, part.value(), part.parentReference(), properties);
     const QString after = value == PropertyAssignments::removal() ? QString() : value;
+    for (const QString &name : {part.storedName(property), edited.storedName(property)}) {
+        const auto other = m_bomPartEdits.constFind({reference, name});
+        if (other != m_bomPartEdits.cend() && other->text != after) {
+            refuse(front + QStringLiteral("another text is asked for under the name ") + other->askedName);
+            return;
+        }
+    }
+    const QString stored = edited.storedName(property);
+    const QString before = part.property(stored);
+    if (m_bomPartEdits.contains({reference, stored})) {
+        return;
+    }
+    m_bomPartEdits.insert({reference, stored}, {property, after});
     if (before == after) {
         return;
     }
-    m_assignments.assign(part.reference(), property, value);
-    if (!after.isEmpty()) {
-        m_newProperties.add(part.reference(), property);
+    m_assignments.assign(reference, property, value);
+    if (after.isEmpty()) {
+        m_bomPartRemovals.append({reference, property});
+    } else {
+        m_newProperties.add(reference, property);
     }
-    const QString parent = static_cast<const BOMPart &>(part).parentReference();
+    after.isEmpty() ? (void)properties.remove(stored) : (void)properties.insert(stored, after);
+    const QString parent = part.parentReference();
     if (m_design.database().bomParts(parent).size() > 1) {
         m_isMoreRenumbered = m_isMoreRenumbered || (!m_renumbered.isEmpty() && m_renumbered != parent);
         m_renumbered = m_renumbered.isEmpty() ? parent : m_renumbered;
     }
-    const QString stored = static_cast<const BOMPart &>(part).storedName(property);
     const QString name = stored == property.toUpper() ? property : stored;
-    m_bomPartChanges.append({part.reference(), name + QStringLiteral(": ") + quotedText(before, {}) +
-                                                   QStringLiteral(" -> ") + quotedText(after, {}) +
-                                                   QStringLiteral(" (a BOM-only part of ") + parent + u')'});
+    m_bomPartChanges.append({reference, name + QStringLiteral(": ") + quotedText(before, {}) +
+                                            QStringLiteral(" -> ") + quotedText(after, {}) +
+                                            QStringLiteral(" (a BOM-only part of ") + parent + u')'});
 }
 
 bool DesignEdits::isContradicted(const QString &reference, const QString &property,
@@ -256,6 +283,62 @@ ExitStatus DesignEdits::reportProblems(const QStringList &messages, ExitStatus s
     return status;
 }
 
+QStringList DesignEdits::newlyReadNotices(const QList<PropertyChange> &changes) const
+{
+    QStringList texts;
+    const auto add = [&texts](const QString &reference, const QString &property, const QString &name,
+                              const QString &text) {
+        texts << reference + QStringLiteral(", ") + property + QStringLiteral(" from \"") + name +
+                     QStringLiteral("\" (") + quotedText(text, {}) + u')';
+    };
+    for (const PropertyChange &change : changes) {
+        if (change.after && DesignFields::isFilled(change.after->toStdString())) {
+            continue;
+        }
+        const QString &asked = change.askedName.isEmpty() ? change.name : change.askedName;
+        if (const auto read = readAfter(change.reference, asked, changes)) {
+            add(change.reference, asked, read->first, read->second);
+        }
+    }
+    for (const auto &[reference, property] : m_bomPartRemovals) {
+        const QMap<QString, QString> properties = m_bomPartProperties.value(reference);
+        const QString name = m_design.database().otherName(property, properties);
+        if (!name.isEmpty() && properties.value(property.toUpper()).isEmpty()) {
+            add(reference, property, name, properties.value(name));
+        }
+    }
+    constexpr qsizetype mostNamed = 3;
+    const qsizetype more = texts.size() - mostNamed;
+    return texts.isEmpty() ? texts
+                           : QStringList(QStringLiteral("after this other names are read: ") +
+                                         texts.mid(0, mostNamed).join(QStringLiteral(", ")) +
+                                         (more > 0 ? QStringLiteral(" and %1 more").arg(more) : QString()));
+}
+
+std::optional<std::pair<QString, QString>> DesignEdits::readAfter(const QString &reference,
+                                                                  const QString &property,
+                                                                  const QList<PropertyChange> &changes) const
+{
+    const LoadedDesign &design = m_design.design();
+    const auto found = design.references().find(reference.toStdString());
+    if (found.empty()) {
+        return std::nullopt;
+    }
+    const designs::Component &component = design.design().components()[found.front()];
+    for (const designs::NameId id : design.properties().filledNames(component, toHostText(property))) {
+        const QString name = fromHostText(design.design().names().name(id));
+        const bool isChanged =
+            std::any_of(changes.cbegin(), changes.cend(), [&](const PropertyChange &change) {
+                return change.name == name &&
+                       (change.reference == reference || change.alsoChanges.contains(reference));
+            });
+        if (!isChanged) {
+            return std::pair(name, fromHostText(*design.design().stored(component, id)));
+        }
+    }
+    return std::nullopt;
+}
+
 ExitStatus DesignEdits::reportChanges(const WriteResult &result, bool isDryRun)
 {
     if (result.changes.isEmpty()) {
@@ -272,7 +355,8 @@ ExitStatus DesignEdits::reportChanges(const WriteResult &result, bool isDryRun)
     const QString text = changeLines(m_bomPartChanges) + changeLines(result.changes) +
                          m_newProperties.lines() +
                          changeSummary(result.changes, result.files.size(), isDryRun);
-    console::notices(m_newProperties.notices() + otherNameNotices(result.changes));
+    console::notices(m_newProperties.notices() + otherNameNotices(result.changes) +
+                     newlyReadNotices(result.changes));
     if (!m_renumbered.isEmpty()) {
         console::notice(
             QStringLiteral("BOM-only parts are numbered in the order of their definitions: those of ") +

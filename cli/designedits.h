@@ -13,10 +13,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <utility>
 
+class BOMPart;
 class OpenDesign;
-class Part;
 
 /// Edits of the open design that a command collects, and then writes all of them or none.
 class DesignEdits final
@@ -49,11 +50,17 @@ private:
                                       const QString &value) const;
     void addDirect(const QString &reference, const QString &property, const QString &value,
                    const QString &front);
-    void addToBOMPart(const Part &part, const QString &property, const QString &value);
+    void addToBOMPart(const BOMPart &part, const QString &property, const QString &value,
+                      const QString &front);
     [[nodiscard]] QString messageOf(const CDBPROBLEM &problem) const;
     [[nodiscard]] WriteResult writeBatch(const WriteOptions &options);
     [[nodiscard]] ExitStatus reportProblems(const QStringList &messages, ExitStatus status,
                                             bool isUndecided = false) const;
+    /// Of the properties that are taken away those that another name answers for from now on.
+    [[nodiscard]] QStringList newlyReadNotices(const QList<PropertyChange> &changes) const;
+    /// The name and the text that a property is read from after the changes, if these leave it as it was.
+    [[nodiscard]] std::optional<std::pair<QString, QString>>
+    readAfter(const QString &reference, const QString &property, const QList<PropertyChange> &changes) const;
     [[nodiscard]] ExitStatus reportChanges(const WriteResult &result, bool isDryRun);
 
     OpenDesign &m_design;
@@ -67,6 +74,18 @@ private:
     /// What is changed in BOM-only parts, for the report: the changes of the design only name the definitions
     /// of their parents.
     QList<BomPartChange> m_bomPartChanges;
+    /// What BOM-only parts will have, by reference and upper-case name.
+    QHash<QString, QMap<QString, QString>> m_bomPartProperties;
+    struct BomPartEdit
+    {
+        /// The name that was asked for first.
+        QString askedName;
+        QString text;
+    };
+    /// The edits of BOM-only parts, by reference and the upper-case name that they change.
+    QHash<std::pair<QString, QString>, BomPartEdit> m_bomPartEdits;
+    /// Reference and name of what is taken from BOM-only parts.
+    QList<std::pair<QString, QString>> m_bomPartRemovals;
     NewProperties m_newProperties;
     /// The first parent whose BOM-only parts may be numbered anew, and whether there are others.
     QString m_renumbered;

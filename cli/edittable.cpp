@@ -150,12 +150,11 @@ void EditTable::compareCell(const QString &reference, const QString &firstRefere
                             quotedText(plainText(shown.first(), column), {}) +
                             QStringLiteral(" under the name ") + name;
         }
-    } else if (const QString other = columnOfSameText(reference, column); !other.isEmpty()) {
+    } else if (const QString other = columnOfSameText(reference, row, column); !other.isEmpty()) {
         refuse(row.line,
                reference + QStringLiteral(", ") + column.heading +
                    QStringLiteral(": the part has this under the name ") + other +
-                   QStringLiteral(", which is a column as well; delete one of the two, or take names "
-                                  "as they are (--exact-names)"));
+                   QStringLiteral("; delete one of the two, or take names as they are (--exact-names)"));
     } else if (!made.isEmpty()) {
         refuseSpreadsheetChange(row.line, reference + QStringLiteral(", ") + column.heading +
                                               QStringLiteral(": ") + made);
@@ -189,20 +188,29 @@ void EditTable::refuseEmptyCells()
     }
 }
 
-QString EditTable::columnOfSameText(const QString &reference, const EditColumn &column) const
+QString EditTable::columnOfSameText(const QString &reference, const TableRow &row,
+                                    const EditColumn &column) const
 {
-    const LoadedDesign &design = m_design.design();
     const QString &property = column.report.field.propertyName;
-    for (const std::size_t index : design.references().find(reference.toStdString())) {
-        const QString written = fromHostText(
-            design.properties().writtenName(design.design().components()[index], toHostText(property)));
-        const auto other = std::find_if(m_columns.begin(), m_columns.end(), [&](const EditColumn &candidate) {
+    const QString text = plainText(row.cells.value(column.index), column);
+    for (const QString &written : m_edits.writtenNames(reference, property)) {
+        const auto isOther = [&](const EditColumn &candidate) {
             const QString &name = candidate.report.field.propertyName;
-            return name.compare(property, Qt::CaseInsensitive) != 0 &&
-                   name.compare(written, Qt::CaseInsensitive) == 0;
-        });
+            if (name.compare(property, Qt::CaseInsensitive) == 0) {
+                return false;
+            }
+            return name.compare(written, Qt::CaseInsensitive) == 0 ||
+                   (written.compare(property, Qt::CaseInsensitive) != 0 &&
+                    plainText(row.cells.value(candidate.index), candidate) != text &&
+                    m_edits.writtenNames(reference, name).contains(written, Qt::CaseInsensitive));
+        };
+        const auto other = std::find_if(m_columns.begin(), m_columns.end(), isOther);
         if (other != m_columns.end()) {
-            return other->heading;
+            return written + QStringLiteral(", which ") +
+                   (other->report.field.propertyName.compare(written, Qt::CaseInsensitive) == 0
+                        ? QStringLiteral("is a column as well")
+                        : QStringLiteral("the column ") + other->heading +
+                              QStringLiteral(" stands for as well"));
         }
     }
     return {};

@@ -55,9 +55,10 @@ private:
                                               const EditColumn &column) const;
     void refuseSpreadsheetChange(int line, const QString &text);
     [[nodiscard]] bool hasSameTexts(const TableRow &row, const TableRow &other) const;
-    /// The heading of another column that holds the property in which this one's text is stored: the cells of
-    /// both would be one text. Empty when there is none.
-    [[nodiscard]] QString columnOfSameText(const QString &reference, const EditColumn &column) const;
+    /// The name under which the column's text is stored and the other column that would change it, in words,
+    /// where the cells of both would be one text. Empty when there is none.
+    [[nodiscard]] QString columnOfSameText(const QString &reference, const TableRow &row,
+                                           const EditColumn &column) const;
     /// Another name under which the reference has what the column shows; empty when it has it under the
     /// column's own.
     [[nodiscard]] QString otherName(const QString &reference, const EditColumn &column) const;

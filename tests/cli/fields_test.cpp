@@ -75,8 +75,21 @@ TEST_F(Fields, AreWrittenWhereTheyAreRead)
         {"set two-names.csv R3 Maker=N", "R3 Mfr: \"\" -> \"N\"", "Maker as \"Mfr\" on 1 part\n"},
         {"set two-names.csv R1 MPN=N --exact-names", "R1 MPN: \"\" -> \"N\"", ""},
         {"set two-names.csv R1 MPN=", "R1 manf#: \"RC0603\" -> removed", "as \"manf#\""},
+        {"set two-names.csv R2 MPN=", "R2 MPN: \"RC0603-B\" -> removed",
+         "bom: after this other names are read: R2, MPN from \"manf#\" (\"RC0603\")\n"},
+        {"set screws.csv SCR1 MPN=", "SCR1 MPN: \"B\" -> \"\"", "SCR1, MPN from \"MANF#\" (\"A\")\n"},
         {"set two-names.csv R1 MPN=a manf#=b", "",
          "R1, manf#: another text is asked for under the name MPN\n"},
+        {"set two-names.csv SCR1 MPN=a Mfr_PN=b", "",
+         "SCR1, Mfr_PN: another text is asked for under the name MPN\n"},
+        {"set two-names.csv SCR1 Maker=a Mfr=b", "",
+         "SCR1, Mfr: another text is asked for under the name Maker\n"},
+        {"set two-names.csv SCR1 Maker=a Mfr=a", "SCR1 Maker: \"\" -> \"a\" (a BOM", ""},
+        {"apply two-names.csv screw.csv", "",
+         "SCR1, MPN: the part has this under the name MANF#, which is a column"},
+        {"apply two-names.csv two.csv", "",
+         "two.csv:2: R4, Mfr PN: the part has this under the name manf#, which the column Mfr Part No stands "
+         "for"},
         {"apply two-names.csv one.csv", "R4 manf#: \"RC-22K\" -> \"N\"", "MPN as \"manf#\" on 1 part\n"},
         {"apply two-names.csv both.csv", "",
          "both.csv:2: R4, MPN: the part has this under the name manf#, which is a column as well"},
@@ -88,6 +101,9 @@ TEST_F(Fields, AreWrittenWhereTheyAreRead)
         {"apply two-names.csv both.csv --exact-names", "R4 MPN: \"\" -> \"N\"", ""},
     };
     write(QStringLiteral("one.csv"), "Reference,MPN\nR1,RC0603\nR4,N\n");
+    write(QStringLiteral("screw.csv"), "Reference,MPN,manf#\nSCR1,a,b\n");
+    write(QStringLiteral("screws.csv"), "Reference,BOMPART1\nU2,\"1,SCR,M4,manf#=A,MPN=B\"\n");
+    write(QStringLiteral("two.csv"), "Reference,Mfr PN,Mfr Part No\nR4,N,RC-22K\n");
     write(QStringLiteral("both.csv"), "Reference,MPN,manf#\nR4,N,RC-22K\n");
     write(QStringLiteral("empty.csv"), "Reference,MPN,Value\nR1,,10k\nR3,,N\nR4, ,22k\nSCR1,~,M3\n");
     for (const auto &c : cases) {
