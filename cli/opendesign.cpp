@@ -37,6 +37,11 @@ ExitStatus openSession(DesignSession &session, const QString &named, const OpenO
     if (!path) {
         return ExitStatus::WrongUsage;
     }
+    if (QFileInfo(*path).isDir()) {
+        console::message(*path + QStringLiteral(": this folder has no design in it (a .kicad_sch, .kicad_pro "
+                                                "or .csv file)"));
+        return ExitStatus::UnreadableInput;
+    }
     const bool isOpen = [&] {
         const ProgressLine progress(QStringLiteral("reading ") + *path);
         return session.open(*path, options);

@@ -73,6 +73,7 @@ TEST_F(Usage, WhatIsUnknownIsNamed)
         {"frob", "no command \"frob\" "},
         {"--frob", "no option \"--frob\" "},
         {"reprot a.csv", "no command \"reprot\"; did you mean \"report\"? ("},
+        {"report -- a.csv extra", "not expected: extra ("},
         {"help chek", "no command \"chek\"; did you mean \"check\"? ("},
         {"template shwo x", "no command \"template shwo\"; did you mean \"show\"? (bom template --help"},
         {"report --htlm x a.csv", "no option \"--htlm\"; did you mean \"--html\"? ("},
@@ -103,7 +104,7 @@ TEST_F(Usage, AFolderStandsForTheOneDesignInIt)
     write(QStringLiteral("lists/a.csv"), "Reference,Value\nR2,10k\n");
     EXPECT_THAT(run("check kicad").out,
                 HasSubstr("  kicad/a.kicad_sch:19: R1 occurs 2 times, also at kicad/"));
-    EXPECT_THAT(run("check .").err, HasSubstr("bom: .: this is a folder; give"));
+    EXPECT_THAT(run("check .").err, HasSubstr("bom: .: this folder has no design in it"));
     EXPECT_THAT(run("report lists/ --csv -").out, HasSubstr("R2"));
     write(QStringLiteral("lists/b.csv"), "Reference,Value\nR3,10k\n");
     for (const char *command : {"report lists", "undo lists", "variants lists", "set lists R1 A=1"}) {
