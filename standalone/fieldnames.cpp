@@ -182,11 +182,13 @@ std::optional<FieldSense> FieldNames::byWord(const QString &plain) const
     QString text = plain;
     text.removeIf([](QChar c) { return c == u'(' || c == u')' || c == u'/' || c == u':'; });
     for (const Pattern &word : m_words) {
-        const qsizetype length = word.text.size();
-        const bool isNumber = (text.startsWith(word.text) && saysNumber(QStringView(text).sliced(length))) ||
-                              (length >= shortestLastWord && text.endsWith(word.text) &&
-                               saysNumber(QStringView(text).chopped(length)));
-        if (isNumber) {
+        const qsizetype at = text.startsWith(word.text)             ? 0
+                             : word.text.size() >= shortestLastWord ? text.indexOf(word.text)
+                                                                    : -1;
+        const QString rest = at < 0 ? QString() : text.first(at) + text.sliced(at + word.text.size());
+        // A "Part Manufacturer" is a maker; behind "part" the word needs a number beside it.
+        if (saysNumber(rest) &&
+            (at == 0 || rest.contains(numberSign) || rest.contains(QLatin1String("sku")))) {
             return FieldSense{word.entry.meaning, {}, word.entry.rank};
         }
     }
