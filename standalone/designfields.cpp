@@ -51,8 +51,13 @@ const FieldSense &DesignFields::senseOf(NameId id) const
 
 std::optional<std::size_t> DesignFields::rank(const QByteArray &asked, const QByteArray &other) const
 {
-    return m_names ? m_names->rank(m_names->known(textOf(asked)), m_names->known(textOf(other)))
-                   : std::nullopt;
+    if (!m_names) {
+        return std::nullopt;
+    }
+    const KnownName name = m_names->known(textOf(asked));
+    const bool isOwnOnly =
+        !m_names->hasKnownMeaning(name) && !m_design.names().candidates(asked.toStdString()).empty();
+    return isOwnOnly ? std::nullopt : m_names->rank(name, m_names->known(textOf(other)));
 }
 
 std::vector<NameId> DesignFields::sameMeaning(const QByteArray &asked, const std::vector<NameId> &found) const
@@ -61,6 +66,9 @@ std::vector<NameId> DesignFields::sameMeaning(const QByteArray &asked, const std
         return {};
     }
     const KnownName name = m_names->known(textOf(asked));
+    if (!found.empty() && !m_names->hasKnownMeaning(name)) {
+        return {};
+    }
     const std::unordered_set<NameId> own(found.begin(), found.end());
     std::vector<std::pair<std::size_t, NameId>> same;
     for (NameId id = 0; id < known().size(); ++id) {

@@ -13,9 +13,40 @@ constexpr qsizetype longestName = 200;
 /// In a plain name, the word for "number".
 constexpr QChar numberSign = u'#';
 
-bool isLeftOut(QChar c)
+bool isBlank(QChar c)
 {
-    return c.isSpace() || c == u'_' || c == u'-' || c == u'.';
+    return c.isSpace() || c == u'_';
+}
+
+bool isDigit(QStringView text, qsizetype at)
+{
+    return at >= 0 && at < text.size() && text[at].isDigit();
+}
+
+/// Whether "-" or "." says something: "V_-5" is not "V_5", "1.0" is not "10", "V-" is not "V".
+bool isSign(QStringView text, qsizetype at)
+{
+    const bool isAtEdge = text[at] == u'-' && (at == 0 || at + 1 == text.size());
+    return (text[at] == u'-' || text[at] == u'.') && (isAtEdge || isDigit(text, at + 1));
+}
+
+bool isLeftOut(QStringView text, qsizetype at)
+{
+    const QChar c = text[at];
+    return isBlank(c) || c == QChar::ByteOrderMark || ((c == u'-' || c == u'.') && !isSign(text, at));
+}
+
+/// Past what is left out in a name. Two numbers with a blank between them stay two.
+qsizetype skipLeftOut(QStringView text, qsizetype at, QString *plain)
+{
+    const bool isAfterDigit = !plain->isEmpty() && plain->back().isDigit();
+    while (at < text.size() && isLeftOut(text, at)) {
+        ++at;
+    }
+    if (isAfterDigit && isDigit(text, at)) {
+        plain->append(u' ');
+    }
+    return at;
 }
 
 bool isNumberWord(QStringView word)
@@ -86,19 +117,21 @@ bool isOneOf(const QString &name, std::initializer_list<QLatin1String> names)
 QString plainFieldName(const QString &name)
 {
     const QString folded = name.toCaseFolded();
-    const QStringView text(folded);
+    const QString trimmed = folded.trimmed();
+    const QStringView text(trimmed);
     QString plain;
     for (qsizetype at = 0; at < text.size();) {
-        const QChar c = text[at];
-        if (isLeftOut(c) || c == QChar::ByteOrderMark || c == numberSign) {
-            if (c == numberSign && !plain.endsWith(numberSign)) {
-                plain.append(numberSign);
-            }
+        if (isLeftOut(text, at)) {
+            at = skipLeftOut(text, at, &plain);
+            continue;
+        }
+        if (text[at] == numberSign) {
+            plain.append(plain.endsWith(numberSign) ? QString() : QString(numberSign));
             ++at;
             continue;
         }
         qsizetype end = at;
-        while (end < text.size() && !isLeftOut(text[end]) && text[end] != numberSign) {
+        while (end < text.size() && !isLeftOut(text, end) && text[end] != numberSign) {
             ++end;
         }
         appendWord(&plain, text.sliced(at, end - at));
@@ -155,9 +188,14 @@ std::optional<std::size_t> FieldNames::rank(const KnownName &asked, const KnownN
     if (!asked.plain.isEmpty() && asked.plain == other.plain) {
         return 0;
     }
-    const std::optional<std::size_t> meaning = asked.sense.meaning;
-    const bool isRead = meaning && m_meanings[*meaning].use == FieldMeaning::Use::Read;
-    return isRead && other.sense.meaning == meaning ? std::optional(other.sense.rank) : std::nullopt;
+    return hasKnownMeaning(asked) && other.sense.meaning == asked.sense.meaning
+               ? std::optional(other.sense.rank)
+               : std::nullopt;
+}
+
+bool FieldNames::hasKnownMeaning(const KnownName &name) const
+{
+    return name.sense.meaning && m_meanings[*name.sense.meaning].use == FieldMeaning::Use::Read;
 }
 
 std::optional<FieldSense> FieldNames::listed(const QString &plain) const

@@ -10,7 +10,8 @@
 #include <vector>
 
 /// The form in which property names are compared: without letter case, blanks, "_", "-", "." and with "#",
-/// "No", "Nr", "Num", "Number", "PN" and "P/N" as the one word "#". Empty for nothing but such signs.
+/// "No", "Nr", "Num", "Number", "PN" and "P/N" as the one word "#". "-" and "." before a digit and "-" at
+/// either end stay, and a blank between two digits. Empty for nothing but signs that are left out.
 [[nodiscard]] QString plainFieldName(const QString &name);
 
 /// What names of properties can mean, such as the maker's part number.
@@ -73,6 +74,9 @@ public:
     /// How well a property of another name answers for the one that is asked for: the smallest rank is the
     /// best. Nothing when it does not mean the same.
     [[nodiscard]] std::optional<std::size_t> rank(const KnownName &asked, const KnownName &other) const;
+    /// Whether names of another spelling are read for this one whatever names a design has. Where its meaning
+    /// is not known, a design that has the name itself means another thing by another spelling.
+    [[nodiscard]] bool hasKnownMeaning(const KnownName &name) const;
 
     /// Whether a property of this name is found by its own name only: what the program itself gives a
     /// meaning, and CODE and COST, which the default template promises to read as they are.

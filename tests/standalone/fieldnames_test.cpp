@@ -120,6 +120,11 @@ TEST(FieldNames, AnswerForPartsThatHaveNothingUnderTheNameAskedFor)
         {"not the letter case that was typed", {}, "TOLERANCE", "-", "tolerance"},
         {"no part has it", {}, "Supplier", "-", "Supplier"},
         {"the same name written differently", {{"Shelf_No", "7"}}, "shelf number", "7", "Shelf_No"},
+        {"unless the design has the name itself", {{"Lot_No", "7"}}, "Lot number", "-", "Lot number"},
+        {"signs before digits count", {{"V_5", "a"}, {"Rev 10", "b"}}, "V_-5", "-", "V_-5"},
+        {"and between them", {{"Rev 10", "b"}, {"Rev_1_0", "c"}}, "Rev 1.0", "-", "Rev 1.0"},
+        {"and at the end", {{"Rail", "b"}}, "Rail-", "-", "Rail-"},
+        {"currencies count", {{"EUR_per_1", "1"}, {"USD_per_1", ""}}, "USD_per_1", "", "USD_per_1"},
         {"what may mean it is not read", {{"Part Number", "a"}}, "MPN", "-", "manf#"},
         {"nor another distributor's number", {{"mouser#", "a"}}, "LCSC", "-", "LCSC"},
         {"listed only", {{"nopop", "1"}}, "DNF", "-", "DNF"},
@@ -134,7 +139,7 @@ TEST(FieldNames, AnswerForPartsThatHaveNothingUnderTheNameAskedFor)
         for (const char *reference : {"R2", "R3"}) {
             table->add(reference, "1k", {{"manf#", "x"}, {"tolerance", "1%"}});
         }
-        table->add("R4", "1k", {{"MPN", "x"}, {"TOLERANCE", "1%"}});
+        table->add("R4", "1k", {{"MPN", "x"}, {"TOLERANCE", "1%"}, {"Lot number", "x"}});
         const LoadedDesign design(std::move(table), DnpChoice::Exclude, names());
         const auto text = design.components()[0]->properties->find(PROPNAME(c.asked));
         EXPECT_EQ(text ? text->toByteArray() : QByteArray("-"), c.expected) << c.what;
