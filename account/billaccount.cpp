@@ -92,7 +92,9 @@ QStringList partsWithout(const BOMPartsDatabase &database, const QString &proper
     const PropertyQuery query(property, &database.propertyTypes());
     for (const Part *part : database.parts()) {
         const QString text = part->property(query);
-        if (text.trimmed().isEmpty() ||
+        const QString trimmed = text.trimmed();
+        // KiCad has "~" for nothing.
+        if (trimmed.isEmpty() || trimmed == u'~' ||
             (property == placedProperty() && text == QStringLiteral("Not placed"))) {
             references.append(part->reference());
         }
