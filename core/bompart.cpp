@@ -45,7 +45,9 @@ QString BOMPart::property(const QString &name) const
 QString BOMPart::storedName(const QString &name) const
 {
     const QString own = name.toUpper();
-    const QString other = m_properties.isEmpty() || !database() || !m_properties.value(own).isEmpty()
+    const QString text = m_properties.value(own).trimmed();
+    const bool isFilled = !text.isEmpty() && text != u'~';
+    const QString other = m_properties.isEmpty() || !database() || isFilled
                               ? QString()
                               : database()->otherName(name, m_properties);
     return other.isEmpty() ? own : other;

@@ -19,7 +19,8 @@ QString OtherNames::find(const QString &asked, const QMap<QString, QString> &pro
     std::optional<std::size_t> bestRank;
     for (auto it = properties.cbegin(); it != properties.cend(); ++it) {
         const auto rank = rankOf(asked, it.key());
-        if (rank && (!bestRank || *rank < *bestRank) && !it.value().trimmed().isEmpty()) {
+        const QString text = it.value().trimmed();
+        if (rank && (!bestRank || *rank < *bestRank) && !text.isEmpty() && text != u'~') {
             best = it.key();
             bestRank = rank;
         }

@@ -58,7 +58,8 @@ TEST_F(Fields, AreRequiredByMeaning)
                                  HasSubstr("To decide:\n"), HasSubstr("different texts")));
     EXPECT_THAT(run("check two-names.csv --require MPN --exact-names").out,
                 HasSubstr("MPN is empty or missing on 4 parts: R1,R3-R4,SCR1\n"));
-    write(QStringLiteral("tilde.csv"), "Reference,Value,MPN\nR1,1k,~\nR2,1k,A\n");
+    write(QStringLiteral("tilde.csv"),
+          "Reference,Value,MPN,BOMPART0\nR1,1k,~,\nR2,1k,A,\"1,SCR,M3,manf#=C,MPN=~\"\n");
     EXPECT_THAT(run("check tilde.csv --require MPN").out,
                 HasSubstr("MPN is empty or missing on 1 part: R1\n"));
     EXPECT_EQ(run("check two-names.csv --require Mfr_Name --require LCSC --template JLCPCB").status, 1);
