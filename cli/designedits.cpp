@@ -146,7 +146,7 @@ QString DesignEdits::fixedReason(const QString &reference, const QString &proper
 void DesignEdits::addToBOMPart(const BOMPart &part, const QString &property, const QString &value,
                                const QString &front)
 {
-    const QString reference = part.reference();
+    const QString &reference = part.reference();
     if (!m_bomPartProperties.contains(reference)) {
         m_bomPartProperties.insert(reference, part.properties());
     }
@@ -177,7 +177,7 @@ void DesignEdits::addToBOMPart(const BOMPart &part, const QString &property, con
         m_newProperties.add(reference, property);
     }
     after.isEmpty() ? (void)properties.remove(stored) : (void)properties.insert(stored, after);
-    const QString parent = part.parentReference();
+    const QString &parent = part.parentReference();
     if (m_design.database().bomParts(parent).size() > 1) {
         m_isMoreRenumbered = m_isMoreRenumbered || (!m_renumbered.isEmpty() && m_renumbered != parent);
         m_renumbered = m_renumbered.isEmpty() ? parent : m_renumbered;
