@@ -186,22 +186,7 @@ private:
     /// Whether a row, or a text behind a comma, begins with a reference such as X1.
     bool namesX()
     {
-        return !visitRows([this](std::size_t row) {
-            const std::string_view text = referenceText(row);
-            std::size_t at = text.find('X');
-            while (at != std::string_view::npos && !beginsNumberedX(text, at)) {
-                at = text.find('X', at + 1);
-            }
-            return at == std::string_view::npos;
-        });
-    }
-
-    [[nodiscard]] static bool beginsNumberedX(std::string_view text, std::size_t at)
-    {
-        const std::size_t last = text.substr(0, at).find_last_not_of(' ');
-        const bool isFirst = last == std::string_view::npos ||
-                             std::string_view(",;\n\r&+").find(text[last]) != std::string_view::npos;
-        return isFirst && at + 1 < text.size() && isDigit(text[at + 1]);
+        return !visitRows([this](std::size_t row) { return !beginsWithX(referenceText(row)); });
     }
 
     bool hasDoubtfulHyphens()

@@ -85,6 +85,19 @@ bool isLikeCount(std::string_view text)
     });
 }
 
+bool beginsWithX(std::string_view cell)
+{
+    for (std::size_t at = cell.find('X'); at != std::string_view::npos; at = cell.find('X', at + 1)) {
+        const std::size_t last = cell.substr(0, at).find_last_not_of(' ');
+        const bool isFirst = last == std::string_view::npos ||
+                             std::string_view(",;\n\r&+").find(cell[last]) != std::string_view::npos;
+        if (isFirst && at + 1 < cell.size() && isDigit(cell[at + 1])) {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool joinsReferences(std::string_view text)
 {
     while (true) {

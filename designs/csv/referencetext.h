@@ -38,6 +38,9 @@ namespace designs {
 /// "x2", "×2" or "X2": behind a reference and a blank this may be a count.
 [[nodiscard]] bool isLikeCount(std::string_view text);
 
+/// Whether a cell of references, or a text behind a comma in it, begins with a reference such as X1.
+[[nodiscard]] bool beginsWithX(std::string_view cell);
+
 /// True when each text between the hyphens is like a reference: "R1A-R3B", "R1-R3-R5".
 [[nodiscard]] bool joinsReferences(std::string_view text);
 
