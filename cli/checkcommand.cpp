@@ -62,11 +62,7 @@ QByteArray jsonText(OpenDesign &design, const DesignCheck &check)
     json.beginObject();
     writeDesign(json, designOf(design.database()));
     json.newLine();
-    json.key(u"sums");
-    json.beginArray();
-    for (const DesignCheck::Sum &sum : check.sums) {
-        json.newLine();
-        json.beginObject();
+    json.objects(u"sums", check.sums, [&json](const DesignCheck::Sum &sum) {
         json.entry(u"name", sum.name.trimmed());
         if (sum.count) {
             json.key(u"count");
@@ -76,9 +72,7 @@ QByteArray jsonText(OpenDesign &design, const DesignCheck &check)
         if (!sum.references.isEmpty()) {
             writeTexts(json, u"references", sum.references);
         }
-        json.endObject();
-    }
-    json.endArray();
+    });
     writeMessages(json, u"findings", check.findings);
     writeMessages(json, u"notices", check.notices);
     json.newLine();

@@ -110,32 +110,27 @@ void writeUse(JsonWriter &json, const FieldUse &use)
     json.entry(u"text", use.exampleText);
 }
 
-void writeDisagreements(JsonWriter &json, const QList<FieldDisagreement> &disagreements)
+void writeDisagreement(JsonWriter &json, const FieldDisagreement &part)
 {
-    json.key(u"disagreements");
+    json.entry(u"reference", part.reference);
+    json.key(u"texts");
     json.beginArray();
-    for (const FieldDisagreement &part : disagreements) {
-        json.newLine();
+    for (const FieldDisagreement::Text &text : part.texts) {
         json.beginObject();
-        json.entry(u"reference", part.reference);
-        json.key(u"texts");
-        json.beginArray();
-        for (const FieldDisagreement::Text &text : part.texts) {
-            json.beginObject();
-            json.entry(u"name", text.name);
-            json.entry(u"text", text.text);
-            json.endObject();
-        }
-        json.endArray();
+        json.entry(u"name", text.name);
+        json.entry(u"text", text.text);
         json.endObject();
     }
     json.endArray();
 }
 
+void writeUses(JsonWriter &json, QStringView name, const QList<FieldUse> &uses)
+{
+    json.objects(name, uses, [&json](const FieldUse &use) { writeUse(json, use); });
+}
+
 void writeMeaning(JsonWriter &json, const FieldOverview::Meaning &meaning)
 {
-    json.newLine();
-    json.beginObject();
     json.entry(u"meaning", meaning.meaning.key);
     json.entry(u"title", meaning.meaning.title);
     json.entry(u"use", meaning.meaning.use == FieldMeaning::Use::Read     ? u"read"
@@ -143,23 +138,13 @@ void writeMeaning(JsonWriter &json, const FieldOverview::Meaning &meaning)
                                                                           : u"ignored");
     json.key(u"parts");
     json.number(meaning.parts);
-    json.key(u"names");
-    json.beginArray();
-    for (const FieldUse &use : meaning.names) {
-        json.newLine();
-        json.beginObject();
-        writeUse(json, use);
-        json.endObject();
-    }
-    json.endArray();
-    writeDisagreements(json, meaning.disagreements);
-    json.endObject();
+    writeUses(json, u"names", meaning.names);
+    json.objects(u"disagreements", meaning.disagreements,
+                 [&json](const FieldDisagreement &part) { writeDisagreement(json, part); });
 }
 
 void writeProposal(JsonWriter &json, const FieldOverview::Proposal &proposal)
 {
-    json.newLine();
-    json.beginObject();
     writeUse(json, proposal.name);
     json.key(u"meanings");
     json.beginArray();
@@ -167,7 +152,6 @@ void writeProposal(JsonWriter &json, const FieldOverview::Proposal &proposal)
         json.text(meaning.key);
     }
     json.endArray();
-    json.endObject();
 }
 
 QByteArray jsonText(OpenDesign &design, const FieldOverview &overview)
@@ -176,29 +160,13 @@ QByteArray jsonText(OpenDesign &design, const FieldOverview &overview)
     json.beginObject();
     writeDesign(json, designOf(design.database()));
     json.newLine();
-    json.key(u"meanings");
-    json.beginArray();
-    for (const FieldOverview::Meaning &meaning : overview.meanings) {
-        writeMeaning(json, meaning);
-    }
-    json.endArray();
+    json.objects(u"meanings", overview.meanings,
+                 [&json](const FieldOverview::Meaning &meaning) { writeMeaning(json, meaning); });
     json.newLine();
-    json.key(u"proposed");
-    json.beginArray();
-    for (const FieldOverview::Proposal &proposal : overview.proposals) {
-        writeProposal(json, proposal);
-    }
-    json.endArray();
+    json.objects(u"proposed", overview.proposals,
+                 [&json](const FieldOverview::Proposal &proposal) { writeProposal(json, proposal); });
     json.newLine();
-    json.key(u"unknown");
-    json.beginArray();
-    for (const FieldUse &use : overview.others) {
-        json.newLine();
-        json.beginObject();
-        writeUse(json, use);
-        json.endObject();
-    }
-    json.endArray();
+    writeUses(json, u"unknown", overview.others);
     json.newLine();
     json.endObject();
     return json.bytes() + '\n';

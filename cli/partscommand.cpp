@@ -16,8 +16,6 @@ namespace {
 
 void writePart(JsonWriter &json, const ListedPart &part)
 {
-    json.newLine();
-    json.beginObject();
     json.entry(u"reference", part.reference);
     json.entry(u"value", part.value);
     json.entry(u"name", part.name);
@@ -33,18 +31,12 @@ void writePart(JsonWriter &json, const ListedPart &part)
     if (!part.reason.isEmpty()) {
         json.entry(u"reason", part.reason);
     }
-    json.endObject();
 }
 
 void writeParts(JsonWriter &json, QStringView name, const QList<ListedPart> &parts)
 {
     json.newLine();
-    json.key(name);
-    json.beginArray();
-    for (const ListedPart &part : parts) {
-        writePart(json, part);
-    }
-    json.endArray();
+    json.objects(name, parts, [&json](const ListedPart &part) { writePart(json, part); });
 }
 
 QByteArray jsonText(OpenDesign &design, const PartsListing &listing)

@@ -11,8 +11,6 @@ namespace {
 
 void writeLine(JsonWriter &json, const Report &report, BomLine line)
 {
-    json.newLine();
-    json.beginObject();
     json.key(u"quantity");
     json.number(qint64(line.size()));
     json.key(u"references");
@@ -28,26 +26,17 @@ void writeLine(JsonWriter &json, const Report &report, BomLine line)
         json.text(report.text(*line.front(), column));
     }
     json.endArray();
-    json.endObject();
 }
 
 void writeCategory(JsonWriter &json, const Report &report, const QString &category)
 {
-    json.newLine();
-    json.beginObject();
     json.entry(u"name", category);
     json.key(u"parts");
     json.number(report.partCount(category));
-    json.key(u"lines");
-    json.beginArray();
     const ReportLines listed = report.lines(category, true);
-    for (const BomLine line : listed.lines) {
-        writeLine(json, report, line);
-    }
-    json.endArray();
+    json.objects(u"lines", listed.lines, [&](BomLine line) { writeLine(json, report, line); });
     json.newLine();
     writeTexts(json, u"subTotals", report.texts(report.subTotals(category)));
-    json.endObject();
 }
 
 } // namespace
@@ -72,12 +61,8 @@ QByteArray jsonReport(const Report &report)
     json.newLine();
     writeTexts(json, u"columns", report.columnNames());
     json.newLine();
-    json.key(u"categories");
-    json.beginArray();
-    for (const QString &category : report.categories()) {
-        writeCategory(json, report, category);
-    }
-    json.endArray();
+    json.objects(u"categories", report.categories(),
+                 [&](const QString &category) { writeCategory(json, report, category); });
     json.newLine();
     writeTexts(json, u"totals", report.texts(report.grandTotals()));
     json.newLine();

@@ -19,6 +19,20 @@ public:
     void number(qint64 value);
     /// A key with its text.
     void entry(QStringView name, QStringView value);
+    /// A key with a list of objects, each on a new line; `write` gives the entries of one.
+    template<typename Items, typename Write>
+    void objects(QStringView name, const Items &items, Write write)
+    {
+        key(name);
+        beginArray();
+        for (const auto &item : items) {
+            newLine();
+            beginObject();
+            write(item);
+            endObject();
+        }
+        endArray();
+    }
     /// Begins a new line before what comes next.
     void newLine() { m_wantsLine = true; }
 
