@@ -218,6 +218,7 @@ DesignCheck checkDesign(const DesignSession &session, const BOMPartsDatabase &da
     check.findings += missingFindings(database, required);
     const QList<FieldReading> readings = billReadings(design, database, required);
     check.findings += disagreementNotices(readings);
+    check.findings += unheededNotFittedNotices(design);
     checkTexts(&check, database);
     check.notices += leftOutBomPartNotices(database);
     check.notices += notFittedParentNotices(database, components);

@@ -109,6 +109,19 @@ QStringList disagreementNotices(const QList<FieldReading> &readings)
     return notices;
 }
 
+QStringList unheededNotFittedNotices(const LoadedDesign &design)
+{
+    QStringList notices;
+    for (const FieldUse &use : unheededNotFitted(design)) {
+        notices << counted(use.parts, QStringLiteral("part says"), QStringLiteral("parts say")) +
+                       QStringLiteral(" \"do not fit\" under the name ") + use.name +
+                       QStringLiteral(", which leaves no part out as DNP and BOMSKIP do: ") +
+                       use.exampleReference + QStringLiteral(" (\"") + use.exampleText +
+                       QStringLiteral("\")") + (use.parts > 1 ? QStringLiteral(", ...") : QString());
+    }
+    return notices;
+}
+
 QString disagreementText(const QList<FieldDisagreement> &disagreements)
 {
     constexpr qsizetype mostParts = 3;

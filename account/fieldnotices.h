@@ -17,5 +17,8 @@ class BOMPartsDatabase;
 /// The parts on which names of one meaning disagree, a sentence for each property.
 [[nodiscard]] QStringList disagreementNotices(const QList<FieldReading> &readings);
 
+/// The names that say "do not fit" on parts of the bill, a sentence for each.
+[[nodiscard]] QStringList unheededNotFittedNotices(const LoadedDesign &design);
+
 /// "R1 ("A" under manf# is read, "B" under PartNo is not), ..." of the first few parts.
 [[nodiscard]] QString disagreementText(const QList<FieldDisagreement> &disagreements);

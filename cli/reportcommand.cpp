@@ -120,6 +120,7 @@ ExitStatus ReportCommand::run()
     }
     const QList<FieldReading> readings = billReadings(design.design(), design.database());
     console::notices(otherNameNotices(readings) + disagreementNotices(readings) +
+                     unheededNotFittedNotices(design.design()) +
                      reportNotices(components, design.database(), formsOf(outputs)) +
                      missingNotes(design, outputs));
     return write(design, outputs);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "account/design/fieldaccount.h"
 
+#include "designs/notfitted.h"
 #include "host/framework/hosttext.h"
 #include "standalone/loadeddesign.h"
 
@@ -64,6 +65,21 @@ std::unordered_map<NameId, std::size_t> placesOf(const std::vector<NameId> &ids)
         places.emplace(ids[place], place);
     }
     return places;
+}
+
+/// The names of the meaning but DNP itself.
+std::vector<NameId> notFittedNames(const LoadedDesign &design)
+{
+    const DesignFields &fields = design.properties().fields();
+    std::vector<NameId> ids;
+    for (NameId id = 0; fields.names() != nullptr && id < design.design().names().size(); ++id) {
+        const auto meaning = fields.senseOf(id).meaning;
+        if (meaning && fields.names()->meanings()[*meaning].key == QLatin1String("not-fitted") &&
+            !FieldNames::isExact(nameOf(design, id))) {
+            ids.push_back(id);
+        }
+    }
+    return ids;
 }
 
 /// Goes through the parts of the bill for one property.
@@ -228,6 +244,31 @@ private:
 };
 
 } // namespace
+
+QList<FieldUse> unheededNotFitted(const LoadedDesign &design)
+{
+    const PropertyTable &table = design.properties();
+    const std::vector<NameId> ids = notFittedNames(design);
+    if (ids.empty()) {
+        return {};
+    }
+    const PROPNAME skip("BOMSKIP");
+    const auto places = placesOf(ids);
+    std::vector<FieldUse> uses(ids.size());
+    for (const Component &component : design.design().components()) {
+        const bool isMeantFitted = component.notFitted == designs::MarkedBy::Nothing;
+        if (!isMeantFitted || table.find(component, skip)) {
+            continue;
+        }
+        for (const designs::Property &property : component.properties) {
+            const auto place = places.find(property.name);
+            if (place != places.end() && designs::saysNotFitted(property.value)) {
+                enter(&uses[place->second], component, property.value);
+            }
+        }
+    }
+    return usedOnes(design, ids, uses);
+}
 
 QList<FieldReading> fieldReadings(const LoadedDesign &design, const QStringList &asked)
 {

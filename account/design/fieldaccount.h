@@ -50,6 +50,9 @@ struct FieldReading
 /// For each property, once in any letter case.
 [[nodiscard]] QList<FieldReading> fieldReadings(const LoadedDesign &design, const QStringList &asked);
 
+/// Names that say "do not fit" on parts of the bill. DNP and BOMSKIP are none of them: they leave parts out.
+[[nodiscard]] QList<FieldUse> unheededNotFitted(const LoadedDesign &design);
+
 /// All names of a design by their meanings; parts that are in no bill count as well.
 struct FieldOverview
 {

@@ -144,4 +144,19 @@ TEST_F(Fields, FollowTheTablesOfTheUserAndOfTheDesign)
     EXPECT_EQ(run("report two-names.csv --csv two-names.bomfields.txt").status, 2);
 }
 
+TEST_F(Fields, ThatSayDoNotFitUnderOtherNamesAreTold)
+{
+    write(QStringLiteral("marks.csv"), "Reference,Value,nopop\nR1,1k,x\nR2,1k,\nR3,1k,yes\n");
+    const char *notice =
+        "2 parts say \"do not fit\" under the name nopop, which leaves no part out as DNP and "
+        "BOMSKIP do: R1 (\"x\"), ...";
+    const ProgramRun report = run("report marks.csv --csv -");
+    EXPECT_THAT(report.err, HasSubstr(notice));
+    EXPECT_THAT(report.out, HasSubstr("R1-R3"));
+    const ProgramRun check = run("check marks.csv");
+    EXPECT_THAT(check.out, HasSubstr(notice));
+    EXPECT_EQ(check.status, 1);
+    EXPECT_EQ(run("check marks.csv --exact-names").status, 0);
+}
+
 } // namespace
