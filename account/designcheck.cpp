@@ -219,11 +219,15 @@ DesignCheck checkDesign(const DesignSession &session, const BOMPartsDatabase &da
     const QList<FieldReading> readings = billReadings(design, database, required);
     check.findings += disagreementNotices(readings);
     check.findings += unheededNotFittedNotices(design);
+    for (const JoinedLine &line : billJoinedLines(design, database)) {
+        check.findings << joinedLineText(line);
+    }
     checkTexts(&check, database);
     check.notices += leftOutBomPartNotices(database);
     check.notices += notFittedParentNotices(database, components);
     check.notices += blockedCategoryNotices(database);
     check.notices += otherNameNotices(readings);
+    check.notices += emptyColumnNotices(design, database);
     check.notices += twinNotices(design);
     check.notices += variableNotices(design);
     return check;

@@ -5,6 +5,9 @@
 #include "account/sentences.h"
 #include "core/bompart.h"
 #include "core/bompartsdatabase.h"
+#include "standalone/buyerfields.h"
+
+#include <QSet>
 
 #include <algorithm>
 
@@ -50,6 +53,34 @@ void addBomOnlyParts(FieldReading *reading, const BOMPartsDatabase &database)
         }
         ++use->parts;
     }
+}
+
+/// The names by which a design may have what a property means.
+QList<FieldUse> namesFor(const QString &property, const LoadedDesign &design, const FieldOverview &overview)
+{
+    const FieldNames &names = *design.properties().fields().names();
+    const FieldSense sense = names.senseOf(property);
+    QStringList keys;
+    if (sense.meaning) {
+        keys << names.meanings()[*sense.meaning].key;
+    }
+    for (const std::size_t meaning : sense.proposed) {
+        keys << names.meanings()[meaning].key;
+    }
+    QList<FieldUse> found;
+    for (const FieldOverview::Meaning &meaning : overview.meanings) {
+        if (keys.contains(meaning.meaning.key)) {
+            found += meaning.names;
+        }
+    }
+    for (const FieldOverview::Proposal &proposal : overview.proposals) {
+        const auto &meanings = proposal.meanings;
+        if (std::any_of(meanings.begin(), meanings.end(),
+                        [&keys](const FieldMeaning &meaning) { return keys.contains(meaning.key); })) {
+            found << proposal.name;
+        }
+    }
+    return found;
 }
 
 } // namespace
@@ -120,6 +151,54 @@ QStringList unheededNotFittedNotices(const LoadedDesign &design)
                        QStringLiteral("\")") + (use.parts > 1 ? QStringLiteral(", ...") : QString());
     }
     return notices;
+}
+
+QList<JoinedLine> billJoinedLines(const LoadedDesign &design, const BOMPartsDatabase &database)
+{
+    const TellingProperties telling = tellingProperties(design);
+    return joinedLines(database, telling.always, telling.whereFilled);
+}
+
+QStringList joinedLineNotices(const QList<JoinedLine> &joined)
+{
+    QSet<QString> lines;
+    for (const JoinedLine &line : joined) {
+        lines.insert(line.category + QChar::Null + line.reference());
+    }
+    if (lines.isEmpty()) {
+        return {};
+    }
+    return {counted(lines.size(), QStringLiteral("line joins"), QStringLiteral("lines join")) +
+            QStringLiteral(" parts that differ in what no column shows (bom check lists them): ") +
+            joinedLineText(joined.constFirst())};
+}
+
+QStringList emptyColumnNotices(const LoadedDesign &design, const BOMPartsDatabase &database)
+{
+    const QList<EmptyColumn> columns = emptyColumns(database);
+    const bool hasMeanings = design.properties().fields().names() != nullptr;
+    const FieldOverview overview =
+        !columns.isEmpty() && hasMeanings ? fieldOverview(design) : FieldOverview();
+    QStringList texts;
+    for (const EmptyColumn &column : columns) {
+        const QList<FieldUse> names =
+            hasMeanings ? namesFor(column.property, design, overview) : QList<FieldUse>();
+        QStringList remarks;
+        if (column.field.compare(column.property, Qt::CaseInsensitive) != 0) {
+            remarks << column.property;
+        }
+        if (!names.isEmpty()) {
+            remarks << QStringLiteral("the design has ") + useTexts(names);
+        }
+        texts << column.field + (remarks.isEmpty()
+                                     ? QString()
+                                     : QStringLiteral(" (") + remarks.join(QStringLiteral("; ")) + u')');
+    }
+    return texts.isEmpty() ? QStringList()
+                           : QStringList(QStringLiteral("no part has anything in ") +
+                                         (texts.size() == 1 ? QStringLiteral("the column ")
+                                                            : QStringLiteral("the columns ")) +
+                                         texts.join(QStringLiteral(", ")));
 }
 
 QString disagreementText(const QList<FieldDisagreement> &disagreements)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "account/design/fieldaccount.h"
+#include "core/joinedlines.h"
 
 class BOMPartsDatabase;
 
@@ -19,6 +20,15 @@ class BOMPartsDatabase;
 
 /// The names that say "do not fit" on parts of the bill, a sentence for each.
 [[nodiscard]] QStringList unheededNotFittedNotices(const LoadedDesign &design);
+
+/// The lines that join parts which differ in what no column shows: the footprint, a number, a rating.
+[[nodiscard]] QList<JoinedLine> billJoinedLines(const LoadedDesign &design, const BOMPartsDatabase &database);
+/// How many lines there are, with the first of them; empty for none.
+[[nodiscard]] QStringList joinedLineNotices(const QList<JoinedLine> &joined);
+
+/// The columns that are empty on all parts, with the names that the design has for them; one sentence or
+/// none.
+[[nodiscard]] QStringList emptyColumnNotices(const LoadedDesign &design, const BOMPartsDatabase &database);
 
 /// "R1 ("A" under manf# is read, "B" under PartNo is not), ..." of the first few parts.
 [[nodiscard]] QString disagreementText(const QList<FieldDisagreement> &disagreements);

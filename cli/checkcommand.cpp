@@ -101,6 +101,7 @@ void CheckCommand::addTo(CLI::App &program)
     m_app =
         program.add_subcommand("check", "Account for every symbol of the design; list what needs a decision");
     m_design.addTo(*m_app);
+    m_design.addColumns(*m_app);
     m_app->add_option("--require", m_required, "Find the parts on which this property is empty or missing")
         ->type_name("NAME")
         ->check(CLI::Validator(isGiven, ""))
@@ -119,7 +120,7 @@ ExitStatus CheckCommand::run()
         return status;
     }
     DesignCheck check = checkDesign(design.session(), design.database(), required);
-    check.notices += misspelt(design, required);
+    check.notices = design.fittingNotices() + check.notices + misspelt(design, required);
     if (!console::write(m_json ? jsonText(design, check) : readableText(check).toUtf8())) {
         return ExitStatus::UnwritableOutput;
     }

@@ -16,6 +16,7 @@ void DesignArguments::addTo(CLI::App &command)
     addListing(command);
     addNames(command);
     addAsIs(command);
+    isFitted = true;
 }
 
 void DesignArguments::addAsIs(CLI::App &command)
@@ -53,9 +54,30 @@ void DesignArguments::addListing(CLI::App &command)
         ->type_name("exclude|include|only")
         ->check(CLI::IsMember({"exclude", "include", "only"}).description(""))
         ->default_str("exclude");
-    command.add_option("--template", templateName, "Template, or a .bomt file; without it \"Default\"")
+    command
+        .add_option("--template", templateName,
+                    "Template, or a .bomt file; without it one that is fitted to the design")
         ->type_name("NAME|FILE")
         ->check(CLI::Validator(isGiven, ""));
+}
+
+void DesignArguments::addColumns(CLI::App &command)
+{
+    isFitted = true;
+    CLI::Option *named = command.get_option("--template");
+    CLI::Option *listed =
+        command.add_option("--fields", fields, "Columns of these properties, such as Value,Footprint,MPN")
+            ->type_name("A,B,...")
+            ->check(CLI::Validator(isGiven, ""))
+            ->excludes(named);
+    command.add_option("--labels", labels, "Headings for --fields, in the same order")
+        ->type_name("A,B,...")
+        ->needs(listed);
+    command.add_option("--preset", preset, "Columns of a BOM preset of the KiCad project")
+        ->type_name("NAME")
+        ->check(CLI::Validator(isGiven, ""))
+        ->excludes(named)
+        ->excludes(listed);
 }
 
 DnpChoice DesignArguments::dnpChoice() const

@@ -22,6 +22,12 @@ struct DesignArguments
     std::string dnp = "exclude";
     std::string propdefs;
     std::string templateName;
+    /// Names of properties, and headings for them, with commas between.
+    std::string fields;
+    std::string labels;
+    std::string preset;
+    /// Whether the command lists parts under a template that is fitted to the design where none is chosen.
+    bool isFitted = false;
     bool readsAsIs = false;
     bool hasExactNames = false;
 
@@ -36,8 +42,10 @@ struct DesignArguments
     void addAsIs(CLI::App &command);
     /// Adds whether names of properties are taken as they are.
     void addNames(CLI::App &command);
-    /// Adds what decides how parts are listed.
+    /// Adds what decides which parts are listed, and the template.
     void addListing(CLI::App &command);
+    /// Adds the ways to choose columns without a template, after addListing().
+    void addColumns(CLI::App &command);
 
     [[nodiscard]] QString path() const { return QString::fromStdString(design); }
     [[nodiscard]] DnpChoice dnpChoice() const;

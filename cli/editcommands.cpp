@@ -144,6 +144,7 @@ void ApplyCommand::addTo(CLI::App &program)
         ->check(CLI::Validator(isGiven, ""))
         ->allow_extra_args(false);
     m_arguments.addTo(*m_app);
+    m_arguments.design.addColumns(*m_app);
 }
 
 ExitStatus ApplyCommand::run()

@@ -7,11 +7,13 @@
 #include "cli/nearnames.h"
 #include "cli/progressline.h"
 #include "cli/templatechoice.h"
+#include "fitting/fittedtemplate.h"
 #include "host/netlist/netlist.h"
 #include "host/propdefs/propdefsfile.h"
 #include "richtext/paper/pagepainter.h"
 #include "standalone/environment.h"
 #include "templates/templatelist.h"
+#include "templates/templatepaths.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -27,6 +29,18 @@ QString variantHint(DesignSession &session, const QString &path, OpenOptions opt
     const QString wanted = std::exchange(options.variant, {});
     return !wanted.isEmpty() && session.open(path, options) ? didYouMean(wanted, session.variants())
                                                             : QString();
+}
+
+/// Whether the template depends on the design: nobody named one, or has one of their own for every design.
+bool isTemplateFitted(const DesignArguments &arguments)
+{
+    const bool hasColumns = !arguments.fields.empty() || !arguments.preset.empty();
+    return hasColumns || (arguments.isFitted && arguments.templateName.empty() && !hasOwnDefaultTemplate());
+}
+
+QStringList commaSeparated(const std::string &text)
+{
+    return text.empty() ? QStringList() : QString::fromStdString(text).split(u',');
 }
 
 } // namespace
@@ -62,10 +76,11 @@ ExitStatus OpenDesign::open(const DesignArguments &arguments, bool printsWarning
     if (!loadDefinitions(QString::fromStdString(arguments.propdefs))) {
         return ExitStatus::UnreadableInput;
     }
-    const auto settings =
-        readTemplate(arguments.templateName.empty() ? TemplateList::defaultName()
-                                                    : QString::fromStdString(arguments.templateName));
-    if (!settings) {
+    const bool isFitted = isTemplateFitted(arguments);
+    std::optional<BOMTemplate> settings;
+    if (!isFitted && !(settings = readTemplate(arguments.templateName.empty()
+                                                   ? TemplateList::defaultName()
+                                                   : QString::fromStdString(arguments.templateName)))) {
         return ExitStatus::UnreadableInput;
     }
     m_session.setDnpChoice(arguments.dnpChoice());
@@ -77,6 +92,12 @@ ExitStatus OpenDesign::open(const DesignArguments &arguments, bool printsWarning
     if (printsWarnings) {
         console::notices(m_session.warnings());
     }
+    if (isFitted && !(settings = fitTemplate(arguments))) {
+        return ExitStatus::UnreadableInput;
+    }
+    if (isShippedTemplateFile(settings->filePath())) {
+        settings->setFields(withDecimalsOfParts(settings->fields(), design()));
+    }
     m_session.projectNotes().setPagePainter([](QPainter &painter, const QString &text) {
         (void)paintTextPages(painter, QCoreApplication::translate("ProjectNotes", "Project Notes"), text);
     });
@@ -85,6 +106,33 @@ ExitStatus OpenDesign::open(const DesignArguments &arguments, bool printsWarning
         console::notice(settings->filePath() + QStringLiteral(": ") + repair);
     }
     return ExitStatus::Done;
+}
+
+std::optional<BOMTemplate> OpenDesign::fitTemplate(const DesignArguments &arguments)
+{
+    std::optional<FittedTemplate> fitted;
+    QString problem;
+    if (!arguments.fields.empty()) {
+        fitted = columnTemplate(design(), commaSeparated(arguments.fields), commaSeparated(arguments.labels));
+    } else if (!arguments.preset.empty()) {
+        const QString name = QString::fromStdString(arguments.preset);
+        const QStringList names = presetNames(design());
+        fitted = presetTemplate(design(), name);
+        problem = QStringLiteral("the project has no BOM preset \"") + name + u'"' + didYouMean(name, names) +
+                  (names.isEmpty() ? QStringLiteral(" (it has none)")
+                                   : QStringLiteral(" (it has ") + names.join(QStringLiteral(", ")) + u')');
+    } else {
+        fitted = fittedTemplate(design(), &problem);
+    }
+    if (!fitted) {
+        console::message(problem);
+        return std::nullopt;
+    }
+    m_fittingNotices = fitted->notices;
+    if (arguments.fields.empty()) {
+        m_templateReason = fitted->reason;
+    }
+    return fitted->settings;
 }
 
 bool OpenDesign::loadDefinitions(const QString &path)

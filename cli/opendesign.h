@@ -28,9 +28,14 @@ public:
     [[nodiscard]] DesignSession &session() { return m_session; }
     [[nodiscard]] const LoadedDesign &design() const { return *m_session.design(); }
     [[nodiscard]] BOMPartsDatabase &database() { return m_database; }
+    /// Which template was taken where none was named, and why; empty otherwise.
+    [[nodiscard]] const QString &templateReason() const { return m_templateReason; }
+    /// What of the project's settings for its bill cannot be followed, one sentence each.
+    [[nodiscard]] const QStringList &fittingNotices() const { return m_fittingNotices; }
 
 private:
     [[nodiscard]] bool loadDefinitions(const QString &path);
+    [[nodiscard]] std::optional<BOMTemplate> fitTemplate(const DesignArguments &arguments);
     void fillDatabase(const BOMTemplate &settings);
 
     // In this order: the cache leaves the session's server, the database reads from the cache.
@@ -38,4 +43,6 @@ private:
     DesignSession m_session;
     NETCACHE m_cache;
     BOMPartsDatabase m_database;
+    QString m_templateReason;
+    QStringList m_fittingNotices;
 };

@@ -66,6 +66,7 @@ void ReportCommand::addTo(CLI::App &program)
     m_app = program.add_subcommand("report", "Write the bill of materials; text in columns goes to standard "
                                              "output when no output is named");
     m_design.addTo(*m_app);
+    m_design.addColumns(*m_app);
     m_app
         ->add_option("-o,--output", m_outputs,
                      "Write the form that the file's ending says: .csv, .html, .json, .pdf, .txt, .xlsx")
@@ -119,8 +120,13 @@ ExitStatus ReportCommand::run()
         return ExitStatus::DesignProblem;
     }
     const QList<FieldReading> readings = billReadings(design.design(), design.database());
-    console::notices(otherNameNotices(readings) + disagreementNotices(readings) +
-                     unheededNotFittedNotices(design.design()) +
+    m_joined = billJoinedLines(design.design(), design.database());
+    if (!design.templateReason().isEmpty()) {
+        console::notice(design.templateReason());
+    }
+    console::notices(design.fittingNotices() + otherNameNotices(readings) + disagreementNotices(readings) +
+                     unheededNotFittedNotices(design.design()) + joinedLineNotices(m_joined) +
+                     emptyColumnNotices(design.design(), design.database()) +
                      reportNotices(components, design.database(), formsOf(outputs)) +
                      missingNotes(design, outputs));
     return write(design, outputs);
@@ -283,7 +289,7 @@ ReportCommand::Content ReportCommand::content(const Output &output, BOMPartsData
         return {columns(output, report)};
     }
     if (form == Form::Json) {
-        return {jsonReport(report)};
+        return {jsonReport(report, m_joined)};
     }
     if (form == Form::Xlsx) {
         const SpreadsheetReport made = spreadsheetReport(report);

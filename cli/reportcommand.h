@@ -5,6 +5,7 @@
 #include "cli/command.h"
 #include "cli/designarguments.h"
 #include "cli/localeoption.h"
+#include "core/joinedlines.h"
 
 #include <QList>
 #include <QString>
@@ -89,6 +90,7 @@ private:
     /// In the order of the options.
     std::array<std::string, 7> m_paths;
     LocaleOption m_locale;
+    QList<JoinedLine> m_joined;
     bool m_allowDuplicates = false;
     bool m_isForSpreadsheets = false;
 };

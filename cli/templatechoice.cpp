@@ -57,6 +57,18 @@ void prepareTemplates()
     });
 }
 
+bool hasOwnDefaultTemplate()
+{
+    if (QFileInfo::exists(legacyTemplatesFile())) {
+        TemplateStore store;
+        store.reload();
+        if (!store.templates().stored(TemplateList::defaultName()).filePath().isEmpty()) {
+            return true;
+        }
+    }
+    return !fileOf(TemplateList::defaultName()).isEmpty();
+}
+
 void reportUnknownTemplate(const QString &name, const TemplateList &templates)
 {
     console::message(QStringLiteral("there is no template \"") + name + u'"' +

@@ -10,6 +10,9 @@
 /// Sets the folders in which templates are looked for; problems with templates go to standard error.
 void prepareTemplates();
 
+/// Whether the user has a template "Default" of their own.
+[[nodiscard]] bool hasOwnDefaultTemplate();
+
 /// Says that there is no template of that name, and which one may be meant.
 void reportUnknownTemplate(const QString &name, const TemplateList &templates);
 

@@ -5,8 +5,10 @@
 #include "account/sentences.h"
 #include "cli/console.h"
 #include "cli/designarguments.h"
+#include "cli/opendesign.h"
 #include "cli/outputfile.h"
 #include "cli/templatechoice.h"
+#include "fitting/fittedtemplate.h"
 #include "host/propdefs/propdefsfile.h"
 #include "standalone/environment.h"
 #include "templates/bomtemplatefile.h"
@@ -139,9 +141,16 @@ void TemplateCommand::addTo(CLI::App &program)
             "Template, or a .bomt file");
     CLI::App *create = addAction("new", "Make a template", &TemplateCommand::create);
     addName(*create, "Name of the new template");
-    create->add_option("--from", m_from, "Take the settings of this template or .bomt file, not the defaults")
-        ->type_name("NAME|FILE")
-        ->check(CLI::Validator(isGiven, ""));
+    CLI::Option *from = create
+                            ->add_option("--from", m_from,
+                                         "Take the settings of this template or .bomt file, not the defaults")
+                            ->type_name("NAME|FILE")
+                            ->check(CLI::Validator(isGiven, ""));
+    create
+        ->add_option("--for", m_for, "Take the settings that a report of this design has without a template")
+        ->type_name("DESIGN")
+        ->check(CLI::Validator(isGiven, ""))
+        ->excludes(from);
     addName(*addAction("delete", "Delete a template of your own", &TemplateCommand::remove), "Template");
     addAction("reset", "Put the template \"Default\" back to the default settings", &TemplateCommand::reset);
     addFile(*addAction("import", "Take a .bomt file into your templates", &TemplateCommand::importFile),
@@ -216,11 +225,29 @@ ExitStatus TemplateCommand::show(TemplateStore &)
                                                                : ExitStatus::UnwritableOutput;
 }
 
+std::optional<BOMTemplate> TemplateCommand::beginning() const
+{
+    if (m_for.empty()) {
+        return m_from.empty() ? std::optional(BOMTemplate()) : readTemplate(QString::fromStdString(m_from));
+    }
+    DesignSession session;
+    if (openSession(session, QString::fromStdString(m_for), {}) != ExitStatus::Done) {
+        return std::nullopt;
+    }
+    QString problem;
+    const auto fitted = fittedTemplate(*session.design(), &problem);
+    if (!fitted) {
+        console::message(problem);
+        return std::nullopt;
+    }
+    console::notices(QStringList(fitted->reason) + fitted->notices);
+    return fitted->settings;
+}
+
 ExitStatus TemplateCommand::create(TemplateStore &store)
 {
     const QString name = QString::fromStdString(m_name).trimmed();
-    auto settings =
-        m_from.empty() ? std::optional(BOMTemplate()) : readTemplate(QString::fromStdString(m_from));
+    auto settings = beginning();
     if (!settings) {
         return ExitStatus::UnreadableInput;
     }

@@ -3,9 +3,11 @@
 #pragma once
 
 #include "cli/command.h"
+#include "templates/bomtemplate.h"
 
 #include <QString>
 
+#include <optional>
 #include <string>
 
 class TemplateStore;
@@ -26,6 +28,8 @@ private:
     [[nodiscard]] ExitStatus list(TemplateStore &store);
     [[nodiscard]] ExitStatus show(TemplateStore &store);
     [[nodiscard]] ExitStatus create(TemplateStore &store);
+    /// What the new template begins with; nothing, after a message, when that cannot be read.
+    [[nodiscard]] std::optional<BOMTemplate> beginning() const;
     [[nodiscard]] ExitStatus remove(TemplateStore &store);
     [[nodiscard]] ExitStatus reset(TemplateStore &store);
     [[nodiscard]] ExitStatus importFile(TemplateStore &store);
@@ -38,6 +42,7 @@ private:
     ExitStatus (TemplateCommand::*m_action)(TemplateStore &) = nullptr;
     std::string m_name;
     std::string m_from;
+    std::string m_for;
     std::string m_file;
     std::string m_script;
 };

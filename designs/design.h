@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "designs/bomsettings.h"
 #include "designs/component.h"
 #include "designs/edits.h"
 #include "designs/filefingerprint.h"
@@ -75,6 +76,8 @@ public:
     [[nodiscard]] const SymbolCount &symbols() const { return m_symbols; }
     /// The variants that the design defines, sorted.
     [[nodiscard]] const QStringList &variants() const { return m_variants; }
+    /// What the project of the design says about its bill of materials; empty where there is none.
+    [[nodiscard]] const ProjectBom &projectBom() const { return m_projectBom; }
     /// What the reader noticed and went on from: units that differ, symbols missing in the library cache. A
     /// board file that cannot be read is added when placement() first asks for it.
     [[nodiscard]] const std::vector<Problem> &warnings() const { return m_warnings; }
@@ -125,6 +128,7 @@ protected:
     std::vector<SheetUse> m_sheets;
     SymbolCount m_symbols;
     QStringList m_variants;
+    ProjectBom m_projectBom;
     mutable std::vector<Problem> m_warnings;
     NameId m_referenceName = 0;
     NameId m_valueName = 0;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "account/design/fieldaccount.h"
 
-#include "designs/notfitted.h"
 #include "host/framework/hosttext.h"
 #include "standalone/loadeddesign.h"
 
@@ -262,7 +261,8 @@ QList<FieldUse> unheededNotFitted(const LoadedDesign &design)
         }
         for (const designs::Property &property : component.properties) {
             const auto place = places.find(property.name);
-            if (place != places.end() && designs::saysNotFitted(property.value)) {
+            const QByteArrayView text(property.value.data(), qsizetype(property.value.size()));
+            if (place != places.end() && !table.fitting(text).isFitted) {
                 enter(&uses[place->second], component, property.value);
             }
         }

@@ -88,6 +88,7 @@ bool KicadDesign::findProject(const QString &path, Problem *problem)
             m_warnings.push_back(broken);
         }
     }
+    m_projectBom = m_project.bom;
     for (const auto &sheet : m_project.topLevelSheets) {
         const QString file = QFileInfo(projectPath).absoluteDir().absoluteFilePath(sheet.fileName);
         const RootSheet root{QDir::cleanPath(file), sheet.uuid};

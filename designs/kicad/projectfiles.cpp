@@ -3,6 +3,7 @@
 #include "designs/kicad/projectfiles.h"
 
 #include "designs/filebuffer.h"
+#include "designs/kicad/bomsettingsreader.h"
 #include "designs/kicad/sexprscanner.h"
 
 #include <QJsonArray>
@@ -126,6 +127,7 @@ bool readProjectFile(const QString &path, ProjectFile *project, Problem *problem
     }
     const QJsonObject schematic = root.value(QLatin1String("schematic")).toObject();
     project->variants = variantNames(schematic.value(QLatin1String("variants")).toArray());
+    project->bom = readProjectBom(schematic, path);
     const QJsonArray sheets = schematic.value(QLatin1String("top_level_sheets")).toArray();
     for (const auto entry : sheets) {
         const QJsonObject sheet = entry.toObject();

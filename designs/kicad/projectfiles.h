@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "designs/bomsettings.h"
 #include "designs/design.h"
 #include "designs/problem.h"
 
@@ -30,6 +31,7 @@ struct ProjectFile
     QStringList variants;
     /// Version 10 and later; empty for a project with the one root that is named as itself.
     std::vector<TopLevelSheet> topLevelSheets;
+    ProjectBom bom;
 };
 
 /// Reads a project file; false fills `problem`. A missing file is a problem too.

@@ -38,22 +38,23 @@ REACH = {
     "standalone": {"designs", "designs/formats", "designs/csv", "designs/transaction"} | HOST | FILES,
     "templates": {"richtext/css", "richtext/xhtml"} | HOST | FILES,
     "core": {"templates"} | HOST,
+    "fitting": {"standalone", "templates"} | HOST,
     "account/design": {"standalone"} | HOST,
     "account": {"account/design", "core", "templates", "standalone"} | HOST,
     "views/report": {"core", "templates", "richtext/css", "richtext/xhtml"} | HOST,
     "views": {"views/report", "core", "templates"} | RICHTEXT | HOST,
     "editors": {"core", "templates"} | HOST,
     "module": {"editors", "views", "views/report", "core", "templates"} | RICHTEXT | HOST,
-    "cli": {"account", "account/design", "views", "views/report", "core", "templates", "standalone"} | RICHTEXT | HOST,
-    "app": {"account/design", "standalone"} | RICHTEXT | HOST,
+    "cli": {"account", "account/design", "fitting", "views", "views/report", "core", "templates", "standalone"} | RICHTEXT | HOST,
+    "app": {"account/design", "fitting", "standalone"} | RICHTEXT | HOST,
 }
 # What a layer reaches through one that stands between: standalone is built on designs, and who uses standalone sees
 # its headers.
 DESIGNS = {"designs", "designs/transaction"}
-THROUGH = {"account/design": DESIGNS, "account": DESIGNS, "cli": DESIGNS, "app": DESIGNS}
+THROUGH = {"account/design": DESIGNS, "account": DESIGNS, "fitting": DESIGNS, "cli": DESIGNS, "app": DESIGNS}
 # Layers, or folders of one, that do without Qt's widgets.
 NO_WIDGETS = {
-    "files", "designs", "standalone", "templates", "core", "account", "views/report", "host/framework", "host/netlist",
+    "files", "designs", "standalone", "templates", "core", "account", "fitting", "views/report", "host/framework", "host/netlist",
     "host/propdefs",
 }
 WIDGET_HEADER = re.compile(

@@ -48,7 +48,7 @@ TEST_F(Apply, ApplyTakesTheCellsThatDiffer)
                 AllOf(HasSubstr("R1 COST: \"1.5\" -> \"2.25\""), HasSubstr("R2,R4 COST: none -> \"2.25\""),
                       HasSubstr("R2,R4 MPN: none -> \"a \"b\"\""),
                       HasSubstr("SCR1 VALUE: \"M3\" -> \"M4\" (a BOM-only part of J1-2)")));
-    EXPECT_THAT(applied("References,Unit Cost,MPN\nR1,,\nR2,2.25,\"a \"\"b\"\"\"\n"),
+    EXPECT_THAT(applied("References,Unit Cost,MPN\nR1,,\nR2,2.25,\"a \"\"b\"\"\"\n", " --template Default"),
                 AllOf(HasSubstr("R1 COST: \"2.25\" -> removed"), HasSubstr("R1 MPN: \"a \"b\"\" -> removed"),
                       HasSubstr("changed 2 properties of 1 part")));
 }
@@ -213,7 +213,7 @@ TEST_F(Apply, ApplyRefusesWhatItDoesNotUnderstandWithItsLine)
     };
     for (const auto &[table, message] : cases) {
         write(edits, table);
-        expectRefused("apply amp.kicad_sch edits.csv", message);
+        expectRefused("apply amp.kicad_sch edits.csv --template Default", message);
     }
     expectRefused("apply amp.kicad_sch edits.csv --new-property MPM",
                   "edits.csv:1: there is no column \"MPM\"");

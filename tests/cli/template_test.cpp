@@ -58,7 +58,7 @@ TEST_F(TemplateCommandTest, ListingAndReportingLeaveNoTrace)
     EXPECT_THAT(list, StartsWith("Default\nAssembly\tcomes with the program\n"));
     EXPECT_THAT(list, HasSubstr("\nPurchasing\tcomes with the program\n"));
     EXPECT_THAT(done("template show Default"), HasSubstr("File: none yet\n"));
-    (void)done("report a.csv --csv - --template Purchasing");
+    (void)done("report a.csv -q --csv - --template Purchasing");
     EXPECT_FALSE(QDir(path(QStringLiteral("data"))).exists());
 }
 
@@ -147,10 +147,10 @@ TEST_F(TemplateCommandTest, AFolderThatCannotBeWrittenKeepsWhatIsThere)
 
 TEST_F(TemplateCommandTest, TheReportFollowsTheTemplate)
 {
-    EXPECT_THAT(done("report a.csv --csv - --template purchasing"),
+    EXPECT_THAT(done("report a.csv -q --csv - --template purchasing"),
                 StartsWith("Category,Quantity,References,Value,Manufacturer,Part Number,Supplier,"
                            "Supplier Part Number,Unit Cost\nResistors,2,R1-R2,1k,Ada,M1,,,0.50\n"));
-    EXPECT_THAT(done("report a.csv --csv - --template JLCPCB"), EndsWith("Parts,2,\"R1,R2\",1k,,\n"));
+    EXPECT_THAT(done("report a.csv -q --csv - --template JLCPCB"), EndsWith("Parts,2,\"R1,R2\",1k,,\n"));
 
     write(QStringLiteral("bare.bomt"), "<BOMTemplate version=\"5\"><x/></BOMTemplate>");
     const ProgramRun repaired = run("report a.csv --template ./bare.bomt");
@@ -171,10 +171,10 @@ TEST_F(TemplateCommandTest, TheUsersDefaultAndCopiesOfShippedOnesCountUntilTheyA
     write(folder + QStringLiteral("Purchasing.bomt"), own);
     const std::string plain = "Category,Quantity,References,Val\n";
     EXPECT_THAT(run("report a.csv --csv -").out, StartsWith(plain));
-    EXPECT_THAT(run("report a.csv --csv - --template Purchasing").out, StartsWith(plain));
+    EXPECT_THAT(run("report a.csv -q --csv - --template Purchasing").out, StartsWith(plain));
     EXPECT_THAT(done("template list"), Not(HasSubstr("Purchasing\tcomes")));
     EXPECT_EQ(done("template reset") + done("template delete Purchasing"), "");
-    EXPECT_THAT(done("report a.csv --csv -"), StartsWith("Category,Quantity,References,Value,Stock Code"));
+    EXPECT_THAT(done("report a.csv -q --csv -"), StartsWith("Category,Quantity,References,Value,Stock Code"));
     EXPECT_THAT(done("template list"), HasSubstr("Purchasing\tcomes"));
 }
 

@@ -34,8 +34,8 @@ protected:
 TEST_F(Terminal, ColumnsFitAndNothingIsCut)
 {
     for (const int width : {40, 60, 120}) {
-        const std::string out =
-            shown("COLUMNS=" + QByteArray::number(width) + " NO_COLOR=1 $BOM report a.csv");
+        const std::string out = shown("COLUMNS=" + QByteArray::number(width) +
+                                      " NO_COLOR=1 $BOM report a.csv -q --template Default");
         for (const QByteArray &line : QByteArray::fromStdString(out).split('\n')) {
             EXPECT_LE(line.size(), width) << line.data();
             EXPECT_FALSE(line.contains('\033')) << line.data();
@@ -48,17 +48,19 @@ TEST_F(Terminal, ColumnsFitAndNothingIsCut)
 TEST_F(Terminal, ADesignCannotSteerIt)
 {
     write(QStringLiteral("a.csv"), "Reference,Value\nR1,1\x1b[2Jk\nR2,\xc2\x9b\x31mk\n");
-    const std::string out = shown("NO_COLOR=1 COLUMNS=1 $BOM report a.csv");
+    const std::string out = shown("NO_COLOR=1 COLUMNS=1 $BOM report a.csv -q --template Default");
     EXPECT_THAT(out, AllOf(HasSubstr("[2J"), Not(HasSubstr("\x1b")), Not(HasSubstr("\xc2\x9b"))));
 }
 
 TEST_F(Terminal, ColoursAreForTerminalsThatWantThem)
 {
-    EXPECT_THAT(shown("$BOM report a.csv"), StartsWith("\033[1mBill Of Materials\033[0m\n"));
-    EXPECT_THAT(shown("TERM=dumb $BOM report a.csv"), StartsWith("Bill Of Materials\n"));
-    const std::string plain = run("report a.csv").out;
-    EXPECT_EQ(shown("$BOM report a.csv | cat"), plain);
-    (void)shown("$BOM report a.csv --ascii b.txt");
+    EXPECT_THAT(shown("$BOM report a.csv -q --template Default"),
+                StartsWith("\033[1mBill Of Materials\033[0m\n"));
+    EXPECT_THAT(shown("TERM=dumb $BOM report a.csv -q --template Default"),
+                StartsWith("Bill Of Materials\n"));
+    const std::string plain = run("report a.csv -q --template Default").out;
+    EXPECT_EQ(shown("$BOM report a.csv -q --template Default | cat"), plain);
+    (void)shown("$BOM report a.csv -q --template Default --ascii b.txt");
     EXPECT_EQ(read(QStringLiteral("b.txt")), plain);
 }
 

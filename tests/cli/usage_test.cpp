@@ -222,7 +222,7 @@ TEST_F(Usage, AnOutputThatCannotBeWrittenIsNamedAndStatusFour)
     ASSERT_TRUE(QFile::link(QStringLiteral("loop"), path(QStringLiteral("loop"))));
     for (const char *output : {"/nonexistent/x.csv", "/dev/full", "folder", "loop"}) {
         for (const char *option : {"--csv", "--full-csv", "--ascii", "--html", "--pdf", "--xlsx", "--json"}) {
-            const std::string arguments = std::string("report a.csv ") + option + ' ' + output;
+            const std::string arguments = std::string("report a.csv -q ") + option + ' ' + output;
             const ProgramRun result = run(arguments.c_str());
             EXPECT_EQ(result.status, 4) << arguments;
             EXPECT_TRUE(isOneMessage(result.err)) << result.err;
@@ -235,7 +235,7 @@ TEST_F(Usage, AFullStandardOutputIsNoticed)
 {
     write(QStringLiteral("a.csv"), "Reference,Value\nR1,10k\n");
     for (const char *command :
-         {"report a.csv", "parts a.csv", "parts a.csv --json", "check a.csv", "--help"}) {
+         {"report a.csv -q", "parts a.csv", "parts a.csv --json", "check a.csv", "--help"}) {
         const ProgramRun result = run(command, QStringLiteral("/dev/full"));
         EXPECT_EQ(result.status, 4) << command;
         EXPECT_THAT(result.err, StartsWith("bom: standard output: ")) << command;

@@ -109,8 +109,9 @@ TEST_P(Examples, ReportsAreTheStoredOnes)
     QTemporaryDir folder;
     const QString csv = folder.filePath(QStringLiteral("report.csv"));
     const QString full = folder.filePath(QStringLiteral("report-full.csv"));
-    const Outcome run = runBom({QStringLiteral("report"), design(), QStringLiteral("--csv"), csv,
-                                QStringLiteral("--full-csv"), full});
+    const Outcome run =
+        runBom({QStringLiteral("report"), design(), QStringLiteral("--template"), QStringLiteral("Default"),
+                QStringLiteral("--csv"), csv, QStringLiteral("--full-csv"), full});
     ASSERT_EQ(run.status, 0) << run.err.constData();
     EXPECT_EQ(readFile(csv), readFile(expected("report.csv")));
     EXPECT_EQ(readFile(full), readFile(expected("report-full.csv")));

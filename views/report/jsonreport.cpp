@@ -7,9 +7,26 @@
 #include "views/report/jsonwriter.h"
 #include "views/report/report.h"
 
+#include <QHash>
+
+#include <algorithm>
+#include <utility>
+
 namespace {
 
-void writeLine(JsonWriter &json, const Report &report, BomLine line)
+/// The joined lines by category and first reference.
+using JoinedLines = QMultiHash<std::pair<QString, QString>, JoinedLine>;
+
+void writeDifference(JsonWriter &json, const JoinedLine &joined)
+{
+    json.entry(u"property", joined.property);
+    json.objects(u"texts", joined.texts, [&json](const JoinedLine::Text &text) {
+        json.entry(u"text", text.text);
+        writeTexts(json, u"references", text.references);
+    });
+}
+
+void writeLine(JsonWriter &json, const Report &report, BomLine line, const QList<JoinedLine> &differences)
 {
     json.key(u"quantity");
     json.number(qint64(line.size()));
@@ -26,15 +43,23 @@ void writeLine(JsonWriter &json, const Report &report, BomLine line)
         json.text(report.text(*line.front(), column));
     }
     json.endArray();
+    if (!differences.isEmpty()) {
+        json.objects(u"differences", differences,
+                     [&json](const JoinedLine &joined) { writeDifference(json, joined); });
+    }
 }
 
-void writeCategory(JsonWriter &json, const Report &report, const QString &category)
+void writeCategory(JsonWriter &json, const Report &report, const QString &category, const JoinedLines &joined)
 {
     json.entry(u"name", category);
     json.key(u"parts");
     json.number(report.partCount(category));
     const ReportLines listed = report.lines(category, true);
-    json.objects(u"lines", listed.lines, [&](BomLine line) { writeLine(json, report, line); });
+    json.objects(u"lines", listed.lines, [&](BomLine line) {
+        QList<JoinedLine> differences = joined.values({category, line.front()->reference()});
+        std::reverse(differences.begin(), differences.end());
+        writeLine(json, report, line, differences);
+    });
     json.newLine();
     writeTexts(json, u"subTotals", report.texts(report.subTotals(category)));
 }
@@ -51,8 +76,12 @@ void writeTexts(JsonWriter &json, QStringView name, const QStringList &texts)
     json.endArray();
 }
 
-QByteArray jsonReport(const Report &report)
+QByteArray jsonReport(const Report &report, const QList<JoinedLine> &joined)
 {
+    JoinedLines byLine;
+    for (const JoinedLine &line : joined) {
+        byLine.insert({line.category, line.reference()}, line);
+    }
     JsonWriter json;
     json.beginObject();
     writeDesign(json, report.design());
@@ -62,7 +91,7 @@ QByteArray jsonReport(const Report &report)
     writeTexts(json, u"columns", report.columnNames());
     json.newLine();
     json.objects(u"categories", report.categories(),
-                 [&](const QString &category) { writeCategory(json, report, category); });
+                 [&](const QString &category) { writeCategory(json, report, category, byLine); });
     json.newLine();
     writeTexts(json, u"totals", report.texts(report.grandTotals()));
     json.newLine();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/joinedlines.h"
+
 #include <QByteArray>
 #include <QStringList>
 
@@ -9,8 +11,9 @@ class JsonWriter;
 class Report;
 struct ReportDesign;
 
-/// The report as a JSON document in UTF-8, for programs.
-[[nodiscard]] QByteArray jsonReport(const Report &report);
+/// The report as a JSON document in UTF-8, for programs. A line that is among the joined ones tells in what
+/// its parts differ.
+[[nodiscard]] QByteArray jsonReport(const Report &report, const QList<JoinedLine> &joined = {});
 
 /// Writes an entry that is a list of texts.
 void writeTexts(JsonWriter &json, QStringView name, const QStringList &texts);

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "designs/kicad/bomsettingsreader.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+
+namespace designs::kicad {
+
+namespace {
+
+constexpr qsizetype mostFields = 1000;
+constexpr qsizetype mostPresets = 1000;
+constexpr qsizetype longestText = 1000;
+
+/// Reads settings that may be of another program, or edited by hand: what is not as it should be is named.
+class Reader
+{
+public:
+    explicit Reader(const QString &path)
+        : m_path(path)
+    {
+    }
+
+    [[nodiscard]] BomSettings settings(const QJsonValue &value, const QString &where)
+    {
+        BomSettings settings;
+        if (!value.isObject()) {
+            problem(where + QStringLiteral(" is no object"));
+            return settings;
+        }
+        const QJsonObject object = value.toObject();
+        settings.name = object.value(QLatin1String("name")).toString().left(longestText);
+        settings.filter = object.value(QLatin1String("filter_string")).toString().left(longestText);
+        const QJsonValue fields = object.value(QLatin1String("fields_ordered"));
+        if (!fields.isArray()) {
+            problem(where + QStringLiteral(" has no list \"fields_ordered\""));
+            return settings;
+        }
+        readFields(fields.toArray(), where, &settings);
+        return settings;
+    }
+
+    void problem(const QString &text)
+    {
+        problems << m_path + QStringLiteral(": the BOM settings are not followed: ") + text;
+    }
+
+    QStringList problems;
+
+private:
+    void readFields(const QJsonArray &fields, const QString &where, BomSettings *settings)
+    {
+        if (fields.size() > mostFields) {
+            problem(where + QStringLiteral(" has more than %1 fields").arg(mostFields));
+            return;
+        }
+        for (const auto entry : fields) {
+            const QJsonObject field = entry.toObject();
+            const QString name = field.value(QLatin1String("name")).toString();
+            if (name.trimmed().isEmpty() || name.size() > longestText) {
+                problem(where + QStringLiteral(" has a field without a name"));
+                settings->fields.clear();
+                return;
+            }
+            settings->fields.append({name, field.value(QLatin1String("label")).toString().left(longestText),
+                                     field.value(QLatin1String("show")).toBool()});
+        }
+    }
+
+    QString m_path;
+};
+
+} // namespace
+
+ProjectBom readProjectBom(const QJsonObject &schematic, const QString &path)
+{
+    Reader reader(path);
+    ProjectBom bom;
+    if (const QJsonValue current = schematic.value(QLatin1String("bom_settings")); !current.isUndefined()) {
+        bom.current = reader.settings(current, QStringLiteral("\"bom_settings\""));
+    }
+    const QJsonValue presets = schematic.value(QLatin1String("bom_presets"));
+    if (!presets.isUndefined() && !presets.isArray()) {
+        reader.problem(QStringLiteral("\"bom_presets\" is no list"));
+    }
+    const QJsonArray list = presets.toArray();
+    for (qsizetype i = 0; i < std::min<qsizetype>(list.size(), mostPresets); ++i) {
+        const BomSettings preset = reader.settings(list.at(i), QStringLiteral("preset %1").arg(i + 1));
+        if (!preset.name.isEmpty() && !preset.fields.isEmpty()) {
+            bom.presets.append(preset);
+        }
+    }
+    bom.problems = reader.problems;
+    return bom;
+}
+
+} // namespace designs::kicad

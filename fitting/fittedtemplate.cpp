@@ -1,0 +1,231 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "fitting/fittedtemplate.h"
+
+#include "fitting/listedparts.h"
+#include "fitting/madecolumns.h"
+#include "fitting/prefixcategories.h"
+#include "standalone/loadeddesign.h"
+#include "templates/templatelist.h"
+#include "templates/templatepaths.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace {
+
+using designs::BomSettings;
+
+bool isOneOf(const QString &text, std::initializer_list<QLatin1String> texts)
+{
+    return std::any_of(texts.begin(), texts.end(), [&text](QLatin1String known) {
+        return text.compare(known, Qt::CaseInsensitive) == 0;
+    });
+}
+
+/// Columns that every bill has, or that say what its lines are chosen by.
+bool isFixedColumn(const QString &name)
+{
+    return name.startsWith(QLatin1String("${")) ||
+           isOneOf(name,
+                   {QLatin1String("Reference"), QLatin1String("References"), QLatin1String("Designator"),
+                    QLatin1String("Quantity"), QLatin1String("Qty"), QLatin1String("DNP")});
+}
+
+/// Whether KiCad shows the column of its own accord.
+bool isInitialColumn(const QString &name)
+{
+    return isFixedColumn(name) || isOneOf(name, {QLatin1String("Value"), QLatin1String("Footprint"),
+                                                 QLatin1String("Datasheet"), QLatin1String("Description")});
+}
+
+/// KiCad stores such settings for every project in which the table of symbol fields was open once.
+bool areKicadsOwn(const BomSettings &settings)
+{
+    const bool hasInitialName =
+        settings.name.isEmpty() ||
+        isOneOf(settings.name,
+                {QLatin1String("Default Editing"), QLatin1String("Grouped By Value"),
+                 QLatin1String("Grouped By Value and Footprint"), QLatin1String("Attributes")});
+    return hasInitialName &&
+           std::all_of(settings.fields.begin(), settings.fields.end(), [](const BomSettings::Field &field) {
+               return !field.isShown || isInitialColumn(field.name);
+           });
+}
+
+QString propertyOf(const QString &field)
+{
+    if (field.compare(QLatin1String("Value"), Qt::CaseInsensitive) == 0) {
+        return QStringLiteral("VALUE");
+    }
+    return field.compare(QLatin1String("Footprint"), Qt::CaseInsensitive) == 0 ? QStringLiteral("PACKAGE")
+                                                                               : field;
+}
+
+/// A heading that no column has yet.
+QString freeTitle(const BOMFields &columns, const QString &wanted)
+{
+    QString title = wanted;
+    for (int number = 2; columns.contains(title); ++number) {
+        title = wanted + u' ' + QString::number(number);
+    }
+    return title;
+}
+
+void addColumn(const ListedParts &parts, const QString &name, const QString &label, BOMFields *columns)
+{
+    if (!isFixedColumn(name)) {
+        columns->add(columnOf(parts, propertyOf(name), freeTitle(*columns, label.isEmpty() ? name : label)));
+    }
+}
+
+BOMFields projectColumns(const ListedParts &parts, const BomSettings &settings)
+{
+    BOMFields columns;
+    for (const BomSettings::Field &field : settings.fields) {
+        if (field.isShown) {
+            addColumn(parts, field.name, field.label, &columns);
+        }
+    }
+    return columns;
+}
+
+/// The look of the template for buyers, with other columns.
+BOMTemplate settingsWith(const ListedParts &parts, const BOMFields &columns)
+{
+    const QString name = QStringLiteral("Purchasing");
+    BOMTemplate settings(name, shippedTemplateFolder() + u'/' + name + QStringLiteral(".bomt"));
+    settings.setName(fittedTemplateName());
+    settings.setFilePath({});
+    settings.setFields(columns);
+    settings.setCategories(prefixCategories(parts.prefixes()));
+    settings.setSuppressEmptyCategories(true);
+    return settings;
+}
+
+QString namesOf(const BOMFields &columns)
+{
+    return columns.names().join(QStringLiteral(", "));
+}
+
+FittedTemplate projectTemplate(const ListedParts &parts, const BomSettings &settings, const QString &what)
+{
+    BOMFields columns = projectColumns(parts, settings);
+    const QStringList own = columns.names();
+    addTellingColumns(parts, &columns);
+    const QStringList added = columns.names().sliced(own.size());
+    FittedTemplate fitted{settingsWith(parts, columns), {}, {}};
+    fitted.reason =
+        QStringLiteral("columns of ") + what + QStringLiteral(": ") + own.join(QStringLiteral(", "));
+    if (!added.isEmpty()) {
+        fitted.reason += QStringLiteral("; and ") + added.join(QStringLiteral(", ")) +
+                         QStringLiteral(", without which lines would join different parts");
+    }
+    if (!settings.filter.isEmpty()) {
+        fitted.notices << QStringLiteral("the filter \"") + settings.filter +
+                              QStringLiteral("\" of the project's BOM settings is not followed");
+    }
+    return fitted;
+}
+
+/// The presets, and what the editor showed last, which has the name of the preset that it was made from.
+QList<BomSettings> namedSettings(const LoadedDesign &design)
+{
+    QList<BomSettings> settings = design.design().projectBom().presets;
+    settings.append(design.design().projectBom().current);
+    return settings;
+}
+
+std::optional<FittedTemplate> templateFromFile(const QString &path, QString *problem)
+{
+    auto settings = BOMTemplate::fromFile(path, problem);
+    if (!settings) {
+        return std::nullopt;
+    }
+    return FittedTemplate{
+        *settings, QStringLiteral("template ") + path + QStringLiteral(" beside the design"), {}};
+}
+
+} // namespace
+
+QString fittedTemplateName()
+{
+    return QStringLiteral("Fitted");
+}
+
+QString templateBeside(const LoadedDesign &design)
+{
+    const QFileInfo file(design.design().info().file);
+    return file.path() + u'/' + file.completeBaseName() + QStringLiteral(".bomt");
+}
+
+std::optional<FittedTemplate> fittedTemplate(const LoadedDesign &design, QString *problem)
+{
+    if (const QString path = templateBeside(design); QFileInfo::exists(path)) {
+        return templateFromFile(path, problem);
+    }
+    const designs::ProjectBom &bom = design.design().projectBom();
+    const ListedParts parts(design);
+    if (!areKicadsOwn(bom.current) && !projectColumns(parts, bom.current).isEmpty()) {
+        FittedTemplate fitted =
+            projectTemplate(parts, bom.current, QStringLiteral("the project's BOM settings"));
+        fitted.notices += bom.problems;
+        return fitted;
+    }
+    if (design.properties().fields().names() == nullptr) {
+        BOMTemplate settings;
+        settings.setName(TemplateList::defaultName());
+        return FittedTemplate{settings, QStringLiteral("template Default, as names are taken as they are"),
+                              bom.problems};
+    }
+    const BOMFields columns = madeColumns(parts);
+    return FittedTemplate{settingsWith(parts, columns),
+                          QStringLiteral("columns made for this design: ") + namesOf(columns), bom.problems};
+}
+
+std::optional<FittedTemplate> presetTemplate(const LoadedDesign &design, const QString &preset)
+{
+    for (const BomSettings &settings : namedSettings(design)) {
+        if (!settings.fields.isEmpty() && settings.name.compare(preset, Qt::CaseInsensitive) == 0) {
+            FittedTemplate fitted =
+                projectTemplate(ListedParts(design), settings,
+                                QStringLiteral("the project's preset \"") + settings.name + u'"');
+            return fitted;
+        }
+    }
+    return std::nullopt;
+}
+
+QStringList presetNames(const LoadedDesign &design)
+{
+    QStringList names;
+    for (const BomSettings &settings : namedSettings(design)) {
+        names << settings.name;
+    }
+    names.removeAll(QString());
+    names.removeDuplicates();
+    return names;
+}
+
+BOMFields withDecimalsOfParts(BOMFields fields, const LoadedDesign &design)
+{
+    for (BOMField field : fields.fields()) {
+        if (field.generateTotals && field.precision > 0) {
+            field.precision = std::max(field.precision, decimalsOf(design, field.propertyName));
+            fields.set(field);
+        }
+    }
+    return fields;
+}
+
+FittedTemplate columnTemplate(const LoadedDesign &design, const QStringList &properties,
+                              const QStringList &labels)
+{
+    const ListedParts parts(design);
+    BOMFields columns;
+    for (qsizetype i = 0; i < properties.size(); ++i) {
+        addColumn(parts, properties.at(i).trimmed(), labels.value(i).trimmed(), &columns);
+    }
+    return {settingsWith(parts, columns), QStringLiteral("columns ") + namesOf(columns), {}};
+}
