@@ -10,6 +10,7 @@
 #include "host/framework/applnmodule.h"
 #include "host/framework/hostui.h"
 #include "richtext/paper/pagepainter.h"
+#include "standalone/buyerfields.h"
 #include "standalone/loadeddesign.h"
 
 #include <QApplication>
@@ -20,6 +21,8 @@
 Workbench::Workbench()
 {
     m_session.process().setFrame(&m_window);
+    m_session.process().setFurtherTemplates(m_fitted.path());
+    FittedFolder::proposeToUser();
     m_session.projectNotes().setPagePainter([](QPainter &painter, const QString &text) {
         (void)paintTextPages(painter, tr("Project Notes"), text);
     });
@@ -133,6 +136,9 @@ void Workbench::showDesign()
     m_window.setDesignName(m_variant.isEmpty() ? name : name + QStringLiteral(" [") + m_variant + u']');
     m_window.menus().setVariants(m_session.variants(), m_variant);
     watchDesign();
+    if (const QString problem = m_fitted.write(*m_session.design()); !problem.isEmpty()) {
+        m_window.setstatustext(problem);
+    }
     m_library.module()->onvalidate();
     if (!m_library.module()->getprimarywindow()) {
         m_library.module()->createwindow(&m_window, 0);
@@ -261,13 +267,23 @@ std::optional<qsizetype> Workbench::listedParts() const
     return client ? static_cast<INETCLIENT *>(client)->partcount() : std::nullopt;
 }
 
+QStringList Workbench::joinedLines() const
+{
+    IMODULE *client = m_library.module()->queryinterface(INTERFACE_NETCLIENT);
+    const TellingProperties telling = tellingProperties(*m_session.design());
+    return client ? static_cast<INETCLIENT *>(client)->differinglines(telling.always, telling.whereFilled)
+                  : QStringList();
+}
+
 void Workbench::updateStatus()
 {
     if (!m_session.design()) {
         return;
     }
     m_statusStamp = m_session.design()->properties().stamp();
-    m_window.status().setDesign(designStatus(m_session, listedParts()));
+    DesignStatus status = designStatus(m_session, listedParts());
+    status.warnings += joinedLines();
+    m_window.status().setDesign(status);
 }
 
 void Workbench::showAbout()

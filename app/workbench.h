@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/filewatcher.h"
+#include "app/fittedfolder.h"
 #include "app/framewindow.h"
 #include "app/modulelibrary.h"
 #include "standalone/companionfiles.h"
@@ -55,6 +56,8 @@ private:
     void watchDesign();
     void updateRecentFiles();
     void updateStatus();
+    /// The lines of the module's report that join different parts, in words.
+    [[nodiscard]] QStringList joinedLines() const;
     /// How many parts the module lists, where it counts them.
     [[nodiscard]] std::optional<qsizetype> listedParts() const;
     void checkFiles();
@@ -64,6 +67,7 @@ private:
 
     // In this order: the module's instance is gone before the session, the process, is.
     DesignSession m_session;
+    FittedFolder m_fitted;
     ModuleLibrary m_library;
     FrameWindow m_window;
     FileWatcher m_watcher;

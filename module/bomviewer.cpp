@@ -3,6 +3,7 @@
 #include "module/bomviewer.h"
 
 #include "core/bompartsdatabase.h"
+#include "core/joinedlines.h"
 #include "host/framework/applndocument.h"
 #include "host/framework/applnprocess.h"
 #include "host/framework/imodule.h"
@@ -120,6 +121,9 @@ void BOMVIEWER::onvalidate()
 {
     const Context context(*this);
     m_cache.validate(1);
+    if (m_templates) {
+        m_templates->refresh();
+    }
 }
 
 bool BOMVIEWER::isvisible()
@@ -130,6 +134,15 @@ bool BOMVIEWER::isvisible()
 std::optional<qsizetype> BOMVIEWER::partcount() const
 {
     return qsizetype(m_database->parts().size());
+}
+
+QStringList BOMVIEWER::differinglines(const QStringList &always, const QStringList &whereFilled) const
+{
+    QStringList texts;
+    for (const JoinedLine &line : joinedLines(*m_database, always, whereFilled)) {
+        texts << joinedLineText(line);
+    }
+    return texts;
 }
 
 void BOMVIEWER::designChanged(bool reload)

@@ -38,6 +38,8 @@ public:
     [[nodiscard]] bool isvisible() override;
     /// What the report gives as the total of parts.
     [[nodiscard]] std::optional<qsizetype> partcount() const override;
+    [[nodiscard]] QStringList differinglines(const QStringList &always,
+                                             const QStringList &whereFilled) const override;
     /// Nothing while the database writes. Without `reload` the database stays empty and silent until the next
     /// call with it.
     void designChanged(bool reload) override;

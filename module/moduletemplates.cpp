@@ -9,8 +9,10 @@
 #include "templates/templatepaths.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QWidget>
 
+#include <optional>
 #include <utility>
 
 ModuleTemplates::ModuleTemplates(const APPLNPROCESS *process, BOMPartsDatabase &database)
@@ -43,6 +45,19 @@ void ModuleTemplates::setDialogParent(QWidget *window)
 {
     m_window = window;
     m_store.setDialogParent(window);
+}
+
+void ModuleTemplates::refresh()
+{
+    const QString name = m_store.currentName();
+    const BOMTemplate known = m_store.templates().stored(name);
+    QString problem;
+    const auto now = m_isLoaded && !m_store.isModified() && QFileInfo::exists(known.filePath())
+                         ? BOMTemplate::fromFile(known.filePath(), &problem)
+                         : std::nullopt;
+    if (now && now->toVariantMap() != known.toVariantMap()) {
+        m_store.reload();
+    }
 }
 
 BOMTemplate ModuleTemplates::workingTemplate() const

@@ -22,6 +22,9 @@ public:
     /// current last; later ones find what is being worked on.
     void show(QWidget *window);
     void setDialogParent(QWidget *window);
+    /// Takes the current template anew where its file has other settings by now and it has no unsaved
+    /// changes.
+    void refresh();
     [[nodiscard]] TemplateStore &store() { return m_store; }
 
 private:

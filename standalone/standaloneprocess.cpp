@@ -49,6 +49,11 @@ QString StandaloneProcess::getdatapath(const char *application) const
     return name == QStringLiteral("Templates") ? userTemplatesFolder() : userDataFolder(name);
 }
 
+QString StandaloneProcess::gettemplatepaths() const
+{
+    return m_furtherTemplates.isEmpty() ? QString() : userTemplatesFolder() + u';' + m_furtherTemplates;
+}
+
 IMODULE *StandaloneProcess::getmoduleinterface(const char *application, unsigned id)
 {
     if (!application) {

@@ -26,6 +26,9 @@ public:
     [[nodiscard]] QString getbinpath() const override;
     /// The templates stand in the folder of "BOM".
     [[nodiscard]] QString getdatapath(const char *application) const override;
+    /// The user's folder, and one with further templates where there is one.
+    [[nodiscard]] QString gettemplatepaths() const override;
+    void setFurtherTemplates(const QString &folder) { m_furtherTemplates = folder; }
     /// The application "ORIN" offers the netlist server, no application in particular the project, and every
     /// module that lives in the process its own interfaces.
     [[nodiscard]] IMODULE *getmoduleinterface(const char *application, unsigned id) override;
@@ -57,6 +60,7 @@ private:
     StandaloneNetlist &m_netlist;
     ProjectNotes m_projectNotes;
     Project m_project;
+    QString m_furtherTemplates;
     APPLNFRAME *m_frame = nullptr;
     bool m_isOpen = false;
 };

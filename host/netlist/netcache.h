@@ -20,6 +20,16 @@ public:
     /// How many parts the client lists of the design, its own included; nothing when it does not count.
     [[nodiscard]] virtual std::optional<qsizetype> partcount() const { return std::nullopt; }
 
+    /// The lines of its report, in words, whose parts differ in one of these properties. Of the first list a
+    /// part without the property differs from one that has it, of the second it goes with any.
+    [[nodiscard]] virtual QStringList differinglines(const QStringList &always,
+                                                     const QStringList &whereFilled) const
+    {
+        Q_UNUSED(always)
+        Q_UNUSED(whereFilled)
+        return {};
+    }
+
     /// The design changed; `reload` tells whether the cache holds the new one already.
     virtual void designChanged(bool reload) = 0;
 
