@@ -104,6 +104,24 @@ TEST_F(WorkbenchTest, SaysWhatIsDoubtfulAboutADesign)
               "R?: a text variable ${...} is not resolved");
 }
 
+TEST_F(WorkbenchTest, BeginsWithColumnsThatFitTheDesignUntilTheUserChooses)
+{
+    ASSERT_TRUE(bench->open(write("parts.csv", "Reference,Value,manf#\nR1,10k,RC-10K\nR2,10k,RC-22K\n")));
+    EXPECT_TRUE(isReported("RC-22K"));
+    EXPECT_EQ(bench->window().status().warnings().size(), 0);
+    ASSERT_TRUE(bench->open(write("other.csv", "Reference,Value,LCSC\nR1,10k,C100\n")));
+    EXPECT_TRUE(isReported("C100") && !isReported("MPN"));
+
+    bench.reset();
+    settings.setValue(QStringLiteral("BOM"), QStringLiteral("CurrentTemplate"), QStringLiteral("Default"));
+    bench = std::make_unique<Workbench>();
+    ASSERT_TRUE(bench->start(QStringLiteral(BOM_BINARY_DIR "/lib/libbom.so")) &&
+                bench->open(path("parts.csv")));
+    EXPECT_TRUE(isReported("Stock Code") && !isReported("RC-22K"));
+    EXPECT_TRUE(bench->window().status().warnings().join(u'\n').contains(
+        QStringLiteral("R1-R2 are one line and differ in MPN")));
+}
+
 TEST_F(WorkbenchTest, OtherModulesFindTheModule)
 {
     APPLNPROCESS *process = getapplnprocess();
