@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <unordered_map>
+#include <utility>
 
 namespace {
 
@@ -28,23 +29,20 @@ LineKeys::LineKeys(const ListedParts &parts)
     }
 }
 
-void LineKeys::addValues()
+void LineKeys::mixPending()
 {
-    for (std::size_t i = 0; i < m_keys.size(); ++i) {
-        mix(&m_keys[i], m_parts.components()[i]->value);
+    for (const QString &property : std::as_const(m_pending)) {
+        const PROPNAME name(toHostText(property));
+        for (std::size_t i = 0; i < m_keys.size(); ++i) {
+            mix(&m_keys[i], text(i, name));
+        }
     }
+    m_pending.clear();
 }
 
-void LineKeys::addColumn(const QString &property)
+bool LineKeys::joinDifferent(const QString &property, Empty empty)
 {
-    const PROPNAME name(toHostText(property));
-    for (std::size_t i = 0; i < m_keys.size(); ++i) {
-        mix(&m_keys[i], text(i, name));
-    }
-}
-
-bool LineKeys::joinDifferent(const QString &property, Empty empty) const
-{
+    mixPending();
     const PROPNAME name(toHostText(property));
     std::unordered_map<std::size_t, std::string_view> texts;
     for (std::size_t i = 0; i < m_keys.size(); ++i) {

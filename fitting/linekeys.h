@@ -5,7 +5,9 @@
 #include "fitting/listedparts.h"
 #include "host/netlist/proplist.h"
 
-#include <QString>
+#include <QStringList>
+
+#include <vector>
 
 /// Which parts a bill puts into one line, by the texts of its columns.
 class LineKeys final
@@ -14,8 +16,7 @@ public:
     /// Without columns: the parts with references of one prefix.
     explicit LineKeys(const ListedParts &parts);
 
-    void addValues();
-    void addColumn(const QString &property);
+    void addColumn(const QString &property) { m_pending << property; }
 
     enum class Empty
     {
@@ -25,12 +26,15 @@ public:
         IsAny
     };
     /// Whether a line holds parts with different texts of a property.
-    [[nodiscard]] bool joinDifferent(const QString &property, Empty empty) const;
+    [[nodiscard]] bool joinDifferent(const QString &property, Empty empty);
 
 private:
+    void mixPending();
     [[nodiscard]] std::string_view text(std::size_t part, const PROPNAME &name) const;
 
     const ListedParts &m_parts;
     /// By the part. Two lines with one key are told apart wrongly once in 2^64: a column too many.
     std::vector<std::size_t> m_keys;
+    /// Columns that no key has yet: mostly nobody asks after the last ones.
+    QStringList m_pending;
 };

@@ -48,7 +48,7 @@ public:
         : m_parts(parts)
         , m_keys(parts)
     {
-        m_keys.addValues();
+        m_keys.addColumn(QStringLiteral("VALUE"));
     }
 
     void add(const QString &property, const QString &title)
@@ -62,7 +62,9 @@ public:
         }
         if (m_columns.add(columnOf(m_parts, property, m_columns.contains(title) ? property : title))) {
             m_properties << property;
-            m_keys.addColumn(property);
+            if (property != QLatin1String("VALUE")) {
+                m_keys.addColumn(property);
+            }
         }
     }
 
@@ -95,7 +97,7 @@ public:
         }
     }
 
-    [[nodiscard]] bool joins(const QString &property) const
+    [[nodiscard]] bool joins(const QString &property)
     {
         return m_keys.joinDifferent(property, LineKeys::Empty::IsText);
     }
@@ -114,7 +116,7 @@ private:
         });
     }
 
-    [[nodiscard]] bool isWanted(const BuyerField &field, const QString &property) const
+    [[nodiscard]] bool isWanted(const BuyerField &field, const QString &property)
     {
         switch (field.kind) {
         case Kind::Rating:
