@@ -46,7 +46,7 @@ REACH = {
     "editors": {"core", "templates"} | HOST,
     "module": {"editors", "views", "views/report", "core", "templates"} | RICHTEXT | HOST,
     "cli": {"account", "account/design", "fitting", "views", "views/report", "core", "templates", "standalone"} | RICHTEXT | HOST,
-    "app": {"account/design", "fitting", "standalone"} | RICHTEXT | HOST,
+    "app": {"account/design", "fitting", "standalone", "templates"} | RICHTEXT | HOST,
 }
 # What a layer reaches through one that stands between: standalone is built on designs, and who uses standalone sees
 # its headers.
