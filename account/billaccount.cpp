@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "account/billaccount.h"
 
-#include "account/design/designaccount.h"
 #include "core/bompart.h"
 #include "core/bompartsdatabase.h"
 #include "core/propertyquery.h"
@@ -10,7 +9,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -54,29 +52,6 @@ BillAccount billAccountOf(const BOMPartsDatabase &database)
     account.replacedParts.removeIf(
         [&known](const ReplacedLine &part) { return known.contains(part.references.value(0)); });
     return account;
-}
-
-QList<MixedLine> mixedLines(const BOMPartsDatabase &database, const ComponentAccount &components)
-{
-    QList<MixedLine> found;
-    QSet<QString> notFitted(components.listedNotFitted.cbegin(), components.listedNotFitted.cend());
-    for (const QString &reference : database.bomOnlyParts().notFitted()) {
-        notFitted.insert(reference);
-    }
-    for (const QString &category : database.categoryNames()) {
-        for (const QString &value : database.categoryValues(category)) {
-            for (const QStringList &line : database.groupLines(category, value)) {
-                QStringList mixed;
-                std::copy_if(
-                    line.cbegin(), line.cend(), std::back_inserter(mixed),
-                    [&notFitted](const QString &reference) { return notFitted.contains(reference); });
-                if (!mixed.isEmpty() && mixed.size() < line.size()) {
-                    found.append({line, mixed});
-                }
-            }
-        }
-    }
-    return found;
 }
 
 QStringList repeatedBomParts(const BOMPartsDatabase &database)

@@ -8,16 +8,6 @@
 #include <QStringList>
 
 class BOMPartsDatabase;
-struct ComponentAccount;
-
-/// A line that holds fitted and not fitted parts.
-struct MixedLine
-{
-    QStringList references;
-    QStringList notFitted;
-
-    bool operator==(const MixedLine &) const = default;
-};
 
 /// What the lines of the bill hold under the current template, and what they lack.
 struct BillAccount
@@ -40,11 +30,6 @@ struct BillAccount
 };
 
 [[nodiscard]] BillAccount billAccountOf(const BOMPartsDatabase &database);
-
-/// The lines in which some, but not all, of the parts are among the listed ones that are not fitted, with the
-/// BOM-only parts that belong to these.
-[[nodiscard]] QList<MixedLine> mixedLines(const BOMPartsDatabase &database,
-                                          const ComponentAccount &components);
 
 /// The references that a BOM-only part and another part have, once each.
 [[nodiscard]] QStringList repeatedBomParts(const BOMPartsDatabase &database);

@@ -9,6 +9,8 @@
 #include "core/bompartsdatabase.h"
 #include "core/unreadtexts.h"
 
+#include <algorithm>
+
 namespace {
 
 QString partsAre(qsizetype count)
@@ -47,22 +49,19 @@ QString leftOutNotice(const ComponentAccount &components)
            QStringLiteral(" not fitted and left out (--dnp include lists them)");
 }
 
-/// What the not-fitted choice leaves out; where it leaves nothing out, the lines that it mixes.
+/// How many parts the not-fitted choice leaves out, or lists without counting them.
 QStringList notFittedNotices(const ComponentAccount &components, const BOMPartsDatabase &database)
 {
     if (components.leftOutByChoice > 0) {
         return {leftOutNotice(components)};
     }
-    if (components.listedNotFitted.isEmpty()) {
+    const auto parts = database.parts();
+    const qsizetype marked =
+        std::count_if(parts.begin(), parts.end(), [](const Part *part) { return part->isNotFitted(); });
+    if (marked == 0) {
         return {};
     }
-    QStringList notices;
-    for (const MixedLine &line : mixedLines(database, components)) {
-        notices.append(QStringLiteral("the line ") + referenceText(line.references) +
-                       QStringLiteral(" mixes fitted and not fitted parts; not fitted: ") +
-                       referenceText(line.notFitted));
-    }
-    return notices;
+    return {partsAre(marked) + QStringLiteral(" not fitted: marked in lines of their own, and not counted")};
 }
 
 /// How many definitions cannot be followed.

@@ -16,6 +16,6 @@ struct ReportForms
     bool hasParts = false;
 };
 
-/// What a report in these forms leaves out, mixes, cannot read or cannot follow, one sentence each.
+/// What a report in these forms leaves out, does not count, cannot read or cannot follow, one sentence each.
 [[nodiscard]] QStringList reportNotices(const ComponentAccount &components, const BOMPartsDatabase &database,
                                         ReportForms forms);

@@ -65,7 +65,7 @@ void ProgramMenus::buildView()
     m_notFitted = m_view->addMenu(tr("&Parts That Are Not Fitted"));
     m_dnpChoices = new QActionGroup(this);
     addDnpChoice(tr("&Leave Out"), tr("Parts that are not fitted are not in the report"), DnpChoice::Exclude);
-    addDnpChoice(tr("&Include"), tr("Parts that are not fitted are listed like all others"),
+    addDnpChoice(tr("&Include"), tr("Parts that are not fitted are listed, marked and not counted"),
                  DnpChoice::Include);
     addDnpChoice(tr("&Only These"), tr("Only parts that are not fitted are in the report"), DnpChoice::Only);
     setDnpChoice(DnpChoice::Exclude);

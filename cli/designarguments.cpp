@@ -50,7 +50,9 @@ void DesignArguments::addReading(CLI::App &command)
 
 void DesignArguments::addListing(CLI::App &command)
 {
-    command.add_option("--dnp", dnp, "Leave out, list, or list only the parts that are not fitted")
+    command
+        .add_option("--dnp", dnp,
+                    "Leave out, list marked and not counted, or list only the parts that are not fitted")
         ->type_name("exclude|include|only")
         ->check(CLI::IsMember({"exclude", "include", "only"}).description(""))
         ->default_str("exclude");

@@ -14,7 +14,7 @@
 
 ReportCells::ReportCells(OpenDesign &design)
     : m_design(design)
-    , m_report(design.database(), design.database().currentTemplate().fields())
+    , m_report(design.database(), design.database().columns())
 {
 }
 

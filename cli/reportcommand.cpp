@@ -284,7 +284,7 @@ ReportCommand::Content ReportCommand::content(const Output &output, BOMPartsData
         return documentContent(form, database);
     }
     const BOMTemplate &settings = database.currentTemplate();
-    const Report report(database, dataFields(settings.fields(), settings));
+    const Report report(database, dataFields(database.columns(), settings));
     if (form == Form::Ascii) {
         return {columns(output, report)};
     }
@@ -311,7 +311,7 @@ ReportCommand::Content ReportCommand::documentContent(Form form, BOMPartsDatabas
             showTemplateUpgraded(nullptr, settings.name());
         }
     }
-    const Report report(database, database.currentTemplate().fields());
+    const Report report(database, database.columns());
     return {form == Form::Pdf ? pdfReport(report) : htmlReport(report).toUtf8(),
             {},
             templateMarkup(report.settings()).notices};

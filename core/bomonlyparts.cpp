@@ -22,9 +22,10 @@ BOMOnlyParts::BOMOnlyParts(const PartDatabase *database, PartStore *store, BOMCa
 {
 }
 
-void BOMOnlyParts::load(const QList<ParentDefinitions> &parents, const Fitting &fitting)
+void BOMOnlyParts::load(const QList<ParentDefinitions> &parents, const Fitting &fitting, bool marksNotFitted)
 {
     m_fitting = fitting;
+    m_marksNotFitted = marksNotFitted;
     m_referenceNumbers.reset();
     for (const ParentDefinitions &parent : parents) {
         make(parent);
@@ -79,7 +80,7 @@ std::optional<DefinitionFault> BOMOnlyParts::make(const QString &parentReference
     lastNumbers->insert(definition.prefix, int(last) + definition.count);
     m_count += definition.count;
     const QMap<QString, QString> links = readBOMLinks(definition.properties.value(bomLinksProperty()));
-    const bool isFitted = fittingOf(parentReference, definition).isFitted;
+    const bool isMarked = m_marksNotFitted && !fittingOf(parentReference, definition).isFitted;
     DefinedParts &defined = m_defined[parentReference];
     int repeated = 0;
     for (int number = int(last) + 1; number <= last + definition.count; ++number) {
@@ -87,8 +88,8 @@ std::optional<DefinitionFault> BOMOnlyParts::make(const QString &parentReference
         if (BOMPart *made =
                 hold(std::make_unique<BOMPart>(m_database, reference, parentReference, definition))) {
             defined.add(made);
-            if (!isFitted) {
-                m_notFitted.append(reference);
+            if (isMarked) {
+                markNotFitted(made, definition);
             }
             m_links->insert(reference, links);
         } else {
@@ -117,11 +118,25 @@ FITTING BOMOnlyParts::fittingOf(const QString &parentReference, const BOMPartDef
     if (!m_fitting) {
         return {};
     }
-    const QString name = QStringLiteral("DNP");
-    const FITTING own = m_fitting(toHostText(definition.properties.value(name)));
+    const FITTING own = ownFittingOf(definition);
     const Part *parent = m_store->find(parentReference);
     const bool asksParent = own.isFitted && parent && !parent->isBOMPart();
-    return asksParent ? m_fitting(PropertyQuery(name, nullptr).hostText(parent->component())) : own;
+    return asksParent ? m_fitting(PropertyQuery(notFittedProperty(), nullptr).hostText(parent->component()))
+                      : own;
+}
+
+FITTING BOMOnlyParts::ownFittingOf(const BOMPartDefinition &definition) const
+{
+    return m_fitting(toHostText(definition.properties.value(notFittedProperty())));
+}
+
+void BOMOnlyParts::markNotFitted(BOMPart *part, const BOMPartDefinition &definition)
+{
+    if (ownFittingOf(definition).isFitted) {
+        m_store->markNotFittedWithParent(part);
+    } else {
+        m_store->markNotFitted(part);
+    }
 }
 
 BOMPart *BOMOnlyParts::hold(std::unique_ptr<BOMPart> part)
@@ -143,7 +158,6 @@ void BOMOnlyParts::clear()
     m_problems.clear();
     m_duplicates.clear();
     m_leftOut.clear();
-    m_notFitted.clear();
     m_referenceNumbers.reset();
     m_count = 0;
 }

@@ -53,8 +53,9 @@ public:
     using Fitting = std::function<FITTING(QByteArrayView)>;
 
     /// Makes the parts of a design whose placed parts were all added, parent by parent. Definitions with
-    /// BOMSKIP or whose parts `fitting` does not list make none, and stay as they are.
-    void load(const QList<ParentDefinitions> &parents, const Fitting &fitting);
+    /// BOMSKIP or whose parts `fitting` does not list make none, and stay as they are. With `marksNotFitted`
+    /// parts that are not fitted are marked, see Part::isNotFitted().
+    void load(const QList<ParentDefinitions> &parents, const Fitting &fitting, bool marksNotFitted);
     /// Makes the parts of these definitions, in the order of their texts.
     void make(const ParentDefinitions &parent);
     /// Forgets all parts, which the store lets go of.
@@ -77,8 +78,6 @@ public:
     /// Definitions that make no parts, or not as they say, in the order of loading.
     [[nodiscard]] const QList<DefinitionProblem> &problems() const { return m_problems; }
     [[nodiscard]] const QList<LeftOutBOMParts> &leftOut() const { return m_leftOut; }
-    /// The references of parts in the bill that are not fitted, by a property of their own or their parent's.
-    [[nodiscard]] const QStringList &notFitted() const { return m_notFitted; }
     /// The references of BOM-only parts that another part has already.
     [[nodiscard]] const QStringList &duplicates() const { return m_duplicates; }
 
@@ -94,6 +93,9 @@ private:
                                                          const BOMPartDefinition &definition) const;
     [[nodiscard]] FITTING fittingOf(const QString &parentReference,
                                     const BOMPartDefinition &definition) const;
+    /// Whether the definition itself says so.
+    [[nodiscard]] FITTING ownFittingOf(const BOMPartDefinition &definition) const;
+    void markNotFitted(BOMPart *part, const BOMPartDefinition &definition);
     [[nodiscard]] BOMPart *hold(std::unique_ptr<BOMPart> part);
     /// Null for an unknown reference and a placed part.
     [[nodiscard]] BOMPart *find(const QString &reference) const;
@@ -108,8 +110,8 @@ private:
     QList<DefinitionProblem> m_problems;
     QStringList m_duplicates;
     QList<LeftOutBOMParts> m_leftOut;
-    QStringList m_notFitted;
     Fitting m_fitting;
+    bool m_marksNotFitted = false;
     int m_count = 0;
     /// Of all parts in the store; made when a definition asks for it.
     std::optional<ReferenceNumbers> m_referenceNumbers;

@@ -35,11 +35,17 @@ QString BOMPart::property(const QString &name) const
     if (name.compare(valueProperty(), Qt::CaseInsensitive) == 0) {
         return value();
     }
-    if (name == placedProperty() && database()) {
-        const Part *parent = database()->part(m_parentReference);
-        return parent && !parent->isBOMPart() ? parent->property(name) : QString();
+    if ((name == placedProperty() && database()) ||
+        (m_isNotFittedWithParent && name.compare(notFittedProperty(), Qt::CaseInsensitive) == 0)) {
+        return propertyOfParent(name);
     }
     return m_properties.value(storedName(name));
+}
+
+QString BOMPart::propertyOfParent(const QString &name) const
+{
+    const Part *parent = database()->part(m_parentReference);
+    return parent && !parent->isBOMPart() ? parent->property(name) : QString();
 }
 
 QString BOMPart::storedName(const QString &name) const

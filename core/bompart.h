@@ -22,7 +22,8 @@ public:
     [[nodiscard]] bool isBOMPart() const override;
 
     /// The text as people entered it; names are compared ignoring case. ".Placed" is where the parent stands,
-    /// empty when the database holds no placed part of that reference.
+    /// empty when the database holds no placed part of that reference. "DNP" is what the parent says where
+    /// the part is not fitted because of it.
     [[nodiscard]] QString property(const QString &name) const override;
     using Part::property;
     /// The upper-case name under which the part has a property, or would.
@@ -39,7 +40,11 @@ public:
 private:
     friend class PartStore;
 
+    /// What the placed part of that reference says; empty when the database holds none.
+    [[nodiscard]] QString propertyOfParent(const QString &name) const;
+
     QMap<QString, QString> m_properties;
     QString m_parentReference;
     QString m_prefix;
+    bool m_isNotFittedWithParent = false;
 };

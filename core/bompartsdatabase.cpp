@@ -102,8 +102,22 @@ void BOMPartsDatabase::readNetlist()
         reader.read(*component);
     }
     m_parts.endLoading();
+    const bool marksNotFitted = m_netlist->marksnotfitted && m_netlist->fitting;
+    if (marksNotFitted) {
+        markNotFitted();
+    }
     m_otherNames.setRank(m_netlist->samemeaning);
-    m_bomOnlyParts.load(reader.parents(), m_netlist->fitting);
+    m_bomOnlyParts.load(reader.parents(), m_netlist->fitting, marksNotFitted);
+}
+
+void BOMPartsDatabase::markNotFitted()
+{
+    const PropertyQuery notFitted(notFittedProperty(), nullptr);
+    for (Part *part : m_parts.parts()) {
+        if (!m_netlist->fitting(notFitted.hostText(part->component())).isFitted) {
+            m_parts.markNotFitted(part);
+        }
+    }
 }
 
 void BOMPartsDatabase::reload()
@@ -269,6 +283,11 @@ void BOMPartsDatabase::setCurrentTemplate(const BOMTemplate &settings)
 void BOMPartsDatabase::setTemplateLook(const BOMTemplate &settings)
 {
     takeLook(settings, &m_template);
+}
+
+BOMFields BOMPartsDatabase::columns() const
+{
+    return columnsOf(m_template, hasNotFitted());
 }
 
 bool BOMPartsDatabase::setTemplateLayout(const BOMTemplate &settings)

@@ -144,6 +144,11 @@ public:
     [[nodiscard]] const BOMTemplate &currentTemplate() const { return m_template; }
     /// Takes a copy as the working template, completes it (see templateRepairs()), and groups anew.
     void setCurrentTemplate(const BOMTemplate &settings);
+    /// The columns of a bill: the fields of the working template, and where parts are marked as not fitted a
+    /// column that says so, unless there is one.
+    [[nodiscard]] BOMFields columns() const;
+    /// Whether parts are listed that are not fitted and do not count, see Part::isNotFitted().
+    [[nodiscard]] bool hasNotFitted() const { return m_parts.hasNotFitted(); }
     /// What the working template lacked when it was set, one sentence each.
     [[nodiscard]] const QStringList &templateRepairs() const { return m_templateRepairs; }
     /// See takeLook(). Emits nothing.
@@ -188,6 +193,7 @@ public Q_SLOTS:
 
 private:
     void readNetlist();
+    void markNotFitted();
     [[nodiscard]] bool applyLayout(const BOMTemplate &settings);
     void applyFields(const BOMFields &fields);
     void applyCategories(const QList<BOMCategory> &categories);

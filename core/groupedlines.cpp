@@ -32,5 +32,5 @@ int compareTexts(const Part &left, const Part &right, const GroupingRule &rule)
             return order;
         }
     }
-    return 0;
+    return int(left.isNotFitted()) - int(right.isNotFitted());
 }

@@ -27,6 +27,8 @@ public:
 
     [[nodiscard]] size_t lineCount() const { return m_starts.empty() ? 0 : m_starts.size() - 1; }
     [[nodiscard]] BomLine line(size_t index) const { return lineRange(index, index + 1); }
+    /// Of all lines, line by line.
+    [[nodiscard]] BomLine parts() const { return m_parts; }
     [[nodiscard]] size_t valueCount() const { return m_values.size(); }
     [[nodiscard]] const BomString &value(size_t index) const { return m_values[index].text; }
     [[nodiscard]] size_t firstLine(size_t value) const { return m_values[value].firstLine; }
@@ -65,5 +67,6 @@ struct GroupingRule
 [[nodiscard]] BomString groupingKey(const Part &part, const GroupingRule &rule);
 
 /// Compares the texts of the rule's properties one by one: below, equal to or above 0. Texts with commas may
-/// differ where the keys do not: "a,b" and "c" against "a" and "b,c".
+/// differ where the keys do not: "a,b" and "c" against "a" and "b,c". Parts with equal texts differ where one
+/// is marked as not fitted.
 [[nodiscard]] int compareTexts(const Part &left, const Part &right, const GroupingRule &rule);

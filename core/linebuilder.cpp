@@ -89,7 +89,7 @@ void LineBuilder::describe(quint32 part)
     const Part &described = *m_parts[part];
     // A text of a BOM-only part is shown as it stands, one of a component may be converted.
     const bool isBOMPart = described.isBOMPart();
-    const quint32 head[] = {m_valueOf[part], isBOMPart ? 1U : 0U};
+    const quint32 head[] = {m_valueOf[part], isBOMPart ? 1U : 0U, described.isNotFitted() ? 1U : 0U};
     m_description.assign(reinterpret_cast<const char *>(head), sizeof head);
     for (const PropertyQuery &property : m_rule.properties) {
         if (isBOMPart) {

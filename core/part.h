@@ -72,6 +72,9 @@ public:
     [[nodiscard]] const QString &reference() const { return m_reference; }
     [[nodiscard]] const QString &value() const { return m_value; }
     [[nodiscard]] const PartKey &key() const { return m_key; }
+    /// Whether the part is listed, marked, and does not count: it is not fitted and the host wants such parts
+    /// beside the others.
+    [[nodiscard]] bool isNotFitted() const { return m_isNotFitted; }
 
 private:
     friend class PartStore;
@@ -84,4 +87,5 @@ private:
     PartKey m_key;
     /// The groups that hold the part, by which they know it without a search; null for none.
     const CategoryGroups *m_category = nullptr;
+    bool m_isNotFitted = false;
 };

@@ -44,6 +44,18 @@ void PartStore::change(BOMPart *part, const QString &value, const QMap<QString, 
     part->m_properties = properties;
 }
 
+void PartStore::markNotFitted(Part *part)
+{
+    part->m_isNotFitted = true;
+    m_hasNotFitted = true;
+}
+
+void PartStore::markNotFittedWithParent(BOMPart *part)
+{
+    part->m_isNotFittedWithParent = true;
+    markNotFitted(part);
+}
+
 void PartStore::remove(const BOMPart *part)
 {
     std::erase(m_parts, part);
@@ -66,6 +78,7 @@ void PartStore::clear()
     m_values.clear();
     m_prefixRanks.clear();
     m_lastPrefix = 0;
+    m_hasNotFitted = false;
 }
 
 Part *PartStore::find(QStringView reference) const

@@ -34,6 +34,12 @@ public:
     BOMPart *add(std::unique_ptr<BOMPart> part);
     /// Gives a part another value and other properties, by upper-case name.
     void change(BOMPart *part, const QString &value, const QMap<QString, QString> &properties);
+    /// Marks a part of the store, see Part::isNotFitted().
+    void markNotFitted(Part *part);
+    /// Of a BOM-only part that its parent makes one: it shows what the parent says.
+    void markNotFittedWithParent(BOMPart *part);
+    /// Whether any part was marked.
+    [[nodiscard]] bool hasNotFitted() const { return m_hasNotFitted; }
     /// Lets go of a part. Takes time in proportion to all parts that are held.
     void remove(const BOMPart *part);
 
@@ -70,5 +76,6 @@ private:
     TextTable m_prefixes;
     TextTable m_values;
     quint32 m_lastPrefix = 0;
+    bool m_hasNotFitted = false;
     mutable std::vector<quint32> m_prefixRanks;
 };

@@ -29,6 +29,11 @@ QString placedProperty()
     return QStringLiteral(".Placed");
 }
 
+QString notFittedProperty()
+{
+    return QStringLiteral("DNP");
+}
+
 QString nameProperty()
 {
     return QStringLiteral(".Name");

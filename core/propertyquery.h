@@ -17,6 +17,8 @@ struct COMPONENT;
 [[nodiscard]] QString valueProperty();
 [[nodiscard]] QString placedProperty();
 [[nodiscard]] QString nameProperty();
+/// The name of the property that says that a part is not fitted.
+[[nodiscard]] QString notFittedProperty();
 
 /// The pseudo-properties with the names that people see.
 [[nodiscard]] QMap<QString, QString> pseudoPropertyNames();

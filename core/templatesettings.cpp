@@ -24,11 +24,12 @@ QString freeName(const QString &wanted, IsTaken isTaken)
     return name;
 }
 
-bool hasValueField(const BOMFields &fields)
+bool hasField(const BOMFields &fields, const QString &property, Qt::CaseSensitivity rule)
 {
     const QList<BOMField> list = fields.fields();
-    return std::any_of(list.begin(), list.end(),
-                       [](const BOMField &field) { return field.propertyName == valueProperty(); });
+    return std::any_of(list.begin(), list.end(), [&](const BOMField &field) {
+        return field.propertyName.compare(property, rule) == 0;
+    });
 }
 
 void addValueField(BOMTemplate &settings)
@@ -102,7 +103,7 @@ bool takeSetting(const BOMTemplate &source, BOMTemplate *target, Getter getter, 
 QStringList repairTemplate(BOMTemplate &settings)
 {
     QStringList repairs;
-    if (!hasValueField(settings.fields())) {
+    if (!hasField(settings.fields(), valueProperty(), Qt::CaseSensitive)) {
         addValueField(settings);
         repairs << QCoreApplication::translate(
             "BOMPartsDatabase", "The template has no field for VALUE; one was added as the first column.");
@@ -113,6 +114,22 @@ QStringList repairTemplate(BOMTemplate &settings)
             "BOMPartsDatabase", "The template has no miscellaneous category; one was added as the last.");
     }
     return repairs;
+}
+
+BOMFields columnsOf(const BOMTemplate &settings, bool marksNotFitted)
+{
+    constexpr int columnWidth = 6;
+    BOMFields columns = settings.fields();
+    if (marksNotFitted && !hasField(columns, notFittedProperty(), Qt::CaseInsensitive)) {
+        BOMField mark;
+        mark.fieldName =
+            freeName(notFittedProperty(), [&columns](const QString &name) { return columns.contains(name); });
+        mark.propertyName = notFittedProperty();
+        mark.asciiWidth = columnWidth;
+        mark.manualWidth = columnWidth;
+        columns.add(mark);
+    }
+    return columns;
 }
 
 void takeLook(const BOMTemplate &source, BOMTemplate *target)

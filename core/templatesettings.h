@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+class BOMFields;
 class BOMTemplate;
 
 // What the parts database does to its working copy of a template.
@@ -12,6 +13,10 @@ class BOMTemplate;
 /// category (as last one), so that no part is missing from a report. One sentence per change, none when
 /// nothing was missing.
 [[nodiscard]] QStringList repairTemplate(BOMTemplate &settings);
+
+/// The fields of a template as columns of a bill; with `marksNotFitted` one for parts that are not fitted as
+/// the last, unless a field has that property.
+[[nodiscard]] BOMFields columnsOf(const BOMTemplate &settings, bool marksNotFitted);
 
 /// Gives `target` the style sheet, header, footer and old HTML file of `source`, which change no line.
 void takeLook(const BOMTemplate &source, BOMTemplate *target);

@@ -7,7 +7,7 @@ enum class DnpChoice
 {
     /// They reach the module as skipped.
     Exclude,
-    /// They are listed like all others.
+    /// They are listed, marked and not counted.
     Include,
     /// Only they are listed: the fitted ones are skipped.
     Only

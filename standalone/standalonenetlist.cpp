@@ -16,6 +16,7 @@ void clear(NETCACHE &cache)
     cache.validMask = 0;
     cache.components = {};
     cache.fitting = nullptr;
+    cache.marksnotfitted = false;
     cache.samemeaning = nullptr;
     cache.propertyNames.clear();
 }
@@ -71,6 +72,7 @@ bool StandaloneNetlist::sendnetlist(NETCACHE &cache, int, int)
     cache.wantedMask = usable;
     cache.components = m_design->components();
     cache.fitting = [design = m_design](QByteArrayView dnp) { return design->properties().fitting(dnp); };
+    cache.marksnotfitted = m_design->properties().dnpChoice() == DnpChoice::Include;
     cache.samemeaning = [design = m_design](const QByteArray &asked, const QByteArray &other) {
         return design->properties().fields().rank(asked, other);
     };

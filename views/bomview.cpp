@@ -33,7 +33,7 @@ QList<QStringList> BOMView::categoryRows(const QString &category, bool grouped, 
         const QString &first = line.front()->reference();
         QStringList row{first};
         if (grouped) {
-            row = {QString::number(line.size()), report().references(line, width, lines)};
+            row = {Report::text(Report::quantity(line)), report().references(line, width, lines)};
         }
         for (const QString &name : m_fields.names()) {
             row << fieldValue(first, name, true);
@@ -46,7 +46,7 @@ QList<QStringList> BOMView::categoryRows(const QString &category, bool grouped, 
 void BOMView::updateFields()
 {
     if (isValid()) {
-        m_fields = m_database->currentTemplate().fields();
+        m_fields = m_database->columns();
         m_report.reset();
     }
 }

@@ -39,6 +39,10 @@ struct NETLIST
     /// know. Without it such parts are fitted and listed.
     std::function<FITTING(QByteArrayView)> fitting;
 
+    /// Whether the user wants parts that are not fitted listed beside the others: a bill then marks those
+    /// that `fitting` names, in lines of their own, and does not count them.
+    bool marksnotfitted = false;
+
     /// How well a property of another name answers for the one that is asked for, on a part that the host
     /// does not know: the smallest is the best, nothing when it does not mean the same. Without it such parts
     /// have each property under its own name only.

@@ -165,6 +165,34 @@ TEST_F(ReportValue, TotalsMultiplyByQuantity)
     EXPECT_EQ(texts(report().grandTotals()).last(), u"$2"_s);
 }
 
+TEST_F(ReportValue, PartsThatAreNotFittedStandInLinesOfTheirOwnAndDoNotCount)
+{
+    netlist.add("R1", "1k", {{"COST", "2"}});
+    netlist.add("R2", "1k", {{"COST", "2"}, {"DNP", "1"}, {"BOMPART0", "1,R,1k,COST=2"}});
+    netlist.add("R3", "1k", {{"COST", "2"}});
+    netlist.cache()->fitting = [](QByteArrayView dnp) { return FITTING{dnp != "1", true}; };
+    database.load();
+    EXPECT_EQ(csvReport(dataReport(), CsvRows::Lines).split('\n').at(1), "Resistors,4,R1-R4,1k,,2.00")
+        << "for a host that does not want them marked";
+    netlist.cache()->marksnotfitted = true;
+    database.reload();
+    EXPECT_EQ(csvReport(dataReport(), CsvRows::Lines),
+              "Category,Quantity,References,Value,Stock Code,Unit Cost,DNP\n"
+              "Resistors,2,\"R1,R3\",1k,,2.00,\n"
+              "Resistors,0 + 2 DNP,\"R2,R4\",1k,,2.00,Yes\n");
+    EXPECT_FALSE(database.currentTemplate().fields().contains(u"DNP"_s));
+    const QByteArray json = jsonReport(report());
+    EXPECT_TRUE(json.contains("\"parts\":2,\"notFitted\":2,")) << json.data();
+    EXPECT_TRUE(json.contains("{\"quantity\":0,\"notFitted\":2,\"references\":[\"R2\",\"R4\"]"))
+        << json.data();
+    EXPECT_TRUE(json.contains("\"totals\":[\"\",\"\",\"4.00\",\"\"]")) << json.data();
+    const QByteArray sheet = xlsxText(spreadsheetReport(dataReport()).file);
+    EXPECT_TRUE(sheet.contains("\nB9 0 [0\" + 2 DNP\"]\n")) << sheet.data();
+    EXPECT_TRUE(sheet.contains("\nF10 4 [0.00] =SUMPRODUCT(B8:B9,F8:F9)\n")) << sheet.data();
+    EXPECT_TRUE(htmlReport(report()).contains(u"2 + 2 DNP Resistors"));
+    EXPECT_TRUE(asciiReport(dataReport()).contains("\n0 + 2 DNP R2,R4 ")) << asciiReport(dataReport()).data();
+}
+
 TEST_F(ReportValue, CutsValuesToTheFieldWidth)
 {
     const std::pair<int, QString> cases[] = {

@@ -27,11 +27,11 @@ protected:
     }
 
     /// With all fields, as documents have them.
-    [[nodiscard]] Report report() const { return Report(database, database.currentTemplate().fields()); }
+    [[nodiscard]] Report report() const { return Report(database, database.columns()); }
     /// As outputs for programs have it.
     [[nodiscard]] Report dataReport() const
     {
-        return Report(database, dataFields(database.currentTemplate().fields(), database.currentTemplate()));
+        return Report(database, dataFields(database.columns(), database.currentTemplate()));
     }
 
     void changeTemplate(const std::function<void(BOMTemplate &)> &change)

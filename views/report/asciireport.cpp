@@ -52,6 +52,9 @@ QList<int> columnWidths(const Report &report)
     const auto clamped = [](int width) { return std::clamp(width, 0, widestColumn); };
     QList<int> widths{clamped(report.settings().asciiQuantityWidth()),
                       clamped(report.settings().asciiRefWidth())};
+    if (const qsizetype notFitted = report.partCount().notFitted; notFitted > 0) {
+        widths.front() = std::max(widths.front(), int(Report::text({0, notFitted}).size()) + 1);
+    }
     for (const ReportColumn &column : report.columns()) {
         widths.append(clamped(column.field.asciiWidth));
     }
@@ -73,7 +76,7 @@ QString billLine(const Report &report, BomLine line, const QList<int> &widths)
 {
     const QString wrapped = report.references(line, widths.at(1) - 1, mostReferenceLines);
     const QStringList references = wrapped.split(u'\n', Qt::SkipEmptyParts);
-    QStringList cells{QString::number(line.size()), references.value(0)};
+    QStringList cells{Report::text(Report::quantity(line)), references.value(0)};
     for (const ReportColumn &column : report.columns()) {
         cells << report.text(*line.front(), column);
     }

@@ -46,7 +46,7 @@ QString headerTable(const Report &report)
     }
     html += headerRow(tr("Design Created"), design.created);
     html += headerRow(tr("Design Last Modified"), design.modified);
-    html += headerRow(tr("Total Parts In Design"), QString::number(report.partCount()));
+    html += headerRow(tr("Total Parts In Design"), Report::text(report.partCount()));
     return html + QStringLiteral("</tbody></table><p></p>\n\n");
 }
 
@@ -184,7 +184,7 @@ void CategoriesTable::append()
 
 void CategoriesTable::appendCategory(const QString &category)
 {
-    const QString count = QString::number(m_report.partCount(category));
+    const QString count = Report::text(m_report.partCount(category));
     const QString heading =
         tr("%1 %2", "BOM category headings in HTML output").arg(count, htmlText(category));
     m_html += QStringLiteral("<tbody>\n<tr><th colspan='") + m_columnCount +
@@ -205,7 +205,7 @@ void CategoriesTable::appendLines(const QString &category)
     size_t number = 0;
     for (const BomLine line : listed.lines) {
         const QString &start = starts[number++ % 2];
-        m_html += QStringLiteral("<tr>") + start + QString::number(line.size()) + cellEnd + start +
+        m_html += QStringLiteral("<tr>") + start + Report::text(Report::quantity(line)) + cellEnd + start +
                   htmlReferences(m_report.references(line)) + cellEnd;
         for (const ReportColumn &column : m_report.columns()) {
             m_html += start;

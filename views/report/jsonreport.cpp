@@ -26,10 +26,19 @@ void writeDifference(JsonWriter &json, const JoinedLine &joined)
     });
 }
 
+void writeQuantity(JsonWriter &json, QStringView name, const Report::Quantity &quantity)
+{
+    json.key(name);
+    json.number(quantity.counted);
+    if (quantity.notFitted > 0) {
+        json.key(u"notFitted");
+        json.number(quantity.notFitted);
+    }
+}
+
 void writeLine(JsonWriter &json, const Report &report, BomLine line, const QList<JoinedLine> &differences)
 {
-    json.key(u"quantity");
-    json.number(qint64(line.size()));
+    writeQuantity(json, u"quantity", Report::quantity(line));
     json.key(u"references");
     json.beginArray();
     for (const Part *part : line) {
@@ -52,8 +61,7 @@ void writeLine(JsonWriter &json, const Report &report, BomLine line, const QList
 void writeCategory(JsonWriter &json, const Report &report, const QString &category, const JoinedLines &joined)
 {
     json.entry(u"name", category);
-    json.key(u"parts");
-    json.number(report.partCount(category));
+    writeQuantity(json, u"parts", report.partCount(category));
     const ReportLines listed = report.lines(category, true);
     json.objects(u"lines", listed.lines, [&](BomLine line) {
         QList<JoinedLine> differences = joined.values({category, line.front()->reference()});

@@ -29,6 +29,13 @@ bool isQuoted(const QString &text)
     return text.startsWith(u'"') && text.endsWith(u'"');
 }
 
+Report::Quantity quantityOf(std::span<Part *const> parts)
+{
+    const qsizetype notFitted =
+        std::count_if(parts.begin(), parts.end(), [](const Part *part) { return part->isNotFitted(); });
+    return {qsizetype(parts.size()) - notFitted, notFitted};
+}
+
 } // namespace
 
 ReportDesign designOf(const BOMPartsDatabase &database)
@@ -83,9 +90,27 @@ const QString &Report::notes() const
     return m_database.notes();
 }
 
-qsizetype Report::partCount() const
+Report::Quantity Report::quantity(BomLine line)
 {
-    return qsizetype(m_database.parts().size());
+    const auto size = qsizetype(line.size());
+    return line.front()->isNotFitted() ? Quantity{0, size} : Quantity{size, 0};
+}
+
+QString Report::text(const Quantity &quantity)
+{
+    return QString::number(quantity.counted) + notFittedText(quantity);
+}
+
+QString Report::notFittedText(const Quantity &quantity)
+{
+    return quantity.notFitted == 0
+               ? QString()
+               : QStringLiteral(" + ") + QString::number(quantity.notFitted) + QStringLiteral(" DNP");
+}
+
+Report::Quantity Report::partCount() const
+{
+    return quantityOf(m_database.parts());
 }
 
 const ReportColumn *Report::column(const QString &fieldName) const
@@ -121,9 +146,10 @@ QStringList Report::categories() const
     return m_database.categoryNames();
 }
 
-qsizetype Report::partCount(const QString &category) const
+Report::Quantity Report::partCount(const QString &category) const
 {
-    return m_database.partCount(category);
+    const GroupedLines *lines = m_database.categories().groupedLines(category);
+    return lines ? quantityOf(lines->parts()) : Quantity();
 }
 
 ReportLines Report::lines(const QString &category, bool grouped) const
@@ -210,7 +236,7 @@ void Report::addTotals(const QString &category, Totals &totals) const
         for (size_t index = 0; index < lines->lineCount(); ++index) {
             const BomLine line = lines->line(index);
             const auto number = m_numbers.read(line.front()->property(m_columns[i].property));
-            totals[i] += number.value_or(0.0) * double(line.size());
+            totals[i] += number.value_or(0.0) * double(quantity(line).counted);
         }
     }
 }

@@ -69,8 +69,21 @@ public:
     [[nodiscard]] const BOMTemplate &settings() const;
     /// The user's notes on the bill.
     [[nodiscard]] const QString &notes() const;
+    /// Parts that count, and beside them those that are listed as not fitted.
+    struct Quantity
+    {
+        qsizetype counted = 0;
+        qsizetype notFitted = 0;
+
+        bool operator==(const Quantity &) const = default;
+    };
+    [[nodiscard]] static Quantity quantity(BomLine line);
+    /// For people: "3", and with parts that are not fitted "0 + 2 DNP".
+    [[nodiscard]] static QString text(const Quantity &quantity);
+    /// What text() has behind the number.
+    [[nodiscard]] static QString notFittedText(const Quantity &quantity);
     /// Of the whole design.
-    [[nodiscard]] qsizetype partCount() const;
+    [[nodiscard]] Quantity partCount() const;
 
     [[nodiscard]] const std::vector<ReportColumn> &columns() const { return m_columns; }
     /// Null when there is none of that name.
@@ -81,7 +94,7 @@ public:
 
     /// The categories that are listed, in their order.
     [[nodiscard]] QStringList categories() const;
-    [[nodiscard]] qsizetype partCount(const QString &category) const;
+    [[nodiscard]] Quantity partCount(const QString &category) const;
     /// The lines of a category by their first references, or, not grouped, its parts one by one.
     [[nodiscard]] ReportLines lines(const QString &category, bool grouped) const;
 

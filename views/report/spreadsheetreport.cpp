@@ -86,6 +86,7 @@ private:
     void writeHeadings();
     Block writeCategory(const QString &category);
     void writeLine(const QString &category, BomLine line);
+    void writeQuantity(const Report::Quantity &quantity, CellLook look);
     void writeValue(int column, const Part &part);
     void writeReferences(const QString &references);
     void writeTotals(const QString &label, const Report::Totals &totals, const Block &block, CellLook look);
@@ -144,7 +145,7 @@ void SpreadsheetWriter::writeTitleBlock()
     writeInformation({tr("Revision"), m_design.revision}, {tr("Design Last Modified"), m_design.modified});
     const QString variantLabel = m_design.variant.isEmpty() ? QString() : tr("Assembly Variant");
     writeInformation({tr("Total Parts In Design"), {}}, {variantLabel, m_design.variant});
-    m_sheet.number(quantityColumn, double(m_report.partCount()), CellLook::Text);
+    writeQuantity(m_report.partCount(), CellLook::Text);
 }
 
 /// Two of the title block, side by side.
@@ -169,7 +170,7 @@ void SpreadsheetWriter::writeHeadings()
 SpreadsheetWriter::Block SpreadsheetWriter::writeCategory(const QString &category)
 {
     m_sheet.nextRow();
-    const QString count = QString::number(m_report.partCount(category));
+    const QString count = Report::text(m_report.partCount(category));
     m_sheet.text(categoryColumn, tr("%1 %2", "BOM category headings in spreadsheets").arg(count, category),
                  CellLook::Section);
     fillRow(categoryColumn + 1, CellLook::Section);
@@ -190,11 +191,19 @@ void SpreadsheetWriter::writeLine(const QString &category, BomLine line)
 {
     m_sheet.nextRow();
     m_sheet.text(categoryColumn, category, CellLook::Cell);
-    m_sheet.number(quantityColumn, double(line.size()), CellLook::Quantity);
+    writeQuantity(Report::quantity(line), CellLook::Quantity);
     for (int i = 0; i < int(m_columns.size()); ++i) {
         writeValue(i, *line.front());
     }
     writeReferences(m_report.references(line));
+}
+
+/// A number, whose format tells of the parts that are not fitted: formulas count the number.
+void SpreadsheetWriter::writeQuantity(const Report::Quantity &quantity, CellLook look)
+{
+    const QString notFitted = Report::notFittedText(quantity);
+    m_sheet.number(quantityColumn, double(quantity.counted), look,
+                   notFitted.isEmpty() ? QString() : u'0' + literal(notFitted));
 }
 
 void SpreadsheetWriter::writeValue(int column, const Part &part)

@@ -92,7 +92,7 @@ QList<Section> sectionsOf(const Report &report)
         Section section{inOneLine(category), {}, {}};
         const ReportLines listed = report.lines(category, true);
         for (const BomLine line : listed.lines) {
-            QStringList cells{QString::number(line.size()), inOneLine(report.references(line))};
+            QStringList cells{Report::text(Report::quantity(line)), inOneLine(report.references(line))};
             for (const ReportColumn &column : report.columns()) {
                 cells << inOneLine(report.text(*line.front(), column));
             }
