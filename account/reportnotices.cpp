@@ -50,7 +50,8 @@ QString leftOutNotice(const ComponentAccount &components)
 }
 
 /// How many parts the not-fitted choice leaves out, or lists without counting them.
-QStringList notFittedNotices(const ComponentAccount &components, const BOMPartsDatabase &database)
+QStringList notFittedNotices(const ComponentAccount &components, const BOMPartsDatabase &database,
+                             bool hasReport)
 {
     if (components.leftOutByChoice > 0) {
         return {leftOutNotice(components)};
@@ -61,7 +62,9 @@ QStringList notFittedNotices(const ComponentAccount &components, const BOMPartsD
     if (marked == 0) {
         return {};
     }
-    return {partsAre(marked) + QStringLiteral(" not fitted: marked in lines of their own, and not counted")};
+    return {partsAre(marked) +
+            (hasReport ? QStringLiteral(" not fitted: marked in lines of their own, and not counted")
+                       : QStringLiteral(" not fitted and left out"))};
 }
 
 /// How many definitions cannot be followed.
@@ -90,7 +93,7 @@ QStringList reportNotices(const ComponentAccount &components, const BOMPartsData
                           ReportForms forms)
 {
     QStringList notices = markNotices(components);
-    notices += notFittedNotices(components, database);
+    notices += notFittedNotices(components, database, forms.hasLines || forms.hasParts);
     notices += leftOutBomPartNotices(database);
     notices += notFittedParentNotices(database, components);
     notices += definedPartNotices(database);

@@ -40,6 +40,9 @@ _bom_templates() {
 _bom_variants() {
     [[ -n $design ]] && _bom_lines < <("${COMP_WORDS[0]}" variants "$design" 2>/dev/null)
 }
+_bom_services() {
+    _bom_lines < <("${COMP_WORDS[0]}" completion services 2>/dev/null)
+}
 _bom_designs() {
     _bom_files '*.@(kicad_pro|kicad_sch|csv)'
 }
@@ -56,6 +59,8 @@ QString bashAction(const ValueDescription &value)
         return QStringLiteral("_bom_templates");
     case ValueKind::Variant:
         return QStringLiteral("_bom_variants");
+    case ValueKind::Service:
+        return QStringLiteral("_bom_services");
     case ValueKind::Choice:
         return QStringLiteral("_bom_words ") + quoted(value.choices.join(u' '));
     case ValueKind::Command:
@@ -107,7 +112,8 @@ const QLatin1String bashPlace(R"sh(_bom_place() {
     for ((i = start; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
         -*) [[ ${COMP_WORDS[i+1]} == = ]] && ((i++))
-            [[ " $1 " == *" ${COMP_WORDS[i]} "* || ${COMP_WORDS[i]} == = ]] && ((i++)) ;;
+            [[ " $1 " == *" ${COMP_WORDS[i]} "* || ${COMP_WORDS[i]} == = ]] && ((i++))
+            [[ ${COMP_WORDS[i-1]} == --for ]] && ((i++)) ;;
         *) ((place++ == 0)) && design=${COMP_WORDS[i]} ;;
         esac
     done
@@ -119,6 +125,8 @@ _bom() {
     # Of --option=value, readline makes three words.
     [[ $prev == = ]] && prev=${COMP_WORDS[COMP_CWORD-2]}
     [[ $cur == = ]] && cur=
+    # --for takes a name and a file.
+    [[ ${COMP_WORDS[COMP_CWORD-2]-} == --for ]] && { _bom_files; return; }
     for ((i = 1; i < COMP_CWORD; i++)); do
         case "$command ${COMP_WORDS[i]}" in
 )sh");

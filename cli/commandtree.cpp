@@ -21,6 +21,7 @@ ValueKind kindOf(const QString &name, const QString &command)
                                                  {QStringLiteral("DESIGN"), ValueKind::Design},
                                                  {QStringLiteral("NAME|FILE"), ValueKind::Template},
                                                  {QStringLiteral("V"), ValueKind::Variant},
+                                                 {QStringLiteral("SERVICE F"), ValueKind::Service},
                                                  {QStringLiteral("COMMAND"), ValueKind::Command}};
     const bool isChoice = name.contains(u'|') && name == name.toLower();
     return isChoice ? ValueKind::Choice : kinds.value(name, ValueKind::Text);

@@ -18,6 +18,8 @@ enum class ValueKind
     /// A name, or a .bomt file.
     Template,
     Variant,
+    /// A name of an assembly service, and then a file.
+    Service,
     /// One of a few words.
     Choice,
     Command

@@ -5,6 +5,7 @@
 #include "cli/commandtree.h"
 #include "cli/manual.h"
 #include "cli/shellcompletion.h"
+#include "standalone/servicefiles.h"
 
 #include <CLI/Validators.hpp>
 
@@ -14,9 +15,11 @@ void CompletionCommand::addTo(CLI::App &program)
     m_app = program.add_subcommand("completion",
                                    "Print the completion for a shell, or the manual page of the program");
     m_app->group("");
-    m_app->add_option("FORM", m_form, "bash, zsh, fish or man")
+    m_app
+        ->add_option("FORM", m_form,
+                     "bash, zsh, fish or man; services: the names that --for takes, one a line")
         ->required()
-        ->check(CLI::IsMember({"bash", "zsh", "fish", "man"}).description(""));
+        ->check(CLI::IsMember({"bash", "zsh", "fish", "man", "services"}).description(""));
 }
 
 ExitStatus CompletionCommand::run()
@@ -29,6 +32,8 @@ ExitStatus CompletionCommand::run()
         text = zshCompletion(program);
     } else if (m_form == "fish") {
         text = fishCompletion(program);
+    } else if (m_form == "services") {
+        text = serviceNames().join(u'\n') + u'\n';
     } else {
         text = manualPage(program, QString::fromStdString(m_program->version()),
                           QString::fromStdString(m_program->get_footer()));

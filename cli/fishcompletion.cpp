@@ -30,6 +30,9 @@ function __bom_variants
         test -e $word; and bom variants $word 2>/dev/null; and return
     end
 end
+function __bom_services
+    bom completion services 2>/dev/null
+end
 function __bom_designs
     __fish_complete_suffix .kicad_pro
     __fish_complete_suffix .kicad_sch
@@ -54,6 +57,8 @@ QString fishAction(const ValueDescription &value)
         return QStringLiteral(" -a '(__bom_templates)'");
     case ValueKind::Variant:
         return QStringLiteral(" -a '(__bom_variants)'");
+    case ValueKind::Service:
+        return QStringLiteral(" -a '(__bom_services)'");
     case ValueKind::Choice:
         return QStringLiteral(" -a ") + fishText(value.choices.join(u' '));
     case ValueKind::Command:

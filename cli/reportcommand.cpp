@@ -75,6 +75,7 @@ void ReportCommand::addTo(CLI::App &program)
     for (size_t i = 0; i < outputOptions.size(); ++i) {
         m_app->add_option(outputOptions[i].name, m_paths[i], outputOptions[i].description)->type_name("F");
     }
+    m_services.addTo(*m_app);
     m_app->add_flag(
         "--excel-csv", m_isForSpreadsheets,
         "Write CSV as spreadsheet programs open it by a double click: with a byte order mark, and "
@@ -98,7 +99,7 @@ ExitStatus ReportCommand::run()
         return ExitStatus::WrongUsage;
     }
     const QList<Output> outputs = this->outputs();
-    if (!haveForms() || !areDistinct(outputs)) {
+    if (!haveForms() || !areDistinct(pathsOf(outputs))) {
         return ExitStatus::WrongUsage;
     }
     const bool hasCsv = std::any_of(outputs.cbegin(), outputs.cend(), [](const Output &output) {
@@ -108,28 +109,49 @@ ExitStatus ReportCommand::run()
         console::message(QStringLiteral("--excel-csv needs an output of CSV (bom report --help tells more)"));
         return ExitStatus::WrongUsage;
     }
+    if (const ExitStatus status = m_services.prepare(m_design.dnpChoice()); status != ExitStatus::Done) {
+        return status;
+    }
     OpenDesign design(*locale);
     if (const ExitStatus status = design.open(m_design, true); status != ExitStatus::Done) {
         return status;
     }
-    if (!protectDesignFiles(design, outputs)) {
+    if (!protectDesignFiles(design, pathsOf(outputs))) {
         return ExitStatus::WrongUsage;
     }
     const ComponentAccount components = componentAccountOf(design.design());
     if (!shouldContinue(design, components)) {
         return ExitStatus::DesignProblem;
     }
-    const QList<FieldReading> readings = billReadings(design.design(), design.database());
-    m_joined = billJoinedLines(design.design(), design.database());
-    if (!design.templateReason().isEmpty()) {
-        console::notice(design.templateReason());
+    printNotices(design, components, outputs);
+    const ExitStatus written = write(design, outputs);
+    const ExitStatus writtenForServices = m_services.write(design);
+    return written == ExitStatus::Done ? writtenForServices : written;
+}
+
+void ReportCommand::printNotices(OpenDesign &design, const ComponentAccount &components,
+                                 const QList<Output> &outputs)
+{
+    const QStringList asked = m_services.properties();
+    QList<FieldReading> readings = billReadings(design.design(), design.database(), asked);
+    QStringList ofTemplate;
+    if (outputs.isEmpty()) {
+        // Files for services do not go by the template.
+        readings.removeIf([&asked](const FieldReading &reading) {
+            return !asked.contains(reading.asked, Qt::CaseInsensitive);
+        });
+    } else {
+        m_joined = billJoinedLines(design.design(), design.database());
+        if (!design.templateReason().isEmpty()) {
+            console::notice(design.templateReason());
+        }
+        console::notices(design.fittingNotices());
+        ofTemplate = joinedLineNotices(m_joined) + emptyColumnNotices(design.design(), design.database());
     }
-    console::notices(design.fittingNotices() + otherNameNotices(readings) + disagreementNotices(readings) +
-                     unheededNotFittedNotices(design.design()) + joinedLineNotices(m_joined) +
-                     emptyColumnNotices(design.design(), design.database()) +
+    console::notices(otherNameNotices(readings) + disagreementNotices(readings) +
+                     unheededNotFittedNotices(design.design()) + ofTemplate +
                      reportNotices(components, design.database(), formsOf(outputs)) +
                      missingNotes(design, outputs));
-    return write(design, outputs);
 }
 
 QList<ReportCommand::Output> ReportCommand::outputs() const
@@ -145,7 +167,7 @@ QList<ReportCommand::Output> ReportCommand::outputs() const
             outputs.append({QString::fromStdString(m_paths[i]), outputOptions[i].form});
         }
     }
-    if (outputs.isEmpty()) {
+    if (outputs.isEmpty() && m_services.isEmpty()) {
         outputs.append({QStringLiteral("-"), Form::Ascii});
     }
     return outputs;
@@ -179,38 +201,47 @@ bool ReportCommand::haveForms() const
     return true;
 }
 
-bool ReportCommand::areDistinct(const QList<Output> &outputs)
+QStringList ReportCommand::pathsOf(const QList<Output> &outputs) const
+{
+    QStringList paths;
+    for (const Output &output : outputs) {
+        paths << output.path;
+    }
+    return paths + m_services.paths();
+}
+
+bool ReportCommand::areDistinct(const QStringList &outputs)
 {
     QStringList taken;
-    for (const Output &output : outputs) {
-        if (output.path.isEmpty()) {
+    for (const QString &output : outputs) {
+        if (output.isEmpty()) {
             console::message(QStringLiteral("an output needs a file name"));
             return false;
         }
         for (const QString &path : std::as_const(taken)) {
-            if (isSameFile(output.path, path)) {
-                console::message(output.path + QStringLiteral(": two outputs cannot go to the same file"));
+            if (isSameFile(output, path)) {
+                console::message(output + QStringLiteral(": two outputs cannot go to the same file"));
                 return false;
             }
         }
-        taken.append(output.path);
+        taken.append(output);
     }
     return true;
 }
 
-bool ReportCommand::protectDesignFiles(OpenDesign &design, const QList<Output> &outputs) const
+bool ReportCommand::protectDesignFiles(OpenDesign &design, const QStringList &outputs) const
 {
     QStringList inputs = design.session().files();
     const StandaloneDocument &document = design.session().document();
     inputs << userFieldTable() << fieldTableBeside(design.design().design().info().file);
     inputs << m_design.path() << document.notesFile() << document.projectNotesFile() << propdefsfile()
            << design.database().currentTemplate().filePath();
-    for (const Output &output : outputs) {
+    for (const QString &output : outputs) {
         const bool isInput = std::any_of(inputs.cbegin(), inputs.cend(), [&output](const QString &input) {
-            return isSameFile(output.path, input);
+            return isSameFile(output, input);
         });
-        if (isInput || isKicadFile(output.path)) {
-            console::message(output.path + QStringLiteral(": belongs to the design and is not overwritten"));
+        if (isInput || isKicadFile(output)) {
+            console::message(output + QStringLiteral(": belongs to the design and is not overwritten"));
             return false;
         }
     }

@@ -5,6 +5,7 @@
 #include "cli/command.h"
 #include "cli/designarguments.h"
 #include "cli/localeoption.h"
+#include "cli/serviceoutputs.h"
 #include "core/joinedlines.h"
 
 #include <QList>
@@ -70,11 +71,15 @@ private:
     [[nodiscard]] static const OutputOption *optionOf(const QString &path);
     /// False, after a message, when an output has no ending that says its form.
     [[nodiscard]] bool haveForms() const;
-    [[nodiscard]] static bool areDistinct(const QList<Output> &outputs);
+    /// Those of the services too.
+    [[nodiscard]] QStringList pathsOf(const QList<Output> &outputs) const;
+    [[nodiscard]] static bool areDistinct(const QStringList &outputs);
     /// False, after a message, when an output would overwrite a file that belongs to the design.
-    [[nodiscard]] bool protectDesignFiles(OpenDesign &design, const QList<Output> &outputs) const;
+    [[nodiscard]] bool protectDesignFiles(OpenDesign &design, const QStringList &outputs) const;
     /// Prints the references that are repeated; false, after a message, when they forbid the report.
     [[nodiscard]] bool shouldContinue(OpenDesign &design, const ComponentAccount &components) const;
+    /// What people should know although nothing failed.
+    void printNotices(OpenDesign &design, const ComponentAccount &components, const QList<Output> &outputs);
     [[nodiscard]] static ReportForms formsOf(const QList<Output> &outputs);
     /// The user's notes that cannot be read and are missing in the documents, one sentence each.
     [[nodiscard]] static QStringList missingNotes(OpenDesign &design, const QList<Output> &outputs);
@@ -89,6 +94,7 @@ private:
     std::vector<std::string> m_outputs;
     /// In the order of the options.
     std::array<std::string, 7> m_paths;
+    ServiceOutputs m_services;
     LocaleOption m_locale;
     QList<JoinedLine> m_joined;
     bool m_allowDuplicates = false;

@@ -7,7 +7,7 @@
 struct CommandDescription;
 
 /// What bash reads to complete the command line of the program: a script that is sourced, or lies in
-/// share/bash-completion/completions. Names of templates and variants come from the program itself.
+/// share/bash-completion/completions. Names of templates, variants and services come from the program itself.
 [[nodiscard]] QString bashCompletion(const CommandDescription &program);
 
 /// The same for zsh, as the function file _bom in a folder of $fpath.

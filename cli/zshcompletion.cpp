@@ -18,6 +18,10 @@ __bom_templates() {
     compadd -a names
     _files -g "*.bomt(-.)"
 }
+__bom_services() {
+    local -a names=(${(f)"$(bom completion services 2>/dev/null)"})
+    compadd -a names
+}
 __bom_variants() {
     local word
     local -a names
@@ -53,6 +57,8 @@ QString zshAction(const ValueDescription &value)
         return QStringLiteral("__bom_templates");
     case ValueKind::Variant:
         return QStringLiteral("__bom_variants");
+    case ValueKind::Service:
+        return QStringLiteral("__bom_services:file:_files");
     case ValueKind::Choice:
         return u'(' + value.choices.join(u' ') + u')';
     case ValueKind::Command:

@@ -42,3 +42,8 @@ QString userFieldTable()
 {
     return userDataFolder(QStringLiteral("BOM")) + QStringLiteral("/bomfields.txt");
 }
+
+QString userServicesFolder()
+{
+    return userDataFolder(QStringLiteral("BOM")) + QStringLiteral("/services");
+}

@@ -23,5 +23,8 @@
 /// The user's property definitions, PROPDEFS.INI in the configuration folder. It need not exist.
 [[nodiscard]] QString userDefinitionsFile();
 
+/// The folder of the user's descriptions of assembly services, see serviceFile(). It need not exist.
+[[nodiscard]] QString userServicesFolder();
+
 /// The user's table of property names that mean the same, see loadFieldNames(). It need not exist.
 [[nodiscard]] QString userFieldTable();

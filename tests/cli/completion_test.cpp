@@ -50,6 +50,9 @@ TEST_F(Completion, OffersBashCommandsOptionsFilesAndNames)
         {"report a.csv --csv n", "notes.txt"},
         {"report --dnp only fields-and-flags.kicad_sch --variant ''", "Full Lite"},
         {"set a.csv ''", ""},
+        {"report a.csv --for j", "jlcpcb"},
+        {"report --for jlcpcb n", "notes.txt"},
+        {"report --for jlcpcb x.csv fields-and-flags.kicad_sch --variant F", "Full"},
     };
     for (const auto &[words, offered] : cases) {
         const ProgramRun result = runInShell(

@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "views/report/servicebill.h"
+
+#include "core/bompartsdatabase.h"
+#include "core/reference.h"
+#include "host/framework/hostui.h"
+#include "views/report/asciireport.h"
+#include "views/report/assemblyservice.h"
+#include "views/report/csvtext.h"
+#include "views/report/spreadsheet.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace {
+
+using Content = ServiceColumn::Content;
+using Parts = std::vector<const Part *>;
+
+/// KiCad has "~" for nothing.
+QString cleaned(const QString &text)
+{
+    const QString line = inOneLine(text).trimmed();
+    return line == u'~' ? QString() : line;
+}
+
+QString withoutLibrary(const QString &footprint)
+{
+    const QString name = footprint.section(u':', 1);
+    return name.isEmpty() ? footprint : name;
+}
+
+/// What a column says of one part; empty where it depends on the row.
+class PartTexts final
+{
+public:
+    PartTexts(const BOMPartsDatabase &database, const AssemblyService &service, const QStringList &apart)
+        : m_service(service)
+        , m_footprint(QStringLiteral("PACKAGE"), &database.propertyTypes())
+    {
+        for (const ServiceColumn &column : service.columns) {
+            m_columns.emplace_back(column.text, &database.propertyTypes());
+        }
+        for (const QString &name : service.apart + apart) {
+            m_apart.emplace_back(name, &database.propertyTypes());
+        }
+    }
+
+    [[nodiscard]] QString text(const Part &part, qsizetype column) const
+    {
+        const ServiceColumn &asked = m_service.columns.at(column);
+        switch (asked.content) {
+        case Content::Value:
+            return cleaned(part.value());
+        case Content::Footprint:
+            return withoutLibrary(cleaned(part.property(m_footprint)));
+        case Content::Property:
+            return cleaned(part.property(m_columns[size_t(column)]));
+        case Content::Text:
+            return asked.text;
+        default:
+            return {};
+        }
+    }
+
+    /// What the parts of one row have in common.
+    [[nodiscard]] QStringList key(const Part &part) const
+    {
+        QStringList key{cleaned(part.value()), cleaned(part.property(m_footprint))};
+        for (qsizetype column = 0; column < m_service.columns.size(); ++column) {
+            key << text(part, column);
+        }
+        for (const PropertyQuery &property : m_apart) {
+            key << cleaned(part.property(property));
+        }
+        return key;
+    }
+
+private:
+    const AssemblyService &m_service;
+    PropertyQuery m_footprint;
+    std::vector<PropertyQuery> m_columns;
+    std::vector<PropertyQuery> m_apart;
+};
+
+/// By their references.
+Parts fittedParts(const BOMPartsDatabase &database)
+{
+    Parts parts;
+    for (const Part *part : database.parts()) {
+        if (!part->isNotFitted()) {
+            parts.push_back(part);
+        }
+    }
+    std::stable_sort(parts.begin(), parts.end(), [](const Part *a, const Part *b) {
+        return compareReferences(a->reference(), b->reference()) < 0;
+    });
+    return parts;
+}
+
+/// In the order of their first parts.
+std::vector<Parts> groupsOf(const Parts &parts, const PartTexts &texts)
+{
+    std::vector<Parts> groups;
+    QHash<QStringList, size_t> known;
+    for (const Part *part : parts) {
+        const QStringList key = texts.key(*part);
+        const auto found = known.constFind(key);
+        if (found == known.cend()) {
+            known.insert(key, groups.size());
+            groups.push_back({part});
+        } else {
+            groups[*found].push_back(part);
+        }
+    }
+    return groups;
+}
+
+QList<QStringList> clashesOf(const Parts &parts)
+{
+    QList<QStringList> clashes;
+    QHash<QString, QStringList> byFolded;
+    for (const Part *part : parts) {
+        byFolded[part->reference().toCaseFolded()] << part->reference();
+    }
+    for (const Part *part : parts) {
+        const QStringList same = byFolded.value(part->reference().toCaseFolded());
+        if (same.size() > 1 && same.first() == part->reference()) {
+            clashes << same;
+        }
+    }
+    return clashes;
+}
+
+QStringList referencesOf(std::span<const Part *const> parts)
+{
+    QStringList references;
+    for (const Part *part : parts) {
+        references << part->reference();
+    }
+    return references;
+}
+
+} // namespace
+
+ServiceBill serviceBill(const BOMPartsDatabase &database, const AssemblyService &service,
+                        const QStringList &apart)
+{
+    const PartTexts texts(database, service, apart);
+    const Parts parts = fittedParts(database);
+    ServiceBill bill;
+    bill.title = database.designTitle();
+    bill.author = database.designAuthor();
+    for (const ServiceColumn &column : service.columns) {
+        bill.headings << column.heading;
+        bill.isNumber << column.isNumber();
+    }
+    for (const Parts &group : groupsOf(parts, texts)) {
+        const size_t most = service.mostDesignators ? size_t(*service.mostDesignators) : group.size();
+        for (size_t first = 0; first < group.size(); first += most) {
+            const auto row = std::span(group).subspan(first, std::min(most, group.size() - first));
+            bill.rows << QStringList();
+            for (qsizetype i = 0; i < service.columns.size(); ++i) {
+                const Content content = service.columns.at(i).content;
+                bill.rows.last() << (content == Content::Designators
+                                         ? referencesOf(row).join(service.separator)
+                                     : content == Content::Quantity   ? QString::number(row.size())
+                                     : content == Content::ItemNumber ? QString::number(bill.rows.size())
+                                                                      : texts.text(*row.front(), i));
+            }
+        }
+    }
+    for (const Part *part : parts) {
+        if (service.needed && texts.text(*part, *service.needed).isEmpty()) {
+            bill.withoutNumber << part->reference();
+        }
+    }
+    bill.clashes = service.ignoresLetterCase ? clashesOf(parts) : QList<QStringList>();
+    return bill;
+}
+
+QByteArray serviceCsv(const ServiceBill &bill)
+{
+    CsvText csv({u',', false}, CsvQuotes::Doubled);
+    for (const QStringList &row : QList<QStringList>{bill.headings} + bill.rows) {
+        for (const QString &cell : row) {
+            csv.addCell(cell);
+        }
+        csv.endRow();
+    }
+    return csv.bytes();
+}
+
+SpreadsheetReport serviceSpreadsheet(const ServiceBill &bill)
+{
+    Spreadsheet sheet({bill.title, bill.author, HostUi::current().now()});
+    sheet.beginSheet(QStringLiteral("BOM"));
+    for (int column = 0; column < int(bill.headings.size()); ++column) {
+        sheet.text(column, bill.headings.at(column), CellLook::Heading);
+    }
+    for (const QStringList &row : bill.rows) {
+        sheet.nextRow();
+        for (int column = 0; column < int(row.size()); ++column) {
+            if (bill.isNumber.at(column)) {
+                sheet.number(column, row.at(column).toDouble(), CellLook::Quantity);
+            } else {
+                sheet.text(column, row.at(column), CellLook::Cell, Spreadsheet::textFormat());
+            }
+        }
+    }
+    sheet.freezeRow(0, int(bill.headings.size()) - 1, sheet.row());
+    const QByteArray file = sheet.bytes();
+    return {file, sheet.problem(), sheet.notices()};
+}
