@@ -233,7 +233,8 @@ bool ReportCommand::protectDesignFiles(OpenDesign &design, const QStringList &ou
 {
     QStringList inputs = design.session().files();
     const StandaloneDocument &document = design.session().document();
-    inputs << userFieldTable() << fieldTableBeside(design.design().design().info().file);
+    inputs << m_services.descriptions() << userFieldTable()
+           << fieldTableBeside(design.design().design().info().file);
     inputs << m_design.path() << document.notesFile() << document.projectNotesFile() << propdefsfile()
            << design.database().currentTemplate().filePath();
     for (const QString &output : outputs) {

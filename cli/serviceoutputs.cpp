@@ -73,6 +73,15 @@ QStringList ServiceOutputs::paths() const
     return paths;
 }
 
+QStringList ServiceOutputs::descriptions() const
+{
+    QStringList files;
+    for (const Output &output : m_outputs) {
+        files << output.description;
+    }
+    return files;
+}
+
 ExitStatus ServiceOutputs::prepare(DnpChoice choice)
 {
     if (!isEmpty() && choice == DnpChoice::Only) {
@@ -81,7 +90,7 @@ ExitStatus ServiceOutputs::prepare(DnpChoice choice)
         return ExitStatus::WrongUsage;
     }
     for (const auto &[name, path] : m_given) {
-        Output output{QString::fromStdString(name), QString::fromStdString(path), false, {}};
+        Output output{QString::fromStdString(name), QString::fromStdString(path), false, {}, {}};
         const QString ending = QFileInfo(output.path).suffix().toLower();
         output.isSpreadsheet = ending == QLatin1String("xlsx");
         if (!output.isSpreadsheet && ending != QLatin1String("csv") && !isStandardOutput(output.path)) {
@@ -100,6 +109,7 @@ ExitStatus ServiceOutputs::prepare(DnpChoice choice)
 ExitStatus ServiceOutputs::readService(Output *output)
 {
     const QString file = fileOf(output->name);
+    output->description = file;
     if (file.isEmpty()) {
         return ExitStatus::UnreadableInput;
     }

@@ -27,6 +27,8 @@ public:
 
     [[nodiscard]] bool isEmpty() const { return m_given.empty(); }
     [[nodiscard]] QStringList paths() const;
+    /// The files that describe the services.
+    [[nodiscard]] QStringList descriptions() const;
     /// Finds and reads the services; prints what is wrong. To be called before anything is written.
     [[nodiscard]] ExitStatus prepare(DnpChoice choice);
     /// The properties that the services ask for.
@@ -40,6 +42,7 @@ private:
         QString name;
         QString path;
         bool isSpreadsheet = false;
+        QString description;
         AssemblyService service;
     };
 

@@ -81,9 +81,9 @@ TEST_F(WorkbenchTest, ListsPartsThatAreNotFittedWhenAsked)
 {
     ASSERT_TRUE(bench->open(partList()));
     action("&Include")->trigger();
-    EXPECT_TRUE(isReported("10k") && isReported("22k"));
+    EXPECT_TRUE(isReported("10k") && isReported("22k") && isReported("0 + 1 DNP"));
     action("&Only These")->trigger();
-    EXPECT_TRUE(!isReported("10k") && isReported("22k"));
+    EXPECT_TRUE(!isReported("10k") && isReported("22k") && !isReported("DNP"));
     EXPECT_EQ(account(), "1 listed, 1 fitted");
     // The choice is the user's, not the design's.
     ASSERT_TRUE(bench->open(partList("other.csv")));

@@ -98,6 +98,8 @@ TEST_F(Services, ThatCannotBeReadAreNamedAndNothingIsWritten)
         {columns + "A = price\n", ":3: \"price\" is nothing that a column can hold; known are value,"},
         {columns + "A = property\n", ":3: \"property\" is nothing that a column can hold"},
         {columns + "nonsense\n", ":3: \"nonsense\" is no column such as"},
+        {columns + "\"A = value\n", ":3: \"\"A = value\" is no column such as"},
+        {columns + std::string(1001, 'A') + " = value\n", ":3: is longer than 1000 characters"},
         {columns + "[columns]\n", ":3: \"[columns]\" is no heading"},
         {std::string("title = \0\n", 10) + columns, ": is no UTF-8 text"},
         {"title = \xff\n" + columns, ": is no UTF-8 text"},
@@ -113,9 +115,11 @@ TEST_F(Services, ThatCannotBeReadAreNamedAndNothingIsWritten)
 
 TEST_F(Services, AreWrittenToFilesThatMayBeWritten)
 {
+    write(QStringLiteral("own.csv"), "[columns]\nRef = designators\n");
     const std::pair<const char *, const char *> cases[] = {
         {"--for jlcpcb out.pdf", "out.pdf: --for writes .csv and .xlsx"},
         {"--for jlcpcb list.csv", "list.csv: belongs to the design"},
+        {"--for ./own.csv own.csv", "own.csv: belongs to the design"},
         {"--for jlcpcb a.csv --csv a.csv", "two outputs cannot go to the same file"},
         {"--for jlcpcb a.csv --dnp only", "--dnp only leaves out all others"},
         {"--for jlcpcb", "--for"}};

@@ -15,6 +15,7 @@ using Content = ServiceColumn::Content;
 
 constexpr qsizetype mostColumns = 200;
 constexpr int largestRow = 1'000'000;
+constexpr qsizetype longestLine = 1000;
 constexpr qsizetype shownLength = 60;
 
 QString quoted(QStringView text)
@@ -106,8 +107,12 @@ void ServiceReader::readLine(QStringView line)
         m_isBelowColumns = true;
         return;
     }
-    const qsizetype end = line.startsWith(u'"') ? std::max<qsizetype>(line.indexOf(u'"', 1), 0) : 0;
-    const qsizetype sign = line.indexOf(u'=', end);
+    if (line.size() > longestLine) {
+        fail(QStringLiteral("is longer than %1 characters").arg(longestLine));
+        return;
+    }
+    const qsizetype end = line.startsWith(u'"') ? line.indexOf(u'"', 1) : 0;
+    const qsizetype sign = end < 0 ? -1 : line.indexOf(u'=', end);
     const QString name = sign < 0 ? QString() : unquoted(line.first(sign).trimmed());
     if (name.isEmpty()) {
         fail(quoted(line) + (m_isBelowColumns
