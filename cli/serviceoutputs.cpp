@@ -167,14 +167,22 @@ void ServiceOutputs::reportDoubts(const Output &output, const ServiceBill &bill)
             service.columns.at(*service.needed).text + QStringLiteral("): ") +
             firstReferences(bill.withoutNumber));
     }
-    constexpr qsizetype mostClashes = 5;
-    for (const QStringList &clash : bill.clashes.mid(0, mostClashes)) {
-        console::notice(title + QStringLiteral(": ") + clash.join(QStringLiteral(" and ")) +
-                        QStringLiteral(" are one designator there, where letter case does not count"));
+    QStringList doubts;
+    for (const QStringList &clash : bill.clashes) {
+        doubts << clash.join(QStringLiteral(" and ")) +
+                      QStringLiteral(" are one designator there, where letter case does not count");
     }
-    if (bill.clashes.size() > mostClashes) {
-        console::notice(title + QStringLiteral(": %1 more designators differ in letter case only")
-                                    .arg(bill.clashes.size() - mostClashes));
+    for (const ServiceBill::AlikeRows &rows : bill.alike) {
+        doubts << QStringLiteral("the rows of ") + rows.reference + QStringLiteral(" and ") + rows.other +
+                      QStringLiteral(" look alike; their parts differ in ") + rows.property;
+    }
+    constexpr qsizetype mostDoubts = 5;
+    for (const QString &doubt : doubts.mid(0, mostDoubts)) {
+        console::notice(title + QStringLiteral(": ") + doubt);
+    }
+    if (doubts.size() > mostDoubts) {
+        console::notice(title + QStringLiteral(": ") + QString::number(doubts.size() - mostDoubts) +
+                        QStringLiteral(" more rows or designators like these"));
     }
 }
 

@@ -35,11 +35,15 @@ TEST_F(Services, GetTheColumnsThatTheyTakeOfFittedPartsThatAgree)
     EXPECT_EQ(jlcpcb.out, "Comment,Designator,Footprint,JLCPCB Part #\n"
                           "100n,\"C1,C2,C3\",C_0402,C1525\n100n,C4,C_0402,C1525\n100n,C5,C_0402,C1525\n"
                           "\"1k \"\"0,1%\"\"\",R1,R_0402,\n1k,r1,R_0402,0603\n");
-    EXPECT_THAT(jlcpcb.err,
-                AllOf(HasSubstr("bom: 1 part is not fitted and left out\n"),
-                      HasSubstr("LCSC from \"LCSC#\" (7 parts)"),
-                      HasSubstr("bom: JLCPCB assembly: 1 part has no \"JLCPCB Part #\" (LCSC): R1\n"
-                                "bom: JLCPCB assembly: R1 and r1 are one designator there")));
+    EXPECT_THAT(
+        jlcpcb.err,
+        AllOf(HasSubstr("bom: 1 part is not fitted and left out\n"),
+              HasSubstr("LCSC from \"LCSC#\" (7 parts)"),
+              HasSubstr("bom: JLCPCB assembly: 1 part has no \"JLCPCB Part #\" (LCSC): R1\n"
+                        "bom: JLCPCB assembly: R1 and r1 are one designator there"),
+              HasSubstr(
+                  "bom: JLCPCB assembly: the rows of C1 and C4 look alike; their parts differ in Voltage\n"),
+              HasSubstr("the rows of C1 and C5 look alike; their parts differ in PACKAGE\n")));
     EXPECT_EQ(run("report list.csv --for PCBWay out.xlsx --for jlcpcb both.csv --csv -").status, 0);
     EXPECT_EQ(read(QStringLiteral("both.csv")), jlcpcb.out);
     const QByteArray sheet = xlsxText(QByteArray::fromStdString(read(QStringLiteral("out.xlsx"))));

@@ -43,7 +43,8 @@ public:
         for (const ServiceColumn &column : service.columns) {
             m_columns.emplace_back(column.text, &database.propertyTypes());
         }
-        for (const QString &name : service.apart + apart) {
+        for (const QString &name :
+             QStringList{valueProperty(), QStringLiteral("PACKAGE")} + service.apart + apart) {
             m_apart.emplace_back(name, &database.propertyTypes());
         }
     }
@@ -65,17 +66,33 @@ public:
         }
     }
 
-    /// What the parts of one row have in common.
-    [[nodiscard]] QStringList key(const Part &part) const
+    /// What the columns say of a part.
+    [[nodiscard]] QStringList shown(const Part &part) const
     {
-        QStringList key{cleaned(part.value()), cleaned(part.property(m_footprint))};
+        QStringList texts;
         for (qsizetype column = 0; column < m_service.columns.size(); ++column) {
-            key << text(part, column);
+            texts << text(part, column);
         }
+        return texts;
+    }
+
+    /// What the parts of a row have in common besides.
+    [[nodiscard]] QStringList hidden(const Part &part) const
+    {
+        QStringList texts;
         for (const PropertyQuery &property : m_apart) {
-            key << cleaned(part.property(property));
+            texts << cleaned(part.property(property));
         }
-        return key;
+        return texts;
+    }
+
+    /// The first of these in which two parts differ.
+    [[nodiscard]] QString difference(const Part &part, const Part &other) const
+    {
+        const QStringList texts = hidden(part);
+        const QStringList others = hidden(other);
+        const auto differing = std::mismatch(texts.begin(), texts.end(), others.begin()).first;
+        return differing == texts.end() ? QString() : m_apart[size_t(differing - texts.begin())].name();
     }
 
 private:
@@ -106,7 +123,7 @@ std::vector<Parts> groupsOf(const Parts &parts, const PartTexts &texts)
     std::vector<Parts> groups;
     QHash<QStringList, size_t> known;
     for (const Part *part : parts) {
-        const QStringList key = texts.key(*part);
+        const QStringList key = texts.shown(*part) + texts.hidden(*part);
         const auto found = known.constFind(key);
         if (found == known.cend()) {
             known.insert(key, groups.size());
@@ -116,6 +133,22 @@ std::vector<Parts> groupsOf(const Parts &parts, const PartTexts &texts)
         }
     }
     return groups;
+}
+
+QList<ServiceBill::AlikeRows> alikeRows(const std::vector<Parts> &groups, const PartTexts &texts)
+{
+    QList<ServiceBill::AlikeRows> alike;
+    QHash<QStringList, const Part *> known;
+    for (const Parts &group : groups) {
+        const Part *part = group.front();
+        const Part *&first = known[texts.shown(*part)];
+        if (first) {
+            alike.append({first->reference(), part->reference(), texts.difference(*first, *part)});
+        } else {
+            first = part;
+        }
+    }
+    return alike;
 }
 
 QList<QStringList> clashesOf(const Parts &parts)
@@ -143,6 +176,28 @@ QStringList referencesOf(std::span<const Part *const> parts)
     return references;
 }
 
+QStringList rowOf(std::span<const Part *const> parts, const AssemblyService &service, const PartTexts &texts,
+                  qsizetype number)
+{
+    QStringList row;
+    for (qsizetype i = 0; i < service.columns.size(); ++i) {
+        switch (service.columns.at(i).content) {
+        case Content::Designators:
+            row << referencesOf(parts).join(service.separator);
+            break;
+        case Content::Quantity:
+            row << QString::number(parts.size());
+            break;
+        case Content::ItemNumber:
+            row << QString::number(number);
+            break;
+        default:
+            row << texts.text(*parts.front(), i);
+        }
+    }
+    return row;
+}
+
 } // namespace
 
 ServiceBill serviceBill(const BOMPartsDatabase &database, const AssemblyService &service,
@@ -157,19 +212,13 @@ ServiceBill serviceBill(const BOMPartsDatabase &database, const AssemblyService 
         bill.headings << column.heading;
         bill.isNumber << column.isNumber();
     }
-    for (const Parts &group : groupsOf(parts, texts)) {
+    const std::vector<Parts> groups = groupsOf(parts, texts);
+    bill.alike = alikeRows(groups, texts);
+    for (const Parts &group : groups) {
         const size_t most = service.mostDesignators ? size_t(*service.mostDesignators) : group.size();
         for (size_t first = 0; first < group.size(); first += most) {
-            const auto row = std::span(group).subspan(first, std::min(most, group.size() - first));
-            bill.rows << QStringList();
-            for (qsizetype i = 0; i < service.columns.size(); ++i) {
-                const Content content = service.columns.at(i).content;
-                bill.rows.last() << (content == Content::Designators
-                                         ? referencesOf(row).join(service.separator)
-                                     : content == Content::Quantity   ? QString::number(row.size())
-                                     : content == Content::ItemNumber ? QString::number(bill.rows.size())
-                                                                      : texts.text(*row.front(), i));
-            }
+            const auto rowParts = std::span(group).subspan(first, std::min(most, group.size() - first));
+            bill.rows << rowOf(rowParts, service, texts, bill.rows.size() + 1);
         }
     }
     for (const Part *part : parts) {
@@ -206,7 +255,7 @@ SpreadsheetReport serviceSpreadsheet(const ServiceBill &bill)
             if (bill.isNumber.at(column)) {
                 sheet.number(column, row.at(column).toDouble(), CellLook::Quantity);
             } else {
-                sheet.text(column, row.at(column), CellLook::Cell, Spreadsheet::textFormat());
+                sheet.text(column, row.at(column), CellLook::Cell, Spreadsheet::formatOf(row.at(column)));
             }
         }
     }

@@ -17,6 +17,17 @@ struct AssemblyService;
 /// not fitted have no rows.
 struct ServiceBill
 {
+    /// Two rows whose columns agree, because their parts differ in what no column shows.
+    struct AlikeRows
+    {
+        /// Of the first parts.
+        QString reference;
+        QString other;
+        QString property;
+
+        bool operator==(const AlikeRows &) const = default;
+    };
+
     QStringList headings;
     /// Of columns that hold numbers.
     QList<bool> isNumber;
@@ -26,6 +37,7 @@ struct ServiceBill
     QStringList withoutNumber;
     /// Designators that are one to the service.
     QList<QStringList> clashes;
+    QList<AlikeRows> alike;
     QString title;
     QString author;
 };

@@ -64,6 +64,13 @@ public:
     /// The number format that keeps what people type into a cell a text.
     static QString textFormat() { return QStringLiteral("@"); }
 
+    /// That one, unless old programs do not show a text of that length in it.
+    static QString formatOf(const QString &text)
+    {
+        constexpr qsizetype longestTyped = 255;
+        return text.size() <= longestTyped ? textFormat() : QString();
+    }
+
     /// These write a cell of the current row. An empty text gives an empty cell in that look, an empty number
     /// format the general one.
     void text(int column, const QString &text, CellLook look, const QString &format = {});

@@ -222,10 +222,7 @@ void SpreadsheetWriter::writeValue(int column, const Part &part)
     if (number) {
         m_sheet.number(at, *number, look, format);
     } else {
-        // Old programs do not show long texts in this format.
-        constexpr qsizetype longestTyped = 255;
-        const bool isTyped = !report->isNumeric && text.size() <= longestTyped;
-        m_sheet.text(at, text, look, isTyped ? Spreadsheet::textFormat() : QString());
+        m_sheet.text(at, text, look, report->isNumeric ? QString() : Spreadsheet::formatOf(text));
     }
 }
 
