@@ -13,6 +13,8 @@
 #include <QHash>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -105,15 +107,17 @@ private:
 /// By their references.
 Parts fittedParts(const BOMPartsDatabase &database)
 {
-    Parts parts;
+    std::vector<std::pair<SplitReference, const Part *>> order;
     for (const Part *part : database.parts()) {
         if (!part->isNotFitted()) {
-            parts.push_back(part);
+            order.emplace_back(splitReference(part->reference()), part);
         }
     }
-    std::stable_sort(parts.begin(), parts.end(), [](const Part *a, const Part *b) {
-        return compareReferences(a->reference(), b->reference()) < 0;
-    });
+    std::stable_sort(order.begin(), order.end(),
+                     [](const auto &a, const auto &b) { return compareReferences(a.first, b.first) < 0; });
+    Parts parts;
+    std::transform(order.begin(), order.end(), std::back_inserter(parts),
+                   [](const auto &entry) { return entry.second; });
     return parts;
 }
 
