@@ -3,8 +3,6 @@
 #include "core/grouping.h"
 
 #include "core/linebuilder.h"
-#include "core/partstore.h"
-#include "core/templatesettings.h"
 #include "templates/bomtemplate.h"
 
 Qt::CaseSensitivity Grouping::caseRule() const
@@ -15,7 +13,7 @@ Qt::CaseSensitivity Grouping::caseRule() const
 GroupingRule Grouping::rule() const
 {
     GroupingRule rule{caseRule(), {}};
-    for (const BOMField &field : columnsOf(*m_settings, m_parts->hasNotFitted()).fields()) {
+    for (const BOMField &field : m_settings->fields().fields()) {
         if (field.propertyName != valueProperty()) {
             rule.properties.emplace_back(field.propertyName, m_types);
         }

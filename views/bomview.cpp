@@ -58,7 +58,7 @@ QString BOMView::fieldValue(const QString &reference, const QString &fieldName, 
         return {};
     }
     const Part *part = m_database->part(reference);
-    const QString value = part ? part->property(wanted->property) : QString();
+    const QString value = part ? report().value(*part, *wanted) : QString();
     return formatted ? formatFieldValue(value, fieldName) : value;
 }
 

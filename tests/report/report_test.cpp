@@ -169,7 +169,7 @@ TEST_F(ReportValue, PartsThatAreNotFittedStandInLinesOfTheirOwnAndDoNotCount)
 {
     netlist.add("R1", "1k", {{"COST", "2"}});
     netlist.add("R2", "1k", {{"COST", "2"}, {"DNP", "1"}, {"BOMPART0", "1,R,1k,COST=2"}});
-    netlist.add("R3", "1k", {{"COST", "2"}});
+    netlist.add("R3", "1k", {{"COST", "2"}, {"DNP", "no"}});
     netlist.cache()->fitting = [](QByteArrayView dnp) { return FITTING{dnp != "1", true}; };
     database.load();
     EXPECT_EQ(csvReport(dataReport(), CsvRows::Lines).split('\n').at(1), "Resistors,4,R1-R4,1k,,2.00")

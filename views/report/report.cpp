@@ -74,9 +74,12 @@ Report::Report(const BOMPartsDatabase &database, const BOMFields &fields)
     , m_numbers(m_locale)
 {
     const PropertyTypes &types = database.propertyTypes();
+    const BOMFields &known = database.currentTemplate().fields();
     for (const BOMField &field : fields.fields()) {
+        const bool isMark = database.hasNotFitted() && field.propertyName == notFittedProperty() &&
+                            !known.contains(field.fieldName);
         m_columns.push_back(
-            {field, PropertyQuery(field.propertyName, &types), types.isNumeric(field.propertyName)});
+            {field, PropertyQuery(field.propertyName, &types), types.isNumeric(field.propertyName), isMark});
     }
 }
 
@@ -162,9 +165,18 @@ QString Report::references(BomLine line, int width, int lines) const
     return m_database.categories().formatReferences(line, width, lines);
 }
 
+QString Report::value(const Part &part, const ReportColumn &column) const
+{
+    if (!column.isMark) {
+        return part.property(column.property);
+    }
+    const DisplayConversion shown(m_database.propertyTypes().type(notFittedProperty()));
+    return part.isNotFitted() ? shown(QStringLiteral("1")) : QString();
+}
+
 QString Report::text(const Part &part, const ReportColumn &column) const
 {
-    return text(part.property(column.property), column);
+    return text(value(part, column), column);
 }
 
 QString Report::text(const QString &value, const ReportColumn &column) const

@@ -43,6 +43,8 @@ struct ReportColumn
     PropertyQuery property;
     /// Whether the property holds numbers.
     bool isNumeric = false;
+    /// The column that the bill has besides the template's: it says which parts are not fitted.
+    bool isMark = false;
 };
 
 /// The fields for outputs that other programs read: without the value field where the template excludes it.
@@ -100,6 +102,8 @@ public:
 
     /// The references of a line as the template lists them, within `lines` text lines of `width` characters.
     [[nodiscard]] QString references(BomLine line, int width = UnlimitedWidth, int lines = 1) const;
+    /// The value of a part that its cell shows.
+    [[nodiscard]] QString value(const Part &part, const ReportColumn &column) const;
     /// What the cell of a part shows: numbers in the user's format, prefix and suffix around it.
     [[nodiscard]] QString text(const Part &part, const ReportColumn &column) const;
     /// The same for a value of the column's property.
