@@ -118,9 +118,9 @@ TEST_F(Report, HoldsThePartsThatOthersDefine)
     const ProgramRun result = run("report list.csv --template Default --dnp include --csv -");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.out, withMark + "Resistors,2,\"R1,R3\",10k,S-10k,,\n"
-                                     "Resistors,0 + 1 DNP,R2,10k,S-10k,,Yes\n"
+                                     "Resistors,0,R2,10k,S-10k,,Yes\n"
                                      "Miscellaneous,2,SCR1-SCR2,M3,N-3,0.10,\n"
-                                     "Miscellaneous,0 + 1 DNP,SCR3,M3,N-3,0.10,Yes\n");
+                                     "Miscellaneous,0,SCR3,M3,N-3,0.10,Yes\n");
     EXPECT_THAT(result.err,
                 HasSubstr("2 parts are not fitted: marked in lines of their own, and not counted"));
     EXPECT_THAT(result.err,
@@ -193,8 +193,8 @@ TEST_F(Report, SaysHowManyPartsAreNotFitted)
     } cases[] = {{"exclude", "2 parts are not fitted and left out (--dnp include lists them)",
                   heading + std::string("Resistors,2,\"R1,R3\",10k,,\n")},
                  {"include", "2 parts are not fitted: marked in lines of their own, and not counted",
-                  withMark + "Capacitors,0 + 1 DNP,C1,1u,,,Yes\nResistors,2,\"R1,R3\",10k,,,\n"
-                             "Resistors,0 + 1 DNP,R2,10k,,,Yes\n"},
+                  withMark + "Capacitors,0,C1,1u,,,Yes\nResistors,2,\"R1,R3\",10k,,,\n"
+                             "Resistors,0,R2,10k,,,Yes\n"},
                  {"only", "2 fitted parts are left out (--dnp only)",
                   heading + std::string("Capacitors,1,C1,1u,,\nResistors,1,R2,10k,,\n")}};
     for (const auto &[choice, message, lines] : cases) {

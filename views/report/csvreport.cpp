@@ -21,7 +21,7 @@ QByteArray csvReport(const Report &report, CsvRows rows, const CsvDialect &diale
             const Part &first = *line.front();
             csv.addCell(category);
             if (isGrouped) {
-                csv.addCell(Report::text(Report::quantity(line)));
+                csv.addCell(QString::number(Report::quantity(line).counted));
             }
             csv.addCell(isGrouped ? report.references(line) : first.reference(), quotesReferences);
             for (const ReportColumn &column : report.columns()) {
