@@ -34,16 +34,9 @@ QString counted(std::size_t references)
     return references == 1 ? QStringLiteral("1 reference") : QStringLiteral("%1 references").arg(references);
 }
 
-/// The number of a quantity cell; "3.0" and "3,00" are 3, as is "0 + 3 DNP", which a report has for parts
-/// that are not fitted.
+/// The number of a quantity cell; "3.0" and "3,00" are 3.
 std::optional<quint64> quantityOf(std::string_view text)
 {
-    constexpr std::string_view notFittedStart = "0 + ";
-    constexpr std::string_view notFittedEnd = " DNP";
-    if (text.starts_with(notFittedStart) && text.ends_with(notFittedEnd)) {
-        text.remove_prefix(notFittedStart.size());
-        text.remove_suffix(notFittedEnd.size());
-    }
     quint64 quantity = 0;
     const char *end = text.data() + text.size();
     const auto [rest, failure] = std::from_chars(text.data(), end, quantity);
@@ -284,7 +277,8 @@ private:
         }
         const std::optional<quint64> quantity = quantityOf(text);
         const std::size_t named = m_cell.count();
-        if (quantity != named) {
+        // A report counts parts that are not fitted 0.
+        if (quantity != named && quantity != 0) {
             warn(row, &m_quantity,
                  QStringLiteral("the quantity is ") + quotedForMessage(text) +
                      QStringLiteral(", but the row names ") + counted(named) +
