@@ -11,6 +11,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
 
 ReportCells::ReportCells(OpenDesign &design)
     : m_design(design)
@@ -60,8 +61,19 @@ QString ReportCells::text(const Part &part, const EditColumn &column) const
 
 bool ReportCells::isProperty(const QString &name) const
 {
+    const auto &fields = m_report.columns();
     return standardPropertyNames().contains(name, Qt::CaseInsensitive) ||
-           m_design.database().propertyTypes().type(name) || hasProperty(m_design, name);
+           m_design.database().propertyTypes().type(name) || hasProperty(m_design, name) ||
+           std::any_of(fields.begin(), fields.end(), [&name](const ReportColumn &field) {
+               return field.field.propertyName.compare(name, Qt::CaseInsensitive) == 0;
+           });
+}
+
+bool ReportCells::isShown(const QString &text, const EditColumn &column) const
+{
+    const auto parts = m_design.database().parts();
+    return std::any_of(parts.begin(), parts.end(),
+                       [&](const Part *part) { return this->text(*part, column) == text; });
 }
 
 namespace {
@@ -92,61 +104,149 @@ Meaning meaningOf(const QString &heading, qsizetype index, const Table &table, c
     return isOfReport && isMoved && !column->isField ? Meaning::Unclear : Meaning::Values;
 }
 
-} // namespace
-
-std::vector<EditColumn> editColumns(const Table &table, const ReportCells &cells,
-                                    const QStringList &newProperties, QStringList *problems)
+class ColumnFinder
 {
-    std::vector<EditColumn> found;
-    QSet<QString> met;
-    for (qsizetype index = 0; index < table.headings.size(); ++index) {
-        const QString heading = table.headings.at(index).trimmed();
-        auto column = cells.columnOf(heading);
-        if (!column && newProperties.contains(heading, Qt::CaseInsensitive)) {
-            column = cells.propertyColumn(heading);
+public:
+    ColumnFinder(const Table &table, const ReportCells &cells, const HeadingOptions &options)
+        : m_table(table)
+        , m_cells(cells)
+        , m_options(options)
+    {
+        for (const QString &heading : table.headings) {
+            m_headings << heading.trimmed();
         }
-        const Meaning meaning = meaningOf(heading, index, table, cells, column);
-        if (index == table.referenceColumn || meaning == Meaning::Own) {
-            continue;
+        m_fields = options.kicad.fieldsOf(m_headings);
+        m_found.isFromKicad = m_fields.has_value();
+    }
+
+    EditColumns run()
+    {
+        for (qsizetype index = 0; index < m_headings.size(); ++index) {
+            if (index != m_table.referenceColumn) {
+                take(index);
+            }
         }
-        if (meaning == Meaning::Unclear) {
-            problems->append(
-                QStringLiteral("column %1 \"").arg(index + 1) + heading +
-                QStringLiteral("\" may be the report's own or the property: delete it, or put it "
-                               "in front of the references if it is the report's"));
-            continue;
+        for (const QString &name : m_options.newProperties) {
+            if (!m_headings.contains(name, Qt::CaseInsensitive)) {
+                refuse(QStringLiteral("there is no column \"") + name +
+                       QStringLiteral("\", which --new-property names"));
+            }
         }
-        const bool isBlank = std::all_of(table.rows.begin(), table.rows.end(), [index](const TableRow &row) {
+        return std::move(m_found);
+    }
+
+private:
+    void refuse(const QString &problem) { m_found.problems << problem; }
+    void ignore(qsizetype index) { m_found.ignored << m_headings.at(index); }
+
+    void take(qsizetype index)
+    {
+        const QString &heading = m_headings.at(index);
+        std::optional<EditColumn> column = columnOf(index);
+        const Meaning meaning =
+            m_fields ? Meaning::Values : meaningOf(heading, index, m_table, m_cells, column);
+        if (meaning == Meaning::Own) {
+            if (m_headings.value(m_table.referenceColumn) != m_cells.columnHeadings(true).at(2)) {
+                ignore(index);
+            }
+        } else if (meaning == Meaning::Unclear) {
+            refuse(QStringLiteral("column %1 \"").arg(index + 1) + heading +
+                   QStringLiteral("\" may be the report's own or the property: delete it, or put it "
+                                  "in front of the references if it is the report's"));
+        } else if (isIgnored(index, column)) {
+            ignore(index);
+        } else if (!column && isBlank(index) && (heading.isEmpty() || m_options.isPartsSheet)) {
+            return;
+        } else if (column || (m_options.addsProperties && !heading.isEmpty())) {
+            add(index, column ? *column : m_cells.propertyColumn(heading));
+        } else {
+            refuse(QStringLiteral("column %1 \"").arg(index + 1) + heading + QStringLiteral("\" ") +
+                   m_cells.refusal(heading));
+        }
+    }
+
+    void add(qsizetype index, EditColumn column)
+    {
+        column.index = index;
+        column.heading = m_headings.at(index);
+        const QString name = column.isField ? u'f' + column.report.field.fieldName
+                                            : u'p' + column.report.field.propertyName.toCaseFolded();
+        if (m_met.contains(name)) {
+            refuse(QStringLiteral("the heading \"") + column.heading +
+                   QStringLiteral("\" stands over two columns"));
+            return;
+        }
+        m_met.insert(name);
+        m_found.columns.push_back(std::move(column));
+    }
+
+    [[nodiscard]] std::optional<EditColumn> columnOf(qsizetype index) const
+    {
+        const QString &heading = m_headings.at(index);
+        if (m_fields) {
+            const QString &field = m_fields->at(index);
+            return KicadTable::isOwnField(field) ? std::nullopt
+                                                 : std::optional(m_cells.propertyColumn(field));
+        }
+        if (m_options.isPartsSheet && m_cells.isProperty(heading)) {
+            return m_cells.propertyColumn(heading);
+        }
+        if (const auto column = m_cells.columnOf(heading)) {
+            return column;
+        }
+        if (m_options.newProperties.contains(heading, Qt::CaseInsensitive)) {
+            return m_cells.propertyColumn(heading);
+        }
+        const QString field = m_options.kicad.fieldOf(heading);
+        return field.isEmpty() || KicadTable::isOwnField(field)
+                   ? std::nullopt
+                   : std::optional(m_cells.propertyColumn(field));
+    }
+
+    /// Whether the column holds what KiCad knows of its own, and no property. What is known as a property
+    /// stays one, unless it only has the marks of parts that are not fitted.
+    [[nodiscard]] bool isIgnored(qsizetype index, const std::optional<EditColumn> &column) const
+    {
+        const QString &heading = m_headings.at(index);
+        if (column) {
+            return KicadTable::isNotFittedField(column->report.field.propertyName) && hasMarks(index) &&
+                   !isBlank(index) && !m_cells.isShown(KicadTable::notFittedMark(), *column);
+        }
+        if (m_fields || KicadTable::isOwnField(m_options.kicad.fieldOf(heading))) {
+            return true;
+        }
+        return KicadTable::isOwnHeading(heading) &&
+               (!KicadTable::isNotFittedField(heading) || hasMarks(index));
+    }
+
+    [[nodiscard]] bool isBlank(qsizetype index) const
+    {
+        return std::all_of(m_table.rows.begin(), m_table.rows.end(), [index](const TableRow &row) {
             return row.cells.value(index).trimmed().isEmpty();
         });
-        if (heading.isEmpty() && isBlank) {
-            continue;
-        }
-        if (!column) {
-            problems->append(QStringLiteral("column %1 \"").arg(index + 1) + heading + QStringLiteral("\" ") +
-                             cells.refusal(heading));
-            continue;
-        }
-        const QString name = (column->isField ? QStringLiteral("f") : QStringLiteral("p")) +
-                             (column->isField ? column->report.field.fieldName : heading.toCaseFolded());
-        if (met.contains(name)) {
-            problems->append(QStringLiteral("the heading \"") + heading +
-                             QStringLiteral("\" stands over two columns"));
-            continue;
-        }
-        met.insert(name);
-        column->index = index;
-        found.push_back(*column);
     }
-    for (const QString &name : newProperties) {
-        const bool isHeading =
-            std::any_of(table.headings.begin(), table.headings.end(), [&name](const QString &heading) {
-                return heading.trimmed().compare(name, Qt::CaseInsensitive) == 0;
-            });
-        if (!isHeading) {
-            problems->append(QStringLiteral("there is no column \"") + name +
-                             QStringLiteral("\", which --new-property names"));
-        }
+
+    [[nodiscard]] bool hasMarks(qsizetype index) const
+    {
+        return std::all_of(m_table.rows.begin(), m_table.rows.end(), [index](const TableRow &row) {
+            const QString cell = row.cells.value(index).trimmed();
+            return cell.isEmpty() || cell == KicadTable::notFittedMark();
+        });
     }
-    return found;
+
+    const Table &m_table;
+    const ReportCells &m_cells;
+    const HeadingOptions &m_options;
+    QStringList m_headings;
+    /// Under the headings of a table that KiCad has written.
+    std::optional<QStringList> m_fields;
+    QSet<QString> m_met;
+    EditColumns m_found;
+};
+
+} // namespace
+
+EditColumns editColumns(const Table &table, const ReportCells &cells, const HeadingOptions &options)
+{
+    return ColumnFinder(table, cells, options).run();
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/kicadtable.h"
 #include "standalone/tablefile.h"
 #include "views/report/report.h"
 
@@ -35,6 +36,8 @@ public:
     /// What a table's column under that heading holds: a field of the template by its title, else a property
     /// by its name. Nothing for an unknown one.
     [[nodiscard]] std::optional<EditColumn> columnOf(const QString &heading) const;
+    /// Whether it is the name of a property: one that parts or definitions have or that the template shows.
+    [[nodiscard]] bool isProperty(const QString &name) const;
     /// A column whose cells are texts of a property, which need not be one yet.
     [[nodiscard]] EditColumn propertyColumn(const QString &name) const;
     /// Why there is no columnOf() the heading.
@@ -49,16 +52,40 @@ public:
         return m_report.headings(withQuantity);
     }
 
-private:
-    [[nodiscard]] bool isProperty(const QString &name) const;
+    /// Whether the column shows that text for some part.
+    [[nodiscard]] bool isShown(const QString &text, const EditColumn &column) const;
 
+private:
     OpenDesign &m_design;
     Report m_report;
 };
 
+/// What the headings of a table may mean.
+struct HeadingOptions
+{
+    /// Headings that mean properties which the design does not have yet, letter case ignored.
+    QStringList newProperties;
+    /// All unknown headings do.
+    bool addsProperties = false;
+    /// The table is the sheet of parts, whose headings are names of properties.
+    bool isPartsSheet = false;
+    /// The labels that the design's project has for fields.
+    KicadTable kicad;
+};
+
+struct EditColumns
+{
+    std::vector<EditColumn> columns;
+    /// Headings that mean nothing, or the same as another; new properties that are no headings.
+    QStringList problems;
+    /// Headings of columns that hold no properties of parts, and are left out. Those that a report has as its
+    /// own are not named.
+    QStringList ignored;
+    /// KiCad has written the table.
+    bool isFromKicad = false;
+};
+
 /// The columns of a table that hold values; categories, quantities and references, as a report writes them,
-/// are left out. Headings that mean nothing, or the same as another, are added to `problems`; a heading out
-/// of `newProperties`, letter case ignored, means a property even if the design has none of that name. One of
-/// these that is no heading is a problem, too.
-[[nodiscard]] std::vector<EditColumn> editColumns(const Table &table, const ReportCells &cells,
-                                                  const QStringList &newProperties, QStringList *problems);
+/// are left out.
+[[nodiscard]] EditColumns editColumns(const Table &table, const ReportCells &cells,
+                                      const HeadingOptions &options);

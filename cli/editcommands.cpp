@@ -5,8 +5,10 @@
 #include "cli/console.h"
 #include "cli/designedits.h"
 #include "cli/edittable.h"
+#include "cli/kicadtable.h"
 #include "cli/newproperties.h"
 #include "cli/opendesign.h"
+#include "cli/spreadsheettable.h"
 #include "core/propertyassignments.h"
 #include "standalone/referencereader.h"
 #include "standalone/tablefile.h"
@@ -127,22 +129,34 @@ bool SetCommand::areMeant(OpenDesign &design, const QList<Assignment> &wanted) c
 
 void ApplyCommand::addTo(CLI::App &program)
 {
-    m_app = program.add_subcommand("apply", "Write the values that were changed in a CSV report, or any CSV "
-                                            "file with references, into the design");
+    m_app =
+        program.add_subcommand("apply", "Write the values that were changed in a report (.csv, .xlsx, .ods), "
+                                        "or in any table with references, into the design");
     m_arguments.design.addDesign(*m_app);
     m_app
         ->add_option("EDITS", m_edits,
-                     "CSV file; its headings are fields of the template or names of properties")
+                     "Table (.csv, .xlsx or .ods); its headings are fields of the template or names of "
+                     "properties")
         ->required()
         ->check(CLI::Validator(isGiven, ""));
-    m_app->add_flag("--accept-spreadsheet-changes", m_acceptsSpreadsheetChanges,
-                    "Write also what spreadsheets make of texts by themselves: 0402 to 402, 1-2 to a date");
+    m_app
+        ->add_option(
+            "--sheet", m_sheet,
+            "Read this sheet of a spreadsheet; without it \"Parts\", or the first that has references")
+        ->type_name("NAME")
+        ->check(CLI::Validator(isGiven, ""));
+    m_app->add_flag("--add", m_addsProperties,
+                    "Take all columns for properties, also those of headings that no part has yet");
     m_app
         ->add_option("--new-property", m_newProperties,
                      "Take the column of this heading for a property although no part has it yet")
         ->type_name("NAME")
         ->check(CLI::Validator(isGiven, ""))
         ->allow_extra_args(false);
+    m_app->add_flag(
+        "--accept-spreadsheet-changes", m_acceptsSpreadsheetChanges,
+        "Write also what spreadsheets make of texts by themselves: 0402 to 402, 1-2 to a date, the "
+        "results of formulas");
     m_arguments.addTo(*m_app);
     m_arguments.design.addColumns(*m_app);
 }
@@ -153,25 +167,51 @@ ExitStatus ApplyCommand::run()
     if (!locale) {
         return ExitStatus::WrongUsage;
     }
+    const bool isSpreadsheet = isSpreadsheetFile(QString::fromStdString(m_edits));
+    if (!m_sheet.empty() && !isSpreadsheet) {
+        console::message(QStringLiteral("--sheet needs a spreadsheet (.xlsx or .ods)"));
+        return ExitStatus::WrongUsage;
+    }
     OpenDesign design(*locale);
     if (const ExitStatus status = design.open(m_arguments.design, true); status != ExitStatus::Done) {
         return status;
     }
     DesignEdits edits(design);
-    const QString path = QString::fromStdString(m_edits);
-    QStringList newProperties;
-    for (const std::string &name : m_newProperties) {
-        newProperties << QString::fromStdString(name).trimmed();
+    if (const ExitStatus status = readEdits(design, edits, isSpreadsheet); status != ExitStatus::Done) {
+        return status;
     }
-    EditTable comparison(path, design, edits, {m_acceptsSpreadsheetChanges, newProperties});
+    return edits.write(m_arguments.options());
+}
+
+ExitStatus ApplyCommand::readEdits(OpenDesign &design, DesignEdits &edits, bool isSpreadsheet) const
+{
+    const QString path = QString::fromStdString(m_edits);
+    const QString sheetName = QString::fromStdString(m_sheet);
+    HeadingOptions headings;
+    headings.addsProperties = m_addsProperties;
+    headings.kicad = KicadTable(design.design());
+    for (const std::string &name : m_newProperties) {
+        headings.newProperties << QString::fromStdString(name).trimmed();
+    }
+    const QStringList references =
+        ReportCells(design).columnHeadings(true).mid(2, 1) + headings.kicad.referenceLabels();
     QString error;
-    const auto table = readTable(path, comparison.cells().columnHeadings(true).at(2), &error);
-    if (!table) {
+    std::optional<SpreadsheetTable> sheet;
+    std::optional<Table> table;
+    if (isSpreadsheet) {
+        sheet = readSpreadsheetTable(path, sheetName, references, &error);
+        headings.isPartsSheet = sheet && isPartsSheet(sheet->sheet);
+    } else {
+        table = readTable(path, references, &error);
+    }
+    if (!sheet && !table) {
         console::message(error);
         return ExitStatus::UnreadableInput;
     }
-    comparison.compare(*table);
-    return edits.write(m_arguments.options());
+    EditTable comparison(path, design, edits, {m_acceptsSpreadsheetChanges, headings});
+    sheet ? comparison.compare(*sheet) : comparison.compare(*table);
+    console::notices(comparison.notices());
+    return ExitStatus::Done;
 }
 
 void UndoCommand::addTo(CLI::App &program)

@@ -16,6 +16,7 @@
 #include <string>
 #include <vector>
 
+class DesignEdits;
 class OpenDesign;
 
 /// The part of a command line that says which design is changed, and how.
@@ -63,8 +64,13 @@ public:
     [[nodiscard]] ExitStatus run() override;
 
 private:
+    /// Compares the file with the design; prints why it cannot be read.
+    [[nodiscard]] ExitStatus readEdits(OpenDesign &design, DesignEdits &edits, bool isSpreadsheet) const;
+
     WriteArguments m_arguments;
     std::string m_edits;
+    std::string m_sheet;
+    bool m_addsProperties = false;
     bool m_acceptsSpreadsheetChanges = false;
     std::vector<std::string> m_newProperties;
 };

@@ -12,8 +12,12 @@
 #include "host/framework/hosttext.h"
 #include "host/framework/hostui.h"
 #include "standalone/loadeddesign.h"
+#include "views/report/spreadsheet.h"
+
+#include <QSet>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -24,6 +28,17 @@ constexpr qsizetype mostNamedChanges = 10;
 QString plainText(const QString &cell, const EditColumn &column)
 {
     return column.isField ? withoutAffixes(cell, column.report.field) : cell;
+}
+
+/// Whether a text that is a number too long to calculate with became the next one that is none.
+bool isNearNumber(const QString &before, const QString &after)
+{
+    constexpr double lastExactDigit = 1e-14;
+    constexpr qsizetype exactDigits = 15;
+    bool isNumber = false;
+    const double told = before.toDouble(&isNumber);
+    return isNumber && before.size() > exactDigits &&
+           std::abs(told - after.toDouble()) <= lastExactDigit * std::abs(told);
 }
 
 bool isFilled(const QString &text)
@@ -47,7 +62,17 @@ EditTable::EditTable(const QString &path, OpenDesign &design, DesignEdits &edits
 
 QString EditTable::place(int line) const
 {
-    return m_path + u':' + QString::number(line);
+    return m_path +
+           (m_sheet ? QStringLiteral(": sheet ") + m_sheet->sheet + QStringLiteral(", row ")
+                    : QStringLiteral(":")) +
+           QString::number(line);
+}
+
+QString EditTable::place(int line, const EditColumn &column) const
+{
+    return m_sheet ? m_path + QStringLiteral(": sheet ") + m_sheet->sheet + QStringLiteral(", cell ") +
+                         cellAddress(line, column.index)
+                   : place(line);
 }
 
 void EditTable::refuse(int line, const QString &text)
@@ -55,12 +80,34 @@ void EditTable::refuse(int line, const QString &text)
     m_edits.refuse(place(line) + QStringLiteral(": ") + text);
 }
 
+void EditTable::refuse(const TableRow &row, const EditColumn &column, const QString &reference,
+                       const QString &text)
+{
+    m_edits.refuse(place(row.line, column) + QStringLiteral(": ") + reference + QStringLiteral(", ") +
+                   column.heading + QStringLiteral(": ") + text);
+}
+
+void EditTable::compare(const SpreadsheetTable &sheet)
+{
+    m_sheet = &sheet;
+    for (const QString &notice : sheet.notices) {
+        m_notices << m_path + QStringLiteral(": ") + notice;
+    }
+    compare(sheet.table);
+    m_sheet = nullptr;
+}
+
 void EditTable::compare(const Table &table)
 {
-    QStringList problems;
-    m_columns = editColumns(table, m_cells, m_options.newProperties, &problems);
-    for (const QString &problem : std::as_const(problems)) {
+    EditColumns found = editColumns(table, m_cells, m_options.headings);
+    m_columns = std::move(found.columns);
+    m_isFromKicad = found.isFromKicad;
+    for (const QString &problem : std::as_const(found.problems)) {
         refuse(table.headingLine, problem);
+    }
+    if (!found.ignored.isEmpty()) {
+        m_notices << m_path + QStringLiteral(": columns that hold no properties are left out: ") +
+                         found.ignored.join(QStringLiteral(", "));
     }
     if (!isWithinLimit(table)) {
         return;
@@ -105,6 +152,7 @@ void EditTable::compareRow(const Table &table, const TableRow &row)
         return;
     }
     const QStringList references = m_reader.references();
+    m_kicadLists.clear();
     for (const QString &reference : references) {
         if (!m_edits.isKnown(reference)) {
             m_edits.refuseUnknown(reference, place(row.line));
@@ -112,34 +160,38 @@ void EditTable::compareRow(const Table &table, const TableRow &row)
         }
         const TableRow *&first = m_rows[reference];
         if (first && !hasSameTexts(row, *first)) {
-            refuse(row.line,
-                   reference + QStringLiteral(" has other texts on line ") + QString::number(first->line));
+            refuse(row.line, reference +
+                                 (m_sheet ? QStringLiteral(" has other texts in row ")
+                                          : QStringLiteral(" has other texts on line ")) +
+                                 QString::number(first->line));
         } else {
             first = &row;
             for (const EditColumn &column : m_columns) {
-                compareCell(reference, references.first(), row, column);
+                compareCell(reference, references, row, column);
             }
         }
     }
 }
 
-void EditTable::compareCell(const QString &reference, const QString &firstReference, const TableRow &row,
+void EditTable::compareCell(const QString &reference, const QStringList &references, const TableRow &row,
                             const EditColumn &column)
 {
-    const QString cell = row.cells.value(column.index);
-    const QStringList shown = shownTexts(reference, firstReference, column);
-    if (std::any_of(shown.cbegin(), shown.cend(),
-                    [&](const QString &text) { return isUnchanged(cell, text, column); })) {
+    const QString cell = cellOf(row, column);
+    const QStringList shown = shownTexts(reference, references.first(), column);
+    const bool isSame = std::any_of(shown.cbegin(), shown.cend(),
+                                    [&](const QString &text) { return isUnchanged(cell, text, column); });
+    if (isSame || isKicadList(cell, references, column)) {
         return;
     }
-    const QString made =
-        m_options.acceptsSpreadsheetChanges ? QString() : spreadsheetChangeOf(cell, shown, column);
+    const QString made = m_options.acceptsSpreadsheetChanges
+                             ? QString()
+                             : spreadsheetChangeOf(cell, shown, column, kindOf(row, column));
     if (column.isFixed) {
-        refuse(row.line, reference + QStringLiteral(", ") + column.heading +
-                             QStringLiteral(": this column tells what cannot be changed here"));
+        refuse(row, column, reference, QStringLiteral("this column tells what cannot be changed here"));
     } else if (column.index >= row.cells.size()) {
-        refuse(row.line, reference + QStringLiteral(", ") + column.heading +
-                             QStringLiteral(": the row has no cell for it"));
+        refuse(row, column, reference, QStringLiteral("the row has no cell for it"));
+    } else if (const QString problem = kindProblem(row, column); !problem.isEmpty()) {
+        refuseSpreadsheetChange(row, column, reference, problem);
     } else if (const QString name = otherName(reference, column);
                !name.isEmpty() && !isFilled(plainText(cell, column))) {
         EmptyCells &cells = m_emptyCells[column.index];
@@ -151,16 +203,64 @@ void EditTable::compareCell(const QString &reference, const QString &firstRefere
                             QStringLiteral(" under the name ") + name;
         }
     } else if (const QString other = columnOfSameText(reference, row, column); !other.isEmpty()) {
-        refuse(row.line,
-               reference + QStringLiteral(", ") + column.heading +
-                   QStringLiteral(": the part has this under the name ") + other +
+        refuse(row, column, reference,
+               QStringLiteral("the part has this under the name ") + other +
                    QStringLiteral("; delete one of the two, or take names as they are (--exact-names)"));
     } else if (!made.isEmpty()) {
-        refuseSpreadsheetChange(row.line, reference + QStringLiteral(", ") + column.heading +
-                                              QStringLiteral(": ") + made);
+        refuseSpreadsheetChange(row, column, reference, made);
     } else {
-        m_edits.add(reference, column.report.field.propertyName, plainText(cell, column), place(row.line));
+        m_edits.add(reference, column.report.field.propertyName, plainText(cell, column),
+                    place(row.line, column));
     }
+}
+
+QString EditTable::cellOf(const TableRow &row, const EditColumn &column) const
+{
+    QString cell = row.cells.value(column.index);
+    const bool isShownAsNumber = column.report.isNumeric && kindOf(row, column) == CellKind::Number;
+    return isShownAsNumber ? cell.replace(u'.', HostUi::current().locale().decimalPoint()) : cell;
+}
+
+QString EditTable::kindProblem(const TableRow &row, const EditColumn &column) const
+{
+    const auto type = m_design.database().propertyTypes().type(column.report.field.propertyName);
+    const CellKind kind = kindOf(row, column);
+    // TRUE is a text of such properties.
+    const bool isTruth = kind == CellKind::Truth && type && hasTwoStates(*type);
+    static const QMap<CellKind, QString> contents = {
+        {CellKind::Percentage, QStringLiteral("a percentage")},
+        {CellKind::Date, QStringLiteral("a date or time")},
+        {CellKind::Truth, QStringLiteral("true or false")},
+        {CellKind::Formula, QStringLiteral("a formula")},
+        {CellKind::Error, QStringLiteral("an error")},
+        {CellKind::Covered, QStringLiteral("nothing of its own under a merged cell")},
+    };
+    return m_options.acceptsSpreadsheetChanges || isTruth || !contents.contains(kind)
+               ? QString()
+               : QStringLiteral("the cell holds ") + contents.value(kind) +
+                     (row.cells.value(column.index).isEmpty()
+                          ? QString()
+                          : QStringLiteral(", shown as ") + quotedText(row.cells.at(column.index), {})) +
+                     QStringLiteral(", and no text");
+}
+
+bool EditTable::isKicadList(const QString &cell, const QStringList &references, const EditColumn &column)
+{
+    if (references.size() < 2) {
+        return false;
+    }
+    auto list = m_kicadLists.find(column.index);
+    if (list == m_kicadLists.end()) {
+        QStringList texts;
+        for (const QString &reference : references) {
+            texts << componentTexts(reference, column).value(0);
+        }
+        const QStringList distinct(QSet<QString>(texts.cbegin(), texts.cend()).values());
+        // Parts of other tables whose only text is that of one have lost none.
+        const bool isList = distinct.size() - (distinct.contains(QString()) ? 1 : 0) > 1 || m_isFromKicad;
+        list = m_kicadLists.insert(column.index, isList ? KicadTable::listed(distinct) : QString());
+    }
+    return !cell.isEmpty() && cell == *list;
 }
 
 QString EditTable::otherName(const QString &reference, const EditColumn &column) const
@@ -230,6 +330,9 @@ QStringList EditTable::shownTexts(const QString &reference, const QString &first
     QStringList shown;
     if (part) {
         shown << m_cells.text(*part, column);
+        if (!column.isField) {
+            shown << part->storedProperty(column.report.property);
+        }
     }
     shown << componentTexts(reference, column);
     // A line of the report shows the texts of its first part.
@@ -245,7 +348,8 @@ QStringList EditTable::shownTexts(const QString &reference, const QString &first
 
 bool EditTable::isUnchanged(const QString &cell, const QString &shown, const EditColumn &column) const
 {
-    if (isReportCell(cell, shown)) {
+    if (isReportCell(cell, shown) || (m_sheet && cell == Spreadsheet::cellText(shown)) ||
+        (cell.contains(u'{') && KicadTable::withoutBraces(cell) == shown)) {
         return true;
     }
     const QString before = plainText(shown, column);
@@ -255,7 +359,7 @@ bool EditTable::isUnchanged(const QString &cell, const QString &shown, const Edi
 }
 
 QString EditTable::spreadsheetChangeOf(const QString &cell, const QStringList &shown,
-                                       const EditColumn &column) const
+                                       const EditColumn &column, CellKind kind) const
 {
     const auto type = m_design.database().propertyTypes().type(column.report.field.propertyName);
     // TRUE means the same as True there, and other texts are refused.
@@ -265,18 +369,23 @@ QString EditTable::spreadsheetChangeOf(const QString &cell, const QStringList &s
     for (const QString &text : shown) {
         const QString before = plainText(text, column);
         const QString after = plainText(cell, column);
-        if (const QString made = spreadsheetChange(before, after, m_numbers); !made.isEmpty()) {
+        const QString made = kind == CellKind::Number && isNearNumber(before, after)
+                                 ? QStringLiteral("it is taken for a number")
+                                 : spreadsheetChange(before, after, m_numbers);
+        if (!made.isEmpty()) {
             return u'"' + before + QStringLiteral("\" became \"") + after + QStringLiteral("\": ") + made;
         }
     }
     return {};
 }
 
-void EditTable::refuseSpreadsheetChange(int line, const QString &text)
+void EditTable::refuseSpreadsheetChange(const TableRow &row, const EditColumn &column,
+                                        const QString &reference, const QString &text)
 {
     if (++m_spreadsheetChanges <= mostNamedChanges) {
-        refuse(line, text + QStringLiteral(", as spreadsheets do by themselves "
-                                           "(--accept-spreadsheet-changes writes it)"));
+        refuse(row, column, reference,
+               text + QStringLiteral(", as spreadsheets do by themselves "
+                                     "(--accept-spreadsheet-changes writes it)"));
     }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "cli/editcolumns.h"
+#include "cli/spreadsheettable.h"
 #include "core/numberreader.h"
 #include "standalone/referencereader.h"
 #include "standalone/tablefile.h"
@@ -22,10 +23,7 @@ struct EditTableOptions
 {
     /// What spreadsheets make of texts by themselves is written, not refused.
     bool acceptsSpreadsheetChanges = false;
-    /// Headings that mean properties which the design does not have yet.
-    QStringList newProperties;
-
-    bool operator==(const EditTableOptions &) const = default;
+    HeadingOptions headings;
 };
 
 /// Finds the cells of a table that differ from what a report would hold now, and makes edits of them.
@@ -37,13 +35,17 @@ public:
 
     /// Adds an edit for each cell that differs. A row may name several references.
     void compare(const Table &table);
+    /// The same for a sheet, whose cells may hold what is no text.
+    void compare(const SpreadsheetTable &sheet);
+    /// What was left out of the table, one sentence each.
+    [[nodiscard]] const QStringList &notices() const { return m_notices; }
 
     [[nodiscard]] const ReportCells &cells() const { return m_cells; }
 
 private:
     [[nodiscard]] bool isWithinLimit(const Table &table);
     void compareRow(const Table &table, const TableRow &row);
-    void compareCell(const QString &reference, const QString &firstReference, const TableRow &row,
+    void compareCell(const QString &reference, const QStringList &references, const TableRow &row,
                      const EditColumn &column);
     /// What a report may hold for the reference now.
     [[nodiscard]] QStringList shownTexts(const QString &reference, const QString &firstReference,
@@ -52,8 +54,9 @@ private:
     [[nodiscard]] bool isUnchanged(const QString &cell, const QString &shown, const EditColumn &column) const;
     /// What a spreadsheet has made of one of the texts; empty when it has not.
     [[nodiscard]] QString spreadsheetChangeOf(const QString &cell, const QStringList &shown,
-                                              const EditColumn &column) const;
-    void refuseSpreadsheetChange(int line, const QString &text);
+                                              const EditColumn &column, CellKind kind) const;
+    void refuseSpreadsheetChange(const TableRow &row, const EditColumn &column, const QString &reference,
+                                 const QString &text);
     [[nodiscard]] bool hasSameTexts(const TableRow &row, const TableRow &other) const;
     /// The name under which the column's text is stored and the other column that would change it, in words,
     /// where the cells of both would be one text. Empty when there is none.
@@ -66,9 +69,25 @@ private:
     /// What the report shows of every component of that reference.
     [[nodiscard]] QStringList componentTexts(const QString &reference, const EditColumn &column) const;
     void refuse(int line, const QString &text);
+    /// Refuses a cell of a row for what it says of a reference.
+    void refuse(const TableRow &row, const EditColumn &column, const QString &reference, const QString &text);
     [[nodiscard]] QString place(int line) const;
+    [[nodiscard]] QString place(int line, const EditColumn &column) const;
+    [[nodiscard]] CellKind kindOf(const TableRow &row, const EditColumn &column) const
+    {
+        return m_sheet ? m_sheet->kind(row.line, column.index) : CellKind::Text;
+    }
+    /// The cell of the column; numbers of a sheet as people write them.
+    [[nodiscard]] QString cellOf(const TableRow &row, const EditColumn &column) const;
+    /// Why a cell of a sheet cannot be taken for a text; empty when it can.
+    [[nodiscard]] QString kindProblem(const TableRow &row, const EditColumn &column) const;
+    /// Whether the cell is what KiCad writes of a line whose parts have different texts.
+    [[nodiscard]] bool isKicadList(const QString &cell, const QStringList &references,
+                                   const EditColumn &column);
 
     QString m_path;
+    /// Null for a file of delimited cells.
+    const SpreadsheetTable *m_sheet = nullptr;
     OpenDesign &m_design;
     DesignEdits &m_edits;
     ReportCells m_cells;
@@ -88,6 +107,10 @@ private:
     /// By the number of the column.
     QMap<qsizetype, EmptyCells> m_emptyCells;
     std::vector<EditColumn> m_columns;
+    bool m_isFromKicad = false;
+    /// What KiCad would write in the cells of the current row, by the number of the column.
+    QHash<qsizetype, QString> m_kicadLists;
+    QStringList m_notices;
     /// The row in which a reference was met first.
     QHash<QString, const TableRow *> m_rows;
 };

@@ -30,3 +30,8 @@ QString Part::property(const PropertyQuery &query) const
 {
     return isBOMPart() ? property(query.name()) : query.text(m_component, m_value);
 }
+
+QString Part::storedProperty(const PropertyQuery &query) const
+{
+    return isBOMPart() ? property(query.name()) : query.storedText(m_component, m_value);
+}

@@ -66,6 +66,8 @@ public:
     [[nodiscard]] virtual QString property(const QString &name) const;
     /// The same for a property that is asked of many parts.
     [[nodiscard]] QString property(const PropertyQuery &query) const;
+    /// Its text as it is stored, without the conversion for display.
+    [[nodiscard]] QString storedProperty(const PropertyQuery &query) const;
 
     [[nodiscard]] const COMPONENT *component() const { return m_component; }
     [[nodiscard]] const PartDatabase *database() const { return m_database; }

@@ -63,6 +63,11 @@ QString PropertyQuery::text(const COMPONENT *component, const QString &value) co
     return m_source == Source::Value ? value : m_display(fromHostText(hostText(component)));
 }
 
+QString PropertyQuery::storedText(const COMPONENT *component, const QString &value) const
+{
+    return m_source == Source::Value ? value : fromHostText(hostText(component));
+}
+
 QByteArrayView PropertyQuery::hostText(const COMPONENT *component) const
 {
     if (!component) {

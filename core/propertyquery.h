@@ -38,6 +38,9 @@ public:
     /// The text for a part of the design; `value` is the part's value, without a component all else is empty.
     [[nodiscard]] QString text(const COMPONENT *component, const QString &value) const;
 
+    /// The same without the conversion for display.
+    [[nodiscard]] QString storedText(const COMPONENT *component, const QString &value) const;
+
     /// The host text that text() is made from, for any property but the value: equal host texts of one
     /// property give equal texts.
     [[nodiscard]] QByteArrayView hostText(const COMPONENT *component) const;

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <span>
+#include <utility>
 
 namespace {
 
@@ -27,17 +28,20 @@ QStringList rowTexts(const designs::CsvFile &file, const designs::CsvRow &row)
     return texts;
 }
 
+constexpr std::size_t searchedRows = 20;
+
 /// Finds the row of headings and, in it, the references.
-bool findHeadings(const designs::CsvFile &file, const QString &referenceHeading, std::size_t *headingRow,
+bool findHeadings(const designs::CsvFile &file, const QStringList &referenceHeadings, std::size_t *headingRow,
                   qsizetype *referenceColumn, designs::Problem *problem)
 {
-    constexpr std::size_t searchedRows = 20;
-    for (std::size_t row = 0; row < std::min(file.rows().size(), searchedRows); ++row) {
-        const qsizetype column = rowTexts(file, file.rows()[row]).indexOf(referenceHeading);
-        if (column >= 0) {
-            *headingRow = row;
-            *referenceColumn = column;
-            return true;
+    for (const QString &heading : referenceHeadings) {
+        for (std::size_t row = 0; row < std::min(file.rows().size(), searchedRows); ++row) {
+            const qsizetype column = rowTexts(file, file.rows()[row]).indexOf(heading);
+            if (column >= 0) {
+                *headingRow = row;
+                *referenceColumn = column;
+                return true;
+            }
         }
     }
     std::vector<designs::Problem> warnings;
@@ -49,9 +53,24 @@ bool findHeadings(const designs::CsvFile &file, const QString &referenceHeading,
     return columns.has_value();
 }
 
+/// The first rows as a file of delimited cells, in which headings are looked for.
+std::optional<designs::CsvFile> firstRows(const std::vector<TableRow> &rows)
+{
+    QByteArray bytes;
+    for (const TableRow &row : std::span(rows).first(std::min(rows.size(), searchedRows))) {
+        QStringList cells;
+        for (const QString &cell : row.cells) {
+            cells << u'"' + QString(cell).replace(u'"', QLatin1String("\"\"")) + u'"';
+        }
+        bytes += cells.join(u',').toUtf8() + '\n';
+    }
+    designs::Problem problem;
+    return designs::CsvFile::parse(std::move(bytes), &problem);
+}
+
 } // namespace
 
-std::optional<Table> readTable(const QString &path, const QString &referenceHeading, QString *error)
+std::optional<Table> readTable(const QString &path, const QStringList &referenceHeadings, QString *error)
 {
     designs::Problem problem;
     const auto fail = [&] {
@@ -66,7 +85,7 @@ std::optional<Table> readTable(const QString &path, const QString &referenceHead
     const auto file = designs::CsvFile::parse(std::move(*bytes), &problem);
     std::size_t headingRow = 0;
     Table table;
-    if (!file || !findHeadings(*file, referenceHeading, &headingRow, &table.referenceColumn, &problem)) {
+    if (!file || !findHeadings(*file, referenceHeadings, &headingRow, &table.referenceColumn, &problem)) {
         return fail();
     }
     const designs::CsvRow &headings = file->rows()[headingRow];
@@ -77,5 +96,21 @@ std::optional<Table> readTable(const QString &path, const QString &referenceHead
             table.rows.push_back({int(row.line), rowTexts(*file, row)});
         }
     }
+    return table;
+}
+
+std::optional<Table> tableOf(std::vector<TableRow> rows, const QStringList &referenceHeadings)
+{
+    const auto file = firstRows(rows);
+    std::size_t headingRow = 0;
+    Table table;
+    designs::Problem problem;
+    if (!file || !findHeadings(*file, referenceHeadings, &headingRow, &table.referenceColumn, &problem)) {
+        return std::nullopt;
+    }
+    table.headings = rows[headingRow].cells;
+    table.headingLine = rows[headingRow].line;
+    rows.erase(rows.begin(), rows.begin() + std::ptrdiff_t(headingRow) + 1);
+    table.rows = std::move(rows);
     return table;
 }

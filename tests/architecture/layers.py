@@ -22,6 +22,7 @@ RICHTEXT = {"richtext/css", "richtext/xhtml", "richtext/paper", "richtext/editor
 FORMATS = {"designs/kicad", "designs/kicad/edit", "designs/csv", "designs/csv/edit"}
 REACH = {
     "files": set(),
+    "sheets": set(),
     "host": FILES,
     "richtext/css": set(),
     "richtext/xhtml": {"richtext/css"} | FILES,
@@ -45,7 +46,8 @@ REACH = {
     "views": {"views/report", "core", "templates"} | RICHTEXT | HOST,
     "editors": {"core", "templates"} | HOST,
     "module": {"editors", "views", "views/report", "core", "templates"} | RICHTEXT | HOST,
-    "cli": {"account", "account/design", "fitting", "views", "views/report", "core", "templates", "standalone"} | RICHTEXT | HOST,
+    "cli": {"account", "account/design", "fitting", "views", "views/report", "core", "templates", "standalone", "sheets"}
+    | RICHTEXT | HOST | FILES,
     "app": {"account/design", "fitting", "standalone", "templates"} | RICHTEXT | HOST,
 }
 # What a layer reaches through one that stands between: standalone is built on designs, and who uses standalone sees
@@ -54,7 +56,8 @@ DESIGNS = {"designs", "designs/transaction"}
 THROUGH = {"account/design": DESIGNS, "account": DESIGNS, "fitting": DESIGNS, "cli": DESIGNS, "app": DESIGNS}
 # Layers, or folders of one, that do without Qt's widgets.
 NO_WIDGETS = {
-    "files", "designs", "standalone", "templates", "core", "account", "fitting", "views/report", "host/framework", "host/netlist",
+    "files", "sheets", "designs", "standalone", "templates", "core", "account", "fitting", "views/report", "host/framework",
+    "host/netlist",
     "host/propdefs",
 }
 WIDGET_HEADER = re.compile(

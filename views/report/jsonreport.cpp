@@ -46,12 +46,16 @@ void writeLine(JsonWriter &json, const Report &report, BomLine line, const QList
     }
     json.endArray();
     json.entry(u"text", report.references(line));
-    json.key(u"values");
-    json.beginArray();
+    QStringList shown;
+    QStringList stored;
     for (const ReportColumn &column : report.columns()) {
-        json.text(report.text(*line.front(), column));
+        shown << report.text(*line.front(), column);
+        stored << line.front()->storedProperty(column.property);
     }
-    json.endArray();
+    writeTexts(json, u"values", shown);
+    if (stored != shown) {
+        writeTexts(json, u"stored", stored);
+    }
     if (!differences.isEmpty()) {
         json.objects(u"differences", differences,
                      [&json](const JoinedLine &joined) { writeDifference(json, joined); });

@@ -55,15 +55,11 @@ private:
     locale_t m_previous;
 };
 
-/// XML has no control characters, cells know line feeds only, and a text such as _x0041_ would be read as the
-/// character of that number.
+/// A text such as _x0041_ would be read as the character of that number.
 QByteArray cellBytes(const QString &text)
 {
     static const QRegularExpression escape(QStringLiteral("_(?=x[0-9A-Fa-f]{4}_)"));
-    QString clean = xmlText(text);
-    if (clean.contains(u'\r')) {
-        clean.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
-    }
+    QString clean = Spreadsheet::cellText(text);
     if (clean.contains(QLatin1String("_x"))) {
         clean.replace(escape, QStringLiteral("_x005F_"));
     }
@@ -294,6 +290,15 @@ void Spreadsheet::freezeRow(int row, int lastColumn, int lastRow)
         check(worksheet_ignore_errors(m_sheet, LXW_IGNORE_NUMBER_STORED_AS_TEXT,
                                       range(0, 0, lastRow, lastColumn).toLatin1().constData()));
     }
+}
+
+QString Spreadsheet::cellText(const QString &text)
+{
+    QString clean = xmlText(text);
+    if (clean.contains(u'\r')) {
+        clean.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+    }
+    return clean;
 }
 
 QString Spreadsheet::range(int firstRow, int firstColumn, int lastRow, int lastColumn)

@@ -42,6 +42,8 @@ class Spreadsheet final
 public:
     /// The most characters of a cell, in UTF-16 units.
     static constexpr qsizetype MostCharacters = 32767;
+    /// Of a sheet.
+    static constexpr qsizetype MostRows = 1'048'576;
 
     struct Properties
     {
@@ -86,6 +88,8 @@ public:
     /// filters for the rows down to `lastRow`. Texts that look like numbers are no faults in these.
     void freezeRow(int row, int lastColumn, int lastRow);
 
+    /// What a cell holds of a text: line feeds only, and none of the characters that XML lacks.
+    [[nodiscard]] static QString cellText(const QString &text);
     /// Cells as formulas name them, rows and columns from 0.
     [[nodiscard]] static QString range(int firstRow, int firstColumn, int lastRow, int lastColumn);
     /// Whether a number format is not longer than the format allows.

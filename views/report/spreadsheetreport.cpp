@@ -5,6 +5,7 @@
 #include "core/part.h"
 #include "host/framework/hostui.h"
 #include "richtext/xhtml/links.h"
+#include "views/report/partssheet.h"
 #include "views/report/report.h"
 #include "views/report/spreadsheet.h"
 
@@ -62,6 +63,8 @@ class SpreadsheetWriter final
 public:
     SpreadsheetWriter(const Report &report, Spreadsheet &sheet);
     void write();
+    /// Whether there are more parts than a sheet of their own could hold.
+    [[nodiscard]] bool lacksParts() const { return m_lacksParts; }
 
 private:
     struct Column
@@ -97,6 +100,7 @@ private:
     ReportDesign m_design;
     QString m_designFolder;
     std::vector<Column> m_columns;
+    bool m_lacksParts = false;
 };
 
 SpreadsheetWriter::SpreadsheetWriter(const Report &report, Spreadsheet &sheet)
@@ -126,6 +130,7 @@ void SpreadsheetWriter::write()
     m_sheet.freezeRow(headings, lastColumn(), all.lastRow);
     m_sheet.nextRow();
     writeTotals(tr("Totals:"), m_report.grandTotals(), all, CellLook::Total);
+    m_lacksParts = !writePartsSheet(m_report, m_sheet);
     writeNotes();
 }
 
@@ -290,9 +295,14 @@ SpreadsheetReport spreadsheetReport(const Report &report)
 {
     const ReportDesign design = report.design();
     Spreadsheet sheet({titleOf(design), design.author, HostUi::current().now()});
-    SpreadsheetWriter(report, sheet).write();
+    SpreadsheetWriter writer(report, sheet);
+    writer.write();
     const QByteArray file = sheet.bytes();
-    return {file, sheet.problem(), sheet.notices()};
+    QStringList notices = sheet.notices();
+    if (writer.lacksParts()) {
+        notices << tr("There is no sheet of parts: a sheet holds %1 rows.").arg(Spreadsheet::MostRows);
+    }
+    return {file, sheet.problem(), notices};
 }
 
 QString numberFormat(const BOMField &field)

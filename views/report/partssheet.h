@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class Report;
+class Spreadsheet;
+
+/// The sheet of a spreadsheet that has a row per part and can be applied to the design.
+[[nodiscard]] inline QString partsSheetName()
+{
+    return QStringLiteral("Parts");
+}
+
+/// Writes the sheet: reference, then the properties of the report's columns under their own names, with the
+/// texts as they are stored, all of them cells of texts. False when the parts are more than a sheet can hold,
+/// which then gets none.
+[[nodiscard]] bool writePartsSheet(const Report &report, Spreadsheet &spreadsheet);
