@@ -203,6 +203,9 @@ ExitStatus ApplyCommand::readEdits(OpenDesign &design, DesignEdits &edits, bool 
         headings.isPartsSheet = sheet && isPartsSheet(sheet->sheet);
     } else {
         table = readTable(path, references, &error);
+        if (table) {
+            joinBillRows(*table, references.front());
+        }
     }
     if (!sheet && !table) {
         console::message(error);

@@ -17,7 +17,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace {
@@ -28,17 +27,6 @@ constexpr qsizetype mostNamedChanges = 10;
 QString plainText(const QString &cell, const EditColumn &column)
 {
     return column.isField ? withoutAffixes(cell, column.report.field) : cell;
-}
-
-/// Whether a text that is a number too long to calculate with became the next one that is none.
-bool isNearNumber(const QString &before, const QString &after)
-{
-    constexpr double lastExactDigit = 1e-14;
-    constexpr qsizetype exactDigits = 15;
-    bool isNumber = false;
-    const double told = before.toDouble(&isNumber);
-    return isNumber && before.size() > exactDigits &&
-           std::abs(told - after.toDouble()) <= lastExactDigit * std::abs(told);
 }
 
 bool isFilled(const QString &text)
@@ -191,7 +179,8 @@ void EditTable::compareCell(const QString &reference, const QStringList &referen
     } else if (column.index >= row.cells.size()) {
         refuse(row, column, reference, QStringLiteral("the row has no cell for it"));
     } else if (const QString problem = kindProblem(row, column); !problem.isEmpty()) {
-        refuseSpreadsheetChange(row, column, reference, problem);
+        refuseSpreadsheetChange(row, column, reference,
+                                problem + QStringLiteral(" (--accept-spreadsheet-changes writes it)"));
     } else if (const QString name = otherName(reference, column);
                !name.isEmpty() && !isFilled(plainText(cell, column))) {
         EmptyCells &cells = m_emptyCells[column.index];
@@ -207,7 +196,9 @@ void EditTable::compareCell(const QString &reference, const QStringList &referen
                QStringLiteral("the part has this under the name ") + other +
                    QStringLiteral("; delete one of the two, or take names as they are (--exact-names)"));
     } else if (!made.isEmpty()) {
-        refuseSpreadsheetChange(row, column, reference, made);
+        refuseSpreadsheetChange(row, column, reference,
+                                made + QStringLiteral(", as spreadsheets do by themselves "
+                                                      "(--accept-spreadsheet-changes writes it)"));
     } else {
         m_edits.add(reference, column.report.field.propertyName, plainText(cell, column),
                     place(row.line, column));
@@ -237,11 +228,10 @@ QString EditTable::kindProblem(const TableRow &row, const EditColumn &column) co
     };
     return m_options.acceptsSpreadsheetChanges || isTruth || !contents.contains(kind)
                ? QString()
-               : QStringLiteral("the cell holds ") + contents.value(kind) +
+               : QStringLiteral("the cell holds no text but ") + contents.value(kind) +
                      (row.cells.value(column.index).isEmpty()
                           ? QString()
-                          : QStringLiteral(", shown as ") + quotedText(row.cells.at(column.index), {})) +
-                     QStringLiteral(", and no text");
+                          : QStringLiteral(", ") + quotedText(row.cells.at(column.index), {}));
 }
 
 bool EditTable::isKicadList(const QString &cell, const QStringList &references, const EditColumn &column)
@@ -329,10 +319,7 @@ QStringList EditTable::shownTexts(const QString &reference, const QString &first
     const Part *part = m_design.database().part(reference);
     QStringList shown;
     if (part) {
-        shown << m_cells.text(*part, column);
-        if (!column.isField) {
-            shown << part->storedProperty(column.report.property);
-        }
+        shown << m_cells.text(*part, column) << part->storedProperty(column.report.property);
     }
     shown << componentTexts(reference, column);
     // A line of the report shows the texts of its first part.
@@ -349,11 +336,15 @@ QStringList EditTable::shownTexts(const QString &reference, const QString &first
 bool EditTable::isUnchanged(const QString &cell, const QString &shown, const EditColumn &column) const
 {
     if (isReportCell(cell, shown) || (m_sheet && cell == Spreadsheet::cellText(shown)) ||
-        (cell.contains(u'{') && KicadTable::withoutBraces(cell) == shown)) {
+        (cell.contains(u'{') && KicadTable::withoutBraces(cell) == shown) ||
+        (m_isFromKicad && shown.contains(u'\t') && isReportCell(cell, QString(shown).remove(u'\t')))) {
         return true;
     }
     const QString before = plainText(shown, column);
     const QString after = plainText(cell, column);
+    if (column.report.isNumeric && isNearNumber(before, after, m_numbers)) {
+        return true;
+    }
     return isSameNumber(before, after, m_numbers) &&
            (column.report.isNumeric || spreadsheetChange(before, after, m_numbers).isEmpty());
 }
@@ -369,9 +360,10 @@ QString EditTable::spreadsheetChangeOf(const QString &cell, const QStringList &s
     for (const QString &text : shown) {
         const QString before = plainText(text, column);
         const QString after = plainText(cell, column);
-        const QString made = kind == CellKind::Number && isNearNumber(before, after)
-                                 ? QStringLiteral("it is taken for a number")
-                                 : spreadsheetChange(before, after, m_numbers);
+        const QString made = spreadsheetChange(before, after, m_numbers);
+        if (made.isEmpty() && kind == CellKind::Number && isTakenForNumber(before, after.toDouble())) {
+            return u'"' + before + QStringLiteral("\" became the number ") + after;
+        }
         if (!made.isEmpty()) {
             return u'"' + before + QStringLiteral("\" became \"") + after + QStringLiteral("\": ") + made;
         }
@@ -383,9 +375,7 @@ void EditTable::refuseSpreadsheetChange(const TableRow &row, const EditColumn &c
                                         const QString &reference, const QString &text)
 {
     if (++m_spreadsheetChanges <= mostNamedChanges) {
-        refuse(row, column, reference,
-               text + QStringLiteral(", as spreadsheets do by themselves "
-                                     "(--accept-spreadsheet-changes writes it)"));
+        refuse(row, column, reference, text);
     }
 }
 

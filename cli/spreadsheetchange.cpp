@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <limits>
 #include <optional>
 
 namespace {
@@ -43,6 +45,8 @@ constexpr const char *month =
     "(?:jan|feb|mar|m\\x{e4}r|mrz|apr|may|mai|jun|jul|aug|sep|oct|okt|nov|dec|dez)[a-z]*";
 /// Spreadsheets calculate with so many digits; those behind become zeros.
 constexpr qsizetype exactDigits = 15;
+/// The share of a number that they make up.
+constexpr double lastExactDigit = 1e-14;
 
 constexpr QLatin1String digits("0123456789");
 constexpr QLatin1String digitsAndMonths("0123456789jfmasond");
@@ -171,6 +175,23 @@ bool isError(const QString &text)
     return form.matches(text);
 }
 
+/// Whether only letters and signs that an encoding lacks have become others: a question mark, or what looks
+/// like them.
+bool isRecoded(const QString &before, const QString &after)
+{
+    const QList<uint> told = before.toUcs4();
+    const QList<uint> shown = after.toUcs4();
+    return told.size() == shown.size() &&
+           std::equal(told.begin(), told.end(), shown.begin(), [](uint character, uint other) {
+               constexpr uint lastOfAscii = 127;
+               const QString plain = QString::fromUcs4(reinterpret_cast<const char32_t *>(&character), 1)
+                                         .normalized(QString::NormalizationForm_KC);
+               return character == other ||
+                      (character > lastOfAscii &&
+                       (other == u'?' || (other <= lastOfAscii && plain == QChar(char16_t(other)))));
+           });
+}
+
 qsizetype digitsOf(const QString &text)
 {
     return std::count_if(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
@@ -204,6 +225,29 @@ bool isSameNumber(const QString &a, const QString &b, const NumberReader &number
     return x && x == numbers.read(b) && digitsOf(a) <= exactDigits && digitsOf(b) <= exactDigits;
 }
 
+bool isNearNumber(const QString &before, const QString &after, const NumberReader &numbers)
+{
+    return significantDigits(after) <= exactDigits && isAbout(before, after, numbers, lastExactDigit);
+}
+
+bool isTakenForNumber(const QString &text, double number)
+{
+    QString plain;
+    std::copy_if(text.begin(), text.end(), std::back_inserter(plain), [](QChar c) {
+        return c.category() != QChar::Symbol_Currency && !c.isSpace() && c != u'"' && c != u'\'';
+    });
+    const QString withPoints = QString(plain).replace(u',', u'.');
+    const QString withoutCommas = QString(plain).remove(u',');
+    const QString withoutPoints = QString(plain).remove(u'.').replace(u',', u'.');
+    const QStringList readings = {plain, withPoints, withoutCommas, withoutPoints};
+    return std::any_of(readings.begin(), readings.end(), [number](const QString &reading) {
+        bool isNumber = false;
+        const double read = reading.toDouble(&isNumber);
+        const bool isLargest = std::isinf(read) && std::abs(number) >= std::numeric_limits<double>::max();
+        return isLargest || (isNumber && std::abs(read - number) <= lastExactDigit * std::abs(number));
+    });
+}
+
 QString spreadsheetChange(const QString &before, const QString &after, const NumberReader &numbers)
 {
     if (before == after) {
@@ -216,7 +260,6 @@ QString spreadsheetChange(const QString &before, const QString &after, const Num
     if ((isExponential(before) || isLong) && isAbout(before, after, numbers)) {
         return QStringLiteral("it is taken for a number with an exponent");
     }
-    constexpr double lastExactDigit = 1e-14;
     if (significantDigits(before) > exactDigits && significantDigits(after) <= exactDigits &&
         isAbout(before, after, numbers, lastExactDigit)) {
         return QStringLiteral("digits behind the 15th are gone");
@@ -234,6 +277,12 @@ QString spreadsheetChange(const QString &before, const QString &after, const Num
     }
     if (before.startsWith(u'=') && !after.startsWith(u'=')) {
         return QStringLiteral("it is taken for a formula");
+    }
+    if (isRecoded(before, after)) {
+        return QStringLiteral("characters are gone that its encoding lacks");
+    }
+    if (before.contains(u'\t') && after == QString(before).remove(u'\t')) {
+        return QStringLiteral("tabs are gone");
     }
     return isError(after) ? QStringLiteral("it is taken for a formula") : QString();
 }

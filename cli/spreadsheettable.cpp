@@ -43,32 +43,6 @@ bool isBlank(const QString &cell)
     return cell.trimmed().isEmpty();
 }
 
-/// The bill itself has rows that are no lines of it, and goes on in a row below where a cell cannot hold all
-/// references.
-void joinBillRows(Table &table, const QString &referenceHeading)
-{
-    const qsizetype references = table.referenceColumn;
-    if (references != 2 || table.headings.value(references) != referenceHeading) {
-        return;
-    }
-    std::vector<TableRow> rows;
-    for (TableRow &row : table.rows) {
-        const bool hasCategory = !isBlank(row.cells.value(0));
-        const bool hasReferences = !isBlank(row.cells.value(references));
-        const bool hasMore = std::count_if(row.cells.begin(), row.cells.end(),
-                                           [](const QString &cell) { return !isBlank(cell); }) > 1;
-        if (!hasReferences && hasCategory) {
-            continue;
-        }
-        if (hasReferences && !hasMore && !rows.empty()) {
-            rows.back().cells[references] += row.cells.at(references);
-        } else {
-            rows.push_back(std::move(row));
-        }
-    }
-    table.rows = std::move(rows);
-}
-
 std::optional<SpreadsheetTable> tableOfSheet(Sheet sheet, const QStringList &referenceHeadings)
 {
     SpreadsheetTable read;
@@ -127,6 +101,31 @@ QList<qsizetype> candidates(const QStringList &names, const QString &wanted)
 }
 
 } // namespace
+
+void joinBillRows(Table &table, const QString &referenceHeading)
+{
+    const qsizetype references = table.referenceColumn;
+    const bool hasTitle = table.headingLine > 1;
+    if (!hasTitle || references != 2 || table.headings.value(references) != referenceHeading) {
+        return;
+    }
+    std::vector<TableRow> rows;
+    for (TableRow &row : table.rows) {
+        const bool hasCategory = !isBlank(row.cells.value(0));
+        const bool hasReferences = !isBlank(row.cells.value(references));
+        const bool hasMore = std::count_if(row.cells.begin(), row.cells.end(),
+                                           [](const QString &cell) { return !isBlank(cell); }) > 1;
+        if (!hasReferences && hasCategory) {
+            continue;
+        }
+        if (hasReferences && !hasMore && !rows.empty()) {
+            rows.back().cells[references] += row.cells.at(references);
+        } else {
+            rows.push_back(std::move(row));
+        }
+    }
+    table.rows = std::move(rows);
+}
 
 bool isPartsSheet(const QString &name)
 {

@@ -31,6 +31,10 @@ struct SpreadsheetTable
 /// Whether a sheet has the name of the one of parts that a report writes.
 [[nodiscard]] bool isPartsSheet(const QString &name);
 
+/// The bill itself as a table: without its title block, sections and totals, and with the rows joined in
+/// which the references of a line go on. Other tables stay as they are.
+void joinBillRows(Table &table, const QString &referenceHeading);
+
 /// Whether a file is to be read as a spreadsheet: it begins as one or its name says so.
 [[nodiscard]] bool isSpreadsheetFile(const QString &path);
 
