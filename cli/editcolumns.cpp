@@ -59,6 +59,12 @@ QString ReportCells::text(const Part &part, const EditColumn &column) const
     return column.isField ? m_report.text(part, column.report) : part.property(column.report.property);
 }
 
+bool ReportCells::hasTwoStates(const EditColumn &column) const
+{
+    const auto type = m_design.database().propertyTypes().type(column.report.field.propertyName);
+    return type && ::hasTwoStates(*type);
+}
+
 bool ReportCells::isProperty(const QString &name) const
 {
     const auto &fields = m_report.columns();
@@ -67,13 +73,6 @@ bool ReportCells::isProperty(const QString &name) const
            std::any_of(fields.begin(), fields.end(), [&name](const ReportColumn &field) {
                return field.field.propertyName.compare(name, Qt::CaseInsensitive) == 0;
            });
-}
-
-bool ReportCells::isShown(const QString &text, const EditColumn &column) const
-{
-    const auto parts = m_design.database().parts();
-    return std::any_of(parts.begin(), parts.end(),
-                       [&](const Part *part) { return this->text(*part, column) == text; });
 }
 
 namespace {
@@ -209,8 +208,8 @@ private:
     {
         const QString &heading = m_headings.at(index);
         if (column) {
-            return KicadTable::isNotFittedField(column->report.field.propertyName) && hasMarks(index) &&
-                   !isBlank(index) && !m_cells.isShown(KicadTable::notFittedMark(), *column);
+            return KicadTable::isNotFittedField(column->report.field.propertyName) &&
+                   m_cells.hasTwoStates(*column) && hasMarks(index) && !isBlank(index);
         }
         if (m_fields || KicadTable::isOwnField(m_options.kicad.fieldOf(heading))) {
             return true;
@@ -228,10 +227,11 @@ private:
 
     [[nodiscard]] bool hasMarks(qsizetype index) const
     {
-        return std::all_of(m_table.rows.begin(), m_table.rows.end(), [index](const TableRow &row) {
+        const auto isMark = [index](const TableRow &row) {
             const QString cell = row.cells.value(index).trimmed();
             return cell.isEmpty() || cell == KicadTable::notFittedMark();
-        });
+        };
+        return std::all_of(m_table.rows.begin(), m_table.rows.end(), isMark);
     }
 
     const Table &m_table;

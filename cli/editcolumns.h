@@ -43,6 +43,8 @@ public:
     /// Why there is no columnOf() the heading.
     [[nodiscard]] QString refusal(const QString &heading) const;
 
+    /// Whether the column shows a property that only has two states, Yes and No or the like.
+    [[nodiscard]] bool hasTwoStates(const EditColumn &column) const;
     /// The text that a report writes, or that people see of a property.
     [[nodiscard]] QString text(const Part &part, const EditColumn &column) const;
 
@@ -51,9 +53,6 @@ public:
     {
         return m_report.headings(withQuantity);
     }
-
-    /// Whether the column shows that text for some part.
-    [[nodiscard]] bool isShown(const QString &text, const EditColumn &column) const;
 
 private:
     OpenDesign &m_design;

@@ -214,10 +214,9 @@ QString EditTable::cellOf(const TableRow &row, const EditColumn &column) const
 
 QString EditTable::kindProblem(const TableRow &row, const EditColumn &column) const
 {
-    const auto type = m_design.database().propertyTypes().type(column.report.field.propertyName);
     const CellKind kind = kindOf(row, column);
     // TRUE is a text of such properties.
-    const bool isTruth = kind == CellKind::Truth && type && hasTwoStates(*type);
+    const bool isTruth = kind == CellKind::Truth && m_cells.hasTwoStates(column);
     static const QMap<CellKind, QString> contents = {
         {CellKind::Percentage, QStringLiteral("a percentage")},
         {CellKind::Date, QStringLiteral("a date or time")},
@@ -352,9 +351,8 @@ bool EditTable::isUnchanged(const QString &cell, const QString &shown, const Edi
 QString EditTable::spreadsheetChangeOf(const QString &cell, const QStringList &shown,
                                        const EditColumn &column, CellKind kind) const
 {
-    const auto type = m_design.database().propertyTypes().type(column.report.field.propertyName);
     // TRUE means the same as True there, and other texts are refused.
-    if (type && hasTwoStates(*type)) {
+    if (m_cells.hasTwoStates(column)) {
         return {};
     }
     for (const QString &text : shown) {
@@ -386,7 +384,7 @@ QStringList EditTable::componentTexts(const QString &reference, const EditColumn
     for (const std::size_t index : design.references().find(reference.toStdString())) {
         const COMPONENT *component = design.components()[index];
         const Part part(component, &m_design.database(), reference, fromHostText(component->value));
-        shown << m_cells.text(part, column);
+        shown << m_cells.text(part, column) << part.storedProperty(column.report.property);
     }
     return shown;
 }

@@ -66,7 +66,7 @@ private:
     /// column's own.
     [[nodiscard]] QString otherName(const QString &reference, const EditColumn &column) const;
     void refuseEmptyCells();
-    /// What the report shows of every component of that reference.
+    /// What the report shows of every component of that reference, and what is stored.
     [[nodiscard]] QStringList componentTexts(const QString &reference, const EditColumn &column) const;
     void refuse(int line, const QString &text);
     /// Refuses a cell of a row for what it says of a reference.
