@@ -218,19 +218,19 @@ QString EditTable::kindProblem(const TableRow &row, const EditColumn &column) co
     // TRUE is a text of such properties.
     const bool isTruth = kind == CellKind::Truth && m_cells.hasTwoStates(column);
     static const QMap<CellKind, QString> contents = {
-        {CellKind::Percentage, QStringLiteral("a percentage")},
-        {CellKind::Date, QStringLiteral("a date or time")},
-        {CellKind::Truth, QStringLiteral("true or false")},
-        {CellKind::Formula, QStringLiteral("a formula")},
-        {CellKind::Error, QStringLiteral("an error")},
-        {CellKind::Covered, QStringLiteral("nothing of its own under a merged cell")},
+        {CellKind::Percentage, QStringLiteral("the cell holds a percentage and no text")},
+        {CellKind::Date, QStringLiteral("the cell holds a date or time and no text")},
+        {CellKind::Truth, QStringLiteral("the cell holds true or false and no text")},
+        {CellKind::Formula, QStringLiteral("the cell holds a formula and no text")},
+        {CellKind::Error, QStringLiteral("the cell holds an error and no text")},
+        {CellKind::Covered, QStringLiteral("the cell is hidden under a merged one")},
     };
     return m_options.acceptsSpreadsheetChanges || isTruth || !contents.contains(kind)
                ? QString()
-               : QStringLiteral("the cell holds no text but ") + contents.value(kind) +
+               : contents.value(kind) +
                      (row.cells.value(column.index).isEmpty()
                           ? QString()
-                          : QStringLiteral(", ") + quotedText(row.cells.at(column.index), {}));
+                          : QStringLiteral(", shown as ") + quotedText(row.cells.at(column.index), {}));
 }
 
 bool EditTable::isKicadList(const QString &cell, const QStringList &references, const EditColumn &column)

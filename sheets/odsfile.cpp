@@ -5,6 +5,7 @@
 #include "sheets/xmlpart.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -194,7 +195,7 @@ OdsFile::Cell OdsFile::Reader::readCell()
     Cell cell{string.isNull() ? text : string, CellKind::Text};
     bool isNumber = false;
     const double value = number.toDouble(&isNumber);
-    if (isNumber) {
+    if (isNumber && std::isfinite(value)) {
         cell.text = shortestText(value);
         cell.kind = type == QLatin1String("percentage") ? CellKind::Percentage : CellKind::Number;
     } else if (type == QLatin1String("boolean")) {

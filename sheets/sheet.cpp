@@ -71,6 +71,7 @@ bool SheetBuilder::add(qsizetype column, const QString &text, CellKind kind)
     }
     row.cells.resize(column);
     row.cells.append(text);
+    m_columns = std::max(m_columns, row.cells.size());
     if (kind != CellKind::Text) {
         row.kinds.insert(column, kind);
     }
@@ -92,12 +93,11 @@ bool SheetBuilder::repeatRow(int times)
 
 bool SheetBuilder::merge(int firstRow, qsizetype firstColumn, int lastRow, qsizetype lastColumn)
 {
-    // Only what rows hold that were read: a merged block may reach to the end of the sheet.
+    // Only where there are rows and columns: a merged block may reach to the end of the sheet.
     auto row = std::lower_bound(m_sheet.rows.begin(), m_sheet.rows.end(), firstRow,
                                 [](const SheetRow &other, int number) { return other.number < number; });
     for (; row != m_sheet.rows.end() && row->number <= lastRow; ++row) {
-        constexpr qsizetype mostMarked = 1000;
-        const qsizetype last = std::min(lastColumn, firstColumn + mostMarked);
+        const qsizetype last = std::min(lastColumn, m_columns - 1);
         if (!count(1 + std::max<qsizetype>(0, last - firstColumn), 0)) {
             return false;
         }

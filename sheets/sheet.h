@@ -87,6 +87,8 @@ private:
     int m_row = 0;
     bool m_isHidden = false;
     bool m_hasRow = false;
+    /// Of the widest row.
+    qsizetype m_columns = 0;
     qsizetype m_cells = 0;
     qsizetype m_characters = 0;
     QString m_problem;

@@ -364,6 +364,7 @@ XlsxFile::Cell XlsxFile::readCell(XmlPart &xml) const
     } else if (type != QLatin1String("inlineStr") && hasValue) {
         bool isNumber = false;
         const double number = value.toDouble(&isNumber);
+        isNumber = isNumber && std::isfinite(number);
         cell.kind = isNumber ? kindOfStyle(style) : CellKind::Error;
         cell.text = !isNumber                     ? value
                     : cell.kind == CellKind::Date ? dateText(number, m_isMacDate)

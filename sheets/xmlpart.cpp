@@ -74,8 +74,7 @@ QXmlStreamReader::TokenType XmlPart::refuseLongText()
 
 bool XmlPart::isModest() const
 {
-    return m_depth <= deepest && m_reader.attributes().size() <= mostAttributes &&
-           m_namespaces <= mostNamespaces;
+    return m_depth <= deepest && m_attributes.size() <= mostAttributes && m_namespaces <= mostNamespaces;
 }
 
 QXmlStreamReader::TokenType XmlPart::next()
@@ -88,6 +87,7 @@ QXmlStreamReader::TokenType XmlPart::next()
     switch (token) {
     case QXmlStreamReader::StartElement:
         ++m_depth;
+        m_attributes = m_reader.attributes();
         m_namespaces += m_reader.namespaceDeclarations().size();
         return isModest() ? token
                           : refuse(QStringLiteral("the file is built in a way that no spreadsheet is"));
@@ -142,7 +142,7 @@ void XmlPart::skip()
 
 QString XmlPart::attribute(QLatin1String name, QLatin1String space) const
 {
-    for (const QXmlStreamAttribute &attribute : m_reader.attributes()) {
+    for (const QXmlStreamAttribute &attribute : m_attributes) {
         if (attribute.name() == name && (space.isEmpty() || attribute.namespaceUri().contains(space))) {
             const QStringView value = attribute.value();
             return value.isNull() ? QStringLiteral("") : value.toString();

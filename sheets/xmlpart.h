@@ -50,6 +50,8 @@ private:
 
     std::unique_ptr<Meter> m_device;
     QXmlStreamReader m_reader;
+    /// Of the element that has just begun: asking the reader for them makes a copy.
+    QXmlStreamAttributes m_attributes;
     int m_depth = 0;
     qsizetype m_namespaces = 0;
     QString m_problem;

@@ -29,6 +29,8 @@ QStringList rowTexts(const designs::CsvFile &file, const designs::CsvRow &row)
 }
 
 constexpr std::size_t searchedRows = 20;
+/// Of a sheet.
+constexpr qsizetype searchedColumns = 1000;
 
 /// Finds the row of headings and, in it, the references.
 bool findHeadings(const designs::CsvFile &file, const QStringList &referenceHeadings, std::size_t *headingRow,
@@ -59,7 +61,7 @@ std::optional<designs::CsvFile> firstRows(const std::vector<TableRow> &rows)
     QByteArray bytes;
     for (const TableRow &row : std::span(rows).first(std::min(rows.size(), searchedRows))) {
         QStringList cells;
-        for (const QString &cell : row.cells) {
+        for (const QString &cell : row.cells.first(std::min(row.cells.size(), searchedColumns))) {
             cells << u'"' + QString(cell).replace(u'"', QLatin1String("\"\"")) + u'"';
         }
         bytes += cells.join(u',').toUtf8() + '\n';
