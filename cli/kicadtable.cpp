@@ -2,24 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "cli/kicadtable.h"
 
-#include "files/regularfile.h"
-#include "standalone/companionfiles.h"
 #include "standalone/loadeddesign.h"
 
 #include <QHash>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
 
 namespace {
-
-constexpr qint64 mostBytes = qint64(64) * 1024 * 1024;
-/// As many presets as people make, and more.
-constexpr qsizetype mostSettings = 1000;
 
 /// The letters of a heading in one case, "#" too.
 QString plainHeading(const QString &heading)
@@ -37,25 +28,12 @@ QString plainHeading(const QString &heading)
 
 KicadTable::KicadTable(const LoadedDesign &design)
 {
-    const QString path = projectFileOf(design);
-    QString reason;
-    const auto bytes = path.isEmpty() ? std::nullopt : contentOfRegularFile(path, mostBytes, &reason);
-    if (!bytes || bytes->size() > mostBytes) {
-        return;
-    }
-    const QJsonObject schematic =
-        QJsonDocument::fromJson(*bytes).object().value(QLatin1String("schematic")).toObject();
-    QJsonArray all = schematic.value(QLatin1String("bom_presets")).toArray();
-    all.prepend(schematic.value(QLatin1String("bom_settings")));
-    for (qsizetype i = 0; i < std::min(all.size(), mostSettings); ++i) {
+    const designs::ProjectBom &bom = design.design().projectBom();
+    for (const designs::BomSettings &settings : QList{bom.current} + bom.presets) {
         QList<Column> columns;
-        const QJsonArray fields = all.at(i).toObject().value(QLatin1String("fields_ordered")).toArray();
-        for (const auto entry : fields) {
-            const QJsonObject field = entry.toObject();
-            const QString name = field.value(QLatin1String("name")).toString();
-            const QString label = field.value(QLatin1String("label")).toString();
-            if (field.value(QLatin1String("show")).toBool() && !name.isEmpty()) {
-                columns.append({name, label.isEmpty() ? name : label});
+        for (const designs::BomSettings::Field &field : settings.fields) {
+            if (field.isShown) {
+                columns.append({field.name, field.label.isEmpty() ? field.name : field.label});
             }
         }
         m_settings.append(columns);

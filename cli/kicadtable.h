@@ -16,8 +16,7 @@ class KicadTable final
 {
 public:
     KicadTable() = default;
-    /// Reads the settings in the project file beside the design. Without any that can be read there are no
-    /// labels.
+    /// From the settings in the project of the design; without any there are no labels.
     explicit KicadTable(const LoadedDesign &design);
 
     /// The labels of the references.
