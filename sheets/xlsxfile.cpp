@@ -332,46 +332,50 @@ bool XlsxFile::readCells(XmlPart &xml, int row, SheetBuilder &sheet, QString *pr
 XlsxFile::Cell XlsxFile::readCell(XmlPart &xml) const
 {
     const QString type = xml.attribute(QLatin1String("t"));
-    const QString style = xml.attribute(QLatin1String("s"));
+    const CellKind numbers = kindOfStyle(xml.attribute(QLatin1String("s")));
     bool hasFormula = false;
-    bool hasValue = false;
     QString value;
     while (xml.nextChild()) {
         hasFormula = hasFormula || xml.name() == QLatin1String("f");
         if (xml.name() == QLatin1String("v")) {
-            hasValue = true;
             value = xml.content();
         } else if (xml.name() == QLatin1String("is")) {
-            value = withoutEscapes(stringItem(xml));
+            value = stringItem(xml);
         } else {
             xml.skip();
         }
     }
-    Cell cell{value, CellKind::Text};
+    Cell cell = cellOf(type, value, numbers);
+    cell.kind = hasFormula ? CellKind::Formula : cell.kind;
+    return cell;
+}
+
+XlsxFile::Cell XlsxFile::cellOf(const QString &type, const QString &value, CellKind numbers) const
+{
     if (type == QLatin1String("s")) {
         bool isNumber = false;
         const qsizetype number = value.toLongLong(&isNumber);
         const bool isKnown = isNumber && number >= 0 && number < m_texts.size();
-        cell = {isKnown ? m_texts.at(number) : QString(), isKnown ? CellKind::Text : CellKind::Error};
-    } else if (type == QLatin1String("str")) {
-        cell.text = withoutEscapes(value);
-    } else if (type == QLatin1String("b")) {
-        cell = {isSet(value) ? QStringLiteral("TRUE") : QStringLiteral("FALSE"), CellKind::Truth};
-    } else if (type == QLatin1String("e")) {
-        cell.kind = CellKind::Error;
-    } else if (type == QLatin1String("d")) {
-        cell.kind = CellKind::Date;
-    } else if (type != QLatin1String("inlineStr") && hasValue) {
-        bool isNumber = false;
-        const double number = value.toDouble(&isNumber);
-        isNumber = isNumber && std::isfinite(number);
-        cell.kind = isNumber ? kindOfStyle(style) : CellKind::Error;
-        cell.text = !isNumber                     ? value
-                    : cell.kind == CellKind::Date ? dateText(number, m_isMacDate)
-                                                  : shortestText(number);
+        return {isKnown ? m_texts.at(number) : QString(), isKnown ? CellKind::Text : CellKind::Error};
     }
-    cell.kind = hasFormula ? CellKind::Formula : cell.kind;
-    return cell;
+    if (type == QLatin1String("str") || type == QLatin1String("inlineStr")) {
+        return {withoutEscapes(value), CellKind::Text};
+    }
+    if (type == QLatin1String("b")) {
+        return {isSet(value) ? QStringLiteral("TRUE") : QStringLiteral("FALSE"), CellKind::Truth};
+    }
+    if (type == QLatin1String("e") || type == QLatin1String("d")) {
+        return {value, type == QLatin1String("e") ? CellKind::Error : CellKind::Date};
+    }
+    if (value.isEmpty()) {
+        return {value, CellKind::Text};
+    }
+    bool isNumber = false;
+    const double number = value.toDouble(&isNumber);
+    if (!isNumber || !std::isfinite(number)) {
+        return {value, CellKind::Error};
+    }
+    return {numbers == CellKind::Date ? dateText(number, m_isMacDate) : shortestText(number), numbers};
 }
 
 CellKind XlsxFile::kindOfStyle(const QString &index) const

@@ -42,6 +42,8 @@ private:
     [[nodiscard]] bool readCells(XmlPart &xml, int row, SheetBuilder &sheet, QString *problem) const;
     /// What the element of a cell says; it is left.
     [[nodiscard]] Cell readCell(XmlPart &xml) const;
+    /// What a value means in a cell of that type; `numbers` says what they are in its style.
+    [[nodiscard]] Cell cellOf(const QString &type, const QString &value, CellKind numbers) const;
     [[nodiscard]] CellKind kindOfStyle(const QString &index) const;
 
     /// The part of each sheet; empty for one without cells, such as a chart.
