@@ -7,6 +7,7 @@
 #include "core/bompart.h"
 #include "core/bompartsdatabase.h"
 #include "standalone/loadeddesign.h"
+#include "views/report/partssheet.h"
 
 #include <QSet>
 
@@ -57,6 +58,12 @@ QString ReportCells::refusal(const QString &heading) const
 QString ReportCells::text(const Part &part, const EditColumn &column) const
 {
     return column.isField ? m_report.text(part, column.report) : part.property(column.report.property);
+}
+
+QStringList ReportCells::partsHeadings() const
+{
+    const BOMTemplate &settings = m_design.database().currentTemplate();
+    return partsSheetHeadings(Report(m_design.database(), dataFields(settings.fields(), settings)));
 }
 
 bool ReportCells::hasTwoStates(const EditColumn &column) const
@@ -116,6 +123,8 @@ public:
         }
         m_fields = options.kicad.fieldsOf(m_headings);
         m_found.isFromKicad = m_fields.has_value();
+        // Also where it was saved as a file of delimited cells.
+        m_isPartsSheet = options.isPartsSheet || m_headings == cells.partsHeadings();
     }
 
     EditColumns run()
@@ -154,7 +163,7 @@ private:
                                   "in front of the references if it is the report's"));
         } else if (isIgnored(index, column)) {
             ignore(index);
-        } else if (!column && isBlank(index) && (heading.isEmpty() || m_options.isPartsSheet)) {
+        } else if (!column && isBlank(index) && (heading.isEmpty() || m_isPartsSheet)) {
             return;
         } else if (column || (m_options.addsProperties && !heading.isEmpty())) {
             add(index, column ? *column : m_cells.propertyColumn(heading));
@@ -187,7 +196,7 @@ private:
             return KicadTable::isOwnField(field) ? std::nullopt
                                                  : std::optional(m_cells.propertyColumn(field));
         }
-        if (m_options.isPartsSheet && m_cells.isProperty(heading)) {
+        if (m_isPartsSheet && m_cells.isProperty(heading)) {
             return m_cells.propertyColumn(heading);
         }
         if (const auto column = m_cells.columnOf(heading)) {
@@ -240,6 +249,7 @@ private:
     QStringList m_headings;
     /// Under the headings of a table that KiCad has written.
     std::optional<QStringList> m_fields;
+    bool m_isPartsSheet = false;
     QSet<QString> m_met;
     EditColumns m_found;
 };

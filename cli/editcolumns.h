@@ -48,6 +48,8 @@ public:
     /// The text that a report writes, or that people see of a property.
     [[nodiscard]] QString text(const Part &part, const EditColumn &column) const;
 
+    /// Those of the sheet of parts in a spreadsheet.
+    [[nodiscard]] QStringList partsHeadings() const;
     /// See Report::headings().
     [[nodiscard]] QStringList columnHeadings(bool withQuantity) const
     {

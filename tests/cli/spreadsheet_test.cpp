@@ -175,6 +175,21 @@ TEST_F(SpreadsheetEdits, TablesOfKicadAreReadByTheLabelsOfTheProject)
     EXPECT_THAT(done("apply amp.kicad_sch edits.csv --dry-run"), HasSubstr("R3 DNP: none -> \"1\""));
 }
 
+TEST_F(SpreadsheetEdits, HeadingsOfTheSheetOfPartsAreNamesOfProperties)
+{
+    const char *const options = "--fields VALUE,MPN,PN --labels Value,PN,MPN";
+    QByteArray sheet = sheetOf("MPN", "<c t=\"str\"><v>a</v></c><c t=\"str\"><v>12</v></c>");
+    sheet.replace("<v>MPN</v></c>", "<v>MPN</v></c><c t=\"str\"><v>PN</v></c>");
+    write(sheetFile, xlsxBytes(sheet));
+    write(edits, "Reference,VALUE,MPN,PN\nR1,1k,a,12\n");
+    write(QStringLiteral("titles.csv"), "Reference,Value,PN,MPN\nR1,1k,a,12\n");
+    for (const char *file : {"edits.xlsx ", "edits.csv ", "titles.csv "}) {
+        EXPECT_THAT(done((std::string("apply list.csv --dry-run ") + file + options).c_str()),
+                    AllOf(HasSubstr("R1 MPN: \"0603\" -> \"a\""), HasSubstr("would change 1 property")))
+            << file;
+    }
+}
+
 TEST_F(SpreadsheetEdits, ColumnsOfNewPropertiesAreAddedWhenAskedFor)
 {
     write(edits, "Reference,Qty,Shelf,Bin\nR1,1,A,\nR2,1,A,\n");

@@ -37,6 +37,15 @@ QString formatFor(const QString &text)
 
 } // namespace
 
+QStringList partsSheetHeadings(const Report &report)
+{
+    QStringList headings{QStringLiteral("Reference")};
+    for (const ReportColumn *column : distinctColumns(report)) {
+        headings << column->field.propertyName;
+    }
+    return headings;
+}
+
 bool writePartsSheet(const Report &report, Spreadsheet &spreadsheet)
 {
     const std::vector<const ReportColumn *> columns = distinctColumns(report);
@@ -49,9 +58,9 @@ bool writePartsSheet(const Report &report, Spreadsheet &spreadsheet)
         return false;
     }
     spreadsheet.beginSheet(partsSheetName());
-    spreadsheet.text(0, QStringLiteral("Reference"), CellLook::Heading);
-    for (int i = 0; i < int(columns.size()); ++i) {
-        spreadsheet.text(i + 1, columns[size_t(i)]->field.propertyName, CellLook::Heading);
+    int at = 0;
+    for (const QString &heading : partsSheetHeadings(report)) {
+        spreadsheet.text(at++, heading, CellLook::Heading);
     }
     for (const QString &category : report.categories()) {
         const ReportLines listed = report.lines(category, false);

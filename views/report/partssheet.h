@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class Report;
 class Spreadsheet;
@@ -13,7 +14,9 @@ class Spreadsheet;
     return QStringLiteral("Parts");
 }
 
-/// Writes the sheet: reference, then the properties of the report's columns under their own names, with the
-/// texts as they are stored, all of them cells of texts. False when the parts are more than a sheet can hold,
-/// which then gets none.
+/// The headings of its columns: references, then the names of the properties that the report shows.
+[[nodiscard]] QStringList partsSheetHeadings(const Report &report);
+
+/// Writes the sheet: the properties of each part with the texts as they are stored, all of them cells of
+/// texts. False when the parts are more than a sheet can hold, which then gets none.
 [[nodiscard]] bool writePartsSheet(const Report &report, Spreadsheet &spreadsheet);
