@@ -18,7 +18,6 @@
 #include "standalone/loadeddesign.h"
 #include "templates/oldhtmltemplate.h"
 #include "views/pdfreport.h"
-#include "views/report/asciireport.h"
 #include "views/report/csvreport.h"
 #include "views/report/htmlreport.h"
 #include "views/report/jsonreport.h"
@@ -306,7 +305,7 @@ QStringList ReportCommand::missingNotes(OpenDesign &design, const QList<Output> 
 QByteArray ReportCommand::columns(const Output &output, const Report &report)
 {
     const auto terminal = isStandardOutput(output.path) ? outputTerminal() : std::nullopt;
-    return terminal ? terminalReport(report, *terminal) : asciiReport(report);
+    return terminal ? terminalReport(report, *terminal) : textReport(report);
 }
 
 ReportCommand::Content ReportCommand::content(const Output &output, BOMPartsDatabase &database) const

@@ -103,7 +103,9 @@ QString optionsText(const BOMTemplate &settings)
            line(QStringLiteral("Append notes"), yesNo(settings.appendNotes())) +
            line(QStringLiteral("Manual table column widths"), yesNo(settings.manualPrettyLayout())) +
            line(QStringLiteral("Always quote references (CSV only)"), yesNo(settings.alwaysQuoteRefs())) +
-           line(QStringLiteral("Exclude value field (data outputs)"), yesNo(settings.excludeValueField()));
+           line(QStringLiteral("Exclude value field (data outputs)"), yesNo(settings.excludeValueField())) +
+           (settings.layoutForReading() ? line(QStringLiteral("Layout for reading"), yesNo(true))
+                                        : QString());
 }
 
 QString placeText(const BOMTemplate &settings)

@@ -154,6 +154,7 @@ bool takeLayout(const BOMTemplate &source, BOMTemplate *target)
     take(&BOMTemplate::alwaysQuoteRefs, &BOMTemplate::setAlwaysQuoteRefs);
     take(&BOMTemplate::excludeValueField, &BOMTemplate::setExcludeValueField);
     take(&BOMTemplate::caseSensitiveGrouping, &BOMTemplate::setCaseSensitiveGrouping);
+    take(&BOMTemplate::layoutForReading, &BOMTemplate::setLayoutForReading);
     return isChanged;
 }
 

@@ -49,6 +49,7 @@ bool isSameReport(const BOMTemplate &left, const BOMTemplate &right)
            left.prettyRefWidth() == right.prettyRefWidth() &&
            left.manualPrettyLayout() == right.manualPrettyLayout() &&
            left.caseSensitiveGrouping() == right.caseSensitiveGrouping() &&
+           left.layoutForReading() == right.layoutForReading() &&
            std::ranges::equal(leftFields, rightFields, {}, &BOMField::manualWidth, &BOMField::manualWidth);
 }
 
@@ -61,6 +62,7 @@ bool isSameData(const BOMTemplate &left, const BOMTemplate &right)
            left.alwaysQuoteRefs() == right.alwaysQuoteRefs() &&
            left.excludeValueField() == right.excludeValueField() &&
            left.caseSensitiveGrouping() == right.caseSensitiveGrouping() &&
+           left.layoutForReading() == right.layoutForReading() &&
            std::ranges::equal(leftFields, rightFields, {}, &BOMField::asciiWidth, &BOMField::asciiWidth);
 }
 
@@ -131,6 +133,7 @@ void AdvancedSettings::showTemplate()
     m_ui->alwaysQuoteRefsCheck->setChecked(m_found.alwaysQuoteRefs());
     m_ui->excludeValueFieldCheck->setChecked(m_found.excludeValueField());
     m_ui->partGroupCaseCheckBox->setChecked(m_found.caseSensitiveGrouping());
+    m_ui->layoutForReadingCheck->setChecked(m_found.layoutForReading());
     // The rows stand on the tab's own background.
     for (QWidget *widget : {m_ui->prettyWidths, m_ui->prettyScrollArea->viewport(), m_ui->asciiWidths,
                             m_ui->asciiScrollArea->viewport()}) {
@@ -143,7 +146,7 @@ void AdvancedSettings::setUpTabOrder()
     QWidgetList order{m_ui->tabWidget, m_ui->prettyWidthsGroupBox};
     std::ranges::copy(m_prettyWidths + m_asciiWidths, std::back_inserter(order));
     order << m_ui->alwaysQuoteRefsCheck << m_ui->excludeValueFieldCheck << m_ui->partGroupCaseCheckBox
-          << m_ui->buttonBox;
+          << m_ui->layoutForReadingCheck << m_ui->buttonBox;
     for (qsizetype i = 1; i < order.size(); ++i) {
         setTabOrder(order[i - 1], order[i]);
     }
@@ -158,8 +161,8 @@ void AdvancedSettings::connectChanges()
         connect(spin, &QSpinBox::valueChanged, this, &AdvancedSettings::storeSettings);
     }
     connect(m_ui->prettyWidthsGroupBox, &QGroupBox::toggled, this, &AdvancedSettings::storeSettings);
-    for (const QCheckBox *check :
-         {m_ui->alwaysQuoteRefsCheck, m_ui->excludeValueFieldCheck, m_ui->partGroupCaseCheckBox}) {
+    for (const QCheckBox *check : {m_ui->alwaysQuoteRefsCheck, m_ui->excludeValueFieldCheck,
+                                   m_ui->partGroupCaseCheckBox, m_ui->layoutForReadingCheck}) {
         connect(check, &QCheckBox::toggled, this, &AdvancedSettings::storeSettings);
     }
     connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &AdvancedSettings::accept);
@@ -231,6 +234,7 @@ BOMTemplate AdvancedSettings::shownTemplate() const
     shown.setAlwaysQuoteRefs(m_ui->alwaysQuoteRefsCheck->isChecked());
     shown.setExcludeValueField(m_ui->excludeValueFieldCheck->isChecked());
     shown.setCaseSensitiveGrouping(m_ui->partGroupCaseCheckBox->isChecked());
+    shown.setLayoutForReading(m_ui->layoutForReadingCheck->isChecked());
     return shown;
 }
 

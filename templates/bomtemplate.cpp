@@ -53,6 +53,9 @@ constexpr Entry<QString> TextEntries[] = {
     {QLatin1String("PageFooter"), &Record::PageFooter, Always},
 };
 
+/// In files that set it only: other templates keep the form that every program with such files knows.
+const QString layoutForReadingKey = QStringLiteral("LayoutForReading");
+
 template<typename T, std::size_t count>
 void write(const Entry<T> (&entries)[count], const Record &record, QVariantMap &map)
 {
@@ -248,6 +251,8 @@ QVariantMap BOMTemplate::toVariantMap() const
     write(BoolEntries, m_record, map);
     write(IntEntries, m_record, map);
     write(TextEntries, m_record, map);
+    if (m_record.LayoutForReading)
+        map.insert(layoutForReadingKey, true);
     map.insert(QStringLiteral("categories"), toVariantList(m_record.categories));
     map.insert(QStringLiteral("fields"), toVariantList(m_record.fields.fields()));
     return map;
@@ -258,6 +263,7 @@ void BOMTemplate::fromVariantMap(const QVariantMap &map)
     read(BoolEntries, map, m_record);
     read(IntEntries, map, m_record);
     read(TextEntries, map, m_record);
+    m_record.LayoutForReading = map.value(layoutForReadingKey).toBool();
     m_record.categories = categoriesFrom(map.value(QStringLiteral("categories")).toList());
     m_record.fields = fieldsFrom(map.value(QStringLiteral("fields")).toList());
     m_record.htmlTemplateFileName =

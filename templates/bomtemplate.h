@@ -39,6 +39,7 @@ struct BOMTemplateRecord
     bool AlwaysQuoteRefs = false;
     bool ExcludeValueField = false;
     bool CaseSensitiveGrouping = true;
+    bool LayoutForReading = false;
     QString name;
     QSettings *legacySettings = nullptr;
     QString htmlTemplateFileName;
@@ -167,6 +168,12 @@ public:
 
     [[nodiscard]] bool caseSensitiveGrouping() const { return m_record.CaseSensitiveGrouping; }
     void setCaseSensitiveGrouping(bool sensitive) { m_record.CaseSensitiveGrouping = sensitive; }
+
+    /// Whether documents, spreadsheets and text columns are laid out for people: numbers on the right,
+    /// columns and totals without any value left out or said to be empty, texts wrapped instead of cut. What
+    /// programs read, CSV and JSON, stays as it is.
+    [[nodiscard]] bool layoutForReading() const { return m_record.LayoutForReading; }
+    void setLayoutForReading(bool forReading) { m_record.LayoutForReading = forReading; }
 
     /// Whether the file comes from a later version of the program, so that it may hold more than was read.
     /// Ends with save().

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "views/bomasciiview.h"
 
-#include "views/report/asciireport.h"
+#include "views/report/terminalreport.h"
 
 BOMAsciiView::BOMAsciiView(QWidget *parent)
     : BOMView(parent)
@@ -14,6 +14,6 @@ void BOMAsciiView::writeOutput()
     if (isValid()) {
         saveOutput(
             {tr("ASCII file to save"), QStringLiteral(".txt"), tr("ASCII fixed column width file (*.txt)")},
-            [this] { return asciiReport(dataReport()); });
+            [this] { return textReport(dataReport()); });
     }
 }

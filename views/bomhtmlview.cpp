@@ -39,7 +39,7 @@ QString BOMHTMLView::html()
     }
     updateFields();
     tellMissingMarkup();
-    return htmlReport(report());
+    return htmlReport(report(), HtmlUse::Pages);
 }
 
 void BOMHTMLView::tellMissingMarkup()
@@ -71,7 +71,8 @@ QString BOMHTMLView::fieldValue(const QString &reference, const QString &fieldNa
 {
     const QString text = BOMView::fieldValue(reference, fieldName, formatted);
     const ReportColumn *column = formatted && isValid() ? report().column(fieldName) : nullptr;
-    return column ? htmlLink(text, report().link(reference, *column)) : text;
+    const Part *part = column ? database()->part(reference) : nullptr;
+    return part ? htmlLink(text, report().link(*part, *column)) : text;
 }
 
 QString BOMHTMLView::formatFieldValue(const QString &value, const QString &fieldName) const
@@ -168,7 +169,8 @@ void BOMHTMLView::saveHTML()
         return;
     }
     ensureReport();
-    const QString html = textEdit()->document()->getHtml();
+    const QString html = database()->currentTemplate().layoutForReading() ? htmlReport(report())
+                                                                          : textEdit()->document()->getHtml();
     const QString path =
         saveOutput({tr("HTML file to save"), QStringLiteral(".html"), tr("Web pages (*.html *.htm)")},
                    [&html] { return html.toUtf8(); });
@@ -182,7 +184,7 @@ void BOMHTMLView::prepareOutput()
     ensureReport();
     const BOMTemplate &settings = database()->currentTemplate();
     const TemplateMarkup markup = templateMarkup(settings);
-    textEdit()->setPageFragments(markup.pageHeader, markup.pageFooter);
+    textEdit()->setPageFragments(markup.pageHeader, markup.pageFooter, subjectOf(designOf(*database())));
     textEdit()->document()->setTitle(database()->designTitle());
 }
 

@@ -4,10 +4,10 @@
 
 #include "host/framework/hostui.h"
 #include "richtext/css/cssscan.h"
+#include "richtext/css/pagegeometry.h"
 #include "richtext/editor/textedit.h"
 #include "richtext/editor/textedithruler.h"
 #include "richtext/editor/textedittoolbars.h"
-#include "richtext/paper/pagegeometry.h"
 #include "richtext/xhtml/markupcleaner.h"
 #include "richtext/xhtml/xhtmlparts.h"
 #include "ui_bomtemplateeditor.h"

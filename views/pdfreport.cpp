@@ -3,8 +3,8 @@
 #include "views/pdfreport.h"
 
 #include "host/framework/applnprocess.h"
+#include "richtext/css/pagegeometry.h"
 #include "richtext/css/stylesheet.h"
-#include "richtext/paper/pagegeometry.h"
 #include "richtext/paper/pagepainter.h"
 #include "richtext/paper/pdfoutput.h"
 #include "templates/bomtemplate.h"
@@ -18,8 +18,9 @@ QByteArray pdfReport(const Report &report)
 {
     const BOMTemplate &settings = report.settings();
     PagedText text;
-    text.xhtml = htmlReport(report);
+    text.xhtml = htmlReport(report, HtmlUse::Pages);
     text.title = report.design().title;
+    text.subject = subjectOf(report.design());
     const TemplateMarkup markup = templateMarkup(settings);
     text.header = markup.pageHeader;
     text.footer = markup.pageFooter;

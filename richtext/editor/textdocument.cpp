@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "richtext/editor/textdocument.h"
 
+#include "richtext/css/pagegeometry.h"
 #include "richtext/css/stylesheet.h"
 #include "richtext/editor/growingtable.h"
-#include "richtext/paper/pagegeometry.h"
 #include "richtext/xhtml/qthtmlwriter.h"
 #include "richtext/xhtml/qtstylesheet.h"
 #include "richtext/xhtml/xhtmlparts.h"

@@ -4,10 +4,10 @@
 
 #include "host/framework/hostui.h"
 #include "host/framework/reportfile.h"
+#include "richtext/css/pagegeometry.h"
 #include "richtext/css/stylesheet.h"
 #include "richtext/editor/grownselection.h"
 #include "richtext/editor/textcommands.h"
-#include "richtext/paper/pagegeometry.h"
 #include "richtext/paper/pdfoutput.h"
 #include "richtext/paper/printui.h"
 
@@ -133,10 +133,11 @@ void TextEdit::goToAnchor(const QString &name)
     scrollToAnchor(name);
 }
 
-void TextEdit::setPageFragments(const QString &header, const QString &footer)
+void TextEdit::setPageFragments(const QString &header, const QString &footer, const QString &subject)
 {
     m_pageHeader = header;
     m_pageFooter = footer;
+    m_pageSubject = subject;
 }
 
 void TextEdit::pageSetup()
@@ -298,6 +299,7 @@ PagedText TextEdit::pagedText() const
     PagedText text;
     text.xhtml = m_document->getHtml();
     text.title = m_document->metaInformation(QTextDocument::DocumentTitle);
+    text.subject = m_pageSubject;
     text.header = m_pageHeader;
     text.footer = m_pageFooter;
     return text;

@@ -42,7 +42,7 @@ public:
     [[nodiscard]] TextDocument *document() const { return m_document; }
 
     /// Fragments for the top and bottom of printed pages, see PagedText.
-    void setPageFragments(const QString &header, const QString &footer);
+    void setPageFragments(const QString &header, const QString &footer, const QString &subject);
 
     /// Lets the user choose the paper, which the document's style sheet then names.
     void pageSetup();
@@ -93,6 +93,7 @@ private:
     QMarginsF m_paperMargins;
     QString m_pageHeader;
     QString m_pageFooter;
+    QString m_pageSubject;
     QString m_pressedLink;
     std::unique_ptr<QPrinter> m_printer;
     std::unique_ptr<PdfOutput> m_pdf;

@@ -19,7 +19,6 @@
 
 namespace {
 
-/// QTextDocument lays shorter tables out fast enough.
 constexpr size_t leastRows = 300;
 constexpr qsizetype mostShapes = 200;
 /// In characters. One text without an end would keep all others waiting.
@@ -79,8 +78,11 @@ std::unique_ptr<LongTable> LongTable::layOut(const QString &xhtml, QPaintDevice 
 
 bool LongTable::layOutAll()
 {
+    const StyleSheet css(m_parts.css);
+    m_keepsRows = css.value(QStringLiteral("tr"), QStringLiteral("break-inside")) == QLatin1String("avoid");
     std::optional<PlainTable> table = readPlainTable(bodyOf(m_parts.tail));
-    if (!table || table->rows.size() < leastRows) {
+    // QTextDocument lays shorter tables out fast enough, but breaks rows.
+    if (!table || (table->rows.size() < leastRows && !m_keepsRows)) {
         return false;
     }
     m_table = std::move(*table);
@@ -324,10 +326,22 @@ std::optional<RowTexts> LongTable::texts(size_t row) const
     return cells;
 }
 
-/// Whether the first line of any text has room on the page; if not, the row begins on the next one.
+/// Whether the first line of any text has room on the page; if not, the row begins on the next one. A row
+/// that is kept in one piece needs room for all of it, unless no page has that.
 bool LongTable::startsOnPage(size_t row, double top, const RowTexts &cells) const
 {
     const RowLook &shape = look(row);
+    if (m_keepsRows) {
+        double height = 0;
+        for (size_t i = 0; i < cells.size(); ++i) {
+            const CellLook &cell = shape.cells[i];
+            height = std::max(height, cell.paddingAbove + cells[i].height + cell.paddingBelow);
+        }
+        const double needed = std::ceil(height) + m_footMargin;
+        if (m_areaOffset + needed <= m_page.height()) {
+            return top + needed <= pageEnd(top);
+        }
+    }
     for (size_t i = 0; i < cells.size(); ++i) {
         const CellLook &cell = shape.cells[i];
         const double bottom =

@@ -76,10 +76,11 @@ bool PagePainter::paint(QPainter &painter, int first, int last)
 
 QString PagePainter::withPlaceholders(const QString &fragment, int page, int pages) const
 {
-    const std::array<std::pair<QString, QString>, 4> values{
+    const std::array<std::pair<QString, QString>, 5> values{
         {{QStringLiteral("{pages}"), QString::number(pages)},
          {QStringLiteral("{page}"), QString::number(page)},
          {QStringLiteral("{title}"), m_text.title.toHtmlEscaped()},
+         {QStringLiteral("{subject}"), m_text.subject.toHtmlEscaped()},
          {QStringLiteral("{date}"), m_date.toHtmlEscaped()}}};
     QString text;
     for (qsizetype i = 0; i < fragment.size();) {

@@ -23,8 +23,10 @@ struct PagedText
     /// A whole XHTML document; its style sheet says the look.
     QString xhtml;
     QString title;
-    /// Fragments of XHTML for the top and bottom of every page, or empty. {page}, {pages}, {title} and {date}
-    /// stand for the page number, their count, the title and the date.
+    /// The document in one line for the top or bottom of its pages.
+    QString subject;
+    /// Fragments of XHTML for the top and bottom of every page, or empty. {page}, {pages}, {title}, {subject}
+    /// and {date} stand for the page number, their count, these texts and the date.
     QString header;
     QString footer;
 };

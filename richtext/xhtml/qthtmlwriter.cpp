@@ -172,17 +172,29 @@ private:
 
     void writeCell(const Tag &tag)
     {
-        m_result += tag.text;
         const auto content = m_tags.peek();
         m_isCellStart = content && content->isParagraph() && !content->isEnd;
         const QStringView name = m_isCellStart ? content->className() : QStringView();
-        if (m_style.hasBox(name) && !tag.hasClass()) {
-            addAttribute(u"class", name);
+        m_result += tag.text;
+        if (m_style.hasBox(name)) {
+            addClass(tag, name);
         }
         // QTextDocument knows widths as attributes only.
         if (const QStringView width = tag.styleWidth(); !width.isEmpty()) {
             addAttribute(u"width", width);
         }
+    }
+
+    /// To the tag that was written last, beside the classes that it has.
+    void addClass(const Tag &tag, QStringView name)
+    {
+        if (!tag.hasClass()) {
+            addAttribute(u"class", name);
+            return;
+        }
+        const QStringView own = tag.className();
+        const qsizetype behind = tag.text.data() + tag.text.size() - (own.data() + own.size());
+        m_result.insert(m_result.size() - behind, QString(u' ' % name));
     }
 
     /// To the tag that was written last.

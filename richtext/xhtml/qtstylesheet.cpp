@@ -193,6 +193,12 @@ Declarations translatedDeclarations(const StyleSheet::Rule &rule, const LargestL
     return result;
 }
 
+/// QTextDocument reads no further than to a selector such as "td:has(p)".
+bool isForBrowsersOnly(const QString &selector)
+{
+    return selector.contains(u'(');
+}
+
 /// The first rules, as many as QTextDocument can deal with: it compares every element with every selector,
 /// takes over every declaration that fits, and reads the text again for the top and bottom of every page.
 QList<StyleSheet::Rule> firstRules(const QList<StyleSheet::Rule> &rules)
@@ -234,6 +240,9 @@ QtStyleSheet::QtStyleSheet(const StyleSheet &css, const LargestLengths &largest)
     LargeBoxes boxes(largest);
     QSet<QString> known;
     for (const StyleSheet::Rule &rule : firstRules(css.rules())) {
+        if (isForBrowsersOnly(rule.selector)) {
+            continue;
+        }
         const QString tag = paragraphTag(rule.selector);
         const bool isFirst = !known.contains(rule.selector);
         known.insert(rule.selector);

@@ -157,8 +157,12 @@ TEST_F(Advanced, CaseRuleGroupsAnew)
     EXPECT_EQ(database.lineCount(category), 2);
     EXPECT_EQ(regrouped.size(), 1);
     EXPECT_EQ(report->size(), 1);
+    toggle("layoutForReadingCheck");
+    EXPECT_TRUE(database.currentTemplate().layoutForReading());
+    EXPECT_EQ(report->size(), 2);
     click(QDialogButtonBox::Cancel);
     EXPECT_EQ(database.lineCount(category), 1);
+    EXPECT_FALSE(database.currentTemplate().layoutForReading());
 }
 
 TEST_F(Advanced, CancelRestoresWhatItFound)

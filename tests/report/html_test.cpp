@@ -4,6 +4,7 @@
 
 #include "report/reportfixture.h"
 #include "richtext/xhtml/links.h"
+#include "views/report/browserhead.h"
 #include "views/report/templatemarkup.h"
 
 #include <QRegularExpression>
@@ -71,6 +72,41 @@ TEST_F(Html, GivesManualWidthsByPositionAndNoneBeyondAHundredPercent)
     EXPECT_THAT(widthsWith({70, 10}), ElementsAre(style(10), style(30), QString(), QString()));
     EXPECT_THAT(widthsWith({2000000000, 2000000000, 5}),
                 ElementsAre(style(10), style(30), QString(), QString(), QString()));
+}
+
+TEST_F(Html, ForReadingHasNumbersOnTheRightAndNeitherEmptyColumnsNorTotalsOfNothing)
+{
+    changeTemplate([](BOMTemplate &settings) { settings.setLayoutForReading(true); });
+    netlist.add("R1", "1k", {{"COST", "0.5"}});
+    netlist.add("R3", "1k", {{"COST", "0.5"}});
+    netlist.add("C1", "1n");
+    database.load();
+    EXPECT_THAT(all(u"<th class='number' style='width:\\d+%'><p class='fieldHeading'>(.*?)<"_s),
+                ElementsAre(u"Quantity"_s, u"Unit Cost"_s));
+    EXPECT_THAT(all(u"<td class='number'><p class='.*?'>(.*?)<"_s),
+                ElementsAre(u"1"_s, QString(), u"2"_s, u"0.50"_s, u"1.00"_s, u"1.00"_s));
+    EXPECT_THAT(all(u"<td class='references'><p class='oddfield'>(.*?)<"_s),
+                ElementsAre(u"C1"_s, u"R1, R3"_s));
+    EXPECT_THAT(all(u"<p class='emptyColumns'>(.*?)<"_s), ElementsAre(u"Empty for all parts: Stock Code"_s));
+    // A head once for browsers, one per category for our pages.
+    EXPECT_EQ(htmlReport(report()).count(u">Unit Cost<"_s), 1);
+    EXPECT_EQ(htmlReport(report(), HtmlUse::Pages).count(u">Unit Cost<"_s), 2);
+}
+
+TEST_F(Html, LinksAddressesOfTheWebInColumnsWithLinks)
+{
+    changeTemplate([](BOMTemplate &settings) { settings.setLayoutForReading(true); });
+    netlist.add("R1", "https://example.com/?a=1&b", {{"CODE", "https://example.com/r.pdf"}});
+    netlist.add("R2", "1k", {{"CODE", "http://x/y see there"}});
+    netlist.add("R3", "2k", {{"CODE", "javascript:alert(1)"}});
+    database.load();
+    EXPECT_THAT(all(u"<a href=\"(.*?)\""_s), ElementsAre(u"https://example.com/r.pdf"_s));
+}
+
+TEST(CssString, CannotEndItselfNorTheStyleSheet)
+{
+    EXPECT_EQ(cssString(u"A1 \"\\</style>\n&\u00e4"_s),
+              u"\"A1 \\22 \\5c \\3c \\2f style\\3e \\a \\26 \u00e4\""_s);
 }
 
 TEST(TemplateMarkup, TellsWhatTheReportIsWithout)

@@ -6,11 +6,11 @@
 #include "report/xlsxtext.h"
 #include "support/datatable.h"
 #include "support/scopeddefinitions.h"
-#include "views/report/asciireport.h"
 #include "views/report/csvreport.h"
 #include "views/report/htmlreport.h"
 #include "views/report/jsonreport.h"
 #include "views/report/spreadsheetreport.h"
+#include "views/report/terminalreport.h"
 
 using namespace Qt::StringLiterals;
 
@@ -31,6 +31,14 @@ protected:
 };
 
 /// The files stand in tests/data/report.
+void expectSamples(const std::vector<std::pair<const char *, QByteArray>> &samples)
+{
+    for (const auto &[name, text] : samples) {
+        const QString sample = QStringLiteral(BOM_SOURCE_DIR "/tests/data/report/") + QLatin1String(name);
+        EXPECT_EQ(text.toStdString(), readFile(sample).toStdString()) << name;
+    }
+}
+
 TEST_F(ReportValue, EveryFormIsWrittenAsItsSample)
 {
     process.design.info = {
@@ -62,17 +70,23 @@ TEST_F(ReportValue, EveryFormIsWrittenAsItsSample)
         field.asciiWidth = 8;
         field.fieldWidth = 6;
     });
-    const std::pair<const char *, QByteArray> samples[] = {
+    const auto xlsx = [this] { return xlsxText(spreadsheetReport(dataReport()).file); };
+    expectSamples({
         {"amp.csv", csvReport(dataReport(), CsvRows::Lines)},
         {"amp-parts.csv", csvReport(dataReport(), CsvRows::Parts)},
-        {"amp.txt", asciiReport(dataReport())},
+        {"amp.txt", textReport(dataReport())},
         {"amp.json", jsonReport(dataReport())},
-        {"amp.xlsx.txt", xlsxText(spreadsheetReport(dataReport()).file)},
-        {"amp.html", htmlReport(report()).toUtf8() + '\n'}};
-    for (const auto &[name, text] : samples) {
-        const QString sample = QStringLiteral(BOM_SOURCE_DIR "/tests/data/report/") + QLatin1String(name);
-        EXPECT_EQ(text.toStdString(), readFile(sample).toStdString()) << name;
-    }
+        {"amp.xlsx.txt", xlsx()},
+        {"amp.html", htmlReport(report()).toUtf8() + '\n'},
+    });
+    changeTemplate([](BOMTemplate &settings) { settings.setLayoutForReading(true); });
+    changeField(u"Maker"_s, [](BOMField &field) { field.propertyName = u"MPN"_s; });
+    expectSamples({
+        {"reading.csv", csvReport(dataReport(), CsvRows::Lines)},
+        {"reading.txt", textReport(dataReport())},
+        {"reading.xlsx.txt", xlsx()},
+        {"reading.html", htmlReport(report()).toUtf8() + '\n'},
+    });
 }
 
 TEST_F(ReportValue, OfRowsWithEqualReferencesTheLastStays)
@@ -190,7 +204,7 @@ TEST_F(ReportValue, PartsThatAreNotFittedStandInLinesOfTheirOwnAndDoNotCount)
     EXPECT_TRUE(sheet.contains("\nB9 0 [0\" + 2 DNP\"]\n")) << sheet.data();
     EXPECT_TRUE(sheet.contains("\nF10 4 [0.00] =SUMPRODUCT(B8:B9,F8:F9)\n")) << sheet.data();
     EXPECT_TRUE(htmlReport(report()).contains(u"2 + 2 DNP Resistors"));
-    EXPECT_TRUE(asciiReport(dataReport()).contains("\n0 + 2 DNP R2,R4 ")) << asciiReport(dataReport()).data();
+    EXPECT_TRUE(textReport(dataReport()).contains("\n0 + 2 DNP R2,R4 ")) << textReport(dataReport()).data();
 }
 
 TEST_F(ReportValue, CutsValuesToTheFieldWidth)

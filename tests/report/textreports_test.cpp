@@ -3,7 +3,7 @@
 #include "report/reportfixture.h"
 #include "views/report/asciireport.h"
 #include "views/report/csvreport.h"
-#include "views/report/terminalreport.h"
+#include "views/report/textwidths.h"
 
 using namespace Qt::StringLiterals;
 

@@ -70,11 +70,15 @@ TEST(QtHtml, TranslatesWhatQTextDocumentDoesNotKnow)
 
 TEST(QtHtml, GivesPaddingAndBorderOfParagraphsToTheirCells)
 {
-    const Shown document(u"p.a { padding: 3pt 6pt; border-bottom: 1.5pt solid red; } p.b { color: red; }"_s,
-                         u"<table><tr><td><p class='a'>1</p></td><td><p class='b'>2</p></td></tr></table>"_s);
+    // Selectors for browsers only do not end the style sheet, and cells keep their own class.
+    const Shown document(
+        u"td:has(p.a) { color: blue; } p.a { padding: 3pt 6pt; border-bottom: 1.5pt solid red; } "
+        "p.b { color: red; } td.n p { text-align: right; }"_s,
+        u"<table><tr><td class='n'><p class='a'>1</p></td><td><p class='b'>2</p></td></tr></table>"_s);
     const QTextTable *table = tableOf(document);
     ASSERT_TRUE(table);
     const auto format = [&](int column) { return table->cellAt(0, column).format().toTableCellFormat(); };
+    EXPECT_EQ(table->cellAt(0, 0).firstCursorPosition().blockFormat().alignment(), Qt::AlignRight);
     EXPECT_EQ(format(0).topPadding(), 4);
     EXPECT_EQ(format(0).leftPadding(), 8);
     EXPECT_EQ(format(0).bottomBorder(), 2);

@@ -3,11 +3,12 @@
 #include "richtext/editor/textedit.h"
 
 #include "richtext/css/cssvalue.h"
+#include "richtext/css/pagegeometry.h"
 #include "richtext/css/stylesheet.h"
 #include "richtext/documents.h"
 #include "richtext/paper/longtable.h"
-#include "richtext/paper/pagegeometry.h"
 #include "richtext/paper/pagelayouter.h"
+#include "richtext/paper/pagepainter.h"
 #include "richtext/paper/pdfoutput.h"
 #include "richtext/paper/strip.h"
 #include "support/pdftext.h"
@@ -214,7 +215,8 @@ TEST_F(Edit, PrintsPagesWithHeadingsAndFragments)
 {
     edit.loadDocument(page(sheet, longTable()));
     edit.document()->setTitle(u"<T&>"_s);
-    edit.setPageFragments(u"<p>{title} {page} of {pages} {nothing}</p>"_s, u"<p>foot {date}</p>"_s);
+    edit.setPageFragments(u"<p>{title} {page} of {pages} {nothing}</p>"_s, u"<p>foot {date} {subject}</p>"_s,
+                          u"a<b"_s);
     printUi.printFile = folder.filePath(u"print.pdf"_s);
     printUi.previewFile = folder.filePath(u"preview.pdf"_s);
     QPainter painter;
@@ -229,7 +231,7 @@ TEST_F(Edit, PrintsPagesWithHeadingsAndFragments)
         for (qsizetype i = 0; i < pages.size(); ++i) {
             EXPECT_THAT(pages[i].toStdString(),
                         HasSubstr(u"<T&> %1 of %2 {nothing}"_s.arg(i + 1).arg(pages.size()).toStdString()));
-            EXPECT_THAT(pages[i].toStdString(), HasSubstr("foot " + today));
+            EXPECT_THAT(pages[i].toStdString(), HasSubstr("foot " + today + " a<b"));
             EXPECT_EQ(pages[i].count(u"Heading"_s), 1);
         }
         for (int i = 0; i < 60; ++i) {
@@ -337,6 +339,33 @@ TEST(LongTableTest, ShowsThePagesThatOneDocumentHas)
     QString references = twoSections(box);
     references.replace(u"word "_s.repeated(29), u"R1,&shy;&#8203;"_s.repeated(800));
     EXPECT_TRUE(LongTable::layOut(references, output.device(), size));
+}
+
+TEST(LongTableTest, KeepsRowsInOnePieceWhereTheStyleSheetSaysSo)
+{
+    PdfOutput output(pageLayout(StyleSheet(sheet)), {});
+    QString rows;
+    for (int i = 0; i < 90; ++i) {
+        rows += u"<tr><td><p>begin%1 "_s.arg(i) + u"word "_s.repeated(i % 40 * 3) +
+                u"last%1</p></td></tr>"_s.arg(i);
+    }
+    PagedText text;
+    text.xhtml = page(sheet + u"p { margin: 0pt; } tr { break-inside: avoid; }"_s,
+                      u"<table><tbody><tr><th><p>Heading</p></th></tr>"_s + rows + u"</tbody></table>"_s);
+    PagePainter pages(text);
+    QPainter painter(&output.device());
+    pages.paint(painter, 1, pages.layOut(output.device()));
+    painter.end();
+    QTemporaryDir folder;
+    const QString file = folder.filePath(u"a.pdf"_s);
+    writeFile(file, output.bytes());
+    const QStringList shown = pdfPages(file);
+    EXPECT_GT(shown.size(), 3);
+    for (int i = 0; i < 90; ++i) {
+        const QRegularExpression row(u"\\bbegin%1\\b.*\\blast%1\\b"_s.arg(i),
+                                     QRegularExpression::DotMatchesEverythingOption);
+        EXPECT_EQ(shown.filter(row).size(), 1) << i;
+    }
 }
 
 TEST_F(Edit, NeverLeavesAHeadingAloneAtTheFootOfAPage)

@@ -46,21 +46,6 @@ QString underlined(const QString &text, QChar stroke)
     return text + u'\n' + QString(text.size(), stroke) + u'\n';
 }
 
-/// Quantity, references, then the report's columns.
-QList<int> columnWidths(const Report &report)
-{
-    const auto clamped = [](int width) { return std::clamp(width, 0, widestColumn); };
-    QList<int> widths{clamped(report.settings().asciiQuantityWidth()),
-                      clamped(report.settings().asciiRefWidth())};
-    if (const qsizetype notFitted = report.partCount().notFitted; notFitted > 0) {
-        widths.front() = std::max(widths.front(), int(Report::text({0, notFitted}).size()) + 1);
-    }
-    for (const ReportColumn &column : report.columns()) {
-        widths.append(clamped(column.field.asciiWidth));
-    }
-    return widths;
-}
-
 QString headingLines(const Report &report, const QList<int> &widths)
 {
     const QStringList headings = asciiHeadings(report);
@@ -91,7 +76,7 @@ QString billLine(const Report &report, BomLine line, const QList<int> &widths)
 
 QByteArray asciiReport(const Report &report)
 {
-    const QList<int> widths = columnWidths(report);
+    const QList<int> widths = asciiWidths(report);
     QByteArray text =
         (underlined(asciiTitle(), u'=') + asciiInformation(report.design()) + headingLines(report, widths))
             .toUtf8();
@@ -135,6 +120,20 @@ QString asciiInformation(const ReportDesign &design)
 QStringList asciiHeadings(const Report &report)
 {
     return QStringList{tr("QTY"), tr("PART-REFS")} + report.columnNames();
+}
+
+QList<int> asciiWidths(const Report &report)
+{
+    const auto clamped = [](int width) { return std::clamp(width, 0, widestColumn); };
+    QList<int> widths{clamped(report.settings().asciiQuantityWidth()),
+                      clamped(report.settings().asciiRefWidth())};
+    if (const qsizetype notFitted = report.partCount().notFitted; notFitted > 0) {
+        widths.front() = std::max(widths.front(), int(Report::text({0, notFitted}).size()) + 1);
+    }
+    for (const ReportColumn &column : report.columns()) {
+        widths.append(clamped(column.field.asciiWidth));
+    }
+    return widths;
 }
 
 QString inOneLine(const QString &text)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -17,6 +18,8 @@ struct ReportDesign;
 [[nodiscard]] QString asciiTitle();
 [[nodiscard]] QString asciiInformation(const ReportDesign &design);
 [[nodiscard]] QStringList asciiHeadings(const Report &report);
+/// The widths of quantity, references and each column that the template gives.
+[[nodiscard]] QList<int> asciiWidths(const Report &report);
 
 /// The text without line breaks and other control characters, which would tear columns apart.
 [[nodiscard]] QString inOneLine(const QString &text);

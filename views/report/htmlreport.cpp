@@ -4,12 +4,17 @@
 
 #include "core/part.h"
 #include "host/framework/hostui.h"
+#include "richtext/css/pagegeometry.h"
+#include "richtext/css/stylesheet.h"
 #include "richtext/xhtml/links.h"
 #include "templates/bomtemplate.h"
+#include "views/report/browserhead.h"
 #include "views/report/report.h"
 #include "views/report/templatemarkup.h"
+#include "views/report/textwidths.h"
 
 #include <QCoreApplication>
+#include <QRectF>
 
 #include <algorithm>
 #include <array>
@@ -111,51 +116,129 @@ QList<int> manualWidths(const Report &report)
     return widths;
 }
 
+/// For quantity, references and each column the attribute that names the class of its cells; empty where the
+/// template has no layout for reading.
+QStringList cellClasses(const Report &report)
+{
+    const bool isForReading = report.settings().layoutForReading();
+    const QString number = isForReading ? QStringLiteral(" class='number'") : QString();
+    QStringList classes{number, isForReading ? QStringLiteral(" class='references'") : QString()};
+    for (const ReportColumn &column : report.columns()) {
+        classes << (column.hasNumbers() ? number : QString());
+    }
+    return classes;
+}
+
+QStringList headingTexts(const Report &report)
+{
+    return QStringList{tr("Quantity"), tr("References")} + report.columnNames();
+}
+
+/// How many characters of the small font stand beside each other on the template's paper.
+int charactersOfPaper(const BOMTemplate &settings)
+{
+    constexpr double character = 5;
+    const QPageLayout layout = pageLayout(StyleSheet(settings.css()));
+    return int(layout.paintRect(QPageLayout::Point).width() / character);
+}
+
+/// In percent, by what the texts need: documents that share out the room by themselves give long texts that
+/// of all others.
+QList<int> readableWidths(const Report &report)
+{
+    // Browsers and our pages break texts behind these.
+    ColumnNeeds needs(u" -");
+    needs.add(headingTexts(report));
+    for (const QString &category : report.categories()) {
+        const ReportLines listed = report.lines(category, true);
+        for (const BomLine line : listed.lines) {
+            QStringList texts{Report::text(Report::quantity(line)), report.references(line)};
+            for (const ReportColumn &column : report.columns()) {
+                texts << report.text(*line.front(), column);
+            }
+            needs.add(texts);
+        }
+    }
+    // With the room for capitals in bold.
+    constexpr int padding = 3;
+    QList<ColumnNeed> wanted = needs.needs();
+    const int room = charactersOfPaper(report.settings()) - padding * int(wanted.size());
+    // Longer words are broken, so that the others have their room.
+    const int longestWord = std::max(32, room * 3 / 10);
+    for (ColumnNeed &need : wanted) {
+        need.piece = std::min(need.piece, longestWord);
+    }
+    QList<int> widths = fittedWidths(wanted, room);
+    int whole = 0;
+    for (int &width : widths) {
+        width += padding;
+        whole += width;
+    }
+    int left = 100;
+    for (int &width : widths) {
+        width = std::max(1, width * 100 / whole);
+        left -= width;
+    }
+    widths[1] = std::max(1, widths[1] + left);
+    return widths;
+}
+
 QString headingRow(const Report &report)
 {
-    const QStringList headings = QStringList{tr("Quantity"), tr("References")} + report.columnNames();
-    const QList<int> widths = manualWidths(report);
+    const QStringList headings = headingTexts(report);
+    const BOMTemplate &settings = report.settings();
+    const QList<int> widths = settings.layoutForReading() && !settings.manualPrettyLayout()
+                                  ? readableWidths(report)
+                                  : manualWidths(report);
+    const QStringList classes = cellClasses(report);
     QString cells;
     for (qsizetype i = 0; i < headings.size(); ++i) {
         const QString style = i < widths.size() ? QStringLiteral(" style='width:") +
                                                       QString::number(widths[i]) + QStringLiteral("%'")
                                                 : QString();
-        cells += QStringLiteral("<th") + style + QStringLiteral("><p class='fieldHeading'>") +
+        cells += QStringLiteral("<th") + classes.at(i) + style + QStringLiteral("><p class='fieldHeading'>") +
                  htmlText(headings[i]) + QStringLiteral("</p></th>");
     }
     return QStringLiteral("<tr>") + cells + QStringLiteral("</tr>");
 }
 
-QString cellStart(QLatin1String className)
+/// The start tags of cells of a row, whose paragraphs are of that class.
+QStringList cellStarts(const QStringList &cellClasses, QLatin1String paragraphClass)
 {
-    return QStringLiteral("<td><p class='") + className + QStringLiteral("'>");
+    QStringList starts;
+    for (const QString &cellClass : cellClasses) {
+        starts << QStringLiteral("<td") + cellClass + QStringLiteral("><p class='") + paragraphClass +
+                      QStringLiteral("'>");
+    }
+    return starts;
 }
 
-/// Totals in one class; one empty cell when there are none.
-QString totalCells(const QStringList &totals, const QString &start)
+/// What people would miss in silence.
+QString emptyColumnsText(const QStringList &columns)
 {
-    QStringList cells;
-    for (const QString &total : totals) {
-        cells.append(htmlText(total));
-    }
-    return start + cells.join(cellEnd + start) + cellEnd;
+    return columns.isEmpty() ? QString()
+                             : QStringLiteral("<p class='emptyColumns'>") +
+                                   htmlText(emptyColumnsSentence(columns)) + QStringLiteral("</p>\n");
 }
 
 QString cellText(const Report &report, const Part &part, const ReportColumn &column)
 {
     const QString text = htmlText(truncatedToWidth(report.text(part, column), column.field));
-    return htmlLink(text, report.link(part.reference(), column));
+    return htmlLink(text, report.link(part, column));
 }
 
 /// Appends the table of all categories to a document.
 class CategoriesTable final
 {
 public:
-    CategoriesTable(const Report &report, QString &html)
+    CategoriesTable(const Report &report, HtmlUse use, QString &html)
         : m_report(report)
         , m_html(html)
+        , m_isForReading(report.settings().layoutForReading())
+        , m_hasOneHead(m_isForReading && use == HtmlUse::Browser)
         , m_columnCount(QString::number(report.columns().size() + 2))
         , m_headingRow(headingRow(report))
+        , m_classes(cellClasses(report))
     {
     }
 
@@ -164,17 +247,28 @@ public:
 private:
     void appendCategory(const QString &category);
     void appendLines(const QString &category);
+    [[nodiscard]] QStringList subTotals(const QString &category) const;
+    void appendSubTotals(const QStringList &totals);
     void appendTotals();
+    void appendTotalCells(const QStringList &totals, QLatin1String paragraphClass);
+    [[nodiscard]] QString references(BomLine line) const;
 
     const Report &m_report;
     QString &m_html;
+    bool m_isForReading;
+    /// Whether the headings stand once above all categories: browsers repeat one head on every page.
+    bool m_hasOneHead;
     QString m_columnCount;
     QString m_headingRow;
+    QStringList m_classes;
 };
 
 void CategoriesTable::append()
 {
     m_html += QStringLiteral("\n<table class='categoriesTable'>\n");
+    if (m_hasOneHead) {
+        m_html += QStringLiteral("<thead>") + m_headingRow + QStringLiteral("</thead>\n");
+    }
     for (const QString &category : m_report.categories()) {
         appendCategory(category);
     }
@@ -188,27 +282,26 @@ void CategoriesTable::appendCategory(const QString &category)
     const QString heading =
         tr("%1 %2", "BOM category headings in HTML output").arg(count, htmlText(category));
     m_html += QStringLiteral("<tbody>\n<tr><th colspan='") + m_columnCount +
-              QStringLiteral("'><p class='sectionTitle' >") + heading + QStringLiteral("</p></th></tr>\n") +
-              m_headingRow;
+              QStringLiteral("'><p class='sectionTitle' >") + heading + QStringLiteral("</p></th></tr>\n");
+    m_html += m_hasOneHead ? QString() : m_headingRow;
     appendLines(category);
-    const QString start = cellStart(QLatin1String("subtotal"));
-    m_html += QStringLiteral("<tr><td colspan='2'><p class='subtotal'>") + htmlText(tr("Sub-totals:")) +
-              cellEnd + totalCells(m_report.texts(m_report.subTotals(category)), start) +
-              QStringLiteral("</tr>\n</tbody>\n");
+    appendSubTotals(subTotals(category));
+    m_html += QStringLiteral("</tbody>\n");
 }
 
 void CategoriesTable::appendLines(const QString &category)
 {
-    const std::array<QString, 2> starts{cellStart(QLatin1String("oddfield")),
-                                        cellStart(QLatin1String("evenfield"))};
+    const std::array<QStringList, 2> starts{cellStarts(m_classes, QLatin1String("oddfield")),
+                                            cellStarts(m_classes, QLatin1String("evenfield"))};
     const ReportLines listed = m_report.lines(category, true);
     size_t number = 0;
     for (const BomLine line : listed.lines) {
-        const QString &start = starts[number++ % 2];
-        m_html += QStringLiteral("<tr>") + start + Report::text(Report::quantity(line)) + cellEnd + start +
-                  htmlReferences(m_report.references(line)) + cellEnd;
+        const QStringList &start = starts[number++ % 2];
+        m_html += QStringLiteral("<tr>") + start[0] + Report::text(Report::quantity(line)) + cellEnd +
+                  start[1] + references(line) + cellEnd;
+        qsizetype cell = 2;
         for (const ReportColumn &column : m_report.columns()) {
-            m_html += start;
+            m_html += start[cell++];
             m_html += cellText(m_report, *line.front(), column);
             m_html += cellEnd;
         }
@@ -216,13 +309,61 @@ void CategoriesTable::appendLines(const QString &category)
     }
 }
 
+/// For reading, a total of nothing is no 0.
+QStringList CategoriesTable::subTotals(const QString &category) const
+{
+    QStringList totals = m_report.texts(m_report.subTotals(category));
+    for (qsizetype i = 0; m_isForReading && i < totals.size(); ++i) {
+        if (!m_report.isFilled(category, m_report.columns()[size_t(i)])) {
+            totals[i].clear();
+        }
+    }
+    return totals;
+}
+
+void CategoriesTable::appendSubTotals(const QStringList &totals)
+{
+    if (m_isForReading && totals.join(QString()).isEmpty()) {
+        return;
+    }
+    m_html +=
+        QStringLiteral("<tr><td colspan='2'><p class='subtotal'>") + htmlText(tr("Sub-totals:")) + cellEnd;
+    appendTotalCells(totals, QLatin1String("subtotal"));
+    m_html += QStringLiteral("</tr>\n");
+}
+
 void CategoriesTable::appendTotals()
 {
+    const QStringList totals = m_report.texts(m_report.grandTotals());
+    if (m_isForReading && totals.join(QString()).isEmpty()) {
+        return;
+    }
     m_html += QStringLiteral("<tbody>\n<tr><td colspan=\"") + m_columnCount +
-              QStringLiteral("\"><p class='horizLine'>&nbsp; </p></td></tr>\n<tr>");
-    const QString start = cellStart(QLatin1String("total"));
-    m_html += start + htmlText(tr("Totals:")) + cellEnd + start + cellEnd +
-              totalCells(m_report.texts(m_report.grandTotals()), start) + QStringLiteral("</tr>\n</tbody>\n");
+              QStringLiteral("\"><p class='horizLine'>&nbsp; </p></td></tr>\n<tr><td><p class='total'>") +
+              htmlText(tr("Totals:")) + cellEnd + QStringLiteral("<td><p class='total'>") + cellEnd;
+    appendTotalCells(totals, QLatin1String("total"));
+    m_html += QStringLiteral("</tr>\n</tbody>\n");
+}
+
+/// One empty cell when there are no columns.
+void CategoriesTable::appendTotalCells(const QStringList &totals, QLatin1String paragraphClass)
+{
+    QStringList classes = m_classes.mid(2);
+    if (classes.isEmpty()) {
+        classes << QString();
+    }
+    const QStringList starts = cellStarts(classes, paragraphClass);
+    for (qsizetype i = 0; i < starts.size(); ++i) {
+        m_html += starts[i] + htmlText(totals.value(i)) + cellEnd;
+    }
+}
+
+QString CategoriesTable::references(BomLine line) const
+{
+    const QString references = m_report.references(line);
+    // What people copy has no characters that they do not see.
+    return m_isForReading ? htmlText(references).replace(u',', QLatin1String(", "))
+                          : htmlReferences(references);
 }
 
 } // namespace
@@ -241,7 +382,7 @@ QString htmlReferences(const QString &references)
     return htmlText(references).replace(u',', QStringLiteral(",&shy;&#8203;"));
 }
 
-QString htmlDocumentStart(const QString &title, const QString &css)
+QString htmlDocumentStart(const QString &title, const QString &css, const QString &moreOfHead)
 {
     return QStringLiteral(
                "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
@@ -252,7 +393,8 @@ QString htmlDocumentStart(const QString &title, const QString &css)
                "\t         <meta http-equiv=\"Content-Type\" content=\"text/html; charset=UTF-8\" />\n"
                "\t         <title>") +
            title + QStringLiteral("</title>\n\t         <style type=\"text/css\">\n") + css +
-           QStringLiteral("\n\t         </style>\t      </head>\n\t   <body>\n");
+           QStringLiteral("\n\t         </style>\t") + moreOfHead +
+           QStringLiteral("      </head>\n\t   <body>\n");
 }
 
 QString htmlDocumentEnd()
@@ -260,18 +402,22 @@ QString htmlDocumentEnd()
     return QStringLiteral("</body>\n</html>");
 }
 
-QString htmlReport(const Report &report)
+QString htmlReport(const Report &whole, HtmlUse use)
 {
+    const Report report = whole.forReading();
     const BOMTemplate &settings = report.settings();
     const HostUi &ui = HostUi::current();
     const QString title = htmlText(tr("Bill Of Materials for ") + report.design().title);
-    QString html = htmlDocumentStart(title, styleElementText(settings.css()));
+    const bool isForBrowsers = settings.layoutForReading() && use == HtmlUse::Browser;
+    QString html = htmlDocumentStart(title, styleElementText(settings.css()),
+                                     isForBrowsers ? browserHead(report) : QString());
     const TemplateMarkup markup = templateMarkup(settings);
     html += markup.documentHeader;
     html += QStringLiteral("\n<h1 class='mainTitle'>") + title + QStringLiteral("</h1>");
     html += headerTable(report);
     html += notesSection(report.notes());
-    CategoriesTable(report, html).append();
+    CategoriesTable(report, use, html).append();
+    html += emptyColumnsText(report.emptyColumns());
     html += markup.documentFooter;
     html += QStringLiteral("\n<p class='timestamp'>") +
             htmlText(ui.locale().toString(ui.now(), QLocale::LongFormat)) + QStringLiteral("</p>\n");

@@ -3,6 +3,7 @@
 #include "views/report/report.h"
 
 #include "core/bompartsdatabase.h"
+#include "core/part.h"
 #include "host/framework/hostui.h"
 
 #include <QCoreApplication>
@@ -36,6 +37,14 @@ Report::Quantity quantityOf(std::span<Part *const> parts)
     return {qsizetype(parts.size()) - notFitted, notFitted};
 }
 
+/// Without blanks, which a sentence that begins with an address has.
+bool isWebAddress(const QString &text)
+{
+    const bool hasScheme = text.startsWith(QLatin1String("http://"), Qt::CaseInsensitive) ||
+                           text.startsWith(QLatin1String("https://"), Qt::CaseInsensitive);
+    return hasScheme && std::none_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
+}
+
 } // namespace
 
 ReportDesign designOf(const BOMPartsDatabase &database)
@@ -43,6 +52,19 @@ ReportDesign designOf(const BOMPartsDatabase &database)
     return {database.designTitle(),    database.designAuthor(),        database.designDocumentNumber(),
             database.designRevision(), database.designCreated(),       database.designModified(),
             database.designVariant(),  database.designInfo("FILENAME")};
+}
+
+QString subjectOf(const ReportDesign &design)
+{
+    QStringList parts{design.title, design.documentNumber};
+    if (!design.revision.isEmpty()) {
+        parts << tr("Revision") + u' ' + design.revision;
+    }
+    if (!design.variant.isEmpty()) {
+        parts << tr("Assembly Variant") + u' ' + design.variant;
+    }
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
 }
 
 BOMFields dataFields(BOMFields fields, const BOMTemplate &settings)
@@ -68,6 +90,11 @@ QString truncatedToWidth(const QString &value, const BOMField &field)
     return value.first(length) + QLatin1String("...");
 }
 
+QString emptyColumnsSentence(const QStringList &columns)
+{
+    return tr("Empty for all parts: ") + columns.join(QLatin1String(", "));
+}
+
 Report::Report(const BOMPartsDatabase &database, const BOMFields &fields)
     : m_database(database)
     , m_locale(HostUi::current().locale())
@@ -81,6 +108,31 @@ Report::Report(const BOMPartsDatabase &database, const BOMFields &fields)
         m_columns.push_back(
             {field, PropertyQuery(field.propertyName, &types), types.isNumeric(field.propertyName), isMark});
     }
+}
+
+Report Report::with(const std::function<bool(const ReportColumn &)> &isWanted) const
+{
+    Report report = *this;
+    std::erase_if(report.m_columns, std::not_fn(isWanted));
+    return report;
+}
+
+Report Report::forReading() const
+{
+    if (!settings().layoutForReading()) {
+        return *this;
+    }
+    const QStringList listed = categories();
+    QStringList empty;
+    Report report = with([&](const ReportColumn &column) {
+        const bool isEmpty = std::none_of(listed.begin(), listed.end(), [&](const QString &category) {
+            return isFilled(category, column);
+        });
+        empty += isEmpty ? QStringList(column.field.fieldName) : QStringList();
+        return !isEmpty;
+    });
+    report.m_emptyColumns = empty;
+    return report;
 }
 
 const BOMTemplate &Report::settings() const
@@ -195,9 +247,17 @@ std::optional<double> Report::number(const Part &part, const ReportColumn &colum
     return shownNumber(part.property(column.property), column);
 }
 
-QString Report::link(const QString &reference, const ReportColumn &column) const
+QString Report::link(const Part &part, const ReportColumn &column) const
 {
-    return column.field.enableLinks ? m_database.link(reference, column.field.propertyName) : QString();
+    if (!column.field.enableLinks) {
+        return {};
+    }
+    const QString link = m_database.link(part.reference(), column.field.propertyName);
+    if (!link.isEmpty() || !settings().layoutForReading()) {
+        return link;
+    }
+    const QString text = part.property(column.property).trimmed();
+    return isWebAddress(text) ? text : QString();
 }
 
 Report::Totals Report::subTotals(const QString &category) const
@@ -224,6 +284,18 @@ QStringList Report::texts(const Totals &totals) const
         texts << (field.generateTotals ? withAffixes(numberText(totals[i], field), field) : QString());
     }
     return texts;
+}
+
+bool Report::isFilled(const QString &category, const ReportColumn &column) const
+{
+    const GroupedLines *lines = m_database.categories().groupedLines(category);
+    for (size_t index = 0; lines && index < lines->lineCount(); ++index) {
+        // The parts of a line agree.
+        if (!text(*lines->line(index).front(), column).trimmed().isEmpty()) {
+            return true;
+        }
+    }
+    return false;
 }
 
 std::optional<double> Report::shownNumber(const QString &value, const ReportColumn &column) const

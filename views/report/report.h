@@ -11,6 +11,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <limits>
 #include <optional>
 #include <vector>
@@ -36,6 +37,9 @@ struct ReportDesign
 
 [[nodiscard]] ReportDesign designOf(const BOMPartsDatabase &database);
 
+/// The design in one line: title, document number, revision and variant, those that it has.
+[[nodiscard]] QString subjectOf(const ReportDesign &design);
+
 /// A field of the template with what is needed to fill its column.
 struct ReportColumn
 {
@@ -45,6 +49,9 @@ struct ReportColumn
     bool isNumeric = false;
     /// The column that the bill has besides the template's: it says which parts are not fitted.
     bool isMark = false;
+
+    /// Whether people read it as a column of numbers.
+    [[nodiscard]] bool hasNumbers() const { return isNumeric || field.generateTotals; }
 };
 
 /// The fields for outputs that other programs read: without the value field where the template excludes it.
@@ -52,6 +59,9 @@ struct ReportColumn
 
 /// A value longer than its field's width ends in "...".
 [[nodiscard]] QString truncatedToWidth(const QString &value, const BOMField &field);
+
+/// Names the columns that a report leaves out because they are empty.
+[[nodiscard]] QString emptyColumnsSentence(const QStringList &columns);
 
 /// The bill of materials of a database under its current template: what every writer puts out in its own
 /// form. Nothing is copied: lines are looked at where the database has them, and a text or a total is made
@@ -66,6 +76,14 @@ public:
 
     /// Numbers are in the format of the host's user.
     Report(const BOMPartsDatabase &database, const BOMFields &fields);
+
+    /// The same bill for people: where the template has a layout for reading, without the columns that are
+    /// empty on all parts.
+    [[nodiscard]] Report forReading() const;
+    /// The same bill with some of the columns.
+    [[nodiscard]] Report with(const std::function<bool(const ReportColumn &)> &isWanted) const;
+    /// The columns that forReading() leaves out.
+    [[nodiscard]] const QStringList &emptyColumns() const { return m_emptyColumns; }
 
     [[nodiscard]] ReportDesign design() const { return designOf(m_database); }
     [[nodiscard]] const BOMTemplate &settings() const;
@@ -110,8 +128,9 @@ public:
     [[nodiscard]] QString text(const QString &value, const ReportColumn &column) const;
     /// The number that the cell shows; nothing for a text, quoted numbers too.
     [[nodiscard]] std::optional<double> number(const Part &part, const ReportColumn &column) const;
-    /// The link of the cell; empty where the part has none or the field shows none.
-    [[nodiscard]] QString link(const QString &reference, const ReportColumn &column) const;
+    /// The link of the cell, empty where the part has none or the field shows none. In a layout for reading
+    /// an address of the web is its own link.
+    [[nodiscard]] QString link(const Part &part, const ReportColumn &column) const;
 
     /// One number per column, 0 for a column without totals.
     using Totals = std::vector<double>;
@@ -119,6 +138,8 @@ public:
     [[nodiscard]] Totals grandTotals() const;
     /// One text per column, empty for a column without totals.
     [[nodiscard]] QStringList texts(const Totals &totals) const;
+    /// Whether any part of the category has a text there.
+    [[nodiscard]] bool isFilled(const QString &category, const ReportColumn &column) const;
 
 private:
     [[nodiscard]] std::optional<double> shownNumber(const QString &value, const ReportColumn &column) const;
@@ -129,4 +150,5 @@ private:
     QLocale m_locale;
     NumberReader m_numbers;
     std::vector<ReportColumn> m_columns;
+    QStringList m_emptyColumns;
 };

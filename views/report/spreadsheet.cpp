@@ -21,6 +21,8 @@ constexpr qsizetype longestLink = 2079;
 /// In a notice.
 constexpr qsizetype mostNamedLinks = 10;
 constexpr qsizetype longestProperty = 255;
+/// Of 255 characters that the format allows, each & twice.
+constexpr qsizetype longestFoot = 110;
 constexpr qsizetype narrowestColumn = 8;
 constexpr qsizetype widestColumn = 60;
 /// Fewer characters than in the widest column: lines end where words do.
@@ -92,7 +94,8 @@ qsizetype escapedLength(const QByteArray &link)
 /// Whether long texts go on in further lines of the cell.
 bool isWrapped(CellLook look)
 {
-    return look == CellLook::Heading || look == CellLook::Cell || look == CellLook::Link;
+    return look == CellLook::Heading || look == CellLook::NumberHeading || look == CellLook::Cell ||
+           look == CellLook::Link;
 }
 
 void applyLook(lxw_format *format, CellLook look)
@@ -111,6 +114,11 @@ void applyLook(lxw_format *format, CellLook look)
     case CellLook::Label:
         format_set_bold(format);
         break;
+    case CellLook::NumberHeading:
+        // The button of the filter stands at the right.
+        format_set_align(format, LXW_ALIGN_RIGHT);
+        format_set_indent(format, 2);
+        [[fallthrough]];
     case CellLook::Heading:
         format_set_border(format, LXW_BORDER_THIN);
         format_set_bg_color(format, greyFill);
@@ -122,6 +130,13 @@ void applyLook(lxw_format *format, CellLook look)
         break;
     case CellLook::Quantity:
         format_set_align(format, LXW_ALIGN_CENTER);
+        break;
+    case CellLook::RightQuantity:
+        // The references follow at once.
+        format_set_indent(format, 1);
+        [[fallthrough]];
+    case CellLook::Number:
+        format_set_align(format, LXW_ALIGN_RIGHT);
         break;
     case CellLook::Link:
         format_set_font_color(format, linkColour);
@@ -189,9 +204,24 @@ void Spreadsheet::beginSheet(const QString &name)
         check(LXW_ERROR_MEMORY_MALLOC_FAILED);
         return;
     }
-    worksheet_set_landscape(m_sheet);
-    worksheet_set_paper(m_sheet, 9); // A4
     worksheet_fit_to_pages(m_sheet, 1, 0);
+    setPaper({});
+}
+
+void Spreadsheet::setPaper(const SheetPaper &paper)
+{
+    if (!isReady(0)) {
+        return;
+    }
+    const CLocale locale;
+    paper.isLandscape ? worksheet_set_landscape(m_sheet) : worksheet_set_portrait(m_sheet);
+    worksheet_set_paper(m_sheet, uint8_t(paper.paper));
+    if (!paper.foot.isEmpty()) {
+        QString foot = paper.foot.size() > longestFoot ? paper.foot.left(longestFoot - 1) + u'…' : paper.foot;
+        foot.replace(u'&', QLatin1String("&&"));
+        check(worksheet_set_footer(
+            m_sheet, (QLatin1String("&L") + foot + QLatin1String("&R&P / &N")).toUtf8().constData()));
+    }
 }
 
 void Spreadsheet::nextRow()
@@ -222,7 +252,8 @@ void Spreadsheet::text(int column, const QString &text, CellLook look, const QSt
         check(worksheet_write_blank(m_sheet, lxw_row_t(m_row), lxw_col_t(column), looks));
         return;
     }
-    widen(column, text.size(), look);
+    constexpr qsizetype filterButton = 3;
+    widen(column, text.size() + (look == CellLook::NumberHeading ? filterButton : 0), look);
     if (isWrapped(look)) {
         heighten(text);
     }

@@ -25,12 +25,27 @@ enum class CellLook
     Title,
     Label,
     Heading,
+    NumberHeading,
     Section,
     Cell,
+    Number,
     Quantity,
+    RightQuantity,
     Link,
     SubTotal,
     Total
+};
+
+/// How a sheet is printed.
+struct SheetPaper
+{
+    /// Its name in files, 9 for A4.
+    int paper = 9;
+    bool isLandscape = true;
+    /// Stands at the foot of each page beside its number; empty for a page without foot.
+    QString foot;
+
+    bool operator==(const SheetPaper &) const = default;
 };
 
 /// An .xlsx file that is written row by row, each sheet after the one before. Texts stay texts, whatever they
@@ -59,6 +74,8 @@ public:
 
     /// Begins a sheet; what follows goes into its first row.
     void beginSheet(const QString &name);
+    /// Of the sheet that was begun last.
+    void setPaper(const SheetPaper &paper);
     void nextRow();
     /// Counts from 0.
     [[nodiscard]] int row() const { return m_row; }

@@ -4,7 +4,10 @@
 
 #include "core/part.h"
 #include "host/framework/hostui.h"
+#include "richtext/css/pagegeometry.h"
+#include "richtext/css/stylesheet.h"
 #include "richtext/xhtml/links.h"
+#include "templates/bomtemplate.h"
 #include "views/report/partssheet.h"
 #include "views/report/report.h"
 #include "views/report/spreadsheet.h"
@@ -45,6 +48,35 @@ QString literal(const QString &text)
     return pieces.join(QLatin1String("\\\""));
 }
 
+/// The number format of the field, in which a 0 is not shown; as it is where quotes forbid another section.
+QString withoutZero(const QString &format, const BOMField &field)
+{
+    if (format.isEmpty() || (field.prefix + field.suffix).contains(u'"')) {
+        return format;
+    }
+    const QString hidden =
+        format + (field.prefix.isEmpty() ? QLatin1String(";-") + format : QString()) + u';';
+    return Spreadsheet::holdsFormat(hidden) ? hidden : format;
+}
+
+/// As the template's style sheet says.
+SheetPaper paperOf(const Report &report)
+{
+    const QPageLayout layout = pageLayout(StyleSheet(report.settings().css()));
+    constexpr std::pair<QPageSize::PageSizeId, int> papers[] = {{QPageSize::Letter, 1},
+                                                                {QPageSize::Tabloid, 3},
+                                                                {QPageSize::Legal, 5},
+                                                                {QPageSize::A3, 8},
+                                                                {QPageSize::A5, 11}};
+    SheetPaper paper;
+    for (const auto &[size, name] : papers) {
+        paper.paper = layout.pageSize().id() == size ? name : paper.paper;
+    }
+    paper.isLandscape = layout.orientation() == QPageLayout::Landscape;
+    paper.foot = subjectOf(report.design());
+    return paper;
+}
+
 /// The cell of a part, in messages.
 QString nameOf(const Part &part, const ReportColumn &column)
 {
@@ -76,12 +108,22 @@ private:
     /// Where the lines of one category stand, or those of all.
     struct Block
     {
+        /// Empty for all.
+        QString category;
         int firstRow = 0;
         int lastRow = -1;
         /// Whether the rows hold all that the totals count.
         bool isComplete = true;
     };
 
+    /// Whether any column has totals, and for one category, whether any of its parts fills such a column.
+    [[nodiscard]] bool hasTotals() const;
+    [[nodiscard]] bool hasTotals(const QString &category) const;
+    [[nodiscard]] bool isFilled(const Block &block, const ReportColumn &column) const;
+    [[nodiscard]] bool hasNumbersAt(int column) const
+    {
+        return m_columns[size_t(column)].report->hasNumbers();
+    }
     [[nodiscard]] int lastColumn() const { return firstField + int(m_columns.size()) - 1; }
     void fillRow(int first, CellLook look);
     void writeTitleBlock();
@@ -93,9 +135,12 @@ private:
     void writeValue(int column, const Part &part);
     void writeReferences(const QString &references);
     void writeTotals(const QString &label, const Report::Totals &totals, const Block &block, CellLook look);
+    void writeEmptyColumns();
     void writeNotes();
 
     const Report &m_report;
+    bool m_isForReading;
+    QStringList m_emptyColumns;
     Spreadsheet &m_sheet;
     ReportDesign m_design;
     QString m_designFolder;
@@ -105,6 +150,8 @@ private:
 
 SpreadsheetWriter::SpreadsheetWriter(const Report &report, Spreadsheet &sheet)
     : m_report(report)
+    , m_isForReading(report.settings().layoutForReading())
+    , m_emptyColumns(report.forReading().emptyColumns())
     , m_sheet(sheet)
     , m_design(report.design())
     , m_designFolder(QFileInfo(m_design.file).absolutePath())
@@ -118,10 +165,13 @@ SpreadsheetWriter::SpreadsheetWriter(const Report &report, Spreadsheet &sheet)
 void SpreadsheetWriter::write()
 {
     m_sheet.beginSheet(tr("Bill Of Materials"));
+    if (m_isForReading) {
+        m_sheet.setPaper(paperOf(m_report));
+    }
     writeTitleBlock();
     writeHeadings();
     const int headings = m_sheet.row();
-    Block all{headings + 1, headings, true};
+    Block all{{}, headings + 1, headings, true};
     for (const QString &category : m_report.categories()) {
         const Block block = writeCategory(category);
         all.isComplete = all.isComplete && block.isComplete;
@@ -129,9 +179,31 @@ void SpreadsheetWriter::write()
     all.lastRow = m_sheet.row();
     m_sheet.freezeRow(headings, lastColumn(), all.lastRow);
     m_sheet.nextRow();
-    writeTotals(tr("Totals:"), m_report.grandTotals(), all, CellLook::Total);
+    if (!m_isForReading || hasTotals()) {
+        writeTotals(tr("Totals:"), m_report.grandTotals(), all, CellLook::Total);
+    }
+    writeEmptyColumns();
     m_lacksParts = !writePartsSheet(m_report, m_sheet);
     writeNotes();
+}
+
+bool SpreadsheetWriter::hasTotals() const
+{
+    return std::any_of(m_columns.begin(), m_columns.end(),
+                       [](const Column &column) { return column.report->field.generateTotals; });
+}
+
+bool SpreadsheetWriter::hasTotals(const QString &category) const
+{
+    return std::any_of(m_columns.begin(), m_columns.end(), [&](const Column &column) {
+        return column.report->field.generateTotals && m_report.isFilled(category, *column.report);
+    });
+}
+
+bool SpreadsheetWriter::isFilled(const Block &block, const ReportColumn &column) const
+{
+    return block.category.isEmpty() ? !m_emptyColumns.contains(column.field.fieldName)
+                                    : m_report.isFilled(block.category, column);
 }
 
 void SpreadsheetWriter::fillRow(int first, CellLook look)
@@ -168,7 +240,10 @@ void SpreadsheetWriter::writeHeadings()
     m_sheet.nextRow();
     int column = 0;
     for (const QString &heading : m_report.headings(true)) {
-        m_sheet.text(column++, heading, CellLook::Heading);
+        const bool hasNumbers =
+            column < firstField ? column == quantityColumn : hasNumbersAt(column - firstField);
+        m_sheet.text(column++, heading,
+                     hasNumbers && m_isForReading ? CellLook::NumberHeading : CellLook::Heading);
     }
 }
 
@@ -181,14 +256,17 @@ SpreadsheetWriter::Block SpreadsheetWriter::writeCategory(const QString &categor
     fillRow(categoryColumn + 1, CellLook::Section);
     const ReportLines listed = m_report.lines(category, true);
     Block block;
+    block.category = category;
     block.firstRow = m_sheet.row() + 1;
     block.isComplete = listed.replaced.isEmpty();
     for (const BomLine line : listed.lines) {
         writeLine(category, line);
     }
     block.lastRow = m_sheet.row();
-    m_sheet.nextRow();
-    writeTotals(tr("Sub-totals:"), m_report.subTotals(category), block, CellLook::SubTotal);
+    if (!m_isForReading || hasTotals(category)) {
+        m_sheet.nextRow();
+        writeTotals(tr("Sub-totals:"), m_report.subTotals(category), block, CellLook::SubTotal);
+    }
     return block;
 }
 
@@ -196,11 +274,13 @@ void SpreadsheetWriter::writeLine(const QString &category, BomLine line)
 {
     m_sheet.nextRow();
     m_sheet.text(categoryColumn, category, CellLook::Cell);
-    writeQuantity(Report::quantity(line), CellLook::Quantity);
+    writeQuantity(Report::quantity(line), m_isForReading ? CellLook::RightQuantity : CellLook::Quantity);
     for (int i = 0; i < int(m_columns.size()); ++i) {
         writeValue(i, *line.front());
     }
-    writeReferences(m_report.references(line));
+    QString references = m_report.references(line);
+    // Spreadsheets wrap at blanks only.
+    writeReferences(m_isForReading ? references.replace(u',', QLatin1String(", ")) : references);
 }
 
 /// A number, whose format tells of the parts that are not fitted: formulas count the number.
@@ -217,9 +297,9 @@ void SpreadsheetWriter::writeValue(int column, const Part &part)
     const int at = firstField + column;
     const auto number = format.isEmpty() ? std::nullopt : m_report.number(part, *report);
     const QString text = number ? QString() : m_report.text(part, *report);
-    CellLook look = CellLook::Cell;
+    CellLook look = m_isForReading && report->hasNumbers() ? CellLook::Number : CellLook::Cell;
     if (report->field.enableLinks && (number || !text.isEmpty())) {
-        const QUrl target = linkTarget(m_report.link(part.reference(), *report), m_designFolder);
+        const QUrl target = linkTarget(m_report.link(part, *report), m_designFolder);
         if (!target.isEmpty() && m_sheet.link(at, target, nameOf(part, *report))) {
             look = CellLook::Link;
         }
@@ -241,7 +321,7 @@ void SpreadsheetWriter::writeReferences(const QString &references)
             break;
         }
         m_sheet.text(referencesColumn, rest.first(comma + 1).toString(), CellLook::Cell);
-        rest = rest.mid(comma + 1);
+        rest = rest.mid(comma + 1).trimmed();
         m_sheet.nextRow();
     }
     m_sheet.text(referencesColumn, rest.toString(), CellLook::Cell);
@@ -258,11 +338,15 @@ void SpreadsheetWriter::writeTotals(const QString &label, const Report::Totals &
     const QString quantities =
         Spreadsheet::range(block.firstRow, quantityColumn, block.lastRow, quantityColumn);
     for (int i = 0; i < int(m_columns.size()); ++i) {
-        const auto &[report, format] = m_columns[size_t(i)];
+        const ReportColumn *report = m_columns[size_t(i)].report;
         const int at = firstField + i;
         if (!report->field.generateTotals) {
             continue;
         }
+        // The total of nothing shows itself when somebody fills in numbers.
+        const bool isOpen = m_isForReading && !isFilled(block, *report);
+        const QString &usual = m_columns[size_t(i)].format;
+        const QString format = isOpen ? withoutZero(usual, report->field) : usual;
         if (format.isEmpty()) {
             m_sheet.text(at, texts.at(i), look);
         } else if (report->isNumeric && block.isComplete && block.firstRow <= block.lastRow) {
@@ -272,6 +356,15 @@ void SpreadsheetWriter::writeTotals(const QString &label, const Report::Totals &
         } else {
             m_sheet.number(at, totals[size_t(i)], look, format);
         }
+    }
+}
+
+/// They stay in the sheet, where people may fill them in.
+void SpreadsheetWriter::writeEmptyColumns()
+{
+    if (!m_emptyColumns.isEmpty()) {
+        m_sheet.nextRow();
+        m_sheet.text(categoryColumn, emptyColumnsSentence(m_emptyColumns), CellLook::Text);
     }
 }
 

@@ -3,79 +3,20 @@
 #include "views/report/terminalreport.h"
 
 #include "core/part.h"
+#include "templates/bomtemplate.h"
 #include "views/report/asciireport.h"
 #include "views/report/report.h"
+#include "views/report/textwidths.h"
 
 #include <algorithm>
-#include <array>
 #include <numeric>
-#include <utility>
 #include <vector>
 
 namespace {
 
 constexpr int gap = 2;
-constexpr int narrowestColumn = 6;
 constexpr qsizetype referenceColumn = 1;
-constexpr int readableReferences = 20;
-
-/// Blocks of characters that terminals show twice as wide as others (East Asian width W and F).
-constexpr std::array<std::pair<char32_t, char32_t>, 9> wideBlocks{{{0x1100, 0x115F},
-                                                                   {0x2E80, 0x303E},
-                                                                   {0x3041, 0xA4CF},
-                                                                   {0xAC00, 0xD7A3},
-                                                                   {0xF900, 0xFAFF},
-                                                                   {0xFE30, 0xFE6F},
-                                                                   {0xFF00, 0xFF60},
-                                                                   {0xFFE0, 0xFFE6},
-                                                                   {0x1F300, 0x3FFFD}}};
-
-int widthOf(char32_t c)
-{
-    const auto category = QChar::category(c);
-    if (category == QChar::Mark_NonSpacing || category == QChar::Mark_Enclosing ||
-        category == QChar::Other_Format) {
-        return 0;
-    }
-    const bool isWide = std::any_of(wideBlocks.begin(), wideBlocks.end(),
-                                    [c](const auto &block) { return c >= block.first && c <= block.second; });
-    return isWide ? 2 : 1;
-}
-
-/// The character there, of one unit or two.
-char32_t characterAt(QStringView text, qsizetype at)
-{
-    const bool isPair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
-    return isPair ? QChar::surrogateToUcs4(text[at], text[at + 1]) : char32_t(text[at].unicode());
-}
-
-qsizetype unitsOf(char32_t c)
-{
-    return QChar::requiresSurrogates(c) ? 2 : 1;
-}
-
-bool isBreak(char32_t c)
-{
-    return c == U' ' || c == U',' || c == U';' || c == U'/' || c == U'-' || c == U'_';
-}
-
-/// Where the first line of the text ends, which has room for `width` columns: behind the last blank or sign
-/// that fits, else behind the last character, of which there is at least one.
-qsizetype lineEnd(QStringView text, int width)
-{
-    qsizetype good = 0;
-    int used = 0;
-    for (qsizetype at = 0; at < text.size();) {
-        const char32_t c = characterAt(text, at);
-        used += widthOf(c);
-        if (used > width && at > 0) {
-            return c == U' ' || good == 0 ? at : good;
-        }
-        at += unitsOf(c);
-        good = isBreak(c) ? at : good;
-    }
-    return text.size();
-}
+constexpr qsizetype firstField = 2;
 
 /// The lines of a category with their cells in full.
 struct Section
@@ -104,43 +45,30 @@ QList<Section> sectionsOf(const Report &report)
     return sections;
 }
 
-/// The longest piece of a text that is not broken; references are broken at their commas only.
-int pieceWidth(const QString &text, bool isReferences)
+/// A column of text as it is written.
+struct TextColumn
 {
-    int longest = 0;
     int width = 0;
-    for (qsizetype at = 0; at < text.size();) {
-        const char32_t c = characterAt(text, at);
-        at += unitsOf(c);
-        width += widthOf(c);
-        longest = std::max(longest, c == U' ' ? width - 1 : width);
-        width = c == U',' || (!isReferences && isBreak(c)) ? 0 : width;
-    }
-    return longest;
-}
+    /// Whether its texts end at its right edge.
+    bool isNumeric = false;
+};
 
-QList<ColumnNeed> needsOf(const QStringList &headings, const QList<Section> &sections)
+/// Only a layout for reading has its numbers on the right.
+QList<TextColumn> textColumns(const Report &report, const QList<int> &widths)
 {
-    QList<ColumnNeed> needs(headings.size());
-    const auto add = [&needs](const QStringList &cells) {
-        for (qsizetype i = 0; i < needs.size(); ++i) {
-            const bool isReferences = i == referenceColumn;
-            needs[i].text = std::max(needs[i].text, terminalWidth(cells.at(i)));
-            needs[i].piece = std::max(needs[i].piece, pieceWidth(cells.at(i), isReferences));
-        }
-    };
-    add(headings);
-    for (const Section &section : sections) {
-        std::for_each(section.cells.begin(), section.cells.end(), add);
+    const bool isForReading = report.settings().layoutForReading();
+    QList<TextColumn> columns;
+    for (const int width : widths) {
+        const qsizetype field = columns.size() - firstField;
+        const bool hasNumbers =
+            field >= 0 ? report.columns()[size_t(field)].hasNumbers() : field == -firstField;
+        columns.append({width, isForReading && hasNumbers});
     }
-    // Broken at each comma, long lists would be as readable as a tape.
-    ColumnNeed &references = needs[referenceColumn];
-    references.piece = std::max(references.piece, std::min(references.text, readableReferences));
-    return needs;
+    return columns;
 }
 
 /// Cells beside each other, each in as many lines as it takes; nothing stands behind the last text.
-QString rowText(const QList<QStringList> &cells, const QList<int> &widths)
+QString rowText(const QList<QStringList> &cells, const QList<TextColumn> &columns)
 {
     qsizetype height = 0;
     for (const QStringList &cell : cells) {
@@ -153,11 +81,14 @@ QString rowText(const QList<QStringList> &cells, const QList<int> &widths)
         int begin = 0;
         for (qsizetype i = 0; i < cells.size(); ++i) {
             const QString part = cells.at(i).value(row);
+            const TextColumn &column = columns.at(i);
             if (!part.isEmpty()) {
-                line += QString(std::max(0, begin - used), u' ') + part;
-                used = std::max(used, begin) + terminalWidth(part);
+                const int width = terminalWidth(part);
+                const int at = begin + (column.isNumeric ? std::max(0, column.width - width) : 0);
+                line += QString(std::max(0, at - used), u' ') + part;
+                used = std::max(used, at) + width;
             }
-            begin += widths.at(i) + gap;
+            begin += column.width + gap;
         }
         text += line + u'\n';
     }
@@ -173,101 +104,68 @@ QStringList referenceLines(const Report &report, BomLine line, int width)
     return lines;
 }
 
-QString sectionText(const Report &report, const Section &section, const QList<int> &widths, bool isColoured)
+QString sectionText(const Report &report, const Section &section, const QList<TextColumn> &columns,
+                    bool isColoured)
 {
     QString text = emphasized(section.heading, isColoured) + u'\n' +
                    QString(terminalWidth(section.heading), u'-') + u'\n';
     for (qsizetype row = 0; row < section.cells.size(); ++row) {
         QList<QStringList> cells;
-        for (qsizetype i = 0; i < widths.size(); ++i) {
-            cells << (i == referenceColumn ? referenceLines(report, section.lines[size_t(row)], widths.at(i))
-                                           : wrappedText(section.cells.at(row).at(i), widths.at(i)));
+        for (qsizetype i = 0; i < columns.size(); ++i) {
+            const int width = columns.at(i).width;
+            cells << (i == referenceColumn ? referenceLines(report, section.lines[size_t(row)], width)
+                                           : wrappedText(section.cells.at(row).at(i), width));
         }
-        text += rowText(cells, widths);
+        text += rowText(cells, columns);
     }
     return text + u'\n';
 }
 
 } // namespace
 
-QByteArray terminalReport(const Report &report, const TerminalLook &look)
+QByteArray textReport(const Report &report)
 {
+    if (!report.settings().layoutForReading()) {
+        return asciiReport(report);
+    }
+    const Report listed = report.with([](const ReportColumn &column) { return column.field.asciiWidth > 0; });
+    const QList<int> widths = asciiWidths(listed);
+    return terminalReport(listed, {std::accumulate(widths.begin(), widths.end(), 0), false});
+}
+
+QByteArray terminalReport(const Report &whole, const TerminalLook &look)
+{
+    const Report report = whole.forReading();
     const QStringList headings = asciiHeadings(report);
     const QList<Section> sections = sectionsOf(report);
+    ColumnNeeds needs(wordBreaks);
+    needs.add(headings);
+    for (const Section &section : sections) {
+        for (const QStringList &cells : section.cells) {
+            needs.add(cells);
+        }
+    }
     const int room = look.width - gap * int(headings.size() - 1);
-    const QList<int> widths = fittedWidths(needsOf(headings, sections), room);
+    const QList<TextColumn> columns = textColumns(report, fittedWidths(needs.needs(), room));
     QList<QStringList> titles;
     QList<QStringList> strokes;
     for (qsizetype i = 0; i < headings.size(); ++i) {
-        titles << wrappedText(inOneLine(headings.at(i)), widths.at(i));
-        strokes << QStringList(QString(std::min(widths.at(i), terminalWidth(headings.at(i))), u'-'));
+        const int width = columns.at(i).width;
+        titles << wrappedText(inOneLine(headings.at(i)), width);
+        strokes << QStringList(QString(std::min(width, terminalWidth(headings.at(i))), u'-'));
     }
     QString text = emphasized(asciiTitle(), look.isColoured) + u'\n' + QString(asciiTitle().size(), u'=') +
                    u'\n' + asciiInformation(report.design()) +
-                   emphasized(rowText(titles, widths).chopped(1), look.isColoured) + u'\n' +
-                   rowText(strokes, widths);
+                   emphasized(rowText(titles, columns).chopped(1), look.isColoured) + u'\n' +
+                   rowText(strokes, columns);
     for (const Section &section : sections) {
-        text += sectionText(report, section, widths, look.isColoured);
+        text += sectionText(report, section, columns, look.isColoured);
+    }
+    if (!report.emptyColumns().isEmpty()) {
+        const QString sentence = inOneLine(emptyColumnsSentence(report.emptyColumns()));
+        text += wrappedText(sentence, look.width).join(u'\n') + u'\n';
     }
     return text.toUtf8();
-}
-
-int terminalWidth(QStringView text)
-{
-    int width = 0;
-    for (qsizetype at = 0; at < text.size();) {
-        const char32_t c = characterAt(text, at);
-        width += widthOf(c);
-        at += unitsOf(c);
-    }
-    return width;
-}
-
-QList<int> fittedWidths(const QList<ColumnNeed> &needs, int room)
-{
-    const auto widthsFor = [&needs](int mostText, int mostPiece) {
-        QList<int> widths;
-        for (const ColumnNeed &need : needs) {
-            widths << std::max(std::min(need.text, mostText), std::min(need.piece, mostPiece));
-        }
-        return widths;
-    };
-    const auto fits = [room](const QList<int> &widths) {
-        return std::accumulate(widths.begin(), widths.end(), 0) <= room;
-    };
-    int widest = narrowestColumn;
-    for (const ColumnNeed &need : needs) {
-        widest = std::max(widest, need.text);
-    }
-    // First the room for words, then what is left for texts.
-    int mostPiece = widest;
-    while (mostPiece > narrowestColumn && !fits(widthsFor(narrowestColumn, mostPiece))) {
-        --mostPiece;
-    }
-    int mostText = widest;
-    while (mostText > narrowestColumn && !fits(widthsFor(mostText, mostPiece))) {
-        --mostText;
-    }
-    // What the last step left over goes to the first of the columns that gave way.
-    QList<int> widths = widthsFor(mostText, mostPiece);
-    for (qsizetype i = 0; i < widths.size(); ++i) {
-        QList<int> wider = widths;
-        ++wider[i];
-        widths = widths[i] < needs[i].text && fits(wider) ? wider : widths;
-    }
-    return widths;
-}
-
-QStringList wrappedText(const QString &text, int width)
-{
-    QStringList lines;
-    QStringView rest = QStringView(text).trimmed();
-    while (!rest.isEmpty()) {
-        const qsizetype end = lineEnd(rest, width);
-        lines << rest.first(end).trimmed().toString();
-        rest = rest.sliced(end).trimmed();
-    }
-    return lines;
 }
 
 QString emphasized(const QString &text, bool isColoured)

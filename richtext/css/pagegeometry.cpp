@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "richtext/paper/pagegeometry.h"
+#include "richtext/css/pagegeometry.h"
 
 #include "richtext/css/cssbox.h"
 #include "richtext/css/cssvalue.h"
