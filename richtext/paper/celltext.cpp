@@ -9,6 +9,9 @@
 #include <QTextLayout>
 #include <QTextOption>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 Qt::Alignment visualAlignment(Qt::Alignment alignment, bool isRightToLeft)
@@ -55,6 +58,16 @@ void drawLines(QPainter &painter, const QTextLayout &text, double left, const QR
             line.draw(&painter, QPointF(left, 0));
         }
     }
+}
+
+double rowHeight(const RowLook &shape, const RowTexts &cells)
+{
+    double height = 0;
+    for (size_t i = 0; i < cells.size(); ++i) {
+        const CellLook &cell = shape.cells[i];
+        height = std::max(height, cell.paddingAbove + cells[i].height + cell.paddingBelow);
+    }
+    return std::ceil(height);
 }
 
 void lowerLines(const RowLook &shape, double height, RowTexts &cells)

@@ -31,5 +31,8 @@ using RowTexts = std::vector<CellText>;
 /// Paints the lines that reach into a part of the flow of pages.
 void drawLines(QPainter &painter, const QTextLayout &text, double left, const QRectF &part);
 
+/// Of a row on one page, in whole pixels.
+[[nodiscard]] double rowHeight(const RowLook &shape, const RowTexts &cells);
+
 /// In a row of that height on one page, texts may stand lower than at its top.
 void lowerLines(const RowLook &shape, double height, RowTexts &cells);

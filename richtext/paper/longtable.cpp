@@ -29,18 +29,6 @@ double textTop(const QTextDocument &document, const QTextTableCell &cell)
     return document.documentLayout()->blockBoundingRect(cell.firstCursorPosition().block()).top();
 }
 
-/// Puts an empty frame before all of a document. Margins would be kept free at the foot of pages too.
-QTextFrame &insertSpacer(QTextDocument &document)
-{
-    QTextFrameFormat format;
-    format.setHeight(QTextLength(QTextLength::FixedLength, 1));
-    QTextFrame *frame = QTextCursor(&document).insertFrame(format);
-    QTextCharFormat smallest;
-    smallest.setFontPointSize(1);
-    frame->firstCursorPosition().setBlockCharFormat(smallest);
-    return *frame;
-}
-
 /// The first block that shows something, counted from the end of the document; 0 when none does.
 int firstText(const QTextDocument &document)
 {
@@ -65,6 +53,8 @@ LongTable::LongTable(const QString &xhtml, QPaintDevice &device, const QSizeF &p
     , m_parts(splitXhtml(xhtml))
     , m_device(device)
     , m_page(page)
+    , m_keepsRows(StyleSheet(m_parts.css).value(QStringLiteral("tr"), QStringLiteral("break-inside")) ==
+                  u"avoid")
 {
 }
 
@@ -78,8 +68,6 @@ std::unique_ptr<LongTable> LongTable::layOut(const QString &xhtml, QPaintDevice 
 
 bool LongTable::layOutAll()
 {
-    const StyleSheet css(m_parts.css);
-    m_keepsRows = css.value(QStringLiteral("tr"), QStringLiteral("break-inside")) == QLatin1String("avoid");
     std::optional<PlainTable> table = readPlainTable(bodyOf(m_parts.tail));
     // QTextDocument lays shorter tables out fast enough, but breaks rows.
     if (!table || (table->rows.size() < leastRows && !m_keepsRows)) {
@@ -331,16 +319,9 @@ std::optional<RowTexts> LongTable::texts(size_t row) const
 bool LongTable::startsOnPage(size_t row, double top, const RowTexts &cells) const
 {
     const RowLook &shape = look(row);
-    if (m_keepsRows) {
-        double height = 0;
-        for (size_t i = 0; i < cells.size(); ++i) {
-            const CellLook &cell = shape.cells[i];
-            height = std::max(height, cell.paddingAbove + cells[i].height + cell.paddingBelow);
-        }
-        const double needed = std::ceil(height) + m_footMargin;
-        if (m_areaOffset + needed <= m_page.height()) {
-            return top + needed <= pageEnd(top);
-        }
+    const double whole = rowHeight(shape, cells) + m_footMargin;
+    if (m_keepsRows && m_areaOffset + whole <= m_page.height()) {
+        return top + whole <= pageEnd(top);
     }
     for (size_t i = 0; i < cells.size(); ++i) {
         const CellLook &cell = shape.cells[i];

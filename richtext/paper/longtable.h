@@ -92,9 +92,9 @@ private:
     PlainTable m_table;
     QPaintDevice &m_device;
     QSizeF m_page;
-    std::unique_ptr<PageLayouter> m_layouter;
     /// Whether the style sheet asks for rows in one piece, "tr { break-inside: avoid; }".
-    bool m_keepsRows = false;
+    bool m_keepsRows;
+    std::unique_ptr<PageLayouter> m_layouter;
 
     /// What stands before the table, with its first headings and row; what follows it.
     SelfContainedDocument m_start;

@@ -7,7 +7,9 @@
 #include <QAbstractTextDocumentLayout>
 #include <QPalette>
 #include <QRectF>
+#include <QTextCursor>
 #include <QTextDocument>
+#include <QTextFrame>
 
 void fillDocument(QTextDocument &document, const QString &html, QPaintDevice &device)
 {
@@ -27,6 +29,17 @@ void layOutStrip(QTextDocument &document, const QString &xhtml, const StyleSheet
                  double width)
 {
     layOutStrip(document, toQtHtml(xhtml, css, Medium::Window), device, width);
+}
+
+QTextFrame &insertSpacer(QTextDocument &document)
+{
+    QTextFrameFormat format;
+    format.setHeight(QTextLength(QTextLength::FixedLength, 1));
+    QTextFrame *frame = QTextCursor(&document).insertFrame(format);
+    QTextCharFormat smallest;
+    smallest.setFontPointSize(1);
+    frame->firstCursorPosition().setBlockCharFormat(smallest);
+    return *frame;
 }
 
 void drawDocument(QPainter &painter, const QTextDocument &document, const QRectF &part)
