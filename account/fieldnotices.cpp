@@ -161,6 +161,7 @@ QList<JoinedLine> billJoinedLines(const LoadedDesign &design, const BOMPartsData
 
 QStringList joinedLineNotices(const QList<JoinedLine> &joined)
 {
+    constexpr qsizetype mostTexts = 5;
     QSet<QString> lines;
     for (const JoinedLine &line : joined) {
         lines.insert(line.category + QChar::Null + line.reference());
@@ -170,7 +171,7 @@ QStringList joinedLineNotices(const QList<JoinedLine> &joined)
     }
     return {counted(lines.size(), QStringLiteral("line joins"), QStringLiteral("lines join")) +
             QStringLiteral(" parts that differ in what no column shows (bom check lists them): ") +
-            joinedLineText(joined.constFirst())};
+            joinedLineText(joined.constFirst(), mostTexts)};
 }
 
 QStringList emptyColumnNotices(const LoadedDesign &design, const BOMPartsDatabase &database)
@@ -181,6 +182,9 @@ QStringList emptyColumnNotices(const LoadedDesign &design, const BOMPartsDatabas
         !columns.isEmpty() && hasMeanings ? fieldOverview(design) : FieldOverview();
     QStringList texts;
     for (const EmptyColumn &column : columns) {
+        if (FieldNames::isOwn(column.property)) {
+            continue; // such as DNP, which a choice leaves out
+        }
         const QList<FieldUse> names =
             hasMeanings ? namesFor(column.property, design, overview) : QList<FieldUse>();
         QStringList remarks;

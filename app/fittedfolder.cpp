@@ -21,7 +21,11 @@ QString FittedFolder::write(const LoadedDesign &design)
     }
     fitted->settings.setFilePath(file);
     fitted->settings.setVersion(BOMTemplate::CurrentVersion);
-    return path().isEmpty() || !fitted->settings.save() ? m_folder.errorString() : QString();
+    if (path().isEmpty()) {
+        return m_folder.errorString();
+    }
+    // A template that cannot be saved says why itself.
+    return fitted->settings.save() ? QString() : file;
 }
 
 void FittedFolder::proposeToUser()

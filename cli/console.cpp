@@ -62,8 +62,9 @@ void message(const QString &text)
 
 void notice(const QString &text)
 {
+    constexpr qsizetype longest = 2000;
     if (!manners().isQuiet) {
-        message(text);
+        message(text.size() > longest ? text.first(longest) + QStringLiteral("...") : text);
     }
 }
 

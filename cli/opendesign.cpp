@@ -12,12 +12,14 @@
 #include "host/propdefs/propdefsfile.h"
 #include "richtext/paper/pagepainter.h"
 #include "standalone/environment.h"
+#include "standalone/loadeddesign.h"
 #include "templates/templatelist.h"
 #include "templates/templatepaths.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -41,6 +43,30 @@ bool isTemplateFitted(const DesignArguments &arguments)
 QStringList commaSeparated(const std::string &text)
 {
     return text.empty() ? QStringList() : QString::fromStdString(text).split(u',');
+}
+
+QString someOf(const QStringList &names)
+{
+    constexpr qsizetype mostNames = 20;
+    return names.first(std::min(mostNames, names.size())).join(QStringLiteral(", ")) +
+           (names.size() > mostNames ? QStringLiteral(", ...") : QString());
+}
+
+/// Whether each column that is asked for has a name, and no label is left over.
+bool areColumnsNamed(const DesignArguments &arguments)
+{
+    const QStringList fields = commaSeparated(arguments.fields);
+    const bool isBlank = std::any_of(fields.begin(), fields.end(),
+                                     [](const QString &name) { return name.trimmed().isEmpty(); });
+    if (isBlank) {
+        console::message(QStringLiteral("--fields: a name is missing between two commas"));
+        return false;
+    }
+    if (commaSeparated(arguments.labels).size() > fields.size()) {
+        console::message(QStringLiteral("--labels: there are more labels than fields"));
+        return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -75,6 +101,9 @@ ExitStatus OpenDesign::open(const DesignArguments &arguments, bool printsWarning
 {
     if (!loadDefinitions(QString::fromStdString(arguments.propdefs))) {
         return ExitStatus::UnreadableInput;
+    }
+    if (!areColumnsNamed(arguments)) {
+        return ExitStatus::WrongUsage;
     }
     const bool isFitted = isTemplateFitted(arguments);
     std::optional<BOMTemplate> settings;
@@ -120,11 +149,12 @@ std::optional<BOMTemplate> OpenDesign::fitTemplate(const DesignArguments &argume
         fitted = presetTemplate(design(), name);
         problem = QStringLiteral("the project has no BOM preset \"") + name + u'"' + didYouMean(name, names) +
                   (names.isEmpty() ? QStringLiteral(" (it has none)")
-                                   : QStringLiteral(" (it has ") + names.join(QStringLiteral(", ")) + u')');
+                                   : QStringLiteral(" (it has ") + someOf(names) + u')');
     } else {
         fitted = fittedTemplate(design(), &problem);
     }
     if (!fitted) {
+        console::notices(design().design().projectBom().problems);
         console::message(problem);
         return std::nullopt;
     }

@@ -126,9 +126,8 @@ QList<JoinedLine> joinedLines(const BOMPartsDatabase &database, const QStringLis
     return found;
 }
 
-QString joinedLineText(const JoinedLine &line)
+QString joinedLineText(const JoinedLine &line, qsizetype mostTexts)
 {
-    constexpr qsizetype mostTexts = 10;
     QStringList references;
     QStringList texts;
     for (const JoinedLine::Text &text : line.texts) {

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <limits>
+
 class BOMPartsDatabase;
 
 /// A line of the bill whose parts differ in a property that no column shows.
@@ -37,8 +39,10 @@ struct JoinedLine
 [[nodiscard]] QList<JoinedLine> joinedLines(const BOMPartsDatabase &database, const QStringList &always,
                                             const QStringList &whereFilled);
 
-/// In words: `R1-R3 are one line and differ in PACKAGE: "0603" on R1-R2, none on R3`.
-[[nodiscard]] QString joinedLineText(const JoinedLine &line);
+/// In words, with `mostTexts` of the texts: `R1-R3 are one line and differ in PACKAGE: "0603" on R1-R2, none
+/// on R3`.
+[[nodiscard]] QString joinedLineText(const JoinedLine &line,
+                                     qsizetype mostTexts = std::numeric_limits<qsizetype>::max());
 
 /// A column of the current template that is empty on all parts that are listed.
 struct EmptyColumn

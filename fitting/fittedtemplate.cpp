@@ -7,6 +7,7 @@
 #include "fitting/prefixcategories.h"
 #include "standalone/loadeddesign.h"
 #include "templates/templatelist.h"
+#include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
 
 #include <QFileInfo>
@@ -24,20 +25,20 @@ bool isOneOf(const QString &text, std::initializer_list<QLatin1String> texts)
     });
 }
 
-/// Columns that every bill has, or that say what its lines are chosen by.
+/// References and quantities, which every bill has, and KiCad's marks of parts.
 bool isFixedColumn(const QString &name)
 {
     return name.startsWith(QLatin1String("${")) ||
-           isOneOf(name,
-                   {QLatin1String("Reference"), QLatin1String("References"), QLatin1String("Designator"),
-                    QLatin1String("Quantity"), QLatin1String("Qty"), QLatin1String("DNP")});
+           isOneOf(name, {QLatin1String("Reference"), QLatin1String("References"),
+                          QLatin1String("Designator"), QLatin1String("Quantity"), QLatin1String("Qty")});
 }
 
 /// Whether KiCad shows the column of its own accord.
 bool isInitialColumn(const QString &name)
 {
-    return isFixedColumn(name) || isOneOf(name, {QLatin1String("Value"), QLatin1String("Footprint"),
-                                                 QLatin1String("Datasheet"), QLatin1String("Description")});
+    return isFixedColumn(name) ||
+           isOneOf(name, {QLatin1String("Value"), QLatin1String("Footprint"), QLatin1String("Datasheet"),
+                          QLatin1String("Description"), QLatin1String("DNP")});
 }
 
 /// KiCad stores such settings for every project in which the table of symbol fields was open once.
@@ -63,20 +64,18 @@ QString propertyOf(const QString &field)
                                                                                : field;
 }
 
-/// A heading that no column has yet.
-QString freeTitle(const BOMFields &columns, const QString &wanted)
+/// A label in one line, without characters that cannot be seen.
+QString readable(QString label)
 {
-    QString title = wanted;
-    for (int number = 2; columns.contains(title); ++number) {
-        title = wanted + u' ' + QString::number(number);
-    }
-    return title;
+    label.removeIf([](QChar c) { return !c.isPrint() && !c.isSpace() && !c.isSurrogate(); });
+    return label.simplified();
 }
 
 void addColumn(const ListedParts &parts, const QString &name, const QString &label, BOMFields *columns)
 {
     if (!isFixedColumn(name)) {
-        columns->add(columnOf(parts, propertyOf(name), freeTitle(*columns, label.isEmpty() ? name : label)));
+        columns->add(columnOf(parts, propertyOf(name),
+                              freeTitle(*columns, readable(label.trimmed().isEmpty() ? name : label))));
     }
 }
 
@@ -104,23 +103,48 @@ BOMTemplate settingsWith(const ListedParts &parts, const BOMFields &columns)
     return settings;
 }
 
+/// With the value in front where it has no column: every bill needs one.
+BOMFields withValue(const ListedParts &parts, const BOMFields &columns)
+{
+    const QList<BOMField> fields = columns.fields();
+    const bool hasValue = std::any_of(fields.begin(), fields.end(), [](const BOMField &field) {
+        return field.propertyName == QLatin1String("VALUE");
+    });
+    if (hasValue) {
+        return columns;
+    }
+    BOMFields complete;
+    complete.add(columnOf(parts, QStringLiteral("VALUE"), freeTitle(columns, QStringLiteral("Value"))));
+    for (const BOMField &field : fields) {
+        complete.add(field);
+    }
+    return complete;
+}
+
 QString namesOf(const BOMFields &columns)
 {
     return columns.names().join(QStringLiteral(", "));
 }
 
+QStringList leftOutNotices(const MadeColumns &columns)
+{
+    return columns.leftOut.isEmpty() ? QStringList()
+                                     : QStringList(QStringLiteral("too many columns; without one are: ") +
+                                                   columns.leftOut.join(QStringLiteral(", ")));
+}
+
 FittedTemplate projectTemplate(const ListedParts &parts, const BomSettings &settings, const QString &what)
 {
-    BOMFields columns = projectColumns(parts, settings);
-    const QStringList own = columns.names();
-    addTellingColumns(parts, &columns);
-    const QStringList added = columns.names().sliced(own.size());
-    FittedTemplate fitted{settingsWith(parts, columns), {}, {}};
+    const BOMFields shown = withValue(parts, projectColumns(parts, settings));
+    const QStringList own = shown.names();
+    const MadeColumns columns = withTellingColumns(parts, shown);
+    const QStringList added = columns.fields.names().sliced(own.size());
+    FittedTemplate fitted{settingsWith(parts, columns.fields), {}, leftOutNotices(columns)};
     fitted.reason =
         QStringLiteral("columns of ") + what + QStringLiteral(": ") + own.join(QStringLiteral(", "));
     if (!added.isEmpty()) {
         fitted.reason += QStringLiteral("; and ") + added.join(QStringLiteral(", ")) +
-                         QStringLiteral(", without which lines would join different parts");
+                         QStringLiteral(", which tell parts apart");
     }
     if (!settings.filter.isEmpty()) {
         fitted.notices << QStringLiteral("the filter \"") + settings.filter +
@@ -143,8 +167,13 @@ std::optional<FittedTemplate> templateFromFile(const QString &path, QString *pro
     if (!settings) {
         return std::nullopt;
     }
-    return FittedTemplate{
+    FittedTemplate fitted{
         *settings, QStringLiteral("template ") + path + QStringLiteral(" beside the design"), {}};
+    if (settings->isOfLaterVersion()) {
+        const TemplateMessage message = settings->laterVersionMessage();
+        fitted.notices << (message.detail.isEmpty() ? message.text : message.detail);
+    }
+    return fitted;
 }
 
 } // namespace
@@ -179,19 +208,22 @@ std::optional<FittedTemplate> fittedTemplate(const LoadedDesign &design, QString
         return FittedTemplate{settings, QStringLiteral("template Default, as names are taken as they are"),
                               bom.problems};
     }
-    const BOMFields columns = madeColumns(parts);
-    return FittedTemplate{settingsWith(parts, columns),
-                          QStringLiteral("columns made for this design: ") + namesOf(columns), bom.problems};
+    const MadeColumns columns = madeColumns(parts);
+    return FittedTemplate{settingsWith(parts, columns.fields),
+                          QStringLiteral("columns made for what the parts have: ") + namesOf(columns.fields),
+                          bom.problems + leftOutNotices(columns)};
 }
 
 std::optional<FittedTemplate> presetTemplate(const LoadedDesign &design, const QString &preset)
 {
-    for (const BomSettings &settings : namedSettings(design)) {
-        if (!settings.fields.isEmpty() && settings.name.compare(preset, Qt::CaseInsensitive) == 0) {
-            FittedTemplate fitted =
-                projectTemplate(ListedParts(design), settings,
-                                QStringLiteral("the project's preset \"") + settings.name + u'"');
-            return fitted;
+    const QList<BomSettings> all = namedSettings(design);
+    for (const Qt::CaseSensitivity sensitivity : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
+        const auto found = std::find_if(all.begin(), all.end(), [&](const BomSettings &settings) {
+            return !settings.fields.isEmpty() && settings.name.compare(preset, sensitivity) == 0;
+        });
+        if (found != all.end()) {
+            return projectTemplate(ListedParts(design), *found,
+                                   QStringLiteral("the project's preset \"") + readable(found->name) + u'"');
         }
     }
     return std::nullopt;
@@ -227,5 +259,8 @@ FittedTemplate columnTemplate(const LoadedDesign &design, const QStringList &pro
     for (qsizetype i = 0; i < properties.size(); ++i) {
         addColumn(parts, properties.at(i).trimmed(), labels.value(i).trimmed(), &columns);
     }
-    return {settingsWith(parts, columns), QStringLiteral("columns ") + namesOf(columns), {}};
+    const BOMFields complete = withValue(parts, columns);
+    FittedTemplate fitted{settingsWith(parts, complete), QStringLiteral("columns ") + namesOf(columns), {}};
+    fitted.settings.setExcludeValueField(complete.size() > columns.size());
+    return fitted;
 }

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <string_view>
 
 namespace {
 
@@ -15,7 +16,10 @@ using designs::NameId;
 
 using Kind = BuyerField::Kind;
 
-constexpr qsizetype mostColumns = 20;
+QString nameOf(const ListedParts &parts, NameId id)
+{
+    return fromHostText(parts.design().design().names().name(id));
+}
 
 std::vector<NameId> filledOnes(const ListedParts &parts, std::vector<NameId> names)
 {
@@ -23,19 +27,43 @@ std::vector<NameId> filledOnes(const ListedParts &parts, std::vector<NameId> nam
     return names;
 }
 
-/// The property that has the meaning on the listed parts.
-std::optional<QString> filledProperty(const ListedParts &parts, const BuyerField &field)
+/// The properties by which the listed parts have a field.
+struct FieldProperties
 {
-    const std::vector<NameId> names = filledOnes(parts, namesOf(parts.design(), field));
-    return names.empty() ? std::nullopt : std::optional(propertyOf(parts.design(), field, names));
+    /// The one to ask for; nothing where no name means the field for certain.
+    std::optional<QString> main;
+    /// Names that mean it too, where a part has another text under them.
+    QStringList disagreeing;
+    /// Names that do not say it for certain.
+    QStringList likely;
+};
+
+bool disagrees(const ListedParts &parts, NameId id, const QString &main)
+{
+    const PROPNAME name(toHostText(main));
+    return std::any_of(parts.components().begin(), parts.components().end(),
+                       [&](const designs::Component *part) {
+                           const auto own = part->stored(id);
+                           const auto read = parts.design().properties().find(*part, name);
+                           return own && DesignFields::isFilled(*own) && read &&
+                                  std::string_view(read->data(), std::size_t(read->size())) != *own;
+                       });
 }
 
-/// Those that most likely have it.
-QStringList likelyProperties(const ListedParts &parts, const BuyerField &field)
+FieldProperties propertiesOf(const ListedParts &parts, const BuyerField &field,
+                             const QStringList &definedNames)
 {
-    QStringList properties;
+    FieldProperties properties;
+    const std::vector<NameId> names = filledOnes(parts, namesOf(parts.design(), field));
+    properties.main = names.empty() ? definedProperty(parts.design(), field, definedNames)
+                                    : std::optional(propertyOf(parts.design(), field, names));
+    for (const NameId id : names) {
+        if (names.size() > 1 && disagrees(parts, id, *properties.main)) {
+            properties.disagreeing << nameOf(parts, id);
+        }
+    }
     for (const NameId id : filledOnes(parts, likelyNamesOf(parts.design(), field))) {
-        properties << fromHostText(parts.design().design().names().name(id));
+        properties.likely << nameOf(parts, id);
     }
     return properties;
 }
@@ -44,66 +72,114 @@ QStringList likelyProperties(const ListedParts &parts, const BuyerField &field)
 class Columns
 {
 public:
-    explicit Columns(const ListedParts &parts)
+    Columns(const ListedParts &parts, const BOMFields &columns)
         : m_parts(parts)
         , m_keys(parts)
+        , m_columns(columns)
     {
         m_keys.addColumn(QStringLiteral("VALUE"));
+        for (const BOMField &column : columns.fields()) {
+            m_keys.addColumn(column.propertyName);
+        }
     }
 
     void add(const QString &property, const QString &title)
     {
-        const bool isKnown =
-            std::any_of(m_properties.begin(), m_properties.end(), [&property](const QString &known) {
-                return known.compare(property, Qt::CaseInsensitive) == 0;
-            });
-        if (isKnown || m_columns.size() >= mostColumns) {
+        constexpr qsizetype mostColumns = 40;
+        const QList<BOMField> columns = m_columns.fields();
+        const bool isShown = std::any_of(columns.begin(), columns.end(), [&property](const BOMField &column) {
+            return column.propertyName.compare(property, Qt::CaseInsensitive) == 0;
+        });
+        if (isShown) {
             return;
         }
-        if (m_columns.add(columnOf(m_parts, property, m_columns.contains(title) ? property : title))) {
-            m_properties << property;
-            if (property != QLatin1String("VALUE")) {
-                m_keys.addColumn(property);
-            }
+        if (columns.size() >= mostColumns) {
+            m_leftOut << property;
+            return;
+        }
+        m_columns.add(columnOf(m_parts, property, freeTitle(m_columns, title)));
+        if (property != QLatin1String("VALUE")) {
+            m_keys.addColumn(property);
         }
     }
 
+    void addFootprint()
+    {
+        const auto ids = m_parts.design().design().names().candidates("PACKAGE");
+        if (!filledOnes(m_parts, ids).empty()) {
+            add(QStringLiteral("PACKAGE"), QStringLiteral("Footprint"));
+        }
+    }
+
+    /// Adds what the listed parts have of a field.
     void add(const BuyerField &field)
     {
-        const auto property = filledProperty(m_parts, field);
-        if (!property || !isWanted(field, *property)) {
-            return;
+        const FieldProperties properties = propertiesOf(m_parts, field, m_definedNames);
+        if (properties.main && isWanted(field, *properties.main)) {
+            add(*properties.main, titleOf(field, *properties.main));
         }
-        add(*property, field.title ? QString::fromUtf8(field.title) : *property);
-        if (field.kind == Kind::Price && m_columns.contains(QString::fromUtf8(field.title))) {
-            BOMField price = m_columns.get(QString::fromUtf8(field.title));
-            price.generateTotals = true;
-            price.precision = decimalsOf(m_parts.design(), *property);
-            m_columns.set(price);
-        }
-    }
-
-    /// Names that perhaps have the meaning: a column each, under the name itself, where a part has nothing
-    /// else.
-    void addLikely(const BuyerField &field)
-    {
-        const bool isShown =
-            field.kind == Kind::Firm || field.kind == Kind::Number || field.kind == Kind::Price;
-        const auto certain = filledProperty(m_parts, field);
-        for (const QString &name : isShown ? likelyProperties(m_parts, field) : QStringList()) {
-            if (!certain || (field.kind == Kind::Number && isAlone(name, *certain))) {
+        if (field.kind == Kind::Number) {
+            addNumbers(properties);
+        } else if (!properties.main && (field.kind == Kind::Firm || field.kind == Kind::Price)) {
+            for (const QString &name : properties.likely) {
                 add(name, name);
             }
         }
     }
 
-    [[nodiscard]] bool joins(const QString &property)
+    /// Adds what tells parts of one line apart, and the maker's part number.
+    void addTelling()
     {
-        return m_keys.joinDifferent(property, LineKeys::Empty::IsText);
+        if (joinsDifferent(QStringLiteral("PACKAGE"), LineKeys::Empty::IsText)) {
+            addFootprint();
+        }
+        for (const BuyerField &field : buyerFields()) {
+            const bool isRating = field.kind == Kind::Rating;
+            if (!isRating && field.kind != Kind::Number) {
+                continue;
+            }
+            const FieldProperties properties = propertiesOf(m_parts, field, m_definedNames);
+            const auto empty = isRating ? LineKeys::Empty::IsAny : LineKeys::Empty::IsText;
+            if (properties.main &&
+                (field.key == std::string_view("mpn") || joinsDifferent(*properties.main, empty))) {
+                add(*properties.main, titleOf(field, *properties.main));
+            }
+            for (const QString &name : properties.disagreeing + properties.likely) {
+                if (joinsDifferent(name, LineKeys::Empty::IsAny)) {
+                    add(name, name);
+                }
+            }
+        }
     }
+
     [[nodiscard]] const BOMFields &columns() const { return m_columns; }
+    [[nodiscard]] const QStringList &leftOut() const { return m_leftOut; }
 
 private:
+    [[nodiscard]] static QString titleOf(const BuyerField &field, const QString &property)
+    {
+        return field.title ? QString::fromUtf8(field.title) : property;
+    }
+
+    [[nodiscard]] bool joinsDifferent(const QString &property, LineKeys::Empty empty)
+    {
+        return m_keys.joinDifferent(property, empty);
+    }
+
+    /// The numbers besides the main one: nothing that tells parts apart may be left out.
+    void addNumbers(const FieldProperties &properties)
+    {
+        for (const QString &name : properties.disagreeing) {
+            add(name, name);
+        }
+        for (const QString &name : properties.likely) {
+            if (!properties.main || isAlone(name, *properties.main) ||
+                joinsDifferent(name, LineKeys::Empty::IsAny)) {
+                add(name, name);
+            }
+        }
+    }
+
     /// Whether a part has the one property and not the other.
     [[nodiscard]] bool isAlone(const QString &property, const QString &other) const
     {
@@ -120,10 +196,11 @@ private:
     {
         switch (field.kind) {
         case Kind::Rating:
-            return m_keys.joinDifferent(property, LineKeys::Empty::IsAny);
+            return joinsDifferent(property, LineKeys::Empty::IsAny);
         case Kind::Description:
             // One that says no more than the heading of the category, or tears a line apart, is no help.
-            return LineKeys(m_parts).joinDifferent(property, LineKeys::Empty::IsAny) && !joins(property);
+            return LineKeys(m_parts).joinDifferent(property, LineKeys::Empty::IsAny) &&
+                   !joinsDifferent(property, LineKeys::Empty::IsText);
         case Kind::Firm:
         case Kind::Number:
         case Kind::Price:
@@ -133,25 +210,29 @@ private:
     }
 
     const ListedParts &m_parts;
+    const QStringList m_definedNames = definedNames(m_parts.design());
     LineKeys m_keys;
-    QStringList m_properties;
     BOMFields m_columns;
+    QStringList m_leftOut;
 };
 
-const QString footprint = QStringLiteral("PACKAGE");
-
-bool hasFootprints(const ListedParts &parts)
+bool isPrice(const LoadedDesign &design, const QString &property)
 {
-    const auto ids = parts.design().design().names().candidates("PACKAGE");
-    return std::any_of(ids.begin(), ids.end(), [&parts](NameId id) { return parts.use(id).parts > 0; });
-}
-
-QString footprintTitle()
-{
-    return QStringLiteral("Footprint");
+    const FieldNames *names = design.properties().fields().names();
+    const auto meaning = names ? names->senseOf(property).meaning : std::nullopt;
+    return meaning && names->meanings()[*meaning].key == QLatin1String("price");
 }
 
 } // namespace
+
+QString freeTitle(const BOMFields &columns, const QString &wanted)
+{
+    QString title = wanted;
+    for (int number = 2; columns.contains(title); ++number) {
+        title = wanted + u' ' + QString::number(number);
+    }
+    return title;
+}
 
 int decimalsOf(const LoadedDesign &design, const QString &property)
 {
@@ -190,44 +271,29 @@ BOMField columnOf(const ListedParts &parts, const QString &property, const QStri
     for (const NameId id : ids) {
         width = std::max(width, parts.use(id).longest);
     }
+    if (isPrice(parts.design(), property)) {
+        column.generateTotals = true;
+        column.precision = decimalsOf(parts.design(), property);
+    }
     // A blank stands between the columns.
     column.asciiWidth = int(std::clamp(std::max(width, title.size()) + 1, narrowest, widest));
     return column;
 }
 
-BOMFields madeColumns(const ListedParts &parts)
+MadeColumns madeColumns(const ListedParts &parts)
 {
-    Columns columns(parts);
+    Columns columns(parts, {});
     columns.add(QStringLiteral("VALUE"), QStringLiteral("Value"));
-    if (hasFootprints(parts)) {
-        columns.add(footprint, footprintTitle());
-    }
+    columns.addFootprint();
     for (const BuyerField &field : buyerFields()) {
         columns.add(field);
-        columns.addLikely(field);
     }
-    return columns.columns();
+    return {columns.columns(), columns.leftOut()};
 }
 
-void addTellingColumns(const ListedParts &parts, BOMFields *columns)
+MadeColumns withTellingColumns(const ListedParts &parts, const BOMFields &columns)
 {
-    Columns telling(parts);
-    for (const BOMField &column : columns->fields()) {
-        telling.add(column.propertyName, column.fieldName);
-    }
-    const auto tell = [&](const QString &property, const QString &title) {
-        if (telling.joins(property)) {
-            telling.add(property, title);
-            columns->add(columnOf(parts, property, columns->contains(title) ? property : title));
-        }
-    };
-    if (hasFootprints(parts)) {
-        tell(footprint, footprintTitle());
-    }
-    for (const BuyerField &field : buyerFields()) {
-        const auto property = filledProperty(parts, field);
-        if (property && field.kind == Kind::Number) {
-            tell(*property, field.title ? QString::fromUtf8(field.title) : *property);
-        }
-    }
+    Columns telling(parts, columns);
+    telling.addTelling();
+    return {telling.columns(), telling.leftOut()};
 }

@@ -73,6 +73,13 @@ std::vector<NameId> namesThat(const LoadedDesign &design, const Says &says)
     return found;
 }
 
+bool meansField(const LoadedDesign &design, const QString &name, const BuyerField &field)
+{
+    const FieldNames *names = design.properties().fields().names();
+    const auto meaning = names && !FieldNames::isOwn(name) ? names->senseOf(name).meaning : std::nullopt;
+    return meaning && isMeaning(*names, *meaning, field);
+}
+
 } // namespace
 
 std::span<const BuyerField> buyerFields()
@@ -100,27 +107,69 @@ QString propertyOf(const LoadedDesign &design, const BuyerField &field, const st
     std::vector<NameId> asked;
     std::copy_if(names.begin(), names.end(), std::back_inserter(asked),
                  [&design](NameId id) { return !FieldNames::isExact(nameOf(design, id)); });
-    const FieldNames &known = *design.properties().fields().names();
-    const QString title = QString::fromUtf8(field.title);
-    if (const auto meaning = known.senseOf(title).meaning;
-        !asked.empty() && meaning && isMeaning(known, *meaning, field)) {
-        return title;
+    if (!asked.empty() && meansField(design, QString::fromUtf8(field.title), field)) {
+        return QString::fromUtf8(field.title);
     }
     return nameOf(design, design.properties().fields().commonest(asked.empty() ? names : asked));
 }
 
+QStringList definedNames(const LoadedDesign &design)
+{
+    QStringList names;
+    const PROPPREFIX definition("BOMPART");
+    for (const designs::Component &component : design.design().components()) {
+        for (const PROPERTY &property : design.properties().startingWith(component, definition)) {
+            for (const QString &field : fromHostText(property.value).split(u',')) {
+                const qsizetype sign = field.indexOf(u'=');
+                QString name = field.left(std::max<qsizetype>(sign, 0));
+                name.remove(u'\'').remove(u'"');
+                names << name.trimmed();
+            }
+        }
+    }
+    names.removeAll(QString());
+    names.removeDuplicates();
+    return names;
+}
+
+std::optional<QString> definedProperty(const LoadedDesign &design, const BuyerField &field,
+                                       const QStringList &definedNames)
+{
+    const auto found = std::find_if(definedNames.begin(), definedNames.end(),
+                                    [&](const QString &name) { return meansField(design, name, field); });
+    if (found == definedNames.end()) {
+        return std::nullopt;
+    }
+    const QString title = QString::fromUtf8(field.title);
+    return !FieldNames::isExact(*found) && meansField(design, title, field) ? title : *found;
+}
+
 TellingProperties tellingProperties(const LoadedDesign &design)
 {
+    // A design can have any number of names, and each is compared on every part.
+    constexpr qsizetype mostFurther = 50;
     TellingProperties telling{{QStringLiteral("PACKAGE")}, {}};
+    const QStringList defined = definedNames(design);
     for (const BuyerField &field : buyerFields()) {
-        const std::vector<NameId> names = namesOf(design, field);
-        if (names.empty()) {
+        const bool isNumber = field.kind == Kind::Number;
+        if (!isNumber && field.kind != Kind::Rating) {
             continue;
         }
-        if (field.kind == Kind::Number) {
-            telling.always << propertyOf(design, field, names);
-        } else if (field.kind == Kind::Rating) {
-            telling.whereFilled << propertyOf(design, field, names);
+        std::vector<NameId> further = namesOf(design, field);
+        const auto main = further.empty() ? definedProperty(design, field, defined)
+                                          : std::optional(propertyOf(design, field, further));
+        if (main) {
+            (isNumber ? telling.always : telling.whereFilled) << *main;
+        }
+        if (further.size() == 1) {
+            further.clear();
+        }
+        const std::vector<NameId> likely = likelyNamesOf(design, field);
+        further.insert(further.end(), likely.begin(), likely.end());
+        for (const NameId id : further) {
+            if (telling.whereFilled.size() < mostFurther && nameOf(design, id) != main) {
+                telling.whereFilled << nameOf(design, id);
+            }
         }
     }
     return telling;

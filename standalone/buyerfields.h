@@ -4,8 +4,9 @@
 
 #include "standalone/loadeddesign.h"
 
-#include <QString>
+#include <QStringList>
 
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -43,6 +44,13 @@ struct BuyerField
 [[nodiscard]] QString propertyOf(const LoadedDesign &design, const BuyerField &field,
                                  const std::vector<designs::NameId> &names);
 
+/// The names of properties in the definitions of BOM-only parts, each once.
+[[nodiscard]] QStringList definedNames(const LoadedDesign &design);
+/// The property to ask for to have what BOM-only parts have of the field; nothing where none of the names
+/// means it for certain.
+[[nodiscard]] std::optional<QString> definedProperty(const LoadedDesign &design, const BuyerField &field,
+                                                     const QStringList &definedNames);
+
 /// Properties by which parts of one line may be different parts.
 struct TellingProperties
 {
@@ -52,5 +60,5 @@ struct TellingProperties
     QStringList whereFilled;
 };
 
-/// The footprint and the numbers that the design has; its ratings.
+/// The footprint and the numbers that the design has; its ratings, and further names of numbers and ratings.
 [[nodiscard]] TellingProperties tellingProperties(const LoadedDesign &design);

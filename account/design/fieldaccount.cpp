@@ -66,19 +66,72 @@ std::unordered_map<NameId, std::size_t> placesOf(const std::vector<NameId> &ids)
     return places;
 }
 
-/// The names of the meaning but DNP itself.
-std::vector<NameId> notFittedNames(const LoadedDesign &design)
+bool isOneOf(const QString &text, std::initializer_list<QLatin1String> texts)
+{
+    return std::any_of(texts.begin(), texts.end(), [&text](QLatin1String known) {
+        return text.compare(known, Qt::CaseInsensitive) == 0;
+    });
+}
+
+/// A name under which parts may say "do not fit".
+struct NotFittedName
+{
+    enum class Says
+    {
+        /// By anything but "no".
+        Yes,
+        /// By "no": whether the part is fitted.
+        No,
+        /// By a word that means nothing else: the name has other texts too.
+        Word
+    };
+
+    NameId id = 0;
+    Says says = Says::Yes;
+};
+
+/// All such names but DNP itself.
+std::vector<NotFittedName> notFittedNames(const LoadedDesign &design)
 {
     const DesignFields &fields = design.properties().fields();
-    std::vector<NameId> ids;
+    const auto isNotFitted = [&fields](std::size_t meaning) {
+        return fields.names()->meanings()[meaning].key == QLatin1String("not-fitted");
+    };
+    std::vector<NotFittedName> names;
     for (NameId id = 0; fields.names() != nullptr && id < design.design().names().size(); ++id) {
-        const auto meaning = fields.senseOf(id).meaning;
-        if (meaning && fields.names()->meanings()[*meaning].key == QLatin1String("not-fitted") &&
-            !FieldNames::isExact(nameOf(design, id))) {
-            ids.push_back(id);
+        const QString name = nameOf(design, id);
+        const FieldSense &sense = fields.senseOf(id);
+        if (FieldNames::isExact(name)) {
+            continue;
+        }
+        if (sense.meaning && isNotFitted(*sense.meaning)) {
+            names.push_back({id, NotFittedName::Says::Yes});
+        } else if (std::any_of(sense.proposed.begin(), sense.proposed.end(), isNotFitted)) {
+            const bool isPositive =
+                isOneOf(name, {QLatin1String("Populate"), QLatin1String("Populated"), QLatin1String("Fitted"),
+                               QLatin1String("Mounted"), QLatin1String("Mount")});
+            names.push_back({id, isPositive ? NotFittedName::Says::No : NotFittedName::Says::Word});
         }
     }
-    return ids;
+    return names;
+}
+
+bool saysDoNotFit(const PropertyTable &table, NotFittedName::Says says, std::string_view text)
+{
+    switch (says) {
+    case NotFittedName::Says::Yes:
+        return !table.fitting(QByteArrayView(text.data(), qsizetype(text.size()))).isFitted;
+    case NotFittedName::Says::No:
+        return isOneOf(fromHostText(text).trimmed(),
+                       {QLatin1String("no"), QLatin1String("n"), QLatin1String("0"), QLatin1String("false")});
+    case NotFittedName::Says::Word:
+        break;
+    }
+    return isOneOf(fromHostText(text).trimmed(),
+                   {QLatin1String("DNF"), QLatin1String("DNP"), QLatin1String("DNI"), QLatin1String("DNM"),
+                    QLatin1String("do not fit"), QLatin1String("do not populate"),
+                    QLatin1String("do not place"), QLatin1String("do not mount"), QLatin1String("not fitted"),
+                    QLatin1String("nopop")});
 }
 
 /// Goes through the parts of the bill for one property.
@@ -247,10 +300,13 @@ private:
 QList<FieldUse> unheededNotFitted(const LoadedDesign &design)
 {
     const PropertyTable &table = design.properties();
-    const std::vector<NameId> ids = notFittedNames(design);
-    if (ids.empty()) {
+    const std::vector<NotFittedName> names = notFittedNames(design);
+    if (names.empty()) {
         return {};
     }
+    std::vector<NameId> ids;
+    std::transform(names.begin(), names.end(), std::back_inserter(ids),
+                   [](const NotFittedName &name) { return name.id; });
     const PROPNAME skip("BOMSKIP");
     const auto places = placesOf(ids);
     std::vector<FieldUse> uses(ids.size());
@@ -261,8 +317,7 @@ QList<FieldUse> unheededNotFitted(const LoadedDesign &design)
         }
         for (const designs::Property &property : component.properties) {
             const auto place = places.find(property.name);
-            const QByteArrayView text(property.value.data(), qsizetype(property.value.size()));
-            if (place != places.end() && !table.fitting(text).isFitted) {
+            if (place != places.end() && saysDoNotFit(table, names[place->second].says, property.value)) {
                 enter(&uses[place->second], component, property.value);
             }
         }

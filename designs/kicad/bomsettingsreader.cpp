@@ -44,7 +44,10 @@ public:
 
     void problem(const QString &text)
     {
-        problems << m_path + QStringLiteral(": the BOM settings are not followed: ") + text;
+        constexpr qsizetype mostProblems = 5;
+        if (problems.size() < mostProblems) {
+            problems << m_path + QStringLiteral(": some of the BOM settings cannot be read: ") + text;
+        }
     }
 
     QStringList problems;

@@ -160,6 +160,12 @@ TEST_F(Fields, ThatSayDoNotFitUnderOtherNamesAreTold)
     EXPECT_THAT(check.out, HasSubstr(notice));
     EXPECT_EQ(check.status, 1);
     EXPECT_EQ(run("check marks.csv --exact-names").status, 0);
+    write(QStringLiteral("words.csv"),
+          "Reference,Value,Config,Fitted\nR1,1k,DNF,\nR2,1k,A,no\nR3,1k,B,yes\n");
+    EXPECT_THAT(run("report words.csv --csv -").err,
+                AllOf(HasSubstr("1 part says \"do not fit\" under the name Config"),
+                      HasSubstr("1 part says \"do not fit\" under the name Fitted"),
+                      HasSubstr("R2 (\"no\")")));
 }
 
 } // namespace

@@ -44,7 +44,7 @@ TEST_F(Fitting, MakesAColumnOfEachMeaningThatPartsHave)
         const char *list;
         const char *columns;
     } cases[] = {
-        {"Reference,Value\nR1,1k\n", "Value\nbom: columns made for this design: Value\n"},
+        {"Reference,Value\nR1,1k\n", "Value\nbom: columns made for what the parts have: Value\n"},
         {"Reference,Value,Footprint,manf#,Mfr,LCSC,MPN,Author\nR1,1k,0603,A,Yageo,C1,,x\nC1,1u,,,,,B,\n",
          "Value,Footprint,Manufacturer,MPN,LCSC\n"},
         // What is not filled, or on parts that are not listed only, has none.
@@ -52,6 +52,12 @@ TEST_F(Fitting, MakesAColumnOfEachMeaningThatPartsHave)
         // A name that is not certain has a column of its own where a part has nothing else.
         {"Reference,Value,MPN,Part Number\nR1,1k,A,\nR2,1k,,B\n", "Value,MPN,Part Number\n"},
         {"Reference,Value,MPN,Part Number\nR1,1k,A,\nR2,1k,A,B\n", "Value,MPN\n"},
+        {"Reference,Value,PARTNO\nR1,1k,A\nR2,1k,B\n", "Value,PARTNO\n"},
+        // Nothing that tells parts apart is hidden behind another name, or behind a heading that is taken.
+        {"Reference,Value,LCSC,LCSC#\nR1,1k,C1,C2\nR2,1k,C1,\n", "Value,LCSC,LCSC#\n"},
+        {"Reference,Value,Mouser,Mouser Part Number\nR1,1k,,5-1\nR2,1k,5-2,\nR3,1k,5-3,\n",
+         "Value,Mouser,Mouser 2\n"},
+        {"Reference,Value,BOMPART1\nU1,A,\"1,SCR,M3,manf#=47\"\nU2,A,\"1,SCR,M3,MPN=48\"\n", "Value,MPN\n"},
         // A description is shown where it says more than the category and tears no line apart.
         {"Reference,Value,Description\nU1,A,Timer\nU2,B,Amplifier\n", "Value,Description\n"},
         {"Reference,Value,Description\nR1,1k,Resistor\nR2,2k,Resistor\n", "Value\n"},
@@ -80,13 +86,13 @@ TEST_F(Fitting, TakesTheProjectsSettingsWhereTheyAreTheUsersOwn)
     const auto settings = [&shown](const char *name, const char *field) {
         return QByteArray(shown).replace("%1", name).replace("%2", field);
     };
-    const std::string made = "Value,Footprint,LCSC\nbom: columns made for this design";
+    const std::string made = "Value,Footprint,LCSC\nbom: columns made for what the parts have";
     writeProject("{\"bom_settings\":" + settings("Grouped By Value", "LCSC") + "}");
-    EXPECT_THAT(
-        columns("amp.kicad_sch"),
-        AllOf(StartsWith("Mine,Value,Footprint\nbom: columns of the project's BOM settings: Mine, Value; and "
-                         "Footprint, without which lines would join different parts\n"),
-              HasSubstr("the filter \"R*\" of the project's BOM settings is not followed")));
+    EXPECT_THAT(columns("amp.kicad_sch"),
+                AllOf(StartsWith("Mine,Value,Footprint\nbom: columns of the project's BOM settings: Mine, "
+                                 "Value; and Footprint, "
+                                 "which tell parts apart\n"),
+                      HasSubstr("the filter \"R*\" of the project's BOM settings is not followed")));
     writeProject("{\"bom_settings\":" + settings("Grouped By Value", "Datasheet") + "}");
     EXPECT_THAT(columns("amp.kicad_sch"), StartsWith(made));
     writeProject("{\"bom_settings\":" + settings("Shop", "Datasheet") + ",\"bom_presets\":[" +
@@ -98,8 +104,9 @@ TEST_F(Fitting, TakesTheProjectsSettingsWhereTheyAreTheUsersOwn)
     for (const char *broken :
          {"7", "{}", R"({"fields_ordered":{}})", R"({"fields_ordered":[{"show":true}]})"}) {
         writeProject(QByteArray("{\"bom_settings\":") + broken + "}");
-        EXPECT_THAT(columns("amp.kicad_sch"),
-                    AllOf(StartsWith(made), HasSubstr("amp.kicad_pro: the BOM settings are not followed: ")))
+        EXPECT_THAT(
+            columns("amp.kicad_sch"),
+            AllOf(StartsWith(made), HasSubstr("amp.kicad_pro: some of the BOM settings cannot be read: ")))
             << broken;
     }
 }
@@ -124,7 +131,10 @@ TEST_F(Fitting, TakesColumnsFromTheCommandLine)
     writeAmplifier();
     EXPECT_EQ(columns("amp.kicad_sch --fields Reference,Footprint,Value,Nothing --labels Ref,,V,V"),
               "Footprint,V,V 2\nbom: no part has anything in the column V 2 (Nothing)\n");
-    EXPECT_EQ(run("report amp.kicad_sch --labels A").status, 2);
+    EXPECT_EQ(columns("amp.kicad_sch --fields Footprint"), "Footprint\n");
+    for (const char *wrong : {"--labels A", "--fields A, --labels A", "--fields A --labels A,B"}) {
+        EXPECT_EQ(run((std::string("report amp.kicad_sch ") + wrong).c_str()).status, 2) << wrong;
+    }
     EXPECT_EQ(run("report amp.kicad_sch --fields A --template Default").status, 2);
 }
 
