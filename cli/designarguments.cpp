@@ -16,7 +16,6 @@ void DesignArguments::addTo(CLI::App &command)
     addListing(command);
     addNames(command);
     addAsIs(command);
-    isFitted = true;
 }
 
 void DesignArguments::addAsIs(CLI::App &command)
@@ -56,9 +55,7 @@ void DesignArguments::addListing(CLI::App &command)
         ->type_name("exclude|include|only")
         ->check(CLI::IsMember({"exclude", "include", "only"}).description(""))
         ->default_str("exclude");
-    command
-        .add_option("--template", templateName,
-                    "Template, or a .bomt file; without it one that is fitted to the design")
+    command.add_option("--template", templateName, "Template, or a .bomt file; without it \"Default\"")
         ->type_name("NAME|FILE")
         ->check(CLI::Validator(isGiven, ""));
 }
@@ -67,6 +64,7 @@ void DesignArguments::addColumns(CLI::App &command)
 {
     isFitted = true;
     CLI::Option *named = command.get_option("--template");
+    named->description("Template, or a .bomt file; without it one that fits the design");
     CLI::Option *listed =
         command.add_option("--fields", fields, "Columns of these properties, such as Value,Footprint,MPN")
             ->type_name("A,B,...")
