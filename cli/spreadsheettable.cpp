@@ -52,7 +52,7 @@ std::optional<SpreadsheetTable> tableOfSheet(Sheet sheet, const QStringList &ref
             continue;
         }
         if (!row.kinds.isEmpty()) {
-            read.kinds.insert(row.number, std::move(row.kinds));
+            read.kinds.insert(row.number, row.kinds);
         }
         rows.push_back({row.number, std::move(row.cells)});
     }

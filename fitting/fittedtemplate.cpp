@@ -136,7 +136,7 @@ QStringList leftOutNotices(const MadeColumns &columns)
 FittedTemplate projectTemplate(const ListedParts &parts, const BomSettings &settings, const QString &what)
 {
     const BOMFields shown = withValue(parts, projectColumns(parts, settings));
-    const QStringList own = shown.names();
+    const QStringList &own = shown.names();
     const MadeColumns columns = withTellingColumns(parts, shown);
     const QStringList added = columns.fields.names().sliced(own.size());
     FittedTemplate fitted{settingsWith(parts, columns.fields), {}, leftOutNotices(columns)};
