@@ -40,6 +40,9 @@ public:
     /// A reference that the design does not have. Only the first ones are named, the others are counted.
     void refuseUnknown(const QString &reference, const QString &origin);
 
+    /// Reference and property of each edit that was given with its origin.
+    [[nodiscard]] QList<std::pair<QString, QString>> edited() const { return m_origins.keys(); }
+
     /// Writes the edits, and reports what was changed or why nothing was.
     [[nodiscard]] ExitStatus write(const WriteOptions &options);
 

@@ -15,7 +15,33 @@
 
 #include <CLI/Validators.hpp>
 
+#include <QSet>
+
 #include <algorithm>
+#include <utility>
+
+namespace {
+
+/// People edit the sheet that they see first. Its edits are not lost in silence where another sheet is read.
+void refuseFurtherEdits(const DesignEdits &others, const QString &where, DesignEdits &edits)
+{
+    using Edit = std::pair<QString, QString>;
+    const auto folded = [](const Edit &edit) { return Edit(edit.first, edit.second.toUpper()); };
+    QSet<Edit> known;
+    for (const Edit &edit : edits.edited()) {
+        known.insert(folded(edit));
+    }
+    QList<Edit> further = others.edited();
+    further.removeIf([&](const Edit &edit) { return known.contains(folded(edit)); });
+    if (!further.isEmpty()) {
+        const Edit first = *std::min_element(further.begin(), further.end());
+        edits.refuse(where + QStringLiteral(" has changes that \"Parts\" does not have, such as ") +
+                     first.first + QStringLiteral(", ") + first.second +
+                     QStringLiteral(" (--sheet says which of the sheets counts)"));
+    }
+}
+
+} // namespace
 
 void WriteArguments::addTo(CLI::App &command)
 {
@@ -214,6 +240,16 @@ ExitStatus ApplyCommand::readEdits(OpenDesign &design, DesignEdits &edits, bool 
     EditTable comparison(path, design, edits, {m_acceptsSpreadsheetChanges, headings});
     sheet ? comparison.compare(*sheet) : comparison.compare(*table);
     console::notices(comparison.notices());
+    if (sheet && !sheet->otherSheet.isEmpty()) {
+        QString unreadable;
+        headings.isPartsSheet = false;
+        if (const auto other = readSpreadsheetTable(path, sheet->otherSheet, references, &unreadable)) {
+            DesignEdits otherEdits(design);
+            EditTable(path, design, otherEdits, {m_acceptsSpreadsheetChanges, headings}).compare(*other);
+            refuseFurtherEdits(otherEdits, path + QStringLiteral(": the sheet \"") + other->sheet + u'"',
+                               edits);
+        }
+    }
     return ExitStatus::Done;
 }
 

@@ -169,6 +169,9 @@ std::optional<SpreadsheetTable> readSpreadsheetTable(const QString &path, const 
             continue;
         }
         table->sheet = names.at(index);
+        if (sheet.isEmpty() && isPartsSheet(table->sheet)) {
+            table->otherSheet = names.value(index == 0 ? 1 : 0);
+        }
         if (sheet.isEmpty() && names.size() > 1) {
             table->notices.prepend(QStringLiteral("of %1 sheets \"").arg(names.size()) + table->sheet +
                                    QStringLiteral("\" is read (--sheet takes another)"));

@@ -17,6 +17,8 @@ struct SpreadsheetTable
 {
     Table table;
     QString sheet;
+    /// Where the sheet of parts was taken without being asked for, the first other one; empty otherwise.
+    QString otherSheet;
     /// Of the cells that hold no text, by row from 1 and column from 0.
     QHash<int, QMap<qsizetype, CellKind>> kinds;
     /// What the user should know of the choice of the sheet, one sentence each.

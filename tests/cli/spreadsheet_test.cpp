@@ -43,6 +43,26 @@ TEST_F(SpreadsheetEdits, ASpreadsheetAppliedAsItIsChangesNothing)
     EXPECT_EQ(read(schematic), m_before);
 }
 
+TEST_F(SpreadsheetEdits, ChangesOfTheBillAreNotLostWhereTheSheetOfPartsIsRead)
+{
+    const auto mpn = [](const char *text) {
+        return sheetOf("MPN", QByteArray("<c t=\"str\"><v>") + text + "</v></c>");
+    };
+    const auto both = [&](const char *parts, const char *bill) {
+        return xlsxBytes(mpn(parts), "<sst/>", "<styleSheet/>", mpn(bill));
+    };
+    EXPECT_EQ(applied(both("0603", "0603")).status, 0);
+    EXPECT_THAT(applied(both("A", "0603")).out, HasSubstr("R1 MPN: \"0603\" -> \"A\""));
+    EXPECT_EQ(applied(both("A", "A")).status, 0);
+    const ProgramRun refused = applied(both("0603", "B"));
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.err,
+                HasSubstr("edits.xlsx: the sheet \"Bill\" has changes that \"Parts\" does not have, "
+                          "such as R1, MPN (--sheet says which of the sheets counts)"));
+    EXPECT_EQ(applied(both("0603", "B"), " --sheet Parts").status, 0);
+    EXPECT_THAT(applied(both("0603", "B"), " --sheet Bill").out, HasSubstr("-> \"B\""));
+}
+
 TEST_F(SpreadsheetEdits, CellsAreTextsOrAreRefusedWithTheirAddress)
 {
     const QByteArray styles = "<styleSheet><numFmts><numFmt numFmtId=\"200\" formatCode=\"dd/mm\"/></numFmts>"

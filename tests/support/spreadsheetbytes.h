@@ -41,9 +41,10 @@ inline QByteArray archiveBytes(const QList<std::pair<QByteArray, QByteArray>> &p
            QByteArray(2, '\0');
 }
 
-/// A workbook with one sheet, its other parts as programs write them.
+/// A workbook with the sheet "Parts", perhaps a sheet "Bill" in front, and its other parts as programs write
+/// them.
 inline QByteArray xlsxBytes(const QByteArray &sheet, const QByteArray &texts = "<sst/>",
-                            const QByteArray &styles = "<styleSheet/>")
+                            const QByteArray &styles = "<styleSheet/>", const QByteArray &bill = {})
 {
     const auto relation = [](const char *id, const char *type, const char *target) {
         return QByteArray("<Relationship Id=\"") + id +
@@ -54,14 +55,18 @@ inline QByteArray xlsxBytes(const QByteArray &sheet, const QByteArray &texts = "
         {{"_rels/.rels",
           "<Relationships>" + relation("a", "officeDocument", "xl/workbook.xml") + "</Relationships>"},
          {"xl/workbook.xml",
-          "<workbook xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\"><sheets>"
-          "<sheet name=\"Parts\" sheetId=\"1\" r:id=\"b\"/></sheets></workbook>"},
+          "<workbook "
+          "xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\"><sheets>" +
+              QByteArray(bill.isEmpty() ? "" : "<sheet name=\"Bill\" sheetId=\"2\" r:id=\"e\"/>") +
+              "<sheet name=\"Parts\" sheetId=\"1\" r:id=\"b\"/></sheets></workbook>"},
          {"xl/_rels/workbook.xml.rels", "<Relationships>" + relation("b", "worksheet", "/xl/sheet.xml") +
                                             relation("c", "sharedStrings", "texts.xml") +
-                                            relation("d", "styles", "styles.xml") + "</Relationships>"},
+                                            relation("d", "styles", "styles.xml") +
+                                            relation("e", "worksheet", "/xl/bill.xml") + "</Relationships>"},
          {"xl/texts.xml", texts},
          {"xl/styles.xml", styles},
-         {"xl/sheet.xml", sheet}});
+         {"xl/sheet.xml", sheet},
+         {"xl/bill.xml", bill}});
 }
 
 /// An OpenDocument spreadsheet with one sheet of these rows.
