@@ -341,6 +341,14 @@ bool EditTable::isUnchanged(const QString &cell, const QString &shown, const Edi
     }
     const QString before = plainText(shown, column);
     const QString after = plainText(cell, column);
+    // Assembly services take footprints without their libraries.
+    const bool isFootprint =
+        column.report.field.propertyName.compare(QLatin1String("PACKAGE"), Qt::CaseInsensitive) == 0;
+    const bool hasLibraries =
+        !m_design.design().design().info().file.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
+    if (isFootprint && hasLibraries && !after.isEmpty() && before.endsWith(u':' + after)) {
+        return true;
+    }
     if (column.report.isNumeric && isNearNumber(before, after, m_numbers)) {
         return true;
     }

@@ -115,7 +115,8 @@ void joinBillRows(Table &table, const QString &referenceHeading)
         const bool hasReferences = !isBlank(row.cells.value(references));
         const bool hasMore = std::count_if(row.cells.begin(), row.cells.end(),
                                            [](const QString &cell) { return !isBlank(cell); }) > 1;
-        if (!hasReferences && hasCategory) {
+        // Headings of categories and totals have no quantity; a line that lost its references is told.
+        if (!hasReferences && hasCategory && isBlank(row.cells.value(1))) {
             continue;
         }
         if (hasReferences && !hasMore && !rows.empty()) {

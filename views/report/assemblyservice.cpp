@@ -140,6 +140,9 @@ void ServiceReader::readSetting(const QString &key, QStringView value)
         m_needed = unquoted(value);
     } else if (key == QLatin1String("separator")) {
         m_read.service.separator = unquoted(value);
+        if (m_read.service.separator.isEmpty()) {
+            fail(quoted(key) + QStringLiteral(" says nothing"));
+        }
     } else if (key == QLatin1String("apart")) {
         m_read.service.apart << unquoted(value);
     } else if (key == QLatin1String("most designators")) {

@@ -39,6 +39,11 @@ QString pageRules(const Report &report)
                           "@media print {\n    body { margin: 0; }\n}\n");
 }
 
+/// Numbers and words of headings are not torn where a window is narrower than the paper.
+const QString numberRules = QStringLiteral("table.categoriesTable td.number p { white-space: nowrap; }\n"
+                                           "table.categoriesTable td.number p, table.categoriesTable th "
+                                           "p.fieldHeading { overflow-wrap: normal; }\n");
+
 QString narrowRules(const QStringList &headings)
 {
     QString labels;
@@ -74,7 +79,7 @@ QString browserHead(const Report &report)
 {
     return QStringLiteral("<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\" />\n"
                           "\t         <style type=\"text/css\">\n") +
-           pageRules(report) + narrowRules(report.headings(true).mid(1)) +
+           numberRules + pageRules(report) + narrowRules(report.headings(true).mid(1)) +
            QStringLiteral("\t         </style>\n");
 }
 

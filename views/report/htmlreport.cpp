@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 namespace {
 
@@ -158,7 +159,14 @@ QList<int> readableWidths(const Report &report)
             }
             needs.add(texts);
         }
+        needs.add(QStringList{QString(), QString()} + report.texts(report.subTotals(category)));
     }
+    // Totals are set in a larger, bold font.
+    QStringList totals = report.texts(report.grandTotals());
+    for (QString &total : totals) {
+        total += QString(total.size() / 3, u'0');
+    }
+    needs.add(QStringList{QString(), QString()} + totals);
     // With the room for capitals in bold.
     constexpr int padding = 3;
     QList<ColumnNeed> wanted = needs.needs();
@@ -178,6 +186,17 @@ QList<int> readableWidths(const Report &report)
     for (int &width : widths) {
         width = std::max(1, width * 100 / whole);
         left -= width;
+    }
+    // A narrow column loses most by a percent that is not whole.
+    std::vector<int *> narrowFirst;
+    for (int &width : widths) {
+        narrowFirst.push_back(&width);
+    }
+    std::stable_sort(narrowFirst.begin(), narrowFirst.end(),
+                     [](const int *a, const int *b) { return *a < *b; });
+    for (int *width : narrowFirst) {
+        *width += left > 0 ? 1 : 0;
+        left -= left > 0 ? 1 : 0;
     }
     widths[1] = std::max(1, widths[1] + left);
     return widths;

@@ -105,8 +105,11 @@ Report::Report(const BOMPartsDatabase &database, const BOMFields &fields)
     for (const BOMField &field : fields.fields()) {
         const bool isMark = database.hasNotFitted() && field.propertyName == notFittedProperty() &&
                             !known.contains(field.fieldName);
-        m_columns.push_back(
-            {field, PropertyQuery(field.propertyName, &types), types.isNumeric(field.propertyName), isMark});
+        // Prices have many names, and a definition for few of them.
+        const bool isPrice = database.currentTemplate().layoutForReading() && field.generateTotals &&
+                             !types.type(field.propertyName);
+        m_columns.push_back({field, PropertyQuery(field.propertyName, &types),
+                             types.isNumeric(field.propertyName) || isPrice, isMark});
     }
 }
 

@@ -28,6 +28,12 @@ QString cleaned(const QString &text)
     return line == u'~' ? QString() : line;
 }
 
+/// Whether a text names a part: what people write for none has no digit but 0.
+bool saysNumber(const QString &text)
+{
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isDigit() && c != u'0'; });
+}
+
 QString withoutLibrary(const QString &footprint)
 {
     const QString name = footprint.section(u':', 1);
@@ -226,7 +232,7 @@ ServiceBill serviceBill(const BOMPartsDatabase &database, const AssemblyService 
         }
     }
     for (const Part *part : parts) {
-        if (service.needed && texts.text(*part, *service.needed).isEmpty()) {
+        if (service.needed && !saysNumber(texts.text(*part, *service.needed))) {
             bill.withoutNumber << part->reference();
         }
     }
