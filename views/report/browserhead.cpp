@@ -40,9 +40,10 @@ QString pageRules(const Report &report)
 }
 
 /// Numbers and words of headings are not torn where a window is narrower than the paper.
-const QString numberRules = QStringLiteral("table.categoriesTable td.number p { white-space: nowrap; }\n"
-                                           "table.categoriesTable td.number p, table.categoriesTable th "
-                                           "p.fieldHeading { overflow-wrap: normal; }\n");
+const QString numberRules = QStringLiteral(
+    "table.categoriesTable td.number p { white-space: nowrap; }\n"
+    "table.categoriesTable td.number p, table.categoriesTable th p.fieldHeading { overflow-wrap: normal; }\n"
+    "@media screen and (max-width: 1000px) {\n    table.categoriesTable { table-layout: auto; }\n}\n");
 
 QString narrowRules(const QStringList &headings)
 {
