@@ -199,10 +199,29 @@ void EditTable::compareCell(const QString &reference, const QStringList &referen
         refuseSpreadsheetChange(row, column, reference,
                                 made + QStringLiteral(", as spreadsheets do by themselves "
                                                       "(--accept-spreadsheet-changes writes it)"));
+    } else if (isNumberLost(cell, shown, column)) {
+        refuse(row, column, reference,
+               quotedText(plainText(cell, column), {}) +
+                   QStringLiteral(" is no number, and the column has totals"));
     } else {
         m_edits.add(reference, column.report.field.propertyName, plainText(cell, column),
                     place(row.line, column));
     }
+}
+
+bool EditTable::isNumberLost(const QString &cell, const QStringList &shown, const EditColumn &column) const
+{
+    const auto isNumber = [&](const QString &text) {
+        return m_numbers.read(plainText(text, column)).has_value();
+    };
+    const QString name = column.report.field.propertyName;
+    const QList<BOMField> fields = m_design.database().currentTemplate().fields().fields();
+    const bool isTotalled = std::any_of(fields.begin(), fields.end(), [&name](const BOMField &field) {
+        return field.generateTotals && field.propertyName.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return isTotalled && !m_design.database().propertyTypes().type(name) &&
+           isFilled(plainText(cell, column)) && !isNumber(cell) &&
+           std::any_of(shown.begin(), shown.end(), isNumber);
 }
 
 QString EditTable::cellOf(const TableRow &row, const EditColumn &column) const

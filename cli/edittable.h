@@ -55,6 +55,9 @@ private:
     /// What a spreadsheet has made of one of the texts; empty when it has not.
     [[nodiscard]] QString spreadsheetChangeOf(const QString &cell, const QStringList &shown,
                                               const EditColumn &column, CellKind kind) const;
+    /// Whether the cell has a text instead of a number, where the property has no definition that refuses it.
+    [[nodiscard]] bool isNumberLost(const QString &cell, const QStringList &shown,
+                                    const EditColumn &column) const;
     void refuseSpreadsheetChange(const TableRow &row, const EditColumn &column, const QString &reference,
                                  const QString &text);
     [[nodiscard]] bool hasSameTexts(const TableRow &row, const TableRow &other) const;

@@ -61,6 +61,10 @@ TEST_F(SpreadsheetEdits, ChangesOfTheBillAreNotLostWhereTheSheetOfPartsIsRead)
                           "such as R1, MPN (--sheet says which of the sheets counts)"));
     EXPECT_EQ(applied(both("0603", "B"), " --sheet Parts").status, 0);
     EXPECT_THAT(applied(both("0603", "B"), " --sheet Bill").out, HasSubstr("-> \"B\""));
+    write(list, "Reference,Value,Footprint,Price\nR1,1k,A:0603,3.5\n");
+    EXPECT_THAT(applied(xlsxBytes(sheetOf("Price", "<c t=\"str\"><v>abc</v></c>"))).err,
+                HasSubstr("cell B2: R1, Price: \"abc\" is no number, and the column has totals"));
+    EXPECT_EQ(applied(xlsxBytes(sheetOf("Price", "<c><v>3.50</v></c>"))).out, "nothing to change\n");
 }
 
 TEST_F(SpreadsheetEdits, CellsAreTextsOrAreRefusedWithTheirAddress)
