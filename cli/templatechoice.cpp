@@ -62,7 +62,7 @@ bool hasOwnDefaultTemplate()
     if (QFileInfo::exists(legacyTemplatesFile())) {
         TemplateStore store;
         store.reload();
-        if (!store.templates().stored(TemplateList::defaultName()).filePath().isEmpty()) {
+        if (store.templates().stored(TemplateList::defaultName()).legacySettings()) {
             return true;
         }
     }

@@ -118,6 +118,13 @@ TEST_F(Fitting, TakesATemplateBesideTheDesignAndTheUsersOwnDefault)
     const std::string kept = columns("amp.kicad_sch --template Kept");
     EXPECT_EQ(kept, "Value,Footprint,LCSC\n");
     EXPECT_EQ(columns("amp.kicad_sch --exact-names").substr(0, 27), "Value,Stock Code,Unit Cost\n");
+    setEnvironment(QStringLiteral("XDG_DATA_HOME"), path(QStringLiteral("home")));
+    (void)runInShell("mkdir -p home/bom/templates");
+    const QString legacy = QStringLiteral("home/bom/templates/BOMTemplates.ini");
+    write(legacy, "[Templates]\nOld=x\n");
+    EXPECT_THAT(columns("amp.kicad_sch"), HasSubstr("Value,Footprint,LCSC\n")) << "of the former store";
+    (void)runInShell("rm -r home");
+    EXPECT_EQ(run("template new Kept --for amp.kicad_sch").status, 0);
     EXPECT_EQ(run("template new Default --from Assembly").status, 1);
     EXPECT_EQ(run("template reset").status, 0);
     EXPECT_THAT(columns("amp.kicad_sch"), StartsWith("Value,Stock Code,Unit Cost\n"));

@@ -28,10 +28,18 @@ QString cleaned(const QString &text)
     return line == u'~' ? QString() : line;
 }
 
-/// Whether a text names a part: what people write for none has no digit but 0.
+/// Whether a text names a part, and is not what people write for none.
 bool saysNumber(const QString &text)
 {
-    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isDigit() && c != u'0'; });
+    static const QStringList none{QString(),
+                                  QStringLiteral("-"),
+                                  QStringLiteral("0"),
+                                  QStringLiteral("?"),
+                                  QStringLiteral("n/a"),
+                                  QStringLiteral("na"),
+                                  QStringLiteral("none"),
+                                  QStringLiteral("tbd")};
+    return !none.contains(text, Qt::CaseInsensitive);
 }
 
 QString withoutLibrary(const QString &footprint)
