@@ -35,6 +35,6 @@ private:
     const ListedParts &m_parts;
     /// By the part. Two lines with one key are told apart wrongly once in 2^64: a column too many.
     std::vector<std::size_t> m_keys;
-    /// Columns that no key has yet: mostly nobody asks after the last ones.
+    /// Columns that are not in the keys yet: they go in at the next question, which mostly never comes.
     QStringList m_pending;
 };
