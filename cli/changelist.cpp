@@ -20,7 +20,7 @@ constexpr qsizetype mostPlaces = 5;
 /// Changes that differ in nothing but the part.
 struct EqualChanges
 {
-    PropertyChange first;
+    CDBCHANGE first;
     QStringList references;
     QStringList alsoChanges;
     /// File and line, each once.
@@ -28,7 +28,7 @@ struct EqualChanges
 };
 
 /// What they say, with lengths where texts could run into each other.
-QString sameness(const PropertyChange &change)
+QString sameness(const CDBCHANGE &change)
 {
     const auto framed = [](const std::optional<QString> &text) {
         return text ? QString::number(text->size()) + u':' + *text : QStringLiteral("-");
@@ -37,11 +37,11 @@ QString sameness(const PropertyChange &change)
 }
 
 /// In the order of the first of each.
-QList<EqualChanges> grouped(const QList<PropertyChange> &changes)
+QList<EqualChanges> grouped(const QList<CDBCHANGE> &changes)
 {
     QList<EqualChanges> groups;
     QHash<QString, qsizetype> found;
-    for (const PropertyChange &change : changes) {
+    for (const CDBCHANGE &change : changes) {
         const QString key = sameness(change);
         if (!found.contains(key)) {
             found.insert(key, groups.size());
@@ -88,7 +88,7 @@ QStringList othersOf(const EqualChanges &group)
 
 QString changeLine(const EqualChanges &group)
 {
-    const PropertyChange &change = group.first;
+    const CDBCHANGE &change = group.first;
     QString line =
         printable(referenceText(group.references)) + u' ' + printable(change.name) + QStringLiteral(": ") +
         quotedText(change.before, QStringLiteral("none")) + QStringLiteral(" -> ") +
@@ -103,9 +103,9 @@ QString changeLine(const EqualChanges &group)
 
 } // namespace
 
-QString changeLines(QList<PropertyChange> changes)
+QString changeLines(QList<CDBCHANGE> changes)
 {
-    std::stable_sort(changes.begin(), changes.end(), [](const PropertyChange &a, const PropertyChange &b) {
+    std::stable_sort(changes.begin(), changes.end(), [](const CDBCHANGE &a, const CDBCHANGE &b) {
         return compareReferences(a.reference, b.reference) < 0;
     });
     QString text;
@@ -132,10 +132,10 @@ QString changeLines(const QList<BomPartChange> &changes)
     return lines;
 }
 
-QString changeSummary(const QList<PropertyChange> &changes, qsizetype files, bool isDryRun)
+QString changeSummary(const QList<CDBCHANGE> &changes, qsizetype files, bool isDryRun)
 {
     QSet<QString> parts;
-    for (const PropertyChange &change : changes) {
+    for (const CDBCHANGE &change : changes) {
         parts.insert(change.reference);
         for (const QString &reference : change.alsoChanges) {
             parts.insert(reference);

@@ -12,8 +12,8 @@
 /// Changes for people to read, a line each in the order of the references: reference, property, values and
 /// place. Equal changes are one line with all their references and the first of their places; the numbers of
 /// changes, parts and files follow.
-[[nodiscard]] QString changeLines(QList<PropertyChange> changes);
-[[nodiscard]] QString changeSummary(const QList<PropertyChange> &changes, qsizetype files, bool isDryRun);
+[[nodiscard]] QString changeLines(QList<CDBCHANGE> changes);
+[[nodiscard]] QString changeSummary(const QList<CDBCHANGE> &changes, qsizetype files, bool isDryRun);
 
 /// What is changed in a BOM-only part, and in words how.
 struct BomPartChange

@@ -24,11 +24,11 @@ constexpr qsizetype mostNamedUnknown = 10;
 
 /// "written under the names that the design has: MPN as "manf#" on 3 parts", nothing where all names are
 /// those that were asked for.
-QStringList otherNameNotices(const QList<PropertyChange> &changes)
+QStringList otherNameNotices(const QList<CDBCHANGE> &changes)
 {
     // Of parts that share a sheet each change names the others.
     QMap<std::pair<QString, QString>, QSet<QString>> parts;
-    for (const PropertyChange &change : changes) {
+    for (const CDBCHANGE &change : changes) {
         if (!change.askedName.isEmpty()) {
             QSet<QString> &references = parts[{change.askedName, change.name}];
             references.insert(change.reference);
@@ -283,7 +283,7 @@ ExitStatus DesignEdits::reportProblems(const QStringList &messages, ExitStatus s
     return status;
 }
 
-QStringList DesignEdits::newlyReadNotices(const QList<PropertyChange> &changes) const
+QStringList DesignEdits::newlyReadNotices(const QList<CDBCHANGE> &changes) const
 {
     QStringList texts;
     const auto add = [&texts](const QString &reference, const QString &property, const QString &name,
@@ -291,7 +291,7 @@ QStringList DesignEdits::newlyReadNotices(const QList<PropertyChange> &changes) 
         texts << reference + QStringLiteral(", ") + property + QStringLiteral(" from \"") + name +
                      QStringLiteral("\" (") + quotedText(text, {}) + u')';
     };
-    for (const PropertyChange &change : changes) {
+    for (const CDBCHANGE &change : changes) {
         if (change.after && DesignFields::isFilled(change.after->toStdString())) {
             continue;
         }
@@ -317,7 +317,7 @@ QStringList DesignEdits::newlyReadNotices(const QList<PropertyChange> &changes) 
 
 std::optional<std::pair<QString, QString>> DesignEdits::readAfter(const QString &reference,
                                                                   const QString &property,
-                                                                  const QList<PropertyChange> &changes) const
+                                                                  const QList<CDBCHANGE> &changes) const
 {
     const LoadedDesign &design = m_design.design();
     const auto found = design.references().find(reference.toStdString());
@@ -327,11 +327,10 @@ std::optional<std::pair<QString, QString>> DesignEdits::readAfter(const QString 
     const designs::Component &component = design.design().components()[found.front()];
     for (const designs::NameId id : design.properties().filledNames(component, toHostText(property))) {
         const QString name = fromHostText(design.design().names().name(id));
-        const bool isChanged =
-            std::any_of(changes.cbegin(), changes.cend(), [&](const PropertyChange &change) {
-                return change.name == name &&
-                       (change.reference == reference || change.alsoChanges.contains(reference));
-            });
+        const bool isChanged = std::any_of(changes.cbegin(), changes.cend(), [&](const CDBCHANGE &change) {
+            return change.name == name &&
+                   (change.reference == reference || change.alsoChanges.contains(reference));
+        });
         if (!isChanged) {
             return std::pair(name, fromHostText(*design.design().stored(component, id)));
         }
@@ -344,7 +343,7 @@ ExitStatus DesignEdits::reportChanges(const WriteResult &result, bool isDryRun)
     if (result.changes.isEmpty()) {
         return console::write("nothing to change\n") ? ExitStatus::Done : ExitStatus::UnwritableOutput;
     }
-    for (const PropertyChange &change : result.changes) {
+    for (const CDBCHANGE &change : result.changes) {
         if (!change.before && change.after) {
             m_newProperties.add(change.reference, change.name);
             for (const QString &reference : change.alsoChanges) {

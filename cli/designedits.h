@@ -60,10 +60,10 @@ private:
     [[nodiscard]] ExitStatus reportProblems(const QStringList &messages, ExitStatus status,
                                             bool isUndecided = false) const;
     /// Of the properties that are taken away those that another name answers for from now on.
-    [[nodiscard]] QStringList newlyReadNotices(const QList<PropertyChange> &changes) const;
+    [[nodiscard]] QStringList newlyReadNotices(const QList<CDBCHANGE> &changes) const;
     /// The name and the text that a property is read from after the changes, if these leave it as it was.
     [[nodiscard]] std::optional<std::pair<QString, QString>>
-    readAfter(const QString &reference, const QString &property, const QList<PropertyChange> &changes) const;
+    readAfter(const QString &reference, const QString &property, const QList<CDBCHANGE> &changes) const;
     [[nodiscard]] ExitStatus reportChanges(const WriteResult &result, bool isDryRun);
 
     OpenDesign &m_design;

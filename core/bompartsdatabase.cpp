@@ -63,6 +63,7 @@ void BOMPartsDatabase::destroyInstance()
 
 void BOMPartsDatabase::clear()
 {
+    ++m_generation;
     m_categories.clear();
     m_bomOnlyParts.clear();
     m_links.clear();
@@ -73,11 +74,17 @@ void BOMPartsDatabase::clear()
     notify();
 }
 
+const NETLIST *BOMPartsDatabase::netlist() const
+{
+    return m_netlist && m_netlist->isValid() ? m_netlist : nullptr;
+}
+
 void BOMPartsDatabase::load()
 {
     if (!m_netlist) {
         return;
     }
+    ++m_generation;
     const BulkChange change(this);
     m_notes = designNotes();
     m_propertyTypes.load();

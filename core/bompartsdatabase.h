@@ -24,6 +24,7 @@
 
 class APPLNDOCUMENT;
 class NETCACHE;
+struct NETLIST;
 
 /// The parts of the current design, sorted into the categories and lines of the current template.
 /// Every change ends in one dataChanged(), however much it changed.
@@ -56,6 +57,10 @@ public:
 
     /// The netlist to load from, null for none. Not owned; it must stay until it is replaced.
     void setNetlist(NETCACHE *netlist) { m_netlist = netlist; }
+    /// What the parts are loaded from; null for none, and where it holds nothing that can be used.
+    [[nodiscard]] const NETLIST *netlist() const;
+    /// Grows whenever parts are let go of or loaded: pointers to parts of before are of no use then.
+    [[nodiscard]] quint64 generation() const { return m_generation; }
     /// Tells whether the module's window can be seen; without it none can.
     void setWindowVisibleQuery(std::function<bool()> query) { m_isWindowVisible = std::move(query); }
 
@@ -200,6 +205,7 @@ private:
 
     NETCACHE *m_netlist = nullptr;
     std::function<bool()> m_isWindowVisible;
+    quint64 m_generation = 0;
     int m_bulkChanges = 0;
     /// A notice was held back by a BulkChange.
     bool m_isNoticeDue = false;

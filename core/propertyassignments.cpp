@@ -15,24 +15,13 @@
 #include <QScopedValueRollback>
 #include <QStringList>
 
+#include <algorithm>
 #include <sstream>
 #include <utility>
 
 namespace {
 
 constexpr qsizetype longestResult = 80;
-/// What stands between name and value in a line of a script.
-constexpr char separator[] = "\"   :   \"";
-
-QString line(const QString &property, const QString &value)
-{
-    return u'"' + property + QLatin1String(separator) + value + QStringLiteral("\"\n");
-}
-
-bool breaksLine(const QString &text)
-{
-    return text.contains(u'\n') || text.contains(u'\r') || text.contains(QChar(u'\0'));
-}
 
 /// What the host tells may be long, but no more of the result is shown.
 void append(const QString &text, QString *result)
@@ -44,19 +33,16 @@ void append(const QString &text, QString *result)
 
 QString joinedMessages(const QList<CDBPROBLEM> &problems)
 {
-    QString text;
+    QStringList messages;
     for (const CDBPROBLEM &problem : problems) {
-        append((text.isEmpty() ? QString() : QStringLiteral("\n")) + problem.message(), &text);
+        messages << problem.message();
     }
-    return text;
+    return messages.join(u'\n');
 }
 
-/// Whether a value gives links to a placed part or, in a definition, to BOM-only parts.
-bool holdsLinks(const QString &property, const QString &value)
+QString cutResult(const QString &text)
 {
-    return property.compare(bomLinksProperty(), Qt::CaseInsensitive) == 0 ||
-           (property.startsWith(bomPartPropertyStart(), Qt::CaseInsensitive) &&
-            value.contains(bomLinksProperty(), Qt::CaseInsensitive));
+    return text.size() > longestResult ? text.left(longestResult) + QStringLiteral("...") : text;
 }
 
 /// A file that somebody marked read-only is left as it is; that matters only when links are written.
@@ -82,136 +68,204 @@ void defineLinksProperty(bool writesLinks)
     }
 }
 
+QString busy()
+{
+    return PropertyAssignments::tr("The design is being written already");
+}
+
 } // namespace
 
-/// What pending assignments come to: the stored values that are to be written, or why they cannot be.
-/// BOM-only parts are changed in the database right away, which tells what their definitions must say.
-class PropertyAssignments::Batch
+PropertyAssignments::Action::Action(PropertyAssignments *assignments)
+    : m_assignments(assignments)
 {
-public:
-    Batch(const PropertyAssignments &assignments, const QMap<QString, Values> &wanted)
-        : m_assignments(assignments)
-        , m_database(assignments.m_database)
-    {
-        QMap<QString, Values> ofBOMParts;
-        for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
-            const Part *part = m_database->part(it.key());
-            if (part && part->isBOMPart()) {
-                ofBOMParts.insert(it.key(), it.value());
-            } else if (part) {
-                addPlaced(it.key(), it.value());
-            }
-        }
-        hasBOMParts = !ofBOMParts.isEmpty();
-        if (problems.isEmpty()) {
-            changeBOMParts(ofBOMParts);
-        }
-    }
-
-    void refuse(const QString &reference, const QString &property, const QString &reason)
-    {
-        problems.append({reference, property, {}, 0, reason});
-    }
-
-    /// By reference, what is written.
-    QMap<QString, Values> stored;
-    /// By parent, the properties that defined its BOM-only parts until now.
-    QMap<QString, QStringList> formerDefinitions;
-    QList<CDBPROBLEM> problems;
-    bool hasBOMParts = false;
-    bool writesLinks = false;
-
-private:
-    void addPlaced(const QString &reference, const Values &values);
-    void changeBOMParts(const QMap<QString, Values> &wanted);
-    void changeBOMPart(const QString &reference, const Values &values);
-    void rewriteDefinitions(const QString &parent, const QStringList &former);
-    void add(const QString &reference, const QString &property, const QString &value);
-    /// Whether a script can carry the texts; otherwise they are refused.
-    bool canCarry(const QString &reference, const QString &property, const QString &value);
-
-    const PropertyAssignments &m_assignments;
-    BOMPartsDatabase *m_database;
-};
-
-void PropertyAssignments::Batch::addPlaced(const QString &reference, const Values &values)
-{
-    for (auto it = values.cbegin(); it != values.cend(); ++it) {
-        const QString text = m_assignments.storedValue(it.key(), it.value());
-        add(reference, it.key(), text.isEmpty() ? removal() : text);
-    }
+    ++m_assignments->m_actions;
 }
 
-void PropertyAssignments::Batch::add(const QString &reference, const QString &property, const QString &value)
+PropertyAssignments::Action::~Action()
 {
-    if (canCarry(reference, property, value)) {
-        stored[reference].insert(property, value);
-        writesLinks = writesLinks || (value != removal() && holdsLinks(property, value));
-    }
-}
-
-bool PropertyAssignments::Batch::canCarry(const QString &reference, const QString &property,
-                                          const QString &value)
-{
-    const QString problem = scriptProblem(reference, property, value);
-    if (!problem.isEmpty()) {
-        refuse(reference, property, problem);
-    }
-    return problem.isEmpty();
-}
-
-/// The definitions of a parent that has changed parts are written anew, all of them.
-void PropertyAssignments::Batch::changeBOMParts(const QMap<QString, Values> &wanted)
-{
-    for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
-        changeBOMPart(it.key(), it.value());
-    }
-    for (auto it = formerDefinitions.cbegin(); it != formerDefinitions.cend(); ++it) {
-        rewriteDefinitions(it.key(), it.value());
-    }
-}
-
-void PropertyAssignments::Batch::changeBOMPart(const QString &reference, const Values &values)
-{
-    const QString parent = static_cast<const BOMPart *>(m_database->part(reference))->parentReference();
-    formerDefinitions.insert(parent, m_database->bomOnlyParts().propertyNames(parent));
-    for (auto it = values.cbegin(); it != values.cend(); ++it) {
-        const QString text = it.value() == removal() ? QString() : it.value();
-        if (breaksLine(text) || !m_database->setBOMPartProperty(reference, it.key(), text)) {
-            refuse(reference, it.key(), tr("A definition of BOM-only parts cannot hold this text"));
-        }
-    }
-}
-
-void PropertyAssignments::Batch::rewriteDefinitions(const QString &parent, const QStringList &former)
-{
-    for (const QString &name : former) {
-        (void)canCarry(parent, name, removal());
-    }
-    const Values placed = stored.value(parent);
-    for (auto it = placed.cbegin(); it != placed.cend(); ++it) {
-        if (it.key().startsWith(bomPartPropertyStart(), Qt::CaseInsensitive)) {
-            refuse(parent, it.key(), tr("A part that this defines is changed as well"));
-        }
-    }
-    const auto definitions = m_database->bomOnlyParts().rewritten(parent);
-    for (const DefinitionProperty &definition : definitions.value_or(QList<DefinitionProperty>())) {
-        add(parent, definition.name, definition.text);
-    }
-    if (!definitions) {
-        refuse(parent, bomPartPropertyStart(), tr("A definition of BOM-only parts cannot hold this text"));
+    if (--m_assignments->m_actions == 0) {
+        m_assignments->endAction();
     }
 }
 
 PropertyAssignments::PropertyAssignments(BOMPartsDatabase *database, QObject *parent)
     : QObject(parent)
     , m_database(database)
+    , m_designs(database)
 {
+    connect(database, &BOMPartsDatabase::dataChanged, this, &PropertyAssignments::follow);
+}
+
+PropertyAssignments::~PropertyAssignments() = default;
+
+void PropertyAssignments::setJournalFolder(const QString &folder)
+{
+    m_designs.setJournalFolder(folder);
+}
+
+void PropertyAssignments::follow()
+{
+    switch (m_designs.follow()) {
+    case PendingDesigns::Followed::Design:
+        Q_EMIT historyEnded();
+        Q_EMIT changed();
+        break;
+    case PendingDesigns::Followed::Edits:
+        Q_EMIT changed();
+        break;
+    case PendingDesigns::Followed::Nothing:
+        break;
+    }
+}
+
+PendingEdits &PropertyAssignments::current()
+{
+    follow();
+    return *m_designs.current();
+}
+
+void PropertyAssignments::put(const PendingEdit &edit)
+{
+    m_designs.touch(EditKey::of(edit));
+    m_designs.current()->insert(edit);
+}
+
+void PropertyAssignments::remove(const EditKey &key)
+{
+    m_designs.touch(key);
+    m_designs.current()->remove(key);
+}
+
+void PropertyAssignments::endAction()
+{
+    const EditChanges changes = m_designs.current() ? m_designs.endChanges() : EditChanges();
+    if (changes.isEmpty()) {
+        return;
+    }
+    if (m_designs.journalError().isEmpty()) {
+        m_hasToldOfJournal = false;
+    } else if (!std::exchange(m_hasToldOfJournal, true)) {
+        HostUi::current().warning(nullptr, tr("Pending Changes"),
+                                  tr("Pending changes cannot be kept beside the program's settings. They "
+                                     "will be lost if the program ends before they are applied: ") +
+                                      m_designs.journalError());
+    }
+    if (!m_isSilent) {
+        Q_EMIT edited(changes.before, changes.after);
+    }
+    Q_EMIT changed();
 }
 
 void PropertyAssignments::assign(const QString &reference, const QString &property, const QString &value)
 {
-    m_pending[reference].insert(property, value);
+    const Action action(this);
+    put(current().made(reference, property, value));
+}
+
+void PropertyAssignments::retract(const QString &reference, const QString &property)
+{
+    if (const PendingEdit *found = current().find(reference, property)) {
+        retract(*found);
+    }
+}
+
+void PropertyAssignments::retract(const PendingEdit &edit)
+{
+    const Action action(this);
+    (void)current();
+    remove(EditKey::of(edit));
+}
+
+void PropertyAssignments::confirm(const PendingEdit &edit, bool isConfirmed)
+{
+    const Action action(this);
+    if (const PendingEdit *found = current().find(EditKey::of(edit))) {
+        PendingEdit confirmed = *found;
+        confirmed.isConfirmed = isConfirmed && found->conflict == EditConflict::ValueChanged;
+        put(confirmed);
+    }
+}
+
+void PropertyAssignments::clear()
+{
+    const Action action(this);
+    for (const PendingEdit &edit : current().list()) {
+        remove(EditKey::of(edit));
+    }
+}
+
+void PropertyAssignments::restore(const QList<PendingEdit> &gone, const QList<PendingEdit> &edits)
+{
+    const QScopedValueRollback silent(m_isSilent, true);
+    const Action action(this);
+    PendingEdits &held = current();
+    for (const PendingEdit &edit : gone) {
+        remove(EditKey::of(edit));
+    }
+    for (const PendingEdit &edit : edits) {
+        put(held.followed(edit));
+    }
+}
+
+qsizetype PropertyAssignments::size() const
+{
+    return m_designs.current() ? m_designs.current()->size() : 0;
+}
+
+QList<PendingEdit> PropertyAssignments::edits() const
+{
+    return m_designs.current() ? m_designs.current()->list() : QList<PendingEdit>();
+}
+
+QMap<QString, PropertyAssignments::Values> PropertyAssignments::pending() const
+{
+    QMap<QString, Values> values;
+    for (const PendingEdit &edit : edits()) {
+        if (edit.conflict != EditConflict::PartGone) {
+            values[edit.reference].insert(edit.property, edit.value);
+        }
+    }
+    return values;
+}
+
+const PendingEdit *PropertyAssignments::edit(const QString &reference, const QString &property) const
+{
+    return m_designs.current() ? m_designs.current()->find(reference, property) : nullptr;
+}
+
+bool PropertyAssignments::hasEdits(const QString &reference) const
+{
+    return m_designs.current() && m_designs.current()->has(reference);
+}
+
+qsizetype PropertyAssignments::leftFromEarlier() const
+{
+    return m_designs.earlier().size();
+}
+
+QList<PendingEdit> PropertyAssignments::conflictsFromEarlier()
+{
+    QList<PendingEdit> conflicts;
+    PendingEdits &held = current();
+    for (const PendingEdit &edit : m_designs.earlier()) {
+        PendingEdit now = held.followed(edit);
+        if (now.conflict != EditConflict::None) {
+            conflicts.append(std::move(now));
+        }
+    }
+    return conflicts;
+}
+
+void PropertyAssignments::takeUpFromEarlier()
+{
+    const Action action(this);
+    PendingEdits &held = current();
+    for (const PendingEdit &edit : m_designs.earlier()) {
+        if (!held.find(EditKey::of(edit))) {
+            put(held.followed(edit));
+        }
+    }
+    m_designs.clearEarlier();
 }
 
 void PropertyAssignments::assignNow(const QString &reference, const QString &property, const QString &value)
@@ -221,13 +275,13 @@ void PropertyAssignments::assignNow(const QString &reference, const QString &pro
         return;
     }
     DesignWrite write(m_database);
-    const QString problem = scriptProblem(reference, property, value);
+    const QString problem = assignmentProblem(reference, property, value);
     if (!problem.isEmpty()) {
         append(CDBPROBLEM{reference, property, {}, 0, problem}.message(), &m_result);
         return;
     }
     ResultStream output;
-    std::istringstream text(toHostText(script(reference, {{property, value}})).toStdString());
+    std::istringstream text(toHostText(assignmentScript(reference, {{property, value}})).toStdString());
     getcdb()->adi(text, output, 0);
     const bool isWritten = write.commit();
     if (!output.saysNoErrors()) {
@@ -242,65 +296,64 @@ QString PropertyAssignments::apply()
     return apply(ApplyOptions()).text;
 }
 
+PropertyAssignments::Selection PropertyAssignments::selection()
+{
+    Selection selected;
+    for (const PendingEdit &edit : current().list()) {
+        if (edit.canBeWritten()) {
+            selected.wanted[edit.reference].insert(edit.property, edit.value);
+            selected.written.append(edit);
+        } else {
+            selected.kept.append(edit);
+        }
+    }
+    return selected;
+}
+
 ApplyResult PropertyAssignments::apply(const ApplyOptions &options)
 {
     if (m_isApplying) {
         // A dialog of the host that is open meanwhile may lead back here.
-        const QString reason = tr("The design is being written already");
-        return {reason, {{{}, {}, {}, 0, reason}}};
+        return {busy(), {{{}, {}, {}, 0, busy()}}};
     }
     m_result.clear();
-    if (m_pending.isEmpty()) {
+    if (current().isEmpty()) {
         return {};
     }
     const QScopedValueRollback applying(m_isApplying, true);
+    const Selection selected = selection();
     // What changes is told when all is done: parts that the batch changes, and the reload after it.
     const BOMPartsDatabase::BulkChange change(m_database);
-    const QMap<QString, Values> wanted = std::exchange(m_pending, {});
-    Batch batch(*this, wanted);
+    const std::vector<KeptPart> keptParts = partsOf(selected.kept);
+    AssignmentBatch batch(m_database, selected.wanted);
+    const Moves moves = movesOf(keptParts);
     if (!getcdb()) {
         batch.refuse({}, {}, tr("There is no component database"));
     }
-    if (batch.problems.isEmpty()) {
-        run(&batch, options);
+    if (batch.problems.isEmpty() && !selected.written.isEmpty()) {
+        write(&batch, options);
     }
-    if (batch.hasBOMParts && (options.isDryRun || !batch.problems.isEmpty())) {
+    const bool isWritten = batch.problems.isEmpty() && !options.isDryRun;
+    if (isWritten) {
+        endWritten(selected.written, moves);
+    } else if (batch.hasBOMParts) {
         // The batch changed them to see what their definitions must say.
         m_database->reload();
     }
-    if (!batch.problems.isEmpty()) {
-        m_pending = wanted;
-        if (m_result.isEmpty()) {
-            m_result = joinedMessages(batch.problems);
-        }
+    if (m_result.isEmpty() && !batch.problems.isEmpty()) {
+        m_result = joinedMessages(batch.problems);
+    } else if (m_result.isEmpty()) {
+        m_result = selected.written.isEmpty() ? tr("Nothing was applied, see the pending changes")
+                                              : tr("Applied successfully");
     }
-    if (m_result.isEmpty()) {
-        m_result = tr("Applied successfully");
-    }
-    if (m_result.size() > longestResult) {
-        m_result = m_result.left(longestResult) + QStringLiteral("...");
-    }
-    return {m_result, batch.problems};
+    m_result = cutResult(m_result);
+    return {m_result, batch.problems, selected.kept};
 }
 
-void PropertyAssignments::run(Batch *batch, const ApplyOptions &options)
+void PropertyAssignments::write(AssignmentBatch *batch, const ApplyOptions &options)
 {
     DesignWrite write(m_database);
-    for (auto it = batch->formerDefinitions.cbegin(); it != batch->formerDefinitions.cend(); ++it) {
-        for (const QString &name : *it) {
-            assignNow(it.key(), name, removal());
-        }
-    }
-    ResultStream output;
-    for (auto it = batch->stored.cbegin(); it != batch->stored.cend(); ++it) {
-        std::istringstream text(toHostText(script(it.key(), *it)).toStdString());
-        getcdb()->adi(text, output, 0);
-        if (!output.saysNoErrors() && m_result.size() <= longestResult) {
-            append(output.text(), &m_result);
-        }
-        // Clears the state flags only: what was written stays and is looked at again.
-        output.clear();
-    }
+    runScripts(*batch);
     if (!options.isDryRun) {
         write.whenWritten([writesLinks = batch->writesLinks] { defineLinksProperty(writesLinks); });
     }
@@ -312,6 +365,192 @@ void PropertyAssignments::run(Batch *batch, const ApplyOptions &options)
     }
 }
 
+void PropertyAssignments::runScripts(const AssignmentBatch &batch)
+{
+    for (auto it = batch.formerDefinitions.cbegin(); it != batch.formerDefinitions.cend(); ++it) {
+        for (const QString &name : *it) {
+            assignNow(it.key(), name, removal());
+        }
+    }
+    ResultStream output;
+    for (auto it = batch.stored.cbegin(); it != batch.stored.cend(); ++it) {
+        std::istringstream text(toHostText(assignmentScript(it.key(), *it)).toStdString());
+        getcdb()->adi(text, output, 0);
+        if (!output.saysNoErrors() && m_result.size() <= longestResult) {
+            append(output.text(), &m_result);
+        }
+        // Clears the state flags only: what was written stays and is looked at again.
+        output.clear();
+    }
+}
+
+std::vector<PropertyAssignments::KeptPart> PropertyAssignments::partsOf(const QList<PendingEdit> &edits)
+{
+    std::vector<KeptPart> parts;
+    for (const PendingEdit &edit : edits) {
+        if (!edit.part.definition.isEmpty()) {
+            parts.push_back({EditKey::of(edit), current().identities().find(edit.part, edit.reference).part});
+        }
+    }
+    return parts;
+}
+
+PropertyAssignments::Moves PropertyAssignments::movesOf(const std::vector<KeptPart> &parts)
+{
+    current().resetIdentities();
+    Moves moves;
+    for (const KeptPart &kept : parts) {
+        if (kept.part) {
+            moves.append({kept.key, current().identities().of(*kept.part)});
+        }
+    }
+    return moves;
+}
+
+void PropertyAssignments::endWritten(const QList<PendingEdit> &written, const Moves &moves)
+{
+    const QScopedValueRollback silent(m_isSilent, true);
+    const Action action(this);
+    for (const PendingEdit &edit : written) {
+        const PendingEdit *now = m_designs.current()->find(EditKey::of(edit));
+        if (now && now->value != edit.value) {
+            // Set anew while the design was written, against what is there now.
+            PendingEdit later = *now;
+            later.before = storedValue(edit.property, edit.value);
+            put(later);
+        } else {
+            remove(EditKey::of(edit));
+        }
+    }
+    move(moves);
+    Q_EMIT historyEnded();
+}
+
+void PropertyAssignments::move(const Moves &moves)
+{
+    QList<PendingEdit> moved;
+    for (const auto &[key, identity] : moves) {
+        const PendingEdit *found = m_designs.current()->find(key);
+        if (found && key.part != identity) {
+            moved.append(*found);
+            moved.last().part = identity;
+        }
+    }
+    for (const auto &[key, identity] : moves) {
+        if (key.part != identity) {
+            remove(key);
+        }
+    }
+    for (const PendingEdit &edit : std::as_const(moved)) {
+        put(edit);
+    }
+}
+
+std::optional<ApplyPreview> PropertyAssignments::preview()
+{
+    if (m_isApplying || !getcdb()) {
+        return std::nullopt;
+    }
+    const QScopedValueRollback applying(m_isApplying, true);
+    const QScopedValueRollback result(m_result, QString());
+    const Selection selected = selection();
+    const BOMPartsDatabase::BulkChange change(m_database);
+    const AssignmentBatch batch(m_database, selected.wanted);
+    getcdb()->beginbatch();
+    runScripts(batch);
+    const auto changes = getcdb()->previewbatch();
+    const QList<CDBPROBLEM> problems = batch.problems + getcdb()->problems();
+    if (batch.hasBOMParts) {
+        m_database->reload();
+    }
+    return changes ? std::optional(ApplyPreview{*changes, problems}) : std::nullopt;
+}
+
+QString PropertyAssignments::addBOMParts(const QString &parentReference, int count,
+                                         const QString &escapedPrefix, const QString &escapedValue)
+{
+    if (m_isApplying) {
+        return busy();
+    }
+    const QScopedValueRollback applying(m_isApplying, true);
+    (void)current();
+    const BOMPartsDatabase::BulkChange change(m_database);
+    const auto added = m_database->addBOMParts(parentReference, count, escapedPrefix, escapedValue);
+    if (!added) {
+        return tr("These BOM-only parts cannot be made: the part %1 cannot hold them").arg(parentReference);
+    }
+    return writeDefinitions(parentReference, {}, {*added});
+}
+
+QString PropertyAssignments::removeBOMPart(const QString &parentReference, const QString &reference)
+{
+    if (m_isApplying) {
+        return busy();
+    }
+    const QScopedValueRollback applying(m_isApplying, true);
+    PendingEdits &held = current();
+    const QStringList former = m_database->bomOnlyParts().propertyNames(parentReference);
+    const Part *part = m_database->part(reference);
+    const Moves moves = part ? movesBehind(held.identities().of(*part)) : Moves();
+    const BOMPartsDatabase::BulkChange change(m_database);
+    const auto definitions = m_database->removeBOMPart(parentReference, reference)
+                                 ? m_database->bomOnlyParts().rewritten(parentReference)
+                                 : std::nullopt;
+    if (!definitions) {
+        return tr("The BOM-only part %1 of %2 cannot be removed").arg(reference, parentReference);
+    }
+    const QString problem = writeDefinitions(parentReference, former, *definitions);
+    if (problem.isEmpty()) {
+        const QScopedValueRollback silent(m_isSilent, true);
+        const Action action(this);
+        move(moves);
+        Q_EMIT historyEnded();
+    }
+    return problem;
+}
+
+PropertyAssignments::Moves PropertyAssignments::movesBehind(const PartIdentity &removed)
+{
+    Moves moves;
+    for (const PendingEdit &edit : current().list()) {
+        PartIdentity moved = edit.part;
+        if (moved.component != removed.component || moved.definition != removed.definition ||
+            moved.place < removed.place) {
+            continue;
+        }
+        // Edits of the removed part itself stay, and no part has their identity any more.
+        moved.place = moved.place == removed.place ? -1 : moved.place - 1;
+        moves.append({EditKey::of(edit), moved});
+    }
+    return moves;
+}
+
+QString PropertyAssignments::writeDefinitions(const QString &parent, const QStringList &former,
+                                              const QList<DefinitionProperty> &definitions)
+{
+    m_result.clear();
+    bool isWritten = false;
+    if (getcdb()) {
+        DesignWrite write(m_database);
+        for (const QString &name : former) {
+            assignNow(parent, name, removal());
+        }
+        for (const DefinitionProperty &definition : definitions) {
+            assignNow(parent, definition.name, definition.text);
+        }
+        isWritten = write.commit();
+    }
+    if (isWritten) {
+        return {};
+    }
+    m_database->reload();
+    const QString problems = getcdb() ? joinedMessages(getcdb()->problems()) : QString();
+    if (!problems.isEmpty()) {
+        return problems;
+    }
+    return m_result.isEmpty() ? tr("There is no component database") : m_result;
+}
+
 bool PropertyAssignments::accepts(const QString &property, const QString &displayText) const
 {
     return displayText == removal() ||
@@ -320,29 +559,16 @@ bool PropertyAssignments::accepts(const QString &property, const QString &displa
 
 QString PropertyAssignments::storedValue(const QString &property, const QString &displayText) const
 {
-    return displayText == removal()
-               ? displayText
-               : StoredConversion(m_database->propertyTypes().type(property))(displayText);
+    return storedAssignment(m_database->propertyTypes(), property, displayText);
 }
 
 QString PropertyAssignments::script(const QString &reference, const Values &values)
 {
-    QString text = QStringLiteral("DATA NAME : ") + reference + QStringLiteral("-\n");
-    for (auto it = values.cbegin(); it != values.cend(); ++it) {
-        text += line(it.key(), *it);
-    }
-    return text + QStringLiteral("END\n\n");
+    return assignmentScript(reference, values);
 }
 
 QString PropertyAssignments::scriptProblem(const QString &reference, const QString &property,
                                            const QString &value)
 {
-    if (breaksLine(reference) || breaksLine(property) || breaksLine(value)) {
-        return tr("A line break cannot be written");
-    }
-    // The name ends at the first separator.
-    if (line(property, value).indexOf(QLatin1String(separator)) != property.size() + 1) {
-        return tr("This name cannot be written");
-    }
-    return {};
+    return assignmentProblem(reference, property, value);
 }

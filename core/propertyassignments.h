@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/assignmentbatch.h"
+#include "core/pendingdesigns.h"
 #include "host/netlist/cdbcore.h"
 
 #include <QList>
@@ -9,7 +11,13 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
+#include <utility>
+#include <vector>
+
 class BOMPartsDatabase;
+class Part;
+struct DefinitionProperty;
 
 /// How assignments are written.
 struct ApplyOptions
@@ -25,45 +33,116 @@ struct ApplyResult
     QString text;
     /// All that kept the assignments from being written, uncut. They are written when there is none.
     QList<CDBPROBLEM> problems;
+    /// What stays pending although the others were written: it is in conflict, or its part cannot be reached.
+    QList<PendingEdit> kept = {};
 
     bool operator==(const ApplyResult &) const = default;
 };
 
-/// Property values that people have set and that are not in the design yet. They are written in one batch
-/// through the host's component database, which then reports the changed design as after any other change.
+/// What writing the assignments would do.
+struct ApplyPreview
+{
+    QList<CDBCHANGE> changes;
+    /// Why nothing would be written.
+    QList<CDBPROBLEM> problems;
+};
+
+/// Property values that people have set and that are not in the design yet: the pending edits. They are
+/// written in one batch through the host's component database, which then reports the changed design as after
+/// any other change.
+///
+/// An edit belongs to its part, not to the reference: when the database has loaded the design again it
+/// follows the part, and is in conflict where the design no longer holds what the edit was made against. The
+/// edits of a design wait while another one is open. Only apply(), retract(), clear() and restore() end an
+/// edit.
 class PropertyAssignments final : public QObject
 {
     Q_OBJECT
 
 public:
     /// New values by property name.
-    using Values = QMap<QString, QString>;
+    using Values = AssignedValues;
 
     /// The value that takes a property away.
-    [[nodiscard]] static QString removal() { return QStringLiteral("[REMOVE]"); }
+    [[nodiscard]] static QString removal() { return removalText(); }
+
+    /// One action of the user, however many edits it changes: at the end of the outermost one the journal is
+    /// written, and edited() and changed() are emitted, if anything changed.
+    class Action final
+    {
+    public:
+        explicit Action(PropertyAssignments *assignments);
+        Action(const Action &) = delete;
+        Action &operator=(const Action &) = delete;
+        ~Action();
+
+    private:
+        PropertyAssignments *m_assignments;
+    };
 
     /// The database must outlive the store.
     explicit PropertyAssignments(BOMPartsDatabase *database, QObject *parent = nullptr);
+    ~PropertyAssignments() override;
+
+    /// The folder in which the edits of each design are journalled, so that a crash loses none; made when the
+    /// first edit is. Empty, as at first, keeps no journal.
+    void setJournalFolder(const QString &folder);
 
     /// `value` is what people see, see storedValue(); an empty one takes the property away.
     void assign(const QString &reference, const QString &property, const QString &value);
+    /// Ends an edit unwritten.
+    void retract(const QString &reference, const QString &property);
+    void retract(const PendingEdit &edit);
+    /// Has an edit whose text changed in the design written by the next apply(), or not.
+    void confirm(const PendingEdit &edit, bool isConfirmed);
+    /// Ends all edits of the design that is open.
+    void clear();
+    /// Puts edits back as they were: those of `gone` end, those of `edits` are there again. Conflicts are
+    /// worked out anew.
+    void restore(const QList<PendingEdit> &gone, const QList<PendingEdit> &edits);
+
     /// Writes one stored value at once, or within the DesignWrite that is open.
     void assignNow(const QString &reference, const QString &property, const QString &value);
 
-    [[nodiscard]] bool isEmpty() const { return m_pending.isEmpty(); }
-    /// By reference.
-    [[nodiscard]] const QMap<QString, Values> &pending() const { return m_pending; }
-    void clear() { m_pending.clear(); }
+    [[nodiscard]] bool isEmpty() const { return size() == 0; }
+    [[nodiscard]] qsizetype size() const;
+    /// Those of the design that is open, by the references of their parts and the properties.
+    [[nodiscard]] QList<PendingEdit> edits() const;
+    /// By reference; edits whose part is gone are not among them.
+    [[nodiscard]] QMap<QString, Values> pending() const;
+    /// The edit of a part that is in the bill; null when there is none. Letter case of the property counts.
+    /// Valid until the next change.
+    [[nodiscard]] const PendingEdit *edit(const QString &reference, const QString &property) const;
+    [[nodiscard]] bool hasEdits(const QString &reference) const;
 
-    /// Writes all pending assignments, placed parts by script, BOM-only parts into the definitions of their
-    /// parents; references that the database does not hold are passed over. All or nothing is written; what
-    /// is refused stays pending. While it writes, another call is refused. Once the files are written, the
-    /// property of the links is defined in the property definitions, see bomLinksProperty().
+    /// How many edits of the open design an earlier run of the program left in the journal; they wait for
+    /// takeUp().
+    [[nodiscard]] qsizetype leftFromEarlier() const;
+    /// What of them would be in conflict.
+    [[nodiscard]] QList<PendingEdit> conflictsFromEarlier();
+    /// Makes them pending again, where the user has not set another value since.
+    void takeUpFromEarlier();
+
+    /// Writes all edits that are not in conflict, or confirmed, placed parts by script, BOM-only parts into
+    /// the definitions of their parents. All or nothing of these is written; what is not stays pending. While
+    /// it writes, another call is refused. Once the files are written, the property of the links is defined
+    /// in the property definitions, see bomLinksProperty().
     ApplyResult apply(const ApplyOptions &options);
     /// The same without options; gives the text to be shown.
     QString apply();
     /// The text of the last apply(), with what assignNow() reported since.
     [[nodiscard]] const QString &result() const { return m_result; }
+    /// What apply() would do to the design now. Nothing where the host cannot tell.
+    [[nodiscard]] std::optional<ApplyPreview> preview();
+
+    /// Defines further BOM-only parts of a placed part and writes them at once, see
+    /// BOMPartsDatabase::addBOMParts(). Gives why that failed, in which case nothing was made; empty when it
+    /// is written.
+    [[nodiscard]] QString addBOMParts(const QString &parentReference, int count, const QString &escapedPrefix,
+                                      const QString &escapedValue);
+    /// Takes a BOM-only part away and writes that at once. Edits of its siblings stay with them. Gives why
+    /// that failed, in which case nothing was changed; empty when it is written.
+    [[nodiscard]] QString removeBOMPart(const QString &parentReference, const QString &reference);
 
     /// Whether people may enter that text for a property: a property of two states takes them as shown or as
     /// stored (Yes or 1), a number must be one. Empty and removal() are always accepted.
@@ -77,13 +156,59 @@ public:
     [[nodiscard]] static QString scriptProblem(const QString &reference, const QString &property,
                                                const QString &value);
 
-private:
-    class Batch;
+Q_SIGNALS:
+    /// What an action of the user changed, the edits as they were and as they are: each is in one list or in
+    /// both. Not emitted for what apply() writes and restore() puts back.
+    void edited(const QList<PendingEdit> &before, const QList<PendingEdit> &after);
+    /// Edits came, went, or changed, their conflicts included.
+    void changed();
+    /// The edits that restore() could put back are of another state of the design: some were written, or
+    /// another design was opened.
+    void historyEnded();
 
-    void run(Batch *batch, const ApplyOptions &options);
+private:
+    /// What writing is about: the edits that can be written, as the host wants them, and the others.
+    struct Selection
+    {
+        QMap<QString, Values> wanted;
+        QList<PendingEdit> written;
+        QList<PendingEdit> kept;
+    };
+    /// A BOM-only part that an edit is about, null where there is none.
+    struct KeptPart
+    {
+        EditKey key;
+        const Part *part = nullptr;
+    };
+    /// Where edits go whose part is known by something else.
+    using Moves = QList<std::pair<EditKey, PartIdentity>>;
+
+    /// The edits of the design that the database holds now; they have followed their parts.
+    PendingEdits &current();
+    void follow();
+    void put(const PendingEdit &edit);
+    void remove(const EditKey &key);
+    void endAction();
+
+    [[nodiscard]] Selection selection();
+    void write(AssignmentBatch *batch, const ApplyOptions &options);
+    void runScripts(const AssignmentBatch &batch);
+    void endWritten(const QList<PendingEdit> &written, const Moves &moves);
+    [[nodiscard]] std::vector<KeptPart> partsOf(const QList<PendingEdit> &edits);
+    /// When definitions of the parts were changed.
+    [[nodiscard]] Moves movesOf(const std::vector<KeptPart> &parts);
+    /// When a BOM-only part goes, for the edits of those that its definition makes behind it.
+    [[nodiscard]] Moves movesBehind(const PartIdentity &removed);
+    void move(const Moves &moves);
+    [[nodiscard]] QString writeDefinitions(const QString &parent, const QStringList &former,
+                                           const QList<DefinitionProperty> &definitions);
 
     BOMPartsDatabase *m_database;
-    QMap<QString, Values> m_pending;
+    PendingDesigns m_designs;
+    int m_actions = 0;
+    /// The action is none of the user's.
+    bool m_isSilent = false;
+    bool m_hasToldOfJournal = false;
     QString m_result;
     bool m_isApplying = false;
 };

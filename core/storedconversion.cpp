@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/storedconversion.h"
 
+#include "core/pendingedit.h"
+#include "core/propertytypes.h"
 #include "host/framework/hostui.h"
 
 #include <cmath>
@@ -108,4 +110,9 @@ QString StoredConversion::operator()(const QString &shown) const
         stored.replace(m_locale.decimalPoint(), QStringLiteral("."));
     }
     return stored;
+}
+
+QString storedAssignment(const PropertyTypes &types, const QString &property, const QString &shown)
+{
+    return shown == removalText() ? shown : StoredConversion(types.type(property))(shown);
 }

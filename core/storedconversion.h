@@ -31,3 +31,9 @@ private:
     std::optional<PropType> m_type;
     QLocale m_locale;
 };
+
+class PropertyTypes;
+
+/// What an assignment of a text that people see or type stores; removalText() stays as it is.
+[[nodiscard]] QString storedAssignment(const PropertyTypes &types, const QString &property,
+                                       const QString &shown);

@@ -19,6 +19,11 @@ SymbolCount Design::recount(Problem *) const
     return count;
 }
 
+std::string Design::identityOf(const Component &) const
+{
+    return {};
+}
+
 int Design::lineOf(const Component &component) const
 {
     return int(component.line);

@@ -93,6 +93,10 @@ public:
     /// more.
     [[nodiscard]] virtual int lineOf(const Component &component) const;
 
+    /// What tells a component from any other of the design, also after references were changed and the files
+    /// were read again; empty where the format has nothing but the reference.
+    [[nodiscard]] virtual std::string identityOf(const Component &component) const;
+
     /// The files whose content is not what was read, also those that cannot be read any more.
     [[nodiscard]] QStringList changedFiles() const;
 

@@ -43,18 +43,18 @@ QList<CDBPROBLEM> problemsOf(std::span<const designs::Problem> problems)
     return found;
 }
 
-PropertyChange changeOf(const designs::Design &design, std::span<const designs::Edit> edits,
-                        const designs::Change &planned)
+CDBCHANGE changeOf(const designs::Design &design, std::span<const designs::Edit> edits,
+                   const designs::Change &planned)
 {
-    PropertyChange change{reference(design, edits[planned.edit].component),
-                          designs::fromUtf8(planned.name),
-                          text(planned.before),
-                          text(planned.after),
-                          planned.file,
-                          planned.line,
-                          {},
-                          designs::fromUtf8(planned.variant),
-                          designs::fromUtf8(edits[planned.edit].askedName)};
+    CDBCHANGE change{reference(design, edits[planned.edit].component),
+                     designs::fromUtf8(planned.name),
+                     text(planned.before),
+                     text(planned.after),
+                     planned.file,
+                     planned.line,
+                     {},
+                     designs::fromUtf8(planned.variant),
+                     designs::fromUtf8(edits[planned.edit].askedName)};
     for (const std::size_t component : planned.alsoChanges) {
         change.alsoChanges << reference(design, component);
     }

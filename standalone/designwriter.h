@@ -17,28 +17,6 @@ class Design;
 class DesignFiles;
 } // namespace designs
 
-/// A change (designs::Change) in the words of the host: what was done to a property, or would be.
-struct PropertyChange
-{
-    QString reference;
-    /// As it is stored then.
-    QString name;
-    /// Nothing where the component lacks the property before or after.
-    std::optional<QString> before;
-    std::optional<QString> after;
-    /// Where it stands, the line counted from 1 in the file as it was before.
-    QString file;
-    int line = 0;
-    /// The other references that share what is changed.
-    QStringList alsoChanges;
-    /// The variant that it is made in; empty for the design as drawn.
-    QString variant = {};
-    /// The name that was asked for, where the property is stored under another one of the same meaning.
-    QString askedName = {};
-
-    bool operator==(const PropertyChange &) const = default;
-};
-
 /// How edits are written.
 struct WriteOptions
 {
@@ -61,7 +39,7 @@ struct WriteResult
     /// may be new. The problems say what each holds.
     bool isUndecided = false;
     /// What was changed, or would be in a dry run, in the order of the edits.
-    QList<PropertyChange> changes;
+    QList<CDBCHANGE> changes;
     /// The files that were replaced, or would be in a dry run.
     QStringList files;
     /// What went wrong although the files were replaced, such as that the previous content could not be kept.

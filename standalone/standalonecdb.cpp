@@ -241,6 +241,17 @@ bool StandaloneCdb::commitbatch()
     return true;
 }
 
+std::optional<QList<CDBCHANGE>> StandaloneCdb::previewbatch()
+{
+    if (m_depth != 1 || !m_previewer) {
+        dropbatch();
+        return std::nullopt;
+    }
+    const std::vector<designs::Edit> edits = std::exchange(m_staged, {});
+    dropbatch();
+    return m_previewer(edits, &m_problems);
+}
+
 void StandaloneCdb::dropbatch()
 {
     if (m_depth == 0) {

@@ -25,12 +25,16 @@ class StandaloneCdb final : public CDBCORE
 public:
     /// Writes edits of the design, all of them or none, and gives what kept them from being written.
     using Writer = std::function<QList<CDBPROBLEM>(std::span<const designs::Edit>)>;
+    /// Works out what the writer would change, or what would keep it from writing.
+    using Previewer =
+        std::function<QList<CDBCHANGE>(std::span<const designs::Edit>, QList<CDBPROBLEM> *problems)>;
 
     StandaloneCdb();
 
     /// A batch that is open then is not written: what it collected was for the design before.
     void setDesign(std::shared_ptr<const LoadedDesign> design);
     void setWriter(Writer writer) { m_writer = std::move(writer); }
+    void setPreviewer(Previewer previewer) { m_previewer = std::move(previewer); }
     /// Places the components as this later reading of the same design does; null, as after setDesign(), for
     /// the design itself.
     void setBoard(std::shared_ptr<const designs::Design> board) { m_board = std::move(board); }
@@ -43,6 +47,8 @@ public:
     void adi(std::istream &script, std::ostream &report, int mode) override;
     void beginbatch() override;
     bool commitbatch() override;
+    /// Edits that were refused when they were collected do not keep the others from being worked out.
+    std::optional<QList<CDBCHANGE>> previewbatch() override;
     void dropbatch() override;
     void afterbatch(const std::function<void()> &action) override;
     [[nodiscard]] QList<CDBPROBLEM> problems() const override { return m_problems; }
@@ -60,6 +66,7 @@ private:
 
     std::shared_ptr<const LoadedDesign> m_design;
     Writer m_writer;
+    Previewer m_previewer;
     int m_depth = 0;
     std::vector<std::function<void()>> m_afterBatch;
     std::vector<designs::Edit> m_staged;

@@ -18,6 +18,7 @@ void clear(NETCACHE &cache)
     cache.fitting = nullptr;
     cache.marksnotfitted = false;
     cache.samemeaning = nullptr;
+    cache.identityof = nullptr;
     cache.propertyNames.clear();
 }
 
@@ -75,6 +76,10 @@ bool StandaloneNetlist::sendnetlist(NETCACHE &cache, int, int)
     cache.marksnotfitted = m_design->properties().dnpChoice() == DnpChoice::Include;
     cache.samemeaning = [design = m_design](const QByteArray &asked, const QByteArray &other) {
         return design->properties().fields().rank(asked, other);
+    };
+    cache.identityof = [design = m_design](quint64 identifier) {
+        const designs::Component *component = design->component(identifier);
+        return component ? QByteArray::fromStdString(design->design().identityOf(*component)) : QByteArray();
     };
     cache.propertyNames = m_design->properties().allNames();
     if (client->sent.empty() || client->sent.back() != m_design) {

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <span>
 
 namespace designs::kicad {
 
@@ -196,6 +197,23 @@ int KicadDesign::lineOf(const Component &component) const
     const SymbolUse &place = m_symbolUses[component.origin];
     const SheetFile &file = m_hierarchy->files()[m_hierarchy->uses()[place.use].file];
     return m_lines.line(file.path, file.symbols[place.symbol].offset);
+}
+
+std::string KicadDesign::identityOf(const Component &component) const
+{
+    std::string least;
+    for (const SymbolUse &place : std::span(m_symbolUses).subspan(component.origin, component.units)) {
+        const HierarchyUse &use = m_hierarchy->uses()[place.use];
+        const std::string_view uuid = m_hierarchy->files()[use.file].symbols[place.symbol].uuid;
+        if (uuid.empty()) {
+            return {};
+        }
+        const std::string path = use.uuidPath + '/' + std::string(uuid);
+        if (least.empty() || path < least) {
+            least = path;
+        }
+    }
+    return least;
 }
 
 SymbolCount KicadDesign::recount(Problem *error) const

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] Side placement(std::string_view reference) const override;
     [[nodiscard]] SymbolCount recount(Problem *error) const override;
     [[nodiscard]] int lineOf(const Component &component) const override;
+    /// The path of identifiers from the root sheet to the symbol; of several units the first in the alphabet,
+    /// because KiCad orders symbols anew when it saves.
+    [[nodiscard]] std::string identityOf(const Component &component) const override;
 
     /// What the components were made of.
     [[nodiscard]] const Hierarchy &hierarchy() const { return *m_hierarchy; }

@@ -6,9 +6,11 @@
 #include <QByteArrayView>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <iosfwd>
+#include <optional>
 
 /// Where a component stands on the board.
 class CDBLAYOUT
@@ -51,6 +53,28 @@ struct CDBPROBLEM
     bool operator==(const CDBPROBLEM &) const = default;
 };
 
+/// What was done to a property, or would be.
+struct CDBCHANGE
+{
+    QString reference;
+    /// As it is stored then.
+    QString name;
+    /// Nothing where the component lacks the property before or after.
+    std::optional<QString> before;
+    std::optional<QString> after;
+    /// Where it stands, the line counted from 1 in the file as it was before.
+    QString file;
+    int line = 0;
+    /// The other references that share what is changed.
+    QStringList alsoChanges;
+    /// The variant that it is made in; empty for the design as drawn.
+    QString variant = {};
+    /// The name that was asked for, where the property is stored under another one of the same meaning.
+    QString askedName = {};
+
+    bool operator==(const CDBCHANGE &) const = default;
+};
+
 /// The host's component database.
 class CDBCORE
 {
@@ -74,6 +98,14 @@ public:
     /// Writes what was collected, all of it or nothing; true when it is written, or the batch is an inner
     /// one.
     virtual bool commitbatch() { return true; }
+    /// Ends a batch without writing it. Gives what commitbatch() would have changed; problems() has what
+    /// would have kept it from being written. Nothing where the host cannot tell, or the batch is an inner
+    /// one.
+    virtual std::optional<QList<CDBCHANGE>> previewbatch()
+    {
+        dropbatch();
+        return std::nullopt;
+    }
     /// Ends a batch and forgets what it collected; dropping an inner one makes the outer one fail.
     virtual void dropbatch() {}
     /// Has something done once the outermost batch is written; it is forgotten when that batch is dropped or

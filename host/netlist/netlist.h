@@ -48,5 +48,9 @@ struct NETLIST
     /// have each property under its own name only.
     std::function<std::optional<std::size_t>(const QByteArray &asked, const QByteArray &other)> samemeaning;
 
+    /// What tells the component with an identifier from any other of the design, also after references were
+    /// changed and the design was read again. Without it, or where it is empty, the reference does.
+    std::function<QByteArray(quint64 identifier)> identityof;
+
     [[nodiscard]] bool isValid() const { return (validMask & wantedMask) != 0; }
 };

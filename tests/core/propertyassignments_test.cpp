@@ -61,8 +61,13 @@ TEST_F(Assignments, AreWrittenAsOneScriptPerReference)
                            u"DATA NAME : R2-\n\"ALPHA\"   :   \"[REMOVE]\"\n\"CODE\"   :   \"100%1 \"ö\"\"\n"
                            "END\n\n"_s,
                            u"commit"_s}));
-    EXPECT_TRUE(assignments.isEmpty());
+    EXPECT_EQ(assignments.pending(), (QMap<QString, PropertyAssignments::Values>{}));
+    ASSERT_EQ(assignments.size(), 1) << "what no part answers for is not dropped";
     cdb.calls.clear();
+    const ApplyResult nothing = assignments.apply(ApplyOptions());
+    EXPECT_EQ(nothing.text, u"Nothing was applied, see the pending changes"_s);
+    EXPECT_EQ(nothing.kept.value(0).reference, u"X9"_s);
+    assignments.clear();
     EXPECT_EQ(assignments.apply(), QString());
     EXPECT_TRUE(cdb.calls.isEmpty());
 }
@@ -194,10 +199,14 @@ TEST_F(Assignments, AcceptWhatTheTypeOfTheirPropertyHas)
 
 TEST(AssignmentsAndDefinitions, DefineTheLinksOnce)
 {
+    FakeNetlist netlist;
+    netlist.add("R1", "10k");
     const ScopedDefinitions definitions("\"COST\",FLOAT");
     ScriptedUi ui;
     FakeCdb cdb;
     BOMPartsDatabase database;
+    database.setNetlist(netlist.cache());
+    database.load();
     PropertyAssignments assignments(&database);
     const auto apply = [&assignments](const ApplyOptions &options) {
         assignments.assign(u"R1"_s, u"CODE"_s, u"x"_s);

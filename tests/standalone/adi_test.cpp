@@ -71,7 +71,7 @@ protected:
     static std::string changesOf(const WriteResult &result)
     {
         QString text;
-        for (const PropertyChange &change : result.changes) {
+        for (const CDBCHANGE &change : result.changes) {
             text += change.reference + u' ' + change.name + u'=' +
                     change.after.value_or(QStringLiteral("-")) + u';';
         }

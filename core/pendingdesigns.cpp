@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "core/pendingdesigns.h"
+
+#include "core/bompartsdatabase.h"
+
+#include <utility>
+
+PendingDesigns::OfDesign::OfDesign(const BOMPartsDatabase *database, const QString &folder,
+                                   const EditedDesign &design)
+    : edits(database)
+    , journal(folder, design)
+    , earlier(journal.read())
+{
+}
+
+PendingDesigns::Followed PendingDesigns::follow()
+{
+    if (m_current && m_generation == m_database->generation()) {
+        return Followed::Nothing;
+    }
+    m_generation = m_database->generation();
+    const EditedDesign design{m_database->designInfo("FILENAME"), m_database->designVariant()};
+    const bool isOther = !m_current || design != m_design;
+    if (isOther) {
+        open(design);
+    }
+    const bool isChanged = m_current->edits.follow();
+    if (isOther) {
+        return Followed::Design;
+    }
+    return isChanged ? Followed::Edits : Followed::Nothing;
+}
+
+void PendingDesigns::open(const EditedDesign &design)
+{
+    if (m_current && m_current->edits.isEmpty() && m_current->earlier.isEmpty()) {
+        // Another program that opens the design has its journal then.
+        m_designs.erase(m_design);
+    }
+    std::unique_ptr<OfDesign> &held = m_designs[design];
+    if (!held) {
+        held = std::make_unique<OfDesign>(m_database, m_journalFolder, design);
+    }
+    m_current = held.get();
+    m_design = design;
+    m_touched.clear();
+}
+
+QList<PendingEdit> PendingDesigns::earlier() const
+{
+    return m_current ? m_current->earlier : QList<PendingEdit>();
+}
+
+void PendingDesigns::clearEarlier()
+{
+    if (m_current) {
+        m_current->earlier.clear();
+    }
+}
+
+void PendingDesigns::touch(const EditKey &key)
+{
+    const PendingEdit *edit = m_current->edits.find(key);
+    m_touched.try_emplace(key, edit ? std::optional(*edit) : std::nullopt);
+}
+
+EditChanges PendingDesigns::endChanges()
+{
+    EditChanges changes;
+    for (const auto &[key, before] : std::exchange(m_touched, {})) {
+        const PendingEdit *after = m_current->edits.find(key);
+        if (before && after && *before == *after) {
+            continue;
+        }
+        if (before) {
+            changes.before.append(*before);
+        }
+        if (after) {
+            changes.after.append(*after);
+        }
+    }
+    if (!changes.isEmpty()) {
+        record(changes);
+    }
+    return changes;
+}
+
+void PendingDesigns::record(const EditChanges &changes)
+{
+    QList<EditKey> gone;
+    for (const PendingEdit &edit : changes.before) {
+        if (!m_current->edits.find(EditKey::of(edit))) {
+            gone.append(EditKey::of(edit));
+        }
+    }
+    const qsizetype count = m_current->edits.size() + m_current->earlier.size();
+    m_journalError.clear();
+    if (!m_current->journal.record(gone, changes.after, count, [this] { return all(); })) {
+        m_journalError = m_current->journal.error();
+    }
+}
+
+QList<PendingEdit> PendingDesigns::all() const
+{
+    QList<PendingEdit> edits = m_current->edits.list();
+    for (const PendingEdit &edit : m_current->earlier) {
+        if (!m_current->edits.find(EditKey::of(edit))) {
+            edits.append(edit);
+        }
+    }
+    return edits;
+}

@@ -1,0 +1,234 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "core/pendingjournal.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+
+#include <unistd.h>
+
+#include <map>
+
+namespace {
+
+constexpr int formatVersion = 1;
+/// A file that is larger was not written by this program.
+constexpr qint64 mostBytes = qint64(256) * 1024 * 1024;
+/// How many programs may have one design open at a time, each with its own journal.
+constexpr int mostPrograms = 16;
+/// So many lines more than needed, and the file is written anew.
+constexpr qsizetype spareLines = 1000;
+
+const QString setKey = QStringLiteral("set");
+const QString dropKey = QStringLiteral("drop");
+const QString versionKey = QStringLiteral("pendingEdits");
+
+QString fileName(const EditedDesign &design, int program)
+{
+    const QByteArray told = design.file.toUtf8() + '\n' + design.variant.toUtf8();
+    const QByteArray hash = QCryptographicHash::hash(told, QCryptographicHash::Sha1).toHex().left(16);
+    return QFileInfo(design.file).completeBaseName() + u'-' + QString::fromLatin1(hash) +
+           (program > 0 ? u'-' + QString::number(program + 1) : QString()) + QStringLiteral(".pending");
+}
+
+QJsonObject toJson(const EditKey &key)
+{
+    QJsonObject object{{QStringLiteral("component"), QString::fromUtf8(key.part.component)},
+                       {QStringLiteral("property"), key.property}};
+    if (!key.part.definition.isEmpty()) {
+        object.insert(QStringLiteral("definition"), key.part.definition);
+        object.insert(QStringLiteral("place"), key.part.place);
+    }
+    return object;
+}
+
+EditKey keyOf(const QJsonObject &object)
+{
+    return {{object.value(QStringLiteral("component")).toString().toUtf8(),
+             object.value(QStringLiteral("definition")).toString(),
+             object.value(QStringLiteral("place")).toInt()},
+            object.value(QStringLiteral("property")).toString()};
+}
+
+QJsonObject toJson(const PendingEdit &edit)
+{
+    QJsonObject object = toJson(EditKey::of(edit));
+    object.insert(QStringLiteral("reference"), edit.reference);
+    object.insert(QStringLiteral("value"), edit.value);
+    object.insert(QStringLiteral("before"), edit.before);
+    return object;
+}
+
+PendingEdit editOf(const QJsonObject &object)
+{
+    const EditKey key = keyOf(object);
+    const QString before = object.value(QStringLiteral("before")).toString();
+    PendingEdit edit{key.part, object.value(QStringLiteral("reference")).toString(), key.property,
+                     object.value(QStringLiteral("value")).toString(), before};
+    edit.present = before;
+    return edit;
+}
+
+QByteArray line(const QString &key, const QJsonObject &object)
+{
+    return QJsonDocument(QJsonObject{{key, object}}).toJson(QJsonDocument::Compact) + '\n';
+}
+
+QByteArray firstLine(const EditedDesign &design)
+{
+    return line(versionKey, {{QStringLiteral("version"), formatVersion},
+                             {QStringLiteral("file"), design.file},
+                             {QStringLiteral("variant"), design.variant}});
+}
+
+/// Whether the first line says that the file is of this design and of a form that this program knows.
+bool isOf(const QJsonObject &first, const EditedDesign &design)
+{
+    const QJsonObject said = first.value(versionKey).toObject();
+    return said.value(QStringLiteral("version")).toInt() == formatVersion &&
+           said.value(QStringLiteral("file")).toString() == design.file &&
+           said.value(QStringLiteral("variant")).toString() == design.variant;
+}
+
+QJsonObject nextObject(QFile *file)
+{
+    return QJsonDocument::fromJson(file->readLine()).object();
+}
+
+} // namespace
+
+PendingJournal::PendingJournal(const QString &folder, const EditedDesign &design)
+    : m_design(design)
+{
+    if (folder.isEmpty() || design.file.isEmpty()) {
+        return;
+    }
+    const QDir place(folder);
+    if (!place.mkpath(QStringLiteral("."))) {
+        m_error = folder;
+        return;
+    }
+    for (int program = 0; program < mostPrograms; ++program) {
+        const QString path = place.filePath(fileName(design, program));
+        if (!m_file.path.isEmpty() && !QFile::exists(path)) {
+            continue;
+        }
+        auto lock = std::make_unique<QLockFile>(path + QStringLiteral(".lock"));
+        lock->setStaleLockTime(0);
+        if (!lock->tryLock()) {
+            continue;
+        }
+        if (m_file.path.isEmpty()) {
+            m_file = {path, std::move(lock)};
+        } else {
+            m_others.push_back({path, std::move(lock)});
+        }
+    }
+}
+
+PendingJournal::~PendingJournal() = default;
+
+QList<PendingEdit> PendingJournal::read() const
+{
+    QList<PendingEdit> edits = read(m_file.path);
+    for (const File &other : m_others) {
+        edits += read(other.path);
+    }
+    return edits;
+}
+
+QList<PendingEdit> PendingJournal::read(const QString &path) const
+{
+    QFile file(path);
+    if (path.isEmpty() || file.size() > mostBytes || !file.open(QIODevice::ReadOnly) ||
+        !isOf(nextObject(&file), m_design)) {
+        return {};
+    }
+    std::map<EditKey, PendingEdit> edits;
+    while (!file.atEnd()) {
+        const QJsonObject object = nextObject(&file);
+        if (object.contains(setKey)) {
+            const PendingEdit edit = editOf(object.value(setKey).toObject());
+            edits[EditKey::of(edit)] = edit;
+        } else if (object.contains(dropKey)) {
+            edits.erase(keyOf(object.value(dropKey).toObject()));
+        }
+    }
+    QList<PendingEdit> read;
+    read.reserve(qsizetype(edits.size()));
+    for (const auto &[key, edit] : edits) {
+        read.append(edit);
+    }
+    return read;
+}
+
+bool PendingJournal::record(const QList<EditKey> &gone, const QList<PendingEdit> &come, qsizetype count,
+                            const std::function<QList<PendingEdit>()> &all)
+{
+    if (m_file.path.isEmpty()) {
+        return m_error.isEmpty();
+    }
+    const qsizetype lines = gone.size() + come.size();
+    bool isDone = true;
+    if (count == 0) {
+        m_lines = -1;
+        isDone = !QFile::exists(m_file.path) || QFile::remove(m_file.path);
+    } else if (m_lines < 0 || m_lines + lines > 2 * count + spareLines) {
+        isDone = rewrite(all());
+    } else {
+        QByteArray text;
+        for (const EditKey &key : gone) {
+            text += line(dropKey, toJson(key));
+        }
+        for (const PendingEdit &edit : come) {
+            text += line(setKey, toJson(edit));
+        }
+        m_lines += lines;
+        isDone = append(text);
+    }
+    if (isDone) {
+        for (const File &other : m_others) {
+            QFile::remove(other.path);
+        }
+        m_others.clear();
+    }
+    return isDone;
+}
+
+bool PendingJournal::append(const QByteArray &lines)
+{
+    QFile file(m_file.path);
+    if (!file.open(QIODevice::Append) || file.write(lines) != lines.size() || !file.flush() ||
+        ::fsync(file.handle()) != 0) {
+        // A line may be there in part: the next one must not be joined to it.
+        m_lines = -1;
+        return fail(file.errorString());
+    }
+    return true;
+}
+
+bool PendingJournal::rewrite(const QList<PendingEdit> &all)
+{
+    QByteArray text = firstLine(m_design);
+    for (const PendingEdit &edit : all) {
+        text += line(setKey, toJson(edit));
+    }
+    QSaveFile file(m_file.path);
+    if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner) ||
+        file.write(text) != text.size() || !file.commit()) {
+        return fail(file.errorString());
+    }
+    m_lines = all.size();
+    return true;
+}
+
+bool PendingJournal::fail(const QString &reason)
+{
+    m_error = reason;
+    return false;
+}
