@@ -95,6 +95,9 @@ void Workbench::chooseFile()
 bool Workbench::open(const QString &path)
 {
     const QString file = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    if (!canClose()) {
+        return false;
+    }
     if (!m_session.open(file)) {
         if (!QFileInfo::exists(file)) {
             RecentFiles::remove(file);
@@ -121,6 +124,10 @@ bool Workbench::open(const QString &path)
 
 void Workbench::openVariant(const QString &variant)
 {
+    if (!canClose()) {
+        m_window.menus().setVariants(m_session.variants(), m_variant);
+        return;
+    }
     if (m_session.open(m_path, {variant})) {
         m_variant = variant;
         showDesign();
@@ -163,8 +170,9 @@ void Workbench::watchDesign()
 
 void Workbench::checkFiles()
 {
-    if (QApplication::activeModalWidget()) {
-        // The dialog may hold parts, which a new reading would delete.
+    const bool isUserBusy = QApplication::activeModalWidget() || QApplication::activePopupWidget();
+    if (isUserBusy || (client() && client()->isbusy())) {
+        // A dialog may hold parts, which a new reading would delete; nor is a menu or an editor pulled away.
         m_watcher.touchLater();
         return;
     }
@@ -217,6 +225,10 @@ void Workbench::rereadBoard()
 
 void Workbench::chooseDnp(DnpChoice choice)
 {
+    if (!canClose()) {
+        m_window.menus().setDnpChoice(m_session.dnpChoice());
+        return;
+    }
     m_session.setDnpChoice(choice);
     m_window.menus().setDnpChoice(choice);
     m_library.module()->onvalidate();
@@ -234,7 +246,8 @@ void Workbench::undoLastWrite()
     const QString question = tr("Take back what was written last into the design \"%1\"?");
     if (!m_session.design() ||
         !HostUi::current().question(&m_window, tr("Undo Last Write"),
-                                    question.arg(QFileInfo(m_path).fileName()), false)) {
+                                    question.arg(QFileInfo(m_path).fileName()), false) ||
+        !canClose()) {
         return;
     }
     const UndoResult undone = m_session.undo();
@@ -261,18 +274,20 @@ void Workbench::updateRecentFiles()
     m_window.emptyPage().setRecentFiles(recent);
 }
 
+INETCLIENT *Workbench::client() const
+{
+    return static_cast<INETCLIENT *>(m_library.module()->queryinterface(INTERFACE_NETCLIENT));
+}
+
 std::optional<qsizetype> Workbench::listedParts() const
 {
-    IMODULE *client = m_library.module()->queryinterface(INTERFACE_NETCLIENT);
-    return client ? static_cast<INETCLIENT *>(client)->partcount() : std::nullopt;
+    return client() ? client()->partcount() : std::nullopt;
 }
 
 QStringList Workbench::joinedLines() const
 {
-    IMODULE *client = m_library.module()->queryinterface(INTERFACE_NETCLIENT);
     const TellingProperties telling = tellingProperties(*m_session.design());
-    return client ? static_cast<INETCLIENT *>(client)->differinglines(telling.always, telling.whereFilled)
-                  : QStringList();
+    return client() ? client()->differinglines(telling.always, telling.whereFilled) : QStringList();
 }
 
 void Workbench::updateStatus()

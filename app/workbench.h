@@ -49,7 +49,10 @@ private:
     void clearRecentFiles();
     void undoLastWrite();
     void showAbout();
+    /// Asks the module about what is not saved, before another state of the design replaces what is open.
     [[nodiscard]] bool canClose();
+    /// The module as a client of the design; null when it is none.
+    [[nodiscard]] INETCLIENT *client() const;
 
     /// To be called when the session has opened another design, or has read its design again.
     void showDesign();

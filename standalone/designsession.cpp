@@ -20,11 +20,7 @@ DesignSession::DesignSession()
     m_netlist.setReader([this] { return reread(); });
     m_cdb.setWriter([this](std::span<const designs::Edit> edits) { return writeBatch(edits); });
     m_cdb.setPreviewer([this](std::span<const designs::Edit> edits, QList<CDBPROBLEM> *problems) {
-        WriteOptions options;
-        options.isDryRun = true;
-        const WriteResult result = writeEdits(m_design->design(), edits, options);
-        *problems += result.problems;
-        return result.changes;
+        return previewEdits(m_design->design(), edits, problems);
     });
     setapplnprocess(&m_process);
     setcdb(&m_cdb);

@@ -8,6 +8,9 @@
 
 #include <QFile>
 
+#include <functional>
+#include <set>
+
 namespace {
 
 std::optional<QString> text(const std::optional<std::string> &utf8)
@@ -119,6 +122,35 @@ WriteResult writeEdits(const designs::Design &design, std::span<const designs::E
         result.files << file.path;
     }
     return result;
+}
+
+QList<CDBCHANGE> previewEdits(const designs::Design &design, std::span<const designs::Edit> edits,
+                              QList<CDBPROBLEM> *problems)
+{
+    designs::EditPlan plan = design.planEdits(edits);
+    *problems += problemsOf(design, edits, plan.problems);
+    std::vector<designs::Edit> fitting(edits.begin(), edits.end());
+    if (!plan.problems.empty()) {
+        // A plan with a problem has no changes: leave out what is refused, the last ones first.
+        std::set<std::size_t, std::greater<>> refused;
+        for (const designs::EditProblem &problem : plan.problems) {
+            if (problem.edit) {
+                refused.insert(*problem.edit);
+            }
+        }
+        for (const std::size_t index : refused) {
+            fitting.erase(fitting.begin() + std::ptrdiff_t(index));
+        }
+        plan = design.planEdits(fitting);
+    }
+    if (!plan.files.empty() && plan.problems.empty()) {
+        *problems += problemsOf(filesOf(design).check(plan.files));
+    }
+    QList<CDBCHANGE> changes;
+    for (const designs::Change &planned : plan.changes) {
+        changes.append(changeOf(design, fitting, planned));
+    }
+    return changes;
 }
 
 UndoResult undoLastWrite(const designs::Design &design)

@@ -17,6 +17,10 @@ class INETCLIENT : public IMODULE
 public:
     [[nodiscard]] virtual bool isvisible() = 0;
 
+    /// Whether the user is in the middle of something that a changed design would pull away: an open editor,
+    /// a menu, a drag. The server waits with a changed design until it is over.
+    [[nodiscard]] virtual bool isbusy() const { return false; }
+
     /// How many parts the client lists of the design, its own included; nothing when it does not count.
     [[nodiscard]] virtual std::optional<qsizetype> partcount() const { return std::nullopt; }
 

@@ -1,53 +1,24 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 // What a module holds of the design while it writes into it.
-#include "core/bompartsdatabase.h"
 #include "core/designwrite.h"
-#include "core/propertyassignments.h"
-#include "host/framework/applnmodule.h"
-#include "standalone/designsession.h"
-#include "support/scopeddefinitions.h"
-#include "support/testfiles.h"
+#include "standalone/moduleonfiles.h"
 #include "tests/standalone/tabledesign.h"
-
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
-#include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// A part list that is open in a host, with a module that answers changes as the real one does.
-class Writing : public testing::Test, protected INETCLIENT
+/// A part list that is open.
+class Writing : public ModuleOnFiles
 {
 protected:
     Writing()
     {
-        EXPECT_TRUE(session.open(writeFile(folder.filePath(u"list.csv"_s),
-                                           "Reference,Value,MPN,BOMPART1\nR1,10k,old,\"1,'SCR','M3'\"\n")));
-        module.setapplnname(u"BOM"_s, {});
-        module.setinterface(INTERFACE_BOMVIEWER, this);
-        cache.attach(this);
-        cache.setsource(&session.netlist());
-        database.setCurrentTemplate(BOMTemplate());
-        database.setNetlist(&cache);
-        cache.validate(1);
+        open(writeFile(path("list.csv"), "Reference,Value,MPN,BOMPART1\nR1,10k,old,\"1,'SCR','M3'\"\n"));
         QObject::connect(&database, &BOMPartsDatabase::dataChanged, &database, [this] { ++notices; });
     }
 
-    IMODULE *queryinterface(unsigned) override { return this; }
-    bool isvisible() override { return false; }
-    void designChanged(bool) override
-    {
-        if (!database.isWriting()) {
-            database.reload();
-        } else if (whileWriting) {
-            whileWriting();
-        }
-    }
     [[nodiscard]] std::string mpn() const { return database.property(u"R1"_s, u"MPN"_s).toStdString(); }
     /// How many notices applying an edit gives.
     int noticesOf(const QString &reference, const QString &property, const QString &value)
@@ -58,16 +29,7 @@ protected:
         return notices;
     }
 
-    ScopedDefinitions definitions{"\"BOMLINKS\",STRING"};
-    QTemporaryDir folder;
-    DesignSession session;
-    APPLNMODULE module{&session.process()};
-    NETCACHE cache;
-    BOMPartsDatabase database;
-    PropertyAssignments assignments{&database};
     int notices = 0;
-    /// What happens when the host tells of a change meanwhile.
-    std::function<void()> whileWriting;
 };
 
 TEST_F(Writing, KeepsThePartsUntilTheyAreMadeAnew)
