@@ -3,6 +3,7 @@
 #include "host/widgets/applnwidget.h"
 
 #include "host/framework/applnframe.h"
+#include "host/widgets/drawnicon.h"
 
 #include <QFile>
 #include <QMenu>
@@ -78,7 +79,14 @@ void APPLNWIDGET::removefromframe()
     }
 }
 
-QIcon APPLNWIDGET::makeIcon(const QString &path)
+QIcon APPLNWIDGET::makeIcon(const QString &path, const std::optional<QPalette> &palette)
 {
-    return QFile::exists(path) ? QIcon(path) : QIcon();
+    QFile file(path);
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    if (const QByteArray svg = file.readAll(); DrawnIcon::canDraw(svg)) {
+        return QIcon(new DrawnIcon(svg, palette));
+    }
+    return QIcon(path);
 }

@@ -6,8 +6,11 @@
 
 #include <QIcon>
 #include <QList>
+#include <QPalette>
 #include <QPointer>
 #include <QWidget>
+
+#include <optional>
 
 class QMenu;
 class QToolBar;
@@ -31,15 +34,17 @@ public:
     /// Null before createwindow().
     [[nodiscard]] APPLNFRAME *getframe() const { return m_frame; }
 
+    /// The picture of a resource or file; a null icon when there is none. SVG, whatever the file is called,
+    /// is drawn in the colours of the program's palette and follows it. With a palette it keeps that one's
+    /// colours, for widgets whose background does not follow the theme.
+    [[nodiscard]] static QIcon makeIcon(const QString &path, const std::optional<QPalette> &palette = {});
+
 protected:
     /// Menu and tool bar become the window's and go with it. Only after createwindow().
     void addmenu(unsigned id, QMenu *menu, unsigned flags);
     void addtoolbar(QToolBar *bar);
     /// Takes all that was put into the frame out of it again.
     void removefromframe();
-
-    /// The picture of a resource; a null icon when the program does not have it.
-    [[nodiscard]] static QIcon makeIcon(const QString &path);
 
 private:
     APPLNFRAME *m_frame = nullptr;
