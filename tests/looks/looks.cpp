@@ -5,6 +5,7 @@
 // FOLDER/NAME-light-100-en.png. The number is the scale in percent, for which QT_SCALE_FACTOR is to be set.
 // NAME picks the windows whose names begin so.
 #include "host/framework/hostsettings.h"
+#include "looks/flaws.h"
 #include "looks/pictures.h"
 #include "support/scriptedui.h"
 
@@ -86,15 +87,44 @@ private:
     bool m_isComplete = true;
 };
 
+/// How windows are shown, besides what they show.
+struct Variant
+{
+    QString theme;
+    QString scale;
+    QString language;
+
+    [[nodiscard]] QString nameFor(const QString &picture) const
+    {
+        return QStringList{picture, theme, scale, language}.join(u'-');
+    }
+};
+
+/// Says what is wrong with a window; once, as the colours do not matter.
+void reportFlaws(const QWidget &window, const QString &name, const Variant &variant)
+{
+    if (variant.theme != QStringLiteral("light")) {
+        return;
+    }
+    for (const QString &flaw : flawsOf(window)) {
+        std::fprintf(stderr, "%s: %s\n", qPrintable(name), qPrintable(flaw));
+    }
+}
+
 /// Whether the picture could be made and written.
-bool save(const Picture &picture, const QString &file)
+bool save(const Picture &picture, const Variant &variant, const QDir &folder)
 {
     const std::shared_ptr<QWidget> window = picture.make();
     if (!window) {
         return false;
     }
     window->show();
-    return QTest::qWaitForWindowExposed(window.get()) && window->grab().save(file);
+    if (!QTest::qWaitForWindowExposed(window.get())) {
+        return false;
+    }
+    const QString name = variant.nameFor(picture.name);
+    reportFlaws(*window, name, variant);
+    return window->grab().save(folder.filePath(name + QStringLiteral(".png")));
 }
 
 bool isAskedFor(const QString &name, const QStringList &names)
@@ -104,16 +134,12 @@ bool isAskedFor(const QString &name, const QStringList &names)
 }
 
 /// Returns the exit status.
-int saveAll(const QDir &folder, const QStringList &names, const QString &ending)
+int saveAll(const QDir &folder, const QStringList &names, const Variant &variant)
 {
     int status = 0;
     for (const Picture &picture : pictures()) {
-        if (!isAskedFor(picture.name, names)) {
-            continue;
-        }
-        const QString file = folder.filePath(picture.name + ending);
-        if (!save(picture, file)) {
-            std::fprintf(stderr, "looks: %s cannot be made\n", qPrintable(file));
+        if (isAskedFor(picture.name, names) && !save(picture, variant, folder)) {
+            std::fprintf(stderr, "looks: %s cannot be made\n", qPrintable(variant.nameFor(picture.name)));
             status = 1;
         }
     }
@@ -146,9 +172,8 @@ int main(int argc, char **argv)
         ui.numberFormat = QLocale();
         for (const Theme &theme : themes) {
             QApplication::setPalette(theme.palette);
-            const QString ending =
-                QStringLiteral("-%1-%2-%3.png").arg(QLatin1String(theme.name), scale, name);
-            status = std::max(status, saveAll(folder, names, ending));
+            const Variant variant{QString::fromLatin1(theme.name), scale, name};
+            status = std::max(status, saveAll(folder, names, variant));
         }
     }
     HostSettings::install(nullptr);
