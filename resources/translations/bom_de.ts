@@ -359,6 +359,205 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>ColorField</name>
+    <message>
+        <source>not set</source>
+        <translation>offen</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Transparent</source>
+        <translation>Durchsichtig</translation>
+    </message>
+    <message>
+        <source>Leave open</source>
+        <translation>Offen lassen</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+</context>
+<context>
+    <name>ColorMenu</name>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>Dark Grey</source>
+        <translation>Dunkelgrau</translation>
+    </message>
+    <message>
+        <source>Grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Light Green</source>
+        <translation>Hellgrün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Light Blue</source>
+        <translation>Hellblau</translation>
+    </message>
+    <message>
+        <source>Purple</source>
+        <translation>Violett</translation>
+    </message>
+    <message>
+        <source>Other Colour...</source>
+        <translation>Andere Farbe...</translation>
+    </message>
+</context>
+<context>
+    <name>DesignStatus</name>
+    <message>
+        <source>%1 listed</source>
+        <translation>%1 aufgeführt</translation>
+    </message>
+    <message>
+        <source> (%1 BOM-only)</source>
+        <translation> (%1 nur in der Stückliste)</translation>
+    </message>
+    <message>
+        <source>%1 repeated</source>
+        <translation>%1 mehrfach</translation>
+    </message>
+    <message>
+        <source>%1 fitted</source>
+        <translation>%1 bestückt</translation>
+    </message>
+    <message>
+        <source>%1 not fitted</source>
+        <translation>%1 nicht bestückt</translation>
+    </message>
+    <message>
+        <source>%1 excluded</source>
+        <translation>%1 ausgeschlossen</translation>
+    </message>
+    <message>
+        <source>Of %1 components of the design and %2 BOM-only parts</source>
+        <translation>Von %1 Bauteilen des Entwurfs und %2 Bauteilen nur in der Stückliste</translation>
+    </message>
+    <message>
+        <source>Of %1 components of the design</source>
+        <translation>Von %1 Bauteilen des Entwurfs</translation>
+    </message>
+    <message>
+        <source>: a text variable ${...} is not resolved</source>
+        <translation>: Eine Textvariable ${...} ist nicht aufgelöst</translation>
+    </message>
+</context>
+<context>
+    <name>EmbeddedImage</name>
+    <message>
+        <source>The file cannot be read: </source>
+        <translation>Die Datei kann nicht gelesen werden: </translation>
+    </message>
+    <message>
+        <source>The image is larger than 2 MiB. Make it smaller first.</source>
+        <translation>Das Bild ist größer als 2 MiB. Verkleinern Sie es zuerst.</translation>
+    </message>
+    <message>
+        <source>The file holds no image that can be shown.</source>
+        <translation>Die Datei enthält kein Bild, das angezeigt werden kann.</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyPage</name>
+    <message>
+        <source>No design is open</source>
+        <translation>Kein Entwurf ist geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Open a Design…</source>
+        <translation>Entwurf ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>Drop a KiCad schematic (.kicad_sch), a KiCad project (.kicad_pro) or a part list (.csv) on this window, or choose one.</source>
+        <translation>Ziehen Sie einen KiCad-Schaltplan (.kicad_sch), ein KiCad-Projekt (.kicad_pro) oder eine Bauteilliste (.csv) auf dieses Fenster, oder wählen Sie eine Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>FrameWindow</name>
+    <message>
+        <source>Bill of Materials Viewer</source>
+        <translation>Stücklistenanzeige</translation>
+    </message>
+</context>
+<context>
+    <name>HtmlSize</name>
+    <message>
+        <source>An HTML element has too many attributes.</source>
+        <translation>Ein HTML-Element hat zu viele Attribute.</translation>
+    </message>
+</context>
+<context>
+    <name>LengthSpin</name>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>offen</translation>
+    </message>
+    <message>
+        <source>Written as %1</source>
+        <translation>Geschrieben als %1</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDialog</name>
+    <message>
+        <source>Insert Link</source>
+        <translation>Link einfügen</translation>
+    </message>
+    <message>
+        <source>Change Link</source>
+        <translation>Link ändern</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Link</source>
+        <translation>Link &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation>&amp;Text:</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>&amp;Adresse:</translation>
+    </message>
+</context>
+<context>
     <name>ModuleTemplates</name>
     <message>
         <source>Incomplete BOM Template</source>
@@ -433,10 +632,752 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>PrintPreview</name>
+    <message>
+        <source>Print Preview</source>
+        <translation>Druckvorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation>Erste</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Vorige</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Nächste</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation>Letzte</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Whole Page</source>
+        <translation>Ganze Seite</translation>
+    </message>
+    <message>
+        <source>Page Width</source>
+        <translation>Seitenbreite</translation>
+    </message>
+    <message>
+        <source> Page %1 of %2 </source>
+        <translation> Seite %1 von %2 </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramMenus</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>Open a schematic, a project or a part list</source>
+        <translation>Einen Schaltplan, ein Projekt oder eine Bauteilliste öffnen</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Undo Last Write…</source>
+        <translation>Letztes &amp;Schreiben zurücknehmen…</translation>
+    </message>
+    <message>
+        <source>Give the files of the design the content that they had before they were written last</source>
+        <translation>Den Dateien des Entwurfs den Inhalt geben, den sie vor dem letzten Schreiben hatten</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>End the program</source>
+        <translation>Das Programm beenden</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Parts That Are Not Fitted</source>
+        <translation>&amp;Nicht bestückte Bauteile</translation>
+    </message>
+    <message>
+        <source>&amp;Leave Out</source>
+        <translation>&amp;Weglassen</translation>
+    </message>
+    <message>
+        <source>Parts that are not fitted are not in the report</source>
+        <translation>Nicht bestückte Bauteile stehen nicht im Bericht</translation>
+    </message>
+    <message>
+        <source>&amp;Include</source>
+        <translation>&amp;Aufführen</translation>
+    </message>
+    <message>
+        <source>Parts that are not fitted are listed, marked and not counted</source>
+        <translation>Nicht bestückte Bauteile werden aufgeführt, gekennzeichnet und nicht gezählt</translation>
+    </message>
+    <message>
+        <source>&amp;Only These</source>
+        <translation>&amp;Nur diese</translation>
+    </message>
+    <message>
+        <source>Only parts that are not fitted are in the report</source>
+        <translation>Nur nicht bestückte Bauteile stehen im Bericht</translation>
+    </message>
+    <message>
+        <source>&amp;Variant</source>
+        <translation>&amp;Variante</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>&amp;Über</translation>
+    </message>
+    <message>
+        <source>What this program is</source>
+        <translation>Was dieses Programm ist</translation>
+    </message>
+    <message>
+        <source>&amp;Clear This List</source>
+        <translation>Diese Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>&amp;As Drawn</source>
+        <translation>Wie &amp;gezeichnet</translation>
+    </message>
+</context>
+<context>
+    <name>Rewriter</name>
+    <message>
+        <source>The HTML text has too many elements.</source>
+        <translation>Der HTML-Text hat zu viele Elemente.</translation>
+    </message>
+    <message>
+        <source>The HTML elements are nested too deeply.</source>
+        <translation>Die HTML-Elemente sind zu tief geschachtelt.</translation>
+    </message>
+    <message>
+        <source>The HTML text has a paragraph that is too long.</source>
+        <translation>Der HTML-Text hat einen zu langen Absatz.</translation>
+    </message>
+    <message>
+        <source>The HTML text is too long.</source>
+        <translation>Der HTML-Text ist zu lang.</translation>
+    </message>
+    <message>
+        <source>The HTML text has too many images.</source>
+        <translation>Der HTML-Text hat zu viele Bilder.</translation>
+    </message>
+</context>
+<context>
+    <name>StatusFields</name>
+    <message>
+        <source>Not up to date</source>
+        <translation>Nicht aktuell</translation>
+    </message>
+    <message>
+        <source>The Design Has Changed and Cannot Be Read</source>
+        <translation>Der Entwurf hat sich geändert und kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Warnings About the Design</source>
+        <translation>Warnungen zum Entwurf</translation>
+    </message>
+    <message>
+        <source>1 warning</source>
+        <translation>1 Warnung</translation>
+    </message>
+    <message>
+        <source>%1 warnings</source>
+        <translation>%1 Warnungen</translation>
+    </message>
+</context>
+<context>
+    <name>StylePanel</name>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>&amp;Family:</source>
+        <translation>&amp;Familie:</translation>
+    </message>
+    <message>
+        <source>Font family</source>
+        <translation>Schriftfamilie</translation>
+    </message>
+    <message>
+        <source>Si&amp;ze:</source>
+        <translation>&amp;Größe:</translation>
+    </message>
+    <message>
+        <source>Font size</source>
+        <translation>Schriftgröße</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Fett</translation>
+    </message>
+    <message>
+        <source>Checked: yes, empty: no, filled: as inherited</source>
+        <translation>Häkchen: ja, leer: nein, gefüllt: wie geerbt</translation>
+    </message>
+    <message>
+        <source>&amp;Bold</source>
+        <translation>Fe&amp;tt</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Kursiv</translation>
+    </message>
+    <message>
+        <source>&amp;Italic</source>
+        <translation>&amp;Kursiv</translation>
+    </message>
+    <message>
+        <source>Underline</source>
+        <translation>Unterstrichen</translation>
+    </message>
+    <message>
+        <source>&amp;Underline</source>
+        <translation>&amp;Unterstrichen</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>&amp;Text:</source>
+        <translation>Te&amp;xt:</translation>
+    </message>
+    <message>
+        <source>Text color</source>
+        <translation>Textfarbe</translation>
+    </message>
+    <message>
+        <source>Bac&amp;kground:</source>
+        <translation>&amp;Hintergrund:</translation>
+    </message>
+    <message>
+        <source>Background color</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+    <message>
+        <source>Alignment</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontal:</source>
+        <translation>H&amp;orizontal:</translation>
+    </message>
+    <message>
+        <source>Horizontal alignment</source>
+        <translation>Horizontale Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Inherited</source>
+        <translation>Geerbt</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Zentriert</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Justified</source>
+        <translation>Blocksatz</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical:</source>
+        <translation>&amp;Vertikal:</translation>
+    </message>
+    <message>
+        <source>Vertical alignment</source>
+        <translation>Vertikale Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Offen</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Baseline</source>
+        <translation>Grundlinie</translation>
+    </message>
+    <message>
+        <source>Superscript</source>
+        <translation>Hochgestellt</translation>
+    </message>
+    <message>
+        <source>Subscript</source>
+        <translation>Tiefgestellt</translation>
+    </message>
+    <message>
+        <source>Margins</source>
+        <translation>Außenabstände</translation>
+    </message>
+    <message>
+        <source>To&amp;p:</source>
+        <translation>O&amp;ben:</translation>
+    </message>
+    <message>
+        <source>Top margin</source>
+        <translation>Oberer Außenabstand</translation>
+    </message>
+    <message>
+        <source>Ri&amp;ght:</source>
+        <translation>&amp;Rechts:</translation>
+    </message>
+    <message>
+        <source>Right margin</source>
+        <translation>Rechter Außenabstand</translation>
+    </message>
+    <message>
+        <source>Botto&amp;m:</source>
+        <translation>U&amp;nten:</translation>
+    </message>
+    <message>
+        <source>Bottom margin</source>
+        <translation>Unterer Außenabstand</translation>
+    </message>
+    <message>
+        <source>&amp;Left:</source>
+        <translation>&amp;Links:</translation>
+    </message>
+    <message>
+        <source>Left margin</source>
+        <translation>Linker Außenabstand</translation>
+    </message>
+    <message>
+        <source>Padding</source>
+        <translation>Innenabstände</translation>
+    </message>
+    <message>
+        <source>Top padding</source>
+        <translation>Oberer Innenabstand</translation>
+    </message>
+    <message>
+        <source>Right padding</source>
+        <translation>Rechter Innenabstand</translation>
+    </message>
+    <message>
+        <source>Bottom padding</source>
+        <translation>Unterer Innenabstand</translation>
+    </message>
+    <message>
+        <source>Left padding</source>
+        <translation>Linker Innenabstand</translation>
+    </message>
+    <message>
+        <source>Border</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Sid&amp;e:</source>
+        <translation>S&amp;eite:</translation>
+    </message>
+    <message>
+        <source>Side of the border</source>
+        <translation>Seite des Rahmens</translation>
+    </message>
+    <message>
+        <source>All sides</source>
+        <translation>Alle Seiten</translation>
+    </message>
+    <message>
+        <source>Li&amp;ne:</source>
+        <translation>L&amp;inie:</translation>
+    </message>
+    <message>
+        <source>Border style</source>
+        <translation>Art des Rahmens</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation>Durchgezogen</translation>
+    </message>
+    <message>
+        <source>Dashed</source>
+        <translation>Gestrichelt</translation>
+    </message>
+    <message>
+        <source>Dotted</source>
+        <translation>Gepunktet</translation>
+    </message>
+    <message>
+        <source>Double</source>
+        <translation>Doppelt</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Dicke:</translation>
+    </message>
+    <message>
+        <source>Border width</source>
+        <translation>Dicke des Rahmens</translation>
+    </message>
+    <message>
+        <source>Colo&amp;r:</source>
+        <translation>F&amp;arbe:</translation>
+    </message>
+    <message>
+        <source>Border color</source>
+        <translation>Farbe des Rahmens</translation>
+    </message>
+    <message>
+        <source>inherited</source>
+        <translation>geerbt</translation>
+    </message>
+    <message>
+        <source>various</source>
+        <translation>verschieden</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>offen</translation>
+    </message>
+    <message>
+        <source>Various</source>
+        <translation>Verschieden</translation>
+    </message>
+</context>
+<context>
     <name>TemplateStore</name>
     <message>
         <source>Could not create template</source>
         <translation>Vorlage konnte nicht angelegt werden</translation>
+    </message>
+</context>
+<context>
+    <name>TextEdit</name>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>Print Failed</source>
+        <translation>Drucken fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The printer cannot be used.</source>
+        <translation>Der Drucker kann nicht benutzt werden.</translation>
+    </message>
+    <message>
+        <source>PDF file to save</source>
+        <translation>PDF-Datei speichern</translation>
+    </message>
+    <message>
+        <source>PDF documents (*.pdf)</source>
+        <translation>PDF-Dokumente (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Output Failed</source>
+        <translation>Ausgabe fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>TextEditHRuler</name>
+    <message>
+        <source>Ruler</source>
+        <translation>Lineal</translation>
+    </message>
+    <message>
+        <source>Drag the marks to move the paragraph&apos;s margins and the paper&apos;s.</source>
+        <translation>Ziehen Sie die Marken, um die Ränder des Absatzes und des Papiers zu verschieben.</translation>
+    </message>
+</context>
+<context>
+    <name>TextEditToolBars</name>
+    <message>
+        <source>Insert Image</source>
+        <translation>Bild einfügen</translation>
+    </message>
+    <message>
+        <source>Images (*.png *.jpg *.jpeg *.gif *.svg *.bmp)</source>
+        <translation>Bilder (*.png *.jpg *.jpeg *.gif *.svg *.bmp)</translation>
+    </message>
+</context>
+<context>
+    <name>TextStyleEditor</name>
+    <message>
+        <source>Style Editor</source>
+        <translation>Formateditor</translation>
+    </message>
+    <message>
+        <source>St&amp;yles:</source>
+        <translation>For&amp;matvorlagen:</translation>
+    </message>
+    <message>
+        <source>Find a style</source>
+        <translation>Eine Formatvorlage suchen</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Styles</source>
+        <translation>Formatvorlagen</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Style</source>
+        <translation>&amp;Stil</translation>
+    </message>
+    <message>
+        <source>&amp;CSS</source>
+        <translation>&amp;CSS</translation>
+    </message>
+    <message>
+        <source>Text of the style sheet</source>
+        <translation>Text des Stylesheets</translation>
+    </message>
+    <message>
+        <source>this is not a property with a value</source>
+        <translation>dies ist keine Eigenschaft mit einem Wert</translation>
+    </message>
+    <message>
+        <source>a style without its braces begins here</source>
+        <translation>hier beginnt ein Format ohne seine Klammern</translation>
+    </message>
+    <message>
+        <source>this brace closes nothing</source>
+        <translation>diese Klammer schließt nichts</translation>
+    </message>
+    <message>
+        <source>this string is not closed</source>
+        <translation>diese Zeichenkette ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>this comment is not closed</source>
+        <translation>dieser Kommentar ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>this brace is not closed</source>
+        <translation>diese Klammer ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>Line %1 of the style sheet: %2.</source>
+        <translation>Zeile %1 des Stylesheets: %2.</translation>
+    </message>
+    <message>
+        <source>Back to the default styles</source>
+        <translation>Zurück zu den Standardformaten</translation>
+    </message>
+    <message>
+        <source>There are no styles to choose from. The CSS tab shows the whole style sheet.</source>
+        <translation>Es gibt keine Formate zur Auswahl. Der Reiter CSS zeigt das ganze Stylesheet.</translation>
+    </message>
+</context>
+<context>
+    <name>TextTools</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Paragraph</source>
+        <translation>Absatz</translation>
+    </message>
+    <message>
+        <source>Insert or change link...</source>
+        <translation>Link einfügen oder ändern...</translation>
+    </message>
+    <message>
+        <source>Insert image...</source>
+        <translation>Bild einfügen...</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Font size in points</source>
+        <translation>Schriftgröße in Punkt</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Fett</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Kursiv</translation>
+    </message>
+    <message>
+        <source>Underline</source>
+        <translation>Unterstrichen</translation>
+    </message>
+    <message>
+        <source>Text colour</source>
+        <translation>Textfarbe</translation>
+    </message>
+    <message>
+        <source>No Background</source>
+        <translation>Kein Hintergrund</translation>
+    </message>
+    <message>
+        <source>Background colour</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+    <message>
+        <source>Align left</source>
+        <translation>Linksbündig</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Zentriert</translation>
+    </message>
+    <message>
+        <source>Align right</source>
+        <translation>Rechtsbündig</translation>
+    </message>
+    <message>
+        <source>Justify</source>
+        <translation>Blocksatz</translation>
+    </message>
+    <message>
+        <source>Bullet list</source>
+        <translation>Aufzählung</translation>
+    </message>
+    <message>
+        <source>Numbered list</source>
+        <translation>Nummerierte Liste</translation>
+    </message>
+    <message>
+        <source>Decrease indent</source>
+        <translation>Einzug verkleinern</translation>
+    </message>
+    <message>
+        <source>Increase indent</source>
+        <translation>Einzug vergrößern</translation>
+    </message>
+</context>
+<context>
+    <name>TidyLibWrapper</name>
+    <message>
+        <source>The HTML text is too long.</source>
+        <translation>Der HTML-Text ist zu lang.</translation>
+    </message>
+    <message>
+        <source>The HTML elements are nested too deeply.</source>
+        <translation>Die HTML-Elemente sind zu tief geschachtelt.</translation>
+    </message>
+    <message>
+        <source>The HTML text has too many elements.</source>
+        <translation>Der HTML-Text hat zu viele Elemente.</translation>
+    </message>
+    <message>
+        <source>The HTML text cannot be read.</source>
+        <translation>Der HTML-Text kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Workbench</name>
+    <message>
+        <source>The Program Is Not Complete</source>
+        <translation>Das Programm ist nicht vollständig</translation>
+    </message>
+    <message>
+        <source>Project Notes</source>
+        <translation>Projektnotizen</translation>
+    </message>
+    <message>
+        <source>the module &quot;%1&quot; cannot be started</source>
+        <translation>das Modul „%1“ kann nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>Open Design</source>
+        <translation>Entwurf öffnen</translation>
+    </message>
+    <message>
+        <source>Designs (*.kicad_sch *.kicad_pro *.csv);;All files (*)</source>
+        <translation>Entwürfe (*.kicad_sch *.kicad_pro *.csv);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Open Failed</source>
+        <translation>Öffnen fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The module &quot;%1&quot; has no window to show the design in.</source>
+        <translation>Das Modul „%1“ hat kein Fenster, um den Entwurf zu zeigen.</translation>
+    </message>
+    <message>
+        <source>Take back what was written last into the design &quot;%1&quot;?</source>
+        <translation>Zurücknehmen, was zuletzt in den Entwurf „%1“ geschrieben wurde?</translation>
+    </message>
+    <message>
+        <source>Undo Last Write</source>
+        <translation>Letztes Schreiben zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Restored: </source>
+        <translation>Wiederhergestellt: </translation>
+    </message>
+    <message>
+        <source>About Bill of Materials Viewer</source>
+        <translation>Über die Stücklistenanzeige</translation>
+    </message>
+    <message>
+        <source>Bill of Materials Viewer %1
+Bills of materials from KiCad schematics and part lists.</source>
+        <translation>Stücklistenanzeige %1
+Stücklisten aus KiCad-Schaltplänen und Bauteillisten.</translation>
     </message>
 </context>
 </TS>

@@ -19,11 +19,6 @@ namespace {
 using xhtml::Content;
 using xhtml::Element;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("MarkupCleaner", text);
-}
-
 /// The entities of Latin 1 and the marks that people use; others make the fragment one to be mended.
 class Entities final : public QXmlStreamEntityResolver
 {
@@ -84,6 +79,8 @@ const Element &bodyElement()
 // back.
 class Rewriter final
 {
+    Q_DECLARE_TR_FUNCTIONS(Rewriter)
+
 public:
     Rewriter(const QString &fragment, const QSet<QString> &ids, const MarkupLimits &limits)
         : m_limits(limits)

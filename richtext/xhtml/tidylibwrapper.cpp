@@ -23,11 +23,6 @@ namespace {
 constexpr int mostElements = 200'000;
 constexpr qsizetype longest = 32 * 1024 * 1024;
 
-QString text(const char *source)
-{
-    return QCoreApplication::translate("TidyLibWrapper", source);
-}
-
 struct Buffer : TidyBuffer
 {
     Buffer() { tidyBufInit(this); }
@@ -70,16 +65,18 @@ void setOptions(TidyDoc document, int mode)
 QString sizeError(const QString &html)
 {
     if (html.size() > longest) {
-        return text("The HTML text is too long.");
+        return QCoreApplication::translate("TidyLibWrapper", "The HTML text is too long.");
     }
     const HtmlSize size = htmlSize(html);
     if (size.depth > HtmlSize::deepest) {
-        return text("The HTML elements are nested too deeply.");
+        return QCoreApplication::translate("TidyLibWrapper", "The HTML elements are nested too deeply.");
     }
     if (size.attributeEnds > HtmlSize::mostAttributeEnds) {
         return HtmlSize::tooManyAttributes();
     }
-    return size.elements > mostElements ? text("The HTML text has too many elements.") : QString();
+    return size.elements > mostElements
+               ? QCoreApplication::translate("TidyLibWrapper", "The HTML text has too many elements.")
+               : QString();
 }
 
 /// The XML error in what was made; empty when it is well-formed.
@@ -202,7 +199,7 @@ QString TidyLibWrapper::tidyHtml(const QString &html, int mode)
     const std::optional<int> parsed = limit.parse(bytes.constData());
     if (!parsed) {
         (void)document.release();
-        m_errorString = text("The HTML text cannot be read.");
+        m_errorString = QCoreApplication::translate("TidyLibWrapper", "The HTML text cannot be read.");
         return {};
     }
     int result = *parsed;
@@ -214,7 +211,7 @@ QString TidyLibWrapper::tidyHtml(const QString &html, int mode)
     }
     m_errorString = errors.toString().trimmed();
     if ((result < 0 || tidyErrorCount(tidy) > 0) && m_errorString.isEmpty()) {
-        m_errorString = text("The HTML text cannot be read.");
+        m_errorString = QCoreApplication::translate("TidyLibWrapper", "The HTML text cannot be read.");
     }
     // Numeric entities can bring in what the text itself did not hold.
     QString xhtml = xmlText(output.toString());

@@ -3,9 +3,11 @@
 #include "looks/flaws.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QLabel>
@@ -32,7 +34,9 @@ QString nameOf(const QWidget &widget)
 /// Whether it is Qt that made a widget, to be a part of another.
 bool isPartOfAnother(const QWidget &widget)
 {
-    return qobject_cast<const QTabBar *>(widget.parent()) ||
+    const QObject *parent = widget.parent();
+    return qobject_cast<const QTabBar *>(parent) || qobject_cast<const QComboBox *>(parent) ||
+           qobject_cast<const QAbstractSpinBox *>(parent) ||
            (widget.objectName().startsWith(u"qt_"_s) && !qobject_cast<const QTabBar *>(&widget));
 }
 

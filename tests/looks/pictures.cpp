@@ -8,9 +8,13 @@
 #include "editors/bomtemplateimporter.h"
 #include "editors/physicalpropertycreator.h"
 #include "looks/iconsheet.h"
+#include "richtext/editor/textedit.h"
+#include "richtext/editor/textstyleeditor.h"
 #include "support/fakenetlist.h"
 #include "support/testpaths.h"
+#include "templates/bomtemplate.h"
 #include "templates/templatestore.h"
+#include "views/bomtemplateeditor.h"
 
 #include <QTabWidget>
 
@@ -74,6 +78,24 @@ std::shared_ptr<QWidget> templateImporter()
     return {scene, &scene->dialog};
 }
 
+std::shared_ptr<QWidget> templateEditor()
+{
+    struct Scene
+    {
+        TextEdit report;
+        BOMTemplateEditor dialog{&report, nullptr};
+    };
+    const auto scene = std::make_shared<Scene>();
+    return {scene, &scene->dialog};
+}
+
+std::shared_ptr<QWidget> styleEditor()
+{
+    const auto dialog = std::make_shared<TextStyleEditor>();
+    dialog->loadCSS(BOMTemplate().css());
+    return dialog;
+}
+
 std::shared_ptr<QWidget> mainWindow()
 {
     const auto bench = std::make_shared<Workbench>();
@@ -98,5 +120,7 @@ QList<Picture> pictures()
         {QStringLiteral("advanced-settings-other"), [] { return advancedSettings(3); }},
         {QStringLiteral("property-creator"), propertyCreator},
         {QStringLiteral("template-importer"), templateImporter},
+        {QStringLiteral("template-editor"), templateEditor},
+        {QStringLiteral("style-editor"), styleEditor},
     };
 }
