@@ -13,6 +13,9 @@
 #include "host/netlist/netcache.h"
 #include "host/netlist/proplist.h"
 
+#include <QSet>
+
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -167,6 +170,31 @@ void BOMPartsDatabase::notify()
     } else if (!m_isSuspended) {
         Q_EMIT dataChanged();
     }
+}
+
+QStringList BOMPartsDatabase::propertyNames() const
+{
+    QSet<QString> names;
+    if (m_netlist && m_netlist->isValid()) {
+        for (const QByteArray &name : m_netlist->propertyNames) {
+            names.insert(fromHostText(name));
+        }
+    }
+    for (const Part *part : parts()) {
+        if (part->isBOMPart()) {
+            const QStringList own = static_cast<const BOMPart *>(part)->properties().keys();
+            names.unite(QSet<QString>(own.begin(), own.end()));
+        }
+    }
+    QStringList sorted = names.values();
+    sorted.removeIf([](const QString &name) {
+        return name.startsWith(bomPartPropertyStart()) || name == bomLinksProperty();
+    });
+    std::sort(sorted.begin(), sorted.end(), [](const QString &left, const QString &right) {
+        const int order = left.compare(right, Qt::CaseInsensitive);
+        return order != 0 ? order < 0 : left < right;
+    });
+    return sorted;
 }
 
 QString BOMPartsDatabase::property(const QString &reference, const QString &name) const

@@ -93,6 +93,9 @@ public:
     }
     /// All parts in the order of the netlist, BOM-only parts behind.
     [[nodiscard]] std::span<Part *const> parts() const { return m_parts.parts(); }
+    /// The names of the properties that the parts have, sorted, without those that hold BOM-only parts and
+    /// links.
+    [[nodiscard]] QStringList propertyNames() const;
     /// Empty for an unknown reference.
     [[nodiscard]] QString property(const QString &reference, const QString &name) const;
     /// References that came again, once per extra occurrence.
