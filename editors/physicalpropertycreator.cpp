@@ -94,6 +94,11 @@ void PhysicalPropertyCreator::addPropertyName(const QString &name)
     }
 }
 
+QString PhysicalPropertyCreator::propertyName() const
+{
+    return m_ui->nameEdit->text().simplified();
+}
+
 bool PhysicalPropertyCreator::proposeNext()
 {
     if (m_names.isEmpty()) {
@@ -131,7 +136,7 @@ QString PhysicalPropertyCreator::define()
     if (!m_database) {
         return tr("Unknown error");
     }
-    QString name = m_ui->nameEdit->text().simplified();
+    QString name = propertyName();
     int position = 0;
     if (m_ui->nameEdit->validator()->validate(name, position) != QValidator::Acceptable) {
         return tr("You must enter a valid property name");

@@ -29,6 +29,8 @@ public:
 
     /// Proposes a name. Names that are added to a first one come one after the other.
     void addPropertyName(const QString &name);
+    /// What stands in the field: once the dialog was accepted the name that was defined last.
+    [[nodiscard]] QString propertyName() const;
 
 public Q_SLOTS:
     /// Defines what was entered, then goes on to the next name or closes. A failure is shown in a
