@@ -140,7 +140,8 @@ PendingChanges::Builder::Builder(const std::optional<ApplyPreview> &preview, con
 
 ReviewRow PendingChanges::Builder::row(const PendingEdit &edit)
 {
-    ReviewRow row{edit};
+    ReviewRow row;
+    row.edit = edit;
     row.before = shown(edit.before, edit.property, m_database);
     if (m_preview && edit.canBeWritten()) {
         addReasons(m_problems.values(keyOf(edit.reference, edit.property)), &row);
