@@ -44,7 +44,7 @@ REACH = {
     "account": {"account/design", "core", "templates", "standalone"} | HOST,
     "views/report": {"core", "templates", "richtext/css", "richtext/xhtml"} | HOST,
     "views": {"views/report", "core", "templates"} | RICHTEXT | HOST,
-    "editors": {"core", "templates"} | HOST,
+    "editors": {"core", "templates", "richtext/xhtml"} | HOST,
     "module": {"editors", "views", "views/report", "core", "templates"} | RICHTEXT | HOST,
     "cli": {"account", "account/design", "fitting", "views", "views/report", "core", "templates", "standalone", "sheets"}
     | RICHTEXT | HOST | FILES,

@@ -1,0 +1,448 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "editors/bomdataview.h"
+
+#include "core/bompartsdatabase.h"
+#include "editors/cellblocks.h"
+#include "editors/columnmenu.h"
+#include "editors/partmenu.h"
+#include "editors/propertyrecorder.h"
+#include "editors/propertytable.h"
+#include "editors/propvaleditdelegate.h"
+#include "host/framework/hostui.h"
+#include "host/netlist/cdbcore.h"
+#include "host/widgets/applnwidget.h"
+#include "ui_bomdataview.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace {
+
+class WaitCursor final
+{
+public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    WaitCursor(const WaitCursor &) = delete;
+    WaitCursor &operator=(const WaitCursor &) = delete;
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+};
+
+/// So many edits are named in one message.
+constexpr qsizetype mostNamed = 3;
+
+bool isBOMOnly(const Part *part)
+{
+    return part->isBOMPart();
+}
+
+} // namespace
+
+BOMDataView::BOMDataView(QWidget *parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::BOMDataView>())
+    , m_delegate(new PropValEditDelegate(this))
+{
+    m_ui->setupUi(this);
+    m_table = std::make_unique<PropertyTable>(m_ui->partsView);
+    m_ui->partsView->setItemDelegate(m_delegate);
+    const auto check = [this](const PropertyItem &item, const QString &text) {
+        return m_assignments ? recorder().problem(*item.propertyRow(), item.column(), text)
+                             : tr("no design is open");
+    };
+    m_blocks = std::make_unique<CellBlocks>(m_ui->partsView, m_table.get(), check);
+    m_columnMenu = std::make_unique<ColumnMenu>(m_ui->partsView, m_table.get());
+    m_partMenu = std::make_unique<PartMenu>(this);
+    setIcons();
+    connectForm();
+    connectEditing();
+    fillCategories();
+    updateButtons();
+}
+
+BOMDataView::~BOMDataView()
+{
+    m_action.reset();
+    m_table->rememberLayout();
+    // Its deletion is no change of the table any more.
+    m_ui->partsView->disconnect(this);
+}
+
+void BOMDataView::setIcons()
+{
+    const auto setIcon = [](QPushButton *button, const QString &name) {
+        button->setIcon(
+            APPLNWIDGET::makeIcon(QStringLiteral(":/bom/icons/") + name + QStringLiteral(".png")));
+    };
+    setIcon(m_ui->applyPropDefsBtn, QStringLiteral("apply"));
+    setIcon(m_ui->clearPendingChangesBtn, QStringLiteral("clear"));
+    setIcon(m_ui->newBOMPartBtn, QStringLiteral("part_add"));
+    setIcon(m_ui->removeBOMPartBtn, QStringLiteral("part_remove"));
+}
+
+void BOMDataView::connectForm()
+{
+    connect(m_ui->groupingCheckbox, &QCheckBox::clicked, this, &BOMDataView::updateBOMFieldValues);
+    connect(m_ui->showLinksCheckBox, &QCheckBox::clicked, this, &BOMDataView::updateBOMFieldValues);
+    connect(m_ui->categoriesCombo, &QComboBox::currentIndexChanged, this, &BOMDataView::handleBOMDataUpdate);
+    connect(m_ui->applyPropDefsBtn, &QPushButton::clicked, this, &BOMDataView::applyPropertyValues);
+    connect(m_ui->clearPendingChangesBtn, &QPushButton::clicked, this, &BOMDataView::clearPendingChanges);
+    connect(m_ui->partsView, &BOMTableWidget::itemChanged, this, &BOMDataView::addPendingAssignment);
+    connect(m_ui->partsView, &BOMTableWidget::cellLeftClicked, this, &BOMDataView::cellLeftClicked);
+    connect(m_ui->partsView, &BOMTableWidget::cellRightClicked, this, &BOMDataView::cellRightClicked);
+    connect(m_ui->partsView, &BOMTableWidget::cellEntered, this, &BOMDataView::updateCursor);
+    connect(m_ui->partsView, &BOMTableWidget::viewportEntered, m_ui->partsView->viewport(),
+            &QWidget::unsetCursor);
+    connect(m_ui->filterEdit, &QLineEdit::textChanged, this, &BOMDataView::updateFilter);
+    connect(m_ui->rowsCombo, &QComboBox::currentIndexChanged, this, &BOMDataView::updateFilter);
+    connect(m_table.get(), &PropertyTable::shownRowsChanged, this, &BOMDataView::updateCount);
+}
+
+void BOMDataView::connectEditing()
+{
+    const auto begin = [this] {
+        if (m_assignments && !m_action) {
+            m_action = std::make_unique<PropertyAssignments::Action>(m_assignments);
+        }
+    };
+    const auto end = [this] {
+        m_action.reset();
+        fillIfDue();
+    };
+    connect(m_ui->partsView, &BOMTableWidget::fillStarted, this, begin);
+    connect(m_ui->partsView, &BOMTableWidget::fillEnded, this, end);
+    connect(m_blocks.get(), &CellBlocks::started, this, begin);
+    connect(m_blocks.get(), &CellBlocks::ended, this, end);
+    connect(m_blocks.get(), &CellBlocks::statusMessage, this, &BOMDataView::statusMessage);
+    connect(m_delegate, &PropValEditDelegate::editingChanged, this, &BOMDataView::fillIfDue);
+    connect(m_columnMenu.get(), &ColumnMenu::closed, this, &BOMDataView::fillIfDue);
+    connect(m_partMenu.get(), &PartMenu::closed, this, &BOMDataView::fillIfDue);
+    connect(m_partMenu.get(), &PartMenu::statusMessage, this, &BOMDataView::statusMessage);
+    connect(m_ui->partsView, &BOMTableWidget::menuRequested, this, [this](int row, int column) {
+        const QRect cell = m_ui->partsView->visualRect(m_ui->partsView->model()->index(row, column));
+        openMenu(row, column, m_ui->partsView->viewport()->mapToGlobal(cell.bottomLeft()));
+    });
+}
+
+void BOMDataView::setPartsDatabase(BOMPartsDatabase *database)
+{
+    m_database = database;
+    m_delegate->setPartsDatabase(database);
+    m_partMenu->setPartsDatabase(database);
+    m_table->setSource(database, m_assignments);
+}
+
+void BOMDataView::setAssignments(PropertyAssignments *assignments)
+{
+    m_action.reset();
+    if (m_assignments) {
+        m_assignments->disconnect(this);
+    }
+    m_assignments = assignments;
+    m_table->setSource(m_database, assignments);
+    if (assignments) {
+        connect(assignments, &PropertyAssignments::edited, this, &BOMDataView::refreshEdited);
+        connect(assignments, &PropertyAssignments::changed, this, &BOMDataView::updateAssignments);
+        connect(assignments, &QObject::destroyed, this, [this] {
+            m_action.release();
+            m_table->setSource(m_database, nullptr);
+        });
+    }
+    updateButtons();
+}
+
+bool BOMDataView::hasPendingAssignments() const
+{
+    return m_assignments && !m_assignments->isEmpty();
+}
+
+bool BOMDataView::isBusy() const
+{
+    return m_delegate->isEditing() || m_ui->partsView->isDragging() || m_isAsking || m_partMenu->isOpen() ||
+           m_columnMenu->isOpen();
+}
+
+void BOMDataView::handleBOMDataUpdate()
+{
+    m_isFillDue = isBusy();
+    if (m_isFillDue || m_isFilling) {
+        return;
+    }
+    const QScopedValueRollback filling(m_isFilling, true);
+    fillCategories();
+    const int category = m_ui->categoriesCombo->currentIndex();
+    m_table->fill({{category > 0 ? m_ui->categoriesCombo->currentText() : QString(),
+                    m_ui->groupingCheckbox->isChecked()},
+                   m_ui->showLinksCheckBox->isChecked()});
+    updateButtons();
+}
+
+void BOMDataView::updateBOMFieldValues()
+{
+    handleBOMDataUpdate();
+}
+
+void BOMDataView::fillIfDue()
+{
+    if (m_isFillDue && !isBusy()) {
+        handleBOMDataUpdate();
+    }
+}
+
+/// "All", then the headings of the template; what was chosen stays chosen where it is still there.
+void BOMDataView::fillCategories()
+{
+    QStringList headings{tr("All")};
+    if (m_database) {
+        for (const BOMCategory &category : m_database->currentTemplate().categories()) {
+            headings.append(category.heading);
+        }
+    }
+    headings.removeDuplicates();
+    QComboBox &combo = *m_ui->categoriesCombo;
+    QStringList present;
+    for (int i = 0; i < combo.count(); ++i) {
+        present.append(combo.itemText(i));
+    }
+    if (present == headings) {
+        return;
+    }
+    const QString chosen = combo.currentText();
+    const QSignalBlocker blocker(&combo);
+    combo.clear();
+    combo.addItems(headings);
+    combo.setCurrentIndex(std::max(0, int(headings.indexOf(chosen))));
+}
+
+void BOMDataView::updateButtons()
+{
+    m_ui->applyPropDefsBtn->setEnabled(hasPendingAssignments());
+    m_ui->clearPendingChangesBtn->setEnabled(hasPendingAssignments());
+    m_ui->newBOMPartBtn->setEnabled(m_database && m_assignments && getcdb());
+    const auto parts = m_database ? m_database->parts() : std::span<Part *const>();
+    // They stand behind all others.
+    m_ui->removeBOMPartBtn->setEnabled(!parts.empty() && isBOMOnly(parts.back()) && m_assignments &&
+                                       getcdb());
+}
+
+void BOMDataView::updateFilter()
+{
+    const auto rows = RowFilter::Rows(m_ui->rowsCombo->currentIndex());
+    m_table->setFilter(RowFilter(m_ui->filterEdit->text(), rows));
+}
+
+void BOMDataView::updateCount()
+{
+    m_ui->countLabel->setText(
+        tr("%1 of %2").arg(QString::number(m_table->shownRows()), QString::number(m_table->allRows())));
+}
+
+PropertyRecorder BOMDataView::recorder() const
+{
+    return {m_database, m_assignments};
+}
+
+void BOMDataView::addPendingAssignment(QTableWidgetItem *editedItem)
+{
+    if (m_isFilling || m_isApplying || m_isRecording) {
+        return;
+    }
+    auto *item = dynamic_cast<PropertyItem *>(editedItem);
+    const std::optional<QString> text = item ? item->typed() : std::nullopt;
+    if (!text) {
+        return;
+    }
+    const QScopedValueRollback recording(m_isRecording, true);
+    item->dropTyped();
+    if (!m_database || !m_assignments || (!item->cell().isDifferent && *text == item->cell().text)) {
+        return;
+    }
+    const QString refusal = recorder().record(*item->propertyRow(), item->column(), *text);
+    if (!refusal.isEmpty()) {
+        Q_EMIT statusMessage(tr("%1, %2: %3; the text stays as it was.")
+                                 .arg(item->propertyRow()->referenceText, item->column().heading, refusal));
+        return;
+    }
+    m_table->refresh(item->propertyRow());
+    updateButtons();
+    Q_EMIT pendingPropertyAssignments(hasPendingAssignments());
+}
+
+void BOMDataView::refreshEdited(const QList<PendingEdit> &before, const QList<PendingEdit> &after)
+{
+    m_isEditedShown = true;
+    for (const QList<PendingEdit> &edits : {before, after}) {
+        for (const PendingEdit &edit : edits) {
+            if (PropertyRow *row = m_table->rows().rowOf(edit.reference)) {
+                m_table->refresh(row);
+            }
+        }
+    }
+}
+
+void BOMDataView::updateAssignments()
+{
+    if (!std::exchange(m_isEditedShown, false)) {
+        m_table->refreshPending();
+    }
+    updateButtons();
+    Q_EMIT pendingPropertyAssignments(hasPendingAssignments());
+}
+
+void BOMDataView::applyPropertyValues()
+{
+    if (!m_database || !m_assignments || !m_delegate->commitEditing()) {
+        return;
+    }
+    ApplyResult result;
+    {
+        const QScopedValueRollback applying(m_isApplying, true);
+        const WaitCursor cursor;
+        result = m_assignments->apply(ApplyOptions());
+    }
+    m_table->refreshPending();
+    updateButtons();
+    reportKept(result);
+    if (!result.text.isEmpty()) {
+        const QScopedValueRollback asking(m_isAsking, true);
+        HostUi::current().information(this, tr("ADI scripting results"), result.text);
+    }
+    fillIfDue();
+    Q_EMIT pendingPropertyAssignments(hasPendingAssignments());
+}
+
+void BOMDataView::reportKept(const ApplyResult &result)
+{
+    QStringList names;
+    for (const PendingEdit &edit : result.kept.first(std::min(mostNamed, result.kept.size()))) {
+        names.append(edit.reference + u' ' + edit.property);
+    }
+    if (names.isEmpty()) {
+        return;
+    }
+    if (result.kept.size() > mostNamed) {
+        names.append(QStringLiteral("..."));
+    }
+    Q_EMIT statusMessage(tr("Still pending, because the design changed meanwhile (%1): %2")
+                             .arg(QString::number(result.kept.size()), names.join(QStringLiteral(", "))));
+}
+
+void BOMDataView::clearPendingChanges()
+{
+    if (!m_assignments) {
+        return;
+    }
+    bool isMeant = false;
+    {
+        const QScopedValueRollback asking(m_isAsking, true);
+        isMeant = HostUi::current().question(this, tr("Clear Pending Changes"),
+                                             tr("Clear pending property assignments, are you sure?"), false);
+    }
+    if (isMeant && m_assignments) {
+        m_assignments->clear();
+        m_table->refreshPending();
+        Q_EMIT pendingPropertyAssignments(hasPendingAssignments());
+    }
+    fillIfDue();
+    updateButtons();
+}
+
+void BOMDataView::cellLeftClicked(int row, int column)
+{
+    const PropertyRow *clicked = m_table->rowAt(row);
+    // With a key, and when several cells were selected, nobody means to leave the table.
+    const bool isPlain = QGuiApplication::keyboardModifiers() == Qt::NoModifier &&
+                         m_ui->partsView->selectedRanges().size() <= 1 &&
+                         m_ui->partsView->selectedItems().size() <= 1;
+    if (!clicked || !isPlain) {
+        return;
+    }
+    if (column == m_table->linksColumn() && clicked->links > 0) {
+        m_partMenu->askForLink(*clicked);
+    } else if (column == PropertyTable::ReferenceColumn && clicked->references.size() > 1) {
+        m_partMenu->askForPart(*clicked);
+    } else if (column == PropertyTable::ReferenceColumn) {
+        m_partMenu->navigateTo(clicked->firstReference());
+    }
+}
+
+void BOMDataView::cellRightClicked(int row, int column)
+{
+    openMenu(row, column, QCursor::pos());
+}
+
+void BOMDataView::updateCursor(int row, int col)
+{
+    const PropertyRow *entered = m_table->rowAt(row);
+    const bool leadsAway = entered && (col == PropertyTable::ReferenceColumn ||
+                                       (col == m_table->linksColumn() && entered->links > 0));
+    m_ui->partsView->viewport()->setCursor(leadsAway ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void BOMDataView::openMenu(int row, int column, const QPoint &position)
+{
+    const PropertyRow *clicked = m_table->rowAt(row);
+    if (!clicked) {
+        return;
+    }
+    auto *menu = new QMenu(this);
+    menu->addActions(
+        {m_blocks->cutAction(), m_blocks->copyAction(), m_blocks->pasteAction(), m_blocks->clearAction()});
+    QAction *setBack = menu->addAction(tr("Set &Back"));
+    const PropertyItem *item = m_table->fieldAt(row, column);
+    setBack->setEnabled(item && item->cell().isPending);
+    connect(setBack, &QAction::triggered, this, &BOMDataView::retractSelected);
+    menu->addSeparator();
+    const QString references = clicked->referenceText;
+    connect(menu->addAction(tr("&Navigate")), &QAction::triggered, this,
+            [this, number = clicked->firstReference()] {
+                if (const PropertyRow *still = m_table->rows().rowOf(number)) {
+                    still->references.size() > 1 ? m_partMenu->askForPart(*still)
+                                                 : m_partMenu->navigateTo(number);
+                }
+            });
+    connect(menu->addAction(tr("Copy &Reference")), &QAction::triggered, this,
+            [references] { QGuiApplication::clipboard()->setText(references); });
+    m_partMenu->open(menu, position);
+}
+
+void BOMDataView::retractSelected()
+{
+    if (!m_assignments) {
+        return;
+    }
+    const PropertyAssignments::Action action(m_assignments);
+    for (const QModelIndex &cell : m_ui->partsView->seenSelection()) {
+        const PropertyItem *item = m_table->fieldAt(cell.row(), cell.column());
+        const QStringList references = item ? item->propertyRow()->references : QStringList();
+        for (const QString &reference : references) {
+            m_assignments->retract(reference, item->column().key);
+        }
+    }
+}
+
+void BOMDataView::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (m_table && (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange ||
+                    event->type() == QEvent::StyleChange)) {
+        m_table->updateLook();
+    }
+}
+
+void BOMDataView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isFiltered = !m_ui->filterEdit->text().isEmpty() || m_ui->rowsCombo->currentIndex() > 0;
+    if (event->key() == Qt::Key_Escape && isFiltered) {
+        m_ui->filterEdit->clear();
+        m_ui->rowsCombo->setCurrentIndex(0);
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}

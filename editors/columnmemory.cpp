@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "editors/columnmemory.h"
+
+#include "host/framework/hostsettings.h"
+
+#include <QAbstractItemModel>
+#include <QCryptographicHash>
+#include <QHeaderView>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace {
+
+/// Of a column that was dragged to nothing, and of one that fills the screen alone.
+constexpr int leastWidth = 8;
+constexpr int mostWidth = 4000;
+
+QString settingsGroup()
+{
+    return QStringLiteral("BOM");
+}
+
+QString requiredKey()
+{
+    return QStringLiteral("PropertyEditorRequired");
+}
+
+/// Headings are of any length; their hash is a key of the same length for all.
+QString layoutKey(const QStringList &headings)
+{
+    const QByteArray all = headings.join(QChar(u'\n')).toUtf8();
+    const QByteArray hash = QCryptographicHash::hash(all, QCryptographicHash::Sha1).toHex().left(16);
+    return QStringLiteral("PropertyEditorColumns_") + QString::fromLatin1(hash);
+}
+
+QJsonObject stored(const QString &key)
+{
+    const QString text = HostSettings::current().value(settingsGroup(), key).value_or(QString());
+    return QJsonDocument::fromJson(text.toUtf8()).object();
+}
+
+void store(const QString &key, const QJsonObject &object)
+{
+    const QByteArray text = QJsonDocument(object).toJson(QJsonDocument::Compact);
+    HostSettings::current().setValue(settingsGroup(), key, QString::fromUtf8(text));
+}
+
+QStringList texts(const QJsonValue &value)
+{
+    return value.toVariant().toStringList();
+}
+
+QString heading(const QHeaderView &header, int column)
+{
+    return header.model()->headerData(column, header.orientation()).toString();
+}
+
+} // namespace
+
+ColumnLayout columnLayout(const QHeaderView &header)
+{
+    ColumnLayout layout;
+    for (int place = 0; place < header.count(); ++place) {
+        const int column = header.logicalIndex(place);
+        const QString name = heading(header, column);
+        layout.order.append(name);
+        if (header.isSectionHidden(column)) {
+            layout.hidden.append(name);
+        } else {
+            layout.widths.insert(name, header.sectionSize(column));
+        }
+    }
+    return layout;
+}
+
+void setColumnLayout(QHeaderView *header, const ColumnLayout &layout)
+{
+    QHash<QString, int> columns;
+    for (int column = 0; column < header->count(); ++column) {
+        const QString name = heading(*header, column);
+        columns.insert(name, column);
+        header->setSectionHidden(column, column > 0 && layout.hidden.contains(name));
+        if (const int width = layout.widths.value(name); width >= leastWidth && width <= mostWidth) {
+            header->resizeSection(column, width);
+        }
+    }
+    int place = 0;
+    for (const QString &name : layout.order) {
+        if (const auto found = columns.constFind(name); found != columns.cend()) {
+            header->moveSection(header->visualIndex(*found), place++);
+        }
+    }
+}
+
+ColumnLayout ColumnMemory::layout(const QStringList &headings)
+{
+    const QJsonObject object = stored(layoutKey(headings));
+    ColumnLayout layout{
+        texts(object.value(QStringLiteral("order"))), texts(object.value(QStringLiteral("hidden"))), {}};
+    const QJsonObject widths = object.value(QStringLiteral("widths")).toObject();
+    for (auto it = widths.constBegin(); it != widths.constEnd(); ++it) {
+        layout.widths.insert(it.key(), it.value().toInt());
+    }
+    return layout;
+}
+
+void ColumnMemory::setLayout(const QStringList &headings, const ColumnLayout &layout)
+{
+    QJsonObject widths;
+    for (auto it = layout.widths.cbegin(); it != layout.widths.cend(); ++it) {
+        widths.insert(it.key(), *it);
+    }
+    store(layoutKey(headings), {{QStringLiteral("order"), QJsonArray::fromStringList(layout.order)},
+                                {QStringLiteral("hidden"), QJsonArray::fromStringList(layout.hidden)},
+                                {QStringLiteral("widths"), widths}});
+}
+
+bool ColumnMemory::isRequired(const QString &key)
+{
+    const bool isAtFirst = key == QStringLiteral("VALUE") || key == QStringLiteral("PACKAGE") ||
+                           key == QStringLiteral("FOOTPRINT");
+    return stored(requiredKey()).value(key).toBool(isAtFirst);
+}
+
+void ColumnMemory::setRequired(const QString &key, bool isRequired)
+{
+    QJsonObject object = stored(requiredKey());
+    object.insert(key, isRequired);
+    store(requiredKey(), object);
+}

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+class QHeaderView;
+
+/// How the columns of the property editor stand, by their headings.
+struct ColumnLayout
+{
+    QStringList order;
+    QStringList hidden;
+    QHash<QString, int> widths;
+
+    bool operator==(const ColumnLayout &) const = default;
+};
+
+[[nodiscard]] ColumnLayout columnLayout(const QHeaderView &header);
+/// Columns that the layout does not name keep their width, and stand behind the others.
+void setColumnLayout(QHeaderView *header, const ColumnLayout &layout);
+
+/// Remembers layouts in the user's settings, one for each list of headings, and which properties are
+/// required.
+class ColumnMemory final
+{
+public:
+    [[nodiscard]] static ColumnLayout layout(const QStringList &headings);
+    static void setLayout(const QStringList &headings, const ColumnLayout &layout);
+
+    /// Whether a property is required, by its upper-case name: at first the value and the footprint are.
+    [[nodiscard]] static bool isRequired(const QString &key);
+    static void setRequired(const QString &key, bool isRequired);
+};

@@ -1,0 +1,274 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "editors/propertytable.h"
+
+#include "core/bompartsdatabase.h"
+#include "core/propertyassignments.h"
+#include "editors/bomtablewidget.h"
+#include "editors/columnmemory.h"
+#include "editors/propvaleditdelegate.h"
+#include "editors/tableplace.h"
+#include "host/widgets/applnwidget.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QSet>
+#include <QSignalBlocker>
+
+namespace {
+
+/// Rows that are looked at for the first width of a column, and the widest that it gets.
+constexpr int measuredRows = 50;
+constexpr int widestAtFirst = 260;
+
+QString viewText(const char *text)
+{
+    return QCoreApplication::translate("BOMDataView", text);
+}
+
+} // namespace
+
+PropertyTable::PropertyTable(BOMTableWidget *table)
+    : m_table(table)
+{
+    updateLook();
+    QHeaderView &header = *table->horizontalHeader();
+    header.setSectionsMovable(true);
+    header.setFirstSectionMovable(false);
+    header.setResizeContentsPrecision(measuredRows);
+    header.setHighlightSections(false);
+    header.setSortIndicator(ReferenceColumn, Qt::AscendingOrder);
+    // Connected before the table's own sorting is: texts are frozen first.
+    connect(&header, &QHeaderView::sortIndicatorChanged, this, &PropertyTable::freezeSorting);
+    connect(table->model(), &QAbstractItemModel::layoutChanged, this, &PropertyTable::applyFilter);
+    QHeaderView &rows = *table->verticalHeader();
+    rows.hide();
+    rows.setSectionResizeMode(QHeaderView::Fixed);
+    table->setSortingEnabled(true);
+}
+
+void PropertyTable::setSource(const BOMPartsDatabase *database, const PropertyAssignments *assignments)
+{
+    m_context.database = database;
+    m_context.assignments = assignments;
+}
+
+void PropertyTable::updateLook()
+{
+    const QIcon conflict = m_context.look.conflict;
+    m_context.look = CellLook(m_table->palette(), m_table->font());
+    m_context.look.conflict =
+        conflict.isNull() ? APPLNWIDGET::makeIcon(QStringLiteral(":/bom/icons/conflict.png")) : conflict;
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() * 3 / 2);
+    m_table->viewport()->update();
+}
+
+void PropertyTable::fill(const Content &content)
+{
+    const QScopedValueRollback filling(m_isFilling, true);
+    PropertyRows rows = m_context.database
+                            ? PropertyRows::read(*m_context.database, m_context.assignments, content.parts)
+                            : PropertyRows();
+    if (m_hasLinks == content.hasLinks && m_table->columnCount() > 0 &&
+        m_context.rows.takeTexts(std::move(rows))) {
+        takeRequired();
+        if (m_table->isSortingEnabled()) {
+            const QHeaderView &header = *m_table->horizontalHeader();
+            m_table->sortItems(header.sortIndicatorSection(), header.sortIndicatorOrder());
+        }
+    } else {
+        const TablePlace place(*m_table);
+        rememberLayout();
+        // It is off while a search wants the rows to stay where they are.
+        const bool isSorted = m_table->isSortingEnabled();
+        m_table->setSortingEnabled(false);
+        m_table->setRowCount(0);
+        m_context.rows = std::move(rows);
+        m_hasLinks = content.hasLinks;
+        makeColumns();
+        makeRows();
+        m_table->setSortingEnabled(isSorted);
+        place.restore(m_table, [this](const QString &reference) {
+            const PropertyRow *row = m_context.rows.rowOf(reference);
+            return row ? m_references[size_t(row->number)]->row() : -1;
+        });
+    }
+    m_isFilling = false;
+    applyFilter();
+    m_table->viewport()->update();
+}
+
+void PropertyTable::makeColumns()
+{
+    takeRequired();
+    m_table->clear();
+    m_table->setColumnCount(fieldEnd() + (m_hasLinks ? 1 : 0));
+    const auto setHeader = [this](int column, const QString &heading, const QString &property,
+                                  bool isEditable) {
+        auto *item = new QTableWidgetItem(heading);
+        item->setData(PropValEditDelegate::PropertyRole, property);
+        item->setData(PropValEditDelegate::IsEditableRole, isEditable);
+        m_table->setHorizontalHeaderItem(column, item);
+    };
+    setHeader(ReferenceColumn, viewText("References"), {}, false);
+    setHeader(CategoryColumn, viewText("Category"), {}, false);
+    int column = FirstField;
+    for (const PropertyColumn &field : m_context.rows.columns()) {
+        setHeader(column++, field.heading, field.property, field.isEditable);
+    }
+    if (m_hasLinks) {
+        setHeader(column, QStringLiteral("_(Links)"), {}, false);
+    }
+}
+
+void PropertyTable::makeRows()
+{
+    auto &rows = m_context.rows.rows();
+    m_references.clear();
+    m_references.reserve(rows.size());
+    m_table->setRowCount(int(rows.size()));
+    {
+        // One signal for each item would take longer than all else.
+        const QSignalBlocker blocker(m_table->model());
+        for (PropertyRow &row : rows) {
+            m_references.push_back(new ReferenceItem(&m_context, &row));
+            m_table->setItem(row.number, ReferenceColumn, m_references.back());
+            m_table->setItem(row.number, CategoryColumn,
+                             new RowTextItem(&m_context, &row, RowTextItem::Content::Category));
+            for (int field = 0; field < int(row.cells.size()); ++field) {
+                m_table->setItem(row.number, FirstField + field, new PropertyItem(&m_context, &row, field));
+            }
+            if (m_hasLinks) {
+                m_table->setItem(row.number, fieldEnd(),
+                                 new RowTextItem(&m_context, &row, RowTextItem::Content::Links));
+            }
+        }
+    }
+    restoreLayout();
+}
+
+void PropertyTable::restoreLayout()
+{
+    QHeaderView &header = *m_table->horizontalHeader();
+    const ColumnLayout layout = ColumnMemory::layout(headings());
+    for (int column = 0; column < header.count(); ++column) {
+        header.setSectionHidden(column, false);
+        header.moveSection(header.visualIndex(column), column);
+        if (!layout.widths.contains(m_table->horizontalHeaderItem(column)->text())) {
+            m_table->resizeColumnToContents(column);
+            header.resizeSection(column, std::min(header.sectionSize(column), widestAtFirst));
+        }
+    }
+    setColumnLayout(&header, layout);
+    for (int column = 0; column < header.count(); ++column) {
+        if (!header.isSectionHidden(column) && header.sectionSize(column) < 1) {
+            header.resizeSection(column, header.sectionSizeHint(column));
+        }
+    }
+}
+
+QStringList PropertyTable::headings() const
+{
+    QStringList headings;
+    for (const PropertyColumn &column : m_context.rows.columns()) {
+        headings.append(column.heading);
+    }
+    return headings;
+}
+
+void PropertyTable::rememberLayout() const
+{
+    if (m_table->columnCount() > 0) {
+        ColumnMemory::setLayout(headings(), columnLayout(*m_table->horizontalHeader()));
+    }
+}
+
+void PropertyTable::takeRequired()
+{
+    for (PropertyColumn &column : m_context.rows.columns()) {
+        column.isRequired = column.isEditable && ColumnMemory::isRequired(column.key);
+    }
+}
+
+void PropertyTable::setRequired(int column, bool isRequired)
+{
+    const int field = column - FirstField;
+    if (field >= 0 && field < int(m_context.rows.columns().size())) {
+        ColumnMemory::setRequired(m_context.rows.columns()[size_t(field)].key, isRequired);
+        takeRequired();
+        applyFilter();
+        m_table->viewport()->update();
+    }
+}
+
+void PropertyTable::refresh(PropertyRow *row)
+{
+    if (!m_context.database) {
+        return;
+    }
+    const int tableRow = m_references[size_t(row->number)]->row();
+    for (const int field : m_context.rows.refresh(row, *m_context.database, m_context.assignments)) {
+        m_table->update(m_table->model()->index(tableRow, FirstField + field));
+    }
+}
+
+void PropertyTable::refreshPending()
+{
+    QSet<PropertyRow *> due;
+    const RowFilter pending({}, RowFilter::Rows::Pending);
+    for (PropertyRow &row : m_context.rows.rows()) {
+        if (pending.accepts(m_context.rows, row)) {
+            due.insert(&row);
+        }
+    }
+    for (const PendingEdit &edit :
+         m_context.assignments ? m_context.assignments->edits() : QList<PendingEdit>()) {
+        if (PropertyRow *row = m_context.rows.rowOf(edit.reference)) {
+            due.insert(row);
+        }
+    }
+    for (PropertyRow *row : due) {
+        refresh(row);
+    }
+}
+
+PropertyRow *PropertyTable::rowAt(int row) const
+{
+    const auto *item = dynamic_cast<const ReferenceItem *>(m_table->item(row, ReferenceColumn));
+    return item ? item->propertyRow() : nullptr;
+}
+
+PropertyItem *PropertyTable::fieldAt(int row, int column) const
+{
+    return dynamic_cast<PropertyItem *>(m_table->item(row, column));
+}
+
+void PropertyTable::freezeSorting()
+{
+    m_context.rows.takeSortTexts();
+}
+
+void PropertyTable::setFilter(const RowFilter &filter)
+{
+    m_filter = filter;
+    applyFilter();
+}
+
+void PropertyTable::applyFilter()
+{
+    if (m_isFilling) {
+        return;
+    }
+    QHeaderView &header = *m_table->verticalHeader();
+    // A header that may paint works out the places of all rows for each one that changes.
+    header.setUpdatesEnabled(false);
+    m_shownRows = 0;
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        const bool isShown = m_filter.isOpen() || m_filter.accepts(m_context.rows, *rowAt(row));
+        header.setSectionHidden(row, !isShown);
+        m_shownRows += isShown ? 1 : 0;
+    }
+    header.setUpdatesEnabled(true);
+    Q_EMIT shownRowsChanged();
+}
