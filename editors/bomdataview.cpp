@@ -8,6 +8,7 @@
 #include "editors/partmenu.h"
 #include "editors/propertyrecorder.h"
 #include "editors/propertytable.h"
+#include "editors/propsfindandreplace.h"
 #include "editors/propvaleditdelegate.h"
 #include "host/framework/hostui.h"
 #include "host/netlist/cdbcore.h"
@@ -128,6 +129,29 @@ void BOMDataView::connectEditing()
         const QRect cell = m_ui->partsView->visualRect(m_ui->partsView->model()->index(row, column));
         openMenu(row, column, m_ui->partsView->viewport()->mapToGlobal(cell.bottomLeft()));
     });
+}
+
+PropsFindAndReplace *BOMDataView::findAndReplace()
+{
+    if (!m_findAndReplace) {
+        m_findAndReplace = new PropsFindAndReplace(m_ui->partsView, this);
+        m_findAndReplace->setActionRunner([this](const std::function<void()> &replacement) {
+            const auto action = m_assignments ? std::make_unique<PropertyAssignments::Action>(m_assignments)
+                                              : nullptr;
+            replacement();
+        });
+    }
+    return m_findAndReplace;
+}
+
+void BOMDataView::showFindDialogue()
+{
+    findAndReplace()->showFind();
+}
+
+void BOMDataView::showReplaceDialogue()
+{
+    findAndReplace()->showReplace();
 }
 
 void BOMDataView::setPartsDatabase(BOMPartsDatabase *database)

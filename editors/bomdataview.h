@@ -14,6 +14,7 @@ class CellBlocks;
 class ColumnMenu;
 class PartMenu;
 class PropValEditDelegate;
+class PropsFindAndReplace;
 class PropertyRecorder;
 class PropertyTable;
 class QTableWidgetItem;
@@ -53,6 +54,9 @@ public Q_SLOTS:
     void updateBOMFieldValues();
     /// Records the text of a cell as an edit of its parts. A text that is refused goes.
     void addPendingAssignment(QTableWidgetItem *editedItem);
+    /// Show the dialog that looks for values in the table.
+    void showFindDialogue();
+    void showReplaceDialogue();
     /// Writes what is pending.
     void applyPropertyValues();
     /// Forgets what is pending, if the user says so.
@@ -68,6 +72,7 @@ protected:
 
 private:
     void setIcons();
+    [[nodiscard]] PropsFindAndReplace *findAndReplace();
     void connectForm();
     void connectEditing();
     void fillCategories();
@@ -91,6 +96,8 @@ private:
     std::unique_ptr<CellBlocks> m_blocks;
     std::unique_ptr<ColumnMenu> m_columnMenu;
     std::unique_ptr<PartMenu> m_partMenu;
+    /// Made when it is asked for.
+    PropsFindAndReplace *m_findAndReplace = nullptr;
     /// While one drag, paste or other command changes several cells.
     std::unique_ptr<PropertyAssignments::Action> m_action;
     bool m_isFilling = false;
