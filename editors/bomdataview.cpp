@@ -136,8 +136,8 @@ PropsFindAndReplace *BOMDataView::findAndReplace()
     if (!m_findAndReplace) {
         m_findAndReplace = new PropsFindAndReplace(m_ui->partsView, this);
         m_findAndReplace->setActionRunner([this](const std::function<void()> &replacement) {
-            const auto action = m_assignments ? std::make_unique<PropertyAssignments::Action>(m_assignments)
-                                              : nullptr;
+            const auto action =
+                m_assignments ? std::make_unique<PropertyAssignments::Action>(m_assignments) : nullptr;
             replacement();
         });
     }

@@ -3,8 +3,15 @@
 #include "module/bommainwindow.h"
 
 #include "core/bompartsdatabase.h"
+#include "core/propertyassignments.h"
+#include "editors/bomdataview.h"
+#include "editors/earlieredits.h"
+#include "editors/pendingreview.h"
+#include "editors/pendingundo.h"
 #include "host/framework/applnframe.h"
 #include "host/framework/hostui.h"
+#include "module/dockwidget.h"
+#include "module/optionspanel.h"
 #include "templates/templatestore.h"
 #include "views/bomasciiview.h"
 #include "views/bomcsvview.h"
@@ -13,10 +20,15 @@
 
 #include <QAction>
 #include <QGuiApplication>
+#include <QMainWindow>
 #include <QMenu>
+#include <QScopedValueRollback>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace {
 
@@ -45,9 +57,10 @@ QString hostPicture(const QString &name)
 
 } // namespace
 
-BOMMainWindow::BOMMainWindow(BOMPartsDatabase *database, QWidget *parent)
+BOMMainWindow::BOMMainWindow(BOMPartsDatabase *database, const EditStores &stores, QWidget *parent)
     : APPLNWIDGET(parent)
     , m_database(database)
+    , m_stores(stores)
 {
     setObjectName(QStringLiteral("BOMMainWindowClass"));
     setWindowTitle(tr("Bill of Materials Viewer"));
@@ -64,14 +77,11 @@ bool BOMMainWindow::createwindow(APPLNFRAME *frame)
     if (!APPLNWIDGET::createwindow(frame)) {
         return false;
     }
-    buildTabs();
+    buildPages();
     buildActions();
     buildMenus();
     buildToolBar();
-    connect(m_database, &BOMPartsDatabase::dataChanged, m_report, &BOMHTMLView::handleBOMDataUpdate);
-    connect(m_database, &BOMPartsDatabase::currentTemplateModified, this,
-            &BOMMainWindow::setCurrentTemplateChanged);
-    connect(m_report, &BOMHTMLView::currentTemplateModified, this, &BOMMainWindow::setCurrentTemplateChanged);
+    connectViews();
     frame->settitle(windowTitle());
     return true;
 }
@@ -80,12 +90,36 @@ void BOMMainWindow::updatewindow()
 {
     if (m_isFilled) {
         m_report->handleBOMDataUpdate();
+        m_dataView->handleBOMDataUpdate();
     }
+}
+
+void BOMMainWindow::connectViews()
+{
+    connect(m_database, &BOMPartsDatabase::dataChanged, m_report, &BOMHTMLView::handleBOMDataUpdate);
+    connect(m_database, &BOMPartsDatabase::dataChanged, m_dataView, &BOMDataView::handleBOMDataUpdate);
+    connect(m_database, &BOMPartsDatabase::currentTemplateModified, this,
+            &BOMMainWindow::setCurrentTemplateChanged);
+    connect(m_report, &BOMHTMLView::currentTemplateModified, this, &BOMMainWindow::setCurrentTemplateChanged);
+    connect(m_dataView, &BOMDataView::pendingPropertyAssignments, this, &BOMMainWindow::setPropertiesChanged);
+    connect(m_dataView, &BOMDataView::statusMessage, this,
+            [this](const QString &text) { getframe()->setstatustext(text); });
+    connect(m_options, &OptionsPanel::propertyEditorRequested, this,
+            &BOMMainWindow::showGlobalPropertyEditor);
+    connect(m_stores.assignments, &PropertyAssignments::changed, this,
+            [this] { setPropertiesChanged(!m_stores.assignments->isEmpty()); });
+    connect(m_stores.assignments, &PropertyAssignments::historyEnded, this, [this] {
+        m_isEarlierOffered = false;
+        QTimer::singleShot(0, this, &BOMMainWindow::offerEarlier);
+    });
 }
 
 void BOMMainWindow::setTemplates(TemplateStore *templates)
 {
     m_templates = templates;
+    if (templates) {
+        connect(templates, &TemplateStore::currentChanged, m_options, &OptionsPanel::showTemplate);
+    }
 }
 
 void BOMMainWindow::setCurrentTemplateChanged(bool hasChanges)
@@ -95,22 +129,47 @@ void BOMMainWindow::setCurrentTemplateChanged(bool hasChanges)
     }
 }
 
+void BOMMainWindow::setPropertiesChanged(bool arePending)
+{
+    m_review->setEnabled(arePending);
+}
+
 bool BOMMainWindow::canbeclosed()
 {
-    if (!m_templates || !m_templates->isModified()) {
+    const bool isTemplateModified = m_templates && m_templates->isModified();
+    const bool arePending = m_stores.assignments && !m_stores.assignments->isEmpty();
+    if (!m_templates || (!isTemplateModified && !arePending)) {
         return true;
     }
     switch (m_templates->askToSave(true)) {
     case HostUi::SaveAnswer::Save:
-        return m_templates->saveCurrent();
+        return saveChanges();
     case HostUi::SaveAnswer::Discard:
         // The window may stay, and one that is made anew shows what is being worked on.
-        m_templates->discardChanges();
+        if (isTemplateModified) {
+            m_templates->discardChanges();
+        }
         return true;
     case HostUi::SaveAnswer::Cancel:
         break;
     }
     return false;
+}
+
+bool BOMMainWindow::saveChanges()
+{
+    if (m_templates->isModified() && !m_templates->saveCurrent()) {
+        return false;
+    }
+    if (m_dataView->hasPendingAssignments()) {
+        m_dataView->applyPropertyValues();
+    }
+    return !m_stores.assignments || m_stores.assignments->isEmpty();
+}
+
+bool BOMMainWindow::isBusy() const
+{
+    return m_isReviewing || (m_dataView && m_dataView->isBusy());
 }
 
 void BOMMainWindow::fillViews()
@@ -122,6 +181,18 @@ void BOMMainWindow::fillViews()
     const WaitCursor cursor;
     m_report->setPartsDatabase(m_database);
     m_report->handleBOMDataUpdate();
+    m_dataView->setAssignments(m_stores.assignments);
+    m_dataView->setPartsDatabase(m_database);
+    m_dataView->handleBOMDataUpdate();
+    m_options->setPartsDatabase(m_database);
+    QTimer::singleShot(0, this, &BOMMainWindow::offerEarlier);
+}
+
+void BOMMainWindow::offerEarlier()
+{
+    if (m_database && m_isFilled && !std::exchange(m_isEarlierOffered, true)) {
+        (void)offerEarlierEdits(m_stores.assignments, m_database, this);
+    }
 }
 
 void BOMMainWindow::forgetDatabase()
@@ -129,28 +200,51 @@ void BOMMainWindow::forgetDatabase()
     m_database = nullptr;
     if (m_report) {
         m_report->setPartsDatabase(nullptr);
+        m_dataView->setPartsDatabase(nullptr);
+        m_dataView->setAssignments(nullptr);
+        m_options->setPartsDatabase(nullptr);
     }
     if (m_excelView) {
         m_excelView->setPartsDatabase(nullptr);
     }
 }
 
+void BOMMainWindow::buildPages()
+{
+    buildTabs();
+    // Dock widgets live in main windows only.
+    auto *pages = new QMainWindow;
+    pages->setWindowFlags(Qt::Widget);
+    pages->setCentralWidget(m_tabs);
+    m_options = new OptionsPanel;
+    auto *dock = new DockWidget;
+    dock->setObjectName(QStringLiteral("dockWidget"));
+    dock->setContents(m_options);
+    pages->addDockWidget(Qt::LeftDockWidgetArea, dock);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(pages);
+}
+
 void BOMMainWindow::buildTabs()
 {
     m_report = new BOMHTMLView;
     m_report->setObjectName(QStringLiteral("bomHTMLView"));
-    auto *page = new QWidget;
-    page->setObjectName(QStringLiteral("bomHTMLViewTab"));
-    auto *pageLayout = new QVBoxLayout(page);
-    pageLayout->setContentsMargins({});
-    pageLayout->addWidget(m_report);
+    m_dataView = new BOMDataView;
+    m_dataView->setObjectName(QStringLiteral("bomDataView"));
     m_tabs = new QTabWidget;
     m_tabs->setObjectName(QStringLiteral("tabWidget"));
     m_tabs->setDocumentMode(true);
-    m_tabs->addTab(page, tr("BOM Report"));
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(m_tabs);
+    const auto addPage = [this](QWidget *view, const QString &name, const QString &title) {
+        auto *page = new QWidget;
+        page->setObjectName(name);
+        auto *layout = new QVBoxLayout(page);
+        layout->setContentsMargins({});
+        layout->addWidget(view);
+        m_tabs->addTab(page, title);
+    };
+    addPage(m_report, QStringLiteral("bomHTMLViewTab"), tr("BOM Report"));
+    addPage(m_dataView, QStringLiteral("bomDataTab"), tr("Property Editor"));
 }
 
 QAction *BOMMainWindow::addCommand(const Command &command)
@@ -175,8 +269,27 @@ QAction *BOMMainWindow::addOutput(const Command &command)
     return action;
 }
 
+void BOMMainWindow::buildEditActions()
+{
+    m_undo = m_stores.undo->createUndoAction(this);
+    m_undo->setIcon(makeIcon(modulePicture(QStringLiteral("undo"))));
+    m_redo = m_stores.undo->createRedoAction(this);
+    m_redo->setIcon(makeIcon(modulePicture(QStringLiteral("redo"))));
+    m_find = addCommand({tr("&Find Property Values"), modulePicture(QStringLiteral("find")),
+                         tr("Find property values"), QKeySequence(QStringLiteral("Ctrl+F"))});
+    connect(m_find, &QAction::triggered, this, &BOMMainWindow::showFindDialogue);
+    m_replace = addCommand({tr("&Replace Property Values"), modulePicture(QStringLiteral("replace")),
+                            tr("Replace property values"), QKeySequence(QStringLiteral("Ctrl+H"))});
+    connect(m_replace, &QAction::triggered, this, &BOMMainWindow::showReplaceDialogue);
+    m_review = addCommand({tr("Review &Pending Changes…"), modulePicture(QStringLiteral("review")),
+                           tr("Show what would be written into the design")});
+    connect(m_review, &QAction::triggered, this, &BOMMainWindow::reviewPendingChanges);
+    setPropertiesChanged(!m_stores.assignments->isEmpty());
+}
+
 void BOMMainWindow::buildActions()
 {
+    buildEditActions();
     m_reload = addCommand({tr("Reload The &BOM"), {}, tr("Reload the parts in the Bill Of Materials")});
     connect(m_reload, &QAction::triggered, this, &BOMMainWindow::manualReload);
     // In no menu: only its shortcut reaches it.
@@ -198,7 +311,11 @@ void BOMMainWindow::buildActions()
 void BOMMainWindow::buildMenus()
 {
     auto *edit = new QMenu(tr("&Edit"), this);
-    edit->addAction(m_reload);
+    edit->addActions({m_undo, m_redo});
+    edit->addSeparator();
+    edit->addActions({m_find, m_replace, m_reload});
+    edit->addSeparator();
+    edit->addAction(m_review);
     addmenu(editMenuId, edit, 0);
 
     auto *generate = new QMenu(tr("&Generate"), this);
@@ -217,6 +334,8 @@ void BOMMainWindow::buildToolBar()
     bar->addActions({m_setPaper, m_print, m_pdf});
     bar->addSeparator();
     bar->addActions({m_excel, m_csv});
+    bar->addSeparator();
+    bar->addActions({m_find, m_replace});
     addtoolbar(bar);
 }
 
@@ -276,5 +395,34 @@ void BOMMainWindow::manualReload()
 {
     if (m_database) {
         m_database->reloadFromFiles();
+    }
+}
+
+void BOMMainWindow::showGlobalPropertyEditor()
+{
+    m_tabs->setCurrentWidget(m_dataView->parentWidget());
+}
+
+void BOMMainWindow::showFindDialogue()
+{
+    showGlobalPropertyEditor();
+    m_dataView->showFindDialogue();
+}
+
+void BOMMainWindow::showReplaceDialogue()
+{
+    showGlobalPropertyEditor();
+    m_dataView->showReplaceDialogue();
+}
+
+void BOMMainWindow::reviewPendingChanges()
+{
+    if (!m_database || m_isReviewing) {
+        return;
+    }
+    const QScopedValueRollback reviewing(m_isReviewing, true);
+    PendingReview review(m_stores.assignments, m_database, this);
+    if (review.exec() == QDialog::Accepted) {
+        m_dataView->applyPropertyValues();
     }
 }

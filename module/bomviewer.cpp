@@ -4,6 +4,8 @@
 
 #include "core/bompartsdatabase.h"
 #include "core/joinedlines.h"
+#include "core/propertyassignments.h"
+#include "editors/pendingundo.h"
 #include "host/framework/applndocument.h"
 #include "host/framework/applnprocess.h"
 #include "host/framework/imodule.h"
@@ -47,6 +49,11 @@ BOMVIEWER::BOMVIEWER(APPLNPROCESS *process)
 {
     setapplnname(QStringLiteral("BOM"), QStringLiteral("Bill of Materials"));
     m_database = BOMPartsDatabase::instance();
+    m_assignments = std::make_unique<PropertyAssignments>(m_database);
+    m_undo = std::make_unique<PendingUndo>(m_assignments.get());
+    if (process) {
+        m_assignments->setJournalFolder(process->getdatapath("BOM") + QStringLiteral("/pending"));
+    }
     m_templates = std::make_unique<ModuleTemplates>(process, *m_database);
     IMODULE *server = interfaceOf(process, "ORIN", INTERFACE_NETSERVER);
     m_cache.attach(this);
@@ -62,6 +69,8 @@ BOMVIEWER::~BOMVIEWER()
 {
     theModule = nullptr;
     m_templates.reset();
+    m_undo.reset();
+    m_assignments.reset();
     BOMPartsDatabase::destroyInstance();
     m_database = nullptr;
 }
@@ -94,7 +103,7 @@ APPLNWINDOW *BOMVIEWER::createwindow(APPLNFRAME *frame, unsigned)
     if (m_mainWindow) {
         return m_mainWindow;
     }
-    m_mainWindow = new BOMMainWindow(m_database);
+    m_mainWindow = new BOMMainWindow(m_database, {m_assignments.get(), m_undo.get()});
     m_mainWindow->setowner(this);
     if (!m_mainWindow->createwindow(frame)) {
         delete m_mainWindow;
@@ -129,6 +138,11 @@ void BOMVIEWER::onvalidate()
 bool BOMVIEWER::isvisible()
 {
     return m_mainWindow && m_mainWindow->isvisible();
+}
+
+bool BOMVIEWER::isbusy() const
+{
+    return m_mainWindow && m_mainWindow->isBusy();
 }
 
 std::optional<qsizetype> BOMVIEWER::partcount() const

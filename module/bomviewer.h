@@ -12,6 +12,8 @@
 class BOMMainWindow;
 class BOMPartsDatabase;
 class ModuleTemplates;
+class PendingUndo;
+class PropertyAssignments;
 
 /// The module "BOM": binds the parts database to the design that is open in the host, and has one window. A
 /// process has one of them at a time.
@@ -36,6 +38,7 @@ public:
     void onvalidate() override;
 
     [[nodiscard]] bool isvisible() override;
+    [[nodiscard]] bool isbusy() const override;
     /// What the report gives as the total of parts.
     [[nodiscard]] std::optional<qsizetype> partcount() const override;
     [[nodiscard]] QStringList differinglines(const QStringList &always,
@@ -50,6 +53,9 @@ private:
 
     NETCACHE m_cache;
     BOMPartsDatabase *m_database = nullptr;
+    /// Pending edits outlive windows. Made before any view, so that edits follow their parts first.
+    std::unique_ptr<PropertyAssignments> m_assignments;
+    std::unique_ptr<PendingUndo> m_undo;
     BOMMainWindow *m_mainWindow = nullptr;
     std::unique_ptr<ModuleTemplates> m_templates;
 };
