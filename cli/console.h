@@ -66,6 +66,7 @@ public:
     [[nodiscard]] QString openFileName(QWidget *parent, const QString &caption, const QString &path,
                                        const QString &filter) override;
     bool openUrl(const QUrl &url) override;
+    void copyText(const QString &) override {}
     [[nodiscard]] QDateTime now() const override;
     [[nodiscard]] QLocale locale() const override { return m_locale; }
 

@@ -29,6 +29,11 @@ int Design::lineOf(const Component &component) const
     return int(component.line);
 }
 
+std::optional<Position> Design::positionOf(const Component &) const
+{
+    return std::nullopt;
+}
+
 QStringList Design::changedFiles() const
 {
     QStringList changed;

@@ -51,6 +51,15 @@ struct SymbolCount
     qsizetype mergedUnits = 0;
 };
 
+/// Where a symbol is drawn, in millimetres from the upper left corner of its sheet.
+struct Position
+{
+    double x = 0;
+    double y = 0;
+
+    bool operator==(const Position &) const = default;
+};
+
 /// Side of the board on which a part is placed.
 enum class Side
 {
@@ -92,6 +101,9 @@ public:
     /// The line of a component's symbol or row in its file, counted from 1; 0 when it cannot be told any
     /// more.
     [[nodiscard]] virtual int lineOf(const Component &component) const;
+    /// Where a component's symbol, or the first of several, is drawn; nothing in a list, and when the file is
+    /// not as it was read. Reads the file.
+    [[nodiscard]] virtual std::optional<Position> positionOf(const Component &component) const;
 
     /// What tells a component from any other of the design, also after references were changed and the files
     /// were read again; empty where the format has nothing but the reference.

@@ -79,6 +79,7 @@ void DesignSession::setDesign(std::unique_ptr<const designs::Design> design)
     m_design = std::make_shared<LoadedDesign>(std::move(design), m_dnpChoice, std::move(fields.names));
     m_document.setDesign(m_design);
     m_cdb.setDesign(m_design);
+    m_process.navigator().setDesign(m_design);
     m_process.setOpen(true);
     m_netlist.setDesign(m_design);
 }

@@ -60,7 +60,8 @@ IMODULE *StandaloneProcess::getmoduleinterface(const char *application, unsigned
         return m_project.queryinterface(id);
     }
     if (std::strcmp(application, "ORIN") == 0) {
-        return m_netlist.queryinterface(id);
+        IMODULE *server = m_netlist.queryinterface(id);
+        return server ? server : m_navigator.queryinterface(id);
     }
     APPLNMODULE *module = findmodule(application);
     return module ? module->queryinterface(id) : nullptr;

@@ -4,6 +4,7 @@
 
 #include "host/framework/applnprocess.h"
 #include "host/framework/imodule.h"
+#include "standalone/partnavigator.h"
 #include "standalone/projectnotes.h"
 
 class StandaloneDocument;
@@ -23,14 +24,15 @@ public:
     /// "PROJNOTES", when a design is open and there are such notes.
     [[nodiscard]] APPLNOBJECT *currentobject(const char *name, int kind) override;
     [[nodiscard]] ProjectNotes &projectNotes() { return m_projectNotes; }
+    [[nodiscard]] PartNavigator &navigator() { return m_navigator; }
     [[nodiscard]] QString getbinpath() const override;
     /// The templates stand in the folder of "BOM".
     [[nodiscard]] QString getdatapath(const char *application) const override;
     /// The user's folder, and one with further templates where there is one.
     [[nodiscard]] QString gettemplatepaths() const override;
     void setFurtherTemplates(const QString &folder) { m_furtherTemplates = folder; }
-    /// The application "ORIN" offers the netlist server, no application in particular the project, and every
-    /// module that lives in the process its own interfaces.
+    /// The application "ORIN" offers the netlist server and the navigator, no application in particular the
+    /// project, and every module that lives in the process its own interfaces.
     [[nodiscard]] IMODULE *getmoduleinterface(const char *application, unsigned id) override;
 
     /// The frame for the windows of all modules; null, as at first, for none. Not owned.
@@ -60,6 +62,7 @@ private:
     StandaloneNetlist &m_netlist;
     ProjectNotes m_projectNotes;
     Project m_project;
+    PartNavigator m_navigator;
     QString m_furtherTemplates;
     APPLNFRAME *m_frame = nullptr;
     bool m_isOpen = false;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/kicaddesign.h"
 
+#include "designs/kicad/sexprscanner.h"
 #include "designs/kicad/symbolrecount.h"
 #include "designs/kicad/textvariables.h"
 #include "designs/notfitted.h"
@@ -11,6 +12,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <charconv>
 #include <span>
 
 namespace designs::kicad {
@@ -30,6 +32,28 @@ void addNames(std::span<const InstanceRecord> records, QStringList *names)
             names->append(fromUtf8(variant.name));
         }
     }
+}
+
+/// What the list of a symbol, with which the text begins, says where it is drawn.
+std::optional<Position> positionAt(std::string_view text)
+{
+    SexprScanner scanner(text);
+    (void)scanner.next();
+    SexprScanner::Token token = scanner.next();
+    while (token == SexprScanner::Token::Open && scanner.keyword() != "at" && scanner.skipList()) {
+        token = scanner.next();
+    }
+    if (token != SexprScanner::Token::Open || scanner.failed()) {
+        return std::nullopt;
+    }
+    Position position;
+    for (double *coordinate : {&position.x, &position.y}) {
+        const std::string_view number = scanner.takeText() ? scanner.raw() : std::string_view();
+        if (std::from_chars(number.data(), number.data() + number.size(), *coordinate).ec != std::errc()) {
+            return std::nullopt;
+        }
+    }
+    return position;
 }
 
 } // namespace
@@ -195,7 +219,7 @@ Side KicadDesign::placement(std::string_view reference) const
 int KicadDesign::lineOf(const Component &component) const
 {
     const SymbolUse &place = m_symbolUses[component.origin];
-    const SheetFile &file = m_hierarchy->files()[m_hierarchy->uses()[place.use].file];
+    const SheetFile &file = fileOf(place);
     return m_lines.line(file.path, file.symbols[place.symbol].offset);
 }
 
@@ -214,6 +238,22 @@ std::string KicadDesign::identityOf(const Component &component) const
         }
     }
     return least;
+}
+
+std::optional<Position> KicadDesign::positionOf(const Component &component) const
+{
+    const SymbolUse &place = m_symbolUses[component.origin];
+    const SheetFile &file = fileOf(place);
+    FileBuffer buffer;
+    Problem problem;
+    const bool isAsRead =
+        buffer.read(file.path, fileStart, &problem) && buffer.fingerprint() == file.fingerprint;
+    return isAsRead ? positionAt(buffer.text().substr(file.symbols[place.symbol].offset)) : std::nullopt;
+}
+
+const SheetFile &KicadDesign::fileOf(const SymbolUse &place) const
+{
+    return m_hierarchy->files()[m_hierarchy->uses()[place.use].file];
 }
 
 SymbolCount KicadDesign::recount(Problem *error) const

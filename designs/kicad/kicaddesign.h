@@ -28,6 +28,7 @@ public:
     /// The path of identifiers from the root sheet to the symbol; of several units the first in the alphabet,
     /// because KiCad orders symbols anew when it saves.
     [[nodiscard]] std::string identityOf(const Component &component) const override;
+    [[nodiscard]] std::optional<Position> positionOf(const Component &component) const override;
 
     /// What the components were made of.
     [[nodiscard]] const Hierarchy &hierarchy() const { return *m_hierarchy; }
@@ -40,19 +41,22 @@ public:
     [[nodiscard]] int threads() const { return m_threads; }
 
 private:
+    static constexpr std::string_view fileStart = "(kicad_sch";
+
     bool findProject(const QString &path, Problem *problem);
     bool readSheets(int threads, Problem *problem);
     bool chooseVariant(const QString &wanted, Problem *problem);
     void collectVariants();
     void collectSheets();
     void fillInfo();
+    [[nodiscard]] const SheetFile &fileOf(const SymbolUse &place) const;
 
     ProjectFile m_project;
     std::vector<RootSheet> m_roots;
     int m_threads = 0;
     std::unique_ptr<Hierarchy> m_hierarchy;
     std::vector<SymbolUse> m_symbolUses;
-    mutable LineNumbers m_lines{"(kicad_sch"};
+    mutable LineNumbers m_lines{fileStart};
     mutable bool m_boardRead = false;
     mutable BoardSides m_sides;
     std::string m_variant;

@@ -17,6 +17,7 @@ public:
     QString saveFileName(QWidget *, const QString &, const QString &, const QString &) override { return {}; }
     QString openFileName(QWidget *, const QString &, const QString &, const QString &) override { return {}; }
     bool openUrl(const QUrl &) override { return false; }
+    void copyText(const QString &) override {}
     QDateTime now() const override { return QDateTime::currentDateTime(); }
     QLocale locale() const override { return QLocale::c(); }
 };

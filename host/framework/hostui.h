@@ -10,8 +10,8 @@ class QUrl;
 class QWidget;
 
 /// The one place where the system talks to the user and the desktop: message boxes, questions, file names,
-/// opening files, the clock and the number format. The desktop program installs a real one, the command line
-/// one that writes to standard error, tests a scripted one.
+/// opening files, the clipboard, the clock and the number format. The desktop program installs a real one,
+/// the command line one that writes to standard error, tests a scripted one.
 class HostUi
 {
 public:
@@ -47,6 +47,9 @@ public:
 
     /// Hands a file or link to the desktop; false when the desktop refused.
     virtual bool openUrl(const QUrl &url) = 0;
+
+    /// Puts a text on the clipboard, where there is one.
+    virtual void copyText(const QString &text) = 0;
 
     [[nodiscard]] virtual QDateTime now() const = 0;
 

@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 class APPLNDOCUMENT;
 
 /// The numbers under which applications and modules offer their interfaces, see
 /// APPLNPROCESS::getmoduleinterface().
 constexpr unsigned INTERFACE_PROJECT = 2;
 constexpr unsigned INTERFACE_NETSERVER = 7;
+constexpr unsigned INTERFACE_NAVIGATOR = 9;
 /// The module "BOM" offers the same object under both.
 constexpr unsigned INTERFACE_NETCLIENT = 8;
 constexpr unsigned INTERFACE_BOMVIEWER = 10;
@@ -36,4 +39,27 @@ public:
 
 protected:
     ~IPROJECT() = default;
+};
+
+/// What came of showing a part.
+struct NAVIGATION
+{
+    /// Whether an editor of the design was told.
+    bool isShown = false;
+    /// For the status line: where the part stands, and what was done.
+    QString text;
+
+    bool operator==(const NAVIGATION &) const = default;
+};
+
+/// An application that shows where the parts of its design are drawn, interface INTERFACE_NAVIGATOR.
+class INAVIGATOR : public IMODULE
+{
+public:
+    /// Shows the component of that identifier, which has that reference. Where nothing can show it the place
+    /// is told, and the reference goes to the clipboard.
+    virtual NAVIGATION showpart(const QString &reference, quint64 identifier) = 0;
+
+protected:
+    ~INAVIGATOR() = default;
 };

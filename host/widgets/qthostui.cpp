@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/widgets/qthostui.h"
 
+#include <QClipboard>
 #include <QCursor>
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -125,6 +126,11 @@ QString QtHostUi::openFileName(QWidget *parent, const QString &caption, const QS
 bool QtHostUi::openUrl(const QUrl &url)
 {
     return QDesktopServices::openUrl(url);
+}
+
+void QtHostUi::copyText(const QString &text)
+{
+    QGuiApplication::clipboard()->setText(text);
 }
 
 QDateTime QtHostUi::now() const

@@ -19,6 +19,7 @@ public:
     QString openFileName(QWidget *parent, const QString &caption, const QString &path,
                          const QString &filter) override;
     bool openUrl(const QUrl &url) override;
+    void copyText(const QString &text) override;
     QDateTime now() const override;
     QLocale locale() const override;
 };

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/framework/applnprocess.h"
+#include "host/framework/imodule.h"
 #include "support/fakedocument.h"
 
 /// A host process, installed while it lives, with one design document unless `hasDesign` is cleared.
@@ -17,6 +18,7 @@ public:
     QString binPath = QStringLiteral("/opt/host/bin");
     QString dataPath;
     APPLNOBJECT *projectNotes = nullptr;
+    IMODULE *navigator = nullptr;
 
     APPLNDOCUMENT *currentdocument(int kind, const char *name) const override
     {
@@ -32,5 +34,8 @@ public:
     {
         return QByteArrayView(application) == "BOM" ? dataPath : QString();
     }
-    IMODULE *getmoduleinterface(const char *, unsigned) override { return nullptr; }
+    IMODULE *getmoduleinterface(const char *application, unsigned id) override
+    {
+        return QByteArrayView(application) == "ORIN" && id == INTERFACE_NAVIGATOR ? navigator : nullptr;
+    }
 };

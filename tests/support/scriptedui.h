@@ -46,6 +46,7 @@ public:
     QList<Message> saveQuestions;
     QList<FileRequest> fileRequests;
     QList<QUrl> openedUrls;
+    QStringList copiedTexts;
 
     void information(QWidget *, const QString &title, const QString &text) override
     {
@@ -82,6 +83,7 @@ public:
         openedUrls.append(url);
         return opensUrls;
     }
+    void copyText(const QString &text) override { copiedTexts.append(text); }
     QDateTime now() const override { return clock; }
     QLocale locale() const override { return numberFormat; }
 };
