@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 /// The type of a property definition, numbered as the host numbers it.
 enum class PropType
@@ -20,12 +21,18 @@ enum class PropType
     Float = 8,
 };
 
-/// What the host knows about a property: its type, and a text that people read.
+/// What the host knows about a property: its type, a text that people read, and which values it may have.
 struct PROPDEF
 {
     QString name;
     PropType type = PropType::String;
     QString description;
+    /// At least two where there are any, none of them empty or with a quote or "|" in it; only for type
+    /// String.
+    QStringList keywords = {};
+
+    /// The values that the property may have beside none; empty when any text will do.
+    [[nodiscard]] const QStringList &getkwdprops() const { return keywords; }
 
     bool operator==(const PROPDEF &) const = default;
 };

@@ -61,11 +61,38 @@ std::optional<PropType> typeOfKeyword(const QString &keyword)
     return std::nullopt;
 }
 
-/// Fills `definition`, or returns what is wrong with the line.
-QString parseLine(const QString &line, PROPDEF *definition)
+/// Fills the keywords of a definition, or returns what is wrong with the list.
+QString parseKeywords(const QString &list, PROPDEF *definition)
+{
+    if (list.isEmpty()) {
+        return {};
+    }
+    if (definition->type != PropType::String) {
+        return QStringLiteral("a list of values goes with STRING only; the list does not count");
+    }
+    QStringList keywords;
+    for (const QString &text : list.split(u'|')) {
+        const QString keyword = text.trimmed();
+        if (keyword.isEmpty()) {
+            return QStringLiteral("the list of values has an empty one; the list does not count");
+        }
+        if (keywords.contains(keyword, Qt::CaseInsensitive)) {
+            return QStringLiteral("the list of values has \"") + keyword +
+                   QStringLiteral("\" twice; the list does not count");
+        }
+        keywords.append(keyword);
+    }
+    definition->keywords = keywords;
+    return {};
+}
+
+/// Fills `definition`, and `list` with the text of its list of values, or returns what is wrong with the
+/// line. A description may hold quotes and commas: a last field is a list only if it is empty or has a "|".
+QString parseLine(const QString &line, PROPDEF *definition, QString *list)
 {
     static const QRegularExpression pattern(
-        QStringLiteral("^\\s*\"([^\"]*)\"\\s*,\\s*([A-Za-z]+)\\s*(?:,\\s*\"(.*)\"\\s*)?$"));
+        QStringLiteral("^\\s*\"([^\"]*)\"\\s*,\\s*([A-Za-z]+)\\s*"
+                       "(?:,\\s*\"(.*?)\"\\s*(?:,\\s*\"([^\"|]*\\|[^\"]*|)\"\\s*)?)?$"));
     const QRegularExpressionMatch match = pattern.match(line);
     if (!match.hasMatch() || match.capturedView(1).isEmpty()) {
         return QStringLiteral("expected \"NAME\",TYPE or \"NAME\",TYPE,\"description\"");
@@ -76,6 +103,7 @@ QString parseLine(const QString &line, PROPDEF *definition)
                QStringLiteral("\" (YESNO, HIGHLOW, TRUEFALSE, STRING, INT, FLOAT)");
     }
     *definition = PROPDEF{match.captured(1), *type, match.captured(3)};
+    *list = match.captured(4);
     return {};
 }
 
@@ -176,10 +204,14 @@ DIDX PROPTEXT::definitions(QStringList *problems) const
             continue;
         }
         PROPDEF definition;
-        QString wrong = parseLine(line, &definition);
-        if (wrong.isEmpty() && !index.add(definition)) {
-            wrong =
-                u'"' + definition.name + QStringLiteral("\" is defined twice; the first definition counts");
+        QString list;
+        QString wrong = parseLine(line, &definition, &list);
+        if (wrong.isEmpty()) {
+            wrong = parseKeywords(list, &definition);
+            if (!index.add(definition)) {
+                wrong = u'"' + definition.name +
+                        QStringLiteral("\" is defined twice; the first definition counts");
+            }
         }
         if (!wrong.isEmpty() && problems) {
             problems->append(QString::number(i + 1) + QStringLiteral(": ") + wrong);
@@ -257,8 +289,14 @@ bool isreadonly_defaultdefs()
 QString format_propdefs(const PROPDEF &definition)
 {
     QString line = u'"' + definition.name + QStringLiteral("\",") + propTypeKeyword(definition.type);
-    if (!definition.description.isEmpty()) {
+    // An empty list behind a description keeps the description's own quotes from being read as a list.
+    static const QRegularExpression listStart(QStringLiteral("\"\\s*,"));
+    const bool hasList = !definition.keywords.isEmpty() || definition.description.contains(listStart);
+    if (hasList || !definition.description.isEmpty()) {
         line += QStringLiteral(",\"") + definition.description + u'"';
+    }
+    if (hasList) {
+        line += QStringLiteral(",\"") + definition.keywords.join(u'|') + u'"';
     }
     return line;
 }

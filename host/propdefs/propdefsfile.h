@@ -9,8 +9,10 @@
 #include <QStringList>
 
 /// The text of a definitions file, line by line, so that comments and order survive a change.
-/// A definition is a line `"NAME",KEYWORD` or `"NAME",KEYWORD,"description"` in the section [PROPDEFS]; blank
-/// lines and lines that begin with ";" or "#" are comments; other sections are kept and not looked at.
+/// A definition is a line `"NAME",KEYWORD`, `"NAME",KEYWORD,"description"` or
+/// `"NAME",STRING,"description","A|B|C"` in the section [PROPDEFS], where A, B and C are the values that the
+/// property may have; blank lines and lines that begin with ";" or "#" are comments; other sections are kept
+/// and not looked at.
 class PROPTEXT
 {
 public:
@@ -31,7 +33,8 @@ public:
     [[nodiscard]] const QStringList &lines() const { return m_lines; }
     [[nodiscard]] bool hasSection(const QString &section) const;
 
-    /// Reads the definitions; each line that is none gives a message "N: ...", N being its line.
+    /// Reads the definitions; each line that is none gives a message "N: ...", N being its line, and so does
+    /// each whose list of values is none: that definition counts without the list.
     [[nodiscard]] DIDX definitions(QStringList *problems = nullptr) const;
 
 private:

@@ -22,6 +22,7 @@ struct LineCase
     const char *name; // null: refused
     PropType type = PropType::String;
     const char *description = nullptr;
+    QStringList keywords = {};
 };
 
 TEST(Definitions, AreReadLineByLineAndWrittenAsTheyAreRead)
@@ -35,6 +36,14 @@ TEST(Definitions, AreReadLineByLineAndWrittenAsTheyAreRead)
         {"\"Größe\",HIGHLOW,\"ä\"", "Größe", HighLow, "ä"},
         {"\"DNP\",YESNO", "DNP", YesNo, ""},
         {"\"X\",TRUEFALSE,\"\"", "X", TrueFalse, ""},
+        {"\"TC\",STRING,\"Dielectric\", \"C0G | X7R|Ü\" ",
+         "TC",
+         String,
+         "Dielectric",
+         {u"C0G"_s, u"X7R"_s, u"Ü"_s}},
+        {"\"TC\",STRING,\"\",\"a,b|c\"", "TC", String, "", {u"a,b"_s, u"c"_s}},
+        {"\"X\",STRING,\"in \"a\",\"b\"\"", "X", String, "in \"a\",\"b\""},
+        {"\"X\",STRING,\"in \"a\",\"b|c\",\"\"", "X", String, "in \"a\",\"b|c"},
         {"\"X\",BOOLEAN", nullptr},
         {"\"X\",,\"text\"", nullptr},
         {"\"\",STRING", nullptr},
@@ -53,10 +62,26 @@ TEST(Definitions, AreReadLineByLineAndWrittenAsTheyAreRead)
             continue;
         }
         EXPECT_TRUE(problems.isEmpty()) << c.line;
-        const PROPDEF expected{QString::fromUtf8(c.name), c.type, QString::fromUtf8(c.description)};
+        const PROPDEF expected{QString::fromUtf8(c.name), c.type, QString::fromUtf8(c.description),
+                               c.keywords};
         EXPECT_EQ(index.definitions(), QList<PROPDEF>{expected}) << c.line;
         EXPECT_EQ(PROPTEXT({u"[PROPDEFS]"_s, format_propdefs(expected)}).definitions().definitions(),
                   QList<PROPDEF>{expected});
+    }
+}
+
+TEST(Definitions, CountWithoutAListOfValuesThatIsNone)
+{
+    for (const char *line : {"\"X\",INT,\"text\",\"1|2\"", "\"X\",STRING,\"text\",\"a||b\"",
+                             "\"X\",STRING,\"text\",\"|\"", "\"X\",STRING,\"text\",\"a|b|A\""}) {
+        QStringList problems;
+        const DIDX index = PROPTEXT({u"[PROPDEFS]"_s, QString::fromUtf8(line)}).definitions(&problems);
+        ASSERT_EQ(problems.size(), 1) << line;
+        EXPECT_TRUE(problems.first().startsWith(u"2: "_s) &&
+                    problems.first().endsWith(u"the list does not count"_s));
+        ASSERT_TRUE(index.find(u"X"_s)) << line;
+        EXPECT_EQ(index.find(u"X"_s)->description, u"text"_s);
+        EXPECT_TRUE(index.find(u"X"_s)->getkwdprops().isEmpty());
     }
 }
 
