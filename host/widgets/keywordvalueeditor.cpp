@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/widgets/keywordvalueeditor.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QValidator>
@@ -95,6 +96,9 @@ void KeywordValueEditor::showPopup()
     const QString shown = currentText();
     setCurrentIndex(findText(text(), Qt::MatchFixedString));
     setEditText(shown);
+    // A cell may be narrower than the keywords.
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, view());
+    view()->setMinimumWidth(view()->sizeHintForColumn(0) + (count() > maxVisibleItems() ? bar : 0));
     QComboBox::showPopup();
     m_wasListOpen = true;
 }

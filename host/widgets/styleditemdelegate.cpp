@@ -16,7 +16,6 @@
 #include <QTextEdit>
 
 #include <algorithm>
-#include <memory>
 
 namespace {
 
@@ -116,6 +115,11 @@ bool enter(QWidget *editor, const QString &text)
 
 } // namespace
 
+StyledItemDelegate::~StyledItemDelegate()
+{
+    delete m_hidden;
+}
+
 bool StyledItemDelegate::isEditing() const
 {
     return !m_open.isEmpty();
@@ -144,16 +148,32 @@ bool StyledItemDelegate::enterText(QAbstractItemModel *model, const QModelIndex 
     if (!index.isValid() || !index.flags().testFlag(Qt::ItemIsEditable)) {
         return false;
     }
-    const std::unique_ptr<QWidget> editor(makeEditor(nullptr, QStyleOptionViewItem(), index));
+    QWidget *editor = hiddenEditor(index);
     if (!editor) {
         return false;
     }
-    setEditorData(editor.get(), index);
-    if (!enter(editor.get(), text)) {
+    setEditorData(editor, index);
+    if (!enter(editor, text)) {
         return false;
     }
-    setModelData(editor.get(), model, index);
+    setModelData(editor, model, index);
     return true;
+}
+
+QWidget *StyledItemDelegate::hiddenEditor(const QModelIndex &index) const
+{
+    // Replacing in thousands of cells makes one editor for a column. It goes when the event loop is back:
+    // later the column may stand for something else.
+    if (!m_hidden || m_hiddenColumn != index.column() || m_hiddenModel != index.model()) {
+        delete m_hidden;
+        m_hidden = makeEditor(nullptr, QStyleOptionViewItem(), index);
+        m_hiddenColumn = index.column();
+        m_hiddenModel = index.model();
+        if (m_hidden) {
+            m_hidden->deleteLater();
+        }
+    }
+    return m_hidden;
 }
 
 QWidget *StyledItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,

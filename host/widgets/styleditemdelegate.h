@@ -17,6 +17,7 @@ class StyledItemDelegate : public QStyledItemDelegate
 
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+    ~StyledItemDelegate() override;
 
     /// Whether an editor of a cell is open. What would pull it away, such as filling the table again, waits.
     [[nodiscard]] bool isEditing() const;
@@ -45,9 +46,9 @@ Q_SIGNALS:
     void editingChanged(bool isEditing);
 
 protected:
-    /// The editor for a cell, for instance by its column: any widget with a user property, best a
-    /// ValueEditor, whose rule is kept; null for a cell without. `parent` is null when the editor is not
-    /// going to be shown.
+    /// The editor for the cells of a column: any widget with a user property, best a ValueEditor, whose rule
+    /// is kept; null for a column without. `parent` is null when the editor is not going to be shown; that
+    /// one may serve other cells of the column, too.
     [[nodiscard]] virtual QWidget *makeEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                               const QModelIndex &index) const;
 
@@ -63,6 +64,8 @@ private:
         bool isFilled = false;
     };
 
+    /// The editor that enterText() uses; null for a cell without.
+    [[nodiscard]] QWidget *hiddenEditor(const QModelIndex &index) const;
     [[nodiscard]] OpenEditor *find(const QWidget *editor) const;
     void watch(QWidget *editor, const QModelIndex &index);
     /// False when the editor's rule refuses its text.
@@ -73,4 +76,7 @@ private:
     /// Qt's functions that make and drop editors are const.
     mutable QList<OpenEditor> m_open;
     bool m_wasEditing = false;
+    mutable QPointer<QWidget> m_hidden;
+    mutable const QAbstractItemModel *m_hiddenModel = nullptr;
+    mutable int m_hiddenColumn = -1;
 };
