@@ -29,6 +29,11 @@ public:
 
     virtual void information(QWidget *parent, const QString &title, const QString &text) = 0;
     virtual void warning(QWidget *parent, const QString &title, const QString &text) = 0;
+    /// The same for a text that is markup.
+    virtual void richWarning(QWidget *parent, const QString &title, const QString &html)
+    {
+        warning(parent, title, html);
+    }
 
     /// A Yes/No question; true for Yes. `defaultYes` is what a bare Return answers.
     [[nodiscard]] virtual bool question(QWidget *parent, const QString &title, const QString &text,

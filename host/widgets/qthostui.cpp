@@ -84,6 +84,14 @@ void QtHostUi::warning(QWidget *parent, const QString &title, const QString &tex
     (void)show(box, text);
 }
 
+void QtHostUi::richWarning(QWidget *parent, const QString &title, const QString &html)
+{
+    const OrdinaryCursor cursor;
+    QMessageBox box(QMessageBox::Warning, title, html, QMessageBox::Ok, parent);
+    box.setTextFormat(Qt::RichText);
+    box.exec();
+}
+
 bool QtHostUi::question(QWidget *parent, const QString &title, const QString &text, bool defaultYes)
 {
     QMessageBox box(QMessageBox::Question, title, {}, QMessageBox::Yes | QMessageBox::No, parent);

@@ -11,6 +11,7 @@ class QtHostUi : public HostUi
 public:
     void information(QWidget *parent, const QString &title, const QString &text) override;
     void warning(QWidget *parent, const QString &title, const QString &text) override;
+    void richWarning(QWidget *parent, const QString &title, const QString &html) override;
     bool question(QWidget *parent, const QString &title, const QString &text, bool defaultYes) override;
     SaveAnswer saveQuestion(QWidget *parent, const QString &title, const QString &text,
                             bool withCancel) override;
