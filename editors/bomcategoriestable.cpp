@@ -56,6 +56,7 @@ std::optional<Refusal> refusal(const BOMCategory &edited, const QList<BOMCategor
 BOMCategoriesTable::BOMCategoriesTable(QWidget *parent)
     : BOMOptionsTable(parent)
 {
+    setTitle(tr("Categories"));
     setHeaders({tr("Category"), tr("Prefixes")});
     connect(this, &BOMOptionsTable::addClicked, this, &BOMCategoriesTable::addCategory);
     connect(this, &BOMOptionsTable::editClicked, this, &BOMCategoriesTable::editCategory);

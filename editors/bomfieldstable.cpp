@@ -16,6 +16,7 @@
 BOMFieldsTable::BOMFieldsTable(QWidget *parent)
     : BOMOptionsTable(parent)
 {
+    setTitle(tr("Fields"));
     setHeaders({tr("Field"), tr("Property")});
     connect(this, &BOMOptionsTable::addClicked, this, &BOMFieldsTable::addField);
     connect(this, &BOMOptionsTable::editClicked, this, &BOMFieldsTable::editField);

@@ -99,6 +99,11 @@ QAction *BOMOptionsTable::addCommand(const QString &text, const QList<QKeySequen
     return command;
 }
 
+void BOMOptionsTable::setTitle(const QString &title)
+{
+    m_table->setAccessibleName(title);
+}
+
 void BOMOptionsTable::setHeaders(const QStringList &labels)
 {
     m_table->clear();

@@ -45,6 +45,9 @@ public Q_SLOTS:
     virtual void updateBtns(int row);
 
 protected:
+    /// What the rows are, for people who hear it.
+    void setTitle(const QString &title);
+
     struct Row
     {
         /// One per column.

@@ -84,6 +84,96 @@
     </message>
 </context>
 <context>
+    <name>BOMCategoriesTable</name>
+    <message>
+        <source>Categories</source>
+        <translation>Kategorien</translation>
+    </message>
+    <message>
+        <source>Could not save category</source>
+        <translation>Kategorie nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>The category needs a heading.</source>
+        <translation>Die Kategorie braucht eine Überschrift.</translation>
+    </message>
+    <message>
+        <source>There is a category &apos;%1&apos; already.</source>
+        <translation>Eine Kategorie „%1“ gibt es schon.</translation>
+    </message>
+    <message>
+        <source>Choose at least one reference prefix: without one no part belongs to the category.</source>
+        <translation>Wählen Sie mindestens ein Referenzpräfix: Ohne Präfix gehört kein Bauteil zu der Kategorie.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; cannot match any part: a reference prefix is what stands in front of the first digit, such as R for R12.</source>
+        <translation>„%1“ passt auf kein Bauteil: Ein Referenzpräfix ist das, was vor der ersten Ziffer steht, zum Beispiel R bei R12.</translation>
+    </message>
+    <message>
+        <source>The parts with the reference prefix &apos;%1&apos; belong to the category &apos;%2&apos; already.</source>
+        <translation>Die Bauteile mit dem Referenzpräfix „%1“ gehören schon zur Kategorie „%2“.</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Prefixes</source>
+        <translation>Präfixe</translation>
+    </message>
+    <message>
+        <source>Cannot perform action</source>
+        <translation>Das geht nicht</translation>
+    </message>
+    <message>
+        <source>The miscellaneous category is required.</source>
+        <translation>Die Kategorie für alles Übrige wird gebraucht.</translation>
+    </message>
+</context>
+<context>
+    <name>BOMCategoryEditor</name>
+    <message>
+        <source>Edit BOM Category</source>
+        <translation>Stücklistenkategorie bearbeiten</translation>
+    </message>
+    <message>
+        <source>Category Heading</source>
+        <translation>Überschrift der Kategorie</translation>
+    </message>
+    <message>
+        <source>The category heading is the text that appears at the top of the category and is typically the part type (Resistors, for example).</source>
+        <translation>Die Überschrift steht am Anfang der Kategorie und nennt meist die Art der Bauteile (zum Beispiel Widerstände).</translation>
+    </message>
+    <message>
+        <source>Reference(s) to match</source>
+        <translation>Passende Referenzen</translation>
+    </message>
+    <message>
+        <source>A category groups together components with the same reference prefix (you can specify up to four prefixes per category)</source>
+        <translation>Eine Kategorie fasst Bauteile mit dem gleichen Referenzpräfix zusammen (bis zu vier Präfixe je Kategorie)</translation>
+    </message>
+    <message>
+        <source>Reference prefix 1</source>
+        <translation>Referenzpräfix 1</translation>
+    </message>
+    <message>
+        <source>Reference prefix 2</source>
+        <translation>Referenzpräfix 2</translation>
+    </message>
+    <message>
+        <source>Reference prefix 3</source>
+        <translation>Referenzpräfix 3</translation>
+    </message>
+    <message>
+        <source>Reference prefix 4</source>
+        <translation>Referenzpräfix 4</translation>
+    </message>
+    <message>
+        <source>This is the miscellaneous category and will contain all parts that are not matched by another category.</source>
+        <translation>Diese Kategorie nimmt alle Bauteile auf, die in keine andere passen.</translation>
+    </message>
+</context>
+<context>
     <name>BOMCsvView</name>
     <message>
         <source>CSV file to save</source>
@@ -111,6 +201,148 @@
     <message>
         <source>Spreadsheet</source>
         <translation>Tabellenblatt</translation>
+    </message>
+</context>
+<context>
+    <name>BOMFieldEditor</name>
+    <message>
+        <source>Edit BOM Field</source>
+        <translation>Stücklistenfeld bearbeiten</translation>
+    </message>
+    <message>
+        <source>Field Property</source>
+        <translation>Eigenschaft des Feldes</translation>
+    </message>
+    <message>
+        <source>A field defines a column of values to be output in the BOM report based on the given property.</source>
+        <translation>Ein Feld ist eine Spalte des Stücklistenberichts mit den Werten der angegebenen Eigenschaft.</translation>
+    </message>
+    <message>
+        <source>Component property name</source>
+        <translation>Name der Bauteileigenschaft</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Alt+N</source>
+        <translation>Alt+N</translation>
+    </message>
+    <message>
+        <source>Define a new physical property</source>
+        <translation>Eine neue Bauteileigenschaft definieren</translation>
+    </message>
+    <message>
+        <source>Title for column heading</source>
+        <translation>Titel der Spaltenüberschrift</translation>
+    </message>
+    <message>
+        <source>External Links Enabled </source>
+        <translation>Externe Verknüpfungen anzeigen </translation>
+    </message>
+    <message>
+        <source>Field Value</source>
+        <translation>Wert des Feldes</translation>
+    </message>
+    <message>
+        <source>The component property value is output with an optional prefix and suffix. Leave these blank if they are not required.</source>
+        <translation>Vor und hinter dem Wert der Eigenschaft kann ein Text ausgegeben werden. Lassen Sie die Texte leer, wenn Sie keine brauchen.</translation>
+    </message>
+    <message>
+        <source>Prefix (to go in front of value)</source>
+        <translation>Präfix (steht vor dem Wert)</translation>
+    </message>
+    <message>
+        <source>Suffix (to go after value)</source>
+        <translation>Suffix (steht hinter dem Wert)</translation>
+    </message>
+    <message>
+        <source>Apply prefix and suffix to blank (empty) values?</source>
+        <translation>Präfix und Suffix auch bei leeren Werten ausgeben?</translation>
+    </message>
+    <message>
+        <source>Field width limit</source>
+        <translation>Begrenzung der Feldbreite</translation>
+    </message>
+    <message>
+        <source>Field lines limit</source>
+        <translation>Begrenzung der Feldzeilen</translation>
+    </message>
+    <message>
+        <source>Numeric Values</source>
+        <translation>Zahlenwerte</translation>
+    </message>
+    <message>
+        <source>Output sub-totals/totals for this field?</source>
+        <translation>Zwischensummen und Summen für dieses Feld ausgeben?</translation>
+    </message>
+    <message>
+        <source>Number of decimal places</source>
+        <translation>Anzahl der Nachkommastellen</translation>
+    </message>
+    <message>
+        <source> Lines</source>
+        <translation> Zeilen</translation>
+    </message>
+</context>
+<context>
+    <name>BOMFieldsTable</name>
+    <message>
+        <source>Fields</source>
+        <translation>Felder</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Edit &amp;Values of the Parts</source>
+        <translation>&amp;Werte der Bauteile bearbeiten</translation>
+    </message>
+    <message>
+        <source>Could not save field</source>
+        <translation>Feld nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Field &apos;%1&apos; requires a valid name and its property &apos;%2&apos; to be defined.</source>
+        <translation>Das Feld „%1“ braucht einen gültigen Namen, und seine Eigenschaft „%2“ muss angegeben sein.</translation>
+    </message>
+    <message>
+        <source>Could not add field</source>
+        <translation>Feld nicht hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Could not rename field</source>
+        <translation>Feld nicht umbenannt</translation>
+    </message>
+    <message>
+        <source>Field name &apos;%1&apos; already in use</source>
+        <translation>Der Feldname „%1“ wird schon benutzt</translation>
+    </message>
+    <message>
+        <source>The property &apos;%1&apos; has a field already.</source>
+        <translation>Für die Eigenschaft „%1“ gibt es schon ein Feld.</translation>
+    </message>
+    <message>
+        <source>Could not edit field</source>
+        <translation>Feld nicht bearbeitet</translation>
+    </message>
+    <message>
+        <source>The &apos;VALUE&apos; field is not editable</source>
+        <translation>Das Feld „VALUE“ kann nicht bearbeitet werden</translation>
+    </message>
+    <message>
+        <source>Could not remove field</source>
+        <translation>Feld nicht entfernt</translation>
+    </message>
+    <message>
+        <source>The &apos;VALUE&apos; field is required</source>
+        <translation>Das Feld „VALUE“ wird gebraucht</translation>
     </message>
 </context>
 <context>
@@ -233,6 +465,163 @@ Generate output anyway?</source>
         <translation>Diese Referenzen kommen mehrfach vor:
 %1
 Trotzdem ausgeben?</translation>
+    </message>
+</context>
+<context>
+    <name>BOMOptionsTable</name>
+    <message>
+        <source>Move item up</source>
+        <translation>Eintrag nach oben</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Auf</translation>
+    </message>
+    <message>
+        <source>Add new item</source>
+        <translation>Neuer Eintrag</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Edit item</source>
+        <translation>Eintrag bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Delete item</source>
+        <translation>Eintrag löschen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Move item down</source>
+        <translation>Eintrag nach unten</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Ab</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+</context>
+<context>
+    <name>BOMPartCreator</name>
+    <message>
+        <source>BOM Part Creator</source>
+        <translation>Bauteile nur für die Stückliste anlegen</translation>
+    </message>
+    <message>
+        <source>Parent Part</source>
+        <translation>Gehört zu</translation>
+    </message>
+    <message>
+        <source>Category of the parent part</source>
+        <translation>Kategorie des Bauteils, zu dem sie gehören</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Menge</translation>
+    </message>
+    <message>
+        <source>Reference Prefix</source>
+        <translation>Referenzpräfix</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Anlegen</translation>
+    </message>
+    <message>
+        <source>Alt+C</source>
+        <translation>Alt+A</translation>
+    </message>
+    <message>
+        <source>Create the BOM parts and keep the dialog open</source>
+        <translation>Die Bauteile anlegen und das Fenster offen lassen</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>The &lt;b&gt;Prefix&lt;/b&gt; must not be empty.  Also, it must not end with a number or &apos;\&apos;.</source>
+        <translation>Das &lt;b&gt;Präfix&lt;/b&gt; darf nicht leer sein.  Es darf auch nicht mit einer Ziffer oder „\“ enden.</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;The &lt;b&gt;Value&lt;/b&gt; must not be empty. Also, it must not end with a &apos;\&apos;.</source>
+        <translation>&lt;br&gt;Der &lt;b&gt;Wert&lt;/b&gt; darf nicht leer sein. Er darf auch nicht mit „\“ enden.</translation>
+    </message>
+    <message>
+        <source>&lt;br&gt;The &lt;b&gt;Parent Part&lt;/b&gt; must be one of the list.</source>
+        <translation>&lt;br&gt;&lt;b&gt;Gehört zu&lt;/b&gt; muss ein Bauteil der Liste nennen.</translation>
+    </message>
+    <message>
+        <source>Invalid Options</source>
+        <translation>Ungültige Angaben</translation>
+    </message>
+    <message>
+        <source>Could not create BOM parts</source>
+        <translation>Bauteile nicht angelegt</translation>
+    </message>
+    <message>
+        <source>Created: %1</source>
+        <translation>Angelegt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>BOMPartRemover</name>
+    <message>
+        <source>BOM Part Remover</source>
+        <translation>Bauteil nur für die Stückliste entfernen</translation>
+    </message>
+    <message>
+        <source>Parent Part</source>
+        <translation>Gehört zu</translation>
+    </message>
+    <message>
+        <source>BOM Part</source>
+        <translation>Bauteil</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Alt+R</source>
+        <translation>Alt+E</translation>
+    </message>
+    <message>
+        <source>Could not remove the BOM part</source>
+        <translation>Bauteil nicht entfernt</translation>
     </message>
 </context>
 <context>
@@ -476,6 +865,21 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>DockWidget</name>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Hide the options</source>
+        <translation>Optionen ausblenden</translation>
+    </message>
+    <message>
+        <source>Show the options</source>
+        <translation>Optionen einblenden</translation>
+    </message>
+</context>
+<context>
     <name>EmbeddedImage</name>
     <message>
         <source>The file cannot be read: </source>
@@ -503,6 +907,17 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>Drop a KiCad schematic (.kicad_sch), a KiCad project (.kicad_pro) or a part list (.csv) on this window, or choose one.</source>
         <translation>Ziehen Sie einen KiCad-Schaltplan (.kicad_sch), ein KiCad-Projekt (.kicad_pro) oder eine Bauteilliste (.csv) auf dieses Fenster, oder wählen Sie eine Datei.</translation>
+    </message>
+</context>
+<context>
+    <name>FieldWidthSpinBox</name>
+    <message>
+        <source>No Limit</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source> Characters</source>
+        <translation> Zeichen</translation>
     </message>
 </context>
 <context>
@@ -562,6 +977,17 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>Incomplete BOM Template</source>
         <translation>Unvollständige Stücklistenvorlage</translation>
+    </message>
+</context>
+<context>
+    <name>NotesEditor</name>
+    <message>
+        <source>BOM Notes Editor</source>
+        <translation>Notizen zur Stückliste bearbeiten</translation>
+    </message>
+    <message>
+        <source>BOM notes</source>
+        <translation>Notizen zur Stückliste</translation>
     </message>
 </context>
 <context>

@@ -8,6 +8,7 @@
 #include "editors/bomtemplateimporter.h"
 #include "editors/physicalpropertycreator.h"
 #include "looks/iconsheet.h"
+#include "looks/panelpictures.h"
 #include "richtext/editor/textedit.h"
 #include "richtext/editor/textstyleeditor.h"
 #include "support/fakenetlist.h"
@@ -111,7 +112,7 @@ std::shared_ptr<QWidget> mainWindow()
 
 QList<Picture> pictures()
 {
-    return {
+    const QList<Picture> own = {
         {QStringLiteral("icons"), icons},
         {QStringLiteral("main-window"), mainWindow},
         {QStringLiteral("advanced-settings-widths"), [] { return advancedSettings(0); }},
@@ -123,4 +124,5 @@ QList<Picture> pictures()
         {QStringLiteral("template-editor"), templateEditor},
         {QStringLiteral("style-editor"), styleEditor},
     };
+    return own + panelPictures();
 }
