@@ -13,6 +13,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -22,9 +23,55 @@ constexpr int allCharacters = 1'000'000'000;
 /// Properties that are worked out, or written by commands of their own.
 bool isEditableProperty(const QString &property)
 {
-    return !property.isEmpty() && property != placedProperty() && property != nameProperty() &&
-           property.compare(bomLinksProperty(), Qt::CaseInsensitive) != 0 &&
+    const auto is = [&property](const QString &name) {
+        return property.compare(name, Qt::CaseInsensitive) == 0;
+    };
+    return !property.isEmpty() && !is(placedProperty()) && !is(nameProperty()) && !is(bomLinksProperty()) &&
            !property.startsWith(bomPartPropertyStart(), Qt::CaseInsensitive);
+}
+
+/// Takes the digits at the front of a text, without zeros before them.
+QStringView takeDigits(QStringView *text)
+{
+    qsizetype end = 0;
+    while (end < text->size() && text->at(end) >= u'0' && text->at(end) <= u'9') {
+        ++end;
+    }
+    QStringView digits = text->first(end);
+    *text = text->sliced(end);
+    while (digits.size() > 1 && digits.front() == u'0') {
+        digits = digits.sliced(1);
+    }
+    return digits;
+}
+
+/// Negative, 0 or positive: whatever the letter case, and 2k before 10k.
+int compareNaturally(QStringView left, QStringView right)
+{
+    while (!left.isEmpty() && !right.isEmpty()) {
+        const QStringView leftDigits = takeDigits(&left);
+        const QStringView rightDigits = takeDigits(&right);
+        if (leftDigits.isEmpty() != rightDigits.isEmpty()) {
+            return leftDigits.isEmpty() ? 1 : -1;
+        }
+        if (leftDigits.size() != rightDigits.size()) {
+            return leftDigits.size() < rightDigits.size() ? -1 : 1;
+        }
+        if (const int order = leftDigits.compare(rightDigits); order != 0) {
+            return order;
+        }
+        if (!leftDigits.isEmpty()) {
+            continue;
+        }
+        const QChar leftLetter = left.front().toCaseFolded();
+        const QChar rightLetter = right.front().toCaseFolded();
+        if (leftLetter != rightLetter) {
+            return leftLetter < rightLetter ? -1 : 1;
+        }
+        left = left.sliced(1);
+        right = right.sliced(1);
+    }
+    return int(!left.isEmpty()) - int(!right.isEmpty());
 }
 
 bool isFootprint(const QString &key)
@@ -37,13 +84,6 @@ bool isFootprint(const QString &key)
 QString PropertyCell::shownText() const
 {
     return isDifferent ? QCoreApplication::translate("PropertyCell", "(different)") : text;
-}
-
-PropertyRows::PropertyRows()
-    : m_collator(HostUi::current().locale())
-{
-    m_collator.setNumericMode(true);
-    m_collator.setCaseSensitivity(Qt::CaseInsensitive);
 }
 
 PropertyRows PropertyRows::read(const BOMPartsDatabase &database, const PropertyAssignments *assignments,
@@ -173,7 +213,6 @@ bool PropertyRows::takeTexts(PropertyRows &&other)
     }
     m_columns = std::move(other.m_columns);
     std::move(other.m_rows.begin(), other.m_rows.end(), m_rows.begin());
-    m_collator = other.m_collator;
     return true;
 }
 
@@ -222,14 +261,14 @@ bool PropertyRows::isBefore(const PropertyRow &left, const PropertyRow &right, s
     const QString &rightText = right.cells[column].sortText;
     int order = 0;
     if (m_columns[column].isNumeric) {
-        const NumberReader reader(m_collator.locale());
+        const NumberReader reader(HostUi::current().locale());
         const double lowest = -std::numeric_limits<double>::infinity();
         const double leftNumber = reader.read(leftText).value_or(lowest);
         const double rightNumber = reader.read(rightText).value_or(lowest);
         order = int(leftNumber > rightNumber) - int(leftNumber < rightNumber);
     }
-    if (order == 0 && leftText != rightText) {
-        order = m_collator.compare(leftText, rightText);
+    if (order == 0) {
+        order = compareNaturally(leftText, rightText);
     }
     return order != 0 ? order < 0 : left.number < right.number;
 }

@@ -5,7 +5,6 @@
 #include "core/groupedlines.h"
 #include "core/propertyquery.h"
 
-#include <QCollator>
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -84,8 +83,6 @@ public:
         bool isGrouped = false;
     };
 
-    PropertyRows();
-
     /// Reads the columns of the template and the rows. `assignments` may be null.
     [[nodiscard]] static PropertyRows read(const BOMPartsDatabase &database,
                                            const PropertyAssignments *assignments, const Choice &choice);
@@ -129,7 +126,6 @@ private:
     std::vector<PropertyColumn> m_columns;
     std::vector<PropertyRow> m_rows;
     QHash<QString, int> m_rowOf;
-    QCollator m_collator;
     Source m_source;
     std::vector<PropertyQuery> m_queries;
 };

@@ -247,6 +247,8 @@ PropertyItem *PropertyTable::fieldAt(int row, int column) const
 void PropertyTable::freezeSorting()
 {
     m_context.rows.takeSortTexts();
+    // Hidden rows make sorting slow; afterwards the filter hides others.
+    showRows(RowFilter());
 }
 
 void PropertyTable::setFilter(const RowFilter &filter)
@@ -257,18 +259,22 @@ void PropertyTable::setFilter(const RowFilter &filter)
 
 void PropertyTable::applyFilter()
 {
-    if (m_isFilling) {
-        return;
+    if (!m_isFilling) {
+        showRows(m_filter);
+        Q_EMIT shownRowsChanged();
     }
+}
+
+void PropertyTable::showRows(const RowFilter &filter)
+{
     QHeaderView &header = *m_table->verticalHeader();
     // A header that may paint works out the places of all rows for each one that changes.
     header.setUpdatesEnabled(false);
     m_shownRows = 0;
     for (int row = 0; row < m_table->rowCount(); ++row) {
-        const bool isShown = m_filter.isOpen() || m_filter.accepts(m_context.rows, *rowAt(row));
+        const bool isShown = filter.isOpen() || filter.accepts(m_context.rows, *rowAt(row));
         header.setSectionHidden(row, !isShown);
         m_shownRows += isShown ? 1 : 0;
     }
     header.setUpdatesEnabled(true);
-    Q_EMIT shownRowsChanged();
 }

@@ -76,6 +76,7 @@ private:
     void takeRequired();
     void freezeSorting();
     void applyFilter();
+    void showRows(const RowFilter &filter);
 
     BOMTableWidget *m_table;
     CellContext m_context;

@@ -7,6 +7,8 @@
 #include <QScrollBar>
 #include <QTableWidget>
 
+#include <algorithm>
+
 namespace {
 
 QString referenceOf(const QTableWidget &table, int row)
@@ -19,6 +21,28 @@ QString headingOf(const QTableWidget &table, int column)
 {
     const QTableWidgetItem *item = table.horizontalHeaderItem(column);
     return item ? item->text() : QString();
+}
+
+/// Numbers that follow each other.
+struct Run
+{
+    int first = 0;
+    int last = 0;
+};
+
+/// Without those below 0.
+QList<Run> runsOf(QList<int> numbers)
+{
+    std::sort(numbers.begin(), numbers.end());
+    QList<Run> runs;
+    for (const int number : numbers) {
+        if (number >= 0 && !runs.isEmpty() && number <= runs.last().last + 1) {
+            runs.last().last = number;
+        } else if (number >= 0) {
+            runs.append({number, number});
+        }
+    }
+    return runs;
 }
 
 } // namespace
@@ -54,30 +78,22 @@ void TablePlace::restore(QTableWidget *table, const std::function<int(const QStr
     }
     QItemSelection selection;
     for (const Block &block : m_selection) {
+        QList<int> rows;
         for (const QString &reference : block.references) {
-            const int row = rowOf(reference);
-            for (const QString &heading : row >= 0 ? block.headings : QList<QString>()) {
-                const QModelIndex index = table->model()->index(row, columns.value(heading, -1));
-                // Neighbours become one range: many thousand of one cell would be slow.
-                if (!selection.isEmpty() && selection.last().right() + 1 == index.column() &&
-                    selection.last().top() == row && index.isValid()) {
-                    selection.last() = {selection.last().topLeft(), index};
-                } else if (index.isValid()) {
-                    selection.append({index, index});
-                }
+            rows.append(rowOf(reference));
+        }
+        QList<int> blockColumns;
+        for (const QString &heading : block.headings) {
+            blockColumns.append(columns.value(heading, -1));
+        }
+        for (const Run &row : runsOf(std::move(rows))) {
+            for (const Run &column : runsOf(blockColumns)) {
+                selection.append({table->model()->index(row.first, column.first),
+                                  table->model()->index(row.last, column.last)});
             }
         }
     }
-    QItemSelection joined;
-    for (const QItemSelectionRange &range : selection) {
-        if (!joined.isEmpty() && joined.last().left() == range.left() &&
-            joined.last().right() == range.right() && joined.last().bottom() + 1 == range.top()) {
-            joined.last() = {joined.last().topLeft(), range.bottomRight()};
-        } else {
-            joined.append(range);
-        }
-    }
-    table->selectionModel()->select(joined, QItemSelectionModel::Select);
+    table->selectionModel()->select(selection, QItemSelectionModel::Select);
     if (const int top = rowOf(m_topReference); top >= 0) {
         table->scrollTo(table->model()->index(top, 0), QAbstractItemView::PositionAtTop);
     }

@@ -3,8 +3,15 @@
 #include "editors/bomdataview.h"
 
 #include "editors/dataviewfixture.h"
+#include "host/widgets/blankingdoublespinbox.h"
+#include "host/widgets/blankingspinbox.h"
+#include "host/widgets/keywordvalueeditor.h"
+
+#include <QLabel>
 
 namespace {
+
+using Messages = QList<ScriptedUi::Message>;
 
 TEST_F(DataView, ShowsPartsInReferenceOrderWithAColumnForEachField)
 {
@@ -43,6 +50,190 @@ TEST_F(DataView, RecordsWhatIsTypedForEachPartOfTheLine)
     EXPECT_EQ(pending(), "R1 CODE=x, R2 CODE=x, R3 CODE=abc");
     type("R1-R2", "F CODE", u"b"_s);
     EXPECT_EQ(pending(), "R3 CODE=abc") << "the design's own text is no edit";
+}
+
+TEST_F(DataView, OpensTheEditorThatSuitsTheProperty)
+{
+    const auto editorOf = [this](const char *heading) {
+        table->setFocus();
+        table->setCurrentItem(cell("R1", heading));
+        QTest::keyClick(table, Qt::Key_Return);
+        return QApplication::focusWidget();
+    };
+    const auto isIn = [](const QWidget *focused, const QMetaObject &type) {
+        return type.cast(focused) || type.cast(focused->parentWidget());
+    };
+    EXPECT_TRUE(isIn(editorOf("F FIT"), KeywordValueEditor::staticMetaObject));
+    EXPECT_TRUE(isIn(editorOf("F COST"), BlankingDoubleSpinBox::staticMetaObject));
+    EXPECT_TRUE(isIn(editorOf("F AMOUNT"), BlankingSpinBox::staticMetaObject));
+    EXPECT_TRUE(isIn(editorOf("F CODE"), QLineEdit::staticMetaObject));
+    for (const char *heading : {"References", "Category", "F .Placed"}) {
+        EXPECT_EQ(editorOf(heading), table) << heading;
+    }
+    EXPECT_EQ(pending(), "");
+}
+
+TEST_F(DataView, PutsTheOldTextBackWhereOneIsRefused)
+{
+    QSignalSpy status(&view, &BOMDataView::statusMessage);
+    cell("C1", "F COST")->setText(u"cheap"_s);
+    cell("R1", "F VALUE")->setText(u" "_s);
+    cell("R1", "F VALUE")->setText(u"[REMOVE]"_s);
+    EXPECT_EQ(pending(), "");
+    EXPECT_EQ(text("C1", "F COST"), "0.5");
+    EXPECT_EQ(text("R1", "F VALUE"), "1k");
+    ASSERT_EQ(status.size(), 3);
+    EXPECT_EQ(status.first().first().toString(),
+              u"C1, F COST: the property does not take this text; the text stays as it was."_s);
+    cell("R1", "F FIT")->setText(u"0"_s);
+    cell("SCR1", "F VALUE")->setText(QString());
+    EXPECT_EQ(pending(), "R1 FIT=No, SCR1 VALUE=");
+}
+
+TEST_F(DataView, AsksBeforePendingEditsAreForgotten)
+{
+    cell("R1", "F CODE")->setText(u"x"_s);
+    QSignalSpy pendingSpy(&view, &BOMDataView::pendingPropertyAssignments);
+    click("clearPendingChangesBtn");
+    EXPECT_EQ(ui.questions, (Messages{{u"Clear Pending Changes"_s,
+                                       u"Clear pending property assignments, are you sure?"_s}}));
+    EXPECT_EQ(pending(), "R1 CODE=x");
+    EXPECT_TRUE(isBlue(cell("R1", "F CODE")));
+    EXPECT_TRUE(pendingSpy.isEmpty());
+    ui.answer = true;
+    click("clearPendingChangesBtn");
+    EXPECT_EQ(text("R1", "F CODE"), "b");
+    EXPECT_FALSE(isBlue(cell("R1", "F CODE")));
+    EXPECT_FALSE(pendingSpy.last().first().toBool());
+    EXPECT_FALSE(child<QWidget>("clearPendingChangesBtn")->isEnabled());
+}
+
+TEST_F(DataView, WritesWhatIsPendingAndNamesWhatStays)
+{
+    view.applyPropertyValues();
+    EXPECT_TRUE(ui.informations.isEmpty());
+    cell("R3", "F CODE")->setText(u"mine"_s);
+    cell("C1", "F CODE")->setText(u"x"_s);
+    r3Code = "theirs";
+    reload();
+    QTableWidgetItem *conflict = cell("R3", "F CODE");
+    EXPECT_EQ(conflict->text(), u"mine"_s);
+    EXPECT_FALSE(conflict->data(Qt::DecorationRole).isNull());
+    for (const QString &said : {u"Now: theirs"_s, u"Before: (empty)"_s, u"Your edit: mine"_s}) {
+        EXPECT_TRUE(conflict->toolTip().contains(said)) << qPrintable(conflict->toolTip());
+    }
+    QSignalSpy pendingSpy(&view, &BOMDataView::pendingPropertyAssignments);
+    QSignalSpy status(&view, &BOMDataView::statusMessage);
+    click("applyPropDefsBtn");
+    ASSERT_EQ(ui.informations.size(), 1);
+    EXPECT_EQ(ui.informations.first().title, u"ADI scripting results"_s);
+    EXPECT_EQ(pending(), "R3 CODE=mine");
+    EXPECT_TRUE(status.first().first().toString().endsWith(u": R3 CODE"_s));
+    EXPECT_TRUE(pendingSpy.last().first().toBool()) << "something is";
+}
+
+TEST_F(DataView, WaitsWithAReloadUntilTheEditorIsClosed)
+{
+    table->setCurrentItem(cell("R3", "F CODE"));
+    table->setFocus();
+    QTest::keyClick(table, 't');
+    EXPECT_TRUE(view.isBusy());
+    r3Code = "theirs";
+    reload();
+    QWidget *editor = QApplication::focusWidget();
+    ASSERT_NE(editor, table);
+    QTest::keyClicks(editor, u"yped on"_s);
+    EXPECT_EQ(row("SCR1"), 5) << "not filled yet";
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_VERIFY(!view.isBusy());
+    QTRY_COMPARE(table->currentItem(), cell("R10", "F CODE"));
+    EXPECT_EQ(pending(), "R3 CODE=typed on");
+}
+
+TEST_F(DataView, StaysWhereTheUserIsWhenTheDesignIsReadAgain)
+{
+    table->sortByColumn(column("F VALUE"), Qt::DescendingOrder);
+    child<QLineEdit>("filterEdit")->setText(u"resist"_s);
+    table->setCurrentItem(cell("R3", "F CODE"));
+    const std::string before = rows();
+    EXPECT_EQ(before, "R10 R3 R2 R1");
+    hasMore = true;
+    reload();
+    EXPECT_EQ(rows(), "R10 R4 R3 R2 R1");
+    EXPECT_EQ(table->currentItem(), cell("R3", "F CODE"));
+    EXPECT_EQ(table->selectedItems(), QList{cell("R3", "F CODE")});
+    hasMore = false;
+    reload();
+    EXPECT_EQ(rows(), before);
+    EXPECT_EQ(table->selectedItems(), QList{cell("R3", "F CODE")});
+}
+
+TEST_F(DataView, RowsStayWhileTheyAreEditedUntilTheyAreSortedAgain)
+{
+    table->sortByColumn(column("F CODE"), Qt::AscendingOrder);
+    const std::string before = rows();
+    EXPECT_EQ(before, "C1 R3 SCR1 U1 R10 R1 R2");
+    cell("C1", "F CODE")->setText(u"z"_s);
+    EXPECT_EQ(rows(), before);
+    table->sortByColumn(column("F CODE"), Qt::DescendingOrder);
+    EXPECT_EQ(rows(), "C1 R2 R1 R10 U1 SCR1 R3");
+}
+
+TEST_F(DataView, ShowsOnlyTheRowsThatTheFilterWants)
+{
+    auto *filter = child<QLineEdit>("filterEdit");
+    auto *kind = child<QComboBox>("rowsCombo");
+    filter->setFocus();
+    QTest::keyClicks(filter, u"resist 1K"_s);
+    EXPECT_EQ(rows(), "R1 R2");
+    EXPECT_EQ(child<QLabel>("countLabel")->text(), u"2 of 7"_s);
+    filter->setText(u"fcode:b"_s);
+    EXPECT_EQ(rows(), "R1 R2");
+    QTest::keyClick(filter, Qt::Key_Escape);
+    EXPECT_EQ(rows(), "C1 R1 R2 R3 R10 SCR1 U1");
+    cell("R2", "F CODE")->setText(u"x"_s);
+    kind->setCurrentIndex(1);
+    EXPECT_EQ(rows(), "R2");
+    child<BOMTableWidget>("partsView")->sortByColumn(0, Qt::DescendingOrder);
+    EXPECT_EQ(rows(), "R2");
+    kind->setCurrentIndex(2);
+    EXPECT_EQ(rows(), "");
+}
+
+TEST_F(DataView, SaysWhereThePartsOfALineDiffer)
+{
+    cell("R1", "F CODE")->setText(u"x"_s);
+    click("groupingCheckbox");
+    const char *line = "R1-R2";
+    QTableWidgetItem *item = cell(line, "F CODE");
+    EXPECT_EQ(item->text(), u"(different)"_s);
+    EXPECT_TRUE(item->toolTip().contains(u"b: R2\nx: R1"_s)) << qPrintable(item->toolTip());
+    table->setCurrentItem(item);
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_F2);
+    auto *editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+    ASSERT_TRUE(editor);
+    EXPECT_EQ(editor->text(), QString());
+    EXPECT_EQ(editor->placeholderText(), u"(different)"_s);
+    QTest::keyClick(editor, Qt::Key_Return);
+    table->setRangeSelected({row(line), 2, row(line), 3}, true);
+    EXPECT_EQ(pending(), "R1 CODE=x") << "left as it was";
+    type(line, "F CODE", u"both"_s);
+    EXPECT_EQ(pending(), "R1 CODE=both, R2 CODE=both");
+}
+
+TEST_F(DataView, RecordsNothingWithoutADatabase)
+{
+    view.setPartsDatabase(nullptr);
+    cell("R1", "F CODE")->setText(u"x"_s);
+    EXPECT_EQ(pending(), "");
+    EXPECT_EQ(text("R1", "F CODE"), "b");
+    view.handleBOMDataUpdate();
+    EXPECT_EQ(table->rowCount(), 0);
+    view.setAssignments(nullptr);
+    view.applyPropertyValues();
+    view.clearPendingChanges();
+    EXPECT_FALSE(view.hasPendingAssignments());
 }
 
 } // namespace

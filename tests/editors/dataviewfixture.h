@@ -60,7 +60,10 @@ protected:
         netlist.add("R10", "10k", {{"CODE", "a"}});
         netlist.add("R1", "1k", {{"CODE", "b"}, {"FIT", "1"}});
         netlist.add("R2", "1k", {{"CODE", "b"}, {"FIT", "1"}});
-        netlist.add("R3", "2k", {{"BOMLINKS", "CODE=http%3A%2F%2Fx,COST=docs%2Fa.pdf"}});
+        if (hasMore) {
+            netlist.add("R4", "4k");
+        }
+        netlist.add("R3", "2k", {{"CODE", r3Code}, {"BOMLINKS", "CODE=http%3A%2F%2Fx,COST=docs%2Fa.pdf"}});
         netlist.add("C1", "100n", {{"COST", "0.5"}});
         netlist.add("U1", "reg", {{"BOMPART1", "'1','SCR','M3'"}});
     }
@@ -159,6 +162,9 @@ protected:
     FakeProcess process;
     FakeCdb cdb;
     FakeNetlist netlist;
+    /// What the files hold at the next reload().
+    QByteArray r3Code;
+    bool hasMore = false;
     BOMPartsDatabase database;
     PropertyAssignments assignments{&database};
     BOMDataView view;
