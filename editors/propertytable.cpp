@@ -22,11 +22,6 @@ namespace {
 constexpr int measuredRows = 50;
 constexpr int widestAtFirst = 260;
 
-QString viewText(const char *text)
-{
-    return QCoreApplication::translate("BOMDataView", text);
-}
-
 } // namespace
 
 PropertyTable::PropertyTable(BOMTableWidget *table)
@@ -111,8 +106,8 @@ void PropertyTable::makeColumns()
         item->setData(PropValEditDelegate::IsEditableRole, isEditable);
         m_table->setHorizontalHeaderItem(column, item);
     };
-    setHeader(ReferenceColumn, viewText("References"), {}, false);
-    setHeader(CategoryColumn, viewText("Category"), {}, false);
+    setHeader(ReferenceColumn, QCoreApplication::translate("BOMDataView", "References"), {}, false);
+    setHeader(CategoryColumn, QCoreApplication::translate("BOMDataView", "Category"), {}, false);
     int column = FirstField;
     for (const PropertyColumn &field : m_context.rows.columns()) {
         setHeader(column++, field.heading, field.property, field.isEditable);

@@ -4,20 +4,26 @@
 
 #include "app/workbench.h"
 #include "core/bompartsdatabase.h"
+#include "core/propertyassignments.h"
 #include "editors/advancedsettings.h"
+#include "editors/bomdataview.h"
 #include "editors/bomtemplateimporter.h"
 #include "editors/physicalpropertycreator.h"
 #include "looks/iconsheet.h"
 #include "looks/panelpictures.h"
 #include "richtext/editor/textedit.h"
 #include "richtext/editor/textstyleeditor.h"
+#include "support/fakecdb.h"
 #include "support/fakenetlist.h"
 #include "support/testpaths.h"
 #include "templates/bomtemplate.h"
 #include "templates/templatestore.h"
 #include "views/bomtemplateeditor.h"
 
+#include <QCheckBox>
+#include <QLineEdit>
 #include <QTabWidget>
+#include <QTableWidget>
 
 namespace {
 
@@ -97,6 +103,88 @@ std::shared_ptr<QWidget> styleEditor()
     return dialog;
 }
 
+/// The property editor with parts of all kinds, after the design was changed under a pending edit.
+struct EditorScene
+{
+    EditorScene()
+    {
+        BOMTemplate settings;
+        BOMFields fields;
+        for (const auto &[heading, property] :
+             {std::pair("Value", "VALUE"), std::pair("Footprint", "PACKAGE"), std::pair("MPN", "MPN"),
+              std::pair("Manufacturer", "MAKER"), std::pair("Unit Cost", "COST"),
+              std::pair("Side", ".Placed")}) {
+            BOMField field;
+            field.fieldName = QLatin1String(heading);
+            field.propertyName = QLatin1String(property);
+            fields.add(field);
+        }
+        settings.setFields(fields);
+        database.setCurrentTemplate(settings);
+        database.setNetlist(netlist.cache());
+        load("GRM188R71H104KA93D");
+        view.setPartsDatabase(&database);
+        view.setAssignments(&assignments);
+        view.resize(900, 480);
+    }
+    void load(const QByteArray &mpn)
+    {
+        netlist.clear();
+        netlist.add("C1", "100nF", {{"PACKAGE", "Capacitor_SMD:C_0603_1608Metric"}, {"MPN", mpn}});
+        netlist.add("C2", "100nF", {{"PACKAGE", "Capacitor_SMD:C_0603_1608Metric"}, {"MPN", mpn}});
+        netlist.add("R1", "10k",
+                    {{"PACKAGE", "Resistor_SMD:R_0603_1608Metric"},
+                     {"MPN", "RC0603FR-0710KL"},
+                     {"COST", "0.01"},
+                     {"MAKER", "Yageo"},
+                     {"BOMLINKS", "MPN=https%3A%2F%2Fexample.com%2Frc0603"}});
+        netlist.add("R2", "4k7", {{"PACKAGE", "Resistor_SMD:R_0603_1608Metric"}, {"MPN", "RC0603FR-074K7L"}});
+        netlist.add("R10", "4k7", {{"MPN", "RC0603FR-074K7L"}});
+        netlist.add("U1", "LM358", {{"PACKAGE", "Package_SO:SOIC-8"}, {"BOMPART1", "'2','SCR','M3x8'"}});
+        database.reload();
+    }
+    template<class Widget>
+    Widget *child(const char *name) const
+    {
+        return view.findChild<Widget *>(QLatin1String(name));
+    }
+
+    FakeCdb cdb;
+    FakeNetlist netlist;
+    BOMPartsDatabase database;
+    PropertyAssignments assignments{&database};
+    BOMDataView view;
+};
+
+std::shared_ptr<QWidget> propertyEditor()
+{
+    const auto scene = std::make_shared<EditorScene>();
+    scene->assignments.assign(QStringLiteral("C1"), QStringLiteral("MPN"), QStringLiteral("CL10B104KB8NNNC"));
+    scene->assignments.assign(QStringLiteral("R2"), QStringLiteral("MAKER"), QStringLiteral("Yageo"));
+    scene->assignments.assign(QStringLiteral("U1"), QStringLiteral("COST"), QStringLiteral("0.45"));
+    scene->load("GCM188R71H104KA57D");
+    scene->child<QCheckBox>("showLinksCheckBox")->click();
+    return {scene, &scene->view};
+}
+
+std::shared_ptr<QWidget> groupedPropertyEditor()
+{
+    const auto scene = std::make_shared<EditorScene>();
+    scene->assignments.assign(QStringLiteral("C1"), QStringLiteral("MPN"), QStringLiteral("CL10B104KB8NNNC"));
+    scene->child<QCheckBox>("groupingCheckbox")->click();
+    scene->child<QLineEdit>("filterEdit")->setText(QStringLiteral("smd"));
+    scene->child<QTableWidget>("partsView")->setCurrentCell(1, 3);
+    return {scene, &scene->view};
+}
+
+std::shared_ptr<QWidget> emptyPropertyEditor()
+{
+    const auto view = std::make_shared<BOMDataView>();
+    view->resize(900, 300);
+    view->handleBOMDataUpdate();
+    return view;
+}
+
 std::shared_ptr<QWidget> mainWindow()
 {
     const auto bench = std::make_shared<Workbench>();
@@ -120,6 +208,9 @@ QList<Picture> pictures()
         {QStringLiteral("advanced-settings-data"), [] { return advancedSettings(2); }},
         {QStringLiteral("advanced-settings-other"), [] { return advancedSettings(3); }},
         {QStringLiteral("property-creator"), propertyCreator},
+        {QStringLiteral("property-editor"), propertyEditor},
+        {QStringLiteral("property-editor-grouped"), groupedPropertyEditor},
+        {QStringLiteral("property-editor-empty"), emptyPropertyEditor},
         {QStringLiteral("template-importer"), templateImporter},
         {QStringLiteral("template-editor"), templateEditor},
         {QStringLiteral("style-editor"), styleEditor},
