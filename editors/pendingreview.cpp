@@ -78,7 +78,9 @@ void PendingReview::refresh()
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const auto restored = qScopeGuard([] { QApplication::restoreOverrideCursor(); });
     const int row = m_ui->changesView->currentIndex().row();
-    m_model->setChanges(PendingChanges(m_assignments->edits(), m_assignments->preview(), m_database));
+    // First, as the edits may follow their parts then.
+    const auto preview = m_assignments->preview();
+    m_model->setChanges(PendingChanges(m_assignments->edits(), preview, m_database));
     if (!m_ui->changesView->currentIndex().isValid() && m_sorter->rowCount() > 0) {
         m_ui->changesView->selectRow(std::clamp(row, 0, m_sorter->rowCount() - 1));
     }

@@ -109,8 +109,8 @@ private:
     QMultiHash<QString, const CDBCHANGE *> m_ofReference;
     QHash<Key, const CDBCHANGE *> m_changes;
     QMultiHash<Key, const CDBPROBLEM *> m_problems;
-    /// Of the properties of a placed part that define BOM-only parts.
-    QHash<QString, const CDBCHANGE *> m_definitions;
+    /// Of the properties of a placed part that define BOM-only parts: those behind an edited one move.
+    QHash<QString, QList<const CDBCHANGE *>> m_definitions;
     QMultiHash<QString, const CDBPROBLEM *> m_definitionProblems;
     QSet<const CDBPROBLEM *> m_told;
 };
@@ -127,7 +127,7 @@ PendingChanges::Builder::Builder(const std::optional<ApplyPreview> &preview, con
         m_changes.insert(keyOf(change.reference, change.askedName.isEmpty() ? change.name : change.askedName),
                          &change);
         if (isDefinition(change.name)) {
-            m_definitions.insert(change.reference, &change);
+            m_definitions[change.reference].append(&change);
         }
     }
     for (const CDBPROBLEM &problem : preview->problems) {
@@ -161,11 +161,18 @@ ReviewRow PendingChanges::Builder::row(const PendingEdit &edit)
 void PendingChanges::Builder::addDefinition(const QString &parent, ReviewRow *row)
 {
     addReasons(m_definitionProblems.values(parent), row);
-    if (const CDBCHANGE *change = m_definitions.value(parent)) {
-        row->definition = tr("%1 of %2").arg(change->name, parent);
-        row->file = change->file;
-        row->line = change->line;
-        row->alsoChanges = change->alsoChanges;
+    QStringList names;
+    for (const CDBCHANGE *change : m_definitions.value(parent)) {
+        names << change->name;
+        if (row->file.isEmpty()) {
+            row->file = change->file;
+            row->line = change->line;
+            row->alsoChanges = change->alsoChanges;
+        }
+    }
+    if (!names.isEmpty()) {
+        names.sort();
+        row->definition = tr("%1 of %2").arg(names.join(QStringLiteral(", ")), parent);
     }
 }
 

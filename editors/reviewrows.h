@@ -33,8 +33,8 @@ struct ReviewRow
     ReviewState state = ReviewState::Fits;
     /// As people see it, like the new value in the edit.
     QString before;
-    /// The property of the placed part in whose definition the change of a BOM-only part is written,
-    /// "BOMPART1 of U1"; empty for placed parts.
+    /// The properties of the placed part in which a change of a BOM-only part is written, "BOMPART1 of U1";
+    /// empty for placed parts.
     QString definition;
     /// Absolute, the line counted from 1; empty where nothing is written or the host cannot tell.
     QString file;
