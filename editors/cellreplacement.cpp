@@ -4,11 +4,13 @@
 
 #include "core/numberreader.h"
 #include "host/framework/hostui.h"
+#include "host/widgets/styleditemdelegate.h"
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMetaProperty>
+#include <QPersistentModelIndex>
 #include <QSignalBlocker>
 #include <QStyleOptionViewItem>
 #include <QTableWidget>
@@ -16,35 +18,6 @@
 #include <memory>
 
 namespace {
-
-/// An open editor of a cell that nobody sees.
-class CellEditor final
-{
-public:
-    CellEditor(QTableWidget *table, const QModelIndex &index)
-        : m_delegate(table->itemDelegateForIndex(index))
-        , m_index(index)
-    {
-        QStyleOptionViewItem option;
-        option.initFrom(table);
-        m_editor = m_delegate->createEditor(table->viewport(), option, index);
-    }
-    CellEditor(const CellEditor &) = delete;
-    CellEditor &operator=(const CellEditor &) = delete;
-    /// At once: many thousand are opened before the event loop could come around to those that a delegate
-    /// leaves to it.
-    ~CellEditor() { delete m_editor; }
-
-    [[nodiscard]] bool isOpen() const { return m_editor != nullptr; }
-    [[nodiscard]] QWidget *widget() const { return m_editor; }
-    void load() { m_delegate->setEditorData(m_editor, m_index); }
-    void commit(QTableWidget *table) { m_delegate->setModelData(m_editor, table->model(), m_index); }
-
-private:
-    QAbstractItemDelegate *m_delegate;
-    QModelIndex m_index;
-    QWidget *m_editor = nullptr;
-};
 
 /// False where the editor does not take the text.
 bool enterText(QWidget *editor, const QString &text)
@@ -67,6 +40,30 @@ bool enterText(QWidget *editor, const QString &text)
         return lineEdit->hasAcceptableInput();
     }
     return editor->metaObject()->userProperty().write(editor, text);
+}
+
+/// Opens the editor of a cell, which nobody sees, enters the text and commits. False where the editor does
+/// not take it.
+bool enterIntoCell(QTableWidget *table, const QModelIndex &index, const QString &text)
+{
+    QAbstractItemDelegate *delegate = table->itemDelegateForIndex(index);
+    if (const auto *styled = qobject_cast<StyledItemDelegate *>(delegate)) {
+        return styled->enterText(table->model(), index, text);
+    }
+    QStyleOptionViewItem option;
+    option.initFrom(table);
+    // It goes at once: many thousand are opened before the event loop could come around to those that a
+    // delegate leaves to it.
+    const std::unique_ptr<QWidget> editor(delegate->createEditor(table->viewport(), option, index));
+    if (!editor) {
+        return false;
+    }
+    delegate->setEditorData(editor.get(), index);
+    if (!enterText(editor.get(), text)) {
+        return false;
+    }
+    delegate->setModelData(editor.get(), table->model(), index);
+    return true;
 }
 
 bool isSameNumber(const QString &one, const QString &other)
@@ -110,32 +107,36 @@ private:
 } // namespace
 
 // What the editor makes of a text is known only once the delegate has taken it over. So this is first done
-// with the model's signals blocked and taken back; only a text that is to stand is then set where everybody
-// is told, and becomes an edit.
+// with the model's signals blocked and taken back; only a text that is to stand is then entered where
+// everybody is told, and becomes an edit.
 bool replaceCellText(QTableWidget *table, int row, int column, const QString &text)
 {
-    const QModelIndex index = table->model()->index(row, column);
-    if (!(index.flags() & Qt::ItemIsEditable)) {
+    const QPersistentModelIndex index = table->model()->index(row, column);
+    if (!index.flags().testFlag(Qt::ItemIsEditable)) {
         return false;
     }
-    CellEditor editor(table, index);
-    if (!editor.isOpen()) {
-        return false;
-    }
-    editor.load();
-    if (!enterText(editor.widget(), text)) {
-        return false;
-    }
+    const auto isAsWanted = [&index, &text] {
+        const QString entered = index.data().toString();
+        return entered == text || isSameNumber(entered, text);
+    };
     {
         const QSignalBlocker blocker(table->model());
         const CellBackup backup(table, row, column);
-        editor.commit(table);
-        const QString entered = index.data().toString();
+        const bool isTaken = enterIntoCell(table, index, text) && isAsWanted();
         backup.restore();
-        if (entered != text && !isSameNumber(entered, text)) {
+        if (!isTaken) {
             return false;
         }
     }
-    editor.commit(table);
-    return true;
+    const QVariant former = index.data(Qt::EditRole);
+    const bool isOneText = former.toString() == index.data().toString();
+    (void)enterIntoCell(table, index, text);
+    // Who recorded the text may have made another one of it, or filled the table anew.
+    if (!index.isValid() || isAsWanted()) {
+        return true;
+    }
+    if (isOneText) {
+        table->model()->setData(index, former);
+    }
+    return false;
 }

@@ -3,6 +3,7 @@
 #include "editors/propsfindandreplace.h"
 
 #include "editors/cellreplacement.h"
+#include "host/widgets/styleditemdelegate.h"
 #include "ui_propsfindandreplace.h"
 
 #include <QApplication>
@@ -110,6 +111,10 @@ void PropsFindAndReplace::prepare()
 
 void PropsFindAndReplace::begin()
 {
+    if (auto *delegate = qobject_cast<StyledItemDelegate *>(m_table->itemDelegate())) {
+        // A shortcut does not take the keyboard from an open editor before.
+        delegate->commitEditing();
+    }
     m_ui->searchStatus->clear();
     m_isIncompatible = false;
     // Filling the table switches it on.
