@@ -6,8 +6,8 @@
 #include "editors/cellblocks.h"
 #include "editors/columnmenu.h"
 #include "editors/partmenu.h"
+#include "editors/partstable.h"
 #include "editors/propertyrecorder.h"
-#include "editors/propertytable.h"
 #include "editors/propsfindandreplace.h"
 #include "editors/propvaleditdelegate.h"
 #include "host/framework/hostui.h"
@@ -51,7 +51,7 @@ BOMDataView::BOMDataView(QWidget *parent)
     , m_delegate(new PropValEditDelegate(this))
 {
     m_ui->setupUi(this);
-    m_table = std::make_unique<PropertyTable>(m_ui->partsView);
+    m_table = std::make_unique<PartsTable>(m_ui->partsView);
     m_ui->partsView->setItemDelegate(m_delegate);
     const auto check = [this](const PropertyItem &item, const QString &text) {
         return m_assignments ? recorder().problem(*item.propertyRow(), item.column(), text)
@@ -102,7 +102,7 @@ void BOMDataView::connectForm()
             &QWidget::unsetCursor);
     connect(m_ui->filterEdit, &QLineEdit::textChanged, this, &BOMDataView::updateFilter);
     connect(m_ui->rowsCombo, &QComboBox::currentIndexChanged, this, &BOMDataView::updateFilter);
-    connect(m_table.get(), &PropertyTable::shownRowsChanged, this, &BOMDataView::updateCount);
+    connect(m_table.get(), &PartsTable::shownRowsChanged, this, &BOMDataView::updateCount);
 }
 
 void BOMDataView::connectEditing()
@@ -389,9 +389,9 @@ void BOMDataView::cellLeftClicked(int row, int column)
     }
     if (column == m_table->linksColumn() && clicked->links > 0) {
         m_partMenu->askForLink(*clicked);
-    } else if (column == PropertyTable::ReferenceColumn && clicked->references.size() > 1) {
+    } else if (column == PartsTable::ReferenceColumn && clicked->references.size() > 1) {
         m_partMenu->askForPart(*clicked);
-    } else if (column == PropertyTable::ReferenceColumn) {
+    } else if (column == PartsTable::ReferenceColumn) {
         m_partMenu->navigateTo(clicked->firstReference());
     }
 }
@@ -404,7 +404,7 @@ void BOMDataView::cellRightClicked(int row, int column)
 void BOMDataView::updateCursor(int row, int col)
 {
     const PropertyRow *entered = m_table->rowAt(row);
-    const bool leadsAway = entered && (col == PropertyTable::ReferenceColumn ||
+    const bool leadsAway = entered && (col == PartsTable::ReferenceColumn ||
                                        (col == m_table->linksColumn() && entered->links > 0));
     m_ui->partsView->viewport()->setCursor(leadsAway ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }

@@ -16,7 +16,7 @@ class PartMenu;
 class PropValEditDelegate;
 class PropsFindAndReplace;
 class PropertyRecorder;
-class PropertyTable;
+class PartsTable;
 class QTableWidgetItem;
 
 namespace Ui {
@@ -92,7 +92,7 @@ private:
     QPointer<BOMPartsDatabase> m_database;
     QPointer<PropertyAssignments> m_assignments;
     PropValEditDelegate *m_delegate;
-    std::unique_ptr<PropertyTable> m_table;
+    std::unique_ptr<PartsTable> m_table;
     std::unique_ptr<CellBlocks> m_blocks;
     std::unique_ptr<ColumnMenu> m_columnMenu;
     std::unique_ptr<PartMenu> m_partMenu;

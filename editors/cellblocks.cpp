@@ -3,7 +3,7 @@
 #include "editors/cellblocks.h"
 
 #include "editors/bomtablewidget.h"
-#include "editors/propertytable.h"
+#include "editors/partstable.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -38,7 +38,7 @@ QString filledIn(const QString &text, const QString &first, const QString &secon
 
 } // namespace
 
-CellBlocks::CellBlocks(BOMTableWidget *view, PropertyTable *table, Check check)
+CellBlocks::CellBlocks(BOMTableWidget *view, PartsTable *table, Check check)
     : m_view(view)
     , m_table(table)
     , m_check(std::move(check))
@@ -190,8 +190,8 @@ void CellBlocks::add(Plan *plan, int row, int column, const QString &text) const
     }
     const QString reason = item ? m_check(*item, text) : tr("it cannot be edited");
     if (!reason.isEmpty()) {
-        const QString place = m_view->item(row, PropertyTable::ReferenceColumn)->text() +
-                              QStringLiteral(", ") + m_view->horizontalHeaderItem(column)->text();
+        const QString place = m_view->item(row, PartsTable::ReferenceColumn)->text() + QStringLiteral(", ") +
+                              m_view->horizontalHeaderItem(column)->text();
         plan->problem = filledIn(tr("Nothing was changed. %1: %2."), place, reason);
         return;
     }

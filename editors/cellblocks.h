@@ -11,7 +11,7 @@
 
 class BOMTableWidget;
 class PropertyItem;
-class PropertyTable;
+class PartsTable;
 class QTableWidgetItem;
 
 /// The commands that work on the selected cells: copy, cut, paste and clear, with their keys. Each changes
@@ -25,7 +25,7 @@ public:
     using Check = std::function<QString(const PropertyItem &, const QString &)>;
 
     /// Neither is owned; both must outlive the object. The keys work while the table has the focus.
-    CellBlocks(BOMTableWidget *view, PropertyTable *table, Check check);
+    CellBlocks(BOMTableWidget *view, PartsTable *table, Check check);
 
     [[nodiscard]] QAction *copyAction() const { return m_copy; }
     [[nodiscard]] QAction *cutAction() const { return m_cut; }
@@ -67,7 +67,7 @@ private:
     void carryOut(const Plan &plan);
 
     BOMTableWidget *m_view;
-    PropertyTable *m_table;
+    PartsTable *m_table;
     Check m_check;
     QAction *m_copy;
     QAction *m_cut;

@@ -3,12 +3,12 @@
 #include "editors/columnmenu.h"
 
 #include "editors/bomtablewidget.h"
-#include "editors/propertytable.h"
+#include "editors/partstable.h"
 
 #include <QHeaderView>
 #include <QMenu>
 
-ColumnMenu::ColumnMenu(BOMTableWidget *view, PropertyTable *table)
+ColumnMenu::ColumnMenu(BOMTableWidget *view, PartsTable *table)
     : m_view(view)
     , m_table(table)
 {
@@ -29,7 +29,7 @@ void ColumnMenu::open(const QPoint &position)
     m_menu = new QMenu(m_view);
     m_menu->setAttribute(Qt::WA_DeleteOnClose);
     connect(m_menu, &QObject::destroyed, this, &ColumnMenu::closed);
-    const int field = column - PropertyTable::FirstField;
+    const int field = column - PartsTable::FirstField;
     const auto &fields = m_table->rows().columns();
     if (field >= 0 && field < int(fields.size()) && fields[size_t(field)].isEditable) {
         QAction *required = m_menu->addAction(tr("Required"));
@@ -55,7 +55,7 @@ void ColumnMenu::addColumns(QMenu *menu)
         action->setCheckable(true);
         action->setChecked(!header->isSectionHidden(column));
         // Without references nobody knows what a row is.
-        action->setEnabled(column != PropertyTable::ReferenceColumn);
+        action->setEnabled(column != PartsTable::ReferenceColumn);
         connect(action, &QAction::toggled, m_table, [this, header, column](bool isShown) {
             header->setSectionHidden(column, !isShown);
             m_table->rememberLayout();

@@ -6,7 +6,7 @@
 #include <QPointer>
 
 class BOMTableWidget;
-class PropertyTable;
+class PartsTable;
 class QMenu;
 
 /// The context menu of the column headings: which columns are seen, and which fields are required.
@@ -16,7 +16,7 @@ class ColumnMenu final : public QObject
 
 public:
     /// Neither is owned; both must outlive the object.
-    ColumnMenu(BOMTableWidget *view, PropertyTable *table);
+    ColumnMenu(BOMTableWidget *view, PartsTable *table);
 
     [[nodiscard]] bool isOpen() const;
 
@@ -29,6 +29,6 @@ private:
     void showAll();
 
     BOMTableWidget *m_view;
-    PropertyTable *m_table;
+    PartsTable *m_table;
     QPointer<QMenu> m_menu;
 };

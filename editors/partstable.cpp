@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
-#include "editors/propertytable.h"
+#include "editors/partstable.h"
 
 #include "core/bompartsdatabase.h"
 #include "core/propertyassignments.h"
@@ -24,7 +24,7 @@ constexpr int widestAtFirst = 260;
 
 } // namespace
 
-PropertyTable::PropertyTable(BOMTableWidget *table)
+PartsTable::PartsTable(BOMTableWidget *table)
     : m_table(table)
 {
     updateLook();
@@ -35,21 +35,21 @@ PropertyTable::PropertyTable(BOMTableWidget *table)
     header.setHighlightSections(false);
     header.setSortIndicator(ReferenceColumn, Qt::AscendingOrder);
     // Connected before the table's own sorting is: texts are frozen first.
-    connect(&header, &QHeaderView::sortIndicatorChanged, this, &PropertyTable::freezeSorting);
-    connect(table->model(), &QAbstractItemModel::layoutChanged, this, &PropertyTable::applyFilter);
+    connect(&header, &QHeaderView::sortIndicatorChanged, this, &PartsTable::freezeSorting);
+    connect(table->model(), &QAbstractItemModel::layoutChanged, this, &PartsTable::applyFilter);
     QHeaderView &rows = *table->verticalHeader();
     rows.hide();
     rows.setSectionResizeMode(QHeaderView::Fixed);
     table->setSortingEnabled(true);
 }
 
-void PropertyTable::setSource(const BOMPartsDatabase *database, const PropertyAssignments *assignments)
+void PartsTable::setSource(const BOMPartsDatabase *database, const PropertyAssignments *assignments)
 {
     m_context.database = database;
     m_context.assignments = assignments;
 }
 
-void PropertyTable::updateLook()
+void PartsTable::updateLook()
 {
     const QIcon conflict = m_context.look.conflict;
     m_context.look = CellLook(m_table->palette(), m_table->font());
@@ -59,7 +59,7 @@ void PropertyTable::updateLook()
     m_table->viewport()->update();
 }
 
-void PropertyTable::fill(const Content &content)
+void PartsTable::fill(const Content &content)
 {
     const QScopedValueRollback filling(m_isFilling, true);
     PropertyRows rows = m_context.database
@@ -94,7 +94,7 @@ void PropertyTable::fill(const Content &content)
     m_table->viewport()->update();
 }
 
-void PropertyTable::makeColumns()
+void PartsTable::makeColumns()
 {
     takeRequired();
     m_table->clear();
@@ -117,7 +117,7 @@ void PropertyTable::makeColumns()
     }
 }
 
-void PropertyTable::makeRows()
+void PartsTable::makeRows()
 {
     auto &rows = m_context.rows.rows();
     m_references.clear();
@@ -143,7 +143,7 @@ void PropertyTable::makeRows()
     restoreLayout();
 }
 
-void PropertyTable::restoreLayout()
+void PartsTable::restoreLayout()
 {
     QHeaderView &header = *m_table->horizontalHeader();
     const ColumnLayout layout = ColumnMemory::layout(headings());
@@ -163,7 +163,7 @@ void PropertyTable::restoreLayout()
     }
 }
 
-QStringList PropertyTable::headings() const
+QStringList PartsTable::headings() const
 {
     QStringList headings;
     for (const PropertyColumn &column : m_context.rows.columns()) {
@@ -172,21 +172,21 @@ QStringList PropertyTable::headings() const
     return headings;
 }
 
-void PropertyTable::rememberLayout() const
+void PartsTable::rememberLayout() const
 {
     if (m_table->columnCount() > 0) {
         ColumnMemory::setLayout(headings(), columnLayout(*m_table->horizontalHeader()));
     }
 }
 
-void PropertyTable::takeRequired()
+void PartsTable::takeRequired()
 {
     for (PropertyColumn &column : m_context.rows.columns()) {
         column.isRequired = column.isEditable && ColumnMemory::isRequired(column.key);
     }
 }
 
-void PropertyTable::setRequired(int column, bool isRequired)
+void PartsTable::setRequired(int column, bool isRequired)
 {
     const int field = column - FirstField;
     if (field >= 0 && field < int(m_context.rows.columns().size())) {
@@ -197,7 +197,7 @@ void PropertyTable::setRequired(int column, bool isRequired)
     }
 }
 
-void PropertyTable::refresh(PropertyRow *row)
+void PartsTable::refresh(PropertyRow *row)
 {
     if (!m_context.database) {
         return;
@@ -208,7 +208,7 @@ void PropertyTable::refresh(PropertyRow *row)
     }
 }
 
-void PropertyTable::refreshPending()
+void PartsTable::refreshPending()
 {
     QSet<PropertyRow *> due;
     const RowFilter pending({}, RowFilter::Rows::Pending);
@@ -228,31 +228,31 @@ void PropertyTable::refreshPending()
     }
 }
 
-PropertyRow *PropertyTable::rowAt(int row) const
+PropertyRow *PartsTable::rowAt(int row) const
 {
     const auto *item = dynamic_cast<const ReferenceItem *>(m_table->item(row, ReferenceColumn));
     return item ? item->propertyRow() : nullptr;
 }
 
-PropertyItem *PropertyTable::fieldAt(int row, int column) const
+PropertyItem *PartsTable::fieldAt(int row, int column) const
 {
     return dynamic_cast<PropertyItem *>(m_table->item(row, column));
 }
 
-void PropertyTable::freezeSorting()
+void PartsTable::freezeSorting()
 {
     m_context.rows.takeSortTexts();
     // Hidden rows make sorting slow; afterwards the filter hides others.
     showRows(RowFilter());
 }
 
-void PropertyTable::setFilter(const RowFilter &filter)
+void PartsTable::setFilter(const RowFilter &filter)
 {
     m_filter = filter;
     applyFilter();
 }
 
-void PropertyTable::applyFilter()
+void PartsTable::applyFilter()
 {
     if (!m_isFilling) {
         showRows(m_filter);

@@ -14,7 +14,7 @@ class BOMTableWidget;
 
 /// Fills the table of the property editor and keeps it up to date: one row for each of PropertyRows, between
 /// a column of references, one of categories and, if wanted, one of links.
-class PropertyTable final : public QObject
+class PartsTable final : public QObject
 {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ public:
     };
 
     /// The table is not owned and must outlive the object.
-    explicit PropertyTable(BOMTableWidget *table);
+    explicit PartsTable(BOMTableWidget *table);
 
     /// Neither is owned; both may be null.
     void setSource(const BOMPartsDatabase *database, const PropertyAssignments *assignments);
