@@ -260,7 +260,7 @@ void PartsTable::applyFilter()
     }
 }
 
-void PropertyTable::showRows(const RowFilter &filter)
+void PartsTable::showRows(const RowFilter &filter)
 {
     QHeaderView &header = *m_table->verticalHeader();
     // A header that may paint works out the places of all rows for each one that changes.
