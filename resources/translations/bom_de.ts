@@ -185,6 +185,177 @@
     </message>
 </context>
 <context>
+    <name>BOMDataView</name>
+    <message>
+        <source>Property Editor</source>
+        <translation>Eigenschaften bearbeiten</translation>
+    </message>
+    <message>
+        <source>Categories</source>
+        <translation>Kategorien</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Resistors</source>
+        <translation>Widerstände</translation>
+    </message>
+    <message>
+        <source>Capacitors</source>
+        <translation>Kondensatoren</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message>
+        <source>One row for all parts of a line of the bill</source>
+        <translation>Eine Zeile für alle Bauteile einer Stücklistenzeile</translation>
+    </message>
+    <message>
+        <source>Group Components</source>
+        <translation>Bauteile zusammenfassen</translation>
+    </message>
+    <message>
+        <source>A column with the links of each part</source>
+        <translation>Eine Spalte mit den Links jedes Bauteils</translation>
+    </message>
+    <message>
+        <source>Show Links</source>
+        <translation>Links zeigen</translation>
+    </message>
+    <message>
+        <source>Generate Properties</source>
+        <translation>Eigenschaften erzeugen</translation>
+    </message>
+    <message>
+        <source>Write the pending changes into the design</source>
+        <translation>Die vorgemerkten Änderungen in den Entwurf schreiben</translation>
+    </message>
+    <message>
+        <source>Apply Changes</source>
+        <translation>Änderungen anwenden</translation>
+    </message>
+    <message>
+        <source>Forget the pending changes</source>
+        <translation>Die vorgemerkten Änderungen verwerfen</translation>
+    </message>
+    <message>
+        <source>Clear Pending Changes</source>
+        <translation>Vorgemerktes verwerfen</translation>
+    </message>
+    <message>
+        <source>BOM Parts</source>
+        <translation>Bauteile nur in der Stückliste</translation>
+    </message>
+    <message>
+        <source>Add parts that are in the bill only</source>
+        <translation>Bauteile hinzufügen, die nur in der Stückliste stehen</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Remove a part that is in the bill only</source>
+        <translation>Ein Bauteil entfernen, das nur in der Stückliste steht</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Fi&amp;lter:</source>
+        <translation>Fi&amp;lter:</translation>
+    </message>
+    <message>
+        <source>Shows the rows in which all words occur; heading:word looks into one column</source>
+        <translation>Zeigt die Zeilen, in denen alle Wörter vorkommen; Überschrift:Wort sucht in einer Spalte</translation>
+    </message>
+    <message>
+        <source>Words, or heading:word</source>
+        <translation>Wörter, oder Überschrift:Wort</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>All rows</source>
+        <translation>Alle Zeilen</translation>
+    </message>
+    <message>
+        <source>Pending</source>
+        <translation>Vorgemerkt</translation>
+    </message>
+    <message>
+        <source>In conflict</source>
+        <translation>Im Konflikt</translation>
+    </message>
+    <message>
+        <source>Required and empty</source>
+        <translation>Nötig und leer</translation>
+    </message>
+    <message>
+        <source>Rows shown</source>
+        <translation>Gezeigte Zeilen</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Bauteile</translation>
+    </message>
+    <message>
+        <source>no design is open</source>
+        <translation>kein Entwurf ist geöffnet</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1, %2: %3; the text stays as it was.</source>
+        <translation>%1, %2: %3; der Text bleibt, wie er war.</translation>
+    </message>
+    <message>
+        <source>ADI scripting results</source>
+        <translation>Ergebnisse des ADI-Skripts</translation>
+    </message>
+    <message>
+        <source>Still pending, because the design changed meanwhile (%1): %2</source>
+        <translation>Noch vorgemerkt, weil sich der Entwurf inzwischen geändert hat (%1): %2</translation>
+    </message>
+    <message>
+        <source>Clear pending property assignments, are you sure?</source>
+        <translation>Sollen die vorgemerkten Änderungen wirklich verworfen werden?</translation>
+    </message>
+    <message>
+        <source>Set &amp;Back</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Navigate</source>
+        <translation>&amp;Navigieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Reference</source>
+        <translation>&amp;Referenz kopieren</translation>
+    </message>
+    <message>
+        <source>References</source>
+        <translation>Referenzen</translation>
+    </message>
+    <message>
+        <source>%1 Links</source>
+        <translation>%1 Links</translation>
+    </message>
+</context>
+<context>
     <name>BOMExcelView</name>
     <message>
         <source>Output Failed</source>
@@ -465,6 +636,34 @@ Generate output anyway?</source>
         <translation>Diese Referenzen kommen mehrfach vor:
 %1
 Trotzdem ausgeben?</translation>
+    </message>
+    <message>
+        <source>Property Editor</source>
+        <translation>Eigenschaften bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Find Property Values</source>
+        <translation>Eigenschaftswerte &amp;suchen</translation>
+    </message>
+    <message>
+        <source>Find property values</source>
+        <translation>Werte von Eigenschaften suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Replace Property Values</source>
+        <translation>Eigenschaftswerte &amp;ersetzen</translation>
+    </message>
+    <message>
+        <source>Replace property values</source>
+        <translation>Werte von Eigenschaften ersetzen</translation>
+    </message>
+    <message>
+        <source>Review &amp;Pending Changes…</source>
+        <translation>&amp;Vorgemerkte Änderungen prüfen…</translation>
+    </message>
+    <message>
+        <source>Show what would be written into the design</source>
+        <translation>Zeigen, was in den Entwurf geschrieben würde</translation>
     </message>
 </context>
 <context>
@@ -748,6 +947,95 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>CellBlocks</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Aus&amp;schneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <source>Nothing was cleared: these cells cannot be edited, or their parts differ.</source>
+        <translation>Nichts wurde geleert: Diese Zellen können nicht bearbeitet werden, oder ihre Bauteile unterscheiden sich.</translation>
+    </message>
+    <message>
+        <source>Nothing was pasted: the block of %1 rows and %2 columns reaches beyond the table.</source>
+        <translation>Nichts wurde eingefügt: Der Block aus %1 Zeilen und %2 Spalten reicht über die Tabelle hinaus.</translation>
+    </message>
+    <message>
+        <source>it cannot be edited</source>
+        <translation>sie kann nicht bearbeitet werden</translation>
+    </message>
+    <message>
+        <source>Nothing was changed. %1: %2.</source>
+        <translation>Nichts wurde geändert. %1: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>CellTips</name>
+    <message numerus="yes">
+        <source>... and %n more</source>
+        <translation>
+            <numerusform>... und %n weiteres</numerusform>
+            <numerusform>... und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(leer)</translation>
+    </message>
+    <message>
+        <source>%1: in conflict, the text changed in the design meanwhile</source>
+        <translation>%1: im Konflikt, der Text im Entwurf hat sich inzwischen geändert</translation>
+    </message>
+    <message>
+        <source>Now: </source>
+        <translation>Jetzt: </translation>
+    </message>
+    <message>
+        <source>Before: </source>
+        <translation>Vorher: </translation>
+    </message>
+    <message>
+        <source>Your edit: </source>
+        <translation>Ihre Änderung: </translation>
+    </message>
+    <message>
+        <source>: not written yet</source>
+        <translation>: noch nicht geschrieben</translation>
+    </message>
+    <message>
+        <source>In the design: </source>
+        <translation>Im Entwurf: </translation>
+    </message>
+    <message>
+        <source>Required, and empty</source>
+        <translation>Nötig und leer</translation>
+    </message>
+    <message>
+        <source>Cannot be edited here</source>
+        <translation>Kann hier nicht bearbeitet werden</translation>
+    </message>
+    <message>
+        <source>BOM Part of: %1</source>
+        <translation>Stücklistenbauteil zu: %1</translation>
+    </message>
+    <message>
+        <source>Navigate to: %1</source>
+        <translation>Navigieren zu: %1</translation>
+    </message>
+</context>
+<context>
     <name>ColorField</name>
     <message>
         <source>not set</source>
@@ -826,6 +1114,17 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>ColumnMenu</name>
+    <message>
+        <source>Required</source>
+        <translation>Nötig</translation>
+    </message>
+    <message>
+        <source>Show All Columns</source>
+        <translation>Alle Spalten zeigen</translation>
+    </message>
+</context>
+<context>
     <name>DesignStatus</name>
     <message>
         <source>%1 listed</source>
@@ -877,6 +1176,41 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>Show the options</source>
         <translation>Optionen einblenden</translation>
+    </message>
+</context>
+<context>
+    <name>EarlierEdits</name>
+    <message>
+        <source>%1, %2: %3</source>
+        <translation>%1, %2: %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>When the program ended, 1 edit of this design had not been written yet.</source>
+        <translation>Als das Programm endete, war 1 Änderung an diesem Entwurf noch nicht geschrieben.</translation>
+    </message>
+    <message>
+        <source>When the program ended, %1 edits of this design had not been written yet.</source>
+        <translation>Als das Programm endete, waren %1 Änderungen an diesem Entwurf noch nicht geschrieben.</translation>
+    </message>
+    <message>
+        <source>The design is as it was where they apply.</source>
+        <translation>Der Entwurf ist dort, wo sie wirken, wie er war.</translation>
+    </message>
+    <message>
+        <source>%1 still fit; %2 would be in conflict:</source>
+        <translation>%1 passen noch; %2 stünden im Konflikt:</translation>
+    </message>
+    <message>
+        <source>Make them pending again? Nothing is written into the design before you apply them. With No they are kept, and offered again at the next start.</source>
+        <translation>Sollen sie wieder vorgemerkt werden? In den Entwurf wird nichts geschrieben, bevor Sie sie anwenden. Mit Nein bleiben sie aufgehoben und werden beim nächsten Start wieder angeboten.</translation>
+    </message>
+    <message>
+        <source>Unwritten Edits</source>
+        <translation>Nicht geschriebene Änderungen</translation>
     </message>
 </context>
 <context>
@@ -973,6 +1307,13 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>LinkHandler</name>
+    <message>
+        <source>This program cannot show where parts are drawn</source>
+        <translation>Dieses Programm kann nicht zeigen, wo Bauteile gezeichnet sind</translation>
+    </message>
+</context>
+<context>
     <name>ModuleTemplates</name>
     <message>
         <source>Incomplete BOM Template</source>
@@ -988,6 +1329,217 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>BOM notes</source>
         <translation>Notizen zur Stückliste</translation>
+    </message>
+</context>
+<context>
+    <name>OptionsPanel</name>
+    <message>
+        <source>Categories</source>
+        <translation>Kategorien</translation>
+    </message>
+    <message>
+        <source>Suppress empty categories</source>
+        <translation>Leere Kategorien weglassen</translation>
+    </message>
+    <message>
+        <source>References:</source>
+        <translation>Referenzen:</translation>
+    </message>
+    <message>
+        <source>Shortened (R1-R7)</source>
+        <translation>Zusammengefasst (R1-R7)</translation>
+    </message>
+    <message>
+        <source>Individual (R1,R2...)</source>
+        <translation>Einzeln (R1,R2...)</translation>
+    </message>
+    <message>
+        <source>Fields</source>
+        <translation>Felder</translation>
+    </message>
+    <message>
+        <source>BOM Notes</source>
+        <translation>Notizen zur Stückliste</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>Prefixes</source>
+        <translation>Präfixe</translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation>Feld</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>The notes were changed by another program meanwhile. Save yours in their place? With Discard the other ones are kept and yours are lost.</source>
+        <translation>Die Notizen wurden inzwischen von einem anderen Programm geändert. Ihre stattdessen speichern? Mit Verwerfen bleiben die anderen, und Ihre gehen verloren.</translation>
+    </message>
+</context>
+<context>
+    <name>PartMenu</name>
+    <message>
+        <source>Select the part to navigate to</source>
+        <translation>Wählen Sie das Bauteil, zu dem navigiert werden soll</translation>
+    </message>
+    <message>
+        <source>Open Link</source>
+        <translation>Link öffnen</translation>
+    </message>
+    <message>
+        <source>%1 is a program. Opening it may run it. Open it all the same?</source>
+        <translation>%1 ist ein Programm. Das Öffnen kann es ausführen. Trotzdem öffnen?</translation>
+    </message>
+    <message>
+        <source>Could not open %1</source>
+        <translation>%1 konnte nicht geöffnet werden</translation>
+    </message>
+</context>
+<context>
+    <name>PendingChanges</name>
+    <message>
+        <source>Taken away in the design meanwhile</source>
+        <translation>Im Entwurf inzwischen entfernt</translation>
+    </message>
+    <message>
+        <source>Changed in the design meanwhile, now &quot;%1&quot;</source>
+        <translation>Im Entwurf inzwischen geändert, jetzt „%1“</translation>
+    </message>
+    <message>
+        <source>The part is left out of the bill at present</source>
+        <translation>Das Bauteil steht zurzeit nicht in der Stückliste</translation>
+    </message>
+    <message>
+        <source>The design has no such part any more</source>
+        <translation>Der Entwurf hat dieses Bauteil nicht mehr</translation>
+    </message>
+    <message>
+        <source>Fits</source>
+        <translation>Passt</translation>
+    </message>
+    <message>
+        <source>The design has this value already</source>
+        <translation>Der Entwurf hat diesen Wert schon</translation>
+    </message>
+    <message>
+        <source>Refused: %1</source>
+        <translation>Abgelehnt: %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Nothing is pending.</source>
+        <translation>Nichts ist vorgemerkt.</translation>
+    </message>
+    <message>
+        <source>1 edit</source>
+        <translation>1 Änderung</translation>
+    </message>
+    <message>
+        <source>%1 edits</source>
+        <translation>%1 Änderungen</translation>
+    </message>
+    <message>
+        <source>of 1 part</source>
+        <translation>an 1 Bauteil</translation>
+    </message>
+    <message>
+        <source>of %1 parts</source>
+        <translation>an %1 Bauteilen</translation>
+    </message>
+    <message>
+        <source>in 1 file</source>
+        <translation>in 1 Datei</translation>
+    </message>
+    <message>
+        <source>in %1 files</source>
+        <translation>in %1 Dateien</translation>
+    </message>
+    <message>
+        <source>; %1 in conflict</source>
+        <translation>; %1 im Konflikt</translation>
+    </message>
+    <message>
+        <source>; %1 refused</source>
+        <translation>; %1 abgelehnt</translation>
+    </message>
+</context>
+<context>
+    <name>PendingReview</name>
+    <message>
+        <source>Review Pending Changes</source>
+        <translation>Vorgemerkte Änderungen prüfen</translation>
+    </message>
+    <message>
+        <source>Pending changes</source>
+        <translation>Vorgemerkte Änderungen</translation>
+    </message>
+    <message>
+        <source>&amp;Apply Changes</source>
+        <translation>Änderungen &amp;anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Drop</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>End the selected edits without writing them</source>
+        <translation>Die ausgewählten Änderungen verwerfen, ohne sie zu schreiben</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Nothing can be written while edits are refused: drop or correct those.</source>
+        <translation>Solange Änderungen abgelehnt sind, kann nichts geschrieben werden: Verwerfen oder berichtigen Sie diese.</translation>
+    </message>
+</context>
+<context>
+    <name>PendingUndo</name>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 values</source>
+        <translation>%1 Werte</translation>
+    </message>
+    <message>
+        <source>Clear pending changes</source>
+        <translation>Vorgemerkte Änderungen verwerfen</translation>
+    </message>
+    <message>
+        <source>Drop %1</source>
+        <translation>%1 verwerfen</translation>
+    </message>
+    <message>
+        <source>Decide on %1</source>
+        <translation>Über %1 entscheiden</translation>
+    </message>
+    <message>
+        <source>Edit %1</source>
+        <translation>%1 ändern</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
     </message>
 </context>
 <context>
@@ -1193,6 +1745,114 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>&amp;As Drawn</source>
         <translation>Wie &amp;gezeichnet</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyCell</name>
+    <message>
+        <source>(different)</source>
+        <translation>(verschieden)</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyRecorder</name>
+    <message>
+        <source>it cannot be edited</source>
+        <translation>sie kann nicht bearbeitet werden</translation>
+    </message>
+    <message>
+        <source>the property does not take this text</source>
+        <translation>die Eigenschaft nimmt diesen Text nicht an</translation>
+    </message>
+    <message>
+        <source>the value of a part on the schematic cannot be empty</source>
+        <translation>der Wert eines Bauteils im Schaltplan darf nicht leer sein</translation>
+    </message>
+</context>
+<context>
+    <name>PropsFindAndReplace</name>
+    <message>
+        <source>Find And Replace</source>
+        <translation>Suchen und Ersetzen</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Current Column Only</source>
+        <translation>Nur aktuelle Spalte</translation>
+    </message>
+    <message>
+        <source>Case Sensitive</source>
+        <translation>Groß- und Kleinschreibung</translation>
+    </message>
+    <message>
+        <source>Rows and columns that the table hides are not searched.</source>
+        <translation>Zeilen und Spalten, die die Tabelle verbirgt, werden nicht durchsucht.</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>Alle ersetzen</translation>
+    </message>
+    <message>
+        <source>Reached end of search.</source>
+        <translation>Das Ende der Suche ist erreicht.</translation>
+    </message>
+    <message>
+        <source>Some values were not replaced as the replacement string was not compatible.</source>
+        <translation>Einige Werte wurden nicht ersetzt, weil der neue Text nicht zu ihnen passt.</translation>
+    </message>
+</context>
+<context>
+    <name>ReviewModel</name>
+    <message>
+        <source>Write it although the design changed</source>
+        <translation>Trotz der Änderung im Entwurf schreiben</translation>
+    </message>
+    <message>
+        <source>(taken away)</source>
+        <translation>(entfernt)</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Referenz</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Old</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Written In</source>
+        <translation>Geschrieben in</translation>
+    </message>
+    <message>
+        <source>Also Changes</source>
+        <translation>Ändert auch</translation>
+    </message>
+    <message>
+        <source>Write Anyway</source>
+        <translation>Trotzdem schreiben</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
     </message>
 </context>
 <context>
