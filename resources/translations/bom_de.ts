@@ -252,7 +252,7 @@
     </message>
     <message>
         <source>BOM Parts</source>
-        <translation>Bauteile nur in der Stückliste</translation>
+        <translation>Stücklistenbauteile</translation>
     </message>
     <message>
         <source>Add parts that are in the bill only</source>

@@ -11,6 +11,7 @@
 #include <QGroupBox>
 #include <QKeySequence>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -36,7 +37,7 @@ bool isPartOfAnother(const QWidget &widget)
 {
     const QObject *parent = widget.parent();
     return qobject_cast<const QTabBar *>(parent) || qobject_cast<const QComboBox *>(parent) ||
-           qobject_cast<const QAbstractSpinBox *>(parent) ||
+           qobject_cast<const QAbstractSpinBox *>(parent) || qobject_cast<const QLineEdit *>(parent) ||
            (widget.objectName().startsWith(u"qt_"_s) && !qobject_cast<const QTabBar *>(&widget));
 }
 

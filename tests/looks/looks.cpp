@@ -111,9 +111,23 @@ void reportFlaws(const QWidget &window, const QString &name, const Variant &vari
     }
 }
 
+/// The settings of one picture, so that none remembers what another did.
+class OwnSettings final
+{
+public:
+    OwnSettings() { HostSettings::install(&m_settings); }
+    OwnSettings(const OwnSettings &) = delete;
+    OwnSettings &operator=(const OwnSettings &) = delete;
+    ~OwnSettings() { HostSettings::install(nullptr); }
+
+private:
+    MemoryHostSettings m_settings;
+};
+
 /// Whether the picture could be made and written.
 bool save(const Picture &picture, const Variant &variant, const QDir &folder)
 {
+    const OwnSettings settings;
     const std::shared_ptr<QWidget> window = picture.make();
     if (!window) {
         return false;
@@ -161,8 +175,6 @@ int main(int argc, char **argv)
     qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     ScriptedUi ui;
-    MemoryHostSettings settings;
-    HostSettings::install(&settings);
     const QString scale = QString::number(qRound(application.devicePixelRatio() * 100));
     const Theme themes[] = {{"light", QApplication::style()->standardPalette()}, {"dark", darkPalette()}};
     int status = folder.mkpath(QStringLiteral(".")) ? 0 : 1;
@@ -176,6 +188,5 @@ int main(int argc, char **argv)
             status = std::max(status, saveAll(folder, names, variant));
         }
     }
-    HostSettings::install(nullptr);
     return status;
 }
