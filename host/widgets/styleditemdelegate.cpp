@@ -122,7 +122,7 @@ StyledItemDelegate::~StyledItemDelegate()
 
 bool StyledItemDelegate::isEditing() const
 {
-    return !m_open.isEmpty();
+    return std::ranges::any_of(m_open, [](const OpenEditor &open) { return !open.widget.isNull(); });
 }
 
 bool StyledItemDelegate::commitEditing()
@@ -195,6 +195,7 @@ QWidget *StyledItemDelegate::makeEditor(QWidget *parent, const QStyleOptionViewI
 void StyledItemDelegate::watch(QWidget *editor, const QModelIndex &index)
 {
     removeFrame(editor);
+    forgetDeleted();
     m_open.append({editor, index, {}, false});
     connect(editor, &QObject::destroyed, this, &StyledItemDelegate::reportEditing, Qt::QueuedConnection);
     if (auto *keywords = qobject_cast<KeywordValueEditor *>(editor)) {
@@ -213,9 +214,14 @@ void StyledItemDelegate::destroyEditor(QWidget *editor, const QModelIndex &index
     QStyledItemDelegate::destroyEditor(editor, index);
 }
 
-void StyledItemDelegate::reportEditing()
+void StyledItemDelegate::forgetDeleted()
 {
     m_open.removeIf([](const OpenEditor &open) { return !open.widget; });
+}
+
+void StyledItemDelegate::reportEditing()
+{
+    forgetDeleted();
     if (m_wasEditing != isEditing()) {
         m_wasEditing = isEditing();
         Q_EMIT editingChanged(m_wasEditing);

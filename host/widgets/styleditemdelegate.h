@@ -71,6 +71,7 @@ private:
     /// False when the editor's rule refuses its text.
     bool commitAndClose(QWidget *editor);
     void commitAndMove(QWidget *editor, int key);
+    void forgetDeleted();
     void reportEditing();
 
     /// Qt's functions that make and drop editors are const.

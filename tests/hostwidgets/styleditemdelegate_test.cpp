@@ -204,6 +204,8 @@ TEST_F(EditedTable, TellsWhetherAnEditorIsOpen)
     EXPECT_TRUE(told.at(0).at(0).toBool());
     EXPECT_FALSE(told.at(1).at(0).toBool());
     EXPECT_FALSE(delegate.isEditing());
+    delete delegate.createEditor(&table, {}, table.model()->index(0, 0));
+    EXPECT_FALSE(delegate.isEditing()) << "also when somebody else deletes it";
 }
 
 TEST_F(EditedTable, EntersTextsByTheRulesOfTheCellsEditors)
