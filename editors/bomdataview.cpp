@@ -85,6 +85,9 @@ void BOMDataView::setIcons()
     setIcon(m_ui->clearPendingChangesBtn, QStringLiteral("clear"));
     setIcon(m_ui->newBOMPartBtn, QStringLiteral("part_add"));
     setIcon(m_ui->removeBOMPartBtn, QStringLiteral("part_remove"));
+    if (auto *clear = m_ui->filterEdit->findChild<QAction *>(); clear && clear->toolTip().isEmpty()) {
+        clear->setToolTip(tr("Show all rows"));
+    }
 }
 
 void BOMDataView::connectForm()
@@ -101,6 +104,7 @@ void BOMDataView::connectForm()
     connect(m_ui->partsView, &BOMTableWidget::viewportEntered, m_ui->partsView->viewport(),
             &QWidget::unsetCursor);
     connect(m_ui->filterEdit, &QLineEdit::textChanged, this, &BOMDataView::updateFilter);
+    connect(m_ui->filterEdit, &QLineEdit::returnPressed, m_ui->partsView, qOverload<>(&QWidget::setFocus));
     connect(m_ui->rowsCombo, &QComboBox::currentIndexChanged, this, &BOMDataView::updateFilter);
     connect(m_table.get(), &PartsTable::shownRowsChanged, this, &BOMDataView::updateCount);
 }
@@ -156,10 +160,17 @@ void BOMDataView::showReplaceDialogue()
 
 void BOMDataView::setPartsDatabase(BOMPartsDatabase *database)
 {
+    if (m_database) {
+        disconnect(m_database, &QObject::destroyed, this, nullptr);
+    }
     m_database = database;
     m_delegate->setPartsDatabase(database);
     m_partMenu->setPartsDatabase(database);
     m_table->setSource(database, m_assignments);
+    if (database) {
+        connect(database, &QObject::destroyed, this, [this] { setPartsDatabase(nullptr); });
+    }
+    updateButtons();
 }
 
 void BOMDataView::setAssignments(PropertyAssignments *assignments)

@@ -15,6 +15,8 @@ namespace {
 /// More lines, and longer ones, make a tip that nobody reads.
 constexpr qsizetype mostLines = 12;
 constexpr qsizetype longestLine = 90;
+/// Longer texts may not fit into their column.
+constexpr qsizetype hardlySeenWhole = 30;
 
 struct Tips
 {
@@ -119,6 +121,9 @@ QString propertyTip(const CellContext &context, const PropertyRow &row, size_t c
     }
     if (lines.isEmpty() && !column.isEditable) {
         lines << Tips::tr("Cannot be edited here");
+    }
+    if (lines.isEmpty() && cell.text.size() > hardlySeenWhole) {
+        lines << cell.text;
     }
     return joined(shortenedAll(lines));
 }

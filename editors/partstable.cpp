@@ -33,7 +33,6 @@ PartsTable::PartsTable(BOMTableWidget *table)
     header.setFirstSectionMovable(false);
     header.setResizeContentsPrecision(measuredRows);
     header.setHighlightSections(false);
-    header.setSortIndicator(ReferenceColumn, Qt::AscendingOrder);
     // Connected before the table's own sorting is: texts are frozen first.
     connect(&header, &QHeaderView::sortIndicatorChanged, this, &PartsTable::freezeSorting);
     connect(table->model(), &QAbstractItemModel::layoutChanged, this, &PartsTable::applyFilter);
@@ -61,37 +60,49 @@ void PartsTable::updateLook()
 
 void PartsTable::fill(const Content &content)
 {
-    const QScopedValueRollback filling(m_isFilling, true);
     PropertyRows rows = m_context.database
                             ? PropertyRows::read(*m_context.database, m_context.assignments, content.parts)
                             : PropertyRows();
-    if (m_hasLinks == content.hasLinks && m_table->columnCount() > 0 &&
-        m_context.rows.takeTexts(std::move(rows))) {
-        takeRequired();
-        if (m_table->isSortingEnabled()) {
-            const QHeaderView &header = *m_table->horizontalHeader();
-            m_table->sortItems(header.sortIndicatorSection(), header.sortIndicatorOrder());
-        }
-    } else {
-        const TablePlace place(*m_table);
-        rememberLayout();
+    if (m_hasLinks != content.hasLinks || m_table->columnCount() == 0 ||
+        !m_context.rows.takeTexts(std::move(rows))) {
+        m_hasLinks = content.hasLinks;
+        fillAnew(std::move(rows));
+        return;
+    }
+    takeRequired();
+    if (m_table->isSortingEnabled()) {
+        const QHeaderView &header = *m_table->horizontalHeader();
+        m_table->sortItems(header.sortIndicatorSection(), header.sortIndicatorOrder());
+    }
+    applyFilter();
+    m_table->viewport()->update();
+}
+
+void PartsTable::fillAnew(PropertyRows rows)
+{
+    const TablePlace place(*m_table);
+    rememberLayout();
+    {
+        const QScopedValueRollback filling(m_isFilling, true);
         // It is off while a search wants the rows to stay where they are.
         const bool isSorted = m_table->isSortingEnabled();
+        const QHeaderView &header = *m_table->horizontalHeader();
+        const QTableWidgetItem *sorted = m_table->horizontalHeaderItem(header.sortIndicatorSection());
+        const QString heading = sorted ? sorted->text() : QString();
+        const Qt::SortOrder order = sorted ? header.sortIndicatorOrder() : Qt::AscendingOrder;
         m_table->setSortingEnabled(false);
         m_table->setRowCount(0);
         m_context.rows = std::move(rows);
-        m_hasLinks = content.hasLinks;
         makeColumns();
         makeRows();
+        setSortColumn(heading, order);
         m_table->setSortingEnabled(isSorted);
-        place.restore(m_table, [this](const QString &reference) {
-            const PropertyRow *row = m_context.rows.rowOf(reference);
-            return row ? m_references[size_t(row->number)]->row() : -1;
-        });
     }
-    m_isFilling = false;
     applyFilter();
-    m_table->viewport()->update();
+    place.restore(m_table, [this](const QString &reference) {
+        const PropertyRow *row = m_context.rows.rowOf(reference);
+        return row ? m_references[size_t(row->number)]->row() : -1;
+    });
 }
 
 void PartsTable::makeColumns()
@@ -141,6 +152,16 @@ void PartsTable::makeRows()
         }
     }
     restoreLayout();
+}
+
+/// Sorts by references where there is no such column.
+void PartsTable::setSortColumn(const QString &heading, Qt::SortOrder order)
+{
+    int column = m_table->columnCount() - 1;
+    while (column > ReferenceColumn && m_table->horizontalHeaderItem(column)->text() != heading) {
+        --column;
+    }
+    m_table->horizontalHeader()->setSortIndicator(column, order);
 }
 
 void PartsTable::restoreLayout()

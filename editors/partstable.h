@@ -70,8 +70,10 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] int fieldEnd() const { return FirstField + int(m_context.rows.columns().size()); }
+    void fillAnew(PropertyRows rows);
     void makeColumns();
     void makeRows();
+    void setSortColumn(const QString &heading, Qt::SortOrder order);
     void restoreLayout();
     void takeRequired();
     void freezeSorting();

@@ -51,6 +51,8 @@ QVariant PropertyItem::data(int role) const
         return cell().isInConflict ? QVariant(m_context->look.conflict) : QVariant();
     case Qt::ToolTipRole:
         return plainTip(propertyTip(*m_context, *m_row, m_column));
+    case Qt::AccessibleDescriptionRole:
+        return propertyTip(*m_context, *m_row, m_column);
     default:
         return QTableWidgetItem::data(role);
     }

@@ -27,7 +27,6 @@ public:
 
 private:
     [[nodiscard]] QVariant foreground() const;
-    [[nodiscard]] QString toolTip() const;
 
     const CellContext *m_context;
     PropertyRow *m_row;
@@ -44,8 +43,6 @@ public:
     [[nodiscard]] PropertyRow *propertyRow() const { return m_row; }
 
 private:
-    [[nodiscard]] QString toolTip() const;
-
     const CellContext *m_context;
     PropertyRow *m_row;
 };

@@ -18,8 +18,8 @@ PropertyRecorder::PropertyRecorder(const BOMPartsDatabase *database, PropertyAss
 QString PropertyRecorder::value(const PropertyColumn &column, const QString &text) const
 {
     QString value = cleanedValue(text);
-    // The value and the name of the footprint are names: blanks around them would make other ones.
-    if (column.key == valueProperty() || column.key == QStringLiteral("PACKAGE")) {
+    // The value and the footprint are names: with blanks around them they would be other ones.
+    if (column.key == valueProperty() || column.isFootprint()) {
         value = value.trimmed();
     }
     if (value == PropertyAssignments::removal()) {

@@ -74,11 +74,6 @@ int compareNaturally(QStringView left, QStringView right)
     return int(!left.isEmpty()) - int(!right.isEmpty());
 }
 
-bool isFootprint(const QString &key)
-{
-    return key == QStringLiteral("PACKAGE") || key == QStringLiteral("FOOTPRINT");
-}
-
 } // namespace
 
 QString PropertyCell::shownText() const
@@ -124,10 +119,10 @@ void PropertyRows::readColumns(const BOMPartsDatabase &database)
 void PropertyRows::openSource(const BOMPartsDatabase &database, const PropertyAssignments *assignments)
 {
     m_source = {&database, assignments && !assignments->isEmpty() ? assignments : nullptr};
-    // The number format and the definitions may have changed since the last time.
-    m_queries.clear();
-    for (const PropertyColumn &column : m_columns) {
-        m_queries.emplace_back(column.property, &database.propertyTypes());
+    if (m_queries.empty()) {
+        for (const PropertyColumn &column : m_columns) {
+            m_queries.emplace_back(column.property, &database.propertyTypes());
+        }
     }
 }
 
@@ -167,7 +162,6 @@ void PropertyRows::finish()
             row.cells[column].sortText = row.cells[column].text;
         }
     }
-    m_queries.clear();
 }
 
 PropertyCell PropertyRows::readCell(const PropertyRow &row, size_t column) const
@@ -213,6 +207,7 @@ bool PropertyRows::takeTexts(PropertyRows &&other)
     }
     m_columns = std::move(other.m_columns);
     std::move(other.m_rows.begin(), other.m_rows.end(), m_rows.begin());
+    m_queries = std::move(other.m_queries);
     return true;
 }
 
@@ -252,7 +247,7 @@ bool PropertyRows::isMissing(const PropertyRow &row, size_t column) const
     const PropertyCell &cell = row.cells[column];
     // What is not on the board has no footprint.
     return m_columns[column].isRequired && cell.text.isEmpty() && !cell.isDifferent &&
-           !(row.isBOMOnly && isFootprint(m_columns[column].key));
+           !(row.isBOMOnly && m_columns[column].isFootprint());
 }
 
 bool PropertyRows::isBefore(const PropertyRow &left, const PropertyRow &right, size_t column) const

@@ -27,6 +27,10 @@ struct PropertyColumn
     /// Cells without a text stand out.
     bool isRequired = false;
 
+    [[nodiscard]] bool isFootprint() const
+    {
+        return key == QStringLiteral("PACKAGE") || key == QStringLiteral("FOOTPRINT");
+    }
     /// Whether what is shown in it is the same, however it looks.
     [[nodiscard]] bool isSameField(const PropertyColumn &other) const
     {
@@ -127,5 +131,6 @@ private:
     std::vector<PropertyRow> m_rows;
     QHash<QString, int> m_rowOf;
     Source m_source;
+    /// For the columns; they serve until the rows are read anew.
     std::vector<PropertyQuery> m_queries;
 };

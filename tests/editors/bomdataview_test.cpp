@@ -230,7 +230,13 @@ TEST_F(DataView, RecordsNothingWithoutADatabase)
     EXPECT_EQ(text("R1", "F CODE"), "b");
     view.handleBOMDataUpdate();
     EXPECT_EQ(table->rowCount(), 0);
-    view.setAssignments(nullptr);
+    auto other = std::make_unique<BOMPartsDatabase>();
+    auto store = std::make_unique<PropertyAssignments>(other.get());
+    view.setPartsDatabase(other.get());
+    view.setAssignments(store.get());
+    store.reset();
+    other.reset();
+    view.handleBOMDataUpdate();
     view.applyPropertyValues();
     view.clearPendingChanges();
     EXPECT_FALSE(view.hasPendingAssignments());
