@@ -39,7 +39,8 @@ BOMCategoryEditor::BOMCategoryEditor(const BOMPartsDatabase *database, const BOM
 {
     m_ui->setupUi(this);
     m_prefixes = {m_ui->ref1Combo, m_ui->ref2Combo, m_ui->ref3Combo, m_ui->ref4Combo};
-    setUpPrefixes(prefixesOf(database));
+    m_offered = prefixesOf(database);
+    setUpPrefixes();
     m_ui->headingLineEdit->setText(category.heading);
     m_ui->stackedWidget->setCurrentWidget(category.isMiscCategory ? m_ui->miscPage : m_ui->referencesPage);
     showPrefixes();
@@ -50,11 +51,11 @@ BOMCategoryEditor::BOMCategoryEditor(const BOMPartsDatabase *database, const BOM
 
 BOMCategoryEditor::~BOMCategoryEditor() = default;
 
-void BOMCategoryEditor::setUpPrefixes(const QStringList &offered)
+void BOMCategoryEditor::setUpPrefixes()
 {
     for (QComboBox *combo : std::as_const(m_prefixes)) {
         combo->addItem(QString());
-        combo->addItems(offered);
+        combo->addItems(m_offered);
         combo->completer()->setCaseSensitivity(Qt::CaseSensitive);
     }
 }
@@ -77,16 +78,30 @@ QStringList BOMCategoryEditor::shownPrefixes() const
     return shown;
 }
 
+QStringList BOMCategoryEditor::enteredPrefixes() const
+{
+    static const QRegularExpression separators(QStringLiteral("[\\s,;]+"));
+    QStringList entered = shownPrefixes().join(u',').split(separators, Qt::SkipEmptyParts);
+    for (QString &prefix : entered) {
+        // Parts are matched with case: r is meant for R where the design has no r.
+        const auto listed = std::find_if(m_offered.begin(), m_offered.end(), [&prefix](const QString &known) {
+            return known.compare(prefix, Qt::CaseInsensitive) == 0;
+        });
+        if (listed != m_offered.end() && !m_offered.contains(prefix)) {
+            prefix = *listed;
+        }
+    }
+    entered.removeDuplicates();
+    return entered;
+}
+
 BOMCategory BOMCategoryEditor::category() const
 {
     BOMCategory edited = m_category;
     const QString heading = m_ui->headingLineEdit->text();
     edited.heading = heading == m_category.heading ? heading : heading.trimmed();
-    const QStringList shown = shownPrefixes();
-    if (!edited.isMiscCategory && shown != m_found) {
-        static const QRegularExpression separators(QStringLiteral("[\\s,;]+"));
-        edited.references = shown.join(u',').split(separators, Qt::SkipEmptyParts);
-        edited.references.removeDuplicates();
+    if (!edited.isMiscCategory && shownPrefixes() != m_found) {
+        edited.references = enteredPrefixes();
     }
     return edited;
 }

@@ -42,13 +42,16 @@ public Q_SLOTS:
     void accept() override;
 
 private:
-    void setUpPrefixes(const QStringList &offered);
+    void setUpPrefixes();
     void showPrefixes();
     [[nodiscard]] QStringList shownPrefixes() const;
+    [[nodiscard]] QStringList enteredPrefixes() const;
 
     std::unique_ptr<Ui::BOMCategoryEditor> m_ui;
     BOMCategory m_category;
     QList<QComboBox *> m_prefixes;
+    /// The prefixes that the design has.
+    QStringList m_offered;
     /// The texts of the boxes at the beginning.
     QStringList m_found;
     Check m_check;

@@ -80,7 +80,8 @@ BOMPartCreator::BOMPartCreator(PropertyAssignments *assignments, BOMPartsDatabas
     }
     connect(m_ui->categoriesCombo, &QComboBox::currentIndexChanged, this, &BOMPartCreator::updateRefs);
     connect(m_ui->CreateBtn, &QPushButton::clicked, this, &BOMPartCreator::createBOMParts);
-    connect(m_database, &BOMPartsDatabase::dataChanged, this, &BOMPartCreator::updateRefs);
+    connect(m_database, &BOMPartsDatabase::dataChanged, this,
+            [this] { listReferences(ReferenceComboBox::Missing::ChooseNone); });
     m_ui->categoriesCombo->addItem(tr("All"), true);
     for (const QString &heading : m_database->categoryNames()) {
         m_ui->categoriesCombo->addItem(heading);
@@ -110,10 +111,15 @@ void BOMPartCreator::setParentReference(const QString &reference)
 
 void BOMPartCreator::updateRefs()
 {
+    listReferences(ReferenceComboBox::Missing::ChooseFirst);
+}
+
+void BOMPartCreator::listReferences(ReferenceComboBox::Missing missing)
+{
     const QComboBox &categories = *m_ui->categoriesCombo;
     const bool isAll = categories.currentData().toBool();
-    m_ui->referenceCombo->setReferences(
-        placedReferences(*m_database, isAll ? std::nullopt : std::optional(categories.currentText())));
+    const auto category = isAll ? std::nullopt : std::optional(categories.currentText());
+    m_ui->referenceCombo->setReferences(placedReferences(*m_database, category), missing);
 }
 
 BOMPartCreator::Request BOMPartCreator::request() const

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editors/referencecombobox.h"
 #include "host/widgets/applndialog.h"
 
 #include <QString>
@@ -49,6 +50,7 @@ private:
     };
 
     void setUpWidgets();
+    void listReferences(ReferenceComboBox::Missing missing);
     [[nodiscard]] Request request() const;
     /// Markup, empty when nothing is wrong.
     [[nodiscard]] QString problem(const Request &asked) const;

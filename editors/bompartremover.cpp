@@ -11,6 +11,7 @@
 
 #include <QPushButton>
 #include <QSet>
+#include <QSignalBlocker>
 
 namespace {
 
@@ -59,8 +60,13 @@ BOMPartRemover::~BOMPartRemover()
 
 void BOMPartRemover::showParents()
 {
-    m_ui->parentRefCombo->setReferences(parentReferences(*m_database));
-    updateBOMRefs();
+    // Nothing takes the place of a part that is gone: it would be removed instead.
+    constexpr auto none = ReferenceComboBox::Missing::ChooseNone;
+    {
+        const QSignalBlocker blocker(m_ui->parentRefCombo);
+        m_ui->parentRefCombo->setReferences(parentReferences(*m_database), none);
+    }
+    listBOMRefs(none);
 }
 
 void BOMPartRemover::setReference(const QString &reference)
@@ -78,6 +84,11 @@ void BOMPartRemover::setReference(const QString &reference)
 
 void BOMPartRemover::updateBOMRefs()
 {
+    listBOMRefs(ReferenceComboBox::Missing::ChooseFirst);
+}
+
+void BOMPartRemover::listBOMRefs(ReferenceComboBox::Missing missing)
+{
     QStringList references;
     if (m_database) {
         for (const BOMPart *part : m_database->bomParts(m_ui->parentRefCombo->reference())) {
@@ -85,7 +96,7 @@ void BOMPartRemover::updateBOMRefs()
         }
     }
     sortReferences(references);
-    m_ui->bomPartRefCombo->setReferences(references);
+    m_ui->bomPartRefCombo->setReferences(references, missing);
     showValue();
 }
 

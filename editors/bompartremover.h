@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "editors/referencecombobox.h"
 #include "host/widgets/applndialog.h"
 
 #include <QString>
@@ -37,6 +38,7 @@ public Q_SLOTS:
 
 private:
     void showParents();
+    void listBOMRefs(ReferenceComboBox::Missing missing);
     void showValue();
 
     std::unique_ptr<Ui::BOMPartRemover> m_ui;

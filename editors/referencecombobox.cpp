@@ -5,6 +5,7 @@
 #include <QCompleter>
 #include <QLineEdit>
 #include <QListView>
+#include <QSignalBlocker>
 #include <QStringListModel>
 
 #include <algorithm>
@@ -26,15 +27,25 @@ ReferenceComboBox::ReferenceComboBox(QWidget *parent)
     connect(lineEdit(), &QLineEdit::editingFinished, this, &ReferenceComboBox::choose);
 }
 
-void ReferenceComboBox::setReferences(const QStringList &references)
+void ReferenceComboBox::setReferences(const QStringList &references, Missing missing)
 {
     const QString chosen = currentText();
     if (references == m_references->stringList()) {
         return;
     }
-    m_references->setStringList(references);
-    const int kept = row(chosen);
-    setCurrentIndex(kept < 0 && !references.isEmpty() ? 0 : kept);
+    {
+        // The list is empty for a moment.
+        const QSignalBlocker blocker(this);
+        m_references->setStringList(references);
+        setCurrentIndex(-1);
+    }
+    setEditText(chosen);
+    const bool isFirst = row(chosen) < 0 && (chosen.isEmpty() || missing == Missing::ChooseFirst);
+    if (isFirst) {
+        setCurrentIndex(references.isEmpty() ? -1 : 0);
+    } else {
+        choose();
+    }
 }
 
 int ReferenceComboBox::row(const QString &text) const

@@ -15,8 +15,16 @@ class ReferenceComboBox final : public QComboBox
 public:
     explicit ReferenceComboBox(QWidget *parent = nullptr);
 
-    /// Keeps the chosen one if it is listed again, else chooses the first.
-    void setReferences(const QStringList &references);
+    /// What becomes of a choice that is listed no longer. None leaves its text, so that the user sees what is
+    /// missing.
+    enum class Missing
+    {
+        ChooseFirst,
+        ChooseNone
+    };
+
+    /// Keeps the choice if it is listed again; chooses the first where there was no choice.
+    void setReferences(const QStringList &references, Missing missing);
     /// The listed reference that is shown; empty when something else was typed.
     [[nodiscard]] QString reference() const;
     /// Makes what is shown the current one, or none.

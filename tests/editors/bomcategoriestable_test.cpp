@@ -89,7 +89,7 @@ TEST_F(CategoriesTable, AddsInFrontOfTheMiscellaneousOne)
                  EXPECT_EQ(offered.join(u'|'), u"|R|RV|SW"_s);
                  enter(editor, u" Switches "_s, {u"SW"_s, QString(), u"sw"_s, u"SW, K"_s});
              });
-    EXPECT_EQ(rows(), u"Resistors=R, RV|Caps=C|Switches=SW, sw, K|Rest=*"_s);
+    EXPECT_EQ(rows(), u"Resistors=R, RV|Caps=C|Switches=SW, K|Rest=*"_s);
     EXPECT_EQ(table->currentRow(), 2);
     EXPECT_EQ(updates.size(), 1);
     EXPECT_EQ(database.categoryOf(u"SW1A2"_s), u"Switches"_s);
