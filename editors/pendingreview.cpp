@@ -16,6 +16,8 @@ namespace {
 
 /// Further problems are counted only.
 constexpr qsizetype mostProblems = 5;
+/// Of a column at first; people can widen it.
+constexpr int mostCharacters = 28;
 
 } // namespace
 
@@ -38,7 +40,7 @@ PendingReview::PendingReview(PropertyAssignments *assignments, const BOMPartsDat
     setUpTable();
     connectWidgets();
     refresh();
-    m_ui->changesView->resizeColumnsToContents();
+    fitColumns();
     m_ui->changesView->setFocus();
 }
 
@@ -56,6 +58,17 @@ void PendingReview::setUpTable()
     view.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view.verticalHeader()->setDefaultSectionSize(view.verticalHeader()->minimumSectionSize());
     view.sortByColumn(ReviewModel::ReferenceColumn, Qt::AscendingOrder);
+}
+
+/// The state stands last and has what the others leave.
+void PendingReview::fitColumns()
+{
+    QTableView &view = *m_ui->changesView;
+    const int widest = view.fontMetrics().averageCharWidth() * mostCharacters;
+    view.resizeColumnsToContents();
+    for (int column = 0; column < ReviewModel::StateColumn; ++column) {
+        view.setColumnWidth(column, std::min(view.columnWidth(column), widest));
+    }
 }
 
 void PendingReview::connectWidgets()
@@ -84,6 +97,11 @@ void PendingReview::refresh()
     if (!m_ui->changesView->currentIndex().isValid() && m_sorter->rowCount() > 0) {
         m_ui->changesView->selectRow(std::clamp(row, 0, m_sorter->rowCount() - 1));
     }
+    const auto isConfirmable = [](const ReviewRow &row) { return row.canBeConfirmed(); };
+    const auto hasOthers = [](const ReviewRow &row) { return !row.alsoChanges.isEmpty(); };
+    const QList<ReviewRow> &rows = m_model->changes().rows();
+    m_ui->changesView->setColumnHidden(ReviewModel::ConfirmColumn, std::ranges::none_of(rows, isConfirmable));
+    m_ui->changesView->setColumnHidden(ReviewModel::AlsoChangesColumn, std::ranges::none_of(rows, hasOthers));
     m_ui->summaryLabel->setText(m_model->changes().summary());
     showProblems();
     updateButtons();

@@ -32,6 +32,7 @@ public:
 
 private:
     void setUpTable();
+    void fitColumns();
     void connectWidgets();
     /// Works out again what is shown.
     void refresh();

@@ -94,9 +94,9 @@ bool callTextField(const char *function)
 }
 
 /// A single "&" would mark a letter.
-QString menuText(const QString &verb, const QString &command)
+QString menuText(const QString &command)
 {
-    return command.isEmpty() ? verb : verb + u' ' + QString(command).replace(u'&', QStringLiteral("&&"));
+    return QString(command).replace(u'&', QStringLiteral("&&"));
 }
 
 } // namespace
@@ -118,8 +118,9 @@ QAction *PendingUndo::createUndoAction(QObject *parent)
     action->setShortcuts(QKeySequence::Undo);
     action->setEnabled(m_stack.canUndo());
     connect(&m_stack, &QUndoStack::canUndoChanged, action, &QAction::setEnabled);
-    connect(&m_stack, &QUndoStack::undoTextChanged, action,
-            [action](const QString &text) { action->setText(menuText(tr("&Undo"), text)); });
+    connect(&m_stack, &QUndoStack::undoTextChanged, action, [action](const QString &text) {
+        action->setText(text.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(menuText(text)));
+    });
     connect(action, &QAction::triggered, &m_stack, [this] {
         if (!callTextField("undo")) {
             m_stack.undo();
@@ -137,8 +138,9 @@ QAction *PendingUndo::createRedoAction(QObject *parent)
         {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
     action->setEnabled(m_stack.canRedo());
     connect(&m_stack, &QUndoStack::canRedoChanged, action, &QAction::setEnabled);
-    connect(&m_stack, &QUndoStack::redoTextChanged, action,
-            [action](const QString &text) { action->setText(menuText(tr("&Redo"), text)); });
+    connect(&m_stack, &QUndoStack::redoTextChanged, action, [action](const QString &text) {
+        action->setText(text.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(menuText(text)));
+    });
     connect(action, &QAction::triggered, &m_stack, [this] {
         if (!callTextField("redo")) {
             m_stack.redo();

@@ -21,12 +21,6 @@ bool isRemoval(const PendingEdit &edit)
     return edit.value.isEmpty() || edit.value == PropertyAssignments::removal();
 }
 
-/// Whether the user can have the edit written, and does not have to drop it.
-bool canBeConfirmed(const ReviewRow &row)
-{
-    return row.edit.conflict == EditConflict::ValueChanged;
-}
-
 } // namespace
 
 ReviewModel::ReviewModel(PropertyAssignments *assignments, const BOMPartsDatabase *database, QObject *parent)
@@ -69,12 +63,12 @@ QVariant ReviewModel::data(const QModelIndex &index, int role) const
     case Qt::ToolTipRole:
         return toolTip(shown, index.column());
     case Qt::CheckStateRole:
-        if (index.column() == ConfirmColumn && canBeConfirmed(shown)) {
+        if (index.column() == ConfirmColumn && shown.canBeConfirmed()) {
             return shown.edit.isConfirmed ? Qt::Checked : Qt::Unchecked;
         }
         break;
     case Qt::AccessibleTextRole:
-        if (index.column() == ConfirmColumn && canBeConfirmed(shown)) {
+        if (index.column() == ConfirmColumn && shown.canBeConfirmed()) {
             return tr("Write it although the design changed");
         }
         return text(shown, index.column());
@@ -116,14 +110,14 @@ QString ReviewModel::text(const ReviewRow &row, int column) const
 QString ReviewModel::toolTip(const ReviewRow &row, int column) const
 {
     if (column == ConfirmColumn) {
-        return canBeConfirmed(row) ? tr("Write it although the design changed") : QString();
+        return row.canBeConfirmed() ? tr("Write it although the design changed") : QString();
     }
     return column == PlaceColumn && !row.file.isEmpty() ? row.file : text(row, column);
 }
 
 bool ReviewModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (role != Qt::CheckStateRole || index.column() != ConfirmColumn || !canBeConfirmed(row(index.row()))) {
+    if (role != Qt::CheckStateRole || index.column() != ConfirmColumn || !row(index.row()).canBeConfirmed()) {
         return false;
     }
     // The store answers with another list of edits.
@@ -145,7 +139,7 @@ QVariant ReviewModel::headerData(int section, Qt::Orientation orientation, int r
 Qt::ItemFlags ReviewModel::flags(const QModelIndex &index) const
 {
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    if (index.column() == ConfirmColumn && canBeConfirmed(row(index.row()))) {
+    if (index.column() == ConfirmColumn && row(index.row()).canBeConfirmed()) {
         flags |= Qt::ItemIsUserCheckable;
     }
     return flags;
@@ -168,7 +162,7 @@ bool ReviewSorter::lessThan(const QModelIndex &left, const QModelIndex &right) c
     case ReviewModel::PlaceColumn:
         return std::tie(one.file, one.line) < std::tie(other.file, other.line);
     case ReviewModel::ConfirmColumn:
-        return canBeConfirmed(one) && !canBeConfirmed(other);
+        return one.canBeConfirmed() && !other.canBeConfirmed();
     default:
         return left.data().toString().localeAwareCompare(right.data().toString()) < 0;
     }

@@ -44,6 +44,8 @@ struct ReviewRow
     /// Why it is refused.
     QStringList reasons;
 
+    /// Whether the user can have the edit written although it is in conflict.
+    [[nodiscard]] bool canBeConfirmed() const { return edit.conflict == EditConflict::ValueChanged; }
     /// "amp.kicad_sch:120", with the definition before it.
     [[nodiscard]] QString place() const;
     /// In words.

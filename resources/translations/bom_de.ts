@@ -354,6 +354,10 @@
         <source>%1 Links</source>
         <translation>%1 Links</translation>
     </message>
+    <message>
+        <source>Show all rows</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BOMExcelView</name>
@@ -1540,6 +1544,14 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>&amp;Redo</source>
         <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
     </message>
 </context>
 <context>

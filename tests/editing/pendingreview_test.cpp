@@ -112,7 +112,7 @@ TEST_F(Review, TellsWhatIsRefused)
     store->assign(u"R20"_s, u"MPN"_s, u"y"_s);
     store->assign(u"R1"_s, u"MPN"_s, u"z"_s);
     open();
-    EXPECT_EQ(label("summaryLabel"), "3 edits of 3 parts; 2 refused");
+    EXPECT_EQ(label("summaryLabel"), "3 edits of 3 parts in 1 file; 2 refused");
     EXPECT_FALSE(button("applyButton")->isEnabled());
     EXPECT_EQ(label("problemsLabel"),
               "Nothing can be written while edits are refused: drop or correct those.");

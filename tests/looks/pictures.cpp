@@ -8,7 +8,9 @@
 #include "editors/advancedsettings.h"
 #include "editors/bomdataview.h"
 #include "editors/bomtemplateimporter.h"
+#include "editors/pendingreview.h"
 #include "editors/physicalpropertycreator.h"
+#include "editors/propsfindandreplace.h"
 #include "looks/iconsheet.h"
 #include "looks/panelpictures.h"
 #include "richtext/editor/textedit.h"
@@ -20,10 +22,14 @@
 #include "templates/templatestore.h"
 #include "views/bomtemplateeditor.h"
 
+#include <QAbstractButton>
 #include <QCheckBox>
+#include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -183,6 +189,97 @@ std::shared_ptr<QWidget> emptyPropertyEditor()
     view->resize(900, 300);
     view->handleBOMDataUpdate();
     return view;
+
+/// At the end of a search that did not replace all.
+std::shared_ptr<QWidget> findAndReplace()
+{
+    struct Scene
+    {
+        SampleDesign design;
+        PropertyAssignments assignments{&design.database};
+        BOMDataView view;
+    };
+    const auto scene = std::make_shared<Scene>();
+    scene->design.database.setCurrentTemplate(BOMTemplate());
+    scene->view.setPartsDatabase(&scene->design.database);
+    scene->view.setAssignments(&scene->assignments);
+    scene->view.handleBOMDataUpdate();
+    auto *table = scene->view.findChild<QTableWidget *>(QStringLiteral("partsView"));
+    table->setCurrentCell(0, 0);
+    table->hideRow(1);
+    scene->view.showReplaceDialogue();
+    auto *dialog = scene->view.findChild<PropsFindAndReplace *>();
+    dialog->findChild<QLineEdit *>(QStringLiteral("replaceEdit"))->setText(QStringLiteral("R-0603-103"));
+    dialog->findChild<QAbstractButton *>(QStringLiteral("replaceAllBtn"))->click();
+    return {scene, dialog};
+}
+
+/// Edits of all kinds against a design in files that another program has changed since.
+struct ReviewScene
+{
+    [[nodiscard]] bool open()
+    {
+        const QString examples = QStringLiteral(BOM_SOURCE_DIR "/examples/audio-amplifier/");
+        for (const QString &name : QDir(examples).entryList(QDir::Files)) {
+            QFile::copy(examples + name, folder.filePath(name));
+        }
+        if (!session.open(folder.filePath(QStringLiteral("audio-amplifier.kicad_pro")))) {
+            return false;
+        }
+        cache.setsource(&session.netlist());
+        database.setNetlist(&cache);
+        return true;
+    }
+    void load()
+    {
+        cache.validate(1);
+        database.reload();
+    }
+
+    QTemporaryDir folder;
+    DesignSession session;
+    NETCACHE cache;
+    BOMPartsDatabase database;
+    PropertyAssignments assignments{&database};
+    std::unique_ptr<PendingReview> dialog;
+};
+
+std::shared_ptr<QWidget> pendingReview(bool isRefused)
+{
+    const auto scene = std::make_shared<ReviewScene>();
+    if (!scene->open()) {
+        return nullptr;
+    }
+    scene->load();
+    const auto assign = [&scene](const char *reference, const char *property, const char *value) {
+        scene->assignments.assign(QString::fromUtf8(reference), QString::fromUtf8(property),
+                                  QString::fromUtf8(value));
+    };
+    assign("R1", "CODE", "R-0603-103");
+    assign("R2", "VALUE", "47k");
+    assign("HS2", "COST", "0.41");
+    assign("C1", "MPN", "GRM188R71H104KA93D");
+    assign("C2", "CODE", "");
+    assign("Q99", "CODE", "T-3904");
+    assign("R101", "CODE", "R-0603-472");
+    if (isRefused) {
+        assign("R201", "CODE", "R-0603-222");
+    }
+    // What KiCad does meanwhile.
+    QFile file(scene->folder.filePath(QStringLiteral("power_supply.kicad_sch")));
+    if (!file.open(QIODevice::ReadWrite)) {
+        return nullptr;
+    }
+    const QByteArray changed = file.readAll().replace("\"R06-0007\"", "\"R06-0008\"");
+    file.seek(0);
+    file.write(changed);
+    file.close();
+    if (!scene->session.reread()) {
+        return nullptr;
+    }
+    scene->load();
+    scene->dialog = std::make_unique<PendingReview>(&scene->assignments, &scene->database);
+    return {scene, scene->dialog.get()};
 }
 
 std::shared_ptr<QWidget> mainWindow()
@@ -214,6 +311,9 @@ QList<Picture> pictures()
         {QStringLiteral("template-importer"), templateImporter},
         {QStringLiteral("template-editor"), templateEditor},
         {QStringLiteral("style-editor"), styleEditor},
+        {QStringLiteral("find-and-replace"), findAndReplace},
+        {QStringLiteral("pending-review"), [] { return pendingReview(false); }},
+        {QStringLiteral("pending-review-refused"), [] { return pendingReview(true); }},
     };
     return own + panelPictures();
 }
