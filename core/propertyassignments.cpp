@@ -423,7 +423,9 @@ void PropertyAssignments::endWritten(const QList<PendingEdit> &written, const Mo
         }
     }
     move(moves);
-    Q_EMIT historyEnded();
+    if (!written.isEmpty()) {
+        Q_EMIT historyEnded();
+    }
 }
 
 void PropertyAssignments::move(const Moves &moves)
@@ -511,16 +513,23 @@ QString PropertyAssignments::removeBOMPart(const QString &parentReference, const
 
 PropertyAssignments::Moves PropertyAssignments::movesBehind(const PartIdentity &removed)
 {
+    const QList<PendingEdit> edits = current().list();
+    const auto isSibling = [&removed](const PendingEdit &edit) {
+        return edit.part.component == removed.component && edit.part.definition == removed.definition;
+    };
+    // Edits of the removed part itself stay. No part has their identity any more, nor has one that was removed
+    // before.
+    int gone = -1;
+    for (const PendingEdit &edit : edits) {
+        gone = isSibling(edit) ? std::min(gone, edit.part.place - 1) : gone;
+    }
     Moves moves;
-    for (const PendingEdit &edit : current().list()) {
-        PartIdentity moved = edit.part;
-        if (moved.component != removed.component || moved.definition != removed.definition ||
-            moved.place < removed.place) {
-            continue;
+    for (const PendingEdit &edit : edits) {
+        if (isSibling(edit) && edit.part.place >= removed.place) {
+            PartIdentity moved = edit.part;
+            moved.place = moved.place == removed.place ? gone : moved.place - 1;
+            moves.append({EditKey::of(edit), moved});
         }
-        // Edits of the removed part itself stay, and no part has their identity any more.
-        moved.place = moved.place == removed.place ? -1 : moved.place - 1;
-        moves.append({EditKey::of(edit), moved});
     }
     return moves;
 }
