@@ -517,8 +517,8 @@ PropertyAssignments::Moves PropertyAssignments::movesBehind(const PartIdentity &
     const auto isSibling = [&removed](const PendingEdit &edit) {
         return edit.part.component == removed.component && edit.part.definition == removed.definition;
     };
-    // Edits of the removed part itself stay. No part has their identity any more, nor has one that was removed
-    // before.
+    // Edits of the removed part itself stay. No part has their identity any more, nor has one that was
+    // removed before.
     int gone = -1;
     for (const PendingEdit &edit : edits) {
         gone = isSibling(edit) ? std::min(gone, edit.part.place - 1) : gone;

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "editors/propsfindandreplace.h"
 
+#include "editors/dataviewfixture.h"
 #include "editors/dialogfixture.h"
+#include "editors/pendingundo.h"
 
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -251,6 +253,36 @@ TEST_F(FindAndReplace, ReplacesInLargeTables)
     press("replaceAllBtn");
     RecordProperty("milliseconds", int(timer.elapsed()));
     EXPECT_EQ(table.findItems(u"new"_s, Qt::MatchExactly).size(), rows);
+}
+
+TEST_F(DataView, HasTextsReplacedByTheRulesOfTheirColumns)
+{
+    PendingUndo undo(&assignments);
+    type("R1", "F AMOUNT", u"5"_s);
+    type("R2", "F AMOUNT", u"5"_s);
+    table->setCurrentItem(cell("R1", "F AMOUNT"));
+    view.showReplaceDialogue();
+    auto *dialog = view.findChild<PropsFindAndReplace *>();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog));
+    const auto replaceAll = [dialog](const char *text) {
+        dialog->findChild<QLineEdit *>(u"replaceEdit"_s)->setText(QLatin1String(text));
+        QTest::mouseClick(dialog->findChild<QAbstractButton *>(u"replaceAllBtn"_s), Qt::LeftButton);
+        return dialog->findChild<QLabel *>(u"searchStatus"_s)->text();
+    };
+    EXPECT_EQ(replaceAll("1.0"), endOfSearch);
+    EXPECT_EQ(pending(), "R1 AMOUNT=1, R2 AMOUNT=1");
+    EXPECT_EQ(undo.stack().count(), 3) << "what one command replaces is one step";
+
+    table->setCurrentItem(cell("R1", "F FIT"));
+    view.showFindDialogue();
+    EXPECT_EQ(replaceAll("maybe"), incompatible);
+    EXPECT_EQ(replaceAll("No"), endOfSearch);
+    EXPECT_EQ(pending(), "R1 AMOUNT=1, R1 FIT=No, R2 AMOUNT=1, R2 FIT=No");
+
+    table->setCurrentItem(cell("R1", "F CODE"));
+    view.showFindDialogue();
+    EXPECT_EQ(replaceAll("a{b}"), incompatible) << "a design cannot hold it as it is";
+    EXPECT_FALSE(assignments.edit(u"R1"_s, u"CODE"_s));
 }
 
 } // namespace
