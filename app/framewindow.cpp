@@ -207,7 +207,9 @@ void FrameWindow::restorePlace()
 {
     const QString place = HostSettings::current().value(settingsGroup(), placeKey()).value_or(QString());
     if (!restoreGeometry(QByteArray::fromBase64(place.toLatin1()))) {
-        resize(firstSize.boundedTo(screen()->availableSize()));
+        // Room for what the window manager puts around it.
+        constexpr QSize frame(16, 64);
+        resize(firstSize.boundedTo(screen()->availableSize() - frame));
     }
 }
 

@@ -131,7 +131,7 @@ QAction *PendingUndo::createUndoAction(QObject *parent)
 
 QAction *PendingUndo::createRedoAction(QObject *parent)
 {
-    auto *action = new QAction(tr("&Redo"), parent);
+    auto *action = new QAction(tr("R&edo"), parent);
     action->setObjectName(QStringLiteral("redoEditAction"));
     // Not all platforms have both.
     action->setShortcuts(
@@ -139,7 +139,7 @@ QAction *PendingUndo::createRedoAction(QObject *parent)
     action->setEnabled(m_stack.canRedo());
     connect(&m_stack, &QUndoStack::canRedoChanged, action, &QAction::setEnabled);
     connect(&m_stack, &QUndoStack::redoTextChanged, action, [action](const QString &text) {
-        action->setText(text.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(menuText(text)));
+        action->setText(text.isEmpty() ? tr("R&edo") : tr("R&edo %1").arg(menuText(text)));
     });
     connect(action, &QAction::triggered, &m_stack, [this] {
         if (!callTextField("redo")) {

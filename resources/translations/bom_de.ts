@@ -1542,7 +1542,7 @@ Trotzdem ausgeben?</translation>
         <translation>&amp;Rückgängig</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
+        <source>R&amp;edo</source>
         <translation>&amp;Wiederholen</translation>
     </message>
     <message>
@@ -1550,7 +1550,7 @@ Trotzdem ausgeben?</translation>
         <translation>&amp;Rückgängig: %1</translation>
     </message>
     <message>
-        <source>&amp;Redo %1</source>
+        <source>R&amp;edo %1</source>
         <translation>&amp;Wiederholen: %1</translation>
     </message>
 </context>
