@@ -47,6 +47,12 @@ std::optional<PropType> PropertyTypes::type(const QString &name) const
     return definition ? std::optional(definition->type) : std::nullopt;
 }
 
+QStringList PropertyTypes::keywords(const QString &name) const
+{
+    const PROPDEF *definition = m_definitions.find(name);
+    return definition ? definition->getkwdprops() : QStringList();
+}
+
 bool PropertyTypes::isNumeric(const QString &name) const
 {
     const auto found = type(name);

@@ -5,6 +5,7 @@
 #include "host/propdefs/propdef.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -17,6 +18,9 @@ public:
 
     /// Nothing for a property without a definition.
     [[nodiscard]] std::optional<PropType> type(const QString &name) const;
+
+    /// The texts that the definition lists; empty where any will do.
+    [[nodiscard]] QStringList keywords(const QString &name) const;
 
     /// Whether the values are numbers: a whole or a decimal one.
     [[nodiscard]] bool isNumeric(const QString &name) const;

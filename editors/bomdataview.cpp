@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "editors/bomdataview.h"
 
+#include "core/bompart.h"
 #include "core/bompartsdatabase.h"
+#include "editors/bompartcreator.h"
+#include "editors/bompartremover.h"
 #include "editors/cellblocks.h"
 #include "editors/columnmenu.h"
 #include "editors/partmenu.h"
@@ -13,9 +16,11 @@
 #include "host/framework/hostui.h"
 #include "host/netlist/cdbcore.h"
 #include "host/widgets/applnwidget.h"
+#include "host/widgets/waitcursor.h"
 #include "ui_bomdataview.h"
 
 #include <QClipboard>
+#include <QDialog>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
@@ -25,15 +30,6 @@
 #include <algorithm>
 
 namespace {
-
-class WaitCursor final
-{
-public:
-    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    WaitCursor(const WaitCursor &) = delete;
-    WaitCursor &operator=(const WaitCursor &) = delete;
-    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-};
 
 /// So many edits are named in one message.
 constexpr qsizetype mostNamed = 3;
@@ -97,6 +93,8 @@ void BOMDataView::connectForm()
     connect(m_ui->categoriesCombo, &QComboBox::currentIndexChanged, this, &BOMDataView::handleBOMDataUpdate);
     connect(m_ui->applyPropDefsBtn, &QPushButton::clicked, this, &BOMDataView::applyPropertyValues);
     connect(m_ui->clearPendingChangesBtn, &QPushButton::clicked, this, &BOMDataView::clearPendingChanges);
+    connect(m_ui->newBOMPartBtn, &QPushButton::clicked, this, &BOMDataView::newBOMPart);
+    connect(m_ui->removeBOMPartBtn, &QPushButton::clicked, this, &BOMDataView::removeBOMPart);
     connect(m_ui->partsView, &BOMTableWidget::itemChanged, this, &BOMDataView::addPendingAssignment);
     connect(m_ui->partsView, &BOMTableWidget::cellLeftClicked, this, &BOMDataView::cellLeftClicked);
     connect(m_ui->partsView, &BOMTableWidget::cellRightClicked, this, &BOMDataView::cellRightClicked);
@@ -383,6 +381,43 @@ void BOMDataView::clearPendingChanges()
         m_assignments->clear();
         m_table->refreshPending();
         Q_EMIT pendingPropertyAssignments(hasPendingAssignments());
+    }
+    fillIfDue();
+    updateButtons();
+}
+
+void BOMDataView::newBOMPart()
+{
+    if (!m_database || !m_assignments || !m_delegate->commitEditing()) {
+        return;
+    }
+    BOMPartCreator dialog(m_assignments, m_database, this);
+    const auto *bomPart = dynamic_cast<const BOMPart *>(m_database->part(currentReference()));
+    dialog.setParentReference(bomPart ? bomPart->parentReference() : currentReference());
+    run(&dialog);
+}
+
+void BOMDataView::removeBOMPart()
+{
+    if (!m_database || !m_assignments || !m_delegate->commitEditing()) {
+        return;
+    }
+    BOMPartRemover dialog(m_assignments, m_database, this);
+    dialog.setReference(currentReference());
+    run(&dialog);
+}
+
+QString BOMDataView::currentReference() const
+{
+    const PropertyRow *current = m_table->rowAt(m_ui->partsView->currentRow());
+    return current ? current->firstReference() : QString();
+}
+
+void BOMDataView::run(QDialog *dialog)
+{
+    {
+        const QScopedValueRollback asking(m_isAsking, true);
+        dialog->exec();
     }
     fillIfDue();
     updateButtons();

@@ -17,6 +17,7 @@ class PropValEditDelegate;
 class PropsFindAndReplace;
 class PropertyRecorder;
 class PartsTable;
+class QDialog;
 class QTableWidgetItem;
 
 namespace Ui {
@@ -61,6 +62,9 @@ public Q_SLOTS:
     void applyPropertyValues();
     /// Forgets what is pending, if the user says so.
     void clearPendingChanges();
+    /// Open the dialogs that make BOM-only parts and take them away, for the current part.
+    void newBOMPart();
+    void removeBOMPart();
     void cellLeftClicked(int row, int column);
     void cellRightClicked(int row, int column);
     /// Shows with the pointer what a click does.
@@ -83,6 +87,9 @@ private:
     void updateAssignments();
     void fillIfDue();
     void reportKept(const ApplyResult &result);
+    [[nodiscard]] QString currentReference() const;
+    /// Runs a dialog that changes parts.
+    void run(QDialog *dialog);
     void openMenu(int row, int column, const QPoint &position);
     /// Ends the edits of the selected cells.
     void retractSelected();

@@ -7,6 +7,7 @@
 #include "editors/propertyrows.h"
 #include "host/framework/hostui.h"
 #include "host/netlist/component.h"
+#include "host/widgets/linkhandler.h"
 #include "richtext/xhtml/links.h"
 
 #include <QCursor>
@@ -55,7 +56,7 @@ void PartMenu::navigateTo(const QString &reference)
         part = m_database->part(bomPart->parentReference());
     }
     if (part && part->component()) {
-        Q_EMIT statusMessage(part->reference());
+        LinkHandler::navigateLink(part->reference(), part->component()->identifier, m_window);
     }
 }
 

@@ -58,6 +58,10 @@ QWidget *PropValEditDelegate::makeEditor(QWidget *parent, const QStyleOptionView
     }
     const auto type = m_database ? m_database->propertyTypes().type(property) : std::nullopt;
     QWidget *editor = type ? typedEditor(*type, parent) : nullptr;
+    const QStringList keywords = m_database ? m_database->propertyTypes().keywords(property) : QStringList();
+    if (!editor && !keywords.isEmpty()) {
+        editor = new KeywordValueEditor(keywords, parent);
+    }
     if (!editor) {
         editor = StyledItemDelegate::makeEditor(parent, option, index);
     }

@@ -356,7 +356,7 @@
     </message>
     <message>
         <source>Show all rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Zeilen zeigen</translation>
     </message>
 </context>
 <context>

@@ -3,8 +3,10 @@
 #include "editors/dataviewfixture.h"
 
 #include <QClipboard>
+#include <QDialog>
 #include <QHeaderView>
 #include <QMenu>
+#include <QTimer>
 
 namespace {
 
@@ -69,6 +71,35 @@ TEST_F(DataViewMenus, LeadToThePartsOfALine)
     clickCell(cell("R3", "_(Links)"));
     choose(u"R3, CODE"_s);
     EXPECT_EQ(ui.openedUrls, QList{QUrl(u"http://x"_s)});
+}
+
+TEST_F(DataViewMenus, OpenDialogsForBOMOnlyPartsOfTheCurrentPart)
+{
+    EXPECT_TRUE(child<QWidget>("removeBOMPartBtn")->isEnabled());
+    table->setCurrentItem(cell("SCR1", "References"));
+    bool wasBusy = false;
+    QString shown;
+    const auto look = [&] {
+        wasBusy = view.isBusy();
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        const auto texts = dialog->findChildren<QComboBox *>();
+        for (const QComboBox *text : texts) {
+            shown += text->currentText() + u' ';
+        }
+        dialog->reject();
+    };
+    QTimer::singleShot(0, &view, look);
+    click("newBOMPartBtn");
+    EXPECT_TRUE(wasBusy);
+    EXPECT_TRUE(shown.contains(u"U1"_s)) << qPrintable(shown);
+    shown.clear();
+    QTimer::singleShot(0, &view, look);
+    click("removeBOMPartBtn");
+    EXPECT_TRUE(shown.contains(u"SCR1"_s)) << qPrintable(shown);
+    EXPECT_FALSE(view.isBusy());
+    setcdb(nullptr);
+    view.handleBOMDataUpdate();
+    EXPECT_FALSE(child<QWidget>("newBOMPartBtn")->isEnabled());
 }
 
 TEST_F(DataViewMenus, SetSelectedCellsBack)
