@@ -189,6 +189,7 @@ std::shared_ptr<QWidget> emptyPropertyEditor()
     view->resize(900, 300);
     view->handleBOMDataUpdate();
     return view;
+}
 
 /// At the end of a search that did not replace all.
 std::shared_ptr<QWidget> findAndReplace()
