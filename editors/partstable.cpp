@@ -173,7 +173,9 @@ void PartsTable::restoreLayout()
         header.moveSection(header.visualIndex(column), column);
         if (!layout.widths.contains(m_table->horizontalHeaderItem(column)->text())) {
             m_table->resizeColumnToContents(column);
-            header.resizeSection(column, std::min(header.sectionSize(column), widestAtFirst));
+            // With room for the arrow of the sorting, which is not there yet.
+            const int width = header.sectionSize(column) + m_table->fontMetrics().height();
+            header.resizeSection(column, std::min(width, widestAtFirst));
         }
     }
     setColumnLayout(&header, layout);
