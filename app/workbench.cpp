@@ -244,10 +244,21 @@ void Workbench::clearRecentFiles()
 void Workbench::undoLastWrite()
 {
     const QString question = tr("Take back what was written last into the design \"%1\"?");
-    if (!m_session.design() ||
-        !HostUi::current().question(&m_window, tr("Undo Last Write"),
-                                    question.arg(QFileInfo(m_path).fileName()), false) ||
-        !canClose()) {
+    if (!m_session.design()) {
+        return;
+    }
+    const quint64 stamp = m_session.design()->properties().stamp();
+    if (!canClose()) {
+        return;
+    }
+    if (m_session.design()->properties().stamp() != stamp) {
+        // What was to be taken back is not the last write any more.
+        m_window.setstatustext(
+            tr("The pending changes were written just now, and would be taken back first."));
+        return;
+    }
+    if (!HostUi::current().question(&m_window, tr("Undo Last Write"),
+                                    question.arg(QFileInfo(m_path).fileName()), false)) {
         return;
     }
     const UndoResult undone = m_session.undo();

@@ -54,6 +54,11 @@ public:
     [[nodiscard]] const PendingEdits *current() const { return m_current ? &m_current->edits : nullptr; }
     /// What an earlier run left of the design that is open.
     [[nodiscard]] QList<PendingEdit> earlier() const;
+    /// See PendingJournal::unreadable().
+    [[nodiscard]] QString unreadableJournal() const
+    {
+        return m_current ? m_current->journal.unreadable() : QString();
+    }
     /// Forgets them; the journal then has what is pending.
     void clearEarlier();
 

@@ -155,3 +155,48 @@ void PendingEdits::index()
         }
     }
 }
+
+std::vector<EditedPart> PendingEdits::definedParts(const QList<PendingEdit> &edits) const
+{
+    std::vector<EditedPart> parts;
+    for (const PendingEdit &edit : edits) {
+        if (!edit.part.definition.isEmpty()) {
+            parts.push_back({EditKey::of(edit), m_identities.find(edit.part, edit.reference).part});
+        }
+    }
+    return parts;
+}
+
+QList<EditMove> PendingEdits::movesOf(const std::vector<EditedPart> &parts)
+{
+    m_identities.reset();
+    QList<EditMove> moves;
+    for (const EditedPart &edited : parts) {
+        if (edited.part) {
+            moves.append({edited.key, m_identities.of(*edited.part)});
+        }
+    }
+    return moves;
+}
+
+QList<EditMove> PendingEdits::movesBehind(const PartIdentity &removed) const
+{
+    const auto isSibling = [&removed](const PartIdentity &part) {
+        return part.component == removed.component && part.definition == removed.definition;
+    };
+    // Edits of the removed part itself stay. No part has their identity any more, nor has one that was
+    // removed before.
+    int gone = -1;
+    for (const auto &[key, edit] : m_edits) {
+        gone = isSibling(key.part) ? std::min(gone, key.part.place - 1) : gone;
+    }
+    QList<EditMove> moves;
+    for (const auto &[key, edit] : m_edits) {
+        if (isSibling(key.part) && key.part.place >= removed.place) {
+            PartIdentity moved = key.part;
+            moved.place = moved.place == removed.place ? gone : moved.place - 1;
+            moves.append({key, moved});
+        }
+    }
+    return moves;
+}

@@ -13,8 +13,10 @@
 #include <map>
 #include <optional>
 #include <tuple>
+#include <vector>
 
 class BOMPartsDatabase;
+class Part;
 
 /// What one edit is about; a design has at most one edit of it.
 struct EditKey
@@ -30,6 +32,20 @@ struct EditKey
     {
         return std::tie(part, property) < std::tie(other.part, other.property);
     }
+};
+
+/// A BOM-only part that an edit is about; null where there is none.
+struct EditedPart
+{
+    EditKey key;
+    const Part *part = nullptr;
+};
+
+/// What an edit is about when its part is known by something else.
+struct EditMove
+{
+    EditKey from;
+    PartIdentity to;
 };
 
 /// The pending edits of one design, found by what they are about and by the references of their parts.
@@ -62,9 +78,14 @@ public:
 
     /// To be called when the database has loaded: the edits follow their parts. True when that changed any.
     bool follow();
-    /// To be called when the database has changed what defines BOM-only parts.
-    void resetIdentities() { m_identities.reset(); }
     [[nodiscard]] const PartIdentities &identities() const { return m_identities; }
+
+    /// The BOM-only parts that the edits are about.
+    [[nodiscard]] std::vector<EditedPart> definedParts(const QList<PendingEdit> &edits) const;
+    /// Where their edits go, to be called when the database has changed what defines them.
+    [[nodiscard]] QList<EditMove> movesOf(const std::vector<EditedPart> &parts);
+    /// Where edits go when a BOM-only part is removed: those of the parts behind it in its definition.
+    [[nodiscard]] QList<EditMove> movesBehind(const PartIdentity &removed) const;
 
 private:
     [[nodiscard]] const PropertyQuery &query(const QString &property);

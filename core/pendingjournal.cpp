@@ -32,7 +32,9 @@ QString fileName(const EditedDesign &design, int program)
 {
     const QByteArray told = design.file.toUtf8() + '\n' + design.variant.toUtf8();
     const QByteArray hash = QCryptographicHash::hash(told, QCryptographicHash::Sha1).toHex().left(16);
-    return QFileInfo(design.file).completeBaseName() + u'-' + QString::fromLatin1(hash) +
+    // For people; a whole name may leave no room for the rest.
+    constexpr qsizetype mostOfName = 40;
+    return QFileInfo(design.file).completeBaseName().left(mostOfName) + u'-' + QString::fromLatin1(hash) +
            (program > 0 ? u'-' + QString::number(program + 1) : QString()) + QStringLiteral(".pending");
 }
 
@@ -100,6 +102,16 @@ QJsonObject nextObject(QFile *file)
     return QJsonDocument::fromJson(file->readLine()).object();
 }
 
+/// Whether the file is missing or empty, or one that this program can go on with.
+bool canBeUsed(const QString &path, const EditedDesign &design)
+{
+    QFile file(path);
+    if (!file.exists() || file.size() == 0) {
+        return true;
+    }
+    return file.size() <= mostBytes && file.open(QIODevice::ReadOnly) && isOf(nextObject(&file), design);
+}
+
 } // namespace
 
 PendingJournal::PendingJournal(const QString &folder, const EditedDesign &design)
@@ -118,9 +130,16 @@ PendingJournal::PendingJournal(const QString &folder, const EditedDesign &design
         if (!m_file.path.isEmpty() && !QFile::exists(path)) {
             continue;
         }
+        if (!canBeUsed(path, design)) {
+            m_unreadable = path;
+            continue;
+        }
         auto lock = std::make_unique<QLockFile>(path + QStringLiteral(".lock"));
         lock->setStaleLockTime(0);
         if (!lock->tryLock()) {
+            if (lock->error() != QLockFile::LockFailedError) {
+                m_error = path;
+            }
             continue;
         }
         if (m_file.path.isEmpty()) {
@@ -128,6 +147,9 @@ PendingJournal::PendingJournal(const QString &folder, const EditedDesign &design
         } else {
             m_others.push_back({path, std::move(lock)});
         }
+    }
+    if (m_file.path.isEmpty() && m_error.isEmpty()) {
+        m_error = folder;
     }
 }
 

@@ -33,6 +33,9 @@ public:
     [[nodiscard]] bool record(const QList<EditKey> &gone, const QList<PendingEdit> &come, qsizetype count,
                               const std::function<QList<PendingEdit>()> &all);
     [[nodiscard]] const QString &error() const { return m_error; }
+    /// A file that should be one of this design's and cannot be read, of a later version for instance. It is
+    /// left as it is. Empty when there is none.
+    [[nodiscard]] const QString &unreadable() const { return m_unreadable; }
 
 private:
     struct File
@@ -51,6 +54,7 @@ private:
     /// What programs left that had the design open beside another one; their edits go into the own file.
     std::vector<File> m_others;
     QString m_error;
+    QString m_unreadable;
     /// How many lines the file has; none of them is known until it was written by this object.
     qsizetype m_lines = -1;
 };

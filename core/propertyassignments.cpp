@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "core/propertyassignments.h"
 
-#include "core/bomlinks.h"
 #include "core/bompart.h"
 #include "core/bompartsdatabase.h"
 #include "core/designwrite.h"
+#include "core/linksdefinition.h"
 #include "core/resultstream.h"
 #include "core/storedconversion.h"
 #include "host/framework/hosttext.h"
 #include "host/framework/hostui.h"
-#include "host/propdefs/propdefsfile.h"
 
 #include <QScopedValueRollback>
 #include <QStringList>
@@ -43,29 +42,6 @@ QString joinedMessages(const QList<CDBPROBLEM> &problems)
 QString cutResult(const QString &text)
 {
     return text.size() > longestResult ? text.left(longestResult) + QStringLiteral("...") : text;
-}
-
-/// A file that somebody marked read-only is left as it is; that matters only when links are written.
-void defineLinksProperty(bool writesLinks)
-{
-    if (!writesLinks && isreadonly_defaultdefs()) {
-        return;
-    }
-    DIDX defined;
-    PROPTEXT text;
-    bool isKnown = load_defaultdefs(&defined, &text);
-    if (isKnown && !defined.find(bomLinksProperty())) {
-        text.add(QStringLiteral("PROPDEFS"),
-                 format_propdefs({bomLinksProperty(), PropType::String,
-                                  QStringLiteral("External links set in the BOM")}));
-        isKnown = save_defaultdefs(text);
-    }
-    if (!isKnown) {
-        HostUi::current().warning(
-            nullptr, PropertyAssignments::tr("Property Definitions"),
-            PropertyAssignments::tr(
-                "The property BOMLINKS could not be defined.  Please ensure 'PROPDEFS.INI' is writeable."));
-    }
 }
 
 QString busy()
@@ -107,6 +83,12 @@ void PropertyAssignments::follow()
 {
     switch (m_designs.follow()) {
     case PendingDesigns::Followed::Design:
+        if (const QString journal = m_designs.unreadableJournal(); !journal.isEmpty()) {
+            HostUi::current().warning(nullptr, tr("Pending Changes"),
+                                      tr("Pending changes of an earlier run cannot be read, and are left as "
+                                         "they are: ") +
+                                          journal);
+        }
         Q_EMIT historyEnded();
         Q_EMIT changed();
         break;
@@ -324,9 +306,9 @@ ApplyResult PropertyAssignments::apply(const ApplyOptions &options)
     const Selection selected = selection();
     // What changes is told when all is done: parts that the batch changes, and the reload after it.
     const BOMPartsDatabase::BulkChange change(m_database);
-    const std::vector<KeptPart> keptParts = partsOf(selected.kept);
+    const std::vector<EditedPart> keptParts = current().definedParts(selected.kept);
     AssignmentBatch batch(m_database, selected.wanted);
-    const Moves moves = movesOf(keptParts);
+    const QList<EditMove> moves = m_designs.current()->movesOf(keptParts);
     if (!getcdb()) {
         batch.refuse({}, {}, tr("There is no component database"));
     }
@@ -384,30 +366,7 @@ void PropertyAssignments::runScripts(const AssignmentBatch &batch)
     }
 }
 
-std::vector<PropertyAssignments::KeptPart> PropertyAssignments::partsOf(const QList<PendingEdit> &edits)
-{
-    std::vector<KeptPart> parts;
-    for (const PendingEdit &edit : edits) {
-        if (!edit.part.definition.isEmpty()) {
-            parts.push_back({EditKey::of(edit), current().identities().find(edit.part, edit.reference).part});
-        }
-    }
-    return parts;
-}
-
-PropertyAssignments::Moves PropertyAssignments::movesOf(const std::vector<KeptPart> &parts)
-{
-    current().resetIdentities();
-    Moves moves;
-    for (const KeptPart &kept : parts) {
-        if (kept.part) {
-            moves.append({kept.key, current().identities().of(*kept.part)});
-        }
-    }
-    return moves;
-}
-
-void PropertyAssignments::endWritten(const QList<PendingEdit> &written, const Moves &moves)
+void PropertyAssignments::endWritten(const QList<PendingEdit> &written, const QList<EditMove> &moves)
 {
     const QScopedValueRollback silent(m_isSilent, true);
     const Action action(this);
@@ -428,7 +387,7 @@ void PropertyAssignments::endWritten(const QList<PendingEdit> &written, const Mo
     }
 }
 
-void PropertyAssignments::move(const Moves &moves)
+void PropertyAssignments::move(const QList<EditMove> &moves)
 {
     QList<PendingEdit> moved;
     for (const auto &[key, identity] : moves) {
@@ -493,7 +452,7 @@ QString PropertyAssignments::removeBOMPart(const QString &parentReference, const
     PendingEdits &held = current();
     const QStringList former = m_database->bomOnlyParts().propertyNames(parentReference);
     const Part *part = m_database->part(reference);
-    const Moves moves = part ? movesBehind(held.identities().of(*part)) : Moves();
+    const QList<EditMove> moves = part ? held.movesBehind(held.identities().of(*part)) : QList<EditMove>();
     const BOMPartsDatabase::BulkChange change(m_database);
     const auto definitions = m_database->removeBOMPart(parentReference, reference)
                                  ? m_database->bomOnlyParts().rewritten(parentReference)
@@ -509,29 +468,6 @@ QString PropertyAssignments::removeBOMPart(const QString &parentReference, const
         Q_EMIT historyEnded();
     }
     return problem;
-}
-
-PropertyAssignments::Moves PropertyAssignments::movesBehind(const PartIdentity &removed)
-{
-    const QList<PendingEdit> edits = current().list();
-    const auto isSibling = [&removed](const PendingEdit &edit) {
-        return edit.part.component == removed.component && edit.part.definition == removed.definition;
-    };
-    // Edits of the removed part itself stay. No part has their identity any more, nor has one that was
-    // removed before.
-    int gone = -1;
-    for (const PendingEdit &edit : edits) {
-        gone = isSibling(edit) ? std::min(gone, edit.part.place - 1) : gone;
-    }
-    Moves moves;
-    for (const PendingEdit &edit : edits) {
-        if (isSibling(edit) && edit.part.place >= removed.place) {
-            PartIdentity moved = edit.part;
-            moved.place = moved.place == removed.place ? gone : moved.place - 1;
-            moves.append({EditKey::of(edit), moved});
-        }
-    }
-    return moves;
 }
 
 QString PropertyAssignments::writeDefinitions(const QString &parent, const QStringList &former,

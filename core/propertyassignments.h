@@ -12,8 +12,6 @@
 #include <QString>
 
 #include <optional>
-#include <utility>
-#include <vector>
 
 class BOMPartsDatabase;
 class Part;
@@ -174,15 +172,6 @@ private:
         QList<PendingEdit> written;
         QList<PendingEdit> kept;
     };
-    /// A BOM-only part that an edit is about, null where there is none.
-    struct KeptPart
-    {
-        EditKey key;
-        const Part *part = nullptr;
-    };
-    /// Where edits go whose part is known by something else.
-    using Moves = QList<std::pair<EditKey, PartIdentity>>;
-
     /// The edits of the design that the database holds now; they have followed their parts.
     PendingEdits &current();
     void follow();
@@ -193,13 +182,8 @@ private:
     [[nodiscard]] Selection selection();
     void write(AssignmentBatch *batch, const ApplyOptions &options);
     void runScripts(const AssignmentBatch &batch);
-    void endWritten(const QList<PendingEdit> &written, const Moves &moves);
-    [[nodiscard]] std::vector<KeptPart> partsOf(const QList<PendingEdit> &edits);
-    /// When definitions of the parts were changed.
-    [[nodiscard]] Moves movesOf(const std::vector<KeptPart> &parts);
-    /// When a BOM-only part goes, for the edits of those that its definition makes behind it.
-    [[nodiscard]] Moves movesBehind(const PartIdentity &removed);
-    void move(const Moves &moves);
+    void endWritten(const QList<PendingEdit> &written, const QList<EditMove> &moves);
+    void move(const QList<EditMove> &moves);
     [[nodiscard]] QString writeDefinitions(const QString &parent, const QStringList &former,
                                            const QList<DefinitionProperty> &definitions);
 

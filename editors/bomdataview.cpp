@@ -25,6 +25,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScopedValueRollback>
+#include <QSet>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -216,6 +217,11 @@ void BOMDataView::handleBOMDataUpdate()
     updateButtons();
 }
 
+bool BOMDataView::endEditing()
+{
+    return m_delegate->commitEditing();
+}
+
 void BOMDataView::updateBOMFieldValues()
 {
     handleBOMDataUpdate();
@@ -304,18 +310,27 @@ void BOMDataView::addPendingAssignment(QTableWidgetItem *editedItem)
     }
     m_table->refresh(item->propertyRow());
     updateButtons();
+    if (std::exchange(m_hasToldKept, false)) {
+        // What was said of the edits that stayed is no longer so.
+        Q_EMIT statusMessage({});
+    }
     Q_EMIT pendingPropertyAssignments(hasPendingAssignments());
 }
 
 void BOMDataView::refreshEdited(const QList<PendingEdit> &before, const QList<PendingEdit> &after)
 {
     m_isEditedShown = true;
+    // A row may stand for thousands of parts, all of which one refresh reads.
+    QSet<PropertyRow *> due;
     for (const QList<PendingEdit> &edits : {before, after}) {
         for (const PendingEdit &edit : edits) {
             if (PropertyRow *row = m_table->rows().rowOf(edit.reference)) {
-                m_table->refresh(row);
+                due.insert(row);
             }
         }
+    }
+    for (PropertyRow *row : due) {
+        m_table->refresh(row);
     }
 }
 
@@ -344,10 +359,23 @@ void BOMDataView::applyPropertyValues()
     reportKept(result);
     if (!result.text.isEmpty()) {
         const QScopedValueRollback asking(m_isAsking, true);
-        HostUi::current().information(this, tr("ADI scripting results"), result.text);
+        HostUi::current().information(this, tr("ADI scripting results"), resultText(result));
     }
     fillIfDue();
     Q_EMIT pendingPropertyAssignments(hasPendingAssignments());
+}
+
+/// With all that kept the edits from being written, which the result itself cuts.
+QString BOMDataView::resultText(const ApplyResult &result)
+{
+    QStringList lines(result.text);
+    if (!result.problems.isEmpty()) {
+        lines << QString() << tr("Nothing was written, all changes are still pending:");
+        for (const CDBPROBLEM &problem : result.problems) {
+            lines << problem.message();
+        }
+    }
+    return lines.join(u'\n');
 }
 
 void BOMDataView::reportKept(const ApplyResult &result)
@@ -362,6 +390,7 @@ void BOMDataView::reportKept(const ApplyResult &result)
     if (result.kept.size() > mostNamed) {
         names.append(QStringLiteral("..."));
     }
+    m_hasToldKept = true;
     Q_EMIT statusMessage(tr("Still pending, because the design changed meanwhile (%1): %2")
                              .arg(QString::number(result.kept.size()), names.join(QStringLiteral(", "))));
 }

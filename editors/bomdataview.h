@@ -42,6 +42,8 @@ public:
     [[nodiscard]] bool hasPendingAssignments() const;
     /// Whether an editor, a menu, a drag or a dialog is open that a reload would pull away.
     [[nodiscard]] bool isBusy() const;
+    /// Takes what is typed into an open cell. False when the cell cannot take it; the editor then stays open.
+    [[nodiscard]] bool endEditing();
 
 Q_SIGNALS:
     void pendingPropertyAssignments(bool arePending);
@@ -86,6 +88,7 @@ private:
     void refreshEdited(const QList<PendingEdit> &before, const QList<PendingEdit> &after);
     void updateAssignments();
     void fillIfDue();
+    [[nodiscard]] static QString resultText(const ApplyResult &result);
     void reportKept(const ApplyResult &result);
     [[nodiscard]] QString currentReference() const;
     /// Runs a dialog that changes parts.
@@ -114,6 +117,8 @@ private:
     bool m_isAsking = false;
     /// The parts changed while the view was busy.
     bool m_isFillDue = false;
+    /// The status line says what stayed pending.
+    bool m_hasToldKept = false;
     /// edited() told what the next changed() is about.
     bool m_isEditedShown = false;
 };

@@ -103,7 +103,9 @@ void BOMTableWidget::contextMenuEvent(QContextMenuEvent *event)
 void BOMTableWidget::startDrag(Qt::DropActions supportedActions)
 {
     beginFill();
+    m_fillsFrom = currentRow();
     QTableWidget::startDrag(supportedActions);
+    m_fillsFrom = -1;
     endHighlight();
     endFill();
 }
@@ -139,7 +141,6 @@ void BOMTableWidget::dragEnterEvent(QDragEnterEvent *event)
         m_isDragInside = true;
         beginFill();
     }
-    m_wasElsewhere = true;
     if (takes(*event)) {
         event->setDropAction(Qt::CopyAction);
         event->accept();
@@ -153,7 +154,7 @@ void BOMTableWidget::dragMoveEvent(QDragMoveEvent *event)
     // Scrolls near the edges.
     QTableWidget::dragMoveEvent(event);
     if (!takes(*event)) {
-        m_wasElsewhere = true;
+        m_fillsFrom = -1;
         event->ignore();
         return;
     }
@@ -167,10 +168,10 @@ void BOMTableWidget::dragMoveEvent(QDragMoveEvent *event)
 
 void BOMTableWidget::passOver(QTableWidgetItem *item, const QString &text)
 {
-    const int from = m_highlighted && !m_wasElsewhere ? m_highlighted->row() : item->row();
+    const int from = m_fillsFrom >= 0 ? m_fillsFrom : item->row();
     endHighlight();
     m_highlighted = item;
-    m_wasElsewhere = false;
+    m_fillsFrom = item->row();
     if (!item->flags().testFlag(Qt::ItemIsEditable)) {
         return;
     }
@@ -193,6 +194,7 @@ void BOMTableWidget::fillBetween(int from, int to, const QString &text)
 void BOMTableWidget::dragLeaveEvent(QDragLeaveEvent *event)
 {
     endHighlight();
+    m_fillsFrom = -1;
     QTableWidget::dragLeaveEvent(event);
     if (m_isDragInside) {
         m_isDragInside = false;
@@ -212,6 +214,7 @@ void BOMTableWidget::dropEvent(QDropEvent *event)
         event->ignore();
     }
     endHighlight();
+    m_fillsFrom = -1;
     if (m_isDragInside) {
         m_isDragInside = false;
         endFill();

@@ -55,8 +55,9 @@ private:
 
     /// The cell under what is being dragged; null for none.
     QTableWidgetItem *m_highlighted = nullptr;
-    /// The drag was over another column since it passed a cell.
-    bool m_wasElsewhere = false;
+    /// The row from which the drag fills: where it began, then the cell that it passed last; -1 where it
+    /// came from outside or over another column.
+    int m_fillsFrom = -1;
     /// Of drags that began here and drags over the table.
     int m_fills = 0;
     bool m_isDragInside = false;

@@ -121,7 +121,12 @@ CellBlocks::Plan CellBlocks::clearPlan() const
             add(&plan, cell.row(), cell.column(), {});
         }
     }
-    if (plan.texts.isEmpty() && plan.problem.isEmpty() && !cells.isEmpty()) {
+    const auto isEmpty = [this](const QModelIndex &cell) {
+        const PropertyItem *item = m_table->fieldAt(cell.row(), cell.column());
+        return item && item->cell().text.isEmpty() && !item->cell().isDifferent;
+    };
+    const bool isNothingToClear = std::all_of(cells.begin(), cells.end(), isEmpty);
+    if (plan.texts.isEmpty() && plan.problem.isEmpty() && !isNothingToClear) {
         plan.problem = tr("Nothing was cleared: these cells cannot be edited, or their parts differ.");
     }
     return plan;

@@ -17,6 +17,14 @@
 
 namespace {
 
+/// Under which name values of a property are set: in capitals, unless a letter has none that means the same
+/// ("ß" becomes "SS").
+QString editedName(const QString &property)
+{
+    const QString capitals = property.toUpper();
+    return capitals.compare(property, Qt::CaseInsensitive) == 0 ? capitals : property;
+}
+
 /// More than any line has.
 constexpr int allCharacters = 1'000'000'000;
 
@@ -110,7 +118,7 @@ PropertyRows PropertyRows::read(const BOMPartsDatabase &database, const Property
 void PropertyRows::readColumns(const BOMPartsDatabase &database)
 {
     for (const BOMField &field : database.columns().fields()) {
-        const QString key = field.propertyName.toUpper();
+        const QString key = editedName(field.propertyName);
         m_columns.push_back({field.fieldName, field.propertyName, key, isEditableProperty(key),
                              database.propertyTypes().isNumeric(field.propertyName)});
     }

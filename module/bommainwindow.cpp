@@ -136,12 +136,21 @@ void BOMMainWindow::setPropertiesChanged(bool arePending)
 
 bool BOMMainWindow::canbeclosed()
 {
+    // What is typed into an open cell counts.
+    if (m_dataView && !m_dataView->endEditing()) {
+        return false;
+    }
     const bool isTemplateModified = m_templates && m_templates->isModified();
-    const bool arePending = m_stores.assignments && !m_stores.assignments->isEmpty();
-    if (!m_templates || (!isTemplateModified && !arePending)) {
+    const qsizetype pending = m_stores.assignments ? m_stores.assignments->size() : 0;
+    if (!m_templates || (!isTemplateModified && pending == 0)) {
         return true;
     }
-    switch (m_templates->askToSave(true)) {
+    const QString further =
+        pending == 0 ? QString()
+                     : tr("%1 changes of properties are pending. Save writes them into the design, Discard "
+                          "keeps them for the next time that it is opened.")
+                           .arg(pending);
+    switch (m_templates->askToSave(true, further)) {
     case HostUi::SaveAnswer::Save:
         return saveChanges();
     case HostUi::SaveAnswer::Discard:

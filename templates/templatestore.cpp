@@ -80,10 +80,11 @@ void TemplateStore::discardChanges()
     }
 }
 
-HostUi::SaveAnswer TemplateStore::askToSave(bool withCancel) const
+HostUi::SaveAnswer TemplateStore::askToSave(bool withCancel, const QString &further) const
 {
+    const QString text = tr("Do you want to save the changes you made to the BOM template?");
     return HostUi::current().saveQuestion(m_dialogParent, tr("Unsaved BOM Template Changes"),
-                                          tr("Do you want to save the changes you made to the BOM template?"),
+                                          further.isEmpty() ? text : text + QStringLiteral("\n\n") + further,
                                           withCancel);
 }
 

@@ -107,8 +107,9 @@ public:
     /// present form. Says nothing when that fails.
     bool exportTemplate();
 
-    /// Asks whether unsaved changes are to be saved. The caller does what was answered.
-    [[nodiscard]] HostUi::SaveAnswer askToSave(bool withCancel) const;
+    /// Asks whether unsaved changes are to be saved. The caller does what was answered. `further` is said
+    /// behind the question.
+    [[nodiscard]] HostUi::SaveAnswer askToSave(bool withCancel, const QString &further = {}) const;
 
     /// Whether the import of legacy scripts was never offered to this user (settings key
     /// "BomScriptsImported").

@@ -209,6 +209,38 @@ TEST_F(Pending, SurviveTheEndOfTheProgram)
     EXPECT_TRUE(journals().isEmpty());
 }
 
+TEST_F(Pending, ThatCannotBeJournalledAreTold)
+{
+    process.design.info["FILENAME"] = u"/designs/"_s + QString(300, u'x') + u".kicad_sch"_s;
+    restart();
+    read({{"s1", {"R1", "10k"}}});
+    assignments->assign(u"R1"_s, u"MPN"_s, u"x"_s);
+    EXPECT_EQ(journals().size(), 1) << "a long name is cut";
+    EXPECT_TRUE(ui.warnings.isEmpty());
+    assignments = std::make_unique<PropertyAssignments>(&database);
+    assignments->setJournalFolder(u"/proc/no/such"_s);
+    for (const QString &value : {u"y"_s, u"z"_s}) {
+        assignments->assign(u"R1"_s, u"MPN"_s, value);
+    }
+    EXPECT_EQ(ui.warnings.size(), 1) << "once";
+    EXPECT_EQ(assignments->size(), 1);
+}
+
+TEST_F(Pending, OfALaterVersionAreLeftAsTheyAre)
+{
+    restart();
+    read({{"s1", {"R1", "10k"}}});
+    assignments->assign(u"R1"_s, u"MPN"_s, u"x"_s);
+    const QByteArray later = readFile(journal()).replace("\"version\":1", "\"version\":2");
+    writeFile(journal(), later);
+    const QString path = journal();
+    restart();
+    EXPECT_EQ(ui.warnings.size(), 1);
+    assignments->assign(u"R1"_s, u"MPN"_s, u"y"_s);
+    EXPECT_EQ(journals().size(), 2);
+    EXPECT_EQ(readFile(path), later);
+}
+
 TEST_F(Pending, OfTwoProgramsHaveJournalsOfTheirOwn)
 {
     restart();
