@@ -200,7 +200,7 @@ PropertyCell PropertyRows::readCell(const QString &reference, size_t column) con
     return {part ? part->property(m_queries[column]) : QString()};
 }
 
-bool PropertyRows::takeTexts(PropertyRows &&other)
+bool PropertyRows::takeTexts(PropertyRows &other)
 {
     const auto isSame = [](const PropertyRow &left, const PropertyRow &right) {
         return left.references == right.references;

@@ -91,9 +91,9 @@ public:
     [[nodiscard]] static PropertyRows read(const BOMPartsDatabase &database,
                                            const PropertyAssignments *assignments, const Choice &choice);
 
-    /// Takes the texts of other rows; addresses of rows stay. False, and nothing changes, when they have
-    /// other columns or stand for other parts.
-    [[nodiscard]] bool takeTexts(PropertyRows &&other);
+    /// Takes the texts of other rows out of them; addresses of rows stay. False, and neither changes, when
+    /// they have other columns or stand for other parts.
+    [[nodiscard]] bool takeTexts(PropertyRows &other);
     /// Reads the cells of a row again; gives the columns whose cell changed.
     QList<int> refresh(PropertyRow *row, const BOMPartsDatabase &database,
                        const PropertyAssignments *assignments);
