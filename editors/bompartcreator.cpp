@@ -105,6 +105,9 @@ void BOMPartCreator::setUpWidgets()
 
 void BOMPartCreator::setParentReference(const QString &reference)
 {
+    if (reference.isEmpty()) {
+        return;
+    }
     m_ui->referenceCombo->setEditText(reference);
     m_ui->referenceCombo->choose();
 }

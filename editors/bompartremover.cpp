@@ -72,7 +72,10 @@ void BOMPartRemover::showParents()
 void BOMPartRemover::setReference(const QString &reference)
 {
     const Part *part = m_database ? m_database->part(reference) : nullptr;
-    const bool isBOMPart = part && part->isBOMPart();
+    if (!part) {
+        return;
+    }
+    const bool isBOMPart = part->isBOMPart();
     m_ui->parentRefCombo->setEditText(isBOMPart ? static_cast<const BOMPart *>(part)->parentReference()
                                                 : reference);
     m_ui->parentRefCombo->choose();

@@ -19,6 +19,11 @@ QColor dropColor()
     return {212, 219, 232};
 }
 
+bool canBeFilled(const QTableWidgetItem &item)
+{
+    return item.flags().testFlag(Qt::ItemIsEditable) && !item.data(BOMTableWidget::SeveralTextsRole).toBool();
+}
+
 } // namespace
 
 BOMTableWidget::BOMTableWidget(QWidget *parent)
@@ -102,6 +107,9 @@ void BOMTableWidget::contextMenuEvent(QContextMenuEvent *event)
 
 void BOMTableWidget::startDrag(Qt::DropActions supportedActions)
 {
+    if (!currentItem() || currentItem()->data(SeveralTextsRole).toBool()) {
+        return;
+    }
     beginFill();
     m_fillsFrom = currentRow();
     QTableWidget::startDrag(supportedActions);
@@ -172,7 +180,7 @@ void BOMTableWidget::passOver(QTableWidgetItem *item, const QString &text)
     endHighlight();
     m_highlighted = item;
     m_fillsFrom = item->row();
-    if (!item->flags().testFlag(Qt::ItemIsEditable)) {
+    if (!canBeFilled(*item)) {
         return;
     }
     fillBetween(from, item->row(), text);
@@ -185,7 +193,7 @@ void BOMTableWidget::fillBetween(int from, int to, const QString &text)
 {
     for (int row = std::min(from, to) + 1; row < std::max(from, to); ++row) {
         QTableWidgetItem *passed = isRowHidden(row) ? nullptr : item(row, currentColumn());
-        if (passed && passed->flags().testFlag(Qt::ItemIsEditable)) {
+        if (passed && canBeFilled(*passed)) {
             passed->setText(text);
         }
     }

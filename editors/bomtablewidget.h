@@ -11,6 +11,9 @@ class BOMTableWidget final : public QTableWidget
     Q_OBJECT
 
 public:
+    /// Cells of which this is true stand for several texts: a drag neither takes nor fills them.
+    static constexpr int SeveralTextsRole = Qt::UserRole + 40;
+
     explicit BOMTableWidget(QWidget *parent = nullptr);
 
     /// Whether a text is being dragged out of or over the table.

@@ -80,7 +80,9 @@ ClipboardBlock CellBlocks::selectedBlock() const
             row = cell.row();
             block.append(QStringList(columns.size()));
         }
-        block.last()[columns.indexOf(cell.column())] = cell.data().toString();
+        // A cell whose parts differ has no text of its own.
+        const bool hasText = !cell.data(BOMTableWidget::SeveralTextsRole).toBool();
+        block.last()[columns.indexOf(cell.column())] = hasText ? cell.data().toString() : QString();
     }
     return block;
 }
@@ -193,7 +195,10 @@ void CellBlocks::add(Plan *plan, int row, int column, const QString &text) const
     if (!plan->problem.isEmpty() || text == shown) {
         return;
     }
-    const QString reason = item ? m_check(*item, text) : tr("it cannot be edited");
+    const bool isOneOfMany = item && item->cell().isDifferent && m_view->seenSelection().size() > 1;
+    const QString reason = !item         ? tr("it cannot be edited")
+                           : isOneOfMany ? tr("its parts differ, and it is not the only cell selected")
+                                         : m_check(*item, text);
     if (!reason.isEmpty()) {
         const QString place = m_view->item(row, PartsTable::ReferenceColumn)->text() + QStringLiteral(", ") +
                               m_view->horizontalHeaderItem(column)->text();

@@ -63,8 +63,7 @@ void PartsTable::fill(const Content &content)
     PropertyRows rows = m_context.database
                             ? PropertyRows::read(*m_context.database, m_context.assignments, content.parts)
                             : PropertyRows();
-    if (m_hasLinks != content.hasLinks || m_table->columnCount() == 0 ||
-        !m_context.rows.takeTexts(rows)) {
+    if (m_hasLinks != content.hasLinks || m_table->columnCount() == 0 || !m_context.rows.takeTexts(rows)) {
         m_hasLinks = content.hasLinks;
         fillAnew(std::move(rows));
         return;

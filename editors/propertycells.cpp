@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "editors/propertycells.h"
 
+#include "editors/bomtablewidget.h"
 #include "editors/celltips.h"
 
 #include <QCoreApplication>
@@ -31,6 +32,8 @@ PropertyItem::PropertyItem(const CellContext *context, PropertyRow *row, int col
 QVariant PropertyItem::data(int role) const
 {
     switch (role) {
+    case BOMTableWidget::SeveralTextsRole:
+        return cell().isDifferent;
     case Qt::DisplayRole:
         return typed().value_or(cell().shownText());
     case Qt::EditRole:

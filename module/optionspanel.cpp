@@ -80,12 +80,15 @@ void OptionsPanel::editBomNotes()
     editor.setText(m_database->notes());
     // What could not be saved is shown again, so that it is not lost.
     while (editor.exec() == QDialog::Accepted && m_database) {
-        const NotesResult result =
-            m_database->setNotes(editor.text(), [this](const NotesConflict &) { return chooseNotes(); });
+        NotesChoice choice = NotesChoice::KeepMine;
+        const auto ask = [this, &choice](const NotesConflict &) { return choice = chooseNotes(); };
+        const NotesResult result = m_database->setNotes(editor.text(), ask);
         if (result.problem.isEmpty()) {
             return;
         }
-        HostUi::current().warning(this, tr("BOM Notes"), result.problem);
+        if (choice != NotesChoice::Cancel) {
+            HostUi::current().warning(this, tr("BOM Notes"), result.problem);
+        }
     }
 }
 
