@@ -76,6 +76,9 @@ void BOMPartRemover::setReference(const QString &reference)
         return;
     }
     const bool isBOMPart = part->isBOMPart();
+    if (!isBOMPart && m_database->bomParts(reference).isEmpty()) {
+        return;
+    }
     m_ui->parentRefCombo->setEditText(isBOMPart ? static_cast<const BOMPart *>(part)->parentReference()
                                                 : reference);
     m_ui->parentRefCombo->choose();

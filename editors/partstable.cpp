@@ -167,14 +167,17 @@ void PartsTable::restoreLayout()
 {
     QHeaderView &header = *m_table->horizontalHeader();
     const ColumnLayout layout = ColumnMemory::layout(headings());
+    m_measured.clear();
     for (int column = 0; column < header.count(); ++column) {
         header.setSectionHidden(column, false);
         header.moveSection(header.visualIndex(column), column);
-        if (!layout.widths.contains(m_table->horizontalHeaderItem(column)->text())) {
+        const QString heading = m_table->horizontalHeaderItem(column)->text();
+        if (!layout.widths.contains(heading)) {
             m_table->resizeColumnToContents(column);
             // With room for the arrow of the sorting, which is not there yet.
             const int width = header.sectionSize(column) + m_table->fontMetrics().height();
             header.resizeSection(column, std::min(width, widestAtFirst));
+            m_measured.insert(heading, header.sectionSize(column));
         }
     }
     setColumnLayout(&header, layout);
@@ -197,7 +200,10 @@ QStringList PartsTable::headings() const
 void PartsTable::rememberLayout() const
 {
     if (m_table->columnCount() > 0) {
-        ColumnMemory::setLayout(headings(), columnLayout(*m_table->horizontalHeader()));
+        ColumnLayout layout = columnLayout(*m_table->horizontalHeader());
+        layout.widths.removeIf(
+            [this](const auto &width) { return m_measured.value(width.key(), -1) == width.value(); });
+        ColumnMemory::setLayout(headings(), layout);
     }
 }
 

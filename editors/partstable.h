@@ -5,6 +5,7 @@
 #include "editors/propertycells.h"
 #include "editors/rowfilter.h"
 
+#include <QHash>
 #include <QObject>
 #include <QStringList>
 
@@ -86,6 +87,8 @@ private:
     std::vector<ReferenceItem *> m_references;
     RowFilter m_filter;
     bool m_hasLinks = false;
+    /// The widths that nobody chose, by heading: they follow what the columns hold.
+    QHash<QString, int> m_measured;
     bool m_isFilling = false;
     int m_shownRows = 0;
 };
