@@ -5,7 +5,6 @@
 #include "host/framework/hostsettings.h"
 
 #include <QAbstractItemModel>
-#include <QCryptographicHash>
 #include <QHeaderView>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -27,12 +26,9 @@ QString requiredKey()
     return QStringLiteral("PropertyEditorRequired");
 }
 
-/// Headings are of any length; their hash is a key of the same length for all.
-QString layoutKey(const QStringList &headings)
+QString layoutKey()
 {
-    const QByteArray all = headings.join(QChar(u'\n')).toUtf8();
-    const QByteArray hash = QCryptographicHash::hash(all, QCryptographicHash::Sha1).toHex().left(16);
-    return QStringLiteral("PropertyEditorColumns_") + QString::fromLatin1(hash);
+    return QStringLiteral("PropertyEditorColumns");
 }
 
 QJsonObject stored(const QString &key)
@@ -94,9 +90,9 @@ void setColumnLayout(QHeaderView *header, const ColumnLayout &layout)
     }
 }
 
-ColumnLayout ColumnMemory::layout(const QStringList &headings)
+ColumnLayout ColumnMemory::layout()
 {
-    const QJsonObject object = stored(layoutKey(headings));
+    const QJsonObject object = stored(layoutKey());
     ColumnLayout layout{
         texts(object.value(QStringLiteral("order"))), texts(object.value(QStringLiteral("hidden"))), {}};
     const QJsonObject widths = object.value(QStringLiteral("widths")).toObject();
@@ -108,13 +104,21 @@ ColumnLayout ColumnMemory::layout(const QStringList &headings)
 
 void ColumnMemory::setLayout(const QStringList &headings, const ColumnLayout &layout)
 {
+    ColumnLayout all = ColumnMemory::layout();
+    const auto isShown = [&headings](const QString &heading) { return headings.contains(heading); };
+    all.hidden.removeIf(isShown);
+    all.hidden += layout.hidden;
+    all.widths.removeIf([&isShown](const auto &width) { return isShown(width.key()); });
+    all.widths.insert(layout.widths);
+    // Columns that nobody moved stand in the order of the template, whatever becomes of that.
+    all.order = layout.order == headings ? QStringList() : layout.order;
     QJsonObject widths;
-    for (auto it = layout.widths.cbegin(); it != layout.widths.cend(); ++it) {
+    for (auto it = all.widths.cbegin(); it != all.widths.cend(); ++it) {
         widths.insert(it.key(), *it);
     }
-    store(layoutKey(headings), {{QStringLiteral("order"), QJsonArray::fromStringList(layout.order)},
-                                {QStringLiteral("hidden"), QJsonArray::fromStringList(layout.hidden)},
-                                {QStringLiteral("widths"), widths}});
+    store(layoutKey(), {{QStringLiteral("order"), QJsonArray::fromStringList(all.order)},
+                        {QStringLiteral("hidden"), QJsonArray::fromStringList(all.hidden)},
+                        {QStringLiteral("widths"), widths}});
 }
 
 bool ColumnMemory::isRequired(const QString &key)

@@ -22,12 +22,14 @@ struct ColumnLayout
 /// Columns that the layout does not name keep their width, and stand behind the others.
 void setColumnLayout(QHeaderView *header, const ColumnLayout &layout);
 
-/// Remembers layouts in the user's settings, one for each list of headings, and which properties are
+/// Remembers in the user's settings how columns stand, each by its heading, and which properties are
 /// required.
 class ColumnMemory final
 {
 public:
-    [[nodiscard]] static ColumnLayout layout(const QStringList &headings);
+    [[nodiscard]] static ColumnLayout layout();
+    /// `headings` are the columns that there are, in the order of the template; what is known of others
+    /// stays.
     static void setLayout(const QStringList &headings, const ColumnLayout &layout);
 
     /// Whether a property is required, by its upper-case name: at first the value and the footprint are.

@@ -14,10 +14,14 @@
 #include <QFileInfo>
 #include <QMenu>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
-/// Menus of more entries do not fit on a screen.
-constexpr qsizetype mostEntries = 200;
+/// Menus of more entries are tedious: parts are then in menus of their own, links are left out.
+constexpr qsizetype mostParts = 30;
+constexpr qsizetype mostLinks = 200;
 
 QString entryText(QString text)
 {
@@ -60,31 +64,53 @@ void PartMenu::navigateTo(const QString &reference)
     }
 }
 
-QMenu *PartMenu::newPartMenu(const PropertyRow &row)
+QMenu *PartMenu::newPartMenu(const QStringList &references)
 {
     auto *menu = new QMenu(tr("Select the part to navigate to"), m_window);
     menu->setToolTipsVisible(true);
+    menu->setStyleSheet(QStringLiteral("QMenu { menu-scrollable: 1; }"));
     menu->addSection(menu->title());
-    for (const QString &reference : row.references.first(std::min(row.references.size(), mostEntries))) {
-        connect(menu->addAction(entryText(reference)), &QAction::triggered, this,
-                [this, reference] { navigateTo(reference); });
+    // A menu is as wide as its entries; the titles of its sections do not count.
+    const int margin = 4 * menu->fontMetrics().averageCharWidth();
+    menu->setMinimumWidth(menu->fontMetrics().horizontalAdvance(menu->title()) + 2 * margin);
+    if (references.size() <= mostParts) {
+        addParts(menu, references);
+        return menu;
+    }
+    const auto size = std::max(mostParts, qsizetype(std::sqrt(double(references.size()))));
+    for (qsizetype first = 0; first < references.size(); first += size) {
+        const QStringList some = references.mid(first, size);
+        QMenu *page = menu->addMenu(entryText(some.first() + QStringLiteral(" \u2013 ") + some.last()));
+        addParts(page, some);
     }
     return menu;
 }
 
+void PartMenu::addParts(QMenu *menu, const QStringList &references)
+{
+    for (const QString &reference : references) {
+        connect(menu->addAction(entryText(reference)), &QAction::triggered, this,
+                [this, reference] { navigateTo(reference); });
+    }
+}
+
 void PartMenu::askForPart(const PropertyRow &row)
 {
-    open(newPartMenu(row), QCursor::pos());
+    open(newPartMenu(row.references), QCursor::pos());
 }
 
 void PartMenu::askForLink(const PropertyRow &row)
 {
-    QMenu *menu = newPartMenu(row);
+    QStringList linked = row.references;
+    linked.removeIf(
+        [this](const QString &reference) { return !m_database || m_database->links(reference).isEmpty(); });
+    QMenu *menu = newPartMenu(linked);
     menu->addSection(tr("Open Link"));
-    for (const QString &reference : row.references) {
-        if (menu->actions().size() < mostEntries) {
-            addLinks(menu, reference);
-        }
+    for (const QString &reference : linked.first(std::min(linked.size(), mostLinks))) {
+        addLinks(menu, reference);
+    }
+    if (linked.size() > mostLinks) {
+        menu->addAction(tr("Further links: filter the rows"))->setEnabled(false);
     }
     open(menu, QCursor::pos());
 }

@@ -4,7 +4,7 @@
 
 #include <QObject>
 #include <QPointer>
-#include <QString>
+#include <QStringList>
 
 class BOMPartsDatabase;
 class QMenu;
@@ -38,7 +38,8 @@ Q_SIGNALS:
     void statusMessage(const QString &text);
 
 private:
-    [[nodiscard]] QMenu *newPartMenu(const PropertyRow &row);
+    [[nodiscard]] QMenu *newPartMenu(const QStringList &references);
+    void addParts(QMenu *menu, const QStringList &references);
     void addLinks(QMenu *menu, const QString &reference);
     void openLink(const QString &link);
 

@@ -166,7 +166,7 @@ void PartsTable::setSortColumn(const QString &heading, Qt::SortOrder order)
 void PartsTable::restoreLayout()
 {
     QHeaderView &header = *m_table->horizontalHeader();
-    const ColumnLayout layout = ColumnMemory::layout(headings());
+    const ColumnLayout layout = ColumnMemory::layout();
     m_measured.clear();
     for (int column = 0; column < header.count(); ++column) {
         header.setSectionHidden(column, false);
@@ -210,7 +210,7 @@ void PartsTable::rememberLayout() const
 void PartsTable::takeRequired()
 {
     for (PropertyColumn &column : m_context.rows.columns()) {
-        column.isRequired = column.isEditable && ColumnMemory::isRequired(column.key);
+        column.isRequired = column.isEditable && ColumnMemory::isRequired(column.key.toUpper());
     }
 }
 
@@ -218,7 +218,7 @@ void PartsTable::setRequired(int column, bool isRequired)
 {
     const int field = column - FirstField;
     if (field >= 0 && field < int(m_context.rows.columns().size())) {
-        ColumnMemory::setRequired(m_context.rows.columns()[size_t(field)].key, isRequired);
+        ColumnMemory::setRequired(m_context.rows.columns()[size_t(field)].key.toUpper(), isRequired);
         takeRequired();
         applyFilter();
         m_table->viewport()->update();

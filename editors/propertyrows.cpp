@@ -17,12 +17,12 @@
 
 namespace {
 
-/// Under which name values of a property are set: in capitals, unless a letter has none that means the same
-/// ("ß" becomes "SS").
+/// Under which name values of a property are set: as the template spells it, because a part may have another
+/// property that differs in letter case only.
 QString editedName(const QString &property)
 {
-    const QString capitals = property.toUpper();
-    return capitals.compare(property, Qt::CaseInsensitive) == 0 ? capitals : property;
+    const bool isValue = property.compare(valueProperty(), Qt::CaseInsensitive) == 0;
+    return isValue ? valueProperty() : property;
 }
 
 /// More than any line has.

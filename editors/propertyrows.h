@@ -29,7 +29,8 @@ struct PropertyColumn
 
     [[nodiscard]] bool isFootprint() const
     {
-        return key == QStringLiteral("PACKAGE") || key == QStringLiteral("FOOTPRINT");
+        return key.compare(u"PACKAGE", Qt::CaseInsensitive) == 0 ||
+               key.compare(u"FOOTPRINT", Qt::CaseInsensitive) == 0;
     }
     /// Whether what is shown in it is the same, however it looks.
     [[nodiscard]] bool isSameField(const PropertyColumn &other) const

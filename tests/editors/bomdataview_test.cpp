@@ -52,6 +52,20 @@ TEST_F(DataView, RecordsWhatIsTypedForEachPartOfTheLine)
     EXPECT_EQ(pending(), "R3 CODE=abc") << "the design's own text is no edit";
 }
 
+TEST_F(DataView, SetsPropertiesUnderTheNamesThatTheTemplateHas)
+{
+    BOMFields fields;
+    for (const QString &name : {u"VALUE"_s, u"mpn"_s, u"Größe"_s}) {
+        BOMField field;
+        field.fieldName = field.propertyName = name;
+        fields.add(field);
+    }
+    database.updateBOMFields(fields);
+    table->item(row("R1"), column("mpn"))->setText(u"x"_s);
+    table->item(row("R1"), 4)->setText(u"y"_s);
+    EXPECT_EQ(pending(), "R1 Größe=y, R1 mpn=x");
+}
+
 TEST_F(DataView, OpensTheEditorThatSuitsTheProperty)
 {
     const auto editorOf = [this](const char *heading) {

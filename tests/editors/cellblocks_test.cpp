@@ -99,6 +99,22 @@ TEST_F(CellBlocks, EmptyACellWhosePartsDifferOnlyAlone)
     EXPECT_EQ(pending(), "R1 CODE=, R1 FIT=, R2 CODE=, R2 FIT=");
 }
 
+TEST_F(CellBlocks, LeaveACellWhosePartsDifferAsItIs)
+{
+    cell("R1", "F CODE")->setText(u"x"_s);
+    click("groupingCheckbox");
+    select("R1-R2", "F CODE", "R1-R2", "F CODE");
+    press(QKeySequence::Copy);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QString()) << "\"(different)\" is nobody's text";
+    select("C1", "F CODE", "R1-R2", "F CODE");
+    paste(u"a\nb"_s);
+    EXPECT_EQ(pending(), "R1 CODE=x");
+    EXPECT_TRUE(message().contains(u"its parts differ"_s));
+    select("R1-R2", "F CODE", "R1-R2", "F CODE");
+    paste(u"on purpose"_s);
+    EXPECT_EQ(pending(), "R1 CODE=on purpose, R2 CODE=on purpose");
+}
+
 TEST(ClipboardBlock, ReadsWhatItWritesAndWhatSpreadsheetsWrite)
 {
     const ClipboardBlock block{{u"a\tb"_s, u"say \"no\""_s, u""_s}, {u"1\r\n2"_s, u"5\" x"_s, u" z "_s}};
@@ -163,6 +179,18 @@ TEST_F(Drag, FillsTheCellsThatItPassesOverAsOneAction)
     EXPECT_EQ(edited.size(), 1);
     EXPECT_FALSE(view.isBusy());
     EXPECT_EQ(cell("U1", "F CODE")->background().color(), QColor(0, 0, 0, 0));
+}
+
+TEST_F(Drag, LeavesCellsWhosePartsDifferAsTheyAre)
+{
+    cell("R1", "F CODE")->setText(u"x"_s);
+    click("groupingCheckbox");
+    table->setCurrentItem(cell("C1", "F CODE"));
+    send<QDragEnterEvent>(cell("C1", "F CODE"));
+    send<QDragMoveEvent>(cell("C1", "F CODE"));
+    send<QDragMoveEvent>(cell("R3", "F CODE"));
+    send<QDropEvent>(cell("R1-R2", "F CODE"));
+    EXPECT_EQ(pending(), "C1 CODE=dragged, R1 CODE=x, R3 CODE=dragged");
 }
 
 TEST_F(Drag, LeavesNothingHighlightedWhenItLeaves)
