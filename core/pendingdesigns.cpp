@@ -3,15 +3,44 @@
 #include "core/pendingdesigns.h"
 
 #include "core/bompartsdatabase.h"
+#include "core/storedconversion.h"
 
+#include <QFileInfo>
+
+#include <algorithm>
 #include <utility>
+
+namespace {
+
+/// As a journal keeps it: values as they are stored, because the next program may show numbers in another
+/// form.
+PendingEdit stored(PendingEdit edit, const BOMPartsDatabase &database)
+{
+    if (edit.part.definition.isEmpty()) {
+        edit.value = storedAssignment(database.propertyTypes(), edit.property, edit.value);
+    }
+    return edit;
+}
+
+/// The way back.
+PendingEdit shown(PendingEdit edit, const BOMPartsDatabase &database)
+{
+    if (edit.part.definition.isEmpty() && edit.value != removalText()) {
+        edit.value = DisplayConversion(database.propertyTypes().type(edit.property))(edit.value);
+    }
+    return edit;
+}
+
+} // namespace
 
 PendingDesigns::OfDesign::OfDesign(const BOMPartsDatabase *database, const QString &folder,
                                    const EditedDesign &design)
     : edits(database)
     , journal(folder, design)
-    , earlier(journal.read())
 {
+    for (const PendingEdit &edit : journal.read()) {
+        earlier.append(shown(edit, *database));
+    }
 }
 
 PendingDesigns::Followed PendingDesigns::follow()
@@ -20,7 +49,10 @@ PendingDesigns::Followed PendingDesigns::follow()
         return Followed::Nothing;
     }
     m_generation = m_database->generation();
-    const EditedDesign design{m_database->designInfo("FILENAME"), m_database->designVariant()};
+    const QString file = m_database->designInfo("FILENAME");
+    // A link to the design is the design.
+    const QString target = QFileInfo(file).canonicalFilePath();
+    const EditedDesign design{target.isEmpty() ? file : target, m_database->designVariant()};
     const bool isOther = !m_current || design != m_design;
     if (isOther) {
         open(design);
@@ -89,24 +121,41 @@ EditChanges PendingDesigns::endChanges()
 void PendingDesigns::record(const EditChanges &changes)
 {
     QList<EditKey> gone;
+    QList<PendingEdit> come;
+    for (const PendingEdit &edit : changes.after) {
+        come.append(stored(edit, *m_database));
+    }
     for (const PendingEdit &edit : changes.before) {
-        if (!m_current->edits.find(EditKey::of(edit))) {
-            gone.append(EditKey::of(edit));
+        const EditKey key = EditKey::of(edit);
+        if (m_current->edits.find(key)) {
+            continue;
+        }
+        const auto left =
+            std::find_if(m_current->earlier.cbegin(), m_current->earlier.cend(),
+                         [&key](const PendingEdit &other) { return EditKey::of(other) == key; });
+        if (left == m_current->earlier.cend()) {
+            gone.append(key);
+        } else {
+            // The one of an earlier run, which the edit stood in front of, waits again.
+            come.append(stored(*left, *m_database));
         }
     }
     const qsizetype count = m_current->edits.size() + m_current->earlier.size();
     m_journalError.clear();
-    if (!m_current->journal.record(gone, changes.after, count, [this] { return all(); })) {
+    if (!m_current->journal.record(gone, come, count, [this] { return all(); })) {
         m_journalError = m_current->journal.error();
     }
 }
 
 QList<PendingEdit> PendingDesigns::all() const
 {
-    QList<PendingEdit> edits = m_current->edits.list();
+    QList<PendingEdit> edits;
+    for (const PendingEdit &edit : m_current->edits.list()) {
+        edits.append(stored(edit, *m_database));
+    }
     for (const PendingEdit &edit : m_current->earlier) {
         if (!m_current->edits.find(EditKey::of(edit))) {
-            edits.append(edit);
+            edits.append(stored(edit, *m_database));
         }
     }
     return edits;

@@ -3,6 +3,7 @@
 #include "core/pendingjournal.h"
 
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -12,7 +13,8 @@
 
 #include <unistd.h>
 
-#include <map>
+#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -157,21 +159,36 @@ PendingJournal::~PendingJournal() = default;
 
 QList<PendingEdit> PendingJournal::read() const
 {
-    QList<PendingEdit> edits = read(m_file.path);
+    QStringList paths(m_file.path);
     for (const File &other : m_others) {
-        edits += read(other.path);
+        paths << other.path;
     }
-    return edits;
+    // Of two edits of the same the later one counts.
+    std::stable_sort(paths.begin(), paths.end(), [](const QString &left, const QString &right) {
+        return QFileInfo(left).lastModified() < QFileInfo(right).lastModified();
+    });
+    Edits edits;
+    for (const QString &path : std::as_const(paths)) {
+        for (const auto &[key, edit] : read(path)) {
+            edits[key] = edit;
+        }
+    }
+    QList<PendingEdit> read;
+    read.reserve(qsizetype(edits.size()));
+    for (const auto &[key, edit] : edits) {
+        read.append(edit);
+    }
+    return read;
 }
 
-QList<PendingEdit> PendingJournal::read(const QString &path) const
+PendingJournal::Edits PendingJournal::read(const QString &path) const
 {
     QFile file(path);
     if (path.isEmpty() || file.size() > mostBytes || !file.open(QIODevice::ReadOnly) ||
         !isOf(nextObject(&file), m_design)) {
         return {};
     }
-    std::map<EditKey, PendingEdit> edits;
+    Edits edits;
     while (!file.atEnd()) {
         const QJsonObject object = nextObject(&file);
         if (object.contains(setKey)) {
@@ -181,12 +198,7 @@ QList<PendingEdit> PendingJournal::read(const QString &path) const
             edits.erase(keyOf(object.value(dropKey).toObject()));
         }
     }
-    QList<PendingEdit> read;
-    read.reserve(qsizetype(edits.size()));
-    for (const auto &[key, edit] : edits) {
-        read.append(edit);
-    }
-    return read;
+    return edits;
 }
 
 bool PendingJournal::record(const QList<EditKey> &gone, const QList<PendingEdit> &come, qsizetype count,

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -38,13 +39,14 @@ public:
     [[nodiscard]] const QString &unreadable() const { return m_unreadable; }
 
 private:
+    using Edits = std::map<EditKey, PendingEdit>;
     struct File
     {
         QString path;
         std::unique_ptr<QLockFile> lock;
     };
 
-    [[nodiscard]] QList<PendingEdit> read(const QString &path) const;
+    [[nodiscard]] Edits read(const QString &path) const;
     [[nodiscard]] bool append(const QByteArray &lines);
     [[nodiscard]] bool rewrite(const QList<PendingEdit> &all);
     [[nodiscard]] bool fail(const QString &reason);

@@ -419,12 +419,12 @@ std::optional<ApplyPreview> PropertyAssignments::preview()
     const AssignmentBatch batch(m_database, selected.wanted);
     getcdb()->beginbatch();
     runScripts(batch);
-    const auto changes = getcdb()->previewbatch();
+    const auto host = getcdb()->previewbatch();
     const QList<CDBPROBLEM> problems = batch.problems + getcdb()->problems();
     if (batch.hasBOMParts) {
         m_database->reload();
     }
-    return changes ? std::optional(ApplyPreview{*changes, problems}) : std::nullopt;
+    return host ? std::optional(ApplyPreview{host->changes, host->files, problems}) : std::nullopt;
 }
 
 QString PropertyAssignments::addBOMParts(const QString &parentReference, int count,

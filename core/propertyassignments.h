@@ -41,6 +41,8 @@ struct ApplyResult
 struct ApplyPreview
 {
     QList<CDBCHANGE> changes;
+    /// The files that would be replaced.
+    QStringList files;
     /// Why nothing would be written.
     QList<CDBPROBLEM> problems;
 };

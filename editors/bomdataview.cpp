@@ -57,6 +57,9 @@ BOMDataView::BOMDataView(QWidget *parent)
     m_blocks = std::make_unique<CellBlocks>(m_ui->partsView, m_table.get(), check);
     m_columnMenu = std::make_unique<ColumnMenu>(m_ui->partsView, m_table.get());
     m_partMenu = std::make_unique<PartMenu>(this);
+    constexpr int timeToRead = 20'000;
+    m_reported.setInterval(timeToRead);
+    connect(&m_reported, &QTimer::timeout, this, &BOMDataView::clearReport);
     setIcons();
     connectForm();
     connectEditing();
@@ -123,11 +126,11 @@ void BOMDataView::connectEditing()
     connect(m_ui->partsView, &BOMTableWidget::fillEnded, this, end);
     connect(m_blocks.get(), &CellBlocks::started, this, begin);
     connect(m_blocks.get(), &CellBlocks::ended, this, end);
-    connect(m_blocks.get(), &CellBlocks::statusMessage, this, &BOMDataView::statusMessage);
+    connect(m_blocks.get(), &CellBlocks::statusMessage, this, &BOMDataView::report);
     connect(m_delegate, &PropValEditDelegate::editingChanged, this, &BOMDataView::fillIfDue);
     connect(m_columnMenu.get(), &ColumnMenu::closed, this, &BOMDataView::fillIfDue);
     connect(m_partMenu.get(), &PartMenu::closed, this, &BOMDataView::fillIfDue);
-    connect(m_partMenu.get(), &PartMenu::statusMessage, this, &BOMDataView::statusMessage);
+    connect(m_partMenu.get(), &PartMenu::statusMessage, this, &BOMDataView::report);
     connect(m_ui->partsView, &BOMTableWidget::menuRequested, this, [this](int row, int column) {
         const QRect cell = m_ui->partsView->visualRect(m_ui->partsView->model()->index(row, column));
         openMenu(row, column, m_ui->partsView->viewport()->mapToGlobal(cell.bottomLeft()));
@@ -217,6 +220,21 @@ void BOMDataView::handleBOMDataUpdate()
     updateButtons();
 }
 
+void BOMDataView::report(const QString &text)
+{
+    Q_EMIT statusMessage(text);
+    m_reported.start();
+}
+
+/// What was said is no longer so when something changes, and has been read after a while.
+void BOMDataView::clearReport()
+{
+    if (m_reported.isActive()) {
+        m_reported.stop();
+        Q_EMIT statusMessage({});
+    }
+}
+
 bool BOMDataView::endEditing()
 {
     return m_delegate->commitEditing();
@@ -304,16 +322,13 @@ void BOMDataView::addPendingAssignment(QTableWidgetItem *editedItem)
     }
     const QString refusal = recorder().record(*item->propertyRow(), item->column(), *text);
     if (!refusal.isEmpty()) {
-        Q_EMIT statusMessage(tr("%1, %2: %3; the text stays as it was.")
-                                 .arg(item->propertyRow()->referenceText, item->column().heading, refusal));
+        report(tr("%1, %2: %3; the text stays as it was.")
+                   .arg(item->propertyRow()->referenceText, item->column().heading, refusal));
         return;
     }
     m_table->refresh(item->propertyRow());
     updateButtons();
-    if (std::exchange(m_hasToldKept, false)) {
-        // What was said of the edits that stayed is no longer so.
-        Q_EMIT statusMessage({});
-    }
+    clearReport();
     Q_EMIT pendingPropertyAssignments(hasPendingAssignments());
 }
 
@@ -390,9 +405,8 @@ void BOMDataView::reportKept(const ApplyResult &result)
     if (result.kept.size() > mostNamed) {
         names.append(QStringLiteral("..."));
     }
-    m_hasToldKept = true;
-    Q_EMIT statusMessage(tr("Still pending, because the design changed meanwhile (%1): %2")
-                             .arg(QString::number(result.kept.size()), names.join(QStringLiteral(", "))));
+    report(tr("Still pending, because the design changed meanwhile (%1): %2")
+               .arg(QString::number(result.kept.size()), names.join(QStringLiteral(", "))));
 }
 
 void BOMDataView::clearPendingChanges()

@@ -5,6 +5,7 @@
 #include "core/propertyassignments.h"
 
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 
 #include <memory>
@@ -88,6 +89,8 @@ private:
     void refreshEdited(const QList<PendingEdit> &before, const QList<PendingEdit> &after);
     void updateAssignments();
     void fillIfDue();
+    void report(const QString &text);
+    void clearReport();
     [[nodiscard]] static QString resultText(const ApplyResult &result);
     void reportKept(const ApplyResult &result);
     [[nodiscard]] QString currentReference() const;
@@ -117,8 +120,8 @@ private:
     bool m_isAsking = false;
     /// The parts changed while the view was busy.
     bool m_isFillDue = false;
-    /// The status line says what stayed pending.
-    bool m_hasToldKept = false;
+    /// Runs while the status line says something of the view's.
+    QTimer m_reported;
     /// edited() told what the next changed() is about.
     bool m_isEditedShown = false;
 };

@@ -62,7 +62,6 @@ BOMFieldEditor::BOMFieldEditor(BOMPartsDatabase *database, const BOMField &field
     , m_field(field)
 {
     m_ui->setupUi(this);
-    m_ui->fieldLinesSpinBox->setSuffix(tr(" Lines"));
     m_ui->newPropertyBtn->setEnabled(m_database);
     m_ui->floatingPrecisionLineEdit->setValidator(new QIntValidator(0, mostDecimalPlaces, this));
     QCompleter *completer = m_ui->propertyNameCombo->completer();

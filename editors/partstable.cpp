@@ -116,8 +116,8 @@ void PartsTable::makeColumns()
         item->setData(PropValEditDelegate::IsEditableRole, isEditable);
         m_table->setHorizontalHeaderItem(column, item);
     };
-    setHeader(ReferenceColumn, QCoreApplication::translate("BOMDataView", "References"), {}, false);
-    setHeader(CategoryColumn, QCoreApplication::translate("BOMDataView", "Category"), {}, false);
+    setHeader(ReferenceColumn, referencesHeading(), {}, false);
+    setHeader(CategoryColumn, categoryHeading(), {}, false);
     int column = FirstField;
     for (const PropertyColumn &field : m_context.rows.columns()) {
         setHeader(column++, field.heading, field.property, field.isEditable);

@@ -75,7 +75,8 @@ void PropertyRecorder::recordPart(const QString &reference, const PropertyColumn
     const QString present = m_database->property(reference, column.property);
     if (m_assignments->storedValue(column.property, value) !=
         m_assignments->storedValue(column.property, present)) {
-        if (!edit || edit->value != value) {
+        // Typing a text again says that it is meant, whatever the design holds by now.
+        if (!edit || edit->value != value || edit->conflict != EditConflict::None) {
             m_assignments->assign(reference, column.key, value);
         }
     } else if (edit) {

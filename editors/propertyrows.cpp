@@ -275,3 +275,13 @@ bool PropertyRows::isBefore(const PropertyRow &left, const PropertyRow &right, s
     }
     return order != 0 ? order < 0 : left.number < right.number;
 }
+
+QString referencesHeading()
+{
+    return QCoreApplication::translate("BOMDataView", "References");
+}
+
+QString categoryHeading()
+{
+    return QCoreApplication::translate("BOMDataView", "Category");
+}

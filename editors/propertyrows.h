@@ -76,6 +76,10 @@ struct PropertyRow
     bool operator==(const PropertyRow &) const = default;
 };
 
+/// The headings of the two columns in front of the fields.
+[[nodiscard]] QString referencesHeading();
+[[nodiscard]] QString categoryHeading();
+
 /// What the property editor shows: texts as they were when they were read, so that rows outlive the parts.
 class PropertyRows final
 {

@@ -93,6 +93,8 @@ void PropsFindAndReplace::hideEvent(QHideEvent *event)
     APPLNDIALOG::hideEvent(event);
     if (m_table && !event->spontaneous()) {
         m_table->setSortingEnabled(true);
+        // Whoever found a cell goes on there.
+        m_table->setFocus();
     }
 }
 

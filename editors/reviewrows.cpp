@@ -40,6 +40,19 @@ QString counted(qsizetype count, const QString &one, const QString &many)
     return count == 1 ? one : many.arg(count);
 }
 
+QString fileNames(const QStringList &files)
+{
+    constexpr qsizetype mostNamed = 4;
+    QStringList names;
+    for (const QString &file : files.first(std::min(files.size(), mostNamed))) {
+        names << QFileInfo(file).fileName();
+    }
+    if (files.size() > mostNamed) {
+        names << QStringLiteral("...");
+    }
+    return QStringLiteral(" (") + names.join(QStringLiteral(", ")) + u')';
+}
+
 } // namespace
 
 QString conflictText(const PendingEdit &edit, const BOMPartsDatabase *database)
@@ -247,6 +260,7 @@ PendingChanges::PendingChanges(const QList<PendingEdit> &edits, const std::optio
         m_rows << builder.row(edit);
     }
     m_generalProblems = builder.otherProblems();
+    m_files = preview ? preview->files : QStringList();
 }
 
 bool PendingChanges::canBeApplied() const
@@ -263,21 +277,17 @@ QString PendingChanges::summary() const
         return tr("Nothing is pending.");
     }
     std::set<PartIdentity> parts;
-    QSet<QString> files;
     qsizetype conflicts = 0;
     qsizetype refused = 0;
     for (const ReviewRow &row : m_rows) {
         parts.insert(row.edit.part);
-        if (!row.file.isEmpty()) {
-            files.insert(row.file);
-        }
         conflicts += row.edit.canBeWritten() ? 0 : 1;
         refused += row.state == ReviewState::Refused ? 1 : 0;
     }
     QString text = counted(m_rows.size(), tr("1 edit"), tr("%1 edits")) + u' ' +
                    counted(qsizetype(parts.size()), tr("of 1 part"), tr("of %1 parts"));
-    if (!files.isEmpty()) {
-        text += u' ' + counted(files.size(), tr("in 1 file"), tr("in %1 files"));
+    if (!m_files.isEmpty()) {
+        text += u' ' + counted(m_files.size(), tr("in 1 file"), tr("in %1 files")) + fileNames(m_files);
     }
     if (conflicts > 0) {
         text += tr("; %1 in conflict").arg(conflicts);

@@ -75,6 +75,7 @@ private:
     class Builder;
 
     QList<ReviewRow> m_rows;
+    QStringList m_files;
     QStringList m_generalProblems;
 };
 

@@ -15,6 +15,14 @@ bool holds(const QString &text, QStringView word)
     return text.contains(word, Qt::CaseInsensitive);
 }
 
+/// A reference within a range such as R1-R7 is found, too.
+bool holdsReference(const PropertyRow &row, QStringView word)
+{
+    return holds(row.referenceText, word) ||
+           std::any_of(row.references.cbegin(), row.references.cend(),
+                       [word](const QString &reference) { return holds(reference, word); });
+}
+
 bool isHeading(QString heading, QStringView name)
 {
     return heading.remove(u' ').compare(name, Qt::CaseInsensitive) == 0;
@@ -64,16 +72,19 @@ bool RowFilter::hasWord(const PropertyRows &rows, const PropertyRow &row, const 
     if (colon > 0 && colon + 1 < word.size()) {
         const QStringView heading = QStringView(word).left(colon);
         const QStringView rest = QStringView(word).mid(colon + 1);
+        if (isHeading(referencesHeading(), heading)) {
+            return holdsReference(row, rest);
+        }
+        if (isHeading(categoryHeading(), heading)) {
+            return holds(row.category, rest);
+        }
         for (size_t column = 0; column < row.cells.size(); ++column) {
             if (isHeading(rows.columns()[column].heading, heading)) {
                 return holds(row.cells[column].shownText(), rest);
             }
         }
     }
-    // A reference within a range such as R1-R7 is found, too.
-    const auto holdsWord = [&word](const QString &text) { return holds(text, word); };
-    return holds(row.category, word) || holds(row.referenceText, word) ||
-           std::any_of(row.references.cbegin(), row.references.cend(), holdsWord) ||
+    return holds(row.category, word) || holdsReference(row, word) ||
            std::any_of(row.cells.cbegin(), row.cells.cend(), [&word](const PropertyCell &cell) {
                return holds(cell.isDifferent ? cell.shownText() : cell.text, word);
            });

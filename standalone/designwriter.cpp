@@ -124,8 +124,8 @@ WriteResult writeEdits(const designs::Design &design, std::span<const designs::E
     return result;
 }
 
-QList<CDBCHANGE> previewEdits(const designs::Design &design, std::span<const designs::Edit> edits,
-                              QList<CDBPROBLEM> *problems)
+CDBPREVIEW previewEdits(const designs::Design &design, std::span<const designs::Edit> edits,
+                        QList<CDBPROBLEM> *problems)
 {
     designs::EditPlan plan = design.planEdits(edits);
     *problems += problemsOf(design, edits, plan.problems);
@@ -146,11 +146,14 @@ QList<CDBCHANGE> previewEdits(const designs::Design &design, std::span<const des
     if (!plan.files.empty() && plan.problems.empty()) {
         *problems += problemsOf(filesOf(design).check(plan.files));
     }
-    QList<CDBCHANGE> changes;
+    CDBPREVIEW preview;
     for (const designs::Change &planned : plan.changes) {
-        changes.append(changeOf(design, fitting, planned));
+        preview.changes.append(changeOf(design, fitting, planned));
     }
-    return changes;
+    for (const designs::FileReplacement &file : plan.files) {
+        preview.files << file.path;
+    }
+    return preview;
 }
 
 UndoResult undoLastWrite(const designs::Design &design)

@@ -70,10 +70,9 @@ struct UndoResult
 [[nodiscard]] WriteResult writeEdits(const designs::Design &design, std::span<const designs::Edit> edits,
                                      const WriteOptions &options);
 
-/// What writing the edits would change; edits that are refused are left out, and are told in `problems`.
-[[nodiscard]] QList<CDBCHANGE> previewEdits(const designs::Design &design,
-                                            std::span<const designs::Edit> edits,
-                                            QList<CDBPROBLEM> *problems);
+/// What writing the edits would do; edits that are refused are left out, and are told in `problems`.
+[[nodiscard]] CDBPREVIEW previewEdits(const designs::Design &design, std::span<const designs::Edit> edits,
+                                      QList<CDBPROBLEM> *problems);
 
 /// Gives the files of the design the content that they had before the last write.
 [[nodiscard]] UndoResult undoLastWrite(const designs::Design &design);

@@ -241,7 +241,7 @@ bool StandaloneCdb::commitbatch()
     return true;
 }
 
-std::optional<QList<CDBCHANGE>> StandaloneCdb::previewbatch()
+std::optional<CDBPREVIEW> StandaloneCdb::previewbatch()
 {
     if (m_depth != 1 || !m_previewer) {
         dropbatch();

@@ -26,8 +26,7 @@ public:
     /// Writes edits of the design, all of them or none, and gives what kept them from being written.
     using Writer = std::function<QList<CDBPROBLEM>(std::span<const designs::Edit>)>;
     /// Works out what the writer would change, or what would keep it from writing.
-    using Previewer =
-        std::function<QList<CDBCHANGE>(std::span<const designs::Edit>, QList<CDBPROBLEM> *problems)>;
+    using Previewer = std::function<CDBPREVIEW(std::span<const designs::Edit>, QList<CDBPROBLEM> *problems)>;
 
     StandaloneCdb();
 
@@ -48,7 +47,7 @@ public:
     void beginbatch() override;
     bool commitbatch() override;
     /// Edits that were refused when they were collected do not keep the others from being worked out.
-    std::optional<QList<CDBCHANGE>> previewbatch() override;
+    std::optional<CDBPREVIEW> previewbatch() override;
     void dropbatch() override;
     void afterbatch(const std::function<void()> &action) override;
     [[nodiscard]] QList<CDBPROBLEM> problems() const override { return m_problems; }

@@ -75,6 +75,16 @@ struct CDBCHANGE
     bool operator==(const CDBCHANGE &) const = default;
 };
 
+/// What a batch would do.
+struct CDBPREVIEW
+{
+    QList<CDBCHANGE> changes;
+    /// The files that would be replaced.
+    QStringList files;
+
+    bool operator==(const CDBPREVIEW &) const = default;
+};
+
 /// The host's component database.
 class CDBCORE
 {
@@ -98,10 +108,10 @@ public:
     /// Writes what was collected, all of it or nothing; true when it is written, or the batch is an inner
     /// one.
     virtual bool commitbatch() { return true; }
-    /// Ends a batch without writing it. Gives what commitbatch() would have changed; problems() has what
+    /// Ends a batch without writing it. Gives what commitbatch() would have done; problems() has what
     /// would have kept it from being written. Nothing where the host cannot tell, or the batch is an inner
     /// one.
-    virtual std::optional<QList<CDBCHANGE>> previewbatch()
+    virtual std::optional<CDBPREVIEW> previewbatch()
     {
         dropbatch();
         return std::nullopt;

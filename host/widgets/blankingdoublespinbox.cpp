@@ -53,13 +53,6 @@ std::optional<QString> BlankingDoubleSpinBox::numberOf(const QString &text) cons
     return std::isfinite(number.toDouble(&isNumber)) && isNumber ? std::optional(number) : std::nullopt;
 }
 
-bool BlankingDoubleSpinBox::mayBecomeNumber(const QString &text) const
-{
-    static const QRegularExpression start(QStringLiteral(
-        "\\A[+-]?(?:\\.?|[0-9]+\\.?[0-9]*(?:[eE][+-]?[0-9]*)?|\\.[0-9]+(?:[eE][+-]?[0-9]*)?)\\z"));
-    return start.match(withPoint(text)).hasMatch();
-}
-
 std::optional<QString> BlankingDoubleSpinBox::steppedNumber(const QString &number, int steps) const
 {
     const QRegularExpressionMatch match = decimal().match(number);

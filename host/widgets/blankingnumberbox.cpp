@@ -51,8 +51,9 @@ QValidator::State BlankingNumberBox::validate(QString &input, int &) const
     if (input == heldText() || valueOf(input)) {
         return QValidator::Acceptable;
     }
-    return holdsForeignText() || mayBecomeNumber(plain(input)) ? QValidator::Intermediate
-                                                               : QValidator::Invalid;
+    // A text that is no number stands until it is refused as a whole: without the keys that do not fit it
+    // would become another number, 1,50 a hundred and fifty.
+    return QValidator::Intermediate;
 }
 
 QSize BlankingNumberBox::sizeHint() const

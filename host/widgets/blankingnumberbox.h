@@ -43,8 +43,6 @@ protected:
     /// The number as it is written with "-" and "."; nothing for a text that is none. The text has no blanks
     /// around it, "-" as minus sign, and the user's own decimal point.
     [[nodiscard]] virtual std::optional<QString> numberOf(const QString &text) const = 0;
-    /// Whether a text of the same form may become a number when more is typed.
-    [[nodiscard]] virtual bool mayBecomeNumber(const QString &text) const = 0;
     /// The number that is `steps` away; nothing where there is none.
     [[nodiscard]] virtual std::optional<QString> steppedNumber(const QString &number, int steps) const = 0;
 

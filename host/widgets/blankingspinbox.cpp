@@ -39,12 +39,6 @@ std::optional<QString> BlankingSpinBox::numberOf(const QString &text) const
     return isInRange ? std::optional(QString::number(number)) : std::nullopt;
 }
 
-bool BlankingSpinBox::mayBecomeNumber(const QString &text) const
-{
-    const bool isGroup = withPoint(text).endsWith(QLatin1String(".000"));
-    return text == u'-' || text == u'+' || (isGroup && numberOf(text.chopped(1)));
-}
-
 std::optional<QString> BlankingSpinBox::steppedNumber(const QString &number, int steps) const
 {
     const qint64 value = number.toLongLong();

@@ -19,6 +19,5 @@ public:
 
 protected:
     [[nodiscard]] std::optional<QString> numberOf(const QString &text) const override;
-    [[nodiscard]] bool mayBecomeNumber(const QString &text) const override;
     [[nodiscard]] std::optional<QString> steppedNumber(const QString &number, int steps) const override;
 };

@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <utility>
 
-/// Lets those keys through that can lead to a value.
+/// Says which texts are values.
 class KeywordValueEditor::Validator final : public QValidator
 {
 public:
@@ -26,9 +26,9 @@ public:
         if (m_editor.m_areOthersAllowed || input == m_editor.heldText() || m_editor.valueOf(input) == input) {
             return Acceptable;
         }
-        const bool leadsToValue = m_editor.holdsForeignText() || m_editor.valueOf(input) ||
-                                  !m_editor.completionsOf(input).isEmpty();
-        return leadsToValue ? Intermediate : Invalid;
+        // Other texts are refused as a whole: without the keys that do not fit they would become keywords
+        // that nobody typed.
+        return Intermediate;
     }
     void fixup(QString &input) const override { input = m_editor.text(); }
 

@@ -209,6 +209,20 @@ TEST_F(Pending, SurviveTheEndOfTheProgram)
     EXPECT_TRUE(journals().isEmpty());
 }
 
+TEST_F(Pending, NumbersAreTakenUpInAnotherLocale)
+{
+    const ScopedDefinitions definitions("\"COST\",FLOAT");
+    restart();
+    read({{"s1", {"R1", "10k"}}});
+    ui.numberFormat = QLocale(QLocale::German);
+    database.reload();
+    assignments->assign(u"R1"_s, u"COST"_s, u"1,50"_s);
+    ui.numberFormat = QLocale::c();
+    restart();
+    assignments->takeUpFromEarlier();
+    EXPECT_EQ(pending(), "R1 COST=1.50");
+}
+
 TEST_F(Pending, ThatCannotBeJournalledAreTold)
 {
     process.design.info["FILENAME"] = u"/designs/"_s + QString(300, u'x') + u".kicad_sch"_s;
@@ -255,6 +269,10 @@ TEST_F(Pending, OfTwoProgramsHaveJournalsOfTheirOwn)
     }
     restart();
     EXPECT_EQ(assignments->leftFromEarlier(), 2);
+    assignments->assign(u"R1"_s, u"MPN"_s, u"instead"_s);
+    assignments->retract(u"R1"_s, u"MPN"_s);
+    restart();
+    EXPECT_EQ(assignments->leftFromEarlier(), 2) << "what waits is not taken away by another edit";
     assignments->takeUpFromEarlier();
     EXPECT_EQ(pending(), "R1 MPN=first | R2 MPN=second");
     EXPECT_EQ(journals().size(), 1);

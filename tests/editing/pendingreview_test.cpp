@@ -70,7 +70,7 @@ TEST_F(Review, SaysWhatEachEditWouldDo)
     EXPECT_EQ(row(3), "R2|COST||1.5|amp.kicad_sch:47|||Fits");
     EXPECT_EQ(row(4), "R10|MPN||x|channel.kicad_sch:28|R20||Fits");
     EXPECT_EQ(row(5), "SCR1|MPN||y|BOMPART0, BOMPART1, BOMPART2 of U1, amp.kicad_sch:95|||Fits");
-    EXPECT_EQ(label("summaryLabel"), "6 edits of 5 parts in 2 files");
+    EXPECT_EQ(label("summaryLabel"), "6 edits of 5 parts in 2 files (amp.kicad_sch, channel.kicad_sch)");
     EXPECT_TRUE(button("applyButton")->isDefault());
     QTest::keyClick(dialog.get(), Qt::Key_Return);
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
@@ -86,9 +86,9 @@ TEST_F(Review, LetsConflictsBeConfirmedAndEditsBeDropped)
     open();
     EXPECT_EQ(row(1), "R1|MPN|A|mine|||[ ]|Changed in the design meanwhile, now \"theirs\"");
     EXPECT_EQ(row(2), "R2|MPN||x||||The design has no such part any more");
-    EXPECT_EQ(label("summaryLabel"), "3 edits of 3 parts in 1 file; 2 in conflict");
+    EXPECT_EQ(label("summaryLabel"), "3 edits of 3 parts in 1 file (amp.kicad_sch); 2 in conflict");
     clickCheckBox(1);
-    EXPECT_EQ(label("summaryLabel"), "3 edits of 3 parts in 1 file; 1 in conflict");
+    EXPECT_EQ(label("summaryLabel"), "3 edits of 3 parts in 1 file (amp.kicad_sch); 1 in conflict");
     EXPECT_EQ(undo->stack().undoText(), u"Decide on MPN of R1"_s);
     view().selectRow(0);
     QTest::keyClick(&view(), Qt::Key_Down, Qt::ShiftModifier);
@@ -112,7 +112,7 @@ TEST_F(Review, TellsWhatIsRefused)
     store->assign(u"R20"_s, u"MPN"_s, u"y"_s);
     store->assign(u"R1"_s, u"MPN"_s, u"z"_s);
     open();
-    EXPECT_EQ(label("summaryLabel"), "3 edits of 3 parts in 1 file; 2 refused");
+    EXPECT_EQ(label("summaryLabel"), "3 edits of 3 parts in 1 file (amp.kicad_sch); 2 refused");
     EXPECT_FALSE(button("applyButton")->isEnabled());
     EXPECT_EQ(label("problemsLabel"),
               "Nothing can be written while edits are refused: drop or correct those.");
