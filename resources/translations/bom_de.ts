@@ -358,6 +358,10 @@
         <source>Show all rows</source>
         <translation>Alle Zeilen zeigen</translation>
     </message>
+    <message>
+        <source>Nothing was written, all changes are still pending:</source>
+        <translation>Nichts wurde geschrieben, alle Änderungen sind weiterhin vorgemerkt:</translation>
+    </message>
 </context>
 <context>
     <name>BOMExcelView</name>
@@ -455,10 +459,6 @@
     <message>
         <source>Number of decimal places</source>
         <translation>Anzahl der Nachkommastellen</translation>
-    </message>
-    <message>
-        <source> Lines</source>
-        <translation> Zeilen</translation>
     </message>
 </context>
 <context>
@@ -668,6 +668,10 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>Show what would be written into the design</source>
         <translation>Zeigen, was in den Entwurf geschrieben würde</translation>
+    </message>
+    <message>
+        <source>%1 changes of properties are pending. Save writes them into the design, Discard keeps them for the next time that it is opened.</source>
+        <translation>%1 Änderungen von Eigenschaften sind vorgemerkt. „Speichern“ schreibt sie in den Entwurf, „Verwerfen“ hebt sie auf, bis er das nächste Mal geöffnet wird.</translation>
     </message>
 </context>
 <context>
@@ -983,6 +987,10 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>Nothing was changed. %1: %2.</source>
         <translation>Nichts wurde geändert. %1: %2.</translation>
+    </message>
+    <message>
+        <source>its parts differ, and it is not the only cell selected</source>
+        <translation>ihre Bauteile unterscheiden sich, und sie ist nicht die einzige ausgewählte Zelle</translation>
     </message>
 </context>
 <context>
@@ -1407,6 +1415,10 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>Could not open %1</source>
         <translation>%1 konnte nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Further links: filter the rows</source>
+        <translation>Weitere Links: Zeilen filtern</translation>
     </message>
 </context>
 <context>
@@ -2476,6 +2488,10 @@ Trotzdem ausgeben?</translation>
 Bills of materials from KiCad schematics and part lists.</source>
         <translation>Stücklistenanzeige %1
 Stücklisten aus KiCad-Schaltplänen und Bauteillisten.</translation>
+    </message>
+    <message>
+        <source>The pending changes were written just now, and would be taken back first.</source>
+        <translation>Die vorgemerkten Änderungen wurden gerade geschrieben und würden zuerst zurückgenommen.</translation>
     </message>
 </context>
 </TS>
