@@ -4,9 +4,11 @@
 
 #include "core/bompart.h"
 #include "core/bompartsdatabase.h"
+#include "editors/applytexts.h"
 #include "editors/bompartcreator.h"
 #include "editors/bompartremover.h"
 #include "editors/cellblocks.h"
+#include "editors/cellmenu.h"
 #include "editors/columnmenu.h"
 #include "editors/partmenu.h"
 #include "editors/partstable.h"
@@ -19,7 +21,6 @@
 #include "host/widgets/waitcursor.h"
 #include "ui_bomdataview.h"
 
-#include <QClipboard>
 #include <QDialog>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -31,9 +32,6 @@
 #include <algorithm>
 
 namespace {
-
-/// So many edits are named in one message.
-constexpr qsizetype mostNamed = 3;
 
 bool isBOMOnly(const Part *part)
 {
@@ -57,9 +55,8 @@ BOMDataView::BOMDataView(QWidget *parent)
     m_blocks = std::make_unique<CellBlocks>(m_ui->partsView, m_table.get(), check);
     m_columnMenu = std::make_unique<ColumnMenu>(m_ui->partsView, m_table.get());
     m_partMenu = std::make_unique<PartMenu>(this);
-    constexpr int timeToRead = 20'000;
-    m_reported.setInterval(timeToRead);
-    connect(&m_reported, &QTimer::timeout, this, &BOMDataView::clearReport);
+    m_cellMenu = std::make_unique<CellMenu>(m_ui->partsView, m_table.get(), m_blocks.get(), m_partMenu.get());
+    connect(&m_message, &PassingMessage::changed, this, &BOMDataView::statusMessage);
     setIcons();
     connectForm();
     connectEditing();
@@ -126,14 +123,14 @@ void BOMDataView::connectEditing()
     connect(m_ui->partsView, &BOMTableWidget::fillEnded, this, end);
     connect(m_blocks.get(), &CellBlocks::started, this, begin);
     connect(m_blocks.get(), &CellBlocks::ended, this, end);
-    connect(m_blocks.get(), &CellBlocks::statusMessage, this, &BOMDataView::report);
+    connect(m_blocks.get(), &CellBlocks::statusMessage, &m_message, &PassingMessage::show);
     connect(m_delegate, &PropValEditDelegate::editingChanged, this, &BOMDataView::fillIfDue);
     connect(m_columnMenu.get(), &ColumnMenu::closed, this, &BOMDataView::fillIfDue);
     connect(m_partMenu.get(), &PartMenu::closed, this, &BOMDataView::fillIfDue);
-    connect(m_partMenu.get(), &PartMenu::statusMessage, this, &BOMDataView::report);
+    connect(m_partMenu.get(), &PartMenu::statusMessage, &m_message, &PassingMessage::show);
     connect(m_ui->partsView, &BOMTableWidget::menuRequested, this, [this](int row, int column) {
         const QRect cell = m_ui->partsView->visualRect(m_ui->partsView->model()->index(row, column));
-        openMenu(row, column, m_ui->partsView->viewport()->mapToGlobal(cell.bottomLeft()));
+        m_cellMenu->open(row, column, m_ui->partsView->viewport()->mapToGlobal(cell.bottomLeft()));
     });
 }
 
@@ -182,6 +179,7 @@ void BOMDataView::setAssignments(PropertyAssignments *assignments)
         m_assignments->disconnect(this);
     }
     m_assignments = assignments;
+    m_cellMenu->setAssignments(assignments);
     m_table->setSource(m_database, assignments);
     if (assignments) {
         connect(assignments, &PropertyAssignments::edited, this, &BOMDataView::refreshEdited);
@@ -218,21 +216,6 @@ void BOMDataView::handleBOMDataUpdate()
                     m_ui->groupingCheckbox->isChecked()},
                    m_ui->showLinksCheckBox->isChecked()});
     updateButtons();
-}
-
-void BOMDataView::report(const QString &text)
-{
-    Q_EMIT statusMessage(text);
-    m_reported.start();
-}
-
-/// What was said is no longer so when something changes, and has been read after a while.
-void BOMDataView::clearReport()
-{
-    if (m_reported.isActive()) {
-        m_reported.stop();
-        Q_EMIT statusMessage({});
-    }
 }
 
 bool BOMDataView::endEditing()
@@ -322,13 +305,13 @@ void BOMDataView::addPendingAssignment(QTableWidgetItem *editedItem)
     }
     const QString refusal = recorder().record(*item->propertyRow(), item->column(), *text);
     if (!refusal.isEmpty()) {
-        report(tr("%1, %2: %3; the text stays as it was.")
-                   .arg(item->propertyRow()->referenceText, item->column().heading, refusal));
+        m_message.show(tr("%1, %2: %3; the text stays as it was.")
+                           .arg(item->propertyRow()->referenceText, item->column().heading, refusal));
         return;
     }
     m_table->refresh(item->propertyRow());
     updateButtons();
-    clearReport();
+    m_message.clear();
     Q_EMIT pendingPropertyAssignments(hasPendingAssignments());
 }
 
@@ -371,42 +354,15 @@ void BOMDataView::applyPropertyValues()
     }
     m_table->refreshPending();
     updateButtons();
-    reportKept(result);
+    if (!result.kept.isEmpty()) {
+        m_message.show(keptText(result));
+    }
     if (!result.text.isEmpty()) {
         const QScopedValueRollback asking(m_isAsking, true);
-        HostUi::current().information(this, tr("ADI scripting results"), resultText(result));
+        HostUi::current().information(this, tr("ADI scripting results"), applyText(result));
     }
     fillIfDue();
     Q_EMIT pendingPropertyAssignments(hasPendingAssignments());
-}
-
-/// With all that kept the edits from being written, which the result itself cuts.
-QString BOMDataView::resultText(const ApplyResult &result)
-{
-    QStringList lines(result.text);
-    if (!result.problems.isEmpty()) {
-        lines << QString() << tr("Nothing was written, all changes are still pending:");
-        for (const CDBPROBLEM &problem : result.problems) {
-            lines << problem.message();
-        }
-    }
-    return lines.join(u'\n');
-}
-
-void BOMDataView::reportKept(const ApplyResult &result)
-{
-    QStringList names;
-    for (const PendingEdit &edit : result.kept.first(std::min(mostNamed, result.kept.size()))) {
-        names.append(edit.reference + u' ' + edit.property);
-    }
-    if (names.isEmpty()) {
-        return;
-    }
-    if (result.kept.size() > mostNamed) {
-        names.append(QStringLiteral("..."));
-    }
-    report(tr("Still pending, because the design changed meanwhile (%1): %2")
-               .arg(QString::number(result.kept.size()), names.join(QStringLiteral(", "))));
 }
 
 void BOMDataView::clearPendingChanges()
@@ -487,7 +443,7 @@ void BOMDataView::cellLeftClicked(int row, int column)
 
 void BOMDataView::cellRightClicked(int row, int column)
 {
-    openMenu(row, column, QCursor::pos());
+    m_cellMenu->open(row, column, QCursor::pos());
 }
 
 void BOMDataView::updateCursor(int row, int col)
@@ -496,48 +452,6 @@ void BOMDataView::updateCursor(int row, int col)
     const bool leadsAway = entered && (col == PartsTable::ReferenceColumn ||
                                        (col == m_table->linksColumn() && entered->links > 0));
     m_ui->partsView->viewport()->setCursor(leadsAway ? Qt::PointingHandCursor : Qt::ArrowCursor);
-}
-
-void BOMDataView::openMenu(int row, int column, const QPoint &position)
-{
-    const PropertyRow *clicked = m_table->rowAt(row);
-    if (!clicked) {
-        return;
-    }
-    auto *menu = new QMenu(this);
-    menu->addActions(
-        {m_blocks->cutAction(), m_blocks->copyAction(), m_blocks->pasteAction(), m_blocks->clearAction()});
-    QAction *setBack = menu->addAction(tr("Set &Back"));
-    const PropertyItem *item = m_table->fieldAt(row, column);
-    setBack->setEnabled(item && item->cell().isPending);
-    connect(setBack, &QAction::triggered, this, &BOMDataView::retractSelected);
-    menu->addSeparator();
-    const QString references = clicked->referenceText;
-    connect(menu->addAction(tr("&Navigate")), &QAction::triggered, this,
-            [this, number = clicked->firstReference()] {
-                if (const PropertyRow *still = m_table->rows().rowOf(number)) {
-                    still->references.size() > 1 ? m_partMenu->askForPart(*still)
-                                                 : m_partMenu->navigateTo(number);
-                }
-            });
-    connect(menu->addAction(tr("Copy &Reference")), &QAction::triggered, this,
-            [references] { QGuiApplication::clipboard()->setText(references); });
-    m_partMenu->open(menu, position);
-}
-
-void BOMDataView::retractSelected()
-{
-    if (!m_assignments) {
-        return;
-    }
-    const PropertyAssignments::Action action(m_assignments);
-    for (const QModelIndex &cell : m_ui->partsView->seenSelection()) {
-        const PropertyItem *item = m_table->fieldAt(cell.row(), cell.column());
-        const QStringList references = item ? item->propertyRow()->references : QStringList();
-        for (const QString &reference : references) {
-            m_assignments->retract(reference, item->column().key);
-        }
-    }
 }
 
 void BOMDataView::changeEvent(QEvent *event)

@@ -3,15 +3,16 @@
 #pragma once
 
 #include "core/propertyassignments.h"
+#include "editors/passingmessage.h"
 
 #include <QPointer>
-#include <QTimer>
 #include <QWidget>
 
 #include <memory>
 
 class BOMPartsDatabase;
 class CellBlocks;
+class CellMenu;
 class ColumnMenu;
 class PartMenu;
 class PropValEditDelegate;
@@ -89,16 +90,10 @@ private:
     void refreshEdited(const QList<PendingEdit> &before, const QList<PendingEdit> &after);
     void updateAssignments();
     void fillIfDue();
-    void report(const QString &text);
-    void clearReport();
-    [[nodiscard]] static QString resultText(const ApplyResult &result);
-    void reportKept(const ApplyResult &result);
     [[nodiscard]] QString currentReference() const;
     /// Runs a dialog that changes parts.
     void run(QDialog *dialog);
-    void openMenu(int row, int column, const QPoint &position);
     /// Ends the edits of the selected cells.
-    void retractSelected();
     [[nodiscard]] PropertyRecorder recorder() const;
 
     std::unique_ptr<Ui::BOMDataView> m_ui;
@@ -109,6 +104,7 @@ private:
     std::unique_ptr<CellBlocks> m_blocks;
     std::unique_ptr<ColumnMenu> m_columnMenu;
     std::unique_ptr<PartMenu> m_partMenu;
+    std::unique_ptr<CellMenu> m_cellMenu;
     /// Made when it is asked for.
     PropsFindAndReplace *m_findAndReplace = nullptr;
     /// While one drag, paste or other command changes several cells.
@@ -120,8 +116,7 @@ private:
     bool m_isAsking = false;
     /// The parts changed while the view was busy.
     bool m_isFillDue = false;
-    /// Runs while the status line says something of the view's.
-    QTimer m_reported;
+    PassingMessage m_message;
     /// edited() told what the next changed() is about.
     bool m_isEditedShown = false;
 };

@@ -10,6 +10,7 @@
 #include "editors/pendingundo.h"
 #include "host/framework/applnframe.h"
 #include "host/framework/hostui.h"
+#include "host/widgets/waitcursor.h"
 #include "module/dockwidget.h"
 #include "module/optionspanel.h"
 #include "templates/templatestore.h"
@@ -19,7 +20,6 @@
 #include "views/bomhtmlview.h"
 
 #include <QAction>
-#include <QGuiApplication>
 #include <QMainWindow>
 #include <QMenu>
 #include <QScopedValueRollback>
@@ -35,15 +35,6 @@ namespace {
 /// The places of the menus in the host's menu bar.
 constexpr unsigned editMenuId = 273;
 constexpr unsigned generateMenuId = 274;
-
-class WaitCursor final
-{
-public:
-    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    WaitCursor(const WaitCursor &) = delete;
-    WaitCursor &operator=(const WaitCursor &) = delete;
-    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-};
 
 QString modulePicture(const QString &name)
 {

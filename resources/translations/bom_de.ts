@@ -335,18 +335,6 @@
         <translation>Sollen die vorgemerkten Änderungen wirklich verworfen werden?</translation>
     </message>
     <message>
-        <source>Set &amp;Back</source>
-        <translation>&amp;Zurücksetzen</translation>
-    </message>
-    <message>
-        <source>&amp;Navigate</source>
-        <translation>&amp;Navigieren</translation>
-    </message>
-    <message>
-        <source>Copy &amp;Reference</source>
-        <translation>&amp;Referenz kopieren</translation>
-    </message>
-    <message>
         <source>References</source>
         <translation>Referenzen</translation>
     </message>
@@ -991,6 +979,21 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>its parts differ, and it is not the only cell selected</source>
         <translation>ihre Bauteile unterscheiden sich, und sie ist nicht die einzige ausgewählte Zelle</translation>
+    </message>
+</context>
+<context>
+    <name>CellMenu</name>
+    <message>
+        <source>Set &amp;Back</source>
+        <translation type="unfinished">&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Navigate</source>
+        <translation type="unfinished">&amp;Navigieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Reference</source>
+        <translation type="unfinished">&amp;Referenz kopieren</translation>
     </message>
 </context>
 <context>
