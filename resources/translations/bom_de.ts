@@ -985,15 +985,15 @@ Trotzdem ausgeben?</translation>
     <name>CellMenu</name>
     <message>
         <source>Set &amp;Back</source>
-        <translation type="unfinished">&amp;Zurücksetzen</translation>
+        <translation>&amp;Zurücksetzen</translation>
     </message>
     <message>
         <source>&amp;Navigate</source>
-        <translation type="unfinished">&amp;Navigieren</translation>
+        <translation>&amp;Navigieren</translation>
     </message>
     <message>
         <source>Copy &amp;Reference</source>
-        <translation type="unfinished">&amp;Referenz kopieren</translation>
+        <translation>&amp;Referenz kopieren</translation>
     </message>
 </context>
 <context>
