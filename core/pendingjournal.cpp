@@ -44,7 +44,7 @@ QJsonObject toJson(const EditKey &key)
 {
     QJsonObject object{{QStringLiteral("component"), QString::fromUtf8(key.part.component)},
                        {QStringLiteral("property"), key.property}};
-    if (!key.part.definition.isEmpty()) {
+    if (key.part != PartIdentity{key.part.component}) {
         object.insert(QStringLiteral("definition"), key.part.definition);
         object.insert(QStringLiteral("place"), key.part.place);
     }
