@@ -41,6 +41,11 @@ void BOMTemplateImporter::setUpRegistry()
 #endif
 }
 
+void BOMTemplateImporter::explain()
+{
+    m_ui->offerLabel->show();
+}
+
 void BOMTemplateImporter::connectWidgets()
 {
     using This = BOMTemplateImporter;

@@ -29,6 +29,9 @@ public:
     BOMTemplateImporter(TemplateStore *store, BOMPartsDatabase *database, QWidget *parent = nullptr);
     ~BOMTemplateImporter() override;
 
+    /// Says what the dialog is for, to a user who has not asked for it.
+    void explain();
+
 public Q_SLOTS:
     /// Follows the choice between registry and file.
     void setImportMode();

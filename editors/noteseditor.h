@@ -8,6 +8,8 @@
 
 #include <memory>
 
+class BOMPartsDatabase;
+
 namespace Ui {
 class NotesEditor;
 }
@@ -29,3 +31,7 @@ private:
     std::unique_ptr<Ui::NotesEditor> m_ui;
     QString m_found;
 };
+
+/// Shows the notes of the design in the editor, and writes them when it is accepted. What could not be
+/// written is shown again; the user is asked about notes that another program changed meanwhile.
+void editNotes(BOMPartsDatabase *database, QWidget *parent);

@@ -4,15 +4,23 @@
 
 #include "core/bompartsdatabase.h"
 #include "core/propertyassignments.h"
+#include "editors/advancedsettings.h"
 #include "editors/bomdataview.h"
+#include "editors/bomtemplateimporter.h"
 #include "editors/earlieredits.h"
+#include "editors/noteseditor.h"
 #include "editors/pendingreview.h"
 #include "editors/pendingundo.h"
 #include "host/framework/applnframe.h"
+#include "host/framework/applnprocess.h"
 #include "host/framework/hostui.h"
+#include "host/framework/imodule.h"
+#include "host/framework/menubar.h"
 #include "host/widgets/waitcursor.h"
-#include "module/dockwidget.h"
+#include "module/newtemplatedialog.h"
 #include "module/optionspanel.h"
+#include "module/windowactions.h"
+#include "module/windowpages.h"
 #include "templates/templatestore.h"
 #include "views/bomasciiview.h"
 #include "views/bomcsvview.h"
@@ -20,7 +28,9 @@
 #include "views/bomhtmlview.h"
 
 #include <QAction>
-#include <QMainWindow>
+#include <QApplication>
+#include <QCheckBox>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QTabWidget>
@@ -35,16 +45,11 @@ namespace {
 /// The places of the menus in the host's menu bar.
 constexpr unsigned editMenuId = 273;
 constexpr unsigned generateMenuId = 274;
+constexpr unsigned templatesMenuId = 275;
+constexpr unsigned helpMenuId = 276;
 
-QString modulePicture(const QString &name)
-{
-    return QStringLiteral(":/bom/icons/") + name + QStringLiteral(".png");
-}
-
-QString hostPicture(const QString &name)
-{
-    return QStringLiteral(":/quorvel/icons/") + name + QStringLiteral(".png");
-}
+/// How long after the window the import of legacy scripts is offered, in milliseconds.
+constexpr int legacyImportDelay = 1200;
 
 } // namespace
 
@@ -52,13 +57,23 @@ BOMMainWindow::BOMMainWindow(BOMPartsDatabase *database, const EditStores &store
     : APPLNWIDGET(parent)
     , m_database(database)
     , m_stores(stores)
+    , m_importLegacyOnStart(TemplateStore::isLegacyImportPending())
 {
     setObjectName(QStringLiteral("BOMMainWindowClass"));
     setWindowTitle(tr("Bill of Materials Viewer"));
+    // A child: one that waits goes with the window, before the module's library may be unloaded.
+    m_legacyImport = new QTimer(this);
+    m_legacyImport->setSingleShot(true);
+    m_legacyImport->setInterval(legacyImportDelay);
+    connect(m_legacyImport, &QTimer::timeout, this, &BOMMainWindow::offerLegacyImport);
     connect(m_database, &QObject::destroyed, this, &BOMMainWindow::forgetDatabase);
 }
 
-BOMMainWindow::~BOMMainWindow() = default;
+BOMMainWindow::~BOMMainWindow()
+{
+    // Before the base does, for which this is no main window any more.
+    BOMMainWindow::destroywindow();
+}
 
 bool BOMMainWindow::createwindow(APPLNFRAME *frame)
 {
@@ -68,72 +83,315 @@ bool BOMMainWindow::createwindow(APPLNFRAME *frame)
     if (!APPLNWIDGET::createwindow(frame)) {
         return false;
     }
-    buildPages();
-    buildActions();
-    buildMenus();
-    buildToolBar();
+    m_pages = new WindowPages;
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_pages);
+    m_actions = std::make_unique<WindowActions>(this, m_stores.undo);
+    buildBars();
+    takeHostMenus();
+    connectActions();
+    connectPanel();
     connectViews();
+    connectTemplates();
+    m_pages->tabs().installEventFilter(this);
     frame->settitle(windowTitle());
+    if (m_importLegacyOnStart) {
+        m_legacyImport->start();
+    }
     return true;
+}
+
+void BOMMainWindow::destroywindow()
+{
+    if (getframe()) {
+        m_pages->keepPlaces();
+    }
+    delete m_fullCsv;
+    delete m_appendNotes;
+    APPLNWIDGET::destroywindow();
 }
 
 void BOMMainWindow::updatewindow()
 {
     if (m_isFilled) {
-        m_report->handleBOMDataUpdate();
-        m_dataView->handleBOMDataUpdate();
+        m_pages->report().handleBOMDataUpdate();
+        m_pages->dataView().handleBOMDataUpdate();
     }
+}
+
+void BOMMainWindow::onactivate(bool isActive)
+{
+    APPLNWIDGET::onactivate(isActive);
+    if (isActive) {
+        Q_EMIT activated();
+    }
+}
+
+bool BOMMainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride: {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (watched == &m_pages->tabs() && key->modifiers() == Qt::ControlModifier &&
+            key->key() == Qt::Key_Tab) {
+            return true;
+        }
+        break;
+    }
+    default:
+        break;
+    }
+    return APPLNWIDGET::eventFilter(watched, event);
+}
+
+void BOMMainWindow::buildBars()
+{
+    addmenu(editMenuId, m_actions->editMenu(), 0);
+    addmenu(generateMenuId, m_actions->generateMenu(), 0);
+    addmenu(templatesMenuId, m_actions->templatesMenu(), 0);
+    addmenu(helpMenuId, m_actions->helpMenu(), 0);
+    APPLNPROCESS *process = getapplnprocess();
+    IMODULE *project = process ? process->getmoduleinterface(nullptr, INTERFACE_PROJECT) : nullptr;
+    if (project) {
+        addctrlbar(static_cast<IPROJECT *>(project)->createctrlbar(this), CTRLBAR_FIRST_ROW, CTRLBAR_TOP);
+    }
+    m_fullCsv = new QCheckBox(tr("Full CSV"), this);
+    m_fullCsv->setToolTip(tr("One row for each part instead of one for each line of the report"));
+    m_appendNotes = new QCheckBox(tr("Append Project Notes"), this);
+    m_appendNotes->setToolTip(tr("The project notes follow the report on paper and in PDF"));
+    addtoolbar(m_actions->toolBar(m_appendNotes, m_fullCsv));
+}
+
+void BOMMainWindow::takeHostMenus()
+{
+    if (MENUBAR *menus = getframe()->getmenubar()) {
+        (void)menus->loadmenus("APPLNMENU", getapplnlanguageinstance(getowner()));
+        menus->setaccelerators(getkeytranslator(), ACCELERATORS_APPLICATION, ACCELERATORS_REPLACE);
+        menus->setaccelerators(getkeytranslator(), ACCELERATORS_DESIGN, ACCELERATORS_ADD);
+    }
+}
+
+void BOMMainWindow::connectActions()
+{
+    const auto run = [this](QAction *action, auto slot) { connect(action, &QAction::triggered, this, slot); };
+    for (QAction *output : m_actions->outputs()) {
+        run(output, &BOMMainWindow::outputBOM);
+    }
+    run(m_actions->find, &BOMMainWindow::showFindDialogue);
+    run(m_actions->replace, &BOMMainWindow::showReplaceDialogue);
+    run(m_actions->reload, &BOMMainWindow::manualReload);
+    run(m_actions->review, &BOMMainWindow::reviewPendingChanges);
+    run(m_actions->advancedSettings, &BOMMainWindow::configureAdvancedSettings);
+    run(m_actions->saveTemplate, &BOMMainWindow::saveTemplate);
+    run(m_actions->newTemplate, &BOMMainWindow::newTemplate);
+    run(m_actions->deleteTemplate, &BOMMainWindow::deleteTemplate);
+    run(m_actions->importTemplate, &BOMMainWindow::importTemplate);
+    run(m_actions->exportTemplate, &BOMMainWindow::exportTemplate);
+    run(m_actions->resetDefault, &BOMMainWindow::resetDefaultTemplate);
+    run(m_actions->importLegacy, &BOMMainWindow::importLegacyTemplates);
+    connect(m_actions->setPaper, &QAction::triggered, &m_pages->report(), &BOMHTMLView::setPageSize);
+    sethelpaction(m_actions->help);
+}
+
+void BOMMainWindow::connectPanel()
+{
+    m_pages->options().setTemplateActions(m_actions->saveTemplate, m_actions->newTemplate,
+                                          m_actions->deleteTemplate);
+    connect(m_fullCsv, &QCheckBox::clicked, this, &BOMMainWindow::settingsChanged);
+    connect(m_appendNotes, &QCheckBox::clicked, this, &BOMMainWindow::settingsChanged);
+    connect(&m_pages->options(), &OptionsPanel::settingsChanged, this, &BOMMainWindow::settingsChanged);
+    connect(&m_pages->options(), &OptionsPanel::templateChosen, this, &BOMMainWindow::loadTemplate);
+    connect(&m_pages->options(), &OptionsPanel::headerEditorRequested, &m_pages->report(),
+            &BOMHTMLView::editTemplate);
+    connect(&m_pages->options(), &OptionsPanel::styleEditorRequested, &m_pages->report(),
+            &BOMHTMLView::editStyleTemplate);
+    connect(&m_pages->options(), &OptionsPanel::notesEditorRequested, this, &BOMMainWindow::editBomNotes);
+    connect(&m_pages->options(), &OptionsPanel::propertyEditorRequested, this,
+            &BOMMainWindow::showGlobalPropertyEditor);
 }
 
 void BOMMainWindow::connectViews()
 {
-    connect(m_database, &BOMPartsDatabase::dataChanged, m_report, &BOMHTMLView::handleBOMDataUpdate);
-    connect(m_database, &BOMPartsDatabase::dataChanged, m_dataView, &BOMDataView::handleBOMDataUpdate);
-    connect(m_database, &BOMPartsDatabase::currentTemplateModified, this,
-            &BOMMainWindow::setCurrentTemplateChanged);
-    connect(m_report, &BOMHTMLView::currentTemplateModified, this, &BOMMainWindow::setCurrentTemplateChanged);
-    connect(m_dataView, &BOMDataView::pendingPropertyAssignments, this, &BOMMainWindow::setPropertiesChanged);
-    connect(m_dataView, &BOMDataView::statusMessage, this,
+    const auto setModified = qOverload<bool>(&BOMMainWindow::setCurrentTemplateChanged);
+    connect(m_database, &BOMPartsDatabase::dataChanged, &m_pages->dataView(),
+            &BOMDataView::handleBOMDataUpdate);
+    connect(m_database, &BOMPartsDatabase::dataChanged, &m_pages->report(),
+            &BOMHTMLView::handleBOMDataUpdate);
+    connect(m_database, &BOMPartsDatabase::currentTemplateModified, this, setModified);
+    connect(&m_pages->report(), &BOMHTMLView::currentTemplateModified, this, setModified);
+    connect(&m_pages->dataView(), &BOMDataView::pendingPropertyAssignments, this,
+            &BOMMainWindow::setPropertiesChanged);
+    connect(&m_pages->dataView(), &BOMDataView::statusMessage, this,
             [this](const QString &text) { getframe()->setstatustext(text); });
-    connect(m_options, &OptionsPanel::propertyEditorRequested, this,
-            &BOMMainWindow::showGlobalPropertyEditor);
     connect(m_stores.assignments, &PropertyAssignments::changed, this,
             [this] { setPropertiesChanged(!m_stores.assignments->isEmpty()); });
     connect(m_stores.assignments, &PropertyAssignments::historyEnded, this, [this] {
         m_isEarlierOffered = false;
-        QTimer::singleShot(0, this, &BOMMainWindow::offerEarlier);
+        QMetaObject::invokeMethod(this, &BOMMainWindow::offerEarlier, Qt::QueuedConnection);
     });
+    setPropertiesChanged(!m_stores.assignments->isEmpty());
 }
 
-void BOMMainWindow::setTemplates(TemplateStore *templates)
+void BOMMainWindow::connectTemplates()
 {
-    m_templates = templates;
-    if (templates) {
-        connect(templates, &TemplateStore::currentChanged, m_options, &OptionsPanel::showTemplate);
+    TemplateStore *store = m_stores.templates;
+    connect(store, &TemplateStore::namesChanged, this, &BOMMainWindow::showTemplateNames);
+    connect(store, &TemplateStore::currentChanged, this, &BOMMainWindow::showTemplate);
+    connect(store, &TemplateStore::modifiedChanged, this, &BOMMainWindow::showModified);
+    showTemplate();
+}
+
+void BOMMainWindow::showTemplateNames()
+{
+    m_pages->options().setTemplateNames(m_stores.templates->templates().names(),
+                                        m_stores.templates->currentName());
+}
+
+void BOMMainWindow::showTemplate()
+{
+    if (!m_database) {
+        return;
+    }
+    showTemplateNames();
+    m_pages->options().showTemplate();
+    const BOMTemplate &settings = m_database->currentTemplate();
+    m_fullCsv->setChecked(settings.fullTextOuputs());
+    m_appendNotes->setChecked(settings.appendNotes());
+    m_actions->deleteTemplate->setEnabled(m_stores.templates->canDelete(m_stores.templates->currentName()));
+    showModified();
+}
+
+void BOMMainWindow::showModified()
+{
+    const bool isTemplateModified = m_stores.templates && m_stores.templates->isModified();
+    m_pages->options().setTemplateModified(isTemplateModified);
+    getframe()->setmodified(isTemplateModified || (m_stores.assignments && !m_stores.assignments->isEmpty()));
+}
+
+void BOMMainWindow::saveTemplate()
+{
+    runOnTemplates(&TemplateStore::saveCurrent);
+}
+
+void BOMMainWindow::loadTemplate(const QString &templateName)
+{
+    if (m_stores.templates) {
+        (void)m_stores.templates->select(templateName);
+    }
+}
+
+void BOMMainWindow::newTemplate()
+{
+    if (!m_stores.templates) {
+        return;
+    }
+    NewTemplateDialog dialog(this);
+    if (dialog.exec() == QDialog::Accepted && m_stores.templates) {
+        (void)m_stores.templates->createTemplate(dialog.name());
+    }
+}
+
+void BOMMainWindow::runOnTemplates(bool (TemplateStore::*command)())
+{
+    if (m_stores.templates) {
+        (void)(m_stores.templates->*command)();
+    }
+}
+
+void BOMMainWindow::deleteTemplate()
+{
+    runOnTemplates(&TemplateStore::deleteCurrent);
+}
+
+void BOMMainWindow::resetDefaultTemplate()
+{
+    runOnTemplates(&TemplateStore::resetDefault);
+}
+
+void BOMMainWindow::importTemplate()
+{
+    runOnTemplates(&TemplateStore::importTemplate);
+}
+
+void BOMMainWindow::exportTemplate()
+{
+    runOnTemplates(&TemplateStore::exportTemplate);
+}
+
+void BOMMainWindow::importLegacyTemplates()
+{
+    if (!m_database || !m_stores.templates) {
+        return;
+    }
+    BOMTemplateImporter importer(m_stores.templates, m_database, this);
+    if (std::exchange(m_importLegacyOnStart, false)) {
+        importer.explain();
+    }
+    importer.exec();
+    TemplateStore::setLegacyImportDone();
+}
+
+void BOMMainWindow::offerLegacyImport()
+{
+    // Not on top of what the user or the program has opened meanwhile.
+    if (QApplication::activeModalWidget() || QApplication::activePopupWidget() || isBusy()) {
+        m_legacyImport->start();
+    } else if (m_importLegacyOnStart) {
+        importLegacyTemplates();
     }
 }
 
 void BOMMainWindow::setCurrentTemplateChanged(bool hasChanges)
 {
-    if (m_templates) {
-        m_templates->setModified(hasChanges);
+    if (m_stores.templates) {
+        m_stores.templates->setModified(hasChanges);
     }
 }
 
 void BOMMainWindow::setPropertiesChanged(bool arePending)
 {
-    m_review->setEnabled(arePending);
+    m_actions->review->setEnabled(arePending);
+    showModified();
+}
+
+void BOMMainWindow::settingsChanged()
+{
+    if (!m_database) {
+        return;
+    }
+    BOMTemplate settings = m_database->currentTemplate();
+    m_pages->options().takeOptions(&settings);
+    settings.setFullTextOuputs(m_fullCsv->isChecked());
+    settings.setAppendNotes(m_appendNotes->isChecked());
+    (void)m_database->setTemplateOptions(settings);
+}
+
+void BOMMainWindow::configureAdvancedSettings()
+{
+    if (!m_database) {
+        qDebug("BOMMainWindow::configureAdvancedSettings bad call");
+        return;
+    }
+    AdvancedSettings dialog(m_database, m_stores.templates && m_stores.templates->isModified(), this);
+    const bool isAccepted = dialog.exec() == QDialog::Accepted;
+    manualReload();
+    if (isAccepted) {
+        m_pages->options().showFields();
+    }
 }
 
 bool BOMMainWindow::canbeclosed()
 {
     // What is typed into an open cell counts.
-    if (m_dataView && !m_dataView->endEditing()) {
+    if (m_pages && !m_pages->dataView().endEditing()) {
         return false;
     }
-    const bool isTemplateModified = m_templates && m_templates->isModified();
+    const bool isTemplateModified = m_stores.templates && m_stores.templates->isModified();
     const qsizetype pending = m_stores.assignments ? m_stores.assignments->size() : 0;
-    if (!m_templates || (!isTemplateModified && pending == 0)) {
+    if (!m_stores.templates || (!isTemplateModified && pending == 0)) {
         return true;
     }
     const QString further =
@@ -141,13 +399,13 @@ bool BOMMainWindow::canbeclosed()
                      : tr("%1 changes of properties are pending. Save writes them into the design, Discard "
                           "keeps them for the next time that it is opened.")
                            .arg(pending);
-    switch (m_templates->askToSave(true, further)) {
+    switch (m_stores.templates->askToSave(true, further)) {
     case HostUi::SaveAnswer::Save:
         return saveChanges();
     case HostUi::SaveAnswer::Discard:
         // The window may stay, and one that is made anew shows what is being worked on.
         if (isTemplateModified) {
-            m_templates->discardChanges();
+            m_stores.templates->discardChanges();
         }
         return true;
     case HostUi::SaveAnswer::Cancel:
@@ -158,34 +416,35 @@ bool BOMMainWindow::canbeclosed()
 
 bool BOMMainWindow::saveChanges()
 {
-    if (m_templates->isModified() && !m_templates->saveCurrent()) {
+    if (m_stores.templates->isModified() && !m_stores.templates->saveCurrent()) {
         return false;
     }
-    if (m_dataView->hasPendingAssignments()) {
-        m_dataView->applyPropertyValues();
+    if (m_pages->dataView().hasPendingAssignments()) {
+        m_pages->dataView().applyPropertyValues();
     }
     return !m_stores.assignments || m_stores.assignments->isEmpty();
 }
 
 bool BOMMainWindow::isBusy() const
 {
-    return m_isReviewing || (m_dataView && m_dataView->isBusy());
+    return m_isReviewing || (m_pages && m_pages->dataView().isBusy());
 }
 
 void BOMMainWindow::fillViews()
 {
-    if (m_isFilled || !m_report || !m_database) {
+    if (m_isFilled || !m_pages || !m_database) {
         return;
     }
     m_isFilled = true;
     const WaitCursor cursor;
-    m_report->setPartsDatabase(m_database);
-    m_report->handleBOMDataUpdate();
-    m_dataView->setAssignments(m_stores.assignments);
-    m_dataView->setPartsDatabase(m_database);
-    m_dataView->handleBOMDataUpdate();
-    m_options->setPartsDatabase(m_database);
-    QTimer::singleShot(0, this, &BOMMainWindow::offerEarlier);
+    m_pages->report().setPartsDatabase(m_database);
+    m_pages->report().handleBOMDataUpdate();
+    m_pages->dataView().setAssignments(m_stores.assignments);
+    m_pages->dataView().setPartsDatabase(m_database);
+    m_pages->dataView().handleBOMDataUpdate();
+    m_pages->options().setPartsDatabase(m_database);
+    showTemplate();
+    QMetaObject::invokeMethod(this, &BOMMainWindow::offerEarlier, Qt::QueuedConnection);
 }
 
 void BOMMainWindow::offerEarlier()
@@ -198,145 +457,15 @@ void BOMMainWindow::offerEarlier()
 void BOMMainWindow::forgetDatabase()
 {
     m_database = nullptr;
-    if (m_report) {
-        m_report->setPartsDatabase(nullptr);
-        m_dataView->setPartsDatabase(nullptr);
-        m_dataView->setAssignments(nullptr);
-        m_options->setPartsDatabase(nullptr);
+    if (m_pages) {
+        m_pages->report().setPartsDatabase(nullptr);
+        m_pages->dataView().setPartsDatabase(nullptr);
+        m_pages->dataView().setAssignments(nullptr);
+        m_pages->options().setPartsDatabase(nullptr);
     }
     if (m_excelView) {
         m_excelView->setPartsDatabase(nullptr);
     }
-}
-
-void BOMMainWindow::buildPages()
-{
-    buildTabs();
-    // Dock widgets live in main windows only.
-    auto *pages = new QMainWindow;
-    pages->setWindowFlags(Qt::Widget);
-    pages->setCentralWidget(m_tabs);
-    m_options = new OptionsPanel;
-    auto *dock = new DockWidget;
-    dock->setObjectName(QStringLiteral("dockWidget"));
-    dock->setContents(m_options);
-    pages->addDockWidget(Qt::LeftDockWidgetArea, dock);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(pages);
-}
-
-void BOMMainWindow::buildTabs()
-{
-    m_report = new BOMHTMLView;
-    m_report->setObjectName(QStringLiteral("bomHTMLView"));
-    m_dataView = new BOMDataView;
-    m_dataView->setObjectName(QStringLiteral("bomDataView"));
-    m_tabs = new QTabWidget;
-    m_tabs->setObjectName(QStringLiteral("tabWidget"));
-    m_tabs->setDocumentMode(true);
-    const auto addPage = [this](QWidget *view, const QString &name, const QString &title) {
-        auto *page = new QWidget;
-        page->setObjectName(name);
-        auto *layout = new QVBoxLayout(page);
-        layout->setContentsMargins({});
-        layout->addWidget(view);
-        m_tabs->addTab(page, title);
-    };
-    addPage(m_report, QStringLiteral("bomHTMLViewTab"), tr("BOM Report"));
-    addPage(m_dataView, QStringLiteral("bomDataTab"), tr("Property Editor"));
-}
-
-QAction *BOMMainWindow::addCommand(const Command &command)
-{
-    auto *action = new QAction(makeIcon(command.icon), command.text, this);
-    action->setStatusTip(command.tip);
-    action->setShortcut(command.shortcut);
-    // A tip that is shown while a command opens a dialog would stay: nothing tells that the pointer has left.
-    const auto clearTip = [this] {
-        if (APPLNFRAME *frame = getframe()) {
-            frame->setstatustext({});
-        }
-    };
-    connect(action, &QAction::triggered, this, clearTip, Qt::QueuedConnection);
-    return action;
-}
-
-QAction *BOMMainWindow::addOutput(const Command &command)
-{
-    QAction *action = addCommand(command);
-    connect(action, &QAction::triggered, this, &BOMMainWindow::outputBOM);
-    return action;
-}
-
-void BOMMainWindow::buildEditActions()
-{
-    m_undo = m_stores.undo->createUndoAction(this);
-    m_undo->setIcon(makeIcon(modulePicture(QStringLiteral("undo"))));
-    m_redo = m_stores.undo->createRedoAction(this);
-    m_redo->setIcon(makeIcon(modulePicture(QStringLiteral("redo"))));
-    m_find = addCommand({tr("&Find Property Values"), modulePicture(QStringLiteral("find")),
-                         tr("Find property values"), QKeySequence(QStringLiteral("Ctrl+F"))});
-    connect(m_find, &QAction::triggered, this, &BOMMainWindow::showFindDialogue);
-    m_replace = addCommand({tr("&Replace Property Values"), modulePicture(QStringLiteral("replace")),
-                            tr("Replace property values"), QKeySequence(QStringLiteral("Ctrl+H"))});
-    connect(m_replace, &QAction::triggered, this, &BOMMainWindow::showReplaceDialogue);
-    m_review = addCommand({tr("Review &Pending Changes…"), modulePicture(QStringLiteral("review")),
-                           tr("Show what would be written into the design")});
-    connect(m_review, &QAction::triggered, this, &BOMMainWindow::reviewPendingChanges);
-    setPropertiesChanged(!m_stores.assignments->isEmpty());
-}
-
-void BOMMainWindow::buildActions()
-{
-    buildEditActions();
-    m_reload = addCommand({tr("Reload The &BOM"), {}, tr("Reload the parts in the Bill Of Materials")});
-    connect(m_reload, &QAction::triggered, this, &BOMMainWindow::manualReload);
-    // In no menu: only its shortcut reaches it.
-    m_html = addOutput({tr("&HTML"), modulePicture(QStringLiteral("html")), tr("Output BOM in HTML"),
-                        QKeySequence(QStringLiteral("Ctrl+Alt+H"))});
-    addAction(m_html);
-    m_pdf = addOutput({tr("&PDF"), hostPicture(QStringLiteral("pdf")), tr("Output BOM as a PDF"),
-                       QKeySequence(QStringLiteral("Ctrl+P"))});
-    m_csv = addOutput({tr("&CSV"), modulePicture(QStringLiteral("csv")), tr("Output BOM in CSV")});
-    m_ascii = addOutput({tr("&ASCII"), modulePicture(QStringLiteral("ascii")), tr("Output BOM in ASCII")});
-    m_print = addOutput({tr("&Print"), hostPicture(QStringLiteral("print")), tr("Print BOM")});
-    m_excel =
-        addOutput({tr("&Open In Excel"), modulePicture(QStringLiteral("excel")), tr("Output BOM to Excel")});
-    m_setPaper = addCommand({tr("&Set Paper"), modulePicture(QStringLiteral("paper_setup")),
-                             tr("Set paper for printing and PDF output")});
-    connect(m_setPaper, &QAction::triggered, m_report, &BOMHTMLView::setPageSize);
-}
-
-void BOMMainWindow::buildMenus()
-{
-    auto *edit = new QMenu(tr("&Edit"), this);
-    edit->addActions({m_undo, m_redo});
-    edit->addSeparator();
-    edit->addActions({m_find, m_replace, m_reload});
-    edit->addSeparator();
-    edit->addAction(m_review);
-    addmenu(editMenuId, edit, 0);
-
-    auto *generate = new QMenu(tr("&Generate"), this);
-    generate->addActions({m_print, m_pdf});
-    generate->addSeparator();
-    generate->addActions({m_excel, m_csv, m_ascii});
-    generate->addSeparator();
-    generate->addAction(m_setPaper);
-    addmenu(generateMenuId, generate, 0);
-}
-
-void BOMMainWindow::buildToolBar()
-{
-    auto *bar = new QToolBar(tr("BOM"), this);
-    bar->setObjectName(QStringLiteral("bomToolBar"));
-    bar->addActions({m_setPaper, m_print, m_pdf});
-    bar->addSeparator();
-    bar->addActions({m_excel, m_csv});
-    bar->addSeparator();
-    bar->addActions({m_find, m_replace});
-    addtoolbar(bar);
 }
 
 bool BOMMainWindow::acceptDuplicates()
@@ -359,24 +488,24 @@ void BOMMainWindow::outputBOM()
         return;
     }
     const QObject *action = sender();
-    if (action == m_pdf) {
-        m_report->generatePDF();
-    } else if (action == m_print) {
-        m_report->print();
-    } else if (action == m_html) {
+    if (action == m_actions->pdf) {
+        m_pages->report().generatePDF();
+    } else if (action == m_actions->print) {
+        m_pages->report().print();
+    } else if (action == m_actions->html) {
         const WaitCursor cursor;
-        m_report->saveHTML();
-    } else if (action == m_csv) {
+        m_pages->report().saveHTML();
+    } else if (action == m_actions->csv) {
         const WaitCursor cursor;
-        BOMCsvView view(this, m_database->currentTemplate().fullTextOuputs());
+        BOMCsvView view(this, m_fullCsv->isChecked());
         view.setPartsDatabase(m_database);
         view.writeOutput();
-    } else if (action == m_ascii) {
+    } else if (action == m_actions->ascii) {
         const WaitCursor cursor;
         BOMAsciiView view(this);
         view.setPartsDatabase(m_database);
         view.writeOutput();
-    } else if (action == m_excel) {
+    } else if (action == m_actions->excel) {
         writeSpreadsheet();
     }
 }
@@ -400,19 +529,26 @@ void BOMMainWindow::manualReload()
 
 void BOMMainWindow::showGlobalPropertyEditor()
 {
-    m_tabs->setCurrentWidget(m_dataView->parentWidget());
+    m_pages->showPropertyEditor();
 }
 
 void BOMMainWindow::showFindDialogue()
 {
     showGlobalPropertyEditor();
-    m_dataView->showFindDialogue();
+    m_pages->dataView().showFindDialogue();
 }
 
 void BOMMainWindow::showReplaceDialogue()
 {
     showGlobalPropertyEditor();
-    m_dataView->showReplaceDialogue();
+    m_pages->dataView().showReplaceDialogue();
+}
+
+void BOMMainWindow::editBomNotes()
+{
+    if (m_database) {
+        editNotes(m_database, this);
+    }
 }
 
 void BOMMainWindow::reviewPendingChanges()
@@ -423,6 +559,6 @@ void BOMMainWindow::reviewPendingChanges()
     const QScopedValueRollback reviewing(m_isReviewing, true);
     PendingReview review(m_stores.assignments, m_database, this);
     if (review.exec() == QDialog::Accepted) {
-        m_dataView->applyPropertyValues();
+        m_pages->dataView().applyPropertyValues();
     }
 }

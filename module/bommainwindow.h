@@ -4,27 +4,27 @@
 
 #include "host/widgets/applnwidget.h"
 
-#include <QKeySequence>
 #include <QPointer>
 #include <QString>
 
-class BOMDataView;
+#include <memory>
+
 class BOMExcelView;
-class BOMHTMLView;
 class BOMPartsDatabase;
-class OptionsPanel;
 class PendingUndo;
 class PropertyAssignments;
-class QAction;
-class QMenu;
-class QTabWidget;
+class QCheckBox;
+class QTimer;
 class TemplateStore;
+class WindowActions;
+class WindowPages;
 
-/// What the module keeps of the user's edits, whatever becomes of its window.
+/// What the module keeps of the user's work, whatever becomes of its window.
 struct EditStores
 {
     QPointer<PropertyAssignments> assignments;
     QPointer<PendingUndo> undo;
+    QPointer<TemplateStore> templates;
 };
 
 /// The module's window: the report, the property editor and the options of the template, and the commands
@@ -35,28 +35,49 @@ class BOMMainWindow final : public APPLNWIDGET
 
 public:
     /// The database is not owned; once it is gone the window shows what it showed last. Nor are the
-    /// stores.
+    /// stores. The store of the templates owns the mark of unsaved changes, that of the assignments knows
+    /// what is pending.
     BOMMainWindow(BOMPartsDatabase *database, const EditStores &stores, QWidget *parent = nullptr);
     ~BOMMainWindow() override;
 
-    /// Builds widgets, actions, menus and tool bar, once.
+    /// Builds widgets, actions, menus and tool bars, once.
     bool createwindow(APPLNFRAME *frame) override;
+    void destroywindow() override;
     void updatewindow() override;
+    void onactivate(bool isActive) override;
     /// Asks what is to become of unsaved changes of the template and of pending edits. False when they are to
     /// be kept, or could not be saved or written. Edits that the user discards stay in their journal.
     [[nodiscard]] bool canbeclosed() override;
-
-    /// The store of the current template, which hears of changes and is asked when the window is closed. Not
-    /// owned; null for none.
-    void setTemplates(TemplateStore *templates);
 
     /// Shows the report and the parts, unless that has been done.
     void fillViews();
     /// See INETCLIENT::isbusy().
     [[nodiscard]] bool isBusy() const;
 
+Q_SIGNALS:
+    /// The user has come to the window.
+    void activated();
+
+protected:
+    /// Keeps Ctrl+Tab from the tabs; hosts switch windows with it.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private Q_SLOTS:
+    void saveTemplate();
+    void loadTemplate(const QString &templateName);
+    void newTemplate();
+    void deleteTemplate();
+    void resetDefaultTemplate();
+    void importTemplate();
+    void exportTemplate();
+    /// Offers templates made of scripts of earlier versions; from then on it is not offered at the start.
+    void importLegacyTemplates();
     void setCurrentTemplateChanged(bool hasChanges);
+    void setCurrentTemplateChanged() { setCurrentTemplateChanged(true); }
+
+    /// Takes what the controls say into the working template.
+    void settingsChanged();
+    void configureAdvancedSettings();
     /// Writes the report in the form that the sending action stands for.
     void outputBOM();
     /// Reads the files of the design again.
@@ -64,28 +85,22 @@ private Q_SLOTS:
     void showGlobalPropertyEditor();
     void showFindDialogue();
     void showReplaceDialogue();
+    void editBomNotes();
     /// Shows what the pending edits would do, and writes them if the user says so there.
     void reviewPendingChanges();
     void setPropertiesChanged(bool arePending);
 
 private:
-    struct Command
-    {
-        QString text;
-        QString icon;
-        QString tip;
-        QKeySequence shortcut = {};
-    };
-
-    void buildPages();
-    void buildTabs();
+    void buildBars();
+    void takeHostMenus();
+    void connectActions();
+    void connectPanel();
     void connectViews();
-    void buildEditActions();
-    void buildActions();
-    void buildMenus();
-    void buildToolBar();
-    QAction *addCommand(const Command &command);
-    QAction *addOutput(const Command &command);
+    void connectTemplates();
+    void showTemplateNames();
+    void showTemplate();
+    void showModified();
+    void runOnTemplates(bool (TemplateStore::*command)());
     void forgetDatabase();
     /// Asks when references occur more than once; false when the user then wants no report.
     [[nodiscard]] bool acceptDuplicates();
@@ -93,31 +108,19 @@ private:
     [[nodiscard]] bool saveChanges();
     /// Offers what an earlier run left of the design that is open, once for each design.
     void offerEarlier();
+    void offerLegacyImport();
 
     BOMPartsDatabase *m_database;
     EditStores m_stores;
-    QPointer<TemplateStore> m_templates;
-    QTabWidget *m_tabs = nullptr;
-    BOMHTMLView *m_report = nullptr;
-    BOMDataView *m_dataView = nullptr;
-    OptionsPanel *m_options = nullptr;
+    std::unique_ptr<WindowActions> m_actions;
+    WindowPages *m_pages = nullptr;
     BOMExcelView *m_excelView = nullptr;
+    QTimer *m_legacyImport = nullptr;
+    QPointer<QCheckBox> m_fullCsv;
+    QPointer<QCheckBox> m_appendNotes;
     bool m_isFilled = false;
     /// The edits of an earlier run were offered for the design that is open.
     bool m_isEarlierOffered = false;
     bool m_isReviewing = false;
-
-    QAction *m_undo = nullptr;
-    QAction *m_redo = nullptr;
-    QAction *m_find = nullptr;
-    QAction *m_replace = nullptr;
-    QAction *m_review = nullptr;
-    QAction *m_reload = nullptr;
-    QAction *m_html = nullptr;
-    QAction *m_pdf = nullptr;
-    QAction *m_csv = nullptr;
-    QAction *m_ascii = nullptr;
-    QAction *m_print = nullptr;
-    QAction *m_excel = nullptr;
-    QAction *m_setPaper = nullptr;
+    bool m_importLegacyOnStart;
 };

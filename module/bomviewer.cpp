@@ -103,14 +103,13 @@ APPLNWINDOW *BOMVIEWER::createwindow(APPLNFRAME *frame, unsigned)
     if (m_mainWindow) {
         return m_mainWindow;
     }
-    m_mainWindow = new BOMMainWindow(m_database, {m_assignments.get(), m_undo.get()});
+    m_mainWindow = new BOMMainWindow(m_database, {m_assignments.get(), m_undo.get(), &m_templates->store()});
     m_mainWindow->setowner(this);
     if (!m_mainWindow->createwindow(frame)) {
         delete m_mainWindow;
         m_mainWindow = nullptr;
         return nullptr;
     }
-    m_mainWindow->setTemplates(&m_templates->store());
     m_templates->show(m_mainWindow);
     m_mainWindow->fillViews();
     return m_mainWindow;

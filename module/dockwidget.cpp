@@ -6,7 +6,6 @@
 #include "module/vlabel.h"
 
 #include <QPropertyAnimation>
-#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -93,6 +92,19 @@ void DockWidget::setOpen(bool isOpen)
     setDockedState();
 }
 
+int DockWidget::openWidth() const
+{
+    return m_isOpen && !m_animation ? m_content->width() : m_openWidth;
+}
+
+void DockWidget::setOpenWidth(int width)
+{
+    m_openWidth = width;
+    if (m_isOpen) {
+        setDockedState();
+    }
+}
+
 void DockWidget::toggleOpenShut()
 {
     if (m_isOpen) {
@@ -106,7 +118,8 @@ void DockWidget::setDockedState()
 {
     applyDockedState(m_openWidth);
     // Once the window has given the panel its width, the user may make it narrower again.
-    QTimer::singleShot(0, m_content, [content = m_content] { content->setMinimumWidth(0); });
+    QMetaObject::invokeMethod(
+        m_content, [content = m_content] { content->setMinimumWidth(0); }, Qt::QueuedConnection);
 }
 
 /// Where the content is when the panel is folded: it lies to the left of the strip.

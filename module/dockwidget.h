@@ -23,6 +23,9 @@ public:
     [[nodiscard]] bool isOpen() const { return m_isOpen; }
     /// Opens or folds the panel without sliding.
     void setOpen(bool isOpen);
+    /// The width of the open panel, or what it will be when the folded one is opened.
+    [[nodiscard]] int openWidth() const;
+    void setOpenWidth(int width);
 
 public Q_SLOTS:
     void toggleOpenShut();

@@ -65,9 +65,13 @@ BOMTemplate ModuleTemplates::workingTemplate() const
     return m_database.currentTemplate();
 }
 
-void ModuleTemplates::takeTemplate(const BOMTemplate &settings)
+void ModuleTemplates::takeTemplate(const BOMTemplate &settings, const std::function<void()> &announce)
 {
-    m_database.setCurrentTemplate(settings);
+    {
+        const BOMPartsDatabase::BulkChange change(&m_database);
+        m_database.setCurrentTemplate(settings);
+        announce();
+    }
     const QStringList &repairs = m_database.templateRepairs();
     if (!repairs.isEmpty()) {
         showTemplateMessage({QCoreApplication::translate("ModuleTemplates", "Incomplete BOM Template"),

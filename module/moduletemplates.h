@@ -29,7 +29,7 @@ public:
 
 private:
     [[nodiscard]] BOMTemplate workingTemplate() const override;
-    void takeTemplate(const BOMTemplate &settings) override;
+    void takeTemplate(const BOMTemplate &settings, const std::function<void()> &announce) override;
 
     BOMPartsDatabase &m_database;
     TemplateStore m_store;

@@ -3,9 +3,10 @@
 #include "module/optionspanel.h"
 
 #include "core/bompartsdatabase.h"
-#include "editors/noteseditor.h"
-#include "host/framework/hostui.h"
 #include "ui_optionspanel.h"
+
+#include <QSignalBlocker>
+#include <QWheelEvent>
 
 OptionsPanel::OptionsPanel(QWidget *parent)
     : QWidget(parent)
@@ -15,6 +16,7 @@ OptionsPanel::OptionsPanel(QWidget *parent)
     setObjectName(QStringLiteral("dockWidgetContents"));
     m_ui->categoriesTable->setHeaders({tr("Category"), tr("Prefixes")});
     m_ui->fieldsTable->setHeaders({tr("Field"), tr("Property")});
+    m_ui->templatesComboBox->installEventFilter(this);
     connectForm();
     setPartsDatabase(nullptr);
 }
@@ -28,7 +30,17 @@ void OptionsPanel::connectForm()
     connect(m_ui->individualRefsRadioBtn, &QRadioButton::clicked, this, &OptionsPanel::settingsChanged);
     connect(m_ui->fieldsTable, &BOMFieldsTable::showGlobalPropertyEditor, this,
             &OptionsPanel::propertyEditorRequested);
-    connect(m_ui->editBomNotesBtn, &QPushButton::clicked, this, &OptionsPanel::editBomNotes);
+    connect(m_ui->templatesComboBox, &QComboBox::currentTextChanged, this, &OptionsPanel::templateChosen);
+    connect(m_ui->editTemplateBtn, &QPushButton::clicked, this, &OptionsPanel::headerEditorRequested);
+    connect(m_ui->editUserStyleBtn, &QPushButton::clicked, this, &OptionsPanel::styleEditorRequested);
+    connect(m_ui->editBomNotesBtn, &QPushButton::clicked, this, &OptionsPanel::notesEditorRequested);
+}
+
+void OptionsPanel::setTemplateActions(QAction *save, QAction *create, QAction *remove)
+{
+    m_ui->saveTemplateBtn->setDefaultAction(save);
+    m_ui->newTemplateBtn->setDefaultAction(create);
+    m_ui->deleteTemplateBtn->setDefaultAction(remove);
 }
 
 void OptionsPanel::setPartsDatabase(BOMPartsDatabase *database)
@@ -47,64 +59,59 @@ void OptionsPanel::setPartsDatabase(BOMPartsDatabase *database)
     showTemplate();
 }
 
+void OptionsPanel::setTemplateNames(const QStringList &names, const QString &current)
+{
+    const QSignalBlocker silent(m_ui->templatesComboBox);
+    m_ui->templatesComboBox->clear();
+    m_ui->templatesComboBox->addItems(names);
+    m_ui->templatesComboBox->setCurrentIndex(int(names.indexOf(current)));
+    m_ui->templatesComboBox->setToolTip(current);
+}
+
+void OptionsPanel::setTemplateModified(bool isModified)
+{
+    const QString title = tr("BOM Template");
+    m_ui->templatesGroupBox->setTitle(isModified ? title + QStringLiteral(" *") : title);
+    m_ui->templatesGroupBox->setToolTip(isModified ? tr("The template has changes that are not saved")
+                                                   : QString());
+}
+
 void OptionsPanel::showTemplate()
 {
     if (!m_database) {
         return;
     }
+    showFields();
     const BOMTemplate &settings = m_database->currentTemplate();
-    m_ui->fieldsTable->setFields(settings.fields());
     m_ui->categoriesTable->setCategories(settings.categories());
     m_ui->suppressEmptyCatsCheckBx->setChecked(settings.suppressEmptyCategories());
     m_ui->groupedRefsRadioBtn->setChecked(settings.groupReferences());
     m_ui->individualRefsRadioBtn->setChecked(!settings.groupReferences());
 }
 
-void OptionsPanel::settingsChanged()
+void OptionsPanel::showFields()
 {
-    if (!m_database) {
-        return;
-    }
-    BOMTemplate settings = m_database->currentTemplate();
-    settings.setSuppressEmptyCategories(m_ui->suppressEmptyCatsCheckBx->isChecked());
-    settings.setGroupReferences(m_ui->groupedRefsRadioBtn->isChecked());
-    (void)m_database->setTemplateOptions(settings);
-}
-
-void OptionsPanel::editBomNotes()
-{
-    if (!m_database) {
-        return;
-    }
-    NotesEditor editor(window());
-    editor.setText(m_database->notes());
-    // What could not be saved is shown again, so that it is not lost.
-    while (editor.exec() == QDialog::Accepted && m_database) {
-        NotesChoice choice = NotesChoice::KeepMine;
-        const auto ask = [this, &choice](const NotesConflict &) { return choice = chooseNotes(); };
-        const NotesResult result = m_database->setNotes(editor.text(), ask);
-        if (result.problem.isEmpty()) {
-            return;
-        }
-        if (choice != NotesChoice::Cancel) {
-            HostUi::current().warning(this, tr("BOM Notes"), result.problem);
-        }
+    if (m_database) {
+        m_ui->fieldsTable->setFields(m_database->currentTemplate().fields());
     }
 }
 
-NotesChoice OptionsPanel::chooseNotes()
+void OptionsPanel::takeOptions(BOMTemplate *settings) const
 {
-    switch (HostUi::current().saveQuestion(
-        this, tr("BOM Notes"),
-        tr("The notes were changed by another program meanwhile. Save yours in their place? With Discard the "
-           "other ones are kept and yours are lost."),
-        true)) {
-    case HostUi::SaveAnswer::Save:
-        return NotesChoice::KeepMine;
-    case HostUi::SaveAnswer::Discard:
-        return NotesChoice::TakeTheirs;
-    case HostUi::SaveAnswer::Cancel:
-        break;
+    settings->setSuppressEmptyCategories(m_ui->suppressEmptyCatsCheckBx->isChecked());
+    settings->setGroupReferences(m_ui->groupedRefsRadioBtn->isChecked());
+}
+
+QString OptionsPanel::templateName() const
+{
+    return m_ui->templatesComboBox->currentText();
+}
+
+bool OptionsPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_ui->templatesComboBox && event->type() == QEvent::Wheel) {
+        event->ignore();
+        return true;
     }
-    return NotesChoice::Cancel;
+    return QWidget::eventFilter(watched, event);
 }

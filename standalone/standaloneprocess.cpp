@@ -54,6 +54,12 @@ QString StandaloneProcess::gettemplatepaths() const
     return m_furtherTemplates.isEmpty() ? QString() : userTemplatesFolder() + u';' + m_furtherTemplates;
 }
 
+QString StandaloneProcess::gethelppath(const QString &application) const
+{
+    return application == QStringLiteral("BOM") ? getbinpath() + QStringLiteral("/../share/bom/guide")
+                                                : QString();
+}
+
 IMODULE *StandaloneProcess::getmoduleinterface(const char *application, unsigned id)
 {
     if (!application) {

@@ -31,6 +31,8 @@ public:
     /// The user's folder, and one with further templates where there is one.
     [[nodiscard]] QString gettemplatepaths() const override;
     void setFurtherTemplates(const QString &folder) { m_furtherTemplates = folder; }
+    /// The guide is installed beside the programs.
+    [[nodiscard]] QString gethelppath(const QString &application) const override;
     /// The application "ORIN" offers the netlist server and the navigator, no application in particular the
     /// project, and every module that lives in the process its own interfaces.
     [[nodiscard]] IMODULE *getmoduleinterface(const char *application, unsigned id) override;

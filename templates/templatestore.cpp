@@ -99,21 +99,24 @@ void TemplateStore::makeCurrent(const QString &name)
 {
     m_currentName = name;
     HostSettings::current().setValue(settingsGroup, currentKey, name);
+    const auto announce = [this, name] { Q_EMIT currentChanged(name); };
     if (m_working) {
-        handOver(m_list.stored(name));
+        handOver(m_list.stored(name), announce);
     } else {
         setModified(false);
+        announce();
     }
-    Q_EMIT currentChanged(name);
 }
 
-void TemplateStore::handOver(BOMTemplate settings)
+void TemplateStore::handOver(BOMTemplate settings, const std::function<void()> &announce)
 {
     const QString name = settings.name();
     const bool isUpgraded = upgradeTemplate(settings);
     settings.setLegacySettings(nullptr); // it does not outlive a reload
-    m_working->takeTemplate(settings);
-    setModified(isUpgraded);
+    m_working->takeTemplate(settings, [this, isUpgraded, &announce] {
+        setModified(isUpgraded);
+        announce();
+    });
     const bool isTold = m_told.contains(name);
     if (isUpgraded && !isTold) {
         tellUpgraded(name);

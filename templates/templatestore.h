@@ -9,6 +9,8 @@
 #include <QSet>
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 /// What holds the settings of the current template while they are edited: the parts database.
@@ -23,9 +25,10 @@ public:
     /// The settings as they stand now, with unsaved changes. Name and file path are not used.
     [[nodiscard]] virtual BOMTemplate workingTemplate() const = 0;
 
-    /// The store has selected this template: its settings replace the working ones and are shown. What this
-    /// does to the store's modified flag does not count.
-    virtual void takeTemplate(const BOMTemplate &settings) = 0;
+    /// The store has selected this template: its settings replace the working ones. `announce` is to be
+    /// called when they have, before anybody else hears of them: it tells those who show settings. What this
+    /// does to the store's modified flag before `announce` does not count.
+    virtual void takeTemplate(const BOMTemplate &settings, const std::function<void()> &announce) = 0;
 };
 
 /// The templates that the user can choose from, and which of them is current: the commands on a TemplateList.
@@ -127,7 +130,7 @@ Q_SIGNALS:
 private:
     void put(const BOMTemplate &settings);
     /// Makes the settings the working ones, with the header of an old HTML file.
-    void handOver(BOMTemplate settings);
+    void handOver(BOMTemplate settings, const std::function<void()> &announce);
     void tellUpgraded(const QString &name);
     [[nodiscard]] bool refuseToCreate(const QString &name) const;
     [[nodiscard]] bool mayReplace(const QString &name) const;

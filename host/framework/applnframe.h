@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class MENUBAR;
 class QMenu;
 class QToolBar;
 class QWidget;
@@ -18,6 +19,8 @@ public:
     APPLNFRAME &operator=(const APPLNFRAME &) = delete;
     virtual ~APPLNFRAME() = default;
 
+    /// The host's own menus; null when the frame shows none.
+    [[nodiscard]] virtual MENUBAR *getmenubar() { return nullptr; }
     /// Menus stand in the order of their ids, among the frame's own.
     virtual void addmenu(unsigned id, QMenu *menu, unsigned flags) = 0;
     virtual void removemenu(QMenu *menu) = 0;
@@ -31,6 +34,8 @@ public:
 
     virtual void settitle(const QString &title) = 0;
     virtual void setstatustext(const QString &text) = 0;
+    /// Whether the module's window holds something that is not saved.
+    virtual void setmodified(bool) {}
 
     /// One of the WINDOW_ states.
     virtual void showframe(unsigned state) = 0;

@@ -4,8 +4,12 @@
 
 #include "host/framework/applnprocess.h"
 #include "host/framework/hostsettings.h"
+#include "host/framework/hostui.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
+#include <QTranslator>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -26,6 +30,11 @@ void APPLNWINDOW::setowner(APPLNMODULE *module)
     if (m_owner) {
         m_owner->addwindow(this);
     }
+}
+
+KEYTRANSLATOR *APPLNWINDOW::getkeytranslator() const
+{
+    return m_owner ? m_owner->getkeytranslator() : nullptr;
 }
 
 APPLNMODULE::APPLNMODULE(APPLNPROCESS *process)
@@ -117,9 +126,14 @@ void APPLNMODULE::pumpmessages()
     QCoreApplication::processEvents();
 }
 
-bool APPLNMODULE::launchhelp(const QString &)
+bool APPLNMODULE::launchhelp(const QString &topic)
 {
-    return false;
+    const QString folder = m_process ? m_process->gethelppath(m_name) : QString();
+    const QString page = (topic.isEmpty() ? QStringLiteral("index") : topic) + QStringLiteral(".html");
+    const QString translated = folder + u'/' + getapplnlanguageinstance(this) + u'/' + page;
+    const QString path = QFileInfo::exists(translated) ? translated : folder + u'/' + page;
+    return !folder.isEmpty() && QFileInfo::exists(path) &&
+           HostUi::current().openUrl(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
 }
 
 void APPLNMODULE::setinterface(unsigned id, IMODULE *object)
@@ -160,6 +174,7 @@ void APPLNMODULE::addwindow(APPLNWINDOW *window)
 void APPLNMODULE::removewindow(APPLNWINDOW *window)
 {
     if (window && window->getowner() == this) {
+        window->destroywindow();
         window->setowner(nullptr);
     } else {
         forgetwindow(window);
@@ -214,4 +229,11 @@ QByteArray APPLNMODULE::getdialogctrltypename(unsigned)
 std::optional<quint32> APPLNMODULE::getcolour(unsigned) const
 {
     return std::nullopt;
+}
+
+QString getapplnlanguageinstance(APPLNMODULE *module)
+{
+    const QTranslator *translator = module ? module->getstringtranslator() : nullptr;
+    const QString language = translator ? translator->language().section(u'_', 0, 0) : QString();
+    return language.isEmpty() ? QStringLiteral("en") : language;
 }

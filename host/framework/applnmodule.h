@@ -2,18 +2,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/framework/keytranslator.h"
 #include "host/framework/moduleinterfaces.h"
 
 #include <QHash>
 #include <QList>
 
 class APPLNPROCESS;
+class QToolBar;
 
 /// How a window is shown.
 constexpr unsigned WINDOW_HIDDEN = 0;
 constexpr unsigned WINDOW_NORMAL = 1;
 constexpr unsigned WINDOW_MINIMISED = 2;
 constexpr unsigned WINDOW_MAXIMISED = 3;
+
+/// Where a control bar stands: its row, counted from the window's edge, and the edge.
+constexpr unsigned CTRLBAR_FIRST_ROW = 0;
+constexpr unsigned CTRLBAR_TOP = 2;
 
 /// A window of a module inside a frame of the host.
 class APPLNWINDOW
@@ -37,6 +43,17 @@ public:
     virtual void showwindow(unsigned state) = 0;
     /// Shows anew what the window shows.
     virtual void updatewindow() = 0;
+    /// Takes the window out of its frame, with all that it has put there. The object stays.
+    virtual void destroywindow() {}
+
+    /// Puts a bar of the host's controls beside the window, which takes ownership. Null is ignored.
+    virtual void addctrlbar(QToolBar *bar, unsigned row, unsigned edge) = 0;
+    /// The keys of its module; null without one.
+    [[nodiscard]] KEYTRANSLATOR *getkeytranslator() const;
+
+    /// Called when the window becomes the one that the user works in, and when it ceases to be that.
+    virtual void onactivate(bool isActive) { m_isActive = isActive; }
+    [[nodiscard]] bool isactive() const { return m_isActive; }
 
     /// Whether the window agrees to be closed; it may ask the user.
     [[nodiscard]] virtual bool canbeclosed() { return true; }
@@ -44,6 +61,7 @@ public:
 private:
     friend class APPLNMODULE;
     APPLNMODULE *m_owner = nullptr;
+    bool m_isActive = false;
 };
 
 /// The base of a module: its names, its windows and its place in the process. Whatever a module does not
@@ -69,7 +87,7 @@ public:
     [[nodiscard]] QString getapplnname() const override { return m_name; }
     [[nodiscard]] QString getapplntitle() const override { return m_title; }
     [[nodiscard]] std::span<const CMDINFO> getcmdinfotable() const override { return {}; }
-    [[nodiscard]] KEYTRANSLATOR *getkeytranslator() override { return nullptr; }
+    [[nodiscard]] KEYTRANSLATOR *getkeytranslator() override { return &m_keys; }
     [[nodiscard]] void *getmoduleinstance() const override { return m_instance; }
     /// The module's name.
     [[nodiscard]] QString getregistrykey() const override { return m_name; }
@@ -88,6 +106,8 @@ public:
     bool run() override;
     bool load() override;
     void pumpmessages() override;
+    /// Opens a page of the help that the host has for the module, in the language of its texts where there
+    /// is such a page; without a topic the first one.
     bool launchhelp(const QString &topic) override;
     void setinterface(unsigned id, IMODULE *object) override;
     APPLNWINDOW *createwindow(APPLNFRAME *frame, unsigned flags) override;
@@ -125,10 +145,14 @@ private:
     void *m_instance = nullptr;
     QString m_name;
     QString m_title;
+    KEYTRANSLATOR m_keys;
     /// In the order in which they were added.
     QList<APPLNWINDOW *> m_windows;
     QHash<unsigned, IMODULE *> m_interfaces;
 };
+
+/// The code of the language that a module's texts are in, such as "de"; "en" for those of the sources.
+[[nodiscard]] QString getapplnlanguageinstance(APPLNMODULE *module);
 
 /// The two functions that a module's library exports under these names. The instance belongs to the library:
 /// it is deleted by the function that stands beside the one that made it.

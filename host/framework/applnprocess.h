@@ -59,6 +59,9 @@ public:
     /// The folders that the user keeps templates in, separated by ";", ahead of getdatapath("Templates").
     [[nodiscard]] virtual QString gettemplatepaths() const { return {}; }
 
+    /// The folder with the help of a module; empty when there is none.
+    [[nodiscard]] virtual QString gethelppath(const QString &) const { return {}; }
+
     /// An interface of another application or module; null when there is none.
     [[nodiscard]] virtual IMODULE *getmoduleinterface(const char *application, unsigned id) = 0;
 

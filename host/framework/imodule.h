@@ -5,6 +5,8 @@
 #include <QString>
 
 class APPLNDOCUMENT;
+class APPLNWINDOW;
+class QToolBar;
 
 /// The numbers under which applications and modules offer their interfaces, see
 /// APPLNPROCESS::getmoduleinterface().
@@ -36,6 +38,8 @@ public:
     /// The document of the project, which tells what was modified. It stays the host's; null when there is
     /// none.
     [[nodiscard]] virtual APPLNDOCUMENT *getprojectdocument() = 0;
+    /// The controls that the host offers beside a module's window; the caller owns them. Null for none.
+    [[nodiscard]] virtual QToolBar *createctrlbar(APPLNWINDOW *) { return nullptr; }
 
 protected:
     ~IPROJECT() = default;

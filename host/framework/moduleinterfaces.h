@@ -41,7 +41,7 @@ public:
     [[nodiscard]] virtual QString getapplntitle() const = 0;
 
     [[nodiscard]] virtual std::span<const CMDINFO> getcmdinfotable() const = 0;
-    /// The keys of the module's commands; null when its windows see to them.
+    /// The keys that stand for commands of the host, see MENUBAR::setaccelerators(); null for none.
     [[nodiscard]] virtual KEYTRANSLATOR *getkeytranslator() = 0;
     /// What the operating system knows the module's library by; null for a module that is in no library.
     [[nodiscard]] virtual void *getmoduleinstance() const = 0;

@@ -3,9 +3,14 @@
 #include "host/widgets/applnwidget.h"
 
 #include "host/framework/applnframe.h"
+#include "host/framework/hostui.h"
+#include "host/framework/menubar.h"
 #include "host/widgets/drawnicon.h"
 
+#include <QAction>
+#include <QEvent>
 #include <QFile>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QToolBar>
 
@@ -18,7 +23,7 @@ APPLNWIDGET::APPLNWIDGET(QWidget *parent)
 
 APPLNWIDGET::~APPLNWIDGET()
 {
-    removefromframe();
+    APPLNWIDGET::destroywindow();
 }
 
 bool APPLNWIDGET::createwindow(APPLNFRAME *frame)
@@ -43,6 +48,45 @@ void APPLNWIDGET::showwindow(unsigned state)
     }
 }
 
+void APPLNWIDGET::sethelpaction(QAction *action)
+{
+    connect(action, &QAction::triggered, this, [this, action] {
+        if (!getowner() || !getowner()->launchhelp({})) {
+            HostUi::current().information(
+                this, action->text().remove(u'&'),
+                tr("The help is not installed, or there is no program that shows it."));
+        }
+    });
+}
+
+bool APPLNWIDGET::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
+        onactivate(event->type() == QEvent::WindowActivate);
+    }
+    return QWidget::event(event);
+}
+
+void APPLNWIDGET::keyPressEvent(QKeyEvent *event)
+{
+    const KEYTRANSLATOR *keys = getkeytranslator();
+    const unsigned command = keys ? keys->getcommand(event->keyCombination().toCombined()) : 0;
+    MENUBAR *menus = m_frame ? m_frame->getmenubar() : nullptr;
+    if (command == 0 || !menus || !menus->docommand(command)) {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void APPLNWIDGET::addctrlbar(QToolBar *bar, unsigned, unsigned edge)
+{
+    if (!bar) {
+        return;
+    }
+    // The frame has one row of bars at each edge, in the order in which they come.
+    addtoolbar(bar);
+    bar->setAllowedAreas(edge == CTRLBAR_TOP ? Qt::TopToolBarArea : Qt::AllToolBarAreas);
+}
+
 void APPLNWIDGET::addmenu(unsigned id, QMenu *menu, unsigned flags)
 {
     m_menus.append(menu);
@@ -59,7 +103,7 @@ void APPLNWIDGET::addtoolbar(QToolBar *bar)
     }
 }
 
-void APPLNWIDGET::removefromframe()
+void APPLNWIDGET::destroywindow()
 {
     APPLNFRAME *frame = std::exchange(m_frame, nullptr);
     for (QMenu *menu : std::exchange(m_menus, {})) {

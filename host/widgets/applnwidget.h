@@ -12,6 +12,7 @@
 
 #include <optional>
 
+class QAction;
 class QMenu;
 class QToolBar;
 
@@ -30,6 +31,8 @@ public:
     [[nodiscard]] bool isvisible() const override;
     void showwindow(unsigned state) override;
     void updatewindow() override { update(); }
+    void destroywindow() override;
+    void addctrlbar(QToolBar *bar, unsigned row, unsigned edge) override;
 
     /// Null before createwindow().
     [[nodiscard]] APPLNFRAME *getframe() const { return m_frame; }
@@ -40,11 +43,16 @@ public:
     [[nodiscard]] static QIcon makeIcon(const QString &path, const std::optional<QPalette> &palette = {});
 
 protected:
+    /// Has an action show the help of the window's module.
+    virtual void sethelpaction(QAction *action);
+    /// Activation of the host's window is that of this one.
+    bool event(QEvent *event) override;
+    /// Keys that nothing in the window takes are commands of the host's.
+    void keyPressEvent(QKeyEvent *event) override;
+
     /// Menu and tool bar become the window's and go with it. Only after createwindow().
     void addmenu(unsigned id, QMenu *menu, unsigned flags);
     void addtoolbar(QToolBar *bar);
-    /// Takes all that was put into the frame out of it again.
-    void removefromframe();
 
 private:
     APPLNFRAME *m_frame = nullptr;

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>APPLNWIDGET</name>
+    <message>
+        <source>The help is not installed, or there is no program that shows it.</source>
+        <translation>Die Hilfe ist nicht installiert, oder es gibt kein Programm, das sie anzeigt.</translation>
+    </message>
+</context>
+<context>
     <name>AdvancedSettings</name>
     <message>
         <source>Advanced BOM Settings</source>
@@ -538,10 +545,6 @@
         <translation>Stücklistenanzeige</translation>
     </message>
     <message>
-        <source>BOM Report</source>
-        <translation>Stücklistenbericht</translation>
-    </message>
-    <message>
         <source>Reload The &amp;BOM</source>
         <translation>Stückliste neu &amp;laden</translation>
     </message>
@@ -630,10 +633,6 @@ Generate output anyway?</source>
 Trotzdem ausgeben?</translation>
     </message>
     <message>
-        <source>Property Editor</source>
-        <translation>Eigenschaften bearbeiten</translation>
-    </message>
-    <message>
         <source>&amp;Find Property Values</source>
         <translation>Eigenschaftswerte &amp;suchen</translation>
     </message>
@@ -660,6 +659,102 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>%1 changes of properties are pending. Save writes them into the design, Discard keeps them for the next time that it is opened.</source>
         <translation>%1 Änderungen von Eigenschaften sind vorgemerkt. „Speichern“ schreibt sie in den Entwurf, „Verwerfen“ hebt sie auf, bis er das nächste Mal geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>&amp;Bill of Materials</source>
+        <translation>&amp;Stückliste</translation>
+    </message>
+    <message>
+        <source>Display help for the Bill of Materials module</source>
+        <translation>Hilfe zum Stücklistenmodul anzeigen</translation>
+    </message>
+    <message>
+        <source>Advanced Settings</source>
+        <translation>Erweiterte Einstellungen</translation>
+    </message>
+    <message>
+        <source>Additional BOM settings</source>
+        <translation>Weitere Einstellungen der Stückliste</translation>
+    </message>
+    <message>
+        <source>&amp;Save Template</source>
+        <translation>Vorlage &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Save BOM template</source>
+        <translation>Stücklistenvorlage speichern</translation>
+    </message>
+    <message>
+        <source>&amp;New Template</source>
+        <translation>&amp;Neue Vorlage</translation>
+    </message>
+    <message>
+        <source>Create a BOM template from the current one</source>
+        <translation>Eine Stücklistenvorlage aus der aktuellen anlegen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Template</source>
+        <translation>Vorlage &amp;löschen</translation>
+    </message>
+    <message>
+        <source>Delete BOM template</source>
+        <translation>Stücklistenvorlage löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Import Template</source>
+        <translation>Vorlage &amp;importieren</translation>
+    </message>
+    <message>
+        <source>Import a BOM template</source>
+        <translation>Eine Stücklistenvorlage importieren</translation>
+    </message>
+    <message>
+        <source>&amp;Export Template</source>
+        <translation>Vorlage &amp;exportieren</translation>
+    </message>
+    <message>
+        <source>Export the BOM template</source>
+        <translation>Die Stücklistenvorlage exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Default Template</source>
+        <translation>Standardvorlage &amp;zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset the default template</source>
+        <translation>Die Standardvorlage zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Import &amp;Legacy Templates</source>
+        <translation>&amp;Alte Vorlagen importieren</translation>
+    </message>
+    <message>
+        <source>Import legacy BOM templates</source>
+        <translation>Alte Stücklistenvorlagen importieren</translation>
+    </message>
+    <message>
+        <source>&amp;Templates</source>
+        <translation>&amp;Vorlagen</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Full CSV</source>
+        <translation>CSV je Bauteil</translation>
+    </message>
+    <message>
+        <source>Append Project Notes</source>
+        <translation>Projektnotizen anhängen</translation>
+    </message>
+    <message>
+        <source>The project notes follow the report on paper and in PDF</source>
+        <translation>Die Projektnotizen folgen dem Bericht auf Papier und in PDF</translation>
+    </message>
+    <message>
+        <source>One row for each part instead of one for each line of the report</source>
+        <translation>Eine Zeile je Bauteil statt einer je Position des Berichts</translation>
     </message>
 </context>
 <context>
@@ -933,6 +1028,10 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>Define the %1 undefined physical properties?</source>
         <translation>Sollen die %1 nicht definierten Bauteileigenschaften definiert werden?</translation>
+    </message>
+    <message>
+        <source>Scripts for bills of materials of earlier versions can become templates. Close this window if you have none; it opens again from the menu Templates.</source>
+        <translation>Aus Stücklistenskripten früherer Versionen können Vorlagen werden. Schließen Sie dieses Fenster, wenn Sie keine haben; es öffnet sich wieder aus dem Menü Vorlagen.</translation>
     </message>
 </context>
 <context>
@@ -1336,6 +1435,17 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>NewTemplateDialog</name>
+    <message>
+        <source>New BOM Template</source>
+        <translation>Neue Stücklistenvorlage</translation>
+    </message>
+    <message>
+        <source>Template Name</source>
+        <translation>Name der Vorlage</translation>
+    </message>
+</context>
+<context>
     <name>NotesEditor</name>
     <message>
         <source>BOM Notes Editor</source>
@@ -1344,6 +1454,14 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>BOM notes</source>
         <translation>Notizen zur Stückliste</translation>
+    </message>
+    <message>
+        <source>BOM Notes</source>
+        <translation>Notizen zur Stückliste</translation>
+    </message>
+    <message>
+        <source>The notes were changed by another program meanwhile. Save yours in their place? With Discard the other ones are kept and yours are lost.</source>
+        <translation>Die Notizen wurden inzwischen von einem anderen Programm geändert. Ihre stattdessen speichern? Mit Verwerfen bleiben die anderen, und Ihre gehen verloren.</translation>
     </message>
 </context>
 <context>
@@ -1397,8 +1515,20 @@ Trotzdem ausgeben?</translation>
         <translation>Eigenschaft</translation>
     </message>
     <message>
-        <source>The notes were changed by another program meanwhile. Save yours in their place? With Discard the other ones are kept and yours are lost.</source>
-        <translation>Die Notizen wurden inzwischen von einem anderen Programm geändert. Ihre stattdessen speichern? Mit Verwerfen bleiben die anderen, und Ihre gehen verloren.</translation>
+        <source>BOM Template</source>
+        <translation>Stücklistenvorlage</translation>
+    </message>
+    <message>
+        <source>Edit Header/Footer</source>
+        <translation>Kopf-/Fußzeile bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit Style</source>
+        <translation>Stil bearbeiten</translation>
+    </message>
+    <message>
+        <source>The template has changes that are not saved</source>
+        <translation>Die Vorlage hat Änderungen, die nicht gespeichert sind</translation>
     </message>
 </context>
 <context>
@@ -2438,6 +2568,17 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>The HTML text cannot be read.</source>
         <translation>Der HTML-Text kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>WindowPages</name>
+    <message>
+        <source>BOM Report</source>
+        <translation>Stücklistenbericht</translation>
+    </message>
+    <message>
+        <source>Property Editor</source>
+        <translation>Eigenschaften bearbeiten</translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,7 @@ public:
     bool isvisible() const override { return state != WINDOW_HIDDEN; }
     void showwindow(unsigned wanted) override { state = wanted; }
     void updatewindow() override { ++updates; }
+    void addctrlbar(QToolBar *, unsigned, unsigned) override {}
 };
 
 class Module final : public APPLNMODULE

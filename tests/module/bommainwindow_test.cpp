@@ -16,7 +16,7 @@ TEST_F(BomViewer, BuildsItsWindowOnce)
 
     EXPECT_EQ(mainWindow(), first);
     EXPECT_EQ(host.frame.widgets, 1);
-    EXPECT_EQ(host.frame.menus.keys(), QList<unsigned>({273, 274}));
+    EXPECT_EQ(host.frame.menus.keys(), QList<unsigned>({273, 274, 275, 276}));
     EXPECT_EQ(module().getprimarywindow(), first);
 }
 
@@ -29,6 +29,7 @@ TEST_F(BomViewer, RemovesOnlyItsOwnWindow)
         bool isvisible() const override { return false; }
         void showwindow(unsigned) override {}
         void updatewindow() override {}
+        void addctrlbar(QToolBar *, unsigned, unsigned) override {}
     } other;
     other.setowner(&module());
 
@@ -155,5 +156,5 @@ TEST_F(BomViewer, TheHtmlOutputIsInNoMenu)
     (void)mainWindow();
     EXPECT_EQ(html->shortcut(), QKeySequence(u"Ctrl+Alt+H"_s));
     EXPECT_EQ(html->associatedObjects(), QList<QObject *>{mainWindow()});
-    EXPECT_EQ(host.frame.menus[274]->actions().size(), 8);
+    EXPECT_EQ(host.frame.menus[274]->actions().size(), 9);
 }

@@ -6,6 +6,7 @@
 #include "host/framework/applnmodule.h"
 #include "host/framework/applnprocess.h"
 #include "host/framework/imodule.h"
+#include "host/framework/menubar.h"
 #include "support/fakedocument.h"
 #include "support/fakenetlist.h"
 
@@ -13,6 +14,7 @@
 #include <QMenu>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QToolBar>
 
 #include <functional>
 
@@ -54,6 +56,29 @@ public:
     }
 };
 
+/// The host's menus, which note what is asked of them.
+class ModuleMenuBar final : public MENUBAR
+{
+public:
+    QStringList calls;
+
+    bool loadmenus(const char *name, const QString &language) override
+    {
+        calls << QLatin1String(name) + u' ' + language;
+        return true;
+    }
+    void setaccelerators(KEYTRANSLATOR *keys, unsigned table, unsigned flag) override
+    {
+        calls << u"%1 %2"_s.arg(table).arg(flag);
+        keys->setcommand(QKeyCombination(Qt::CTRL, Qt::Key_O).toCombined(), 7);
+    }
+    bool docommand(unsigned id) override
+    {
+        calls << u"command %1"_s.arg(id);
+        return true;
+    }
+};
+
 /// A frame that notes what is put into it.
 class ModuleFrame final : public APPLNFRAME
 {
@@ -64,6 +89,11 @@ public:
     int widgets = 0;
     unsigned state = WINDOW_HIDDEN;
     QString statusText;
+    bool isModified = false;
+    ModuleMenuBar menuBar;
+
+    MENUBAR *getmenubar() override { return &menuBar; }
+    void setmodified(bool modified) override { isModified = modified; }
 
     void addmenu(unsigned id, QMenu *menu, unsigned) override { menus[id] = menu; }
     void removemenu(QMenu *menu) override { menus.remove(menus.key(menu)); }
@@ -107,6 +137,10 @@ public:
 
     APPLNDOCUMENT *currentdocument(int, const char *) const override { return &design; }
     APPLNOBJECT *currentobject(const char *, int) override { return nullptr; }
+    QString helpFolder;
+
+    QString gethelppath(const QString &) const override { return helpFolder; }
+    QToolBar *createctrlbar(APPLNWINDOW *) override { return new QToolBar(u"Host"_s); }
     QString getbinpath() const override { return u"/opt/host/bin"_s; }
     QString getdatapath(const char *) const override { return data.path(); }
     APPLNFRAME *getframe(APPLNMODULE *) override { return &frame; }

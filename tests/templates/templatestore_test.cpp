@@ -14,7 +14,11 @@ class Working final : public WorkingTemplate
 {
 public:
     [[nodiscard]] BOMTemplate workingTemplate() const override { return settings; }
-    void takeTemplate(const BOMTemplate &taken) override { settings = taken; }
+    void takeTemplate(const BOMTemplate &taken, const std::function<void()> &announce) override
+    {
+        settings = taken;
+        announce();
+    }
 
     BOMTemplate settings;
 };

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#include "module/windowpages.h"
+
+#include "editors/bomdataview.h"
+#include "host/framework/hostsettings.h"
+#include "module/dockwidget.h"
+#include "module/optionspanel.h"
+#include "views/bomhtmlview.h"
+
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+const QString settingsGroup = QStringLiteral("BOM");
+const QString widthKey = QStringLiteral("OptionsWidth");
+const QString foldedKey = QStringLiteral("OptionsFolded");
+
+} // namespace
+
+WindowPages::WindowPages(QWidget *parent)
+    : QMainWindow(parent, Qt::Widget)
+    , m_tabs(new QTabWidget)
+    , m_report(new BOMHTMLView)
+    , m_dataView(new BOMDataView)
+    , m_options(new OptionsPanel)
+    , m_dock(new DockWidget)
+{
+    m_tabs->setObjectName(QStringLiteral("tabWidget"));
+    m_tabs->setDocumentMode(true);
+    m_report->setObjectName(QStringLiteral("bomHTMLView"));
+    addPage(m_report, QStringLiteral("bomHTMLViewTab"), tr("BOM Report"));
+    m_dataView->setObjectName(QStringLiteral("bomDataView"));
+    addPage(m_dataView, QStringLiteral("bomDataTab"), tr("Property Editor"));
+    setCentralWidget(m_tabs);
+    m_dock->setObjectName(QStringLiteral("dockWidget"));
+    m_dock->setContents(m_options);
+    addDockWidget(Qt::LeftDockWidgetArea, m_dock);
+    restorePlaces();
+}
+
+void WindowPages::addPage(QWidget *view, const QString &name, const QString &title)
+{
+    auto *page = new QWidget;
+    page->setObjectName(name);
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins({});
+    layout->addWidget(view);
+    m_tabs->addTab(page, title);
+}
+
+void WindowPages::showPropertyEditor()
+{
+    m_tabs->setCurrentWidget(m_dataView->parentWidget());
+}
+
+void WindowPages::restorePlaces()
+{
+    const HostSettings &settings = HostSettings::current();
+    if (const int width = settings.value(settingsGroup, widthKey).value_or(QString()).toInt(); width > 0) {
+        m_dock->setOpenWidth(width);
+    }
+    if (settings.value(settingsGroup, foldedKey) == QStringLiteral("1")) {
+        m_dock->setOpen(false);
+    }
+}
+
+void WindowPages::keepPlaces() const
+{
+    HostSettings &settings = HostSettings::current();
+    settings.setValue(settingsGroup, widthKey, QString::number(m_dock->openWidth()));
+    settings.setValue(settingsGroup, foldedKey, m_dock->isOpen() ? QStringLiteral("0") : QStringLiteral("1"));
+}
