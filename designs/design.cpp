@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "designs/design.h"
+#include "designs/texts.h"
 
 namespace designs {
 
@@ -49,14 +50,14 @@ QStringList Design::changedFiles() const
 
 std::optional<QString> Design::checkEdit(const Edit &) const
 {
-    return QStringLiteral("this design cannot be changed");
+    return FileTexts::tr("this design cannot be changed");
 }
 
 EditPlan Design::planEdits(std::span<const Edit> edits) const
 {
     EditPlan plan;
     for (std::size_t edit = 0; edit < edits.size(); ++edit) {
-        const QString why = checkEdit(edits[edit]).value_or(QStringLiteral("this design cannot be changed"));
+        const QString why = checkEdit(edits[edit]).value_or(FileTexts::tr("this design cannot be changed"));
         plan.problems.push_back({edit, {m_info.file, 0, why}});
     }
     return plan;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/filebuffer.h"
 
+#include "designs/texts.h"
 #include "files/regularfile.h"
 
 #include <QFile>
@@ -31,28 +32,28 @@ bool FileBuffer::read(const QString &path, std::string_view start, Problem *prob
     };
     const QFileInfo info(path);
     if (info.isDir()) {
-        return refuse(QStringLiteral("this is a folder, not a file"));
+        return refuse(FileTexts::tr("this is a folder, not a file"));
     }
     if (info.exists() && !info.isFile()) {
-        return refuse(QStringLiteral("this is a device or pipe, not a file"));
+        return refuse(FileTexts::tr("this is a device or pipe, not a file"));
     }
     QFile file(path);
     QString reason;
     if (!openRegularFile(&file, QIODevice::ReadOnly | QIODevice::Unbuffered, &reason)) {
-        return refuse(QStringLiteral("cannot be read: ") + reason);
+        return refuse(FileTexts::tr("cannot be read: %1").arg(reason));
     }
     m_stamp = FileStamp::of(file.handle());
     const qint64 size = file.size();
     if (size == 0) {
-        return refuse(QStringLiteral("the file is empty"));
+        return refuse(FileTexts::tr("the file is empty"));
     }
     if (size > maximumSize) {
-        return refuse(QStringLiteral("the file is larger than 2 GiB"));
+        return refuse(FileTexts::tr("the file is larger than 2 GiB"));
     }
     if (!startsWith(std::string_view(file.peek(4096).toStdString()), start)) {
         *problem = {path, 1,
-                    QStringLiteral("this is no file of this kind: it does not begin with \"") +
-                        QString::fromUtf8(start.data(), qsizetype(start.size())) + u'"'};
+                    FileTexts::tr("this is no file of this kind: it does not begin with \"%1\"")
+                        .arg(QString::fromUtf8(start.data(), qsizetype(start.size())))};
         return false;
     }
     if (std::size_t(size) > m_capacity) {
@@ -64,7 +65,7 @@ bool FileBuffer::read(const QString &path, std::string_view start, Problem *prob
     while (m_size < std::size_t(size)) {
         const qint64 got = file.read(m_bytes.get() + m_size, size - qint64(m_size));
         if (got <= 0) {
-            return refuse(QStringLiteral("cannot be read to its end: ") + file.errorString());
+            return refuse(FileTexts::tr("cannot be read to its end: %1").arg(file.errorString()));
         }
         m_size += std::size_t(got);
     }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "designs/utf8.h"
+#include "designs/texts.h"
 
 #include <QByteArrayView>
 #include <QStringDecoder>
@@ -28,7 +29,7 @@ QString quotedForMessage(std::string_view text)
     if (shown.size() > longest) {
         shown = shown.left(longest) + QStringLiteral("…");
     }
-    return u'"' + shown + u'"';
+    return FileTexts::tr("\"%1\"").arg(shown);
 }
 
 } // namespace designs

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/csvdialect.h"
 
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <QByteArrayView>
@@ -79,26 +80,33 @@ struct Signature
 using namespace std::string_view_literals;
 
 constexpr std::array<Signature, 5> foreign = {{
-    {"PK\x03\x04"sv, "this is a spreadsheet or another packed file, no text: save it as CSV in UTF-8"},
-    {"\xD0\xCF\x11\xE0"sv, "this is an old spreadsheet or document, no text: save it as CSV in UTF-8"},
-    {"%PDF-"sv, "this is a PDF document, no part list: export the list as CSV in UTF-8"},
-    {"\xFF\xFE"sv, "the file is in UTF-16, which is not read: save it as CSV in UTF-8"},
-    {"\xFE\xFF"sv, "the file is in UTF-16, which is not read: save it as CSV in UTF-8"},
+    {"PK\x03\x04"sv,
+     QT_TRANSLATE_NOOP("PartList",
+                       "this is a spreadsheet or another packed file, no text: save it as CSV in UTF-8")},
+    {"\xD0\xCF\x11\xE0"sv,
+     QT_TRANSLATE_NOOP("PartList",
+                       "this is an old spreadsheet or document, no text: save it as CSV in UTF-8")},
+    {"%PDF-"sv,
+     QT_TRANSLATE_NOOP("PartList", "this is a PDF document, no part list: export the list as CSV in UTF-8")},
+    {"\xFF\xFE"sv,
+     QT_TRANSLATE_NOOP("PartList", "the file is in UTF-16, which is not read: save it as CSV in UTF-8")},
+    {"\xFE\xFF"sv,
+     QT_TRANSLATE_NOOP("PartList", "the file is in UTF-16, which is not read: save it as CSV in UTF-8")},
 }};
 
 std::optional<Problem> foreignFile(std::string_view bytes)
 {
     for (const Signature &signature : foreign) {
         if (bytes.starts_with(signature.begin)) {
-            return Problem{{}, 0, QLatin1String(signature.meaning)};
+            return Problem{{}, 0, PartListTexts::tr(signature.meaning)};
         }
     }
     if (const std::size_t zero = bytes.find('\0'); zero != std::string_view::npos) {
         return Problem{
             {},
             lineOf(bytes, zero),
-            QStringLiteral("there is a zero byte, so this is no text file: export the part list as "
-                           "CSV in UTF-8")};
+            PartListTexts::tr("there is a zero byte, so this is no text file: export the part list as "
+                              "CSV in UTF-8")};
     }
     return std::nullopt;
 }
@@ -246,10 +254,11 @@ std::optional<CsvDialect> recogniseDialect(std::string_view bytes, Problem *erro
     dialect.byteOrderMark = bytes.starts_with(utf8Mark);
     if (!isValidUtf8(bytes)) {
         if (dialect.byteOrderMark) {
-            *error = {{},
-                      firstBrokenLine(bytes),
-                      QStringLiteral("the file says that it is UTF-8, but this line is not: save it anew as "
-                                     "CSV in UTF-8")};
+            *error = {
+                {},
+                firstBrokenLine(bytes),
+                PartListTexts::tr("the file says that it is UTF-8, but this line is not: save it anew as "
+                                  "CSV in UTF-8")};
             return std::nullopt;
         }
         dialect.encoding = CsvDialect::Encoding::Windows1252;

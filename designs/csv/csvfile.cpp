@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/csvfile.h"
 
+#include "designs/texts.h"
 #include "files/regularfile.h"
 
 #include <QFile>
@@ -110,14 +111,14 @@ private:
     bool isWithinLimits(const CsvRow &row)
     {
         if (row.cellCount > m_limits.cellsPerRow) {
-            return fail(int(row.line), QStringLiteral("the row has more than %1 cells: is this a part list?")
-                                           .arg(m_limits.cellsPerRow));
+            return fail(int(row.line),
+                        PartListTexts::tr("the row has more than %1 cells: is this a part list?")
+                            .arg(m_limits.cellsPerRow));
         }
         if (rows.size() >= m_limits.rows || cells.size() >= m_limits.cells) {
             return fail(int(row.line),
-                        QStringLiteral("the list is too long: at most %1 rows and %2 cells are read")
-                            .arg(m_limits.rows)
-                            .arg(m_limits.cells));
+                        PartListTexts::tr("the list is too long: at most %1 rows and %2 cells are read")
+                            .arg(QString::number(m_limits.rows), QString::number(m_limits.cells)));
         }
         return true;
     }
@@ -155,8 +156,8 @@ private:
         }
         if (close == std::string_view::npos) {
             return fail(firstLine,
-                        QStringLiteral("a quote begins here that is never closed: close it, or double "
-                                       "a quote that belongs to the text"));
+                        PartListTexts::tr("a quote begins here that is never closed: close it, or double "
+                                          "a quote that belongs to the text"));
         }
         m_line += lineBreaks(m_bytes.substr(m_at, close - m_at));
         m_at = close + 1;
@@ -164,8 +165,8 @@ private:
         cells.push_back(cell);
         skipBlanks();
         return atCellEnd() ||
-               fail(m_line, QStringLiteral("there is text behind a closing quote: double a quote that "
-                                           "belongs to the text, or put the delimiter behind it"));
+               fail(m_line, PartListTexts::tr("there is text behind a closing quote: double a quote that "
+                                              "belongs to the text, or put the delimiter behind it"));
     }
 
     std::string_view m_bytes;
@@ -178,7 +179,7 @@ private:
 
 QString tooLarge(const CsvLimits &limits)
 {
-    return QStringLiteral("the file is larger than %1 MiB, the most that a part list may have")
+    return PartListTexts::tr("the file is larger than %1 MiB, the most that a part list may have")
         .arg(limits.fileBytes / (1024 * 1024));
 }
 
@@ -192,10 +193,10 @@ std::optional<QByteArray> CsvFile::load(const QString &path, Problem *error, con
     };
     const QFileInfo info(path);
     if (!info.exists()) {
-        return fail(QStringLiteral("there is no such file"));
+        return fail(PartListTexts::tr("there is no such file"));
     }
     if (!info.isFile()) {
-        return fail(QStringLiteral("this is no ordinary file"));
+        return fail(PartListTexts::tr("this is no ordinary file"));
     }
     if (info.size() > limits.fileBytes) {
         return fail(tooLarge(limits));
@@ -203,11 +204,11 @@ std::optional<QByteArray> CsvFile::load(const QString &path, Problem *error, con
     QFile file(path);
     QString reason;
     if (!openRegularFile(&file, QIODevice::ReadOnly, &reason)) {
-        return fail(QStringLiteral("the file cannot be opened: ") + reason);
+        return fail(PartListTexts::tr("the file cannot be opened: %1").arg(reason));
     }
     QByteArray bytes = file.read(file.size());
     if (file.error() != QFileDevice::NoError) {
-        return fail(QStringLiteral("the file cannot be read: ") + file.errorString());
+        return fail(PartListTexts::tr("the file cannot be read: %1").arg(file.errorString()));
     }
     return bytes;
 }

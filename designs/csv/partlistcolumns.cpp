@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/partlistcolumns.h"
 
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <QByteArrayView>
@@ -165,7 +166,7 @@ private:
             return {
                 {},
                 0,
-                QStringLiteral("the file is empty: a part list has a row of headings and a row per part")};
+                PartListTexts::tr("the file is empty: a part list has a row of headings and a row per part")};
         }
         QStringList shown;
         for (const std::string &heading : headingsOf(m_file, *first)) {
@@ -176,10 +177,10 @@ private:
         }
         return {{},
                 int(first->line),
-                QStringLiteral(
+                PartListTexts::tr(
                     "there is no reference column: call one Reference, Designator or RefDes (the headings "
-                    "here are ") +
-                    shown.join(QStringLiteral(", ")) + u')'};
+                    "here are %1)")
+                    .arg(shown.join(QStringLiteral(", ")))};
     }
 
     bool findRoles()
@@ -190,8 +191,8 @@ private:
             return refuseTwins(references);
         }
         if (references.columns.size() > 1) {
-            warn(QStringLiteral("the columns ") + bothOf(references) +
-                 QStringLiteral(" can both hold the references: the first named is taken"));
+            warn(PartListTexts::tr("the columns %1 can both hold the references: the first named is taken")
+                     .arg(bothOf(references)));
         }
         return findRole(valueHeadings, &m_columns.value) &&
                findRole(footprintHeadings, &m_columns.footprint) &&
@@ -211,8 +212,8 @@ private:
     {
         *m_error = {{},
                     headingLine(),
-                    QStringLiteral("the columns ") + bothOf(matches) +
-                        QStringLiteral(" have the same meaning: rename or delete one of them")};
+                    PartListTexts::tr("the columns %1 have the same meaning: rename or delete one of them")
+                        .arg(bothOf(matches))};
         return false;
     }
 
@@ -221,7 +222,7 @@ private:
         const auto shown = [this](std::size_t column) {
             return QString::number(column + 1) + u' ' + quotedForMessage(m_headings[column]);
         };
-        return shown(matches.columns[0]) + QStringLiteral(" and ") + shown(matches.columns[1]);
+        return PartListTexts::tr("%1 and %2").arg(shown(matches.columns[0]), shown(matches.columns[1]));
     }
 
     void nameColumns()
@@ -234,13 +235,13 @@ private:
             std::string name = m_headings[column];
             if (name.empty() && used[column]) {
                 name = freeName("Column " + std::to_string(column + 1), &taken, &numbers);
-                warn(QStringLiteral("column %1 has no heading: it is read as ").arg(column + 1) +
-                     quotedForMessage(name));
+                warn(PartListTexts::tr("column %1 has no heading: it is read as %2")
+                         .arg(QString::number(column + 1), quotedForMessage(name)));
             } else if (!name.empty() && !seen.insert(name).second) {
                 name = freeName(name, &taken, &numbers);
-                warn(QStringLiteral("column %1 repeats the heading ").arg(column + 1) +
-                     quotedForMessage(m_headings[column]) + QStringLiteral(": it is read as ") +
-                     quotedForMessage(name));
+                warn(PartListTexts::tr("column %1 repeats the heading %2: it is read as %3")
+                         .arg(QString::number(column + 1), quotedForMessage(m_headings[column]),
+                              quotedForMessage(name)));
             }
             m_columns.names.push_back(std::move(name));
         }

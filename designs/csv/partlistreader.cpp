@@ -7,6 +7,7 @@
 #include "designs/csv/referencecell.h"
 #include "designs/csv/referencetext.h"
 #include "designs/notfitted.h"
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <QByteArray>
@@ -29,9 +30,20 @@ std::string_view trimmed(std::string_view text)
                                            : text.substr(first, text.find_last_not_of(" \t\r\n") + 1 - first);
 }
 
-QString counted(std::size_t references)
+QString rangeWarning(std::string_view name)
 {
-    return references == 1 ? QStringLiteral("1 reference") : QStringLiteral("%1 references").arg(references);
+    return PartListTexts::tr("%1 is the name of one part and no range, because the list has %2 by itself")
+        .arg(quotedForMessage(name), quotedForMessage(name.substr(0, name.find('-', 1))));
+}
+
+QString quantityWarning(const QString &quantity, std::size_t references)
+{
+    return references == 1
+               ? PartListTexts::tr("the quantity is %1, but the row names 1 reference: the references count")
+                     .arg(quantity)
+               : PartListTexts::tr(
+                     "the quantity is %1, but the row names %2 references: the references count")
+                     .arg(quantity, QString::number(references));
 }
 
 /// The number of a quantity cell; "3.0" and "3,00" are 3.
@@ -120,7 +132,7 @@ private:
         PropertyNames &names = m_list->m_names;
         m_list->m_referenceName = names.intern(columns.names[columns.reference]);
         if (!columns.value) {
-            m_list->m_warnings.push_back({{}, headingLine(), QStringLiteral("there is no value column")});
+            m_list->m_warnings.push_back({{}, headingLine(), PartListTexts::tr("there is no value column")});
         }
         m_list->m_valueName = names.intern(columns.value ? columns.names[*columns.value] : "Value");
         names.setAlias("VALUE", m_list->m_valueName);
@@ -142,9 +154,7 @@ private:
         for (std::size_t row = m_list->m_columns.headingRow + 1; row < m_file.rows().size(); ++row) {
             if (const QString reason = rows.reason(m_file.rows()[row]); !reason.isEmpty()) {
                 m_list->m_passedOver.push_back(row);
-                warn(m_file.rows()[row], &m_noParts,
-                     QStringLiteral("the row ") + reason +
-                         QStringLiteral(" and names no parts: it is left out"));
+                warn(m_file.rows()[row], &m_noParts, [&] { return reason; });
             }
         }
     }
@@ -229,7 +239,7 @@ private:
             return m_file.isBlank(row) || fail(row, withoutReference(row));
         }
         if (m_list->m_components.size() + m_cell.count() > mostTableReferences) {
-            return fail(row, QStringLiteral("the list has more than %1 parts").arg(mostTableReferences));
+            return fail(row, PartListTexts::tr("the list has more than %1 parts").arg(mostTableReferences));
         }
         checkQuantity(row);
         checkNames(row);
@@ -243,19 +253,18 @@ private:
         const std::span<const CsvCell> cells = m_file.cells(row);
         for (std::size_t column = expected; column < cells.size(); ++column) {
             if (!m_file.isBlank(cells[column])) {
-                return fail(
-                    row, QStringLiteral("the row has %1 cells, but there are %2 headings: put a cell with a "
-                                        "delimiter in it into quotes, or give column %3 a heading")
-                             .arg(cells.size())
-                             .arg(expected)
-                             .arg(column + 1));
+                return fail(row, PartListTexts::tr(
+                                     "the row has %1 cells, but there are %2 headings: put a cell with a "
+                                     "delimiter in it into quotes, or give column %3 a heading")
+                                     .arg(QString::number(cells.size()), QString::number(expected),
+                                          QString::number(column + 1)));
             }
         }
         if (cells.size() < expected && !m_file.isBlank(row)) {
-            warn(row, &m_short,
-                 QStringLiteral("the row has only %1 of %2 cells: the others are read as empty")
-                     .arg(cells.size())
-                     .arg(expected));
+            warn(row, &m_short, [&] {
+                return PartListTexts::tr("the row has only %1 of %2 cells: the others are read as empty")
+                    .arg(QString::number(cells.size()), QString::number(expected));
+            });
         }
         return true;
     }
@@ -265,8 +274,9 @@ private:
         const auto cells = m_file.cells(row);
         const auto said =
             std::ranges::find_if(cells, [this](const CsvCell &c) { return !m_file.isBlank(c); });
-        return QStringLiteral("the row (") + quotedForMessage(m_file.text(*said, m_list->m_arena)) +
-               QStringLiteral(" …) has no reference: give it one, or delete the row if it is no part");
+        return PartListTexts::tr(
+                   "the row (%1 …) has no reference: give it one, or delete the row if it is no part")
+            .arg(quotedForMessage(m_file.text(*said, m_list->m_arena)));
     }
 
     void checkQuantity(const CsvRow &row)
@@ -279,10 +289,7 @@ private:
         const std::size_t named = m_cell.count();
         // A report counts parts that are not fitted 0.
         if (quantity != named && quantity != 0) {
-            warn(row, &m_quantity,
-                 QStringLiteral("the quantity is ") + quotedForMessage(text) +
-                     QStringLiteral(", but the row names ") + counted(named) +
-                     QStringLiteral(": the references count"));
+            warn(row, &m_quantity, [&] { return quantityWarning(quotedForMessage(text), named); });
         }
     }
 
@@ -290,11 +297,7 @@ private:
     {
         for (const ReferenceItem &item : m_cell.items()) {
             if (!m_guessedNames.empty() && m_guessedNames.contains(std::string(item.text))) {
-                warn(row, &m_names,
-                     quotedForMessage(item.text) +
-                         QStringLiteral(" is the name of one part and no range, because the list has ") +
-                         quotedForMessage(item.text.substr(0, item.text.find('-', 1))) +
-                         QStringLiteral(" by itself"));
+                warn(row, &m_names, [&] { return rangeWarning(item.text); });
             }
         }
     }
@@ -337,19 +340,20 @@ private:
             m_list->m_warnings.push_back(
                 {{},
                  m_firstPowerLine,
-                 QStringLiteral(
+                 PartListTexts::tr(
                      "references that begin with \"#\" are no parts: %1 left out, the first one here")
                      .arg(symbols.power)});
         }
         if (m_list->m_components.empty()) {
-            m_list->m_warnings.push_back({{}, headingLine(), QStringLiteral("no part follows the headings")});
+            m_list->m_warnings.push_back(
+                {{}, headingLine(), PartListTexts::tr("no part follows the headings")});
         }
         if (m_file.dialect().encoding == CsvDialect::Encoding::Windows1252) {
             m_list->m_warnings.push_back({{},
                                           0,
-                                          QStringLiteral("the file is not in UTF-8 and was read as "
-                                                         "Windows-1252: save it in UTF-8 if letters are "
-                                                         "wrong")});
+                                          PartListTexts::tr("the file is not in UTF-8 and was read as "
+                                                            "Windows-1252: save it in UTF-8 if letters are "
+                                                            "wrong")});
         }
         for (const WarningKind &kind : {m_noParts, m_short, m_names, m_quantity}) {
             if (kind.count > mostWarnings) {
@@ -362,10 +366,12 @@ private:
         }
     }
 
-    void warn(const CsvRow &row, WarningKind *kind, const QString &text)
+    /// `text` is only asked for where it is told: a long list can have a warning in each row.
+    template<class Text>
+    void warn(const CsvRow &row, WarningKind *kind, const Text &text)
     {
         if (++kind->count <= mostWarnings) {
-            m_list->m_warnings.push_back({{}, int(row.line), text});
+            m_list->m_warnings.push_back({{}, int(row.line), text()});
         }
         kind->lastLine = int(row.line);
     }
@@ -396,13 +402,13 @@ private:
     /// Of the first reference that begins with "#".
     int m_firstPowerLine = 0;
     WarningKind m_noParts{
-        QStringLiteral("%1 more rows, the last one here, repeat the headings or sum up and are left out")};
+        PartListTexts::tr("%1 more rows, the last one here, repeat the headings or sum up and are left out")};
     WarningKind m_short{
-        QStringLiteral("%1 more rows, the last one here, have fewer cells than there are headings")};
-    WarningKind m_names{QStringLiteral("%1 more names, the last one here, could be ranges but are none")};
+        PartListTexts::tr("%1 more rows, the last one here, have fewer cells than there are headings")};
+    WarningKind m_names{PartListTexts::tr("%1 more names, the last one here, could be ranges but are none")};
     WarningKind m_quantity{
-        QStringLiteral("%1 more rows, the last one here, have a quantity that differs from the "
-                       "number of their references")};
+        PartListTexts::tr("%1 more rows, the last one here, have a quantity that differs from the "
+                          "number of their references")};
 };
 
 ReadResult readPartList(const QString &path, const ReadOptions &options, const CsvLimits &limits,
@@ -412,8 +418,8 @@ ReadResult readPartList(const QString &path, const ReadOptions &options, const C
     if (!options.variant.isEmpty()) {
         return {nullptr,
                 {absolutePath, 0,
-                 QStringLiteral("a part list has no variants: leave out the variant ") +
-                     quotedForMessage(options.variant.toStdString())}};
+                 PartListTexts::tr("a part list has no variants: leave out the variant %1")
+                     .arg(quotedForMessage(options.variant.toStdString()))}};
     }
     Problem error;
     std::optional<QByteArray> bytes = CsvFile::load(absolutePath, &error, limits);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/csv/passedoverrows.h"
 
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <algorithm>
@@ -81,7 +82,7 @@ QString PassedOverRows::reason(const CsvRow &row) const
 {
     std::string said = text(row, m_referenceColumn);
     if (!said.empty() && said == m_headings[m_referenceColumn] && repeatsHeadings(row)) {
-        return QStringLiteral("repeats the headings");
+        return PartListTexts::tr("the row repeats the headings and names no parts: it is left out");
     }
     const std::span<const CsvCell> cells = m_file.cells(row);
     std::size_t column = m_referenceColumn;
@@ -94,7 +95,8 @@ QString PassedOverRows::reason(const CsvRow &row) const
     constexpr std::string_view firstLetters = "TtSsGg";
     return !said.empty() && firstLetters.find(said.front()) != std::string_view::npos && sumsUp(said) &&
                    hasOnlyAmountsBeside(row, column)
-               ? QStringLiteral("sums up (") + quotedForMessage(said) + u')'
+               ? PartListTexts::tr("the row sums up (%1) and names no parts: it is left out")
+                     .arg(quotedForMessage(said))
                : QString();
 }
 

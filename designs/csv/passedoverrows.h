@@ -18,7 +18,7 @@ class PassedOverRows final
 public:
     PassedOverRows(const CsvFile &file, std::size_t headingRow, std::size_t referenceColumn);
 
-    /// What the row is, for a message; empty for one that may name parts.
+    /// The warning why the row is left out; empty for one that may name parts.
     [[nodiscard]] QString reason(const CsvRow &row) const;
 
 private:

@@ -3,6 +3,7 @@
 #include "designs/csv/referencecell.h"
 
 #include "designs/csv/referencetext.h"
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <algorithm>
@@ -114,37 +115,37 @@ bool ReferenceCell::readPart(std::string_view part)
     for (std::size_t at = 0; at < tokens.size(); ++at) {
         const std::string_view text = tokens[at].text;
         if (kindAt(at) != Kind::Piece) {
-            return fail(part, QStringLiteral("does not name what its first sign joins"));
+            return fail(part, PartListTexts::tr("%1 does not name what its first sign joins"));
         }
         if (kindAt(at + 1) == Kind::Range) {
             const std::string_view upToSign(text.data(),
                                             std::size_t(tokens[at + 1].text.data() - text.data()) + 1);
             if (kindAt(at + 2) != Kind::Piece) {
-                return fail(upToSign, QStringLiteral("is a range without an end"));
+                return fail(upToSign, PartListTexts::tr("%1 is a range without an end"));
             }
             const std::string_view last = tokens[at + 2].text;
             const std::string_view whole(text.data(), std::size_t(last.data() + last.size() - text.data()));
             if (kindAt(at + 3) == Kind::Range) {
-                return fail(whole,
-                            QStringLiteral("is followed by another dash: write its references one by one"));
+                return fail(whole, PartListTexts::tr(
+                                       "%1 is followed by another dash: write its references one by one"));
             }
             if (!addMarked(text, last, whole)) {
                 return false;
             }
             at += 2;
         } else if (at > 0 && kindAt(at - 1) == Kind::Piece && isCount(text)) {
-            return fail(text,
-                        QStringLiteral("may be a count: delete it, or put a comma in front of it if it is "
-                                       "the name of a part"));
+            return fail(text, PartListTexts::tr(
+                                  "%1 may be a count: delete it, or put a comma in front of it if it is "
+                                  "the name of a part"));
         } else if (tokens.size() > 1 &&
                    (!isClear(text) || hasRangeWord(text, at > 0 ? m_prefix : std::string_view()))) {
-            return fail(text,
-                        QStringLiteral("is no reference: write its references one by one, with commas"));
+            return fail(
+                text, PartListTexts::tr("%1 is no reference: write its references one by one, with commas"));
         } else if (!addPiece(text)) {
             return false;
         }
         if (kindAt(at + 1) == Kind::And && kindAt(++at + 1) != Kind::Piece) {
-            return fail(part, QStringLiteral("ends with a sign that joins nothing"));
+            return fail(part, PartListTexts::tr("%1 ends with a sign that joins nothing"));
         }
     }
     return true;
@@ -171,11 +172,12 @@ bool ReferenceCell::addMarked(std::string_view left, std::string_view right, std
         (left.find('-') != std::string_view::npos || right.find('-') != std::string_view::npos);
     constexpr std::size_t longestUnit = 2;
     if (first && right.size() <= longestUnit && std::ranges::all_of(right, isLetter)) {
-        return fail(text, QStringLiteral("is no range: write its references one by one, a part of several "
-                                         "units once, without their letters"));
+        return fail(text,
+                    PartListTexts::tr("%1 is no range: write its references one by one, a part of several "
+                                      "units once, without their letters"));
     }
     if (!first || !last || namesSeveral(left) || (hasHyphen && first->prefix != last->prefix)) {
-        return fail(text, QStringLiteral("is no range: write its references one by one"));
+        return fail(text, PartListTexts::tr("%1 is no range: write its references one by one"));
     }
     return addRange(*first, *last, text);
 }
@@ -209,7 +211,7 @@ bool ReferenceCell::addNumber(std::string_view digits)
         return addItem({m_arena.copy(std::string_view(std::string(m_prefix).append(digits)))});
     }
     return m_isNumeric ? addItem({digits})
-                       : fail(digits, QStringLiteral("is no reference: write it with its letters"));
+                       : fail(digits, PartListTexts::tr("%1 is no reference: write it with its letters"));
 }
 
 /// Each piece is a number, or numbered with the prefix of the first, or a range of such.
@@ -246,7 +248,8 @@ bool ReferenceCell::addSlashList(std::string_view text)
             return false;
         }
         if (m_prefix.empty()) {
-            return fail(text, QStringLiteral("can be read in several ways: write its references one by one"));
+            return fail(text,
+                        PartListTexts::tr("%1 can be read in several ways: write its references one by one"));
         }
         begin = end + 1;
     }
@@ -288,7 +291,8 @@ bool ReferenceCell::addHyphened(std::string_view text)
             return addRange(*first, *last, text);
         }
         if (first && isNumber(glued->right)) {
-            return fail(text, QStringLiteral("is no range that can be read: put blanks around its word"));
+            return fail(text,
+                        PartListTexts::tr("%1 is no range that can be read: put blanks around its word"));
         }
     }
     const std::size_t hyphen = text.find('-');
@@ -332,11 +336,12 @@ bool ReferenceCell::addBareRange(const Numbered &first, std::string_view digits,
     const quint64 from = numberOf(first.digits);
     const quint64 to = numberOf(digits);
     if (to < from) {
-        return fail(text, QStringLiteral("is a range that runs backwards: put its lower end first"));
+        return fail(text, PartListTexts::tr("%1 is a range that runs backwards: put its lower end first"));
     }
     if (hasOddZeros(first.digits, digits)) {
-        return fail(text, QStringLiteral(
-                              "is a range whose ends differ in their zeros: write both with as many digits"));
+        return fail(text,
+                    PartListTexts::tr(
+                        "%1 is a range whose ends differ in their zeros: write both with as many digits"));
     }
     m_prefix = first.prefix;
     const std::size_t width = first.digits.front() == '0' ? first.digits.size() : 0;
@@ -348,16 +353,18 @@ bool ReferenceCell::addRange(const Numbered &first, const Numbered &last, std::s
     const quint64 from = numberOf(first.digits);
     const quint64 to = numberOf(last.digits);
     if (first.prefix != last.prefix) {
-        return fail(text, QStringLiteral("joins different kinds of parts: write its references one by one"));
+        return fail(text,
+                    PartListTexts::tr("%1 joins different kinds of parts: write its references one by one"));
     }
     if (to < from) {
-        return fail(text, QStringLiteral("is a range that runs backwards: put its lower end first"));
+        return fail(text, PartListTexts::tr("%1 is a range that runs backwards: put its lower end first"));
     }
     m_prefix = first.prefix;
     if (differsInZeros(first.digits, last.digits)) {
         return addKnownRange(first, last) ||
-               fail(text, QStringLiteral(
-                              "is a range whose ends differ in their zeros: write both with as many digits"));
+               fail(text,
+                    PartListTexts::tr(
+                        "%1 is a range whose ends differ in their zeros: write both with as many digits"));
     }
     const std::size_t width = first.digits.front() == '0' ? first.digits.size() : 0;
     return addItem({text, first.prefix, from, to, width});
@@ -385,13 +392,14 @@ bool ReferenceCell::addKnownRange(const Numbered &first, const Numbered &last)
 bool ReferenceCell::addName(std::string_view text)
 {
     if (!isNameText(text) || saysNoPart(text)) {
-        return fail(text, QStringLiteral("is no reference: name the part, or delete the row if it is none"));
+        return fail(text,
+                    PartListTexts::tr("%1 is no reference: name the part, or delete the row if it is none"));
     }
     if (hasUnclearDigits(text)) {
-        return fail(text, QStringLiteral("has digits other than 0 to 9: write it with these"));
+        return fail(text, PartListTexts::tr("%1 has digits other than 0 to 9: write it with these"));
     }
     if (text.front() == '-' && !m_prefix.empty() && !isSign(m_prefix.front()) && numbered(text.substr(1))) {
-        return fail(text, QStringLiteral("is a range without a beginning"));
+        return fail(text, PartListTexts::tr("%1 is a range without a beginning"));
     }
     const auto found = plainNumbered(text);
     m_prefix = found ? found->prefix : std::string_view();
@@ -404,7 +412,7 @@ bool ReferenceCell::addItem(const ReferenceItem &item)
     if (item.last == unreadable || item.last - item.first >= m_limit || m_count + item.count() > m_limit) {
         return fail(
             item.text,
-            QStringLiteral("makes more than %1 references in one cell: correct its end").arg(m_limit));
+            PartListTexts::tr("%2 makes more than %1 references in one cell: correct its end").arg(m_limit));
     }
     m_items.push_back(item);
     m_count += item.count();
@@ -429,7 +437,7 @@ std::vector<std::string_view> ReferenceCell::references()
 
 bool ReferenceCell::failAsRange(std::string_view text)
 {
-    return fail(text, QStringLiteral("is no range that can be read: write its references one by one"));
+    return fail(text, PartListTexts::tr("%1 is no range that can be read: write its references one by one"));
 }
 
 bool ReferenceCell::fail(std::string_view text, const QString &why)
@@ -437,7 +445,7 @@ bool ReferenceCell::fail(std::string_view text, const QString &why)
     if (m_error.isEmpty()) {
         // With other signs people would look for it in vain.
         const bool isAsWritten = m_cell.find(text) != std::string_view::npos;
-        m_error = quotedForMessage(isAsWritten ? text : m_cell) + u' ' + why;
+        m_error = why.arg(quotedForMessage(isAsWritten ? text : m_cell));
     }
     return false;
 }

@@ -4,6 +4,7 @@
 
 #include "designs/csv/edit/editablepartlist.h"
 #include "designs/kicad/edit/editablekicaddesign.h"
+#include "designs/texts.h"
 #include "files/regularfile.h"
 
 #include <QFileInfo>
@@ -29,20 +30,20 @@ bool isKicad(const QString &suffix, const QByteArray &start)
 QString refusal(const QFileInfo &info, const QByteArray &start)
 {
     if (!info.exists()) {
-        return QStringLiteral("there is no such file");
+        return FileTexts::tr("there is no such file");
     }
     if (info.isDir()) {
-        return QStringLiteral("this is a folder; give the .kicad_sch, .kicad_pro or .csv file in it");
+        return FileTexts::tr("this is a folder; give the .kicad_sch, .kicad_pro or .csv file in it");
     }
     if (!info.isFile()) {
-        return QStringLiteral("this is a device or pipe, not a file");
+        return FileTexts::tr("this is a device or pipe, not a file");
     }
     if (start.startsWith("EESchema Schematic")) {
-        return QStringLiteral(
+        return FileTexts::tr(
             "this is a schematic of KiCad 5 or earlier; open it in KiCad 6 or later and save it");
     }
     if (start.startsWith("(kicad_pcb")) {
-        return QStringLiteral("this is a board; give the schematic or the project");
+        return FileTexts::tr("this is a board; give the schematic or the project");
     }
     return {};
 }

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/bomsettingsreader.h"
+#include "designs/texts.h"
+#include "designs/utf8.h"
 
 #include <QJsonArray>
 
@@ -27,7 +29,7 @@ public:
     {
         BomSettings settings;
         if (!value.isObject()) {
-            problem(where + QStringLiteral(" is no object"));
+            problem(KicadTexts::tr("%1 is no object").arg(where));
             return settings;
         }
         const QJsonObject object = value.toObject();
@@ -35,7 +37,7 @@ public:
         settings.filter = object.value(QLatin1String("filter_string")).toString().left(longestText);
         const QJsonValue fields = object.value(QLatin1String("fields_ordered"));
         if (!fields.isArray()) {
-            problem(where + QStringLiteral(" has no list \"fields_ordered\""));
+            problem(KicadTexts::tr("%1 has no list \"fields_ordered\"").arg(where));
             return settings;
         }
         readFields(fields.toArray(), where, &settings);
@@ -46,7 +48,8 @@ public:
     {
         constexpr qsizetype mostProblems = 5;
         if (problems.size() < mostProblems) {
-            problems << m_path + QStringLiteral(": some of the BOM settings cannot be read: ") + text;
+            problems << m_path + QStringLiteral(": ") +
+                            KicadTexts::tr("some of the BOM settings cannot be read: %1").arg(text);
         }
     }
 
@@ -56,14 +59,14 @@ private:
     void readFields(const QJsonArray &fields, const QString &where, BomSettings *settings)
     {
         if (fields.size() > mostFields) {
-            problem(where + QStringLiteral(" has more than %1 fields").arg(mostFields));
+            problem(KicadTexts::tr("%1 has more than %2 fields").arg(where, QString::number(mostFields)));
             return;
         }
         for (const auto entry : fields) {
             const QJsonObject field = entry.toObject();
             const QString name = field.value(QLatin1String("name")).toString();
             if (name.trimmed().isEmpty() || name.size() > longestText) {
-                problem(where + QStringLiteral(" has a field without a name"));
+                problem(KicadTexts::tr("%1 has a field without a name").arg(where));
                 settings->fields.clear();
                 return;
             }
@@ -82,15 +85,15 @@ ProjectBom readProjectBom(const QJsonObject &schematic, const QString &path)
     Reader reader(path);
     ProjectBom bom;
     if (const QJsonValue current = schematic.value(QLatin1String("bom_settings")); !current.isUndefined()) {
-        bom.current = reader.settings(current, QStringLiteral("\"bom_settings\""));
+        bom.current = reader.settings(current, quotedForMessage("bom_settings"));
     }
     const QJsonValue presets = schematic.value(QLatin1String("bom_presets"));
     if (!presets.isUndefined() && !presets.isArray()) {
-        reader.problem(QStringLiteral("\"bom_presets\" is no list"));
+        reader.problem(KicadTexts::tr("%1 is no list").arg(quotedForMessage("bom_presets")));
     }
     const QJsonArray list = presets.toArray();
     for (qsizetype i = 0; i < std::min<qsizetype>(list.size(), mostPresets); ++i) {
-        const BomSettings preset = reader.settings(list.at(i), QStringLiteral("preset %1").arg(i + 1));
+        const BomSettings preset = reader.settings(list.at(i), KicadTexts::tr("preset %1").arg(i + 1));
         if (!preset.name.isEmpty() && !preset.fields.isEmpty()) {
             bom.presets.append(preset);
         }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/componentbuilder.h"
 
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <algorithm>
@@ -308,15 +309,14 @@ void ComponentBuilder::warnAboutUnits(const Group &group, const Component &joine
             differing << QStringLiteral("Value");
         }
         if (unit.notInBom != first.notInBom || unit.notFitted != first.notFitted) {
-            differing << QStringLiteral("the flags for BOM and population");
+            differing << KicadTexts::tr("the flags for BOM and population");
         }
     }
     differing.removeDuplicates();
     if (!differing.isEmpty()) {
-        warn(group.members.front().first, fromUtf8(first.reference) +
-                                              QStringLiteral(": its units differ in ") +
-                                              differing.join(QStringLiteral(", ")) +
-                                              QStringLiteral("; the lowest unit that says something counts"));
+        warn(group.members.front().first,
+             KicadTexts::tr("%1: its units differ in %2; the lowest unit that says something counts")
+                 .arg(fromUtf8(first.reference), differing.join(QStringLiteral(", "))));
     }
 }
 
@@ -334,24 +334,25 @@ void ComponentBuilder::noteMissingLibrary(const Component &component, const Symb
 void ComponentBuilder::warnAboutLibraries()
 {
     for (const auto &[key, missing] : m_missing) {
-        const QString others =
-            missing.count > 1 ? QStringLiteral(" and %1 more").arg(missing.count - 1) : QString();
+        QString parts = fromUtf8(missing.reference);
+        if (missing.count > 1) {
+            parts = KicadTexts::tr("%1 and %2 more").arg(parts, QString::number(missing.count - 1));
+        }
         warn(missing.first,
-             fromUtf8(missing.reference) + others + QStringLiteral(": the symbol ") +
-                 fromUtf8(missing.libId) +
-                 QStringLiteral(" is missing in the sheet's library cache; KiCad leaves such parts "
-                                "out of its own lists, here they count"));
+             KicadTexts::tr(
+                 "%1: the symbol %2 is missing in the sheet's library cache; KiCad leaves such parts "
+                 "out of its own lists, here they count")
+                 .arg(parts, fromUtf8(missing.libId)));
     }
 }
 
 void ComponentBuilder::warnAboutInstances(quint32 use, quint32 first, qsizetype count)
 {
-    warn({use, first, 1},
-         QStringLiteral("sheet ") + m_hierarchy.uses()[use].namePath +
-             QStringLiteral(
-                 ": %1 of its symbols have no record for this use of the sheet; the references stored in "
-                 "the symbols themselves count")
-                 .arg(count));
+    warn(
+        {use, first, 1},
+        KicadTexts::tr("sheet %1: %2 of its symbols have no record for this use of the sheet; the references "
+                       "stored in the symbols themselves count")
+            .arg(m_hierarchy.uses()[use].namePath, QString::number(count)));
 }
 
 void ComponentBuilder::warn(const SymbolUse &place, const QString &text)

@@ -4,6 +4,7 @@
 
 #include "designs/kicad/hierarchylimits.h"
 #include "designs/linenumbers.h"
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <QFileInfo>
@@ -91,7 +92,7 @@ bool Hierarchy::loadFile(const QString &path, quint32 *number, Problem *problem)
     m_files.push_back(std::move(loaded.sheet));
     for (const int line : loaded.badTextLines) {
         m_warnings.push_back(
-            {path, line, QStringLiteral("the text is not UTF-8; what cannot be read shows as \uFFFD")});
+            {path, line, KicadTexts::tr("the text is not UTF-8; what cannot be read shows as �")});
     }
     return true;
 }
@@ -135,13 +136,13 @@ bool Hierarchy::addUse(HierarchyUse use, int depth, Problem *problem)
     if (m_uses.size() >= hierarchylimits::uses) {
         *problem = {
             m_files[use.file].path, 0,
-            QStringLiteral("the hierarchy uses sheets more than %1 times").arg(hierarchylimits::uses)};
+            KicadTexts::tr("the hierarchy uses sheets more than %1 times").arg(hierarchylimits::uses)};
         return false;
     }
     m_symbolUses += m_files[use.file].symbols.size();
     if (m_symbolUses > hierarchylimits::symbols) {
         *problem = {m_files[use.file].path, 0,
-                    QStringLiteral("the hierarchy holds more than %1 symbols").arg(hierarchylimits::symbols)};
+                    KicadTexts::tr("the hierarchy holds more than %1 symbols").arg(hierarchylimits::symbols)};
         return false;
     }
     use.instance = instanceOf(use);
@@ -160,19 +161,21 @@ bool Hierarchy::addChild(quint32 parent, const SheetSymbol &sheet, int depth, Pr
 {
     const SheetFile &parentFile = m_files[m_uses[parent].file];
     const QString path = sheetPath(parentFile.path, sheet, m_projectFolder);
+    const auto name = [&] { return fromUtf8(sheet.name); };
     const auto refuse = [&](const QString &text) {
-        *problem = {parentFile.path, lineOf(parentFile.path, sheet.offset),
-                    QStringLiteral("sheet \"") + fromUtf8(sheet.name) + QStringLiteral("\" ") + text};
+        *problem = {parentFile.path, lineOf(parentFile.path, sheet.offset), text};
         return false;
     };
     if (sheet.file.empty()) {
-        return refuse(QStringLiteral("names no file"));
+        return refuse(KicadTexts::tr("sheet \"%1\" names no file").arg(name()));
     }
     if (depth > hierarchylimits::depth) {
-        return refuse(QStringLiteral("is more than %1 sheets deep").arg(hierarchylimits::depth));
+        return refuse(KicadTexts::tr("sheet \"%1\" is more than %2 sheets deep")
+                          .arg(name(), QString::number(hierarchylimits::depth)));
     }
     if (!QFileInfo::exists(path)) {
-        return refuse(QStringLiteral("uses the file ") + path + QStringLiteral(", which does not exist"));
+        return refuse(
+            KicadTexts::tr("sheet \"%1\" uses the file %2, which does not exist").arg(name(), path));
     }
     HierarchyUse use;
     if (!loadFile(path, &use.file, problem) || refuseLoop(parent, sheet, use.file, problem)) {
@@ -206,9 +209,8 @@ bool Hierarchy::refuseLoop(quint32 parent, const SheetSymbol &sheet, quint32 fil
     chain.prepend(nameOf(file));
     const QString &path = m_files[m_uses[parent].file].path;
     *problem = {path, lineOf(path, sheet.offset),
-                QStringLiteral("sheet \"") + fromUtf8(sheet.name) +
-                    QStringLiteral("\" makes the sheets contain themselves: ") +
-                    chain.join(QStringLiteral(" > "))};
+                KicadTexts::tr("sheet \"%1\" makes the sheets contain themselves: %2")
+                    .arg(fromUtf8(sheet.name), chain.join(QStringLiteral(" > ")))};
     return true;
 }
 

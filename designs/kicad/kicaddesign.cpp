@@ -6,6 +6,7 @@
 #include "designs/kicad/symbolrecount.h"
 #include "designs/kicad/textvariables.h"
 #include "designs/notfitted.h"
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <QDir>
@@ -88,7 +89,7 @@ bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem 
     if (variables.leftSome()) {
         m_warnings.push_back(
             {m_roots.front().path, 0,
-             QStringLiteral(
+             KicadTexts::tr(
                  "text variables name each other in a circle or too often; some stay as they stand")});
     }
     markNotFittedByProperty(&m_components, m_names);
@@ -159,10 +160,10 @@ bool KicadDesign::chooseVariant(const QString &wanted, Problem *problem)
         return true;
     }
     *problem = {m_roots.front().path, 0,
-                QStringLiteral("the design has no variant \"") + wanted + u'"' +
-                    (m_variants.isEmpty()
-                         ? QStringLiteral("; it has none")
-                         : QStringLiteral("; it has ") + m_variants.join(QStringLiteral(", ")))};
+                m_variants.isEmpty()
+                    ? KicadTexts::tr("the design has no variant \"%1\"; it has none").arg(wanted)
+                    : KicadTexts::tr("the design has no variant \"%1\"; it has %2")
+                          .arg(wanted, m_variants.join(QStringLiteral(", ")))};
     return false;
 }
 

@@ -3,6 +3,7 @@
 #include "designs/kicad/listreader.h"
 
 #include "designs/kicad/braceescapes.h"
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <algorithm>
@@ -37,7 +38,7 @@ bool ListReader::refuse(const QString &text)
 bool ListReader::limitProperties(std::size_t count)
 {
     return count <= maximumProperties ||
-           refuse(QStringLiteral("a symbol has more than %1 properties").arg(maximumProperties));
+           refuse(KicadTexts::tr("a symbol has more than %1 properties").arg(maximumProperties));
 }
 
 int leadingInt(std::string_view text, int otherwise)

@@ -6,6 +6,7 @@
 #include "designs/kicad/sheetfile.h"
 #include "designs/problem.h"
 #include "designs/textarena.h"
+#include "designs/texts.h"
 
 #include <QString>
 
@@ -80,7 +81,7 @@ bool ListReader::readChildren(OnList &&onList)
         case SexprScanner::Token::Close:
             return true;
         case SexprScanner::Token::End:
-            return refuse(QStringLiteral("the file ends inside a list: it is cut off or a \")\" is missing"));
+            return refuse(KicadTexts::tr("the file ends inside a list: it is cut off or a \")\" is missing"));
         case SexprScanner::Token::Error:
             return false;
         }

@@ -5,6 +5,7 @@
 #include "designs/filebuffer.h"
 #include "designs/kicad/bomsettingsreader.h"
 #include "designs/kicad/sexprscanner.h"
+#include "designs/texts.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -116,7 +117,7 @@ bool readProjectFile(const QString &path, ProjectFile *project, Problem *problem
         QJsonDocument::fromJson(QByteArray::fromRawData(text.data(), qsizetype(text.size())), &error);
     if (!document.isObject()) {
         *problem = {path, lineOf(text, error.offset),
-                    QStringLiteral("the project file is broken: ") + error.errorString()};
+                    KicadTexts::tr("the project file is broken: %1").arg(error.errorString())};
         return false;
     }
     project->path = path;
@@ -149,7 +150,7 @@ bool readBoardSides(const QString &path, BoardSides *sides, Problem *problem)
         return true;
     }
     *problem = {path, scanner.errorLine(),
-                scanner.failed() ? scanner.error() : QStringLiteral("the board file is cut off")};
+                scanner.failed() ? scanner.error() : KicadTexts::tr("the board file is cut off")};
     return false;
 }
 

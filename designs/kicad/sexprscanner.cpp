@@ -3,6 +3,7 @@
 #include "designs/kicad/sexprscanner.h"
 
 #include "designs/kicad/blockmasks.h"
+#include "designs/texts.h"
 
 #include <algorithm>
 #include <bit>
@@ -154,7 +155,7 @@ SexprScanner::Token SexprScanner::readQuoted()
         m_at += 2;
     }
     if (m_at >= m_end || *m_at != '"') {
-        return fail(QStringLiteral("the text that begins here is not closed on its line"), start);
+        return fail(KicadTexts::tr("the text that begins here is not closed on its line"), start);
     }
     m_text = {start + 1, std::size_t(m_at - start - 1)};
     m_quoted = true;
@@ -181,7 +182,7 @@ bool SexprScanner::takeText()
 
 bool SexprScanner::failUnclosed()
 {
-    fail(QStringLiteral("the file ends inside a list: it is cut off or a \")\" is missing"), m_end);
+    fail(KicadTexts::tr("the file ends inside a list: it is cut off or a \")\" is missing"), m_end);
     return false;
 }
 
@@ -192,7 +193,7 @@ bool SexprScanner::skipQuotedRest(const char *start)
         m_at += *m_at == '\\' ? 2 : 1;
     }
     if (m_at >= m_end || *m_at != '"') {
-        fail(QStringLiteral("the text that begins here is not closed on its line"), start);
+        fail(KicadTexts::tr("the text that begins here is not closed on its line"), start);
         return false;
     }
     ++m_at;
@@ -272,7 +273,7 @@ bool SexprScanner::skipList()
             return true;
         }
         if (depth > maximumDepth) {
-            fail(QStringLiteral("lists are nested deeper than %1").arg(maximumDepth), m_at);
+            fail(KicadTexts::tr("lists are nested deeper than %1").arg(maximumDepth), m_at);
             return false;
         }
         if (m_at >= m_end) {

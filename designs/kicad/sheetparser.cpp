@@ -4,6 +4,7 @@
 
 #include "designs/kicad/braceescapes.h"
 #include "designs/kicad/mandatorynames.h"
+#include "designs/texts.h"
 
 #include <algorithm>
 
@@ -36,22 +37,22 @@ bool SheetParser::parse()
 {
     if (m_scanner.next() != SexprScanner::Token::Open || m_scanner.keyword() != "kicad_sch") {
         return m_lists.refuse(
-            QStringLiteral("this is no KiCad schematic: it does not begin with \"(kicad_sch\""));
+            KicadTexts::tr("this is no KiCad schematic: it does not begin with \"(kicad_sch\""));
     }
     if (!m_lists.readChildren([this](std::string_view keyword) { return readTopLevel(keyword); })) {
         return false;
     }
     if (m_sheet->formatVersion == 0) {
-        return m_lists.refuse(QStringLiteral("the schematic has no version, or none that can be read"));
+        return m_lists.refuse(KicadTexts::tr("the schematic has no version, or none that can be read"));
     }
     if (m_sheet->formatVersion < version::oldest) {
         return m_lists.refuse(
-            QStringLiteral("the schematic is of version %1, before KiCad 6; open it in KiCad 6 or later and "
+            KicadTexts::tr("the schematic is of version %1, before KiCad 6; open it in KiCad 6 or later and "
                            "save it")
                 .arg(m_sheet->formatVersion));
     }
     if (m_scanner.next() != SexprScanner::Token::End) {
-        return m_lists.refuse(QStringLiteral("there is text behind the end of the schematic"));
+        return m_lists.refuse(KicadTexts::tr("there is text behind the end of the schematic"));
     }
     return true;
 }
@@ -289,7 +290,7 @@ bool SheetParser::readRuleArea()
         m_corners += area.outline.size();
         if (m_corners > maximumCorners) {
             return m_lists.refuse(
-                QStringLiteral("the rule areas have more than %1 corners").arg(maximumCorners));
+                KicadTexts::tr("the rule areas have more than %1 corners").arg(maximumCorners));
         }
         m_sheet->ruleAreas.push_back(std::move(area));
     }

@@ -3,6 +3,7 @@
 #include "designs/kicad/symbolrecount.h"
 
 #include "designs/kicad/hierarchylimits.h"
+#include "designs/texts.h"
 #include "designs/threads.h"
 #include "files/regularfile.h"
 
@@ -91,7 +92,7 @@ bool SymbolRecount::add(const QString &path, int depth, SymbolCount *sum, Proble
         return true;
     }
     const auto refuse = [&](const QString &why) {
-        *problem = {path, 0, QStringLiteral("cannot be read again for the count: ") + why};
+        *problem = {path, 0, KicadTexts::tr("cannot be read again for the count: %1").arg(why)};
         return false;
     };
     QByteArray buffer;
@@ -101,7 +102,7 @@ bool SymbolRecount::add(const QString &path, int depth, SymbolCount *sum, Proble
         return refuse(file.problem);
     }
     if (depth > hierarchylimits::depth) {
-        return refuse(QStringLiteral("it is more than %1 sheets deep").arg(hierarchylimits::depth));
+        return refuse(KicadTexts::tr("it is more than %1 sheets deep").arg(hierarchylimits::depth));
     }
     *sum = {file.count.symbols, file.count.power, 0};
     for (const QString &name : file.count.sheetFiles) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/designfiles.h"
 
+#include "designs/texts.h"
 #include "designs/transaction/designlock.h"
 #include "designs/transaction/recovery.h"
 #include "designs/transaction/writecheck.h"
@@ -39,7 +40,7 @@ TransactionResult takenBack(FileOperations &operations, const DesignPaths &paths
     }
     operations.add(transaction.states());
     operations.fail(paths.design(),
-                    QStringLiteral("the write could be neither completed nor taken back; the next command "
+                    WriteTexts::tr("the write could be neither completed nor taken back; the next command "
                                    "that reads the design tries again"));
     return {{}, std::move(operations.problems()), true, {}};
 }
@@ -92,11 +93,11 @@ std::vector<FileReplacement> reversed(FileOperations &operations, const DesignPa
         const QString backup = paths.backupOf(recorded.target);
         if (fingerprintOfPlainFile(recorded.target) != recorded.after) {
             operations.fail(recorded.target,
-                            QStringLiteral("was changed since it was written: nothing is taken back"));
+                            WriteTexts::tr("was changed since it was written: nothing is taken back"));
         } else if (auto content = contentOfPlainFile(backup, recorded.before)) {
             files.push_back(FileReplacement::whole(recorded.target, recorded.after, std::move(*content)));
         } else {
-            operations.fail(backup, QStringLiteral("is missing or damaged: nothing is taken back"));
+            operations.fail(backup, WriteTexts::tr("is missing or damaged: nothing is taken back"));
         }
     }
     if (!operations.problems().empty()) {
@@ -117,7 +118,7 @@ bool checkNothingInterrupted(FileOperations &operations, const DesignPaths &path
         operations.fail(action.file, action.text);
     }
     return recovered.actions.empty() ||
-           operations.fail(paths.design(), QStringLiteral("was not written for that reason: try again"));
+           operations.fail(paths.design(), WriteTexts::tr("was not written for that reason: try again"));
 }
 
 } // namespace
@@ -174,7 +175,7 @@ TransactionResult DesignFiles::undo() const
 {
     FileOperations operations(*m_system, m_threads);
     if (!canUndo()) {
-        operations.fail(m_paths.design(), QStringLiteral("there is nothing to take back"));
+        operations.fail(m_paths.design(), WriteTexts::tr("there is nothing to take back"));
         return failure(operations);
     }
     DesignLock lock(operations, m_paths);
@@ -184,7 +185,7 @@ TransactionResult DesignFiles::undo() const
     QString why;
     const auto record = UndoRecord::read(m_paths, &why);
     if (!record) {
-        operations.fail(m_paths.record(), QStringLiteral("cannot be used: ") + why);
+        operations.fail(m_paths.record(), WriteTexts::tr("cannot be used: %1").arg(why));
         return failure(operations);
     }
     const std::vector<FileReplacement> files = reversed(operations, m_paths, *record);

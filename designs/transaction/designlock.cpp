@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/designlock.h"
+#include "designs/texts.h"
 
 #include <cerrno>
 
@@ -37,12 +38,12 @@ bool DesignLock::take()
     }
     m_isTakenElsewhere = failure == EWOULDBLOCK;
     if (m_isTakenElsewhere) {
-        return m_files.fail(m_path, QStringLiteral("another program is just writing this design: try again "
+        return m_files.fail(m_path, WriteTexts::tr("another program is just writing this design: try again "
                                                    "when it has finished"));
     }
     return failure == 0 ||
-           m_files.fail(m_design, QStringLiteral("cannot be written: ") + m_path +
-                                      QStringLiteral(" cannot be created: ") + qt_error_string(failure));
+           m_files.fail(m_design, WriteTexts::tr("cannot be written: %1 cannot be created: %2")
+                                      .arg(m_path, qt_error_string(failure)));
 }
 
 } // namespace designs

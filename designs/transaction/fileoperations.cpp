@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/fileoperations.h"
 
+#include "designs/texts.h"
 #include "designs/threads.h"
 #include "designs/transaction/designpaths.h"
 
@@ -14,6 +15,9 @@
 namespace designs {
 
 namespace {
+
+constexpr const char *cannotWrite = QT_TRANSLATE_NOOP("DesignWriting", "cannot be written: %1");
+constexpr const char *cannotRemove = QT_TRANSLATE_NOOP("DesignWriting", "cannot be removed: %1");
 
 constexpr std::size_t blockSize = 1 << 20;
 /// Disks work on many requests at once.
@@ -32,9 +36,9 @@ bool FileOperations::fail(const QString &path, const QString &text)
     return false;
 }
 
-bool FileOperations::succeeded(int failure, const QString &path, const QString &what)
+bool FileOperations::succeeded(int failure, const QString &path, const char *what)
 {
-    return failure == 0 || fail(path, what + QStringLiteral(": ") + qt_error_string(failure));
+    return failure == 0 || fail(path, WriteTexts::tr(what).arg(qt_error_string(failure)));
 }
 
 int FileOperations::threadsFor(const std::vector<qint64> &sizes, WaitsFor waitsFor) const
@@ -105,7 +109,7 @@ void FileOperations::putOwnerFirst(const QString &owner, std::size_t firstProble
 {
     for (std::size_t number = firstProblem; number < m_problems.size(); ++number) {
         Problem &problem = m_problems[number];
-        problem = {owner, 0, QStringLiteral("cannot be written: ") + problem.file + u' ' + problem.text};
+        problem = {owner, 0, WriteTexts::tr("cannot be written: %1 %2").arg(problem.file, problem.text)};
     }
 }
 
@@ -113,11 +117,12 @@ bool FileOperations::writeNewFile(const QString &path, QByteArrayView bytes, con
                                   Sync sync)
 {
     int file = -1;
-    if (!succeeded(m_system.create(path, &file), path, QStringLiteral("cannot be created"))) {
+    if (!succeeded(m_system.create(path, &file), path,
+                   QT_TRANSLATE_NOOP("DesignWriting", "cannot be created: %1"))) {
         return false;
     }
     const bool isFilled = writeContent(file, path, bytes, like, sync);
-    return succeeded(m_system.close(file), path, QStringLiteral("cannot be written")) && isFilled;
+    return succeeded(m_system.close(file), path, cannotWrite) && isFilled;
 }
 
 bool FileOperations::writeContent(int file, const QString &path, QByteArrayView bytes, const FileStatus &like,
@@ -127,19 +132,20 @@ bool FileOperations::writeContent(int file, const QString &path, QByteArrayView 
     while (!rest.empty()) {
         std::size_t written = 0;
         const int failure = m_system.write(file, rest.substr(0, blockSize), &written);
-        if (!succeeded(failure, path, QStringLiteral("cannot be written"))) {
+        if (!succeeded(failure, path, cannotWrite)) {
             return false;
         }
         rest.remove_prefix(written);
     }
-    if (!succeeded(m_system.setAttributes(file, like), path, QStringLiteral("cannot get its permissions"))) {
+    if (!succeeded(m_system.setAttributes(file, like), path,
+                   QT_TRANSLATE_NOOP("DesignWriting", "cannot get its permissions: %1"))) {
         return false;
     }
     if (sync == Sync::Later) {
         m_system.startSync(file);
         return true;
     }
-    return succeeded(m_system.sync(file), path, QStringLiteral("cannot be written"));
+    return succeeded(m_system.sync(file), path, cannotWrite);
 }
 
 bool FileOperations::syncWritten()
@@ -163,11 +169,12 @@ bool FileOperations::syncWritten()
 bool FileOperations::syncFile(const QString &path)
 {
     int file = -1;
-    if (!succeeded(m_system.open(path, &file), path, QStringLiteral("cannot be opened again"))) {
+    if (!succeeded(m_system.open(path, &file), path,
+                   QT_TRANSLATE_NOOP("DesignWriting", "cannot be opened again: %1"))) {
         return false;
     }
-    const bool isSynced = succeeded(m_system.sync(file), path, QStringLiteral("cannot be written"));
-    return succeeded(m_system.close(file), path, QStringLiteral("cannot be written")) && isSynced;
+    const bool isSynced = succeeded(m_system.sync(file), path, cannotWrite);
+    return succeeded(m_system.close(file), path, cannotWrite) && isSynced;
 }
 
 bool FileOperations::linkOrCopy(const QString &owner, const QString &file, const QString &name,
@@ -178,12 +185,14 @@ bool FileOperations::linkOrCopy(const QString &owner, const QString &file, const
 
 bool FileOperations::rename(const QString &from, const QString &to)
 {
-    return succeeded(m_system.rename(from, to), to, QStringLiteral("cannot be replaced"));
+    return succeeded(m_system.rename(from, to), to,
+                     QT_TRANSLATE_NOOP("DesignWriting", "cannot be replaced: %1"));
 }
 
 bool FileOperations::makeFolder(const QString &path)
 {
-    return succeeded(m_system.makeFolder(path), path, QStringLiteral("the folder cannot be made"));
+    return succeeded(m_system.makeFolder(path), path,
+                     QT_TRANSLATE_NOOP("DesignWriting", "the folder cannot be made: %1"));
 }
 
 bool FileOperations::syncFoldersOf(QStringList paths)
@@ -194,9 +203,9 @@ bool FileOperations::syncFoldersOf(QStringList paths)
     paths.removeDuplicates();
     bool done = true;
     for (const QString &folder : std::as_const(paths)) {
-        done =
-            succeeded(m_system.syncFolder(folder), folder, QStringLiteral("the folder cannot be written")) &&
-            done;
+        done = succeeded(m_system.syncFolder(folder), folder,
+                         QT_TRANSLATE_NOOP("DesignWriting", "the folder cannot be written: %1")) &&
+               done;
     }
     return done;
 }
@@ -204,20 +213,20 @@ bool FileOperations::syncFoldersOf(QStringList paths)
 bool FileOperations::removeIfThere(const QString &path)
 {
     const int failure = m_system.remove(path);
-    return failure == ENOENT || failure == ENOTDIR ||
-           succeeded(failure, path, QStringLiteral("cannot be removed"));
+    return failure == ENOENT || failure == ENOTDIR || succeeded(failure, path, cannotRemove);
 }
 
 bool FileOperations::removeFolderIfEmpty(const QString &path)
 {
     const int failure = m_system.removeFolder(path);
     return failure == ENOENT || failure == ENOTEMPTY || failure == EEXIST ||
-           succeeded(failure, path, QStringLiteral("cannot be removed"));
+           succeeded(failure, path, cannotRemove);
 }
 
 bool FileOperations::readStatus(const QString &path, FileStatus *status)
 {
-    return succeeded(m_system.status(path, status), path, QStringLiteral("cannot be looked at"));
+    return succeeded(m_system.status(path, status), path,
+                     QT_TRANSLATE_NOOP("DesignWriting", "cannot be looked at: %1"));
 }
 
 FileStatus FileOperations::status(const QString &path)

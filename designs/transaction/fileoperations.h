@@ -102,7 +102,7 @@ private:
     bool syncFile(const QString &path);
     /// Rewrites the problems from that one on so that they name the file that people know first.
     void putOwnerFirst(const QString &owner, std::size_t firstProblem);
-    bool succeeded(int failure, const QString &path, const QString &what);
+    bool succeeded(int failure, const QString &path, const char *what);
     bool writeContent(int file, const QString &path, QByteArrayView bytes, const FileStatus &like, Sync sync);
 
     [[nodiscard]] int threadsFor(const std::vector<qint64> &sizes, WaitsFor waitsFor) const;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/filetransaction.h"
+#include "designs/texts.h"
 
 #include <QRandomGenerator>
 
@@ -68,11 +69,11 @@ bool FileTransaction::prepareFile(FileOperations &files, const CheckedReplacemen
 {
     auto &[before, after] = files.contents();
     if (!readPlainFile(entry.target, entry.before, &before)) {
-        return files.fail(entry.target, QStringLiteral("was changed since it was read"));
+        return files.fail(entry.target, WriteTexts::tr("was changed since it was read"));
     }
     makeSpliced(before, file.replacement->splices, &after);
     if (fingerprintOf(after) != entry.after) {
-        return files.fail(file.path, QStringLiteral("its new content is not the one that was checked"));
+        return files.fail(file.path, WriteTexts::tr("its new content is not the one that was checked"));
     }
     if (m_journal.keepsBackups) {
         // The present backup goes when this is done; as much memory is wanted now.
@@ -86,9 +87,9 @@ bool FileTransaction::prepareFile(FileOperations &files, const CheckedReplacemen
     // From the commit point on both copies are relied on: look what is really there.
     return (files.status(entry.prepared).size == entry.after.size &&
             files.status(entry.saved).size == entry.before.size) ||
-           files.fail(file.path, QStringLiteral("cannot be written: ") + entry.prepared +
-                                     QStringLiteral(" or ") + entry.saved +
-                                     QStringLiteral(" does not hold what was written to it"));
+           files.fail(file.path,
+                      WriteTexts::tr("cannot be written: %1 or %2 does not hold what was written to it")
+                          .arg(entry.prepared, entry.saved));
 }
 
 bool FileTransaction::prepareRecord()
@@ -143,7 +144,7 @@ bool FileTransaction::placeFile(FileOperations &files, const JournalEntry &entry
     const auto now = fingerprintOfPlainFile(entry.target);
     // The last look before the rename, which would otherwise throw away what somebody saved meanwhile.
     if (now != entry.before && now != entry.after) {
-        return files.fail(entry.target, QStringLiteral("was changed since it was read"));
+        return files.fail(entry.target, WriteTexts::tr("was changed since it was read"));
     }
     return files.rename(entry.prepared, entry.target);
 }
@@ -211,9 +212,10 @@ bool FileTransaction::restore(const JournalEntry &entry)
     }
     const std::optional<std::string> previous = contentOfPlainFile(entry.saved, entry.before);
     if (!previous) {
-        return m_files.fail(entry.target, QStringLiteral("cannot get its previous content again: it does not "
-                                                         "stand any more in ") +
-                                              entry.saved);
+        return m_files.fail(
+            entry.target,
+            WriteTexts::tr("cannot get its previous content again: it does not stand any more in %1")
+                .arg(entry.saved));
     }
     return m_files.removeIfThere(entry.prepared) &&
            m_files.writeFile(entry.target, entry.prepared, *previous, m_files.status(entry.saved)) &&
@@ -268,16 +270,16 @@ std::vector<Problem> FileTransaction::states() const
     std::vector<Problem> states;
     for (const JournalEntry &entry : m_journal.entries) {
         const auto now = fingerprintOfPlainFile(entry.target);
-        const QString holds = now == entry.after    ? QStringLiteral("holds the new content")
-                              : now == entry.before ? QStringLiteral("holds the previous content")
-                              : now                 ? QStringLiteral("was changed meanwhile")
-                                                    : QStringLiteral("cannot be read any more");
+        const QString holds = now == entry.after    ? WriteTexts::tr("holds the new content")
+                              : now == entry.before ? WriteTexts::tr("holds the previous content")
+                              : now                 ? WriteTexts::tr("was changed meanwhile")
+                                                    : WriteTexts::tr("cannot be read any more");
         QString text = holds;
         if (now != entry.after && fingerprintOfPlainFile(entry.prepared) == entry.after) {
-            text += QStringLiteral("; the new content stands in ") + entry.prepared;
+            text = WriteTexts::tr("%1; the new content stands in %2").arg(text, entry.prepared);
         }
         if (now != entry.before && fingerprintOfPlainFile(entry.saved) == entry.before) {
-            text += QStringLiteral("; the previous content stands in ") + entry.saved;
+            text = WriteTexts::tr("%1; the previous content stands in %2").arg(text, entry.saved);
         }
         states.push_back({entry.target, 0, text});
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/journal.h"
 
+#include "designs/texts.h"
 #include "files/regularfile.h"
 
 #include <QFile>
@@ -80,26 +81,26 @@ std::optional<QJsonObject> readRecord(const DesignPaths &paths, const QString &p
 {
     // Backups would be put into another folder, over files of the same names.
     if (QFileInfo(paths.backupFolder()).isSymLink()) {
-        *why = paths.backupFolder() + QStringLiteral(" is a symbolic link");
+        *why = WriteTexts::tr("%1 is a symbolic link").arg(paths.backupFolder());
         return std::nullopt;
     }
     if (!isPlainFile(path)) {
-        *why = QStringLiteral("it is no ordinary file");
+        *why = WriteTexts::tr("it is no ordinary file");
         return std::nullopt;
     }
     QString reason;
     const std::optional<QByteArray> bytes = contentOfRegularFile(path, longestRecord, &reason);
     if (!bytes) {
-        *why = QStringLiteral("it cannot be read: ") + reason;
+        *why = WriteTexts::tr("it cannot be read: %1").arg(reason);
         return std::nullopt;
     }
     if (bytes->size() > longestRecord) {
-        *why = QStringLiteral("it is too large");
+        *why = WriteTexts::tr("it is too large");
         return std::nullopt;
     }
     const QJsonObject object = QJsonDocument::fromJson(*bytes).object();
     if (object.value(QLatin1String("version")).toInt() != 1) {
-        *why = QStringLiteral("it is damaged or of another version");
+        *why = WriteTexts::tr("it is damaged or of another version");
         return std::nullopt;
     }
     return object;
@@ -145,7 +146,7 @@ std::optional<Journal> Journal::read(const DesignPaths &paths, QString *why)
     Journal journal;
     journal.token = object->value(QLatin1String("token")).toString();
     if (!state || !replacements || !tokenForm.match(journal.token).hasMatch()) {
-        *why = QStringLiteral("it is damaged or names files that are none of this design");
+        *why = WriteTexts::tr("it is damaged or names files that are none of this design");
         return std::nullopt;
     }
     journal.state = *state;
@@ -184,7 +185,7 @@ std::optional<UndoRecord> UndoRecord::read(const DesignPaths &paths, QString *wh
     }
     auto files = replacementsFrom(object->value(QLatin1String("files")).toArray(), paths);
     if (!files) {
-        *why = QStringLiteral("it is damaged or names files that are none of this design");
+        *why = WriteTexts::tr("it is damaged or names files that are none of this design");
         return std::nullopt;
     }
     return UndoRecord{std::move(*files)};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/kicadlock.h"
 
+#include "designs/texts.h"
 #include "files/regularfile.h"
 
 #include <QByteArrayMatcher>
@@ -93,10 +94,10 @@ std::optional<QString> openElsewhere(const QString &path)
     const QJsonObject lock = QJsonDocument::fromJson(text).object();
     const QString user = named(lock, QLatin1String("username"));
     const QString host = named(lock, QLatin1String("hostname"));
-    QString who = user.isEmpty() ? QStringLiteral("somebody") : user;
-    who += host.isEmpty() ? QString() : QStringLiteral(" on ") + host;
-    return QStringLiteral("is open in KiCad (") + who +
-           QStringLiteral("): close it there; if it is open nowhere, delete ") + lockPath;
+    const QString name = user.isEmpty() ? WriteTexts::tr("somebody") : user;
+    const QString who = host.isEmpty() ? name : WriteTexts::tr("%1 on %2").arg(name, host);
+    return WriteTexts::tr("is open in KiCad (%1): close it there; if it is open nowhere, delete %2")
+        .arg(who, lockPath);
 }
 
 std::optional<Problem> openFromAbove(const QStringList &files)
@@ -112,8 +113,7 @@ std::optional<Problem> openFromAbove(const QStringList &files)
             const QString root = folder + u'/' + lock.sliced(1).chopped(4);
             const auto who = openElsewhere(root);
             if (who && mayHold(root, targets)) {
-                return Problem{files.front(), 0,
-                               QStringLiteral("belongs to ") + root + QStringLiteral(", which ") + *who};
+                return Problem{files.front(), 0, WriteTexts::tr("belongs to %1, which %2").arg(root, *who)};
             }
         }
     }

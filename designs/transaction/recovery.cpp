@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/recovery.h"
 
+#include "designs/texts.h"
 #include "designs/transaction/kicadlock.h"
 
 #include <algorithm>
@@ -61,7 +62,7 @@ Recovery::Result Recovery::look()
     if (transaction.isSettled()) {
         return {false, true, {}};
     }
-    m_files.fail(m_paths.design(), QStringLiteral("was being written when that was interrupted, which can "
+    m_files.fail(m_paths.design(), WriteTexts::tr("was being written when that was interrupted, which can "
                                                   "now be neither completed nor taken back"));
     m_files.add(transaction.states());
     return {};
@@ -73,9 +74,10 @@ std::optional<Journal> Recovery::readJournal()
     std::optional<Journal> journal = Journal::read(m_paths, &why);
     if (!journal) {
         m_files.fail(m_paths.journal(),
-                     QStringLiteral("tells of an interrupted write, but cannot be used: ") + why +
-                         QStringLiteral(". Nothing was touched. Check the files of the design, then "
-                                        "delete this one"));
+                     WriteTexts::tr("tells of an interrupted write, but cannot be used: %1. Nothing was "
+                                    "touched. Check the files of the design, then "
+                                    "delete this one")
+                         .arg(why));
     }
     return journal;
 }
@@ -86,7 +88,7 @@ bool Recovery::resolve(FileTransaction &transaction)
     // Where a file holds its new content all the same, the journal is not as it was written.
     if (journal.state == Journal::State::Preparing && transaction.isSettled()) {
         noteAction(m_paths.design(),
-                   QStringLiteral("a write was interrupted before it changed any file: what it "
+                   WriteTexts::tr("a write was interrupted before it changed any file: what it "
                                   "had prepared was removed"));
         return transaction.discard();
     }
@@ -113,14 +115,14 @@ bool Recovery::complete(FileTransaction &transaction)
     for (const JournalEntry &entry : transaction.journal().entries) {
         if (transaction.isPlaced(entry) && fingerprintOfPlainFile(entry.target) != entry.after) {
             noteAction(entry.target,
-                       QStringLiteral("was changed after an interrupted write had replaced it: it was "
+                       WriteTexts::tr("was changed after an interrupted write had replaced it: it was "
                                       "left as it is now"));
         }
     }
     if (!transaction.place() || !transaction.finish()) {
         return false;
     }
-    noteAction(m_paths.design(), QStringLiteral("an interrupted write was completed"));
+    noteAction(m_paths.design(), WriteTexts::tr("an interrupted write was completed"));
     return true;
 }
 
@@ -130,7 +132,7 @@ bool Recovery::takeBack(FileTransaction &transaction)
         const auto now = fingerprintOfPlainFile(entry.target);
         if (now != entry.after && now != entry.before) {
             noteAction(entry.target,
-                       QStringLiteral("was changed while a write was interrupted: it was left as it "
+                       WriteTexts::tr("was changed while a write was interrupted: it was left as it "
                                       "is now"));
         }
     }
@@ -138,7 +140,7 @@ bool Recovery::takeBack(FileTransaction &transaction)
         return false;
     }
     noteAction(m_paths.design(),
-               QStringLiteral("an interrupted write was taken back: none of its changes is in the "
+               WriteTexts::tr("an interrupted write was taken back: none of its changes is in the "
                               "files, make them again"));
     return true;
 }
@@ -147,10 +149,10 @@ bool Recovery::takeBack(FileTransaction &transaction)
 bool Recovery::giveUp()
 {
     return m_files.fail(m_paths.design(),
-                        QStringLiteral("a write was interrupted and files were changed since, so that it can "
+                        WriteTexts::tr("a write was interrupted and files were changed since, so that it can "
                                        "neither be completed nor taken back. Nothing was touched. Bring the "
-                                       "files named here into order, then delete ") +
-                            m_paths.journal());
+                                       "files named here into order, then delete %1")
+                            .arg(m_paths.journal()));
 }
 
 bool Recovery::checkNotOpen(const Journal &journal)
@@ -163,12 +165,13 @@ bool Recovery::checkNotOpen(const Journal &journal)
     bool closed = true;
     for (const QString &path : std::as_const(paths)) {
         if (const auto who = openElsewhere(path)) {
-            closed = m_files.fail(path, QStringLiteral("a write was interrupted, but this file ") + *who);
+            closed =
+                m_files.fail(path, WriteTexts::tr("a write was interrupted, but this file %1").arg(*who));
         }
     }
     if (const auto open = openFromAbove(paths); open && closed) {
-        closed =
-            m_files.fail(open->file, QStringLiteral("a write was interrupted, but this file ") + open->text);
+        closed = m_files.fail(open->file,
+                              WriteTexts::tr("a write was interrupted, but this file %1").arg(open->text));
     }
     return closed;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/transaction/writecheck.h"
 
+#include "designs/texts.h"
 #include "designs/transaction/kicadlock.h"
 
 #include <QFileInfo>
@@ -93,13 +94,13 @@ bool WriteCheck::checkFile(const CheckedReplacement &file, bool isNamedBefore, b
 {
     const QString &target = file.target;
     if (target.isEmpty()) {
-        return m_files.fail(file.path, QStringLiteral("does not exist any more"));
+        return m_files.fail(file.path, WriteTexts::tr("does not exist any more"));
     }
     if (!checkClosed(file.path, target)) {
         return false;
     }
     if (isNamedBefore) {
-        return m_files.fail(file.path, QStringLiteral("is named twice among the files to write"));
+        return m_files.fail(file.path, WriteTexts::tr("is named twice among the files to write"));
     }
     if (!checkKind(file.path, target) || !checkWritable(file.path, target) ||
         (keepsBackups && !checkBackup(m_paths.backupOf(target)))) {
@@ -107,8 +108,8 @@ bool WriteCheck::checkFile(const CheckedReplacement &file, bool isNamedBefore, b
     }
     const auto now = fingerprintOfFile(target);
     if (now != file.replacement->before) {
-        return m_files.fail(file.path, now ? QStringLiteral("was changed since it was read")
-                                           : QStringLiteral("cannot be read any more"));
+        return m_files.fail(file.path, now ? WriteTexts::tr("was changed since it was read")
+                                           : WriteTexts::tr("cannot be read any more"));
     }
     return true;
 }
@@ -117,52 +118,52 @@ bool WriteCheck::checkKind(const QString &path, const QString &target)
 {
     const FileStatus status = m_files.status(target);
     if (status.kind != FileStatus::Kind::File) {
-        return m_files.fail(path, QStringLiteral("is no ordinary file"));
+        return m_files.fail(path, WriteTexts::tr("is no ordinary file"));
     }
     if (status.names > 1) {
         return m_files.fail(
-            path, QStringLiteral("has %1 names (hard links), and writing would separate them: put a "
+            path, WriteTexts::tr("has %1 names (hard links), and writing would separate them: put a "
                                  "copy in its place, or work on the copy")
                       .arg(status.names));
     }
     if (!m_paths.isMember(target)) {
-        return m_files.fail(path, QStringLiteral("is no file of this design"));
+        return m_files.fail(path, WriteTexts::tr("is no file of this design"));
     }
     return m_paths.mayHold(target) ||
-           m_files.fail(path, QStringLiteral("lies outside the design's folder and is of another kind"));
+           m_files.fail(path, WriteTexts::tr("lies outside the design's folder and is of another kind"));
 }
 
 bool WriteCheck::checkWritable(const QString &path, const QString &target)
 {
     if (const int failure = m_files.system().checkWritable(target); failure != 0) {
-        return m_files.fail(path, QStringLiteral("may not be written: ") + qt_error_string(failure));
+        return m_files.fail(path, WriteTexts::tr("may not be written: %1").arg(qt_error_string(failure)));
     }
     // An administrator may write everything, but a file that nobody may write is meant to stay as it is.
     FileStatus status;
     if (!m_files.readStatus(target, &status) || (status.mode & anyWriteBit) == 0) {
-        return m_files.fail(path, QStringLiteral("may not be written: it is read-only"));
+        return m_files.fail(path, WriteTexts::tr("may not be written: it is read-only"));
     }
     const QString folder = folderOf(target);
     const int failure = m_files.system().checkWritable(folder);
     return failure == 0 ||
-           m_files.fail(path, QStringLiteral("cannot be replaced, because its folder may not be "
-                                             "written: ") +
-                                  qt_error_string(failure));
+           m_files.fail(path, WriteTexts::tr("cannot be replaced, because its folder may not be written: %1")
+                                  .arg(qt_error_string(failure)));
 }
 
 bool WriteCheck::checkBackup(const QString &target)
 {
     const FileStatus::Kind kind = m_files.status(target).kind;
     return kind == FileStatus::Kind::Missing || kind == FileStatus::Kind::File ||
-           m_files.fail(target, QStringLiteral("is in the way of a backup"));
+           m_files.fail(target, WriteTexts::tr("is in the way of a backup"));
 }
 
 bool WriteCheck::checkFolders(bool keepsBackups)
 {
     const int failure = m_files.system().checkWritable(m_paths.folder());
     if (failure != 0) {
-        return m_files.fail(m_paths.folder(),
-                            QStringLiteral("the folder may not be written: ") + qt_error_string(failure));
+        return m_files.fail(
+            m_paths.folder(),
+            WriteTexts::tr("the folder may not be written: %1").arg(qt_error_string(failure)));
     }
     if (!keepsBackups) {
         return true;
@@ -170,7 +171,7 @@ bool WriteCheck::checkFolders(bool keepsBackups)
     const FileStatus::Kind kind = m_files.status(m_paths.backupFolder()).kind;
     if (kind != FileStatus::Kind::Missing && kind != FileStatus::Kind::Folder) {
         return m_files.fail(m_paths.backupFolder(),
-                            QStringLiteral("is in the way of the folder for backups"));
+                            WriteTexts::tr("is in the way of the folder for backups"));
     }
     return checkBackup(m_paths.record());
 }

@@ -4,6 +4,7 @@
 
 #include "designs/csv/edit/partlistplanner.h"
 #include "designs/csv/partlistreader.h"
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <QByteArrayView>
@@ -35,13 +36,13 @@ std::optional<QString> uncarried(std::string_view text, const CsvDialect &dialec
 {
     if (text.find('\0') != std::string_view::npos ||
         !QByteArrayView(text.data(), qsizetype(text.size())).isValidUtf8()) {
-        return QStringLiteral("the text ") + quotedForMessage(text) + QStringLiteral(" is no valid text");
+        return PartListTexts::tr("the text %1 is no valid text").arg(quotedForMessage(text));
     }
     if (dialect.encoding == CsvDialect::Encoding::Windows1252 && !windows1252FromUtf8(text)) {
-        return QStringLiteral("the text ") + quotedForMessage(text) +
-               QStringLiteral(
-                   " has characters that the file, which is in Windows-1252, cannot hold: save the "
-                   "file in UTF-8 first");
+        return PartListTexts::
+            tr("the text %1 has characters that the file, which is in Windows-1252, cannot hold: save the "
+               "file in UTF-8 first")
+                .arg(quotedForMessage(text));
     }
     return std::nullopt;
 }
@@ -54,14 +55,15 @@ std::optional<QString> unusableHeading(std::string_view name, const PartListColu
         (isValueHeading(name) && !columns.value) || (isFootprintHeading(name) && !columns.footprint);
     const QString quoted = quotedForMessage(name);
     if (name.empty() || isBlank(name.substr(0, 1)) || isBlank(name.substr(name.size() - 1))) {
-        return QStringLiteral("the name ") + quoted + QStringLiteral(" is empty or has blanks around it");
+        return PartListTexts::tr("the name %1 is empty or has blanks around it").arg(quoted);
     }
     if (name.find_first_of("\r\n") != std::string_view::npos) {
-        return QStringLiteral("the name ") + quoted + QStringLiteral(" has a line break in it");
+        return PartListTexts::tr("the name %1 has a line break in it").arg(quoted);
     }
     if (isRoleHeading(name) && !isMissing) {
-        return QStringLiteral("the list has no column ") + quoted +
-               QStringLiteral(", and one cannot be added under this name, which has a meaning of its own");
+        return PartListTexts::tr("the list has no column %1, and one cannot be added under this name, which "
+                                 "has a meaning of its own")
+            .arg(quoted);
     }
     return uncarried(name, dialect);
 }
@@ -72,10 +74,10 @@ std::optional<QString> EditablePartList::checkEdit(const Edit &edit) const
 {
     const std::optional<std::size_t> column = columnOf(edit.name, edit.component);
     if (column == columns().reference) {
-        return QStringLiteral("the reference of a part cannot be changed");
+        return PartListTexts::tr("the reference of a part cannot be changed");
     }
     if (column && column == columns().quantity) {
-        return QStringLiteral("the quantity cannot be changed: it follows from the references");
+        return PartListTexts::tr("the quantity cannot be changed: it follows from the references");
     }
     const std::string_view text = edit.value ? std::string_view(*edit.value) : std::string_view();
     if (!column && !text.empty()) {
@@ -85,12 +87,12 @@ std::optional<QString> EditablePartList::checkEdit(const Edit &edit) const
     }
     const std::string_view name = column ? std::string_view(columns().names[*column]) : edit.name;
     if (isOneOf(name, yesNoNames) && !isOneOf(text, yesWords) && !PartListPlanner::saysNo(text)) {
-        return quotedForMessage(name) + QStringLiteral(" can be Yes or No, but not ") +
-               quotedForMessage(text);
+        return PartListTexts::tr("%1 can be Yes or No, but not %2")
+            .arg(quotedForMessage(name), quotedForMessage(text));
     }
     if (!text.empty() && isBlank(text) && isMarkerHeading(name)) {
-        return quotedForMessage(name) +
-               QStringLiteral(" cannot hold blanks alone: they would be read as nothing");
+        return PartListTexts::tr("%1 cannot hold blanks alone: they would be read as nothing")
+            .arg(quotedForMessage(name));
     }
     return uncarried(text, dialect());
 }
@@ -100,7 +102,7 @@ EditPlan EditablePartList::planEdits(std::span<const Edit> edits) const
     EditPlan plan;
     for (std::size_t edit = 0; edit < edits.size(); ++edit) {
         const bool exists = edits[edit].component < m_components.size();
-        if (const auto why = exists ? checkEdit(edits[edit]) : QStringLiteral("there is no such part")) {
+        if (const auto why = exists ? checkEdit(edits[edit]) : PartListTexts::tr("there is no such part")) {
             const int line = exists ? int(m_components[edits[edit].component].line) : 0;
             plan.problems.push_back({edit, {m_info.file, line, *why}});
         }
@@ -111,7 +113,7 @@ EditPlan EditablePartList::planEdits(std::span<const Edit> edits) const
     Problem problem;
     std::optional<QByteArray> bytes = CsvFile::load(m_info.file, &problem);
     if (bytes && fingerprintOf({bytes->constData(), std::size_t(bytes->size())}) != m_fingerprints.front()) {
-        problem = {m_info.file, 0, QStringLiteral("was changed since it was read")};
+        problem = {m_info.file, 0, PartListTexts::tr("was changed since it was read")};
         bytes.reset();
     }
     std::optional<CsvFile> file = bytes ? CsvFile::parse(std::move(*bytes), &problem) : std::nullopt;

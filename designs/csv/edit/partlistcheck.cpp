@@ -3,6 +3,7 @@
 #include "designs/csv/edit/partlistcheck.h"
 
 #include "designs/csv/partlistreader.h"
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <algorithm>
@@ -96,8 +97,8 @@ std::optional<Problem> checkPartList(const PartList &list, const std::vector<std
     const ReadResult read = readPartListBytes(file, changed);
     if (!read.design) {
         return Problem{file, 0,
-                       QStringLiteral("the changed list could not be read again (line ") +
-                           QString::number(read.error.line) + QStringLiteral(": ") + read.error.text + u')'};
+                       PartListTexts::tr("the changed list could not be read again (line %1: %2)")
+                           .arg(QString::number(read.error.line), read.error.text)};
     }
     const std::vector<Component> &now = read.design->components();
     Comparison comparison(list, newColumns, planned);
@@ -105,12 +106,12 @@ std::optional<Problem> checkPartList(const PartList &list, const std::vector<std
         if (!comparison.isAsPlanned(order[at], *read.design, now[at])) {
             const Component &part = list.components()[order[at]];
             return Problem{file, int(part.line),
-                           QStringLiteral("the changed list would not be read as it is meant, at ") +
-                               quotedForMessage(part.reference)};
+                           PartListTexts::tr("the changed list would not be read as it is meant, at %1")
+                               .arg(quotedForMessage(part.reference))};
         }
     }
     if (now.size() != order.size() || read.design->symbols().power != list.symbols().power) {
-        return Problem{file, 0, QStringLiteral("the changed list would not have the same parts")};
+        return Problem{file, 0, PartListTexts::tr("the changed list would not have the same parts")};
     }
     return std::nullopt;
 }

@@ -4,6 +4,7 @@
 
 #include "designs/csv/edit/referencestyle.h"
 #include "designs/csv/referencecell.h"
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <algorithm>
@@ -261,9 +262,9 @@ bool PartListPlanner::nameReferences(const CsvRow &record, std::vector<Group> *g
         const auto text = style.text(group.references);
         if (!text) {
             const QString why =
-                QStringLiteral("the references ") + quotedForMessage(cell) +
-                QStringLiteral(" cannot be parted into rows of their own: write each with its "
-                               "letters");
+                PartListTexts::tr(
+                    "the references %1 cannot be parted into rows of their own: write each with its letters")
+                    .arg(quotedForMessage(cell));
             m_plan.problems.push_back({m_rowEdit, {m_list.info().file, int(record.line), why}});
             return false;
         }

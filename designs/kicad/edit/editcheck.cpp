@@ -5,6 +5,7 @@
 #include "designs/kicad/outermarks.h"
 #include "designs/kicad/sexprscanner.h"
 #include "designs/kicad/sheetparser.h"
+#include "designs/texts.h"
 
 #include <algorithm>
 
@@ -202,19 +203,23 @@ private:
     const PropertyNames &m_newNames;
 };
 
+QString differs()
+{
+    return KicadEditTexts::tr("more than what was asked for would change");
+}
+
 } // namespace
 
 QString compareTexts(std::string_view before, std::string_view after, const std::vector<Splice> &splices,
                      const std::vector<ChangedList> &lists)
 {
-    const QString differs = QStringLiteral("more than what was asked for would change");
     std::size_t splice = 0;
     std::size_t atBefore = 0;
     std::size_t atAfter = 0;
     for (const ChangedList &list : lists) {
         const std::size_t between = list.begin - atBefore;
         if (before.substr(atBefore, between) != after.substr(atAfter, between)) {
-            return differs;
+            return differs();
         }
         const std::size_t start = atAfter + between;
         std::size_t shifted = start - list.begin;
@@ -229,12 +234,13 @@ QString compareTexts(std::string_view before, std::string_view after, const std:
         OutsideTokens left(before, {list.begin, list.end}, std::move(old));
         OutsideTokens right(after, {start, list.end + shifted}, std::move(fresh));
         if (!sameTokens(&left, &right)) {
-            return differs;
+            return differs();
         }
         atBefore = list.end;
         atAfter = list.end + shifted;
     }
-    return splice == splices.size() && before.substr(atBefore) == after.substr(atAfter) ? QString() : differs;
+    return splice == splices.size() && before.substr(atBefore) == after.substr(atAfter) ? QString()
+                                                                                        : differs();
 }
 
 QString compareSheets(const SheetFile &before, const PropertyNames &names, const SheetRewrite &change,
@@ -246,11 +252,11 @@ QString compareSheets(const SheetFile &before, const PropertyNames &names, const
     sheet.path = before.path;
     SheetParser parser(after, &sheet, &arena, &newNames);
     if (!parser.parse()) {
-        return QStringLiteral("it could not be read any more: ") + parser.problem().text;
+        return KicadEditTexts::tr("it could not be read any more: %1").arg(parser.problem().text);
     }
     const SheetComparison comparison(before, names, variant, sheet, newNames);
     return comparison.isAsPlanned(change) ? QString()
-                                          : QStringLiteral("it would not read as what was asked for");
+                                          : KicadEditTexts::tr("it would not read as what was asked for");
 }
 
 } // namespace designs::kicad

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/edit/editplanner.h"
 
+#include "designs/texts.h"
 #include "designs/threads.h"
 #include "designs/utf8.h"
 
@@ -110,8 +111,9 @@ void EditPlanner::refuseCrossing()
     for (const auto &[number, edit] : m_edits) {
         for (const QString &name : variableNames(edit.changes ? edit.written : std::string())) {
             if (changed.contains(name)) {
-                refuse(number, QStringLiteral("the text holds a variable for a property that is changed with "
-                                              "it; change one after the other"));
+                refuse(number,
+                       KicadEditTexts::tr("the text holds a variable for a property that is changed with "
+                                          "it; change one after the other"));
                 break;
             }
         }
@@ -161,10 +163,13 @@ void EditPlanner::refuseConflicts()
             const Group &group = groups.at(key);
             if (group.differs) {
                 const std::size_t more = group.edits.size() - std::min(group.edits.size(), namedReferences);
-                refuse(number,
-                       QStringLiteral("drawn by one symbol of a sheet that is used several times, and asked "
-                                      "to differ: ") +
-                           group.references + (more ? QStringLiteral(" and %1 more").arg(more) : QString()));
+                refuse(
+                    number,
+                    KicadEditTexts::tr(
+                        "drawn by one symbol of a sheet that is used several times, and asked to differ: %1")
+                        .arg(more ? KicadEditTexts::tr("%1 and %2 more")
+                                        .arg(group.references, QString::number(more))
+                                  : group.references));
                 break;
             }
         }
@@ -213,7 +218,7 @@ RewrittenSheet EditPlanner::rewritten(quint32 number, const SheetRewrite &rewrit
         return {std::nullopt, EditProblem{std::nullopt, problem}};
     }
     if (bytes.fingerprint() != sheet.fingerprint) {
-        problem = {sheet.path, 0, QStringLiteral("was changed since it was read; read the design again")};
+        problem = {sheet.path, 0, KicadEditTexts::tr("was changed since it was read; read the design again")};
         return {std::nullopt, EditProblem{std::nullopt, problem}};
     }
     return SheetRewriter(bytes.text(), sheet, m_model.names(), m_model.variant(), m_plan.changes,

@@ -4,6 +4,7 @@
 
 #include "designs/kicad/edit/writabletext.h"
 #include "designs/kicad/mandatorynames.h"
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <algorithm>
@@ -30,6 +31,27 @@ const char *flagName(EditTarget target)
     return target == EditTarget::NotFitted ? "DNP" : "BOMSKIP";
 }
 
+/// Why a mark of a whole sheet, %1, cannot be taken from one part.
+QString markedSheet(EditTarget target)
+{
+    return target == EditTarget::NotFitted
+               ? KicadEditTexts::tr("the sheet %1 as a whole is marked \"do not populate\"; that can only be "
+                                    "changed at the sheet, in KiCad")
+               : KicadEditTexts::tr("the sheet %1 as a whole is marked \"not in the BOM\"; that can only be "
+                                    "changed at the sheet, in KiCad");
+}
+
+/// The same of a rule area on the sheet %1.
+QString markedRuleArea(EditTarget target)
+{
+    return target == EditTarget::NotFitted
+               ? KicadEditTexts::tr("the symbol lies in a rule area on the sheet %1 that is marked \"do not "
+                                    "populate\"; that can only be changed in KiCad")
+               : KicadEditTexts::tr(
+                     "the symbol lies in a rule area on the sheet %1 that is marked \"not in the "
+                     "BOM\"; that can only be changed in KiCad");
+}
+
 /// Variants came with this version; older files do not know the word.
 bool knowsVariants(const SheetFile &sheet, const InstanceRecord &record)
 {
@@ -49,7 +71,7 @@ ResolvedEdit EditResolver::resolve(const Edit &edit)
     resolved.component = edit.component;
     resolved.name = edit.name;
     if (edit.component >= m_model.components().size()) {
-        resolved.refusal = QStringLiteral("the design has no such component");
+        resolved.refusal = KicadEditTexts::tr("the design has no such component");
         return resolved;
     }
     if (sameAscii(edit.name, flagName(EditTarget::NotFitted))) {
@@ -106,11 +128,11 @@ void EditResolver::resolveProperty(const Edit &edit, ResolvedEdit *resolved)
 {
     findName(edit.name, resolved);
     if (resolved->name == "Reference") {
-        resolved->refusal = QStringLiteral("references are given by KiCad and cannot be changed here");
+        resolved->refusal = KicadEditTexts::tr("references are given by KiCad and cannot be changed here");
         return;
     }
     if (resolved->name == "Value" && fromUtf8(edit.value.value_or(std::string())).trimmed().isEmpty()) {
-        resolved->refusal = QStringLiteral("a part cannot be without a value");
+        resolved->refusal = KicadEditTexts::tr("a part cannot be without a value");
         return;
     }
     resolved->wanted = edit.value;
@@ -165,8 +187,9 @@ QString EditResolver::removalRefusal(ResolvedEdit *resolved) const
     }
     if (!m_model.variant().empty()) {
         return isInBase(resolved->component, resolved->name)
-                   ? QStringLiteral("a variant can change a property, but not take it away; open the design "
-                                    "without the variant to remove it")
+                   ? KicadEditTexts::tr(
+                         "a variant can change a property, but not take it away; open the design "
+                         "without the variant to remove it")
                    : QString();
     }
     for (const SymbolUse &place : places) {
@@ -176,8 +199,9 @@ QString EditResolver::removalRefusal(ResolvedEdit *resolved) const
                     return m_model.names().name(field.name) == resolved->name;
                 });
                 if (has) {
-                    return QStringLiteral("the variant \"") + fromUtf8(variant.name) +
-                           QStringLiteral("\" has a text of its own for it; it must go from there first");
+                    return KicadEditTexts::tr(
+                               "the variant \"%1\" has a text of its own for it; it must go from there first")
+                        .arg(fromUtf8(variant.name));
                 }
             }
         }
@@ -192,9 +216,8 @@ void EditResolver::resolveFlag(const Edit &edit, ResolvedEdit *resolved)
     resolved->name = flagName(resolved->target);
     const auto wanted = yesOrNo(edit.value.value_or(std::string()));
     if (!wanted) {
-        resolved->refusal = QString::fromLatin1(flagName(resolved->target)) +
-                            QStringLiteral(" is yes or no; \"") + fromUtf8(*edit.value) +
-                            QStringLiteral("\" is neither");
+        resolved->refusal = KicadEditTexts::tr("%1 is yes or no; \"%2\" is neither")
+                                .arg(QString::fromLatin1(flagName(resolved->target)), fromUtf8(*edit.value));
         return;
     }
     if ((isFitting ? part.notFitted : part.notInBom) != MarkedBy::Nothing) {
@@ -227,25 +250,21 @@ bool EditResolver::unitsDiffer(const ResolvedEdit &resolved) const
 QString EditResolver::outsideRefusal(const ResolvedEdit &resolved) const
 {
     const bool isFitting = resolved.target == EditTarget::NotFitted;
-    const QString what = isFitting ? QStringLiteral("do not populate") : QStringLiteral("not in the BOM");
     for (const SymbolUse &place : m_model.places(resolved.component)) {
         const PlacedSymbol &symbol = m_model.symbolOf(place);
         const auto mark = isFitting ? m_model.outerMarks().notFitted(place.use, symbol)
                                     : m_model.outerMarks().notInBom(place.use, symbol);
         if (mark.by == MarkedBy::Sheet) {
-            return QStringLiteral("the sheet ") + m_model.sheetName(mark.sheet) +
-                   QStringLiteral(" as a whole is marked \"") + what +
-                   QStringLiteral("\"; that can only be changed at the sheet, in KiCad");
+            return markedSheet(resolved.target).arg(m_model.sheetName(mark.sheet));
         }
         if (mark.by == MarkedBy::RuleArea) {
-            return QStringLiteral("the symbol lies in a rule area on the sheet ") +
-                   m_model.sheetName(place.use) + QStringLiteral(" that is marked \"") + what +
-                   QStringLiteral("\"; that can only be changed in KiCad");
+            return markedRuleArea(resolved.target).arg(m_model.sheetName(place.use));
         }
     }
     if (!isFitting && !m_model.variant().empty() && isInBase(resolved.component, resolved.name)) {
-        return QStringLiteral("the symbol has a property BOMSKIP, which a variant cannot take away; open the "
-                              "design without the variant to remove it");
+        return KicadEditTexts::tr(
+            "the symbol has a property BOMSKIP, which a variant cannot take away; open the "
+            "design without the variant to remove it");
     }
     return {};
 }
@@ -260,13 +279,14 @@ QString EditResolver::variantRefusal(const ResolvedEdit &resolved) const
     for (const SymbolUse &place : m_model.places(resolved.component)) {
         const InstanceRecord *record = m_model.recordOf(place);
         if (!record || !knowsVariants(m_model.sheetOf(place), *record)) {
-            return QStringLiteral("the file holds no record for this use of its sheet that could take what a "
-                                  "variant changes; save the design in KiCad 10 first");
+            return KicadEditTexts::tr(
+                "the file holds no record for this use of its sheet that could take what a "
+                "variant changes; save the design in KiCad 10 first");
         }
     }
     if (resolved.target == EditTarget::Property && !resolved.before) {
-        return QStringLiteral("a variant can only change properties that the symbol has; open the design "
-                              "without the variant to add one");
+        return KicadEditTexts::tr("a variant can only change properties that the symbol has; open the design "
+                                  "without the variant to add one");
     }
     return {};
 }

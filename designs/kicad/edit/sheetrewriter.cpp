@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "designs/kicad/edit/sheetrewriter.h"
+#include "designs/texts.h"
 
 #include <algorithm>
 
@@ -43,7 +44,7 @@ bool SheetRewriter::write(const SheetRewrite &rewrite)
         const std::size_t offset = m_sheet.instanceTable[number].offset;
         const auto node = nodeAt(m_bytes, offset);
         if (!node || node->keyword != "path") {
-            return fail(offset, QStringLiteral("the row of the table of instances is not found again"));
+            return fail(offset, KicadEditTexts::tr("the row of the table of instances is not found again"));
         }
         m_lists.push_back({node->begin, node->end});
         m_writer.write(*node, row);
@@ -55,7 +56,7 @@ bool SheetRewriter::writeSymbol(const PlacedSymbol &placed, const SymbolRewrite 
 {
     const auto node = nodeAt(m_bytes, placed.offset);
     if (!node || node->keyword != "symbol") {
-        return fail(placed.offset, QStringLiteral("the symbol is not found again"));
+        return fail(placed.offset, KicadEditTexts::tr("the symbol is not found again"));
     }
     const QString refusal = m_writer.write(*node, placed, rewrite, m_names);
     if (!refusal.isEmpty()) {
@@ -103,13 +104,13 @@ bool SheetRewriter::finish(const SheetRewrite &rewrite)
     std::sort(m_lists.begin(), m_lists.end(),
               [](const ChangedList &a, const ChangedList &b) { return a.begin < b.begin; });
     if (!sortSplices(&m_splices)) {
-        return fail(0, QStringLiteral("the changes to the file get in each other's way"));
+        return fail(0, KicadEditTexts::tr("the changes to the file get in each other's way"));
     }
     makeSpliced(m_bytes, m_splices, &m_after);
     QString wrong = compareTexts(m_bytes, m_after, m_splices, m_lists);
     wrong = wrong.isEmpty() ? compareSheets(m_sheet, m_names, rewrite, m_variant, m_after) : wrong;
     if (!wrong.isEmpty()) {
-        return fail(0, QStringLiteral("the file's new text did not stand the check: ") + wrong);
+        return fail(0, KicadEditTexts::tr("the file's new text did not stand the check: %1").arg(wrong));
     }
     if (m_after != m_bytes) {
         m_file = {m_sheet.path, m_sheet.fingerprint, fingerprintOf(m_after), std::move(m_splices)};

@@ -6,6 +6,7 @@
 #include "designs/kicad/edit/newproperty.h"
 #include "designs/kicad/edit/variantwriter.h"
 #include "designs/kicad/mandatorynames.h"
+#include "designs/texts.h"
 
 #include <algorithm>
 #include <charconv>
@@ -80,7 +81,7 @@ QString SymbolWriter::write(const SexprNode &symbol, const PlacedSymbol &placed,
     m_nextId = highestId(m_bytes, symbol) + 1;
     for (const WantedText &property : change.properties) {
         if (!writeProperty(symbol, property)) {
-            return QStringLiteral("the symbol has no property that shows how one is laid out");
+            return KicadEditTexts::tr("the symbol has no property that shows how one is laid out");
         }
     }
     if (change.dnp) {
@@ -91,7 +92,7 @@ QString SymbolWriter::write(const SexprNode &symbol, const PlacedSymbol &placed,
     }
     return writeVariants(symbol, placed, change, names)
                ? QString()
-               : QStringLiteral("the symbol's record of this use of the sheet cannot be found again");
+               : KicadEditTexts::tr("the symbol's record of this use of the sheet cannot be found again");
 }
 
 bool SymbolWriter::writeProperty(const SexprNode &symbol, const WantedText &change)

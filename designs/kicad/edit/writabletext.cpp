@@ -3,6 +3,7 @@
 #include "designs/kicad/edit/writabletext.h"
 
 #include "designs/kicad/braceescapes.h"
+#include "designs/texts.h"
 #include "designs/utf8.h"
 
 #include <algorithm>
@@ -82,17 +83,17 @@ int oldestVersion(const EditModel &model, std::size_t component)
 QString plainRefusal(std::string_view text)
 {
     if (text.find('\0') != std::string_view::npos) {
-        return QStringLiteral("the text holds a NUL character");
+        return KicadEditTexts::tr("the text holds a NUL character");
     }
     if (!isUtf8(text)) {
-        return QStringLiteral("the text is not UTF-8");
+        return KicadEditTexts::tr("the text is not UTF-8");
     }
     if (text.find("@{") != std::string_view::npos) {
-        return QStringLiteral("the text holds \"@{\", which KiCad would calculate");
+        return KicadEditTexts::tr("the text holds \"@{\", which KiCad would calculate");
     }
     if (mayHaveBraceEscape(text) && resolveBraceEscapes(text) != text) {
-        return QStringLiteral("the text holds a name in braces, like {slash}, that KiCad reads as one "
-                              "character");
+        return KicadEditTexts::tr("the text holds a name in braces, like {slash}, that KiCad reads as one "
+                                  "character");
     }
     return {};
 }
@@ -107,8 +108,9 @@ WritableText writableVariable(const EditModel &model, std::size_t component, std
     if (oldest >= version::variableEscape && readsBack(model, component, escaped, text)) {
         return {escaped, {}};
     }
-    return {{},
-            QStringLiteral("KiCad would replace a variable, \"${...}\", in the text by what it stands for")};
+    return {
+        {},
+        KicadEditTexts::tr("KiCad would replace a variable, \"${...}\", in the text by what it stands for")};
 }
 
 } // namespace
@@ -118,7 +120,7 @@ WritableText writableText(const EditModel &model, std::size_t component, std::st
     const int oldest = oldestVersion(model, component);
     QString refusal = plainRefusal(text);
     if (refusal.isEmpty() && text == "~" && oldest < version::tildeIsText) {
-        refusal = QStringLiteral("a single \"~\" reads as an empty text in this version of the format");
+        refusal = KicadEditTexts::tr("a single \"~\" reads as an empty text in this version of the format");
     }
     if (!refusal.isEmpty()) {
         return {{}, refusal};
@@ -130,17 +132,18 @@ WritableText writableText(const EditModel &model, std::size_t component, std::st
 QString nameRefusal(std::string_view name)
 {
     if (name.empty() || name.find_first_not_of(" \t") == std::string_view::npos) {
-        return QStringLiteral("a property needs a name");
+        return KicadEditTexts::tr("a property needs a name");
     }
     if (std::any_of(name.begin(), name.end(), [](char c) { return (c & 0xE0) == 0 || c == 0x7F; })) {
-        return QStringLiteral("a property's name cannot hold line breaks, tabs or other control characters");
+        return KicadEditTexts::tr(
+            "a property's name cannot hold line breaks, tabs or other control characters");
     }
     if (name.front() == ' ' || name.back() == ' ') {
-        return QStringLiteral("a property's name cannot begin or end with a blank");
+        return KicadEditTexts::tr("a property's name cannot begin or end with a blank");
     }
     QString refusal = plainRefusal(name);
     if (refusal.isEmpty() && name.find("${") != std::string_view::npos) {
-        refusal = QStringLiteral("a property's name cannot hold a variable");
+        refusal = KicadEditTexts::tr("a property's name cannot hold a variable");
     }
     return refusal;
 }
