@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "files/regularfile.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -28,7 +29,7 @@ int openedWithoutWaiting(const QString &path, QString *reason)
         return opened;
     }
     ::close(opened);
-    *reason = QStringLiteral("this is no ordinary file");
+    *reason = QCoreApplication::translate("RegularFile", "this is no ordinary file");
     return -1;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sheets/odsfile.h"
 
+#include "sheets/texts.h"
 #include "sheets/xmlpart.h"
 
 #include <algorithm>
@@ -220,7 +221,7 @@ bool OdsFile::load(QString *problem)
         XmlPart xml(std::move(device));
         for (auto token = xml.next(); token != QXmlStreamReader::NoToken; token = xml.next()) {
             if (xml.name() == QLatin1String("encryption-data")) {
-                *problem = QStringLiteral("the file is encrypted: save it without a password");
+                *problem = SpreadsheetTexts::tr("the file is encrypted: save it without a password");
                 return false;
             }
         }
@@ -231,8 +232,8 @@ bool OdsFile::load(QString *problem)
     }
     Reader reader(std::move(device), m_limits);
     if (!reader.findSheets()) {
-        *problem =
-            reader.problem().isEmpty() ? QStringLiteral("the file holds no spreadsheet") : reader.problem();
+        *problem = reader.problem().isEmpty() ? SpreadsheetTexts::tr("the file holds no spreadsheet")
+                                              : reader.problem();
         return false;
     }
     for (QString name = reader.nextSheet(); !name.isNull(); name = reader.nextSheet()) {
@@ -256,7 +257,8 @@ std::optional<Sheet> OdsFile::sheet(qsizetype index, QString *problem) const
         isFound = !reader.nextSheet().isNull();
     }
     if (!isFound || !reader.readSheet()) {
-        *problem = reader.problem().isEmpty() ? QStringLiteral("the file is damaged") : reader.problem();
+        *problem =
+            reader.problem().isEmpty() ? SpreadsheetTexts::tr("the file is damaged") : reader.problem();
         return std::nullopt;
     }
     return reader.take();

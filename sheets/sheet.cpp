@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "sheets/sheet.h"
+#include "sheets/texts.h"
 
 #include <QLocale>
 
@@ -43,7 +44,8 @@ bool SheetBuilder::count(qsizetype cells, qsizetype characters)
     m_cells += cells;
     m_characters += characters;
     return (m_cells <= m_limits.cells && m_characters <= m_limits.characters) ||
-           fail(QStringLiteral("the sheet is too large: at most %1 cells are read").arg(m_limits.cells));
+           fail(
+               SpreadsheetTexts::tr("the sheet is too large: at most %1 cells are read").arg(m_limits.cells));
 }
 
 bool SheetBuilder::add(qsizetype column, const QString &text, CellKind kind)
@@ -52,11 +54,11 @@ bool SheetBuilder::add(qsizetype column, const QString &text, CellKind kind)
         return true;
     }
     if (m_row > MostRows || column >= MostColumns) {
-        return fail(cellAddress(m_row, column) + QStringLiteral(" lies outside of a sheet"));
+        return fail(SpreadsheetTexts::tr("%1 lies outside of a sheet").arg(cellAddress(m_row, column)));
     }
     if (!m_hasRow) {
         if (!m_sheet.rows.empty() && m_sheet.rows.back().number >= m_row) {
-            return fail(QStringLiteral("row %1 stands twice or in front of another").arg(m_row));
+            return fail(SpreadsheetTexts::tr("row %1 stands twice or in front of another").arg(m_row));
         }
         m_sheet.rows.push_back({m_row, {}, {}});
         m_sheet.hiddenRows += m_isHidden ? 1 : 0;
@@ -64,7 +66,8 @@ bool SheetBuilder::add(qsizetype column, const QString &text, CellKind kind)
     }
     SheetRow &row = m_sheet.rows.back();
     if (row.cells.size() > column) {
-        return fail(cellAddress(m_row, column) + QStringLiteral(" stands twice or behind another cell"));
+        return fail(
+            SpreadsheetTexts::tr("%1 stands twice or behind another cell").arg(cellAddress(m_row, column)));
     }
     if (!count(column + 1 - row.cells.size(), text.size())) {
         return false;
@@ -83,7 +86,7 @@ bool SheetBuilder::repeatRow(int times)
     const SheetRow row = m_sheet.rows.back();
     for (int i = 0; i < times; ++i) {
         if (!count(row.cells.size(), 0) || row.number + i >= MostRows) {
-            return fail(QStringLiteral("the sheet is too large"));
+            return fail(SpreadsheetTexts::tr("the sheet is too large"));
         }
         m_sheet.rows.push_back({row.number + i + 1, row.cells, row.kinds});
         m_sheet.hiddenRows += m_isHidden ? 1 : 0;

@@ -3,6 +3,7 @@
 #include "sheets/spreadsheetreader.h"
 
 #include "sheets/odsfile.h"
+#include "sheets/texts.h"
 #include "sheets/xlsxfile.h"
 
 #include <utility>
@@ -24,14 +25,14 @@ std::unique_ptr<SpreadsheetFile> openSpreadsheet(QByteArray bytes, QString *prob
 {
     if (bytes.startsWith(compoundMark)) {
         *problem =
-            QStringLiteral("the file is encrypted or of an older form (.xls): save it as .xlsx or .ods "
-                           "without a password");
+            SpreadsheetTexts::tr("the file is encrypted or of an older form (.xls): save it as .xlsx or .ods "
+                                 "without a password");
         return nullptr;
     }
     if (!ZipArchive::isArchive(bytes)) {
         *problem =
-            QStringLiteral("this is no spreadsheet (.xlsx or .ods), whatever its name says; a table of "
-                           "texts ends in .csv");
+            SpreadsheetTexts::tr("this is no spreadsheet (.xlsx or .ods), whatever its name says; a table of "
+                                 "texts ends in .csv");
         return nullptr;
     }
     auto archive = ZipArchive::open(std::move(bytes), limits, problem);

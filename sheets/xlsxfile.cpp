@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "sheets/xlsxfile.h"
 
+#include "sheets/texts.h"
 #include "sheets/xmlpart.h"
 
 #include <QDateTime>
@@ -179,7 +180,8 @@ bool XlsxFile::readWorkbook(const QString &part, const Relations &relations, QSt
     }
     XmlPart xml(std::move(device));
     if (!xml.nextChild() || xml.name() != QLatin1String("workbook")) {
-        *problem = xml.problem().isEmpty() ? QStringLiteral("the file holds no workbook") : xml.problem();
+        *problem =
+            xml.problem().isEmpty() ? SpreadsheetTexts::tr("the file holds no workbook") : xml.problem();
         return false;
     }
     while (xml.nextChild()) {
@@ -211,7 +213,7 @@ bool XlsxFile::readTexts(const QString &part, QString *problem)
         m_texts << withoutEscapes(stringItem(xml));
         characters += m_texts.back().size();
         if (m_texts.size() > m_limits.cells || characters > m_limits.characters) {
-            *problem = QStringLiteral("the file has too many texts");
+            *problem = SpreadsheetTexts::tr("the file has too many texts");
             return false;
         }
     }
@@ -290,7 +292,7 @@ bool XlsxFile::readRows(XmlPart &xml, SheetBuilder &sheet, QString *problem) con
         bool isNumber = true;
         const int row = number.isNull() ? last + 1 : number.toInt(&isNumber);
         if (!isNumber || row <= last || row > SheetBuilder::MostRows) {
-            *problem = QStringLiteral("the file is damaged: a row has the number \"") + number + u'"';
+            *problem = SpreadsheetTexts::tr("the file is damaged: a row has the number \"%1\"").arg(number);
             return false;
         }
         last = row;
@@ -315,8 +317,8 @@ bool XlsxFile::readCells(XmlPart &xml, int row, SheetBuilder &sheet, QString *pr
         const QString address = xml.attribute(QLatin1String("r"));
         const Address at = address.isNull() ? Address{row, next} : addressOf(address);
         if (at.row != row || at.column < next) {
-            *problem = QStringLiteral("the file is damaged: a cell of row %1 has the address \"").arg(row) +
-                       address + u'"';
+            *problem = SpreadsheetTexts::tr("the file is damaged: a cell of row %1 has the address \"%2\"")
+                           .arg(QString::number(row), address);
             return false;
         }
         next = at.column + 1;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "sheets/xmlpart.h"
+#include "sheets/texts.h"
 
 #include <algorithm>
 #include <utility>
@@ -69,7 +70,7 @@ QXmlStreamReader::TokenType XmlPart::refuse(const QString &problem)
 
 QXmlStreamReader::TokenType XmlPart::refuseLongText()
 {
-    return refuse(QStringLiteral("a text has more than %1 characters").arg(MostCharacters));
+    return refuse(SpreadsheetTexts::tr("a text has more than %1 characters").arg(MostCharacters));
 }
 
 bool XmlPart::isModest() const
@@ -90,20 +91,21 @@ QXmlStreamReader::TokenType XmlPart::next()
         m_attributes = m_reader.attributes();
         m_namespaces += m_reader.namespaceDeclarations().size();
         return isModest() ? token
-                          : refuse(QStringLiteral("the file is built in a way that no spreadsheet is"));
+                          : refuse(SpreadsheetTexts::tr("the file is built in a way that no spreadsheet is"));
     case QXmlStreamReader::EndElement:
         --m_depth;
         return token;
     case QXmlStreamReader::DTD:
     case QXmlStreamReader::EntityReference:
-        return refuse(QStringLiteral("the file declares entities, which no spreadsheet does"));
+        return refuse(SpreadsheetTexts::tr("the file declares entities, which no spreadsheet does"));
     case QXmlStreamReader::Invalid:
         if (m_device->isExceeded()) {
-            return refuse(QStringLiteral("a text or an element has more than %1 bytes").arg(longestToken));
+            return refuse(
+                SpreadsheetTexts::tr("a text or an element has more than %1 bytes").arg(longestToken));
         }
         return refuse(!m_device->sourceProblem().isEmpty()
                           ? m_device->sourceProblem()
-                          : QStringLiteral("the file is damaged: ") + m_reader.errorString());
+                          : SpreadsheetTexts::tr("the file is damaged: %1").arg(m_reader.errorString()));
     case QXmlStreamReader::EndDocument:
         // The checksum of a part shows only when all of it was read.
         return m_device->sourceProblem().isEmpty() ? QXmlStreamReader::NoToken

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "sheets/ziparchive.h"
+#include "sheets/texts.h"
 
 #include <QtEndian>
 
@@ -85,7 +86,7 @@ protected:
         m_left -= got;
         if (got == 0 || (m_left == 0 && m_sum != m_checksum)) {
             m_isBroken = true;
-            setErrorString(QStringLiteral("the file is damaged or cut off"));
+            setErrorString(SpreadsheetTexts::tr("the file is damaged or cut off"));
             return -1;
         }
         return got;
@@ -132,7 +133,7 @@ std::optional<ZipArchive> ZipArchive::open(QByteArray bytes, const SheetLimits &
     archive.m_limits = limits;
     const qsizetype end = endRecord(archive.m_bytes);
     if (end < 0) {
-        *problem = QStringLiteral("the file is damaged or cut off: it has no directory of its parts");
+        *problem = SpreadsheetTexts::tr("the file is damaged or cut off: it has no directory of its parts");
         return std::nullopt;
     }
     return archive.readDirectory(end, problem) ? std::optional(std::move(archive)) : std::nullopt;
@@ -143,19 +144,19 @@ bool ZipArchive::readDirectory(qsizetype end, QString *problem)
     const int count = number16(m_bytes, end + 10);
     qsizetype at = number32(m_bytes, end + 16);
     if (count > m_limits.archiveEntries) {
-        *problem = QStringLiteral("the file has more than %1 parts").arg(m_limits.archiveEntries);
+        *problem = SpreadsheetTexts::tr("the file has more than %1 parts").arg(m_limits.archiveEntries);
         return false;
     }
     for (int i = 0; i < count; ++i) {
         const bool isInside = at + directoryEntrySize <= end && number32(m_bytes, at) == directoryMark;
         const qsizetype nameSize = isInside ? number16(m_bytes, at + 28) : 0;
         if (!isInside || at + directoryEntrySize + nameSize > end) {
-            *problem = QStringLiteral("the file is damaged: the directory of its parts cannot be read");
+            *problem = SpreadsheetTexts::tr("the file is damaged: the directory of its parts cannot be read");
             return false;
         }
         const QString name = QString::fromUtf8(m_bytes.constData() + at + directoryEntrySize, nameSize);
         if (m_entries.contains(name)) {
-            *problem = QStringLiteral("the file has two parts of the name ") + name;
+            *problem = SpreadsheetTexts::tr("the file has two parts of the name %1").arg(name);
             return false;
         }
         m_entries.insert(name, {number16(m_bytes, at + 8), number16(m_bytes, at + 10),
@@ -185,21 +186,22 @@ std::unique_ptr<QIODevice> ZipArchive::part(const QString &name, QString *proble
         return nullptr;
     };
     if (entry == m_entries.cend()) {
-        return fail(QStringLiteral("the file is no spreadsheet that can be read: it has no part ") + name);
+        return fail(
+            SpreadsheetTexts::tr("the file is no spreadsheet that can be read: it has no part %1").arg(name));
     }
     if (entry->flags & encryptedFlag) {
-        return fail(QStringLiteral("the file is encrypted: save it without a password"));
+        return fail(SpreadsheetTexts::tr("the file is encrypted: save it without a password"));
     }
     if (entry->size > m_limits.unpackedBytes || entry->packedSize == inLargerRecord) {
-        return fail(QStringLiteral("its part %1 has more than %2 MiB, the most that is unpacked")
+        return fail(SpreadsheetTexts::tr("its part %1 has more than %2 MiB, the most that is unpacked")
                         .arg(name, QString::number(m_limits.unpackedBytes / (1024 * 1024))));
     }
     const qsizetype begin = beginOf(*entry);
     if (begin < 0) {
-        return fail(QStringLiteral("the file is damaged or cut off"));
+        return fail(SpreadsheetTexts::tr("the file is damaged or cut off"));
     }
     if (entry->method != storedMethod && entry->method != deflatedMethod) {
-        return fail(QStringLiteral("its part ") + name + QStringLiteral(" is packed in an unknown way"));
+        return fail(SpreadsheetTexts::tr("its part %1 is packed in an unknown way").arg(name));
     }
     return std::make_unique<PartDevice>(QByteArrayView(m_bytes).sliced(begin, entry->packedSize),
                                         entry->method == deflatedMethod, entry->size, entry->checksum);

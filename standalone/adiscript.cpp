@@ -3,6 +3,7 @@
 #include "standalone/adiscript.h"
 
 #include "designs/utf8.h"
+#include "standalone/texts.h"
 
 #include <istream>
 #include <string_view>
@@ -39,8 +40,7 @@ private:
 
     bool fail(const QString &text)
     {
-        m_script.error =
-            QStringLiteral("script line ") + QString::number(m_number) + QStringLiteral(": ") + text;
+        m_script.error = ScriptTexts::tr("script line %1: %2").arg(QString::number(m_number), text);
         m_script.reference = m_reference;
         const std::size_t middle = m_line.find(separator, 1);
         if (!m_reference.empty() && m_line.starts_with('"') && middle != std::string::npos) {
@@ -56,20 +56,19 @@ private:
         ++m_number;
         m_line.clear();
         if (isAtEnd()) {
-            return fail(QStringLiteral("the script ends within a record"));
+            return fail(ScriptTexts::tr("the script ends within a record"));
         }
         for (auto c = m_buffer.sbumpc(); !Traits::eq_int_type(c, Traits::to_int_type('\n'));
              c = m_buffer.sbumpc()) {
             if (Traits::eq_int_type(c, Traits::eof())) {
-                return fail(QStringLiteral("the script ends within a line"));
+                return fail(ScriptTexts::tr("the script ends within a line"));
             }
             if (m_line.size() >= m_limits.lineBytes) {
-                return fail(QStringLiteral("the line is longer than ") + QString::number(m_limits.lineBytes) +
-                            QStringLiteral(" bytes"));
+                return fail(ScriptTexts::tr("the line is longer than %1 bytes").arg(m_limits.lineBytes));
             }
             m_line += Traits::to_char_type(c);
         }
-        return designs::isUtf8(m_line) || fail(QStringLiteral("the line is no UTF-8 text"));
+        return designs::isUtf8(m_line) || fail(ScriptTexts::tr("the line is no UTF-8 text"));
     }
 
     bool takeRecord()
@@ -86,7 +85,7 @@ private:
         if (!m_script.error.isEmpty() || !takeLine()) {
             return false;
         }
-        return m_line.empty() || fail(QStringLiteral("an empty line must follow END"));
+        return m_line.empty() || fail(ScriptTexts::tr("an empty line must follow END"));
     }
 
     bool takeReference()
@@ -94,10 +93,10 @@ private:
         const std::string_view line = m_line;
         if (!line.starts_with(dataStart) || !line.ends_with('-')) {
             return fail(
-                QStringLiteral("a record begins with DATA NAME, a colon, the reference and a hyphen"));
+                ScriptTexts::tr("a record begins with DATA NAME, a colon, the reference and a hyphen"));
         }
         m_reference = line.substr(dataStart.size(), line.size() - dataStart.size() - 1);
-        return !m_reference.empty() || fail(QStringLiteral("the reference is missing"));
+        return !m_reference.empty() || fail(ScriptTexts::tr("the reference is missing"));
     }
 
     bool takeProperty()
@@ -107,14 +106,15 @@ private:
         const std::size_t valueAt = middle + separator.size();
         if (!line.starts_with('"') || middle == std::string_view::npos || line.size() <= valueAt ||
             !line.ends_with('"')) {
-            return fail(QStringLiteral("this is neither a property with its value, both in quotes, nor END"));
+            return fail(
+                ScriptTexts::tr("this is neither a property with its value, both in quotes, nor END"));
         }
         if (middle == 1) {
-            return fail(QStringLiteral("the property has no name"));
+            return fail(ScriptTexts::tr("the property has no name"));
         }
         if (m_script.assignments.size() >= m_limits.assignments) {
-            return fail(QStringLiteral("the script holds more than ") +
-                        QString::number(m_limits.assignments) + QStringLiteral(" properties"));
+            return fail(
+                ScriptTexts::tr("the script holds more than %1 properties").arg(m_limits.assignments));
         }
         const std::string_view value = line.substr(valueAt, line.size() - valueAt - 1);
         AdiAssignment &added = m_script.assignments.emplace_back();

@@ -8,6 +8,7 @@
 #include "standalone/companionfiles.h"
 #include "standalone/fieldtables.h"
 #include "standalone/loadeddesign.h"
+#include "standalone/texts.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -115,8 +116,7 @@ QList<CDBPROBLEM> DesignSession::writeBatch(std::span<const designs::Edit> edits
         takeOverFiles();
     }
     if (!m_result.notices.isEmpty()) {
-        HostUi::current().warning(nullptr,
-                                  QCoreApplication::translate("DesignSession", "The design was written"),
+        HostUi::current().warning(nullptr, SessionTexts::tr("The design was written"),
                                   m_result.notices.join(QStringLiteral("; ")));
     }
     return m_result.problems;
@@ -126,10 +126,8 @@ void DesignSession::takeOverFiles()
 {
     if (!reread()) {
         HostUi::current().warning(
-            nullptr, QCoreApplication::translate("DesignSession", "The design was written"),
-            QCoreApplication::translate("DesignSession",
-                                        "It cannot be read again, and is shown as it was before: ") +
-                error());
+            nullptr, SessionTexts::tr("The design was written"),
+            SessionTexts::tr("It cannot be read again, and is shown as it was before: %1").arg(error()));
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "standalone/fieldtablereader.h"
+#include "standalone/texts.h"
 
 #include <QRegularExpression>
 #include <QStringDecoder>
@@ -18,7 +19,7 @@ constexpr qsizetype shownLength = 60;
 
 QString quoted(QStringView text)
 {
-    return u'"' + text.left(shownLength).toString() + u'"';
+    return TableTexts::tr("\"%1\"").arg(text.left(shownLength));
 }
 
 std::optional<FieldMeaning::Use> useOf(const QString &words)
@@ -53,7 +54,7 @@ void FieldTableReader::read(const QByteArray &text)
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString decoded = decoder(text);
     if (decoder.hasError() || decoded.contains(QChar::Null)) {
-        fail(QStringLiteral("is no UTF-8 text; nothing of it is read"));
+        fail(TableTexts::tr("is no UTF-8 text; nothing of it is read"));
         return;
     }
     for (const QStringView line : QStringView(decoded).split(u'\n')) {
@@ -64,7 +65,7 @@ void FieldTableReader::read(const QByteArray &text)
                      [](const auto &a, const auto &b) { return a.text.size() > b.text.size(); });
     m_line = 0;
     if (m_met.isEmpty() && m_patterns == 0 && m_problems.isEmpty()) {
-        fail(QStringLiteral("has no names of properties"));
+        fail(TableTexts::tr("has no names of properties"));
     }
 }
 
@@ -72,7 +73,8 @@ QStringList FieldTableReader::problems() const
 {
     QStringList told = m_problems;
     if (m_count > told.size()) {
-        told << m_file + QStringLiteral(": %1 more lines are passed over").arg(m_count - told.size());
+        told << m_file + QStringLiteral(": ") +
+                    TableTexts::tr("%1 more lines are passed over").arg(m_count - told.size());
     }
     return told;
 }
@@ -94,8 +96,9 @@ void FieldTableReader::readHeading(QStringView line)
     const auto use = useOf(match.captured(2));
     m_isPassedOver = !match.hasMatch() || !use;
     if (m_isPassedOver) {
-        fail(quoted(line) + QStringLiteral(" is no heading such as [mpn] or [mpn] maker's part number; it is "
-                                           "passed over with its names"));
+        fail(TableTexts::tr("%1 is no heading such as [mpn] or [mpn] maker's part number; it is passed over "
+                            "with its names")
+                 .arg(quoted(line)));
         return;
     }
     const QString key = match.captured(1).toLower();
@@ -106,7 +109,7 @@ void FieldTableReader::readHeading(QStringView line)
     if (known == meanings.end()) {
         m_isPassedOver = qsizetype(meanings.size()) >= mostMeanings;
         if (m_isPassedOver) {
-            fail(QStringLiteral("there are more than %1 meanings").arg(mostMeanings));
+            fail(TableTexts::tr("there are more than %1 meanings").arg(mostMeanings));
             return;
         }
         meanings.push_back({key, key, *use});
@@ -130,11 +133,11 @@ void FieldTableReader::readName(QStringView line)
     name = isQuoted ? name.sliced(1, name.size() - 2) : name;
     const QString plain = plainFieldName(name.toString());
     if (!m_meaning && !(isMarked && sign == u'-')) {
-        fail(quoted(name) + QStringLiteral(" stands below no heading such as [mpn]; it is passed over"));
+        fail(TableTexts::tr("%1 stands below no heading such as [mpn]; it is passed over").arg(quoted(name)));
     } else if (plain.count(u'*') == plain.size()) {
-        fail(quoted(name) + QStringLiteral(" is no name of a property; it is passed over"));
+        fail(TableTexts::tr("%1 is no name of a property; it is passed over").arg(quoted(name)));
     } else if (++m_entries > mostNames) {
-        fail(QStringLiteral("a table has at most %1 names; this one is passed over").arg(mostNames));
+        fail(TableTexts::tr("a table has at most %1 names; this one is passed over").arg(mostNames));
     } else if (isMarked && sign == u'-') {
         takeOver(plain);
         m_names->m_names.insert(plain, {});
@@ -161,7 +164,7 @@ void FieldTableReader::addName(const QString &name, bool isCertain)
 {
     const bool isRead = m_names->m_meanings[*m_meaning].use == FieldMeaning::Use::Read;
     if (isCertain && isRead && FieldNames::isOwn(name)) {
-        fail(quoted(name) + QStringLiteral(" is always read by its own name; it is passed over"));
+        fail(TableTexts::tr("%1 is always read by its own name; it is passed over").arg(quoted(name)));
         return;
     }
     const QString plain = plainFieldName(name);
@@ -174,8 +177,8 @@ void FieldTableReader::addName(const QString &name, bool isCertain)
         const int line = other != entries.cend() ? other->line : m_removed.value(plain);
         const QString where =
             other != entries.cend() ? m_names->m_meanings[other->meaning].key : QStringLiteral("\"-\"");
-        fail(quoted(name) + QStringLiteral(" stands under ") + where +
-             QStringLiteral(" already (line %1); it is passed over").arg(line));
+        fail(TableTexts::tr("%1 stands under %2 already (line %3); it is passed over")
+                 .arg(quoted(name), where, QString::number(line)));
         return;
     }
     // Names of later tables are better than those of earlier ones.
@@ -188,7 +191,7 @@ void FieldTableReader::addName(const QString &name, bool isCertain)
 void FieldTableReader::addWord(const QString &name)
 {
     if (++m_patterns > mostPatterns) {
-        fail(QStringLiteral("a table has at most %1 names with \"@\" or \"*\"").arg(mostPatterns));
+        fail(TableTexts::tr("a table has at most %1 names with \"@\" or \"*\"").arg(mostPatterns));
         return;
     }
     std::erase_if(m_names->m_words, [&](const FieldNames::Pattern &word) {
@@ -201,7 +204,7 @@ void FieldTableReader::addWord(const QString &name)
 void FieldTableReader::addPattern(const QString &name, bool isCertain)
 {
     if (++m_patterns > mostPatterns) {
-        fail(QStringLiteral("a table has at most %1 names with \"@\" or \"*\"").arg(mostPatterns));
+        fail(TableTexts::tr("a table has at most %1 names with \"@\" or \"*\"").arg(mostPatterns));
         return;
     }
     constexpr std::size_t behindWords = 2'000'000'000;

@@ -4,6 +4,7 @@
 
 #include "files/regularfile.h"
 #include "standalone/environment.h"
+#include "standalone/texts.h"
 
 #include <QFileInfo>
 
@@ -42,9 +43,10 @@ LoadedFieldNames loadFieldNames(const QString &designFile)
         QString reason;
         const std::optional<QByteArray> text = contentOfRegularFile(path, largestTable, &reason);
         if (!text || text->size() > largestTable) {
-            loaded.problems << path + QStringLiteral(": ") +
-                                   (text ? QStringLiteral("is larger than 1 MB") : reason) +
-                                   QStringLiteral("; its names of properties are not known");
+            const QString why =
+                text ? TableTexts::tr("is larger than 1 MB; its names of properties are not known")
+                     : TableTexts::tr("%1; its names of properties are not known").arg(reason);
+            loaded.problems << path + QStringLiteral(": ") + why;
             continue;
         }
         loaded.problems += names->add(*text, path);

@@ -3,6 +3,7 @@
 #include "standalone/notesfile.h"
 
 #include "files/regularfile.h"
+#include "standalone/texts.h"
 
 #include <QDir>
 #include <QFile>
@@ -67,7 +68,7 @@ bool saveFile(const QString &path, const QByteArray &bytes, QString *reason)
 bool replaceFile(const QString &path, const QByteArray &bytes, QString *reason)
 {
     if (bytes.size() > largestNotes) {
-        *reason = QStringLiteral("notes are at most 16 MB");
+        *reason = SessionTexts::tr("notes are at most 16 MB");
         return false;
     }
     return saveFile(path, bytes, reason);
@@ -86,8 +87,9 @@ bool keepContent(const QString &path, const QString &backup, QString *reason)
     const bool isKept =
         QDir().mkpath(QFileInfo(backup).path()) && saveFile(backup, file.read(file.size()), reason);
     if (!isKept) {
-        *reason = QStringLiteral("the previous notes cannot be kept in ") + backup +
-                  (reason->isEmpty() ? QString() : QStringLiteral(": ") + *reason);
+        *reason = reason->isEmpty()
+                      ? SessionTexts::tr("the previous notes cannot be kept in %1").arg(backup)
+                      : SessionTexts::tr("the previous notes cannot be kept in %1: %2").arg(backup, *reason);
     }
     return isKept;
 }
@@ -101,7 +103,7 @@ NotesFile readNotesFile(const QString &path)
         return {};
     }
     if (!info.isFile()) {
-        return {{}, QStringLiteral("is no file")};
+        return {{}, SessionTexts::tr("is no file")};
     }
     QString reason;
     const std::optional<QByteArray> bytes = contentOfRegularFile(path, largestNotes, &reason);
@@ -109,12 +111,12 @@ NotesFile readNotesFile(const QString &path)
         return {{}, reason};
     }
     if (bytes->size() > largestNotes) {
-        return {{}, QStringLiteral("is larger than 16 MB")};
+        return {{}, SessionTexts::tr("is larger than 16 MB")};
     }
     QStringDecoder decoder(QStringDecoder::Utf8);
     QString text = decoder(*bytes);
     if (decoder.hasError()) {
-        return {{}, QStringLiteral("is no UTF-8 text")};
+        return {{}, SessionTexts::tr("is no UTF-8 text")};
     }
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     return {text, {}};

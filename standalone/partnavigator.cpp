@@ -72,7 +72,7 @@ NAVIGATION PartNavigator::showpart(const QString &reference, quint64 identifier)
 {
     const designs::Component *component = m_design ? m_design->component(identifier) : nullptr;
     if (!component) {
-        return {false, tr("%1 is not in the design that is open").replace(QLatin1String("%1"), reference)};
+        return {false, tr("%1 is not in the design that is open").arg(reference)};
     }
     const QString place = placeOf(*component);
     const bool isDrawn = !boardFileOf(*m_design).isEmpty();
@@ -107,7 +107,6 @@ QString PartNavigator::placeOf(const designs::Component &component) const
     const auto number = [&locale](double value) {
         return locale.toString(value, 'g', QLocale::FloatingPointShortest);
     };
-    return tr("sheet") + u' ' + design.sheets().at(component.sheet).path + QStringLiteral(", ") + place +
-           QStringLiteral(", X ") + number(position->x) + QStringLiteral(" Y ") + number(position->y) +
-           QStringLiteral(" mm");
+    return tr("sheet %1, %2, X %3 Y %4 mm")
+        .arg(design.sheets().at(component.sheet).path, place, number(position->x), number(position->y));
 }

@@ -4,6 +4,7 @@
 
 #include "designs/csv/referencecell.h"
 #include "designs/utf8.h"
+#include "standalone/texts.h"
 
 #include <string>
 
@@ -40,7 +41,7 @@ bool ReferenceReader::read(const QString &text, QString *error)
         return false;
     }
     if (d->cell.count() == 0) {
-        *error = QStringLiteral("no reference is named");
+        *error = SessionTexts::tr("no reference is named");
     }
     return d->cell.count() > 0;
 }

@@ -4,6 +4,7 @@
 
 #include "files/regularfile.h"
 #include "standalone/environment.h"
+#include "standalone/texts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -62,7 +63,7 @@ std::optional<QByteArray> serviceText(const QString &path, QString *problem)
     auto text = contentOfRegularFile(path, largestFile, &reason);
     if (text && text->size() > largestFile) {
         text.reset();
-        reason = QStringLiteral("is larger than 1 MB, which no description of a service is");
+        reason = TableTexts::tr("is larger than 1 MB, which no description of a service is");
     }
     if (!text) {
         *problem = path + QStringLiteral(": ") + reason;

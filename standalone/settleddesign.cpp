@@ -5,6 +5,7 @@
 #include "designs/formats/designreader.h"
 #include "designs/transaction/designfiles.h"
 #include "standalone/designwriter.h"
+#include "standalone/texts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -98,8 +99,10 @@ SettledDesign readSettledDesign(const QString &path, const OpenOptions &options,
         isDone = readOnce(path, options, reader, &result);
     }
     if (!isDone && result.errors.isEmpty()) {
-        result.errors << path + QStringLiteral(": is written again and again while it is read: try again "
-                                               "when that has ended");
+        result.errors
+            << path + QStringLiteral(": ") +
+                   SessionTexts::tr(
+                       "is written again and again while it is read: try again when that has ended");
     }
     result.notices.removeDuplicates();
     return result;

@@ -5,6 +5,7 @@
 #include "designs/utf8.h"
 #include "standalone/adiscript.h"
 #include "standalone/loadeddesign.h"
+#include "standalone/texts.h"
 
 #include <QStringList>
 
@@ -69,7 +70,7 @@ void StandaloneCdb::setDesign(std::shared_ptr<const LoadedDesign> design)
     m_design = std::move(design);
     if (m_depth > 0 && !m_staged.empty()) {
         forget();
-        fail(QStringLiteral("the design was read again before all was written"));
+        fail(ScriptTexts::tr("the design was read again before all was written"));
     }
     m_board.reset();
 }
@@ -109,8 +110,8 @@ void StandaloneCdb::adi(std::istream &script, std::ostream &stream, int mode)
 void StandaloneCdb::run(std::istream &script, int mode)
 {
     if (!m_design || mode != 0) {
-        fail(m_design ? QStringLiteral("scripts have no other mode than 0")
-                      : QStringLiteral("no design is open"));
+        fail(m_design ? ScriptTexts::tr("scripts have no other mode than 0")
+                      : ScriptTexts::tr("no design is open"));
         return;
     }
     const AdiScript read = readAdiScript(script);
@@ -127,11 +128,11 @@ void StandaloneCdb::stage(const AdiAssignment &assignment)
 {
     const std::vector<std::size_t> found = m_design->references().find(assignment.reference);
     if (found.empty()) {
-        refuse(assignment, QStringLiteral("the design has no part of this reference"));
+        refuse(assignment, ScriptTexts::tr("the design has no part of this reference"));
         return;
     }
     if (found.size() > 1) {
-        refuse(assignment, QStringLiteral("several symbols have this reference: ") + places(found));
+        refuse(assignment, ScriptTexts::tr("several symbols have this reference: %1").arg(places(found)));
         return;
     }
     designs::Edit edit{found.front(), assignment.property, assignment.value};
@@ -150,14 +151,15 @@ void StandaloneCdb::stage(const AdiAssignment &assignment)
         return;
     }
     if (losesDefinition(m_design->design(), edit)) {
-        refuse(assignment, QStringLiteral("the design spells this name ") +
-                               designs::fromUtf8(storedName(m_design->design(), edit)) +
-                               QStringLiteral(", which defines no BOM-only parts: rename it there first"));
+        refuse(assignment,
+               ScriptTexts::tr(
+                   "the design spells this name %1, which defines no BOM-only parts: rename it there first")
+                   .arg(designs::fromUtf8(storedName(m_design->design(), edit))));
         return;
     }
     if (const designs::Edit *other = contradicted(edit)) {
-        refuse(assignment, QStringLiteral("another text is asked for under the name ") +
-                               designs::fromUtf8(askedName(*other)));
+        refuse(assignment, ScriptTexts::tr("another text is asked for under the name %1")
+                               .arg(designs::fromUtf8(askedName(*other))));
         return;
     }
     m_staged.push_back(std::move(edit));
@@ -185,10 +187,10 @@ QString StandaloneCdb::places(std::span<const std::size_t> components) const
         named << design.files().value(qsizetype(component.file)) + u':' +
                      QString::number(design.lineOf(component));
     }
-    if (components.size() > mostNamed) {
-        named << QStringLiteral("and %1 more").arg(components.size() - mostNamed);
-    }
-    return named.join(QStringLiteral(", "));
+    const QString list = named.join(QStringLiteral(", "));
+    return components.size() > mostNamed
+               ? ScriptTexts::tr("%1, and %2 more").arg(list, QString::number(components.size() - mostNamed))
+               : list;
 }
 
 void StandaloneCdb::fail(const QString &reason)
@@ -230,7 +232,7 @@ bool StandaloneCdb::commitbatch()
     if (m_writer) {
         m_problems = m_writer(edits);
     } else {
-        fail(QStringLiteral("the design cannot be written"));
+        fail(ScriptTexts::tr("the design cannot be written"));
     }
     if (!m_problems.isEmpty()) {
         return false;
@@ -260,7 +262,7 @@ void StandaloneCdb::dropbatch()
     forget();
     m_afterBatch.clear();
     if (--m_depth > 0 && m_problems.isEmpty()) {
-        fail(QStringLiteral("a part of what was to be written was given up"));
+        fail(ScriptTexts::tr("a part of what was to be written was given up"));
     }
 }
 

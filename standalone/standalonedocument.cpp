@@ -8,6 +8,7 @@
 #include "standalone/environment.h"
 #include "standalone/loadeddesign.h"
 #include "standalone/notesfile.h"
+#include "standalone/texts.h"
 
 #include <QFileInfo>
 
@@ -94,7 +95,7 @@ ATTACHMENTWRITE StandaloneDocument::writeattachment(const char *name, const QStr
 {
     m_attachmentError.clear();
     if (!m_design || !name || std::strcmp(name, "BOMNOTES.TXT") != 0) {
-        m_attachmentError = QStringLiteral("the design has no place for such a text");
+        m_attachmentError = SessionTexts::tr("the design has no place for such a text");
         return ATTACHMENTWRITE::Failed;
     }
     const designs::DesignPaths paths(m_design->design().info().file);
@@ -174,5 +175,5 @@ ATTACHMENTWRITE StandaloneLayout::writeattachment(const char *, const QString &,
 
 QString StandaloneLayout::attachmenterror() const
 {
-    return m_file + QStringLiteral(": a board has no place for such a text");
+    return m_file + QStringLiteral(": ") + SessionTexts::tr("a board has no place for such a text");
 }
