@@ -26,6 +26,7 @@ BOMCategories::BOMCategories(const BOMTemplate *settings, const PartStore *parts
     : m_settings(settings)
     , m_parts(parts)
     , m_grouping(settings, parts, types)
+    //: Stands in reports, which have one language on all machines: leave it as it is.
     , m_miscName(QCoreApplication::translate("BOMPartsDatabase", "Miscellaneous"))
 {
 }

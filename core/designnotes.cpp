@@ -11,15 +11,15 @@ namespace {
 
 constexpr char notesAttachment[] = "BOMNOTES.TXT";
 
-QString tr(const char *text)
+class Texts
 {
-    return QCoreApplication::translate("BOMPartsDatabase", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(DesignNotes)
+};
 
 NotesResult refused(const QString &loaded)
 {
     return {NotesResult::State::Refused, loaded,
-            tr("The notes were changed by another program after they were loaded")};
+            Texts::tr("The notes were changed by another program after they were loaded")};
 }
 
 } // namespace
@@ -53,5 +53,5 @@ NotesResult setDesignNotes(const QString &loaded, const QString &text, const Not
             return refused(loaded);
         }
     }
-    return {State::Failed, loaded, tr("No design is open")};
+    return {State::Failed, loaded, Texts::tr("No design is open")};
 }

@@ -6,6 +6,7 @@
 #include "core/propertyquery.h"
 #include "core/referenceformat.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
@@ -13,6 +14,11 @@
 #include <vector>
 
 namespace {
+
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(JoinedLine)
+};
 
 QString meantText(const Part &part, const PropertyQuery &property)
 {
@@ -135,14 +141,16 @@ QString joinedLineText(const JoinedLine &line, qsizetype mostTexts)
         if (texts.size() == mostTexts) {
             continue;
         }
-        texts << (text.text.isEmpty() ? QStringLiteral("none") : u'"' + text.text + u'"') +
-                     QStringLiteral(" on ") + allReferences(text.references);
+        const QString where = allReferences(text.references);
+        texts << (text.text.isEmpty() ? Texts::tr("none on %1").arg(where)
+                                      : Texts::tr("\"%1\" on %2").arg(text.text, where));
     }
-    return allReferences(references) + QStringLiteral(" are one line and differ in ") + line.property +
-           QStringLiteral(": ") + texts.join(QStringLiteral(", ")) +
-           (line.texts.size() > mostTexts
-                ? QStringLiteral(" and %1 more texts").arg(line.texts.size() - mostTexts)
-                : QString());
+    QString differing = texts.join(QStringLiteral(", "));
+    if (const qsizetype more = line.texts.size() - mostTexts; more > 0) {
+        differing = Texts::tr("%1 and %2 more texts").arg(differing, QString::number(more));
+    }
+    return Texts::tr("%1 are one line and differ in %2: %3")
+        .arg(allReferences(references), line.property, differing);
 }
 
 QList<EmptyColumn> emptyColumns(const BOMPartsDatabase &database)

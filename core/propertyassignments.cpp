@@ -86,8 +86,8 @@ void PropertyAssignments::follow()
         if (const QString journal = m_designs.unreadableJournal(); !journal.isEmpty()) {
             HostUi::current().warning(nullptr, tr("Pending Changes"),
                                       tr("Pending changes of an earlier run cannot be read, and are left as "
-                                         "they are: ") +
-                                          journal);
+                                         "they are: %1")
+                                          .arg(journal));
         }
         Q_EMIT historyEnded();
         Q_EMIT changed();
@@ -129,8 +129,8 @@ void PropertyAssignments::endAction()
     } else if (!std::exchange(m_hasToldOfJournal, true)) {
         HostUi::current().warning(nullptr, tr("Pending Changes"),
                                   tr("Pending changes cannot be kept beside the program's settings. They "
-                                     "will be lost if the program ends before they are applied: ") +
-                                      m_designs.journalError());
+                                     "will be lost if the program ends before they are applied: %1")
+                                      .arg(m_designs.journalError()));
     }
     if (!m_isSilent) {
         Q_EMIT edited(changes.before, changes.after);

@@ -36,6 +36,7 @@ void addValueField(BOMTemplate &settings)
 {
     const BOMFields old = settings.fields();
     BOMField value;
+    //: Stands in reports, which have one language on all machines: leave it as it is.
     value.fieldName = freeName(QCoreApplication::translate("BOMPartsDatabase", "Value"),
                                [&old](const QString &name) { return old.contains(name); });
     value.propertyName = valueProperty();
@@ -61,6 +62,7 @@ void addMiscCategory(BOMTemplate &settings)
         headings.insert(category.heading);
     }
     BOMCategory misc;
+    //: Stands in reports, which have one language on all machines: leave it as it is.
     misc.heading = freeName(QCoreApplication::translate("BOMPartsDatabase", "Miscellaneous"),
                             [&headings](const QString &name) { return headings.contains(name); });
     misc.references = QStringList{QStringLiteral("*")};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/netlist/cdbcore.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 #include <ostream>
@@ -25,7 +26,9 @@ QString CDBPROBLEM::message() const
 
 void CDBCORE::adi(std::istream &, std::ostream &report, int)
 {
-    report << "This component database cannot be written\n";
+    report
+        << QCoreApplication::translate("CDBCORE", "This component database cannot be written").toStdString()
+        << '\n';
 }
 
 CDBCORE *getcdb()

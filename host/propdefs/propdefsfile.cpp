@@ -4,6 +4,7 @@
 
 #include "files/regularfile.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -15,6 +16,11 @@
 #include <optional>
 
 namespace {
+
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(PropertyDefinitions)
+};
 
 constexpr auto shippedDefinitions = "[PROPDEFS]\n"
                                     "\"PACKAGE\",STRING\n"
@@ -68,17 +74,16 @@ QString parseKeywords(const QString &list, PROPDEF *definition)
         return {};
     }
     if (definition->type != PropType::String) {
-        return QStringLiteral("a list of values goes with STRING only; the list does not count");
+        return Texts::tr("a list of values goes with STRING only; the list does not count");
     }
     QStringList keywords;
     for (const QString &text : list.split(u'|')) {
         const QString keyword = text.trimmed();
         if (keyword.isEmpty()) {
-            return QStringLiteral("the list of values has an empty one; the list does not count");
+            return Texts::tr("the list of values has an empty one; the list does not count");
         }
         if (keywords.contains(keyword, Qt::CaseInsensitive)) {
-            return QStringLiteral("the list of values has \"") + keyword +
-                   QStringLiteral("\" twice; the list does not count");
+            return Texts::tr("the list of values has \"%1\" twice; the list does not count").arg(keyword);
         }
         keywords.append(keyword);
     }
@@ -95,12 +100,12 @@ QString parseLine(const QString &line, PROPDEF *definition, QString *list)
                        "(?:,\\s*\"(.*?)\"\\s*(?:,\\s*\"([^\"|]*\\|[^\"]*|)\"\\s*)?)?$"));
     const QRegularExpressionMatch match = pattern.match(line);
     if (!match.hasMatch() || match.capturedView(1).isEmpty()) {
-        return QStringLiteral("expected \"NAME\",TYPE or \"NAME\",TYPE,\"description\"");
+        return Texts::tr("expected \"NAME\",TYPE or \"NAME\",TYPE,\"description\"");
     }
     const auto type = typeOfKeyword(match.captured(2));
     if (!type) {
-        return QStringLiteral("unknown property type \"") + match.captured(2) +
-               QStringLiteral("\" (YESNO, HIGHLOW, TRUEFALSE, STRING, INT, FLOAT)");
+        return Texts::tr("unknown property type \"%1\" (YESNO, HIGHLOW, TRUEFALSE, STRING, INT, FLOAT)")
+            .arg(match.captured(2));
     }
     *definition = PROPDEF{match.captured(1), *type, match.captured(3)};
     *list = match.captured(4);
@@ -112,7 +117,7 @@ std::optional<QByteArray> contentOf(const QString &path, QString *wrong)
 {
     std::optional<QByteArray> bytes = contentOfRegularFile(path, mostBytes, wrong);
     if (bytes && bytes->size() > mostBytes) {
-        *wrong = QStringLiteral("the file is larger than 1 MiB, the most that definitions may have");
+        *wrong = Texts::tr("the file is larger than 1 MiB, the most that definitions may have");
         return std::nullopt;
     }
     return bytes;
@@ -209,8 +214,8 @@ DIDX PROPTEXT::definitions(QStringList *problems) const
         if (wrong.isEmpty()) {
             wrong = parseKeywords(list, &definition);
             if (!index.add(definition)) {
-                wrong = u'"' + definition.name +
-                        QStringLiteral("\" is defined twice; the first definition counts");
+                wrong =
+                    Texts::tr("\"%1\" is defined twice; the first definition counts").arg(definition.name);
             }
         }
         if (!wrong.isEmpty() && problems) {
@@ -249,7 +254,7 @@ bool load_defaultdefs(DIDX *index, PROPTEXT *text, QStringList *problems)
     const DIDX definitions = read.definitions(&found);
     if (problems) {
         if (!read.hasSection(sectionName())) {
-            problems->append(theFile + QStringLiteral(": there is no section [PROPDEFS]"));
+            problems->append(theFile + QStringLiteral(": ") + Texts::tr("there is no section [PROPDEFS]"));
         }
         for (const QString &problem : std::as_const(found)) {
             problems->append(theFile + u':' + problem);
