@@ -10,6 +10,7 @@
 #include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -17,6 +18,11 @@
 namespace {
 
 using designs::BomSettings;
+
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(FittedTemplate)
+};
 
 bool isOneOf(const QString &text, std::initializer_list<QLatin1String> texts)
 {
@@ -129,26 +135,33 @@ QString namesOf(const BOMFields &columns)
 QStringList leftOutNotices(const MadeColumns &columns)
 {
     return columns.leftOut.isEmpty() ? QStringList()
-                                     : QStringList(QStringLiteral("too many columns; without one are: ") +
-                                                   columns.leftOut.join(QStringLiteral(", ")));
+                                     : QStringList(Texts::tr("too many columns; without one are: %1")
+                                                       .arg(columns.leftOut.join(QStringLiteral(", "))));
 }
 
-FittedTemplate projectTemplate(const ListedParts &parts, const BomSettings &settings, const QString &what)
+/// `preset` is its name, where the columns are not those that the project shows now.
+QString projectReason(const std::optional<QString> &preset, const QString &columns)
+{
+    return preset ? Texts::tr("columns of the project's preset \"%1\": %2").arg(*preset, columns)
+                  : Texts::tr("columns of the project's BOM settings: %1").arg(columns);
+}
+
+FittedTemplate projectTemplate(const ListedParts &parts, const BomSettings &settings,
+                               const std::optional<QString> &preset)
 {
     const BOMFields shown = withValue(parts, projectColumns(parts, settings));
     const QStringList &own = shown.names();
     const MadeColumns columns = withTellingColumns(parts, shown);
     const QStringList added = columns.fields.names().sliced(own.size());
     FittedTemplate fitted{settingsWith(parts, columns.fields), {}, leftOutNotices(columns)};
-    fitted.reason =
-        QStringLiteral("columns of ") + what + QStringLiteral(": ") + own.join(QStringLiteral(", "));
+    fitted.reason = projectReason(preset, own.join(QStringLiteral(", ")));
     if (!added.isEmpty()) {
-        fitted.reason += QStringLiteral("; and ") + added.join(QStringLiteral(", ")) +
-                         QStringLiteral(", which tell parts apart");
+        fitted.reason = Texts::tr("%1; and %2, which tell parts apart")
+                            .arg(fitted.reason, added.join(QStringLiteral(", ")));
     }
     if (!settings.filter.isEmpty()) {
-        fitted.notices << QStringLiteral("the filter \"") + settings.filter +
-                              QStringLiteral("\" of the project's BOM settings is not followed");
+        fitted.notices << Texts::tr("the filter \"%1\" of the project's BOM settings is not followed")
+                              .arg(settings.filter);
     }
     return fitted;
 }
@@ -167,8 +180,7 @@ std::optional<FittedTemplate> templateFromFile(const QString &path, QString *pro
     if (!settings) {
         return std::nullopt;
     }
-    FittedTemplate fitted{
-        *settings, QStringLiteral("template ") + path + QStringLiteral(" beside the design"), {}};
+    FittedTemplate fitted{*settings, Texts::tr("template %1 beside the design").arg(path), {}};
     if (settings->isOfLaterVersion()) {
         const TemplateMessage message = settings->laterVersionMessage();
         fitted.notices << (message.detail.isEmpty() ? message.text : message.detail);
@@ -197,20 +209,21 @@ std::optional<FittedTemplate> fittedTemplate(const LoadedDesign &design, QString
     const designs::ProjectBom &bom = design.design().projectBom();
     const ListedParts parts(design);
     if (!areKicadsOwn(bom.current) && !projectColumns(parts, bom.current).isEmpty()) {
-        FittedTemplate fitted =
-            projectTemplate(parts, bom.current, QStringLiteral("the project's BOM settings"));
+        FittedTemplate fitted = projectTemplate(parts, bom.current, std::nullopt);
         fitted.notices += bom.problems;
         return fitted;
     }
     if (design.properties().fields().names() == nullptr) {
         BOMTemplate settings;
         settings.setName(TemplateList::defaultName());
-        return FittedTemplate{settings, QStringLiteral("template Default, as names are taken as they are"),
-                              bom.problems};
+        return FittedTemplate{
+            settings,
+            Texts::tr("template %1, as names are taken as they are").arg(TemplateList::defaultName()),
+            bom.problems};
     }
     const MadeColumns columns = madeColumns(parts);
     return FittedTemplate{settingsWith(parts, columns.fields),
-                          QStringLiteral("columns made for what the parts have: ") + namesOf(columns.fields),
+                          Texts::tr("columns made for what the parts have: %1").arg(namesOf(columns.fields)),
                           bom.problems + leftOutNotices(columns)};
 }
 
@@ -222,8 +235,7 @@ std::optional<FittedTemplate> presetTemplate(const LoadedDesign &design, const Q
             return !settings.fields.isEmpty() && settings.name.compare(preset, sensitivity) == 0;
         });
         if (found != all.end()) {
-            return projectTemplate(ListedParts(design), *found,
-                                   QStringLiteral("the project's preset \"") + readable(found->name) + u'"');
+            return projectTemplate(ListedParts(design), *found, readable(found->name));
         }
     }
     return std::nullopt;
@@ -260,7 +272,7 @@ FittedTemplate columnTemplate(const LoadedDesign &design, const QStringList &pro
         addColumn(parts, properties.at(i).trimmed(), labels.value(i).trimmed(), &columns);
     }
     const BOMFields complete = withValue(parts, columns);
-    FittedTemplate fitted{settingsWith(parts, complete), QStringLiteral("columns ") + namesOf(columns), {}};
+    FittedTemplate fitted{settingsWith(parts, complete), Texts::tr("columns %1").arg(namesOf(columns)), {}};
     fitted.settings.setExcludeValueField(complete.size() > columns.size());
     return fitted;
 }

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "fitting/prefixcategories.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <array>
 
@@ -16,39 +14,35 @@ struct Heading
     const char *prefixes;
 };
 
+/// Not translated: a report has one language on all machines.
 /// The letters of IEEE 315 and ASME Y14.44, and those that libraries of symbols have besides.
 constexpr std::array<Heading, 25> headings{{
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Modules"), "A M MOD"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Integrated Circuits"), "U IC"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Transistors"), "Q TR"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Diodes"), "D CR ZD"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "LEDs"), "LED"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Capacitors"), "C"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Resistors"), "R"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Resistor Networks"), "RN RA RP"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Variable Resistors"), "RV POT"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Thermistors"), "TH RT NTC PTC"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Inductors"), "L"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Ferrite Beads"), "FB"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Filters"), "FL"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Transformers"), "T"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Crystals and Oscillators"), "X Y OSC XTAL"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Fuses"), "F"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Relays"), "K RL"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Switches"), "SW S"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Connectors"), "J P CN CON"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Jumpers"), "JP SJ"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Batteries"), "BT BAT"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Sound"), "LS BZ MK MIC"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Antennas"), "AE ANT"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Test Points"), "TP"},
-    {QT_TRANSLATE_NOOP("PrefixCategories", "Mechanical"), "H MH MP HS FID"},
+    {"Modules", "A M MOD"},
+    {"Integrated Circuits", "U IC"},
+    {"Transistors", "Q TR"},
+    {"Diodes", "D CR ZD"},
+    {"LEDs", "LED"},
+    {"Capacitors", "C"},
+    {"Resistors", "R"},
+    {"Resistor Networks", "RN RA RP"},
+    {"Variable Resistors", "RV POT"},
+    {"Thermistors", "TH RT NTC PTC"},
+    {"Inductors", "L"},
+    {"Ferrite Beads", "FB"},
+    {"Filters", "FL"},
+    {"Transformers", "T"},
+    {"Crystals and Oscillators", "X Y OSC XTAL"},
+    {"Fuses", "F"},
+    {"Relays", "K RL"},
+    {"Switches", "SW S"},
+    {"Connectors", "J P CN CON"},
+    {"Jumpers", "JP SJ"},
+    {"Batteries", "BT BAT"},
+    {"Sound", "LS BZ MK MIC"},
+    {"Antennas", "AE ANT"},
+    {"Test Points", "TP"},
+    {"Mechanical", "H MH MP HS FID"},
 }};
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("PrefixCategories", text);
-}
 
 } // namespace
 
@@ -61,12 +55,10 @@ QList<BOMCategory> prefixCategories(const QStringList &prefixes)
             return prefixes.contains(prefix);
         });
         if (isUsed) {
-            categories.append({translated(heading.text), known, false});
+            categories.append({QString::fromLatin1(heading.text), known, false});
         }
     }
-    const QString rest = categories.isEmpty()
-                             ? translated(QT_TRANSLATE_NOOP("PrefixCategories", "Parts"))
-                             : translated(QT_TRANSLATE_NOOP("PrefixCategories", "Miscellaneous"));
+    const QString rest = categories.isEmpty() ? QStringLiteral("Parts") : QStringLiteral("Miscellaneous");
     categories.append({rest, {QStringLiteral("*")}, true});
     return categories;
 }

@@ -25,12 +25,19 @@ BOMCategory BOMCategory::fromVariantMap(const QVariantMap &map)
 QList<BOMCategory> BOMCategory::defaults()
 {
     return {
+        //: Stands in reports, which have one language on all machines: leave it as it is.
         {QCoreApplication::translate("BOMCategory", "Modules"), {QStringLiteral("M")}, false},
+        //: Stands in reports, which have one language on all machines: leave it as it is.
         {QCoreApplication::translate("BOMCategory", "Capacitors"), {QStringLiteral("C")}, false},
+        //: Stands in reports, which have one language on all machines: leave it as it is.
         {QCoreApplication::translate("BOMCategory", "Resistors"), {QStringLiteral("R")}, false},
+        //: Stands in reports, which have one language on all machines: leave it as it is.
         {QCoreApplication::translate("BOMCategory", "Integrated Circuits"), {QStringLiteral("U")}, false},
+        //: Stands in reports, which have one language on all machines: leave it as it is.
         {QCoreApplication::translate("BOMCategory", "Transistors"), {QStringLiteral("Q")}, false},
+        //: Stands in reports, which have one language on all machines: leave it as it is.
         {QCoreApplication::translate("BOMCategory", "Diodes"), {QStringLiteral("D")}, false},
+        //: Stands in reports, which have one language on all machines: leave it as it is.
         {QCoreApplication::translate("BOMCategory", "Miscellaneous"), {QStringLiteral("*")}, true},
     };
 }

@@ -99,17 +99,20 @@ void BOMFields::setDefaults()
     clear();
 
     BOMField value;
+    //: Stands in reports, which have one language on all machines: leave it as it is.
     value.fieldName = tr("Value");
     value.propertyName = QStringLiteral("VALUE");
     add(value);
 
     BOMField stockCode;
+    //: Stands in reports, which have one language on all machines: leave it as it is.
     stockCode.fieldName = tr("Stock Code");
     stockCode.propertyName = QStringLiteral("CODE");
     stockCode.enableLinks = true;
     add(stockCode);
 
     BOMField unitCost;
+    //: Stands in reports, which have one language on all machines: leave it as it is.
     unitCost.fieldName = tr("Unit Cost");
     unitCost.propertyName = QStringLiteral("COST");
     unitCost.generateTotals = true;

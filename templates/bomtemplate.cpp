@@ -242,7 +242,8 @@ TemplateMessage BOMTemplate::laterVersionMessage() const
     const QString detail = tr("has the format version %1, which is later than %2: settings that this version "
                               "does not know are left out");
     return {tr("BOM Template of a Later Version"), text.arg(m_record.name),
-            m_record.filePath + QLatin1String(": ") + detail.arg(m_record.fileVersion).arg(CurrentVersion)};
+            m_record.filePath + QLatin1String(": ") +
+                detail.arg(QString::number(m_record.fileVersion), QString::number(CurrentVersion))};
 }
 
 QVariantMap BOMTemplate::toVariantMap() const

@@ -7,6 +7,7 @@
 #ifdef Q_OS_WIN
 #include <QDir>
 #endif
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QHash>
 #include <QMap>
@@ -17,6 +18,11 @@
 #include <algorithm>
 
 namespace {
+
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(LegacyScripts)
+};
 
 /// Scripts by name, in the order in which the names came first.
 class ScriptSet final
@@ -100,8 +106,9 @@ private:
     void endUnfinished()
     {
         if (m_script && m_problems) {
-            m_problems->append(QString::number(m_startLine) + QStringLiteral(": the script \"") +
-                               m_script->name + QStringLiteral("\" has no line \"*END SCRIPT\""));
+            m_problems->append(QString::number(m_startLine) + QStringLiteral(": ") +
+                               Texts::tr("the script \"%1\" has no line \"%2\"")
+                                   .arg(m_script->name, QStringLiteral("*END SCRIPT")));
         }
         end();
     }
@@ -117,7 +124,7 @@ private:
 std::optional<QByteArray> bytesOf(const QString &path, QString *reason)
 {
     if (!QFileInfo::exists(path)) {
-        *reason = QStringLiteral("there is no such file");
+        *reason = Texts::tr("there is no such file");
         return std::nullopt;
     }
     std::optional<QByteArray> bytes = contentOfRegularFile(path, mostLegacyScriptBytes, reason);
@@ -125,11 +132,11 @@ std::optional<QByteArray> bytesOf(const QString &path, QString *reason)
         return std::nullopt;
     }
     if (bytes->size() > mostLegacyScriptBytes) {
-        *reason = QStringLiteral("the file is larger than 4 MiB, the most that BOM scripts may have");
+        *reason = Texts::tr("the file is larger than 4 MiB, the most that BOM scripts may have");
         return std::nullopt;
     }
     if (bytes->contains('\0')) {
-        *reason = QStringLiteral("the file is no text");
+        *reason = Texts::tr("the file is no text");
         return std::nullopt;
     }
     return bytes;
@@ -185,7 +192,8 @@ QList<LegacyScript> readLegacyScripts(const QString &path, QStringList *problems
     QStringList found;
     QList<LegacyScript> scripts = legacyScripts(decoded(*bytes), &found);
     if (scripts.isEmpty()) {
-        addProblem(QStringLiteral(": there is no line \"*BOM SCRIPT\""));
+        addProblem(QStringLiteral(": ") +
+                   Texts::tr("there is no line \"%1\"").arg(QStringLiteral("*BOM SCRIPT")));
     }
     for (const QString &problem : std::as_const(found)) {
         addProblem(u':' + problem);
@@ -213,9 +221,10 @@ std::optional<LegacyScript> readLegacyScript(const QString &path, const QString 
     }
     QStringList names;
     for (const LegacyScript &script : scripts) {
-        names.append(u'"' + script.name + u'"');
+        names.append(Texts::tr("\"%1\"").arg(script.name));
     }
-    problems->append(path + QStringLiteral(": name one of the scripts ") + names.join(QLatin1String(", ")));
+    problems->append(path + QStringLiteral(": ") +
+                     Texts::tr("name one of the scripts %1").arg(names.join(QLatin1String(", "))));
     return std::nullopt;
 }
 

@@ -38,6 +38,7 @@ public:
     [[nodiscard]] BOMTemplate result()
     {
         if (std::ranges::none_of(m_categories, &BOMCategory::isMiscCategory)) {
+            //: Stands in reports, which have one language on all machines: leave it as it is.
             m_categories.append(BOMCategory{tr("Miscellaneous"), {QStringLiteral("*")}, true});
         }
         BOMTemplate made;
@@ -133,9 +134,9 @@ BOMTemplate legacyTemplate(const LegacyScript &script)
 
 QString proposedTemplateName(const QString &scriptName, const TemplateList &templates)
 {
-    const QString name = scriptName.isEmpty()
-                             ? QCoreApplication::translate("BOMTemplateImporter", "Imported Template")
-                             : scriptName;
+    //: A name in settings, options and scripts: leave it as it is.
+    const QString imported = QCoreApplication::translate("BOMTemplateImporter", "Imported Template");
+    const QString name = scriptName.isEmpty() ? imported : scriptName;
     return templates.contains(name) ? name + QStringLiteral("-copy") : name;
 }
 

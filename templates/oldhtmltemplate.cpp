@@ -24,10 +24,10 @@ void logError(const QString &reason)
     qDebug().noquote().nospace() << "BOM v1 template import error:" << reason;
 }
 
-QString tr(const char *text)
+class Texts
 {
-    return QCoreApplication::translate("OldHtmlTemplate", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(OldHtmlTemplate)
+};
 
 /// What stands between the tags of the element whose start tag was just read.
 QString innerText(QXmlStreamReader &reader, const QString &xml)
@@ -83,7 +83,7 @@ OldHtmlTemplate readOldHtmlTemplate(const QString &path)
         return {};
     }
     if (bytes->size() > largest) {
-        logError(tr("The file is too large."));
+        logError(Texts::tr("The file is too large."));
         return {};
     }
     TidyLibWrapper tidy;
@@ -110,6 +110,7 @@ bool upgradeTemplate(BOMTemplate &settings)
 void showTemplateUpgraded(QWidget *parent, const QString &templateName)
 {
     HostUi::current().information(
-        parent, tr("BOM Template Upgraded"),
-        tr("The BOM template '%1' has been upgraded.  Some styling may have changed.").arg(templateName));
+        parent, Texts::tr("BOM Template Upgraded"),
+        Texts::tr("The BOM template '%1' has been upgraded.  Some styling may have changed.")
+            .arg(templateName));
 }

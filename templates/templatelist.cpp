@@ -128,6 +128,7 @@ bool TemplateList::isShipped(const QString &name) const
 
 QString TemplateList::defaultName()
 {
+    //: A name in settings, options and scripts: leave it as it is.
     return tr("Default");
 }
 
@@ -200,7 +201,7 @@ void TemplateList::removeLegacyEntry(const QString &name) const
             const QString file = m_legacySettings->fileName();
             showTemplateMessage({tr("Template Deletion"),
                                  tr("The old settings file '%1' still holds the template.").arg(file),
-                                 file + QStringLiteral(": cannot be written")});
+                                 file + QStringLiteral(": ") + tr("cannot be written")});
         }
     }
 }

@@ -4,12 +4,19 @@
 
 #include "templates/clampedint.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QMetaType>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
 namespace {
+
+class Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(BOMTemplateFile)
+};
+
 const QLatin1String ElementName("Element");
 const QLatin1String TypeName("Type");
 const QLatin1String ValueName("Value");
@@ -75,7 +82,7 @@ bool failText(QXmlStreamReader &reader, const char *line)
 {
     const QString token = reader.tokenString();
     qDebug().noquote().nospace() << line << token;
-    return fail(reader, QStringLiteral("text expected, found ") + token);
+    return fail(reader, Texts::tr("text expected, found %1").arg(token));
 }
 
 // Skips the rest of an element. The reader stands after its start tag, perhaps on a tag inside it, and ends
@@ -116,7 +123,7 @@ public:
     bool readMap(QVariantMap &map, int nesting)
     {
         if (nesting > MaximumXmlNesting)
-            return fail(m_reader, QStringLiteral("elements are nested too deeply"));
+            return fail(m_reader, Texts::tr("elements are nested too deeply"));
         int depth = 0;
         while (!m_reader.atEnd()) {
             if (m_reader.isStartElement()) {
