@@ -239,6 +239,15 @@ TEST_F(CsvPartList, LeavesOutRowsThatRepeatTheHeadingsOrSumUp)
               "list.csv:6: the row sums up (\"Total: 2 parts\") and names no parts: it is left out\n");
 }
 
+TEST_F(CsvPartList, TellsOfTextsThatLookLikePlaceholdersAsTheyAre)
+{
+    const auto design = load("Ref,%3,%3,Qty\nR1-R2,a,b,%2\n");
+    EXPECT_EQ(warnings(*design),
+              "list.csv:1: column 3 repeats the heading \"%3\": it is read as \"%3 (2)\"\n"
+              "list.csv:1: there is no value column\n"
+              "list.csv:2: the quantity is \"%2\", but the row names 2 references: the references count\n");
+}
+
 TEST_F(CsvPartList, SumsUpEqualWarnings)
 {
     std::string bytes = "Ref,Value\n";
