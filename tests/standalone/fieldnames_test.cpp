@@ -3,14 +3,29 @@
 #include "standalone/fieldnames.h"
 
 #include "standalone/fieldtables.h"
+#include "standalone/fieldtitles.h"
 #include "standalone/loadeddesign.h"
 #include "support/testpaths.h"
 #include "tests/standalone/tabledesign.h"
 #include "tests/support/testfiles.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 #include <gtest/gtest.h>
 
 namespace {
+
+/// Has a text for everything.
+class AnyTranslator final : public QTranslator
+{
+public:
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char *, const char *, const char *, int) const override
+    {
+        return QStringLiteral("translated");
+    }
+};
 
 QString data(const char *file)
 {
@@ -52,6 +67,20 @@ TEST(FieldNames, MeanWhatPeopleMeanByThem)
                 EXPECT_EQ(sense(*all, name), line.first(colon)) << name.toStdString();
             }
         }
+    }
+}
+
+TEST(FieldNames, ShippedTitlesAreShownInTheLanguageOfTheUser)
+{
+    int argc = 1;
+    char name[] = "test";
+    char *argv[] = {name, nullptr};
+    const QCoreApplication application(argc, argv);
+    AnyTranslator translator;
+    ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
+    for (const FieldMeaning &meaning : names("[own] my number\nMine\n")->meanings()) {
+        EXPECT_EQ(shownTitle(meaning), meaning.key == u"own" ? u"my number" : u"translated")
+            << meaning.title.toStdString();
     }
 }
 
