@@ -80,6 +80,25 @@
     </message>
 </context>
 <context>
+    <name>AssignmentBatch</name>
+    <message>
+        <source>A definition of BOM-only parts cannot hold this text</source>
+        <translation>Eine Definition von Bauteilen, die nur in der Stückliste stehen, kann diesen Text nicht aufnehmen</translation>
+    </message>
+    <message>
+        <source>A part that this defines is changed as well</source>
+        <translation>Ein Bauteil, das hiermit definiert wird, wird ebenfalls geändert</translation>
+    </message>
+    <message>
+        <source>A line break cannot be written</source>
+        <translation>Ein Zeilenumbruch kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>This name cannot be written</source>
+        <translation>Dieser Name kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
     <name>BOMAsciiView</name>
     <message>
         <source>ASCII file to save</source>
@@ -135,6 +154,44 @@
     <message>
         <source>The miscellaneous category is required.</source>
         <translation>Die Kategorie für alles Übrige wird gebraucht.</translation>
+    </message>
+</context>
+<context>
+    <name>BOMCategory</name>
+    <message>
+        <source>Modules</source>
+        <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
+        <translation>Modules</translation>
+    </message>
+    <message>
+        <source>Capacitors</source>
+        <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
+        <translation>Capacitors</translation>
+    </message>
+    <message>
+        <source>Resistors</source>
+        <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
+        <translation>Resistors</translation>
+    </message>
+    <message>
+        <source>Integrated Circuits</source>
+        <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
+        <translation>Integrated Circuits</translation>
+    </message>
+    <message>
+        <source>Transistors</source>
+        <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
+        <translation>Transistors</translation>
+    </message>
+    <message>
+        <source>Diodes</source>
+        <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
+        <translation>Diodes</translation>
+    </message>
+    <message>
+        <source>Miscellaneous</source>
+        <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
+        <translation>Miscellaneous</translation>
     </message>
 </context>
 <context>
@@ -454,6 +511,24 @@
     <message>
         <source>Number of decimal places</source>
         <translation>Anzahl der Nachkommastellen</translation>
+    </message>
+</context>
+<context>
+    <name>BOMFields</name>
+    <message>
+        <source>Value</source>
+        <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>Stock Code</source>
+        <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
+        <translation>Stock Code</translation>
+    </message>
+    <message>
+        <source>Unit Cost</source>
+        <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
+        <translation>Unit Cost</translation>
     </message>
 </context>
 <context>
@@ -915,6 +990,66 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>BOMPartsDatabase</name>
+    <message>
+        <source>Miscellaneous</source>
+        <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
+        <translation>Miscellaneous</translation>
+    </message>
+    <message>
+        <source>Placed</source>
+        <translation>Platziert</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>The template has no field for VALUE; one was added as the first column.</source>
+        <translation>Die Vorlage hat kein Feld für VALUE; eines wurde als erste Spalte hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>The template has no miscellaneous category; one was added as the last.</source>
+        <translation>Die Vorlage hat keine Kategorie für alles Übrige; eine wurde als letzte hinzugefügt.</translation>
+    </message>
+</context>
+<context>
+    <name>BOMTemplate</name>
+    <message>
+        <source>The BOM template &apos;%1&apos; could not be loaded.  Default settings loaded.</source>
+        <translation>Die Stücklistenvorlage „%1“ konnte nicht geladen werden.  Die Standardeinstellungen wurden geladen.</translation>
+    </message>
+    <message>
+        <source>BOM Template Load Failed</source>
+        <translation>Stücklistenvorlage nicht geladen</translation>
+    </message>
+    <message>
+        <source>The BOM template &apos;%1&apos; was not saved.  An unknown error occurred.</source>
+        <translation>Die Stücklistenvorlage „%1“ wurde nicht gespeichert.  Ein unbekannter Fehler ist aufgetreten.</translation>
+    </message>
+    <message>
+        <source>BOM Template Save Failed</source>
+        <translation>Stücklistenvorlage nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>The BOM template &apos;%1&apos; was written by a later version of this program.  Settings that this version does not know are left out.</source>
+        <translation>Die Stücklistenvorlage „%1“ wurde von einer neueren Version dieses Programms geschrieben.  Einstellungen, die diese Version nicht kennt, fehlen.</translation>
+    </message>
+    <message>
+        <source>has the format version %1, which is later than %2: settings that this version does not know are left out</source>
+        <translation>hat die Formatversion %1, die neuer als %2 ist: Einstellungen, die diese Version nicht kennt, fehlen</translation>
+    </message>
+    <message>
+        <source>BOM Template of a Later Version</source>
+        <translation>Stücklistenvorlage einer neueren Version</translation>
+    </message>
+</context>
+<context>
     <name>BOMTemplateEditor</name>
     <message>
         <source>BOM HTML Editor</source>
@@ -933,6 +1068,41 @@ Trotzdem ausgeben?</translation>
 %2</source>
         <translation>%1: Der Text kann nicht angezeigt werden. Er bleibt, wie er ist, solange kein anderer geschrieben wird.
 %2</translation>
+    </message>
+</context>
+<context>
+    <name>BOMTemplateFile</name>
+    <message>
+        <source>the document is no BOM template</source>
+        <translation>das Dokument ist keine Stücklistenvorlage</translation>
+    </message>
+    <message>
+        <source>the template has no version</source>
+        <translation>die Vorlage hat keine Version</translation>
+    </message>
+    <message>
+        <source>the file is too large for a template</source>
+        <translation>die Datei ist für eine Vorlage zu groß</translation>
+    </message>
+    <message>
+        <source>an element has too many attributes</source>
+        <translation>ein Element hat zu viele Attribute</translation>
+    </message>
+    <message>
+        <source>the template&apos;s name cannot be a file name</source>
+        <translation>der Name der Vorlage kann kein Dateiname sein</translation>
+    </message>
+    <message>
+        <source>a text holds a character that XML cannot carry</source>
+        <translation>ein Text enthält ein Zeichen, das in XML nicht stehen kann</translation>
+    </message>
+    <message>
+        <source>text expected, found %1</source>
+        <translation>Text erwartet, aber %1 gefunden</translation>
+    </message>
+    <message>
+        <source>elements are nested too deeply</source>
+        <translation>die Elemente sind zu tief geschachtelt</translation>
     </message>
 </context>
 <context>
@@ -1033,12 +1203,32 @@ Trotzdem ausgeben?</translation>
         <source>Scripts for bills of materials of earlier versions can become templates. Close this window if you have none; it opens again from the menu Templates.</source>
         <translation>Aus Stücklistenskripten früherer Versionen können Vorlagen werden. Schließen Sie dieses Fenster, wenn Sie keine haben; es öffnet sich wieder aus dem Menü Vorlagen.</translation>
     </message>
+    <message>
+        <source>Imported Template</source>
+        <extracomment>A name in settings, options and scripts: leave it as it is.</extracomment>
+        <translation>Imported Template</translation>
+    </message>
 </context>
 <context>
     <name>BOMView</name>
     <message>
         <source>Output Failed</source>
         <translation>Ausgabe fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Could not open file &apos;%1&apos; for writing</source>
+        <translation>Die Datei „%1“ konnte nicht zum Schreiben geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Could not write file &apos;%1&apos;: %2</source>
+        <translation>Die Datei „%1“ konnte nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CDBCORE</name>
+    <message>
+        <source>This component database cannot be written</source>
+        <translation>Diese Bauteildatenbank kann nicht geschrieben werden</translation>
     </message>
 </context>
 <context>
@@ -1150,6 +1340,93 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>ChangeScript</name>
+    <message>
+        <source>script line %1: %2</source>
+        <translation>Skriptzeile %1: %2</translation>
+    </message>
+    <message>
+        <source>the script ends within a record</source>
+        <translation>das Skript endet mitten in einem Datensatz</translation>
+    </message>
+    <message>
+        <source>the script ends within a line</source>
+        <translation>das Skript endet mitten in einer Zeile</translation>
+    </message>
+    <message>
+        <source>the line is longer than %1 bytes</source>
+        <translation>die Zeile ist länger als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>the line is no UTF-8 text</source>
+        <translation>die Zeile ist kein Text in UTF-8</translation>
+    </message>
+    <message>
+        <source>an empty line must follow END</source>
+        <translation>auf END muss eine leere Zeile folgen</translation>
+    </message>
+    <message>
+        <source>a record begins with DATA NAME, a colon, the reference and a hyphen</source>
+        <translation>ein Datensatz beginnt mit DATA NAME, einem Doppelpunkt, der Referenz und einem Bindestrich</translation>
+    </message>
+    <message>
+        <source>the reference is missing</source>
+        <translation>die Referenz fehlt</translation>
+    </message>
+    <message>
+        <source>this is neither a property with its value, both in quotes, nor END</source>
+        <translation>dies ist weder eine Eigenschaft mit ihrem Wert, beide in Anführungszeichen, noch END</translation>
+    </message>
+    <message>
+        <source>the property has no name</source>
+        <translation>die Eigenschaft hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>the script holds more than %1 properties</source>
+        <translation>das Skript enthält mehr als %1 Eigenschaften</translation>
+    </message>
+    <message>
+        <source>the design was read again before all was written</source>
+        <translation>der Entwurf wurde neu gelesen, bevor alles geschrieben war</translation>
+    </message>
+    <message>
+        <source>scripts have no other mode than 0</source>
+        <translation>Skripte haben keinen anderen Modus als 0</translation>
+    </message>
+    <message>
+        <source>no design is open</source>
+        <translation>kein Entwurf ist geöffnet</translation>
+    </message>
+    <message>
+        <source>the design has no part of this reference</source>
+        <translation>der Entwurf hat kein Bauteil mit dieser Referenz</translation>
+    </message>
+    <message>
+        <source>several symbols have this reference: %1</source>
+        <translation>mehrere Symbole haben diese Referenz: %1</translation>
+    </message>
+    <message>
+        <source>the design spells this name %1, which defines no BOM-only parts: rename it there first</source>
+        <translation>der Entwurf schreibt diesen Namen %1; so definiert er keine Bauteile für die Stückliste: Benennen Sie die Eigenschaft dort zuerst um</translation>
+    </message>
+    <message>
+        <source>another text is asked for under the name %1</source>
+        <translation>unter dem Namen %1 wird ein anderer Text verlangt</translation>
+    </message>
+    <message>
+        <source>%1, and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>the design cannot be written</source>
+        <translation>der Entwurf kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>a part of what was to be written was given up</source>
+        <translation>ein Teil dessen, was geschrieben werden sollte, wurde verworfen</translation>
+    </message>
+</context>
+<context>
     <name>ColorField</name>
     <message>
         <source>not set</source>
@@ -1239,6 +1516,123 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>DesignFile</name>
+    <message>
+        <source>this design cannot be changed</source>
+        <translation>dieser Entwurf kann nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>dies ist ein Ordner, keine Datei</translation>
+    </message>
+    <message>
+        <source>this is a device or pipe, not a file</source>
+        <translation>dies ist ein Gerät oder eine Pipe, keine Datei</translation>
+    </message>
+    <message>
+        <source>cannot be read: %1</source>
+        <translation>kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>the file is larger than 2 GiB</source>
+        <translation>die Datei ist größer als 2 GiB</translation>
+    </message>
+    <message>
+        <source>this is no file of this kind: it does not begin with &quot;%1&quot;</source>
+        <translation>dies ist keine Datei dieser Art: Sie beginnt nicht mit „%1“</translation>
+    </message>
+    <message>
+        <source>cannot be read to its end: %1</source>
+        <translation>kann nicht bis zum Ende gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>this is a folder; give the .kicad_sch, .kicad_pro or .csv file in it</source>
+        <translation>dies ist ein Ordner; geben Sie die .kicad_sch-, .kicad_pro- oder .csv-Datei darin an</translation>
+    </message>
+    <message>
+        <source>this is a schematic of KiCad 5 or earlier; open it in KiCad 6 or later and save it</source>
+        <translation>dies ist ein Schaltplan von KiCad 5 oder früher; öffnen und speichern Sie ihn in KiCad 6 oder neuer</translation>
+    </message>
+    <message>
+        <source>this is a board; give the schematic or the project</source>
+        <translation>dies ist eine Leiterplatte; geben Sie den Schaltplan oder das Projekt an</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+</context>
+<context>
+    <name>DesignNotes</name>
+    <message>
+        <source>The notes were changed by another program after they were loaded</source>
+        <translation>Die Notizen wurden nach dem Laden von einem anderen Programm geändert</translation>
+    </message>
+    <message>
+        <source>No design is open</source>
+        <translation>Kein Entwurf ist geöffnet</translation>
+    </message>
+</context>
+<context>
+    <name>DesignSession</name>
+    <message>
+        <source>The design was written</source>
+        <translation>Der Entwurf wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>It cannot be read again, and is shown as it was before: %1</source>
+        <translation>Er kann nicht neu gelesen werden und wird gezeigt, wie er vorher war: %1</translation>
+    </message>
+    <message>
+        <source>notes are at most 16 MB</source>
+        <translation>Notizen haben höchstens 16 MB</translation>
+    </message>
+    <message>
+        <source>the previous notes cannot be kept in %1</source>
+        <translation>die vorherigen Notizen können nicht in %1 aufbewahrt werden</translation>
+    </message>
+    <message>
+        <source>the previous notes cannot be kept in %1: %2</source>
+        <translation>die vorherigen Notizen können nicht in %1 aufbewahrt werden: %2</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>ist keine Datei</translation>
+    </message>
+    <message>
+        <source>is larger than 16 MB</source>
+        <translation>ist größer als 16 MB</translation>
+    </message>
+    <message>
+        <source>is no UTF-8 text</source>
+        <translation>ist kein Text in UTF-8</translation>
+    </message>
+    <message>
+        <source>no reference is named</source>
+        <translation>keine Referenz ist genannt</translation>
+    </message>
+    <message>
+        <source>is written again and again while it is read: try again when that has ended</source>
+        <translation>wird während des Lesens immer wieder geschrieben: Versuchen Sie es noch einmal, wenn das beendet ist</translation>
+    </message>
+    <message>
+        <source>the design has no place for such a text</source>
+        <translation>der Entwurf hat keinen Platz für einen solchen Text</translation>
+    </message>
+    <message>
+        <source>a board has no place for such a text</source>
+        <translation>eine Leiterplatte hat keinen Platz für einen solchen Text</translation>
+    </message>
+</context>
+<context>
     <name>DesignStatus</name>
     <message>
         <source>%1 listed</source>
@@ -1275,6 +1669,245 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>: a text variable ${...} is not resolved</source>
         <translation>: Eine Textvariable ${...} ist nicht aufgelöst</translation>
+    </message>
+</context>
+<context>
+    <name>DesignWriting</name>
+    <message>
+        <source>the write could be neither completed nor taken back; the next command that reads the design tries again</source>
+        <translation>der Schreibvorgang konnte weder abgeschlossen noch zurückgenommen werden; der nächste Befehl, der den Entwurf liest, versucht es wieder</translation>
+    </message>
+    <message>
+        <source>was changed since it was written: nothing is taken back</source>
+        <translation>wurde seit dem Schreiben geändert: Nichts wird zurückgenommen</translation>
+    </message>
+    <message>
+        <source>is missing or damaged: nothing is taken back</source>
+        <translation>fehlt oder ist beschädigt: Nichts wird zurückgenommen</translation>
+    </message>
+    <message>
+        <source>was not written for that reason: try again</source>
+        <translation>wurde aus diesem Grund nicht geschrieben: Versuchen Sie es noch einmal</translation>
+    </message>
+    <message>
+        <source>there is nothing to take back</source>
+        <translation>es gibt nichts zurückzunehmen</translation>
+    </message>
+    <message>
+        <source>cannot be used: %1</source>
+        <translation>kann nicht verwendet werden: %1</translation>
+    </message>
+    <message>
+        <source>another program is just writing this design: try again when it has finished</source>
+        <translation>ein anderes Programm schreibt diesen Entwurf gerade: Versuchen Sie es noch einmal, wenn es fertig ist</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1 cannot be created: %2</source>
+        <translation>kann nicht geschrieben werden: %1 kann nicht angelegt werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>cannot be removed: %1</source>
+        <translation>kann nicht gelöscht werden: %1</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1 %2</source>
+        <translation>kann nicht geschrieben werden: %1 %2</translation>
+    </message>
+    <message>
+        <source>cannot be created: %1</source>
+        <translation>kann nicht angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>cannot get its permissions: %1</source>
+        <translation>kann ihre Zugriffsrechte nicht erhalten: %1</translation>
+    </message>
+    <message>
+        <source>cannot be opened again: %1</source>
+        <translation>kann nicht erneut geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>cannot be replaced: %1</source>
+        <translation>kann nicht ersetzt werden: %1</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made: %1</source>
+        <translation>der Ordner kann nicht angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>the folder cannot be written: %1</source>
+        <translation>in den Ordner kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>cannot be looked at: %1</source>
+        <translation>kann nicht geprüft werden: %1</translation>
+    </message>
+    <message>
+        <source>was changed since it was read</source>
+        <translation>wurde seit dem Lesen geändert</translation>
+    </message>
+    <message>
+        <source>its new content is not the one that was checked</source>
+        <translation>ihr neuer Inhalt ist nicht der geprüfte</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1 or %2 does not hold what was written to it</source>
+        <translation>kann nicht geschrieben werden: %1 oder %2 enthält nicht, was hineingeschrieben wurde</translation>
+    </message>
+    <message>
+        <source>cannot get its previous content again: it does not stand any more in %1</source>
+        <translation>kann ihren vorherigen Inhalt nicht zurückerhalten: Er steht nicht mehr in %1</translation>
+    </message>
+    <message>
+        <source>holds the new content</source>
+        <translation>hat den neuen Inhalt</translation>
+    </message>
+    <message>
+        <source>holds the previous content</source>
+        <translation>hat den vorherigen Inhalt</translation>
+    </message>
+    <message>
+        <source>was changed meanwhile</source>
+        <translation>wurde inzwischen geändert</translation>
+    </message>
+    <message>
+        <source>cannot be read any more</source>
+        <translation>kann nicht mehr gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1; the new content stands in %2</source>
+        <translation>%1; der neue Inhalt steht in %2</translation>
+    </message>
+    <message>
+        <source>%1; the previous content stands in %2</source>
+        <translation>%1; der vorherige Inhalt steht in %2</translation>
+    </message>
+    <message>
+        <source>%1 is a symbolic link</source>
+        <translation>%1 ist ein symbolischer Link</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>sie kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>it is damaged or of another version</source>
+        <translation>sie ist beschädigt oder von einer anderen Version</translation>
+    </message>
+    <message>
+        <source>it is damaged or names files that are none of this design</source>
+        <translation>sie ist beschädigt oder nennt Dateien, die nicht zu diesem Entwurf gehören</translation>
+    </message>
+    <message>
+        <source>somebody</source>
+        <translation>jemand</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <translation>%1 auf %2</translation>
+    </message>
+    <message>
+        <source>is open in KiCad (%1): close it there; if it is open nowhere, delete %2</source>
+        <translation>ist in KiCad geöffnet (%1): Schließen Sie die Datei dort; ist sie nirgends geöffnet, löschen Sie %2</translation>
+    </message>
+    <message>
+        <source>belongs to %1, which %2</source>
+        <translation>gehört zu %1; diese Datei %2</translation>
+    </message>
+    <message>
+        <source>was being written when that was interrupted, which can now be neither completed nor taken back</source>
+        <translation>wurde gerade geschrieben, als das unterbrochen wurde; jetzt kann es weder abgeschlossen noch zurückgenommen werden</translation>
+    </message>
+    <message>
+        <source>tells of an interrupted write, but cannot be used: %1. Nothing was touched. Check the files of the design, then delete this one</source>
+        <translation>berichtet von einem unterbrochenen Schreibvorgang, kann aber nicht verwendet werden: %1. Nichts wurde angerührt. Prüfen Sie die Dateien des Entwurfs und löschen Sie dann diese</translation>
+    </message>
+    <message>
+        <source>a write was interrupted before it changed any file: what it had prepared was removed</source>
+        <translation>ein Schreibvorgang wurde unterbrochen, bevor er eine Datei änderte: Was vorbereitet war, wurde gelöscht</translation>
+    </message>
+    <message>
+        <source>was changed after an interrupted write had replaced it: it was left as it is now</source>
+        <translation>wurde geändert, nachdem ein unterbrochener Schreibvorgang sie ersetzt hatte: Sie bleibt, wie sie jetzt ist</translation>
+    </message>
+    <message>
+        <source>an interrupted write was completed</source>
+        <translation>ein unterbrochener Schreibvorgang wurde abgeschlossen</translation>
+    </message>
+    <message>
+        <source>was changed while a write was interrupted: it was left as it is now</source>
+        <translation>wurde geändert, während ein Schreibvorgang unterbrochen war: Sie bleibt, wie sie jetzt ist</translation>
+    </message>
+    <message>
+        <source>an interrupted write was taken back: none of its changes is in the files, make them again</source>
+        <translation>ein unterbrochener Schreibvorgang wurde zurückgenommen: Keine seiner Änderungen steht in den Dateien, nehmen Sie sie noch einmal vor</translation>
+    </message>
+    <message>
+        <source>a write was interrupted and files were changed since, so that it can neither be completed nor taken back. Nothing was touched. Bring the files named here into order, then delete %1</source>
+        <translation>ein Schreibvorgang wurde unterbrochen, und seither wurden Dateien geändert, sodass er weder abgeschlossen noch zurückgenommen werden kann. Nichts wurde angerührt. Bringen Sie die hier genannten Dateien in Ordnung und löschen Sie dann %1</translation>
+    </message>
+    <message>
+        <source>a write was interrupted, but this file %1</source>
+        <translation>ein Schreibvorgang wurde unterbrochen, aber diese Datei %1</translation>
+    </message>
+    <message>
+        <source>does not exist any more</source>
+        <translation>gibt es nicht mehr</translation>
+    </message>
+    <message>
+        <source>is named twice among the files to write</source>
+        <translation>ist unter den Dateien, die zu schreiben sind, zweimal genannt</translation>
+    </message>
+    <message>
+        <source>is no ordinary file</source>
+        <translation>ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>has %1 names (hard links), and writing would separate them: put a copy in its place, or work on the copy</source>
+        <translation>hat %1 Namen (Hardlinks), und das Schreiben würde sie trennen: Setzen Sie eine Kopie an ihre Stelle oder arbeiten Sie an der Kopie</translation>
+    </message>
+    <message>
+        <source>is no file of this design</source>
+        <translation>ist keine Datei dieses Entwurfs</translation>
+    </message>
+    <message>
+        <source>lies outside the design&apos;s folder and is of another kind</source>
+        <translation>liegt außerhalb des Ordners des Entwurfs und ist von anderer Art</translation>
+    </message>
+    <message>
+        <source>may not be written: %1</source>
+        <translation>darf nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>may not be written: it is read-only</source>
+        <translation>darf nicht geschrieben werden: Sie ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>cannot be replaced, because its folder may not be written: %1</source>
+        <translation>kann nicht ersetzt werden, weil in ihren Ordner nicht geschrieben werden darf: %1</translation>
+    </message>
+    <message>
+        <source>is in the way of a backup</source>
+        <translation>ist einer Sicherungskopie im Weg</translation>
+    </message>
+    <message>
+        <source>the folder may not be written: %1</source>
+        <translation>in den Ordner darf nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>is in the way of the folder for backups</source>
+        <translation>ist dem Ordner für Sicherungskopien im Weg</translation>
     </message>
 </context>
 <context>
@@ -1358,6 +1991,208 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>FieldMeaning</name>
+    <message>
+        <source>maker&apos;s part number</source>
+        <translation>Teilenummer des Herstellers</translation>
+    </message>
+    <message>
+        <source>the house&apos;s own number</source>
+        <translation>eigene Nummer des Hauses</translation>
+    </message>
+    <message>
+        <source>maker</source>
+        <translation>Hersteller</translation>
+    </message>
+    <message>
+        <source>supplier</source>
+        <translation>Lieferant</translation>
+    </message>
+    <message>
+        <source>supplier&apos;s part number</source>
+        <translation>Teilenummer des Lieferanten</translation>
+    </message>
+    <message>
+        <source>LCSC&apos;s number</source>
+        <translation>Nummer bei LCSC</translation>
+    </message>
+    <message>
+        <source>DigiKey&apos;s number</source>
+        <translation>Nummer bei DigiKey</translation>
+    </message>
+    <message>
+        <source>Mouser&apos;s number</source>
+        <translation>Nummer bei Mouser</translation>
+    </message>
+    <message>
+        <source>Farnell&apos;s number</source>
+        <translation>Nummer bei Farnell</translation>
+    </message>
+    <message>
+        <source>Newark&apos;s number</source>
+        <translation>Nummer bei Newark</translation>
+    </message>
+    <message>
+        <source>RS&apos;s number</source>
+        <translation>Nummer bei RS</translation>
+    </message>
+    <message>
+        <source>TME&apos;s number</source>
+        <translation>Nummer bei TME</translation>
+    </message>
+    <message>
+        <source>Arrow&apos;s number</source>
+        <translation>Nummer bei Arrow</translation>
+    </message>
+    <message>
+        <source>Avnet&apos;s number</source>
+        <translation>Nummer bei Avnet</translation>
+    </message>
+    <message>
+        <source>Future&apos;s number</source>
+        <translation>Nummer bei Future</translation>
+    </message>
+    <message>
+        <source>Conrad&apos;s number</source>
+        <translation>Nummer bei Conrad</translation>
+    </message>
+    <message>
+        <source>Reichelt&apos;s number</source>
+        <translation>Nummer bei Reichelt</translation>
+    </message>
+    <message>
+        <source>Distrelec&apos;s number</source>
+        <translation>Nummer bei Distrelec</translation>
+    </message>
+    <message>
+        <source>Bürklin&apos;s number</source>
+        <translation>Nummer bei Bürklin</translation>
+    </message>
+    <message>
+        <source>Rutronik&apos;s number</source>
+        <translation>Nummer bei Rutronik</translation>
+    </message>
+    <message>
+        <source>Verical&apos;s number</source>
+        <translation>Nummer bei Verical</translation>
+    </message>
+    <message>
+        <source>TTI&apos;s number</source>
+        <translation>Nummer bei TTI</translation>
+    </message>
+    <message>
+        <source>price of one piece</source>
+        <translation>Preis pro Stück</translation>
+    </message>
+    <message>
+        <source>description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>datasheet</source>
+        <translation>Datenblatt</translation>
+    </message>
+    <message>
+        <source>tolerance</source>
+        <translation>Toleranz</translation>
+    </message>
+    <message>
+        <source>voltage rating</source>
+        <translation>Nennspannung</translation>
+    </message>
+    <message>
+        <source>current rating</source>
+        <translation>Nennstrom</translation>
+    </message>
+    <message>
+        <source>power rating</source>
+        <translation>Nennleistung</translation>
+    </message>
+    <message>
+        <source>dielectric</source>
+        <translation>Dielektrikum</translation>
+    </message>
+    <message>
+        <source>temperature coefficient</source>
+        <translation>Temperaturkoeffizient</translation>
+    </message>
+    <message>
+        <source>do not fit</source>
+        <translation>nicht bestücken</translation>
+    </message>
+    <message>
+        <source>substitute</source>
+        <translation>Ersatz</translation>
+    </message>
+    <message>
+        <source>no field for people</source>
+        <translation>nicht für Menschen bestimmt</translation>
+    </message>
+</context>
+<context>
+    <name>FieldTable</name>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>is no UTF-8 text; nothing of it is read</source>
+        <translation>ist kein Text in UTF-8; nichts davon wird gelesen</translation>
+    </message>
+    <message>
+        <source>has no names of properties</source>
+        <translation>enthält keine Namen von Eigenschaften</translation>
+    </message>
+    <message>
+        <source>%1 more lines are passed over</source>
+        <translation>%1 weitere Zeilen werden übergangen</translation>
+    </message>
+    <message>
+        <source>%1 is no heading such as [mpn] or [mpn] maker&apos;s part number; it is passed over with its names</source>
+        <translation>%1 ist keine Überschrift wie [mpn] oder [mpn] Teilenummer des Herstellers; sie wird mit ihren Namen übergangen</translation>
+    </message>
+    <message>
+        <source>there are more than %1 meanings</source>
+        <translation>es gibt mehr als %1 Bedeutungen</translation>
+    </message>
+    <message>
+        <source>%1 stands below no heading such as [mpn]; it is passed over</source>
+        <translation>%1 steht unter keiner Überschrift wie [mpn] und wird übergangen</translation>
+    </message>
+    <message>
+        <source>%1 is no name of a property; it is passed over</source>
+        <translation>%1 ist kein Name einer Eigenschaft und wird übergangen</translation>
+    </message>
+    <message>
+        <source>a table has at most %1 names; this one is passed over</source>
+        <translation>eine Tabelle hat höchstens %1 Namen; dieser wird übergangen</translation>
+    </message>
+    <message>
+        <source>%1 is always read by its own name; it is passed over</source>
+        <translation>%1 wird immer unter dem eigenen Namen gelesen und hier übergangen</translation>
+    </message>
+    <message>
+        <source>%1 stands under %2 already (line %3); it is passed over</source>
+        <translation>%1 steht schon unter %2 (Zeile %3) und wird übergangen</translation>
+    </message>
+    <message>
+        <source>a table has at most %1 names with &quot;@&quot; or &quot;*&quot;</source>
+        <translation>eine Tabelle hat höchstens %1 Namen mit „@“ oder „*“</translation>
+    </message>
+    <message>
+        <source>is larger than 1 MB; its names of properties are not known</source>
+        <translation>ist größer als 1 MB; ihre Namen von Eigenschaften sind nicht bekannt</translation>
+    </message>
+    <message>
+        <source>%1; its names of properties are not known</source>
+        <translation>%1; ihre Namen von Eigenschaften sind nicht bekannt</translation>
+    </message>
+    <message>
+        <source>is larger than 1 MB, which no description of a service is</source>
+        <translation>ist größer als 1 MB, mehr hat keine Beschreibung eines Dienstes</translation>
+    </message>
+</context>
+<context>
     <name>FieldWidthSpinBox</name>
     <message>
         <source>No Limit</source>
@@ -1366,6 +2201,45 @@ Trotzdem ausgeben?</translation>
     <message>
         <source> Characters</source>
         <translation> Zeichen</translation>
+    </message>
+</context>
+<context>
+    <name>FittedTemplate</name>
+    <message>
+        <source>too many columns; without one are: %1</source>
+        <translation>zu viele Spalten; ohne eigene Spalte sind: %1</translation>
+    </message>
+    <message>
+        <source>columns of the project&apos;s preset &quot;%1&quot;: %2</source>
+        <translation>Spalten der Voreinstellung „%1“ des Projekts: %2</translation>
+    </message>
+    <message>
+        <source>columns of the project&apos;s BOM settings: %1</source>
+        <translation>Spalten der Stücklisteneinstellungen des Projekts: %1</translation>
+    </message>
+    <message>
+        <source>%1; and %2, which tell parts apart</source>
+        <translation>%1; dazu %2, um Bauteile zu unterscheiden</translation>
+    </message>
+    <message>
+        <source>the filter &quot;%1&quot; of the project&apos;s BOM settings is not followed</source>
+        <translation>der Filter „%1“ der Stücklisteneinstellungen des Projekts wird nicht angewendet</translation>
+    </message>
+    <message>
+        <source>template %1 beside the design</source>
+        <translation>Vorlage %1 neben dem Entwurf</translation>
+    </message>
+    <message>
+        <source>template %1, as names are taken as they are</source>
+        <translation>Vorlage %1, weil Namen genommen werden, wie sie sind</translation>
+    </message>
+    <message>
+        <source>columns made for what the parts have: %1</source>
+        <translation>Spalten nach dem, was die Bauteile haben: %1</translation>
+    </message>
+    <message>
+        <source>columns %1</source>
+        <translation>Spalten %1</translation>
     </message>
 </context>
 <context>
@@ -1380,6 +2254,346 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>An HTML element has too many attributes.</source>
         <translation>Ein HTML-Element hat zu viele Attribute.</translation>
+    </message>
+</context>
+<context>
+    <name>JoinedLine</name>
+    <message>
+        <source>none on %1</source>
+        <translation>kein Text bei %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; on %2</source>
+        <translation>„%1“ bei %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more texts</source>
+        <translation>%1 und %2 weitere Texte</translation>
+    </message>
+    <message>
+        <source>%1 are one line and differ in %2: %3</source>
+        <translation>%1 sind eine Stücklistenzeile und unterscheiden sich in %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>KicadDesign</name>
+    <message>
+        <source>%1 is no object</source>
+        <translation>%1 ist kein Objekt</translation>
+    </message>
+    <message>
+        <source>%1 has no list &quot;fields_ordered&quot;</source>
+        <translation>%1 hat keine Liste „fields_ordered“</translation>
+    </message>
+    <message>
+        <source>some of the BOM settings cannot be read: %1</source>
+        <translation>ein Teil der Stücklisteneinstellungen kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 has more than %2 fields</source>
+        <translation>%1 hat mehr als %2 Felder</translation>
+    </message>
+    <message>
+        <source>%1 has a field without a name</source>
+        <translation>%1 hat ein Feld ohne Namen</translation>
+    </message>
+    <message>
+        <source>%1 is no list</source>
+        <translation>%1 ist keine Liste</translation>
+    </message>
+    <message>
+        <source>preset %1</source>
+        <translation>Voreinstellung %1</translation>
+    </message>
+    <message>
+        <source>the flags for BOM and population</source>
+        <translation>den Kennzeichen für Stückliste und Bestückung</translation>
+    </message>
+    <message>
+        <source>%1: its units differ in %2; the lowest unit that says something counts</source>
+        <translation>%1: die Einheiten unterscheiden sich in %2; es gilt die unterste Einheit, die etwas angibt</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>%1: the symbol %2 is missing in the sheet&apos;s library cache; KiCad leaves such parts out of its own lists, here they count</source>
+        <translation>%1: das Symbol %2 fehlt im Bibliothekscache des Blatts; KiCad lässt solche Bauteile in seinen eigenen Listen weg, hier zählen sie</translation>
+    </message>
+    <message>
+        <source>sheet %1: %2 of its symbols have no record for this use of the sheet; the references stored in the symbols themselves count</source>
+        <translation>Blatt %1: %2 seiner Symbole haben keinen Eintrag für diese Verwendung des Blatts; es gelten die Referenzen, die in den Symbolen selbst stehen</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8; what cannot be read shows as �</source>
+        <translation>der Text ist nicht in UTF-8; was nicht gelesen werden kann, erscheint als �</translation>
+    </message>
+    <message>
+        <source>the hierarchy uses sheets more than %1 times</source>
+        <translation>die Hierarchie verwendet Blätter mehr als %1-mal</translation>
+    </message>
+    <message>
+        <source>the hierarchy holds more than %1 symbols</source>
+        <translation>die Hierarchie enthält mehr als %1 Symbole</translation>
+    </message>
+    <message>
+        <source>sheet &quot;%1&quot; names no file</source>
+        <translation>das Blatt „%1“ nennt keine Datei</translation>
+    </message>
+    <message>
+        <source>sheet &quot;%1&quot; is more than %2 sheets deep</source>
+        <translation>das Blatt „%1“ liegt mehr als %2 Blätter tief</translation>
+    </message>
+    <message>
+        <source>sheet &quot;%1&quot; uses the file %2, which does not exist</source>
+        <translation>das Blatt „%1“ verwendet die Datei %2, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>sheet &quot;%1&quot; makes the sheets contain themselves: %2</source>
+        <translation>durch das Blatt „%1“ enthalten Blätter sich selbst: %2</translation>
+    </message>
+    <message>
+        <source>text variables name each other in a circle or too often; some stay as they stand</source>
+        <translation>Textvariablen verweisen im Kreis oder zu oft aufeinander; manche bleiben, wie sie dastehen</translation>
+    </message>
+    <message>
+        <source>the design has no variant &quot;%1&quot;; it has none</source>
+        <translation>der Entwurf hat keine Variante „%1“; er hat gar keine</translation>
+    </message>
+    <message>
+        <source>the design has no variant &quot;%1&quot;; it has %2</source>
+        <translation>der Entwurf hat keine Variante „%1“; er hat %2</translation>
+    </message>
+    <message>
+        <source>a symbol has more than %1 properties</source>
+        <translation>ein Symbol hat mehr als %1 Eigenschaften</translation>
+    </message>
+    <message>
+        <source>the file ends inside a list: it is cut off or a &quot;)&quot; is missing</source>
+        <translation>die Datei endet mitten in einer Liste: Sie ist abgeschnitten, oder eine „)“ fehlt</translation>
+    </message>
+    <message>
+        <source>the project file is broken: %1</source>
+        <translation>die Projektdatei ist fehlerhaft: %1</translation>
+    </message>
+    <message>
+        <source>the board file is cut off</source>
+        <translation>die Datei der Leiterplatte ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>the text that begins here is not closed on its line</source>
+        <translation>der Text, der hier beginnt, endet nicht in seiner Zeile</translation>
+    </message>
+    <message>
+        <source>lists are nested deeper than %1</source>
+        <translation>Listen sind tiefer als %1 geschachtelt</translation>
+    </message>
+    <message>
+        <source>this is no KiCad schematic: it does not begin with &quot;(kicad_sch&quot;</source>
+        <translation>dies ist kein Schaltplan von KiCad: Er beginnt nicht mit „(kicad_sch“</translation>
+    </message>
+    <message>
+        <source>the schematic has no version, or none that can be read</source>
+        <translation>der Schaltplan hat keine Version oder keine lesbare</translation>
+    </message>
+    <message>
+        <source>the schematic is of version %1, before KiCad 6; open it in KiCad 6 or later and save it</source>
+        <translation>der Schaltplan ist von Version %1, vor KiCad 6; öffnen und speichern Sie ihn in KiCad 6 oder neuer</translation>
+    </message>
+    <message>
+        <source>there is text behind the end of the schematic</source>
+        <translation>hinter dem Ende des Schaltplans steht Text</translation>
+    </message>
+    <message>
+        <source>the rule areas have more than %1 corners</source>
+        <translation>die Regelbereiche haben mehr als %1 Ecken</translation>
+    </message>
+    <message>
+        <source>cannot be read again for the count: %1</source>
+        <translation>kann für die Zählung nicht noch einmal gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>it is more than %1 sheets deep</source>
+        <translation>sie liegt mehr als %1 Blätter tief</translation>
+    </message>
+</context>
+<context>
+    <name>KicadEdit</name>
+    <message>
+        <source>more than what was asked for would change</source>
+        <translation>es würde sich mehr ändern als verlangt</translation>
+    </message>
+    <message>
+        <source>it could not be read any more: %1</source>
+        <translation>er wäre nicht mehr lesbar: %1</translation>
+    </message>
+    <message>
+        <source>it would not read as what was asked for</source>
+        <translation>er würde nicht als das gelesen, was verlangt wurde</translation>
+    </message>
+    <message>
+        <source>the text holds a variable for a property that is changed with it; change one after the other</source>
+        <translation>der Text enthält eine Variable für eine Eigenschaft, die zugleich geändert wird; ändern Sie eines nach dem anderen</translation>
+    </message>
+    <message>
+        <source>drawn by one symbol of a sheet that is used several times, and asked to differ: %1</source>
+        <translation>von einem Symbol eines mehrfach verwendeten Blatts gezeichnet und soll sich doch unterscheiden: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>was changed since it was read; read the design again</source>
+        <translation>wurde seit dem Lesen geändert; lesen Sie den Entwurf neu</translation>
+    </message>
+    <message>
+        <source>the sheet %1 as a whole is marked &quot;do not populate&quot;; that can only be changed at the sheet, in KiCad</source>
+        <translation>das Blatt %1 ist als Ganzes als „nicht bestücken“ gekennzeichnet; das kann nur in KiCad am Blatt geändert werden</translation>
+    </message>
+    <message>
+        <source>the sheet %1 as a whole is marked &quot;not in the BOM&quot;; that can only be changed at the sheet, in KiCad</source>
+        <translation>das Blatt %1 ist als Ganzes als „nicht in der Stückliste“ gekennzeichnet; das kann nur in KiCad am Blatt geändert werden</translation>
+    </message>
+    <message>
+        <source>the symbol lies in a rule area on the sheet %1 that is marked &quot;do not populate&quot;; that can only be changed in KiCad</source>
+        <translation>das Symbol liegt auf dem Blatt %1 in einem Regelbereich, der als „nicht bestücken“ gekennzeichnet ist; das kann nur in KiCad geändert werden</translation>
+    </message>
+    <message>
+        <source>the symbol lies in a rule area on the sheet %1 that is marked &quot;not in the BOM&quot;; that can only be changed in KiCad</source>
+        <translation>das Symbol liegt auf dem Blatt %1 in einem Regelbereich, der als „nicht in der Stückliste“ gekennzeichnet ist; das kann nur in KiCad geändert werden</translation>
+    </message>
+    <message>
+        <source>the design has no such component</source>
+        <translation>der Entwurf hat kein solches Bauteil</translation>
+    </message>
+    <message>
+        <source>references are given by KiCad and cannot be changed here</source>
+        <translation>Referenzen vergibt KiCad; sie können hier nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>a part cannot be without a value</source>
+        <translation>ein Bauteil kann nicht ohne Wert sein</translation>
+    </message>
+    <message>
+        <source>a variant can change a property, but not take it away; open the design without the variant to remove it</source>
+        <translation>eine Variante kann eine Eigenschaft ändern, aber nicht entfernen; öffnen Sie den Entwurf dafür ohne die Variante</translation>
+    </message>
+    <message>
+        <source>the variant &quot;%1&quot; has a text of its own for it; it must go from there first</source>
+        <translation>die Variante „%1“ hat einen eigenen Text dafür; er muss dort zuerst weg</translation>
+    </message>
+    <message>
+        <source>%1 is yes or no; &quot;%2&quot; is neither</source>
+        <translation>%1 ist „yes“ oder „no“; „%2“ ist keines von beiden</translation>
+    </message>
+    <message>
+        <source>the symbol has a property BOMSKIP, which a variant cannot take away; open the design without the variant to remove it</source>
+        <translation>das Symbol hat eine Eigenschaft BOMSKIP, die eine Variante nicht entfernen kann; öffnen Sie den Entwurf dafür ohne die Variante</translation>
+    </message>
+    <message>
+        <source>the file holds no record for this use of its sheet that could take what a variant changes; save the design in KiCad 10 first</source>
+        <translation>die Datei hat für diese Verwendung ihres Blatts keinen Eintrag, der die Änderung einer Variante aufnehmen könnte; speichern Sie den Entwurf zuerst in KiCad 10</translation>
+    </message>
+    <message>
+        <source>a variant can only change properties that the symbol has; open the design without the variant to add one</source>
+        <translation>eine Variante kann nur Eigenschaften ändern, die das Symbol hat; öffnen Sie den Entwurf ohne die Variante, um eine hinzuzufügen</translation>
+    </message>
+    <message>
+        <source>the row of the table of instances is not found again</source>
+        <translation>die Zeile der Instanzentabelle wird nicht wiedergefunden</translation>
+    </message>
+    <message>
+        <source>the symbol is not found again</source>
+        <translation>das Symbol wird nicht wiedergefunden</translation>
+    </message>
+    <message>
+        <source>the changes to the file get in each other&apos;s way</source>
+        <translation>die Änderungen an der Datei kommen einander in die Quere</translation>
+    </message>
+    <message>
+        <source>the file&apos;s new text did not stand the check: %1</source>
+        <translation>der neue Text der Datei hat die Prüfung nicht bestanden: %1</translation>
+    </message>
+    <message>
+        <source>the symbol has no property that shows how one is laid out</source>
+        <translation>das Symbol hat keine Eigenschaft, die zeigt, wie eine angeordnet ist</translation>
+    </message>
+    <message>
+        <source>the symbol&apos;s record of this use of the sheet cannot be found again</source>
+        <translation>der Eintrag des Symbols für diese Verwendung des Blatts wird nicht wiedergefunden</translation>
+    </message>
+    <message>
+        <source>the text holds a NUL character</source>
+        <translation>der Text enthält ein NUL-Zeichen</translation>
+    </message>
+    <message>
+        <source>the text is not UTF-8</source>
+        <translation>der Text ist nicht in UTF-8</translation>
+    </message>
+    <message>
+        <source>the text holds &quot;@{&quot;, which KiCad would calculate</source>
+        <translation>der Text enthält „@{“, was KiCad berechnen würde</translation>
+    </message>
+    <message>
+        <source>the text holds a name in braces, like {slash}, that KiCad reads as one character</source>
+        <translation>der Text enthält einen Namen in geschweiften Klammern wie {slash}, den KiCad als ein Zeichen liest</translation>
+    </message>
+    <message>
+        <source>KiCad would replace a variable, &quot;${...}&quot;, in the text by what it stands for</source>
+        <translation>KiCad würde eine Variable, „${...}“, im Text durch ihren Inhalt ersetzen</translation>
+    </message>
+    <message>
+        <source>a single &quot;~&quot; reads as an empty text in this version of the format</source>
+        <translation>ein einzelnes „~“ gilt in dieser Version des Formats als leerer Text</translation>
+    </message>
+    <message>
+        <source>a property needs a name</source>
+        <translation>eine Eigenschaft braucht einen Namen</translation>
+    </message>
+    <message>
+        <source>a property&apos;s name cannot hold line breaks, tabs or other control characters</source>
+        <translation>der Name einer Eigenschaft kann keine Zeilenumbrüche, Tabulatoren oder anderen Steuerzeichen enthalten</translation>
+    </message>
+    <message>
+        <source>a property&apos;s name cannot begin or end with a blank</source>
+        <translation>der Name einer Eigenschaft kann nicht mit einem Leerzeichen beginnen oder enden</translation>
+    </message>
+    <message>
+        <source>a property&apos;s name cannot hold a variable</source>
+        <translation>der Name einer Eigenschaft kann keine Variable enthalten</translation>
+    </message>
+</context>
+<context>
+    <name>LegacyScripts</name>
+    <message>
+        <source>the script &quot;%1&quot; has no line &quot;%2&quot;</source>
+        <translation>das Skript „%1“ hat keine Zeile „%2“</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the file is larger than 4 MiB, the most that BOM scripts may have</source>
+        <translation>die Datei ist größer als 4 MiB; mehr dürfen Stücklistenskripte nicht haben</translation>
+    </message>
+    <message>
+        <source>the file is no text</source>
+        <translation>die Datei ist kein Text</translation>
+    </message>
+    <message>
+        <source>there is no line &quot;%1&quot;</source>
+        <translation>es gibt keine Zeile „%1“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>name one of the scripts %1</source>
+        <translation>nennen Sie eines der Skripte %1</translation>
     </message>
 </context>
 <context>
@@ -1465,6 +2679,21 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>OldHtmlTemplate</name>
+    <message>
+        <source>The file is too large.</source>
+        <translation>Die Datei ist zu groß.</translation>
+    </message>
+    <message>
+        <source>BOM Template Upgraded</source>
+        <translation>Stücklistenvorlage umgestellt</translation>
+    </message>
+    <message>
+        <source>The BOM template &apos;%1&apos; has been upgraded.  Some styling may have changed.</source>
+        <translation>Die Stücklistenvorlage „%1“ wurde auf den neuen Stand gebracht.  Manches kann jetzt anders aussehen.</translation>
+    </message>
+</context>
+<context>
     <name>OptionsPanel</name>
     <message>
         <source>Categories</source>
@@ -1532,6 +2761,305 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>PartList</name>
+    <message>
+        <source>this is a spreadsheet or another packed file, no text: save it as CSV in UTF-8</source>
+        <translation>dies ist ein Tabellendokument oder eine andere gepackte Datei, kein Text: Speichern Sie die Tabelle als CSV in UTF-8</translation>
+    </message>
+    <message>
+        <source>this is an old spreadsheet or document, no text: save it as CSV in UTF-8</source>
+        <translation>dies ist ein altes Tabellen- oder anderes Dokument, kein Text: Speichern Sie die Tabelle als CSV in UTF-8</translation>
+    </message>
+    <message>
+        <source>this is a PDF document, no part list: export the list as CSV in UTF-8</source>
+        <translation>dies ist ein PDF-Dokument, keine Teileliste: Exportieren Sie die Liste als CSV in UTF-8</translation>
+    </message>
+    <message>
+        <source>the file is in UTF-16, which is not read: save it as CSV in UTF-8</source>
+        <translation>die Datei ist in UTF-16, das nicht gelesen wird: Speichern Sie sie als CSV in UTF-8</translation>
+    </message>
+    <message>
+        <source>there is a zero byte, so this is no text file: export the part list as CSV in UTF-8</source>
+        <translation>hier steht ein Nullbyte, also ist dies keine Textdatei: Exportieren Sie die Teileliste als CSV in UTF-8</translation>
+    </message>
+    <message>
+        <source>the file says that it is UTF-8, but this line is not: save it anew as CSV in UTF-8</source>
+        <translation>die Datei gibt sich als UTF-8 aus, aber diese Zeile ist es nicht: Speichern Sie sie neu als CSV in UTF-8</translation>
+    </message>
+    <message>
+        <source>the row has more than %1 cells: is this a part list?</source>
+        <translation>die Zeile hat mehr als %1 Zellen: Ist dies eine Teileliste?</translation>
+    </message>
+    <message>
+        <source>the list is too long: at most %1 rows and %2 cells are read</source>
+        <translation>die Liste ist zu lang: Höchstens %1 Zeilen und %2 Zellen werden gelesen</translation>
+    </message>
+    <message>
+        <source>a quote begins here that is never closed: close it, or double a quote that belongs to the text</source>
+        <translation>hier beginnt ein Anführungszeichen, das nie geschlossen wird: Schließen Sie es, oder verdoppeln Sie ein Anführungszeichen, das zum Text gehört</translation>
+    </message>
+    <message>
+        <source>there is text behind a closing quote: double a quote that belongs to the text, or put the delimiter behind it</source>
+        <translation>hinter einem schließenden Anführungszeichen steht Text: Verdoppeln Sie ein Anführungszeichen, das zum Text gehört, oder setzen Sie das Trennzeichen dahinter</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 MiB, the most that a part list may have</source>
+        <translation>die Datei ist größer als %1 MiB; mehr darf eine Teileliste nicht haben</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>this is no ordinary file</source>
+        <translation>dies ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened: %1</source>
+        <translation>die Datei kann nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>the file cannot be read: %1</source>
+        <translation>die Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>the text %1 is no valid text</source>
+        <translation>der Text %1 ist kein gültiger Text</translation>
+    </message>
+    <message>
+        <source>the text %1 has characters that the file, which is in Windows-1252, cannot hold: save the file in UTF-8 first</source>
+        <translation>der Text %1 hat Zeichen, die die Datei in Windows-1252 nicht aufnehmen kann: Speichern Sie die Datei zuerst in UTF-8</translation>
+    </message>
+    <message>
+        <source>the name %1 is empty or has blanks around it</source>
+        <translation>der Name %1 ist leer oder von Leerzeichen umgeben</translation>
+    </message>
+    <message>
+        <source>the name %1 has a line break in it</source>
+        <translation>der Name %1 enthält einen Zeilenumbruch</translation>
+    </message>
+    <message>
+        <source>the list has no column %1, and one cannot be added under this name, which has a meaning of its own</source>
+        <translation>die Liste hat keine Spalte %1, und unter diesem Namen kann keine hinzugefügt werden, weil er eine eigene Bedeutung hat</translation>
+    </message>
+    <message>
+        <source>the reference of a part cannot be changed</source>
+        <translation>die Referenz eines Bauteils kann nicht geändert werden</translation>
+    </message>
+    <message>
+        <source>the quantity cannot be changed: it follows from the references</source>
+        <translation>die Menge kann nicht geändert werden: Sie ergibt sich aus den Referenzen</translation>
+    </message>
+    <message>
+        <source>%1 can be Yes or No, but not %2</source>
+        <translation>%1 kann Yes oder No sein, aber nicht %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot hold blanks alone: they would be read as nothing</source>
+        <translation>%1 kann nicht nur Leerzeichen enthalten: Sie würden als nichts gelesen</translation>
+    </message>
+    <message>
+        <source>there is no such part</source>
+        <translation>dieses Bauteil gibt es nicht</translation>
+    </message>
+    <message>
+        <source>was changed since it was read</source>
+        <translation>wurde seit dem Lesen geändert</translation>
+    </message>
+    <message>
+        <source>the changed list could not be read again (line %1: %2)</source>
+        <translation>die geänderte Liste wäre nicht wieder lesbar (Zeile %1: %2)</translation>
+    </message>
+    <message>
+        <source>the changed list would not be read as it is meant, at %1</source>
+        <translation>die geänderte Liste würde bei %1 nicht so gelesen, wie sie gemeint ist</translation>
+    </message>
+    <message>
+        <source>the changed list would not have the same parts</source>
+        <translation>die geänderte Liste hätte nicht dieselben Bauteile</translation>
+    </message>
+    <message>
+        <source>the references %1 cannot be parted into rows of their own: write each with its letters</source>
+        <translation>die Referenzen %1 können nicht auf eigene Zeilen verteilt werden: Schreiben Sie jede mit ihren Buchstaben</translation>
+    </message>
+    <message>
+        <source>the file is empty: a part list has a row of headings and a row per part</source>
+        <translation>die Datei ist leer: Eine Teileliste hat eine Zeile mit Überschriften und eine Zeile je Bauteil</translation>
+    </message>
+    <message>
+        <source>there is no reference column: call one Reference, Designator or RefDes (the headings here are %1)</source>
+        <translation>es gibt keine Spalte mit Referenzen: Nennen Sie eine Reference, Designator oder RefDes (die Überschriften hier sind %1)</translation>
+    </message>
+    <message>
+        <source>the columns %1 can both hold the references: the first named is taken</source>
+        <translation>die Spalten %1 können beide die Referenzen enthalten: Die zuerst genannte wird genommen</translation>
+    </message>
+    <message>
+        <source>the columns %1 have the same meaning: rename or delete one of them</source>
+        <translation>die Spalten %1 bedeuten dasselbe: Benennen Sie eine von ihnen um oder löschen Sie sie</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>column %1 has no heading: it is read as %2</source>
+        <translation>Spalte %1 hat keine Überschrift: Sie wird als %2 gelesen</translation>
+    </message>
+    <message>
+        <source>column %1 repeats the heading %2: it is read as %3</source>
+        <translation>Spalte %1 wiederholt die Überschrift %2: Sie wird als %3 gelesen</translation>
+    </message>
+    <message>
+        <source>%1 is the name of one part and no range, because the list has %2 by itself</source>
+        <translation>%1 ist der Name eines Bauteils und kein Bereich, weil die Liste %2 allein enthält</translation>
+    </message>
+    <message>
+        <source>the quantity is %1, but the row names 1 reference: the references count</source>
+        <translation>die Menge ist %1, aber die Zeile nennt 1 Referenz: Es gelten die Referenzen</translation>
+    </message>
+    <message>
+        <source>the quantity is %1, but the row names %2 references: the references count</source>
+        <translation>die Menge ist %1, aber die Zeile nennt %2 Referenzen: Es gelten die Referenzen</translation>
+    </message>
+    <message>
+        <source>there is no value column</source>
+        <translation>es gibt keine Spalte mit Werten</translation>
+    </message>
+    <message>
+        <source>the list has more than %1 parts</source>
+        <translation>die Liste hat mehr als %1 Bauteile</translation>
+    </message>
+    <message>
+        <source>the row has %1 cells, but there are %2 headings: put a cell with a delimiter in it into quotes, or give column %3 a heading</source>
+        <translation>die Zeile hat %1 Zellen, aber es gibt %2 Überschriften: Setzen Sie eine Zelle, die ein Trennzeichen enthält, in Anführungszeichen, oder geben Sie Spalte %3 eine Überschrift</translation>
+    </message>
+    <message>
+        <source>the row has only %1 of %2 cells: the others are read as empty</source>
+        <translation>die Zeile hat nur %1 von %2 Zellen: Die übrigen gelten als leer</translation>
+    </message>
+    <message>
+        <source>the row (%1 …) has no reference: give it one, or delete the row if it is no part</source>
+        <translation>die Zeile (%1 …) hat keine Referenz: Geben Sie ihr eine, oder löschen Sie die Zeile, wenn sie kein Bauteil ist</translation>
+    </message>
+    <message>
+        <source>references that begin with &quot;#&quot; are no parts: %1 left out, the first one here</source>
+        <translation>Referenzen, die mit „#“ beginnen, sind keine Bauteile: %1 weggelassen, die erste hier</translation>
+    </message>
+    <message>
+        <source>no part follows the headings</source>
+        <translation>auf die Überschriften folgt kein Bauteil</translation>
+    </message>
+    <message>
+        <source>the file is not in UTF-8 and was read as Windows-1252: save it in UTF-8 if letters are wrong</source>
+        <translation>die Datei ist nicht in UTF-8 und wurde als Windows-1252 gelesen: Speichern Sie sie in UTF-8, wenn Buchstaben falsch sind</translation>
+    </message>
+    <message>
+        <source>%1 more rows, the last one here, repeat the headings or sum up and are left out</source>
+        <translation>%1 weitere Zeilen, die letzte hier, wiederholen die Überschriften oder sind Summen und werden weggelassen</translation>
+    </message>
+    <message>
+        <source>%1 more rows, the last one here, have fewer cells than there are headings</source>
+        <translation>%1 weitere Zeilen, die letzte hier, haben weniger Zellen, als es Überschriften gibt</translation>
+    </message>
+    <message>
+        <source>%1 more names, the last one here, could be ranges but are none</source>
+        <translation>%1 weitere Namen, der letzte hier, könnten Bereiche sein, sind aber keine</translation>
+    </message>
+    <message>
+        <source>%1 more rows, the last one here, have a quantity that differs from the number of their references</source>
+        <translation>%1 weitere Zeilen, die letzte hier, haben eine Menge, die von der Anzahl ihrer Referenzen abweicht</translation>
+    </message>
+    <message>
+        <source>a part list has no variants: leave out the variant %1</source>
+        <translation>eine Teileliste hat keine Varianten: Lassen Sie die Variante %1 weg</translation>
+    </message>
+    <message>
+        <source>the row repeats the headings and names no parts: it is left out</source>
+        <translation>die Zeile wiederholt die Überschriften und nennt keine Bauteile: Sie wird weggelassen</translation>
+    </message>
+    <message>
+        <source>the row sums up (%1) and names no parts: it is left out</source>
+        <translation>die Zeile ist eine Summe (%1) und nennt keine Bauteile: Sie wird weggelassen</translation>
+    </message>
+    <message>
+        <source>%1 does not name what its first sign joins</source>
+        <translation>%1 nennt nicht, was das erste Zeichen verbindet</translation>
+    </message>
+    <message>
+        <source>%1 is a range without an end</source>
+        <translation>%1 ist ein Bereich ohne Ende</translation>
+    </message>
+    <message>
+        <source>%1 is followed by another dash: write its references one by one</source>
+        <translation>auf %1 folgt noch ein Strich: Schreiben Sie die Referenzen einzeln</translation>
+    </message>
+    <message>
+        <source>%1 may be a count: delete it, or put a comma in front of it if it is the name of a part</source>
+        <translation>%1 kann eine Anzahl sein: Löschen Sie sie, oder setzen Sie ein Komma davor, wenn es der Name eines Bauteils ist</translation>
+    </message>
+    <message>
+        <source>%1 is no reference: write its references one by one, with commas</source>
+        <translation>%1 ist keine Referenz: Schreiben Sie die Referenzen einzeln, mit Kommas</translation>
+    </message>
+    <message>
+        <source>%1 ends with a sign that joins nothing</source>
+        <translation>%1 endet mit einem Zeichen, das nichts verbindet</translation>
+    </message>
+    <message>
+        <source>%1 is no range: write its references one by one, a part of several units once, without their letters</source>
+        <translation>%1 ist kein Bereich: Schreiben Sie die Referenzen einzeln, ein Bauteil aus mehreren Einheiten einmal, ohne deren Buchstaben</translation>
+    </message>
+    <message>
+        <source>%1 is no range: write its references one by one</source>
+        <translation>%1 ist kein Bereich: Schreiben Sie die Referenzen einzeln</translation>
+    </message>
+    <message>
+        <source>%1 is no reference: write it with its letters</source>
+        <translation>%1 ist keine Referenz: Schreiben Sie sie mit ihren Buchstaben</translation>
+    </message>
+    <message>
+        <source>%1 can be read in several ways: write its references one by one</source>
+        <translation>%1 ist mehrdeutig: Schreiben Sie die Referenzen einzeln</translation>
+    </message>
+    <message>
+        <source>%1 is no range that can be read: put blanks around its word</source>
+        <translation>%1 ist kein lesbarer Bereich: Setzen Sie Leerzeichen um das Wort</translation>
+    </message>
+    <message>
+        <source>%1 is a range that runs backwards: put its lower end first</source>
+        <translation>%1 ist ein Bereich, der rückwärts läuft: Setzen Sie das untere Ende an den Anfang</translation>
+    </message>
+    <message>
+        <source>%1 is a range whose ends differ in their zeros: write both with as many digits</source>
+        <translation>%1 ist ein Bereich, dessen Enden sich in den Nullen unterscheiden: Schreiben Sie beide mit gleich vielen Ziffern</translation>
+    </message>
+    <message>
+        <source>%1 joins different kinds of parts: write its references one by one</source>
+        <translation>%1 verbindet verschiedene Arten von Bauteilen: Schreiben Sie die Referenzen einzeln</translation>
+    </message>
+    <message>
+        <source>%1 is no reference: name the part, or delete the row if it is none</source>
+        <translation>%1 ist keine Referenz: Nennen Sie das Bauteil, oder löschen Sie die Zeile, wenn sie keines ist</translation>
+    </message>
+    <message>
+        <source>%1 has digits other than 0 to 9: write it with these</source>
+        <translation>%1 hat andere Ziffern als 0 bis 9: Schreiben Sie die Referenz mit diesen</translation>
+    </message>
+    <message>
+        <source>%1 is a range without a beginning</source>
+        <translation>%1 ist ein Bereich ohne Anfang</translation>
+    </message>
+    <message>
+        <source>%2 makes more than %1 references in one cell: correct its end</source>
+        <translation>%2 ergibt mehr als %1 Referenzen in einer Zelle: Berichtigen Sie das Ende</translation>
+    </message>
+    <message>
+        <source>%1 is no range that can be read: write its references one by one</source>
+        <translation>%1 ist kein lesbarer Bereich: Schreiben Sie die Referenzen einzeln</translation>
+    </message>
+</context>
+<context>
     <name>PartMenu</name>
     <message>
         <source>Select the part to navigate to</source>
@@ -1552,6 +3080,37 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>Further links: filter the rows</source>
         <translation>Weitere Links: Zeilen filtern</translation>
+    </message>
+</context>
+<context>
+    <name>PartNavigator</name>
+    <message>
+        <source>%1 is not in the design that is open</source>
+        <translation>%1 ist nicht im geöffneten Entwurf</translation>
+    </message>
+    <message>
+        <source>KiCad&apos;s schematic and board editors were asked to show it</source>
+        <translation>Schaltplan- und Leiterplatteneditor von KiCad wurden gebeten, das Bauteil zu zeigen</translation>
+    </message>
+    <message>
+        <source>KiCad&apos;s schematic editor was asked to show it</source>
+        <translation>der Schaltplaneditor von KiCad wurde gebeten, das Bauteil zu zeigen</translation>
+    </message>
+    <message>
+        <source>KiCad&apos;s board editor was asked to show it</source>
+        <translation>der Leiterplatteneditor von KiCad wurde gebeten, das Bauteil zu zeigen</translation>
+    </message>
+    <message>
+        <source>no editor of KiCad listens, the reference was copied</source>
+        <translation>kein Editor von KiCad antwortet, die Referenz wurde kopiert</translation>
+    </message>
+    <message>
+        <source>the reference was copied</source>
+        <translation>die Referenz wurde kopiert</translation>
+    </message>
+    <message>
+        <source>sheet %1, %2, X %3 Y %4 mm</source>
+        <translation>Blatt %1, %2, X %3 Y %4 mm</translation>
     </message>
 </context>
 <context>
@@ -1905,10 +3464,96 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>PropertyAssignments</name>
+    <message>
+        <source>Property Definitions</source>
+        <translation>Eigenschaftsdefinitionen</translation>
+    </message>
+    <message>
+        <source>The property BOMLINKS could not be defined.  Please ensure &apos;PROPDEFS.INI&apos; is writeable.</source>
+        <translation>Die Eigenschaft BOMLINKS konnte nicht definiert werden.  Bitte sorgen Sie dafür, dass „PROPDEFS.INI“ beschreibbar ist.</translation>
+    </message>
+    <message>
+        <source>The design is being written already</source>
+        <translation>Der Entwurf wird schon geschrieben</translation>
+    </message>
+    <message>
+        <source>Pending Changes</source>
+        <translation>Vorgemerkte Änderungen</translation>
+    </message>
+    <message>
+        <source>Pending changes of an earlier run cannot be read, and are left as they are: %1</source>
+        <translation>Vorgemerkte Änderungen eines früheren Laufs können nicht gelesen werden und bleiben, wie sie sind: %1</translation>
+    </message>
+    <message>
+        <source>Pending changes cannot be kept beside the program&apos;s settings. They will be lost if the program ends before they are applied: %1</source>
+        <translation>Vorgemerkte Änderungen können nicht neben den Einstellungen des Programms aufbewahrt werden. Sie gehen verloren, wenn das Programm endet, bevor sie angewendet sind: %1</translation>
+    </message>
+    <message>
+        <source>There is no component database</source>
+        <translation>Es gibt keine Bauteildatenbank</translation>
+    </message>
+    <message>
+        <source>Nothing was applied, see the pending changes</source>
+        <translation>Nichts wurde angewendet, siehe die vorgemerkten Änderungen</translation>
+    </message>
+    <message>
+        <source>Applied successfully</source>
+        <translation>Erfolgreich angewendet</translation>
+    </message>
+    <message>
+        <source>The component database did not say why nothing was written</source>
+        <translation>Die Bauteildatenbank hat nicht gemeldet, warum nichts geschrieben wurde</translation>
+    </message>
+    <message>
+        <source>These BOM-only parts cannot be made: the part %1 cannot hold them</source>
+        <translation>Diese Bauteile, die nur in der Stückliste stehen sollen, können nicht angelegt werden: Das Bauteil %1 kann sie nicht aufnehmen</translation>
+    </message>
+    <message>
+        <source>The BOM-only part %1 of %2 cannot be removed</source>
+        <translation>Das Bauteil %1, das bei %2 nur in der Stückliste steht, kann nicht entfernt werden</translation>
+    </message>
+</context>
+<context>
     <name>PropertyCell</name>
     <message>
         <source>(different)</source>
         <translation>(verschieden)</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyDefinitions</name>
+    <message>
+        <source>a list of values goes with STRING only; the list does not count</source>
+        <translation>eine Liste von Werten gehört nur zu STRING; die Liste gilt nicht</translation>
+    </message>
+    <message>
+        <source>the list of values has an empty one; the list does not count</source>
+        <translation>die Liste der Werte hat einen leeren; die Liste gilt nicht</translation>
+    </message>
+    <message>
+        <source>the list of values has &quot;%1&quot; twice; the list does not count</source>
+        <translation>die Liste der Werte hat „%1“ zweimal; die Liste gilt nicht</translation>
+    </message>
+    <message>
+        <source>expected &quot;NAME&quot;,TYPE or &quot;NAME&quot;,TYPE,&quot;description&quot;</source>
+        <translation>erwartet wird &quot;NAME&quot;,TYP oder &quot;NAME&quot;,TYP,&quot;Beschreibung&quot;</translation>
+    </message>
+    <message>
+        <source>unknown property type &quot;%1&quot; (YESNO, HIGHLOW, TRUEFALSE, STRING, INT, FLOAT)</source>
+        <translation>unbekannter Typ „%1“ einer Eigenschaft (YESNO, HIGHLOW, TRUEFALSE, STRING, INT, FLOAT)</translation>
+    </message>
+    <message>
+        <source>the file is larger than 1 MiB, the most that definitions may have</source>
+        <translation>die Datei ist größer als 1 MiB; mehr dürfen Definitionen nicht haben</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is defined twice; the first definition counts</source>
+        <translation>„%1“ ist zweimal definiert; die erste Definition gilt</translation>
+    </message>
+    <message>
+        <source>there is no section [PROPDEFS]</source>
+        <translation>es gibt keinen Abschnitt [PROPDEFS]</translation>
     </message>
 </context>
 <context>
@@ -1967,6 +3612,13 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>Some values were not replaced as the replacement string was not compatible.</source>
         <translation>Einige Werte wurden nicht ersetzt, weil der neue Text nicht zu ihnen passt.</translation>
+    </message>
+</context>
+<context>
+    <name>RegularFile</name>
+    <message>
+        <source>this is no ordinary file</source>
+        <translation>dies ist keine gewöhnliche Datei</translation>
     </message>
 </context>
 <context>
@@ -2033,6 +3685,125 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>The HTML text has too many images.</source>
         <translation>Der HTML-Text hat zu viele Bilder.</translation>
+    </message>
+</context>
+<context>
+    <name>ScriptConversion</name>
+    <message>
+        <source>Miscellaneous</source>
+        <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
+        <translation>Miscellaneous</translation>
+    </message>
+</context>
+<context>
+    <name>SpreadsheetFile</name>
+    <message>
+        <source>the file is encrypted: save it without a password</source>
+        <translation>die Datei ist verschlüsselt: Speichern Sie sie ohne Kennwort</translation>
+    </message>
+    <message>
+        <source>the file holds no spreadsheet</source>
+        <translation>die Datei enthält keine Tabelle</translation>
+    </message>
+    <message>
+        <source>the file is damaged</source>
+        <translation>die Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>the sheet is too large: at most %1 cells are read</source>
+        <translation>das Tabellenblatt ist zu groß: Höchstens %1 Zellen werden gelesen</translation>
+    </message>
+    <message>
+        <source>%1 lies outside of a sheet</source>
+        <translation>%1 liegt außerhalb eines Tabellenblatts</translation>
+    </message>
+    <message>
+        <source>row %1 stands twice or in front of another</source>
+        <translation>Zeile %1 steht zweimal da oder vor einer früheren</translation>
+    </message>
+    <message>
+        <source>%1 stands twice or behind another cell</source>
+        <translation>%1 steht zweimal da oder hinter einer späteren Zelle</translation>
+    </message>
+    <message>
+        <source>the sheet is too large</source>
+        <translation>das Tabellenblatt ist zu groß</translation>
+    </message>
+    <message>
+        <source>the file is encrypted or of an older form (.xls): save it as .xlsx or .ods without a password</source>
+        <translation>die Datei ist verschlüsselt oder von einer älteren Form (.xls): Speichern Sie sie als .xlsx oder .ods ohne Kennwort</translation>
+    </message>
+    <message>
+        <source>this is no spreadsheet (.xlsx or .ods), whatever its name says; a table of texts ends in .csv</source>
+        <translation>dies ist kein Tabellendokument (.xlsx oder .ods), was auch der Name sagt; eine Texttabelle endet auf .csv</translation>
+    </message>
+    <message>
+        <source>the file holds no workbook</source>
+        <translation>die Datei enthält keine Arbeitsmappe</translation>
+    </message>
+    <message>
+        <source>the file has too many texts</source>
+        <translation>die Datei hat zu viele Texte</translation>
+    </message>
+    <message>
+        <source>the file is damaged: a row has the number &quot;%1&quot;</source>
+        <translation>die Datei ist beschädigt: Eine Zeile hat die Nummer „%1“</translation>
+    </message>
+    <message>
+        <source>the file is damaged: a cell of row %1 has the address &quot;%2&quot;</source>
+        <translation>die Datei ist beschädigt: Eine Zelle der Zeile %1 hat die Adresse „%2“</translation>
+    </message>
+    <message>
+        <source>a text has more than %1 characters</source>
+        <translation>ein Text hat mehr als %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>the file is built in a way that no spreadsheet is</source>
+        <translation>die Datei ist anders aufgebaut als jedes Tabellendokument</translation>
+    </message>
+    <message>
+        <source>the file declares entities, which no spreadsheet does</source>
+        <translation>die Datei deklariert Entitäten, was kein Tabellendokument tut</translation>
+    </message>
+    <message>
+        <source>a text or an element has more than %1 bytes</source>
+        <translation>ein Text oder ein Element hat mehr als %1 Bytes</translation>
+    </message>
+    <message>
+        <source>the file is damaged: %1</source>
+        <translation>die Datei ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>the file is damaged or cut off</source>
+        <translation>die Datei ist beschädigt oder abgeschnitten</translation>
+    </message>
+    <message>
+        <source>the file is damaged or cut off: it has no directory of its parts</source>
+        <translation>die Datei ist beschädigt oder abgeschnitten: Sie hat kein Verzeichnis ihrer Teile</translation>
+    </message>
+    <message>
+        <source>the file has more than %1 parts</source>
+        <translation>die Datei hat mehr als %1 Teile</translation>
+    </message>
+    <message>
+        <source>the file is damaged: the directory of its parts cannot be read</source>
+        <translation>die Datei ist beschädigt: Das Verzeichnis ihrer Teile kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the file has two parts of the name %1</source>
+        <translation>die Datei hat zwei Teile namens %1</translation>
+    </message>
+    <message>
+        <source>the file is no spreadsheet that can be read: it has no part %1</source>
+        <translation>die Datei ist kein lesbares Tabellendokument: Sie hat keinen Teil %1</translation>
+    </message>
+    <message>
+        <source>its part %1 has more than %2 MiB, the most that is unpacked</source>
+        <translation>ihr Teil %1 hat mehr als %2 MiB; mehr wird nicht ausgepackt</translation>
+    </message>
+    <message>
+        <source>its part %1 is packed in an unknown way</source>
+        <translation>ihr Teil %1 ist auf unbekannte Art gepackt</translation>
     </message>
 </context>
 <context>
@@ -2330,10 +4101,106 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>TemplateList</name>
+    <message>
+        <source>Default</source>
+        <extracomment>A name in settings, options and scripts: leave it as it is.</extracomment>
+        <translation>Default</translation>
+    </message>
+    <message>
+        <source>The template file &apos;%1&apos; could not be deleted.</source>
+        <translation>Die Vorlagendatei „%1“ konnte nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Template Deletion</source>
+        <translation>Vorlage löschen</translation>
+    </message>
+    <message>
+        <source>The old settings file &apos;%1&apos; still holds the template.</source>
+        <translation>Die alte Einstellungsdatei „%1“ enthält die Vorlage noch.</translation>
+    </message>
+    <message>
+        <source>cannot be written</source>
+        <translation>kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
     <name>TemplateStore</name>
     <message>
         <source>Could not create template</source>
         <translation>Vorlage konnte nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes you made to the BOM template?</source>
+        <translation>Möchten Sie Ihre Änderungen an der Stücklistenvorlage speichern?</translation>
+    </message>
+    <message>
+        <source>Unsaved BOM Template Changes</source>
+        <translation>Ungespeicherte Änderungen an der Stücklistenvorlage</translation>
+    </message>
+    <message>
+        <source>Saving the BOM template &apos;%1&apos; replaces a file of a later version of this program and loses what this version does not know.  Save it nevertheless?</source>
+        <translation>Das Speichern der Stücklistenvorlage „%1“ ersetzt eine Datei einer neueren Version dieses Programms; was diese Version nicht kennt, geht verloren.  Trotzdem speichern?</translation>
+    </message>
+    <message>
+        <source>The name must not be blank or used already</source>
+        <translation>Der Name darf nicht leer sein und nicht schon benutzt werden</translation>
+    </message>
+    <message>
+        <source>The name must be one that a file can have</source>
+        <translation>Der Name muss als Dateiname möglich sein</translation>
+    </message>
+    <message>
+        <source>Cannot delete a template that comes with the program</source>
+        <translation>Eine mitgelieferte Vorlage kann nicht gelöscht werden</translation>
+    </message>
+    <message>
+        <source>Cannot delete default template</source>
+        <translation>Die Standardvorlage kann nicht gelöscht werden</translation>
+    </message>
+    <message>
+        <source>Template Deletion</source>
+        <translation>Vorlage löschen</translation>
+    </message>
+    <message>
+        <source>Delete the template &apos;%1&apos;?</source>
+        <translation>Die Vorlage „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>Template Reset</source>
+        <translation>Vorlage zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Reset the default template?</source>
+        <translation>Die Standardvorlage zurücksetzen?</translation>
+    </message>
+    <message>
+        <source>Import BOM Template</source>
+        <translation>Stücklistenvorlage importieren</translation>
+    </message>
+    <message>
+        <source>BOM Templates (*.bomt)</source>
+        <translation>Stücklistenvorlagen (*.bomt)</translation>
+    </message>
+    <message>
+        <source>BOM Template Import Failed</source>
+        <translation>Stücklistenvorlage nicht importiert</translation>
+    </message>
+    <message>
+        <source>A BOM template with the name &apos;%1&apos; already exists.</source>
+        <translation>Eine Stücklistenvorlage namens „%1“ gibt es schon.</translation>
+    </message>
+    <message>
+        <source>The BOM template &apos;%1&apos; could not be loaded.</source>
+        <translation>Die Stücklistenvorlage „%1“ konnte nicht geladen werden.</translation>
+    </message>
+    <message>
+        <source>Could not import the template to &apos;%1&apos;.</source>
+        <translation>Die Vorlage konnte nicht nach „%1“ importiert werden.</translation>
+    </message>
+    <message>
+        <source>Export BOM Template</source>
+        <translation>Stücklistenvorlage exportieren</translation>
     </message>
 </context>
 <context>
