@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/workbench.h"
 #include "host/framework/hostsettings.h"
+#include "host/framework/userlanguage.h"
 #include "host/propdefs/propdefsfile.h"
 #include "host/widgets/qthostui.h"
 #include "standalone/environment.h"
@@ -9,11 +10,13 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QTextStream>
 #include <QTimer>
 
 #include <algorithm>
 #include <clocale>
+#include <memory>
 #include <span>
 #include <string_view>
 
@@ -24,10 +27,16 @@ constexpr int unreadable = 3;
 /// The one for wrong usage.
 constexpr int wrongUsage = 2;
 
-const QString purpose = QStringLiteral("Shows the bill of materials of a KiCad schematic or a part list.");
-const QString designText = QStringLiteral("A .kicad_sch, .kicad_pro or .csv file.");
-const QCommandLineOption moduleOption(QStringLiteral("module"), QStringLiteral("The library of the module."),
-                                      QStringLiteral("FILE"));
+/// The program to those who start it in a terminal.
+struct Usage
+{
+    Q_DECLARE_TR_FUNCTIONS(Usage)
+public:
+    QString purpose = tr("Shows the bill of materials of a KiCad schematic or a part list.");
+    QString design = tr("A .kicad_sch, .kicad_pro or .csv file.");
+    QString module = tr("The library of the module.");
+    QString oneDesign = tr("one design at a time");
+};
 
 /// Whether the arguments ask for a text only, which needs no display.
 bool asksForText(int argc, char **argv)
@@ -40,15 +49,15 @@ bool asksForText(int argc, char **argv)
 }
 
 /// The manual page bomviewer(1), of what --help prints.
-QString manualText(const QList<QCommandLineOption> &options)
+QString manualText(const Usage &usage, const QList<QCommandLineOption> &options)
 {
     ManualPage page(QStringLiteral("bomviewer"), QStringLiteral("bomviewer " BOM_VERSION));
     page.section(QStringLiteral("NAME"));
-    page.paragraph(QStringLiteral("bomviewer - ") + purpose.chopped(1));
+    page.paragraph(QStringLiteral("bomviewer - ") + usage.purpose.chopped(1));
     page.section(QStringLiteral("SYNOPSIS"));
     page.usage(QStringLiteral("bomviewer"), QStringLiteral("[OPTION]... [DESIGN]"));
     page.section(QStringLiteral("OPTIONS"));
-    page.entry(QStringLiteral("DESIGN"), {}, designText);
+    page.entry(QStringLiteral("DESIGN"), {}, usage.design);
     for (const QCommandLineOption &option : options) {
         QStringList names;
         for (const QString &name : option.names()) {
@@ -73,10 +82,15 @@ int main(int argc, char **argv)
     std::setlocale(LC_NUMERIC, "C");
     QCoreApplication::setApplicationName(QStringLiteral("bomviewer"));
     QCoreApplication::setApplicationVersion(QStringLiteral(BOM_VERSION));
+    // The manual page is installed for everybody.
+    const bool isForEverybody = argc > 1 && std::string_view(argv[1]) == "--manual";
+    const auto language = isForEverybody ? nullptr : std::make_unique<UserLanguage>();
+    const Usage usage;
     QCommandLineParser parser;
-    parser.setApplicationDescription(purpose);
+    parser.setApplicationDescription(usage.purpose);
+    const QCommandLineOption moduleOption(QStringLiteral("module"), usage.module, QStringLiteral("FILE"));
     const QList<QCommandLineOption> options{parser.addHelpOption(), parser.addVersionOption(), moduleOption};
-    parser.addPositionalArgument(QStringLiteral("DESIGN"), designText, QStringLiteral("[DESIGN]"));
+    parser.addPositionalArgument(QStringLiteral("DESIGN"), usage.design, QStringLiteral("[DESIGN]"));
     parser.addOption(moduleOption);
     QCommandLineOption manual(QStringLiteral("manual"));
     manual.setFlags(QCommandLineOption::HiddenFromHelp);
@@ -87,12 +101,12 @@ int main(int argc, char **argv)
     }
     parser.process(application);
     if (parser.isSet(manual)) {
-        QTextStream(stdout) << manualText(options);
+        QTextStream(stdout) << manualText(usage, options);
         return 0;
     }
     const QStringList designs = parser.positionalArguments();
     if (designs.size() > 1) {
-        QTextStream(stderr) << "bomviewer: one design at a time\n";
+        QTextStream(stderr) << "bomviewer: " << usage.oneDesign << '\n';
         return wrongUsage;
     }
 

@@ -12,6 +12,7 @@
 #include "cli/templatechoice.h"
 #include "cli/templatecommand.h"
 #include "cli/variantscommand.h"
+#include "host/framework/userlanguage.h"
 #include "standalone/environment.h"
 
 #include <QGuiApplication>
@@ -21,6 +22,8 @@
 #include <array>
 #include <clocale>
 #include <memory>
+#include <optional>
+#include <string_view>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -81,6 +84,27 @@ std::unique_ptr<QCoreApplication> makeApplication(bool paints, int &argc, char *
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 
+/// Has options explained and refused in the user's language. That takes an application, though which one the
+/// command needs is not known yet; without a translation nothing is made.
+class EarlyTexts final
+{
+public:
+    EarlyTexts(int argc, char *argv[])
+    {
+        // Completion is installed for everybody.
+        const bool isForEverybody = argc > 1 && std::string_view(argv[1]) == "completion";
+        if (!isForEverybody && !UserLanguage::preferred().isEmpty()) {
+            m_application = std::make_unique<QCoreApplication>(m_argc, argv);
+            m_language = std::make_unique<UserLanguage>();
+        }
+    }
+
+private:
+    int m_argc = 1;
+    std::unique_ptr<QCoreApplication> m_application;
+    std::unique_ptr<UserLanguage> m_language;
+};
+
 /// Runs the command; its options have been read.
 ExitStatus run(Command &command, char *argv[])
 {
@@ -88,9 +112,9 @@ ExitStatus run(Command &command, char *argv[])
     if (sourceDateEpoch()) {
         qputenv("TZ", "UTC0");
     }
-    qInstallMessageHandler(handleLibraryMessage);
     int argc = 1; // The program's own options are none of Qt's.
     const auto application = makeApplication(command.paints(), argc, argv);
+    const UserLanguage language;
     // Qt has set the user's locale. Libraries that print numbers would write them into files in its form.
     std::setlocale(LC_NUMERIC, "C");
     prepareTemplates();
@@ -104,6 +128,8 @@ ExitStatus run(Command &command, char *argv[])
 int main(int argc, char *argv[])
 {
     occupyClosedStreams();
+    qInstallMessageHandler(handleLibraryMessage);
+    std::optional<EarlyTexts> texts(std::in_place, argc, argv);
     if (!areTexts(argc, argv)) {
         return int(ExitStatus::WrongUsage);
     }
@@ -139,6 +165,7 @@ int main(int argc, char *argv[])
     if (const auto status = parseCommandLine(program, argc, argv)) {
         return int(*status);
     }
+    texts.reset();
     console::setQuiet(isQuiet);
     const auto chosen = std::find_if(commands.begin(), commands.end(),
                                      [](const Command *command) { return command->isChosen(); });

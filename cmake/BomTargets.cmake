@@ -83,7 +83,7 @@ function(bom_library name)
 endfunction()
 
 # bom_printed_file(PROGRAM ARGUMENTS FOLDER NAME): a file that the program prints with these arguments, made with the program
-# and installed in that folder below share.
+# and installed in that folder below share. It is in English, whatever the language of the machine.
 function(bom_printed_file program arguments folder name)
   # A sanitizer that finds a leak of a library would end the build; such a build is not installed.
   if(BOM_SANITIZE)
@@ -92,7 +92,7 @@ function(bom_printed_file program arguments folder name)
   set(file ${CMAKE_BINARY_DIR}/share/${folder}/${name})
   get_filename_component(place ${file} DIRECTORY)
   add_custom_command(OUTPUT ${file} COMMAND ${CMAKE_COMMAND} -E make_directory ${place}
-                     COMMAND ${program} ${arguments} > ${file} DEPENDS ${program} VERBATIM)
+                     COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C.UTF-8 $<TARGET_FILE:${program}> ${arguments} > ${file} DEPENDS ${program} VERBATIM)
   add_custom_target(${program}_${name} ALL DEPENDS ${file})
   install(FILES ${file} DESTINATION share/${folder})
 endfunction()

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/framework/applnmodule.h"
+#include "host/framework/userlanguage.h"
 #include "host/netlist/netcache.h"
 #include "module/ibomviewer.h"
 
@@ -36,6 +37,8 @@ public:
     /// The main window is deleted when the event loop gets to it.
     void removewindow(APPLNWINDOW *window) override;
     void onvalidate() override;
+    /// The module's own or, where the host has the texts already, the host's.
+    [[nodiscard]] QTranslator *getstringtranslator() override { return UserLanguage::translator(); }
 
     [[nodiscard]] bool isvisible() override;
     [[nodiscard]] bool isbusy() const override;
@@ -51,6 +54,8 @@ public:
 private:
     void connectProject();
 
+    /// Before all that has texts; the library may be unloaded when the module is gone.
+    UserLanguage m_language;
     NETCACHE m_cache;
     BOMPartsDatabase *m_database = nullptr;
     /// Pending edits outlive windows. Made before any view, so that edits follow their parts first.

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The BOM developers
 // SPDX-License-Identifier: MIT
 #include "host/framework/applnmodule.h"
+#include "support/scopedvariable.h"
 #include "support/scriptedui.h"
 #include "support/testfiles.h"
 #include "support/testpaths.h"
 #include "tests/module/modulehost.h"
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QLibrary>
 #include <QProcess>
@@ -26,6 +28,30 @@ bool isMapped()
 }
 
 } // namespace
+
+TEST(ModuleEntry, SpeaksTheLanguageOfTheUserWhereTheHostDoesNot)
+{
+    const ScopedVariable locale("LC_ALL", "de_DE.UTF-8");
+    const ScriptedUi ui;
+    ModuleHost host;
+    QLibrary plugin(library());
+    const auto create = reinterpret_cast<CREATEMODULEINSTANCE>(plugin.resolve(MODULE_CREATE));
+    const auto remove = reinterpret_cast<DELETEMODULEINSTANCE>(plugin.resolve(MODULE_DELETE));
+    ASSERT_TRUE(create && remove);
+    APPLNMODULE *module = create(&host);
+    EXPECT_NE(module->getstringtranslator(), nullptr);
+    APPLNWINDOW *window = module->createwindow(&host.frame, 0);
+    QStringList texts;
+    for (const QAction *action : host.frame.window.findChildren<QAction *>()) {
+        texts << action->text();
+    }
+    EXPECT_TRUE(texts.contains(u"Stückliste neu &laden"_s)) << texts.join(u'|').toStdString();
+    module->removewindow(window);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    remove(module);
+    EXPECT_TRUE(plugin.unload());
+    EXPECT_EQ(QCoreApplication::translate("BOMMainWindow", "Print BOM"), u"Print BOM"_s);
+}
 
 TEST(ModuleEntry, ExportsItsTwoFunctionsOnly)
 {
