@@ -5,50 +5,63 @@
 #include "account/billaccount.h"
 #include "account/design/designaccount.h"
 #include "account/sentences.h"
+#include "account/texts.h"
 #include "core/bompartsdatabase.h"
 #include "core/unreadtexts.h"
 
 namespace {
 
+/// What is wrong with a definition, behind its name.
 QString faultText(DefinitionFault fault)
 {
     switch (fault) {
     case DefinitionFault::TooFewFields:
-        return QStringLiteral("makes no parts; it needs a count, a prefix and a value");
+        return AccountTexts::tr("makes no parts; it needs a count, a prefix and a value");
     case DefinitionFault::NoCount:
-        return QStringLiteral("makes no parts; its count is no number");
+        return AccountTexts::tr("makes no parts; its count is no number");
     case DefinitionFault::TooManyParts:
-        return QStringLiteral("makes no parts; its count is above ") +
-               QString::number(mostPartsOfADefinition);
+        return AccountTexts::tr("makes no parts; its count is above %1").arg(mostPartsOfADefinition);
     case DefinitionFault::NoAssignment:
-        return QStringLiteral("has a field that is not NAME=VALUE and is passed over");
+        return AccountTexts::tr("has a field that is not NAME=VALUE and is passed over");
     case DefinitionFault::DesignIsFull:
-        return QStringLiteral("makes no parts; a design has at most ") + QString::number(mostBOMParts) +
-               QStringLiteral(" BOM-only parts");
+        return AccountTexts::tr("makes no parts; a design has at most %1 BOM-only parts").arg(mostBOMParts);
     case DefinitionFault::NumbersEnd:
         break;
     }
-    return QStringLiteral("makes no parts; no numbers are left for their references");
+    return AccountTexts::tr("makes no parts; no numbers are left for their references");
 }
 
-QString whatIsUnread(const UnreadColumn &column)
+/// The text with the references of its parts.
+QString textOnParts(const UnreadText &text)
+{
+    return AccountTexts::tr("\"%1\" on %2").arg(text.text, referenceText(text.references));
+}
+
+/// The sentence about a column whose texts stand on one part or on several.
+QString unreadSentence(const UnreadColumn &column, bool isOne)
 {
     switch (column.kind) {
     case UnreadColumn::Kind::Totalled:
-        return QStringLiteral(" is no number and counts 0");
+        return isOne ? AccountTexts::tr("column %1: %2 part has a text that is no number and counts 0: %3")
+                     : AccountTexts::tr("column %1: %2 parts have a text that is no number and counts 0: %3");
     case UnreadColumn::Kind::Numeric:
-        return QStringLiteral(" is no number and is shown as it is");
+        return isOne ? AccountTexts::tr(
+                           "column %1: %2 part has a text that is no number and is shown as it is: %3")
+                     : AccountTexts::tr(
+                           "column %1: %2 parts have a text that is no number and is shown as it is: %3");
     case UnreadColumn::Kind::DecimalComma:
-        return QStringLiteral(" has a comma before three digits, which is read as the decimal mark");
+        return isOne
+                   ? AccountTexts::tr("column %1: %2 part has a comma before three digits, which is read as "
+                                      "the decimal mark: %3")
+                   : AccountTexts::tr("column %1: %2 parts have a comma before three digits, which is read "
+                                      "as the decimal mark: %3");
     case UnreadColumn::Kind::TwoStates:
         break;
     }
-    return QStringLiteral(" is neither 1 nor 0 and is shown as ") + column.shownAs;
-}
-
-QString textOnParts(const UnreadText &text)
-{
-    return u'"' + text.text + QStringLiteral("\" on ") + referenceText(text.references);
+    return isOne ? AccountTexts::tr(
+                       "column %1: %2 part has a text that is neither 1 nor 0 and is shown as %4: %3")
+                 : AccountTexts::tr(
+                       "column %1: %2 parts have a text that is neither 1 nor 0 and is shown as %4: %3");
 }
 
 /// The parts that are left out for one reason, with the properties that define them.
@@ -61,12 +74,11 @@ public:
         m_places.append(parts.parentReference + u' ' + parts.property);
     }
 
-    void appendTo(QStringList *notices, const QString &why) const
+    void appendTo(QStringList *notices, const QString &one, const QString &many) const
     {
         if (m_count > 0) {
-            notices->append(
-                counted(m_count, QStringLiteral("BOM-only part is "), QStringLiteral("BOM-only parts are ")) +
-                why + QStringLiteral(": ") + m_places.join(QStringLiteral(", ")));
+            notices->append(oneOrMany(m_count, one, many)
+                                .arg(QString::number(m_count), m_places.join(QStringLiteral(", "))));
         }
     }
 
@@ -85,8 +97,8 @@ QStringList definedPartProblems(const BOMPartsDatabase &database)
                         QStringLiteral(": ") + faultText(problem.fault));
     }
     for (const QString &reference : repeatedBomParts(database)) {
-        problems.append(reference +
-                        QStringLiteral(" is the reference of a BOM-only part and of another part"));
+        problems.append(
+            AccountTexts::tr("%1 is the reference of a BOM-only part and of another part").arg(reference));
     }
     return problems;
 }
@@ -100,9 +112,12 @@ QStringList leftOutBomPartNotices(const BOMPartsDatabase &database)
         (parts.isSkipped ? skipped : parts.isFitted ? fitted : notFitted).add(parts);
     }
     QStringList notices;
-    skipped.appendTo(&notices, QStringLiteral("excluded by BOMSKIP"));
-    notFitted.appendTo(&notices, QStringLiteral("not fitted and left out"));
-    fitted.appendTo(&notices, QStringLiteral("fitted and left out"));
+    skipped.appendTo(&notices, AccountTexts::tr("%1 BOM-only part is excluded by BOMSKIP: %2"),
+                     AccountTexts::tr("%1 BOM-only parts are excluded by BOMSKIP: %2"));
+    notFitted.appendTo(&notices, AccountTexts::tr("%1 BOM-only part is not fitted and left out: %2"),
+                       AccountTexts::tr("%1 BOM-only parts are not fitted and left out: %2"));
+    fitted.appendTo(&notices, AccountTexts::tr("%1 BOM-only part is fitted and left out: %2"),
+                    AccountTexts::tr("%1 BOM-only parts are fitted and left out: %2"));
     return notices;
 }
 
@@ -110,10 +125,12 @@ QStringList notFittedParentNotices(const BOMPartsDatabase &database, const Compo
 {
     QStringList notices;
     if (!components.leftOutParents.isEmpty()) {
-        notices.append(QStringLiteral("BOM-only parts are left out with their parents, which are ") +
-                       (components.choice == DnpChoice::Only ? QStringLiteral("fitted: ")
-                                                             : QStringLiteral("not fitted: ")) +
-                       referenceText(components.leftOutParents));
+        const QString text =
+            components.choice == DnpChoice::Only
+                ? AccountTexts::tr("BOM-only parts are left out with their parents, which are fitted: %1")
+                : AccountTexts::tr(
+                      "BOM-only parts are left out with their parents, which are not fitted: %1");
+        notices.append(text.arg(referenceText(components.leftOutParents)));
     }
     QStringList listed;
     for (const QString &parent : components.listedNotFitted) {
@@ -123,8 +140,10 @@ QStringList notFittedParentNotices(const BOMPartsDatabase &database, const Compo
     }
     if (!listed.isEmpty()) {
         notices.append(
-            counted(listed.size(), QStringLiteral("BOM-only part is"), QStringLiteral("BOM-only parts are")) +
-            QStringLiteral(" listed with parents that are not fitted: ") + referenceText(listed));
+            oneOrMany(listed.size(),
+                      AccountTexts::tr("%1 BOM-only part is listed with parents that are not fitted: %2"),
+                      AccountTexts::tr("%1 BOM-only parts are listed with parents that are not fitted: %2"))
+                .arg(QString::number(listed.size()), referenceText(listed)));
     }
     return notices;
 }
@@ -132,13 +151,18 @@ QStringList notFittedParentNotices(const BOMPartsDatabase &database, const Compo
 QString replacedLineNotice(const ReplacedLine &replaced, bool grouped)
 {
     const QString references = referenceText(replaced.references);
-    const QString what =
-        grouped ? QStringLiteral("the line of ") +
-                      counted(replaced.references.size(), QStringLiteral("part "), QStringLiteral("parts ")) +
-                      references + QStringLiteral(" is left out of the report")
-                : references + QStringLiteral(" is left out of the report of single parts");
-    return what + QStringLiteral(", because ") + replaced.references.value(0) + QStringLiteral(" and ") +
-           replaced.replacedBy + QStringLiteral(" count as the same reference; renumber one of them");
+    const qsizetype count = replaced.references.size();
+    const QString text =
+        grouped ? oneOrMany(count,
+                            AccountTexts::tr("the line of %4 part %1 is left out of the report, because %2 "
+                                             "and %3 count as the same reference; renumber one of them"),
+                            AccountTexts::tr("the line of %4 parts %1 is left out of the report, because %2 "
+                                             "and %3 count as the same reference; renumber one of them"))
+                : AccountTexts::tr("%1 is left out of the report of single parts, because %2 and %3 count as "
+                                   "the same reference; renumber one of them");
+    const QString first = replaced.references.value(0);
+    return grouped ? text.arg(references, first, replaced.replacedBy, QString::number(count))
+                   : text.arg(references, first, replaced.replacedBy);
 }
 
 QStringList blockedCategoryNotices(const BOMPartsDatabase &database)
@@ -146,10 +170,11 @@ QStringList blockedCategoryNotices(const BOMPartsDatabase &database)
     QStringList notices;
     for (const BlockedCategory &blocked : database.categories().blocked()) {
         notices.append(
-            QStringLiteral("category \"") + blocked.heading + QStringLiteral("\" can hold no part: ") +
-            (blocked.prefix.isEmpty() ? QStringLiteral("an earlier one has the same name")
-                                      : QStringLiteral("its prefix ") + blocked.prefix +
-                                            QStringLiteral(" belongs to \"") + blocked.holder + u'"'));
+            blocked.prefix.isEmpty()
+                ? AccountTexts::tr("category \"%1\" can hold no part: an earlier one has the same name")
+                      .arg(blocked.heading)
+                : AccountTexts::tr("category \"%1\" can hold no part: its prefix %2 belongs to \"%3\"")
+                      .arg(blocked.heading, blocked.prefix, blocked.holder));
     }
     return notices;
 }
@@ -168,15 +193,27 @@ QString unreadColumnNotice(const UnreadColumn &column)
     if (column.texts.size() > mostTexts) {
         examples.append(QStringLiteral("..."));
     }
-    return QStringLiteral("column ") + column.field + QStringLiteral(": ") +
-           counted(parts, QStringLiteral("part has"), QStringLiteral("parts have")) +
-           (column.kind == UnreadColumn::Kind::DecimalComma
-                ? QStringLiteral(" a comma before three digits, which is read as the decimal mark")
-                : QStringLiteral(" a text that") + whatIsUnread(column)) +
-           QStringLiteral(": ") + examples.join(QStringLiteral(", "));
+    const QString text = unreadSentence(column, parts == 1);
+    const QString on = examples.join(QStringLiteral(", "));
+    return column.kind == UnreadColumn::Kind::TwoStates
+               ? text.arg(column.field, QString::number(parts), on, column.shownAs)
+               : text.arg(column.field, QString::number(parts), on);
 }
 
 QString unreadTextNotice(const UnreadColumn &column, const UnreadText &text)
 {
-    return column.field + QStringLiteral(": ") + textOnParts(text) + whatIsUnread(column);
+    const QString on = textOnParts(text);
+    switch (column.kind) {
+    case UnreadColumn::Kind::Totalled:
+        return AccountTexts::tr("%1: %2 is no number and counts 0").arg(column.field, on);
+    case UnreadColumn::Kind::Numeric:
+        return AccountTexts::tr("%1: %2 is no number and is shown as it is").arg(column.field, on);
+    case UnreadColumn::Kind::DecimalComma:
+        return AccountTexts::tr("%1: %2 has a comma before three digits, which is read as the decimal mark")
+            .arg(column.field, on);
+    case UnreadColumn::Kind::TwoStates:
+        break;
+    }
+    return AccountTexts::tr("%1: %2 is neither 1 nor 0 and is shown as %3")
+        .arg(column.field, on, column.shownAs);
 }

@@ -8,6 +8,7 @@
 #include "account/design/propertytwins.h"
 #include "account/fieldnotices.h"
 #include "account/sentences.h"
+#include "account/texts.h"
 #include "core/bompartsdatabase.h"
 #include "core/reference.h"
 #include "core/unreadtexts.h"
@@ -29,16 +30,16 @@ Sum sum(const QString &name, QStringList references)
 {
     std::stable_sort(references.begin(), references.end(),
                      [](const QString &a, const QString &b) { return compareReferences(a, b) < 0; });
-    return {name, QString::number(references.size()) + QStringLiteral(": ") + referenceText(references),
+    return {name, QStringLiteral("%1: %2").arg(QString::number(references.size()), referenceText(references)),
             references.size(), references};
 }
 
 QList<Sum> symbolSums(const SymbolAccount &symbols)
 {
-    return {sum(QStringLiteral("symbols drawn"), symbols.drawn),
-            sum(QStringLiteral("power symbols"), symbols.power),
-            sum(QStringLiteral("further units of a part"), symbols.mergedUnits),
-            sum(QStringLiteral("components"), symbols.components)};
+    return {sum(AccountTexts::tr("symbols drawn"), symbols.drawn),
+            sum(AccountTexts::tr("power symbols"), symbols.power),
+            sum(AccountTexts::tr("further units of a part"), symbols.mergedUnits),
+            sum(AccountTexts::tr("components"), symbols.components)};
 }
 
 /// "97 in 46 lines", with the BOM-only parts where there are any.
@@ -46,36 +47,37 @@ QString billText(const BillAccount &bill)
 {
     QString what = QString::number(bill.parts);
     if (bill.bomParts > 0) {
-        what += QStringLiteral(" and ") +
-                counted(bill.bomParts, QStringLiteral("BOM-only part"), QStringLiteral("BOM-only parts"));
+        what = oneOrMany(bill.bomParts, AccountTexts::tr("%1 and %2 BOM-only part"),
+                         AccountTexts::tr("%1 and %2 BOM-only parts"))
+                   .arg(what, QString::number(bill.bomParts));
     }
-    return what + QStringLiteral(" in ") +
-           counted(bill.lines, QStringLiteral("line"), QStringLiteral("lines"));
+    return oneOrMany(bill.lines, AccountTexts::tr("%1 in %2 line"), AccountTexts::tr("%1 in %2 lines"))
+        .arg(what, QString::number(bill.lines));
 }
 
 QString notFittedText(const ComponentAccount &components)
 {
     const qsizetype excluded = components.excludedNotFitted;
-    return QString::number(components.notFitted) +
-           (excluded == 0 ? QString()
-                          : QStringLiteral(" (") + QString::number(excluded) +
-                                QStringLiteral(" of them excluded from the BOM as well)"));
+    const QString count = QString::number(components.notFitted);
+    return excluded == 0 ? count
+                         : AccountTexts::tr("%1 (%2 of them excluded from the BOM as well)")
+                               .arg(count, QString::number(excluded));
 }
 
 QList<Sum> partSums(const LoadedDesign &design, const ComponentAccount &components, const BillAccount &bill)
 {
-    QList<Sum> sums{{QStringLiteral("in the bill"), billText(bill), bill.parts}};
+    QList<Sum> sums{{AccountTexts::tr("in the bill"), billText(bill), bill.parts}};
     if (!bill.replaced.isEmpty()) {
-        sums << sum(QStringLiteral("left out for an equal reference"), bill.replaced);
+        sums << sum(AccountTexts::tr("left out for an equal reference"), bill.replaced);
     }
     if (bill.repeated > 0) {
-        sums << sum(QStringLiteral("repeated references"), bill.repeated);
+        sums << sum(AccountTexts::tr("repeated references"), bill.repeated);
     }
-    sums << sum(QStringLiteral("not in the bill"), components.components - components.listed);
+    sums << sum(AccountTexts::tr("not in the bill"), components.components - components.listed);
     for (const SkippedComponents &group : skippedComponents(design)) {
         sums << sum(QStringLiteral("  ") + group.reason, group.references);
     }
-    sums << Sum{QStringLiteral("of all components, not fitted"), notFittedText(components),
+    sums << Sum{AccountTexts::tr("of all components, not fitted"), notFittedText(components),
                 components.notFitted};
     return sums;
 }
@@ -89,8 +91,8 @@ QStringList disagreements(const SymbolAccount &symbols, const ComponentAccount &
     const qsizetype skipped = components.components - components.listed;
     const qsizetype accounted = bill.parts + bill.replaced.size() + bill.repeated + skipped;
     if (accounted != components.components) {
-        found << QStringLiteral("the design has ") + QString::number(components.components) +
-                     QStringLiteral(" components, the bill accounts for ") + QString::number(accounted);
+        found << AccountTexts::tr("the design has %1 components, the bill accounts for %2")
+                     .arg(QString::number(components.components), QString::number(accounted));
     }
     return found;
 }
@@ -139,9 +141,9 @@ QStringList missingFindings(const BOMPartsDatabase &database, const QStringList 
     for (const QString &name : required) {
         const QStringList parts = partsWithout(database, name);
         if (!parts.isEmpty()) {
-            findings << name + QStringLiteral(" is empty or missing on ") +
-                            counted(parts.size(), QStringLiteral("part: "), QStringLiteral("parts: ")) +
-                            referenceText(parts);
+            findings << oneOrMany(parts.size(), AccountTexts::tr("%1 is empty or missing on %2 part: %3"),
+                                  AccountTexts::tr("%1 is empty or missing on %2 parts: %3"))
+                            .arg(name, QString::number(parts.size()), referenceText(parts));
         }
     }
     return findings;
@@ -169,15 +171,15 @@ QStringList twinNotices(const LoadedDesign &design)
     for (const PropertyTwins &twins : propertyTwins(design)) {
         QStringList names;
         for (qsizetype i = 0; i < twins.names.size(); ++i) {
-            names << twins.names.at(i) + QStringLiteral(" on ") +
-                         counted(twins.counts.at(i), QStringLiteral("part"), QStringLiteral("parts"));
+            const qsizetype count = twins.counts.at(i);
+            names << oneOrMany(count, AccountTexts::tr("%1 on %2 part"), AccountTexts::tr("%1 on %2 parts"))
+                         .arg(twins.names.at(i), QString::number(count));
         }
-        notices << QStringLiteral("property names that are easily taken for one another: ") +
-                       names.join(QStringLiteral(", "));
+        notices << AccountTexts::tr("property names that are easily taken for one another: %1")
+                       .arg(names.join(QStringLiteral(", ")));
         if (!twins.hiding.isEmpty()) {
-            notices << QStringLiteral("one of ") + twins.names.join(QStringLiteral(", ")) +
-                           QStringLiteral(" hides another with a different text on ") +
-                           referenceText(twins.hiding);
+            notices << AccountTexts::tr("one of %1 hides another with a different text on %2")
+                           .arg(twins.names.join(QStringLiteral(", ")), referenceText(twins.hiding));
         }
     }
     return notices;
@@ -190,10 +192,12 @@ QStringList variableNotices(const LoadedDesign &design)
     if (references.isEmpty()) {
         return {};
     }
-    return {QStringLiteral("a text variable ${...} is not resolved on ") +
-            counted(references.size(), QStringLiteral("part: "), QStringLiteral("parts: ")) +
-            referenceText(references.mid(0, mostReferences)) +
-            (references.size() > mostReferences ? QStringLiteral(",...") : QString())};
+    const QString some = referenceText(references.mid(0, mostReferences)) +
+                         (references.size() > mostReferences ? QStringLiteral(",...") : QString());
+    return {oneOrMany(references.size(),
+                      AccountTexts::tr("a text variable ${...} is not resolved on %1 part: %2"),
+                      AccountTexts::tr("a text variable ${...} is not resolved on %1 parts: %2"))
+                .arg(QString::number(references.size()), some)};
 }
 
 } // namespace
@@ -209,8 +213,8 @@ DesignCheck checkDesign(const DesignSession &session, const BOMPartsDatabase &da
     DesignCheck check;
     check.findings = disagreements(symbols, components, bill);
     check.sums = symbolSums(symbols) + partSums(design, components, bill);
-    check.sums << Sum{QStringLiteral("the sums"),
-                      check.findings.isEmpty() ? QStringLiteral("agree") : QStringLiteral("disagree")};
+    check.sums << Sum{AccountTexts::tr("the sums"),
+                      check.findings.isEmpty() ? AccountTexts::tr("agree") : AccountTexts::tr("disagree")};
     checkReferences(&check, components);
     check.findings += replacedFindings(bill);
     check.findings += definedPartProblems(database);

@@ -3,6 +3,7 @@
 #include "account/fieldnotices.h"
 
 #include "account/sentences.h"
+#include "account/texts.h"
 #include "core/bompart.h"
 #include "core/bompartsdatabase.h"
 #include "standalone/buyerfields.h"
@@ -16,8 +17,8 @@ namespace {
 /// MPN from "manf#" (12 parts): the name with its parts.
 QString useText(const FieldUse &use)
 {
-    return u'"' + use.name + QStringLiteral("\" (") +
-           counted(use.parts, QStringLiteral("part"), QStringLiteral("parts")) + u')';
+    return oneOrMany(use.parts, AccountTexts::tr("\"%1\" (%2 part)"), AccountTexts::tr("\"%1\" (%2 parts)"))
+        .arg(use.name, QString::number(use.parts));
 }
 
 QString useTexts(const QList<FieldUse> &uses)
@@ -28,9 +29,9 @@ QString useTexts(const QList<FieldUse> &uses)
         texts << useText(use);
     }
     if (uses.size() > mostNames) {
-        texts << QString::number(uses.size() - mostNames) + QStringLiteral(" more names");
+        texts << AccountTexts::tr("%1 more names").arg(uses.size() - mostNames);
     }
-    return texts.join(QStringLiteral(" and "));
+    return texts.join(AccountTexts::tr(" and "));
 }
 
 void addBomOnlyParts(FieldReading *reading, const BOMPartsDatabase &database)
@@ -108,19 +109,20 @@ QStringList otherNameNotices(const QList<FieldReading> &readings)
     QStringList proposed;
     for (const FieldReading &reading : readings) {
         if (!reading.others.isEmpty()) {
-            read << reading.asked + QStringLiteral(" from ") + useTexts(reading.others);
+            read << AccountTexts::tr("%1 from %2").arg(reading.asked, useTexts(reading.others));
         }
         if (!reading.proposed.isEmpty()) {
-            proposed << reading.asked + QStringLiteral(" may be ") + useTexts(reading.proposed);
+            proposed << AccountTexts::tr("%1 may be %2").arg(reading.asked, useTexts(reading.proposed));
         }
     }
     QStringList notices;
     if (!read.isEmpty()) {
-        notices << QStringLiteral("read under other names: ") + read.join(QStringLiteral(", "));
+        notices << AccountTexts::tr("read under other names: %1").arg(read.join(QStringLiteral(", ")));
     }
     if (!proposed.isEmpty()) {
-        notices << QStringLiteral("not read, as the names do not say it for certain: ") +
-                       proposed.join(QStringLiteral(", ")) + QStringLiteral(" (bom fields tells more)");
+        notices << AccountTexts::tr("not read, as the names do not say it for certain: %1 (bom fields tells "
+                                    "more)")
+                       .arg(proposed.join(QStringLiteral(", ")));
     }
     return notices;
 }
@@ -130,11 +132,13 @@ QStringList disagreementNotices(const QList<FieldReading> &readings)
     QStringList notices;
     for (const FieldReading &reading : readings) {
         if (!reading.disagreements.isEmpty()) {
-            notices << reading.asked + QStringLiteral(": ") +
-                           counted(reading.disagreements.size(), QStringLiteral("part has"),
-                                   QStringLiteral("parts have")) +
-                           QStringLiteral(" different texts under names of this meaning: ") +
-                           disagreementText(reading.disagreements);
+            const qsizetype count = reading.disagreements.size();
+            notices
+                << oneOrMany(
+                       count,
+                       AccountTexts::tr("%1: %2 part has different texts under names of this meaning: %3"),
+                       AccountTexts::tr("%1: %2 parts have different texts under names of this meaning: %3"))
+                       .arg(reading.asked, QString::number(count), disagreementText(reading.disagreements));
         }
     }
     return notices;
@@ -144,11 +148,13 @@ QStringList unheededNotFittedNotices(const LoadedDesign &design)
 {
     QStringList notices;
     for (const FieldUse &use : unheededNotFitted(design)) {
-        notices << counted(use.parts, QStringLiteral("part says"), QStringLiteral("parts say")) +
-                       QStringLiteral(" \"do not fit\" under the name ") + use.name +
-                       QStringLiteral(", which leaves no part out as DNP and BOMSKIP do: ") +
-                       use.exampleReference + QStringLiteral(" (\"") + use.exampleText +
-                       QStringLiteral("\")") + (use.parts > 1 ? QStringLiteral(", ...") : QString());
+        notices << oneOrMany(
+                       use.parts,
+                       AccountTexts::tr("%1 part says \"do not fit\" under the name %2, which leaves no "
+                                        "part out as DNP and BOMSKIP do: %3 (\"%4\")"),
+                       AccountTexts::tr("%1 parts say \"do not fit\" under the name %2, which leaves no "
+                                        "part out as DNP and BOMSKIP do: %3 (\"%4\"), ..."))
+                       .arg(QString::number(use.parts), use.name, use.exampleReference, use.exampleText);
     }
     return notices;
 }
@@ -169,9 +175,12 @@ QStringList joinedLineNotices(const QList<JoinedLine> &joined)
     if (lines.isEmpty()) {
         return {};
     }
-    return {counted(lines.size(), QStringLiteral("line joins"), QStringLiteral("lines join")) +
-            QStringLiteral(" parts that differ in what no column shows (bom check lists them): ") +
-            joinedLineText(joined.constFirst(), mostTexts)};
+    return {oneOrMany(lines.size(),
+                      AccountTexts::tr("%1 line joins parts that differ in what no column shows (bom check "
+                                       "lists them): %2"),
+                      AccountTexts::tr("%1 lines join parts that differ in what no column shows (bom check "
+                                       "lists them): %2"))
+                .arg(QString::number(lines.size()), joinedLineText(joined.constFirst(), mostTexts))};
 }
 
 QStringList emptyColumnNotices(const LoadedDesign &design, const BOMPartsDatabase &database)
@@ -192,17 +201,18 @@ QStringList emptyColumnNotices(const LoadedDesign &design, const BOMPartsDatabas
             remarks << column.property;
         }
         if (!names.isEmpty()) {
-            remarks << QStringLiteral("the design has ") + useTexts(names);
+            remarks << AccountTexts::tr("the design has %1").arg(useTexts(names));
         }
         texts << column.field + (remarks.isEmpty()
                                      ? QString()
                                      : QStringLiteral(" (") + remarks.join(QStringLiteral("; ")) + u')');
     }
-    return texts.isEmpty() ? QStringList()
-                           : QStringList(QStringLiteral("no part has anything in ") +
-                                         (texts.size() == 1 ? QStringLiteral("the column ")
-                                                            : QStringLiteral("the columns ")) +
-                                         texts.join(QStringLiteral(", ")));
+    if (texts.isEmpty()) {
+        return {};
+    }
+    return {oneOrMany(texts.size(), AccountTexts::tr("no part has anything in the column %1"),
+                      AccountTexts::tr("no part has anything in the columns %1"))
+                .arg(texts.join(QStringLiteral(", ")))};
 }
 
 QString disagreementText(const QList<FieldDisagreement> &disagreements)
@@ -213,8 +223,9 @@ QString disagreementText(const QList<FieldDisagreement> &disagreements)
     for (const FieldDisagreement &part : disagreements.first(std::min(mostParts, disagreements.size()))) {
         QStringList texts;
         for (const FieldDisagreement::Text &text : part.texts.first(std::min(mostTexts, part.texts.size()))) {
-            texts << u'"' + text.text + QStringLiteral("\" under ") + text.name +
-                         (texts.isEmpty() ? QStringLiteral(" is read") : QStringLiteral(" is not"));
+            texts << (texts.isEmpty() ? AccountTexts::tr("\"%1\" under %2 is read")
+                                      : AccountTexts::tr("\"%1\" under %2 is not"))
+                         .arg(text.text, text.name);
         }
         if (part.texts.size() > mostTexts) {
             texts << QStringLiteral("...");

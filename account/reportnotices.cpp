@@ -6,6 +6,7 @@
 #include "account/billfindings.h"
 #include "account/design/designaccount.h"
 #include "account/sentences.h"
+#include "account/texts.h"
 #include "core/bompartsdatabase.h"
 #include "core/unreadtexts.h"
 
@@ -13,9 +14,26 @@
 
 namespace {
 
-QString partsAre(qsizetype count)
+/// The sentence for one thing or for several, with their number.
+QString counting(qsizetype count, const QString &one, const QString &many)
 {
-    return counted(count, QStringLiteral("part is"), QStringLiteral("parts are"));
+    return oneOrMany(count, one, many).arg(count);
+}
+
+QString excludedNotice(const ComponentAccount &components)
+{
+    if (components.excludedNotFitted == 0) {
+        return counting(
+            components.excluded,
+            AccountTexts::tr("%1 part is excluded from the bill of materials (bom check names them)"),
+            AccountTexts::tr("%1 parts are excluded from the bill of materials (bom check names them)"));
+    }
+    return oneOrMany(components.excluded,
+                     AccountTexts::tr("%1 part is excluded from the bill of materials, %2 of them not fitted "
+                                      "(bom check names them)"),
+                     AccountTexts::tr("%1 parts are excluded from the bill of materials, %2 of them not "
+                                      "fitted (bom check names them)"))
+        .arg(QString::number(components.excluded), QString::number(components.excludedNotFitted));
 }
 
 /// The parts that a mark excludes, and the symbols that are not annotated.
@@ -23,17 +41,11 @@ QStringList markNotices(const ComponentAccount &components)
 {
     QStringList notices;
     if (components.excluded > 0) {
-        const QString notFitted = QString::number(components.excludedNotFitted);
-        notices.append(partsAre(components.excluded) +
-                       QStringLiteral(" excluded from the bill of materials") +
-                       (components.excludedNotFitted == 0
-                            ? QString()
-                            : QStringLiteral(", ") + notFitted + QStringLiteral(" of them not fitted")) +
-                       QStringLiteral(" (bom check names them)"));
+        notices.append(excludedNotice(components));
     }
     if (const qsizetype count = qsizetype(components.notAnnotated.size()); count > 0) {
-        notices.append(counted(count, QStringLiteral("symbol is"), QStringLiteral("symbols are")) +
-                       QStringLiteral(" not annotated (bom check names them)"));
+        notices.append(counting(count, AccountTexts::tr("%1 symbol is not annotated (bom check names them)"),
+                                AccountTexts::tr("%1 symbols are not annotated (bom check names them)")));
     }
     return notices;
 }
@@ -41,12 +53,13 @@ QStringList markNotices(const ComponentAccount &components)
 QString leftOutNotice(const ComponentAccount &components)
 {
     if (components.choice == DnpChoice::Only) {
-        return counted(components.leftOutByChoice, QStringLiteral("fitted part is"),
-                       QStringLiteral("fitted parts are")) +
-               QStringLiteral(" left out (--dnp only)");
+        return counting(components.leftOutByChoice,
+                        AccountTexts::tr("%1 fitted part is left out (--dnp only)"),
+                        AccountTexts::tr("%1 fitted parts are left out (--dnp only)"));
     }
-    return partsAre(components.leftOutByChoice) +
-           QStringLiteral(" not fitted and left out (--dnp include lists them)");
+    return counting(components.leftOutByChoice,
+                    AccountTexts::tr("%1 part is not fitted and left out (--dnp include lists them)"),
+                    AccountTexts::tr("%1 parts are not fitted and left out (--dnp include lists them)"));
 }
 
 /// How many parts the not-fitted choice leaves out, or lists without counting them.
@@ -62,9 +75,14 @@ QStringList notFittedNotices(const ComponentAccount &components, const BOMPartsD
     if (marked == 0) {
         return {};
     }
-    return {partsAre(marked) +
-            (hasReport ? QStringLiteral(" not fitted: marked in lines of their own, and not counted")
-                       : QStringLiteral(" not fitted and left out"))};
+    return {
+        hasReport
+            ? counting(
+                  marked,
+                  AccountTexts::tr("%1 part is not fitted: marked in lines of their own, and not counted"),
+                  AccountTexts::tr("%1 parts are not fitted: marked in lines of their own, and not counted"))
+            : counting(marked, AccountTexts::tr("%1 part is not fitted and left out"),
+                       AccountTexts::tr("%1 parts are not fitted and left out"))};
 }
 
 /// How many definitions cannot be followed.
@@ -74,8 +92,9 @@ QStringList definedPartNotices(const BOMPartsDatabase &database)
     if (count == 0) {
         return {};
     }
-    return {counted(count, QStringLiteral("definition"), QStringLiteral("definitions")) +
-            QStringLiteral(" of BOM-only parts cannot be followed (bom check says why)")};
+    return {counting(
+        count, AccountTexts::tr("%1 definition of BOM-only parts cannot be followed (bom check says why)"),
+        AccountTexts::tr("%1 definitions of BOM-only parts cannot be followed (bom check says why)"))};
 }
 
 QStringList replacedLineNotices(const BOMPartsDatabase &database, bool grouped)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "account/design/designaccount.h"
 
+#include "account/texts.h"
 #include "host/framework/hosttext.h"
 #include "standalone/loadeddesign.h"
 
@@ -17,15 +18,6 @@ namespace {
 
 using designs::Component;
 using designs::MarkedBy;
-
-void compare(SymbolAccount *account, const QString &what, qsizetype counted, qsizetype read)
-{
-    if (counted != read) {
-        account->disagreements.append(QStringLiteral("the files hold ") + QString::number(counted) + u' ' +
-                                      what + QStringLiteral(", ") + QString::number(read) +
-                                      QStringLiteral(" were read"));
-    }
-}
 
 bool isExcludedByMark(const LoadedDesign &design, const Component &component)
 {
@@ -52,15 +44,16 @@ QString placeOf(const designs::Design &design, const Component &component)
     const auto uses =
         std::count_if(design.sheets().begin(), design.sheets().end(),
                       [&](const designs::SheetUse &sheet) { return sheet.file == component.file; });
-    return uses > 1 ? place + QStringLiteral(" (sheet ") + sheetPath(design, component.sheet) + u')' : place;
+    return uses > 1 ? AccountTexts::tr("%1 (sheet %2)").arg(place, sheetPath(design, component.sheet))
+                    : place;
 }
 
-/// The property that says that a component is not fitted, as stored: " dnp=yes".
+/// The property that says that a component is not fitted, as stored: "dnp=yes".
 QString storedDnp(const designs::Design &design, const Component &component)
 {
     for (const designs::NameId id : design.names().candidates("DNP")) {
         if (const auto value = design.stored(component, id)) {
-            return u' ' + fromHostText(design.names().name(id)) + u'=' + fromHostText(*value);
+            return fromHostText(design.names().name(id)) + u'=' + fromHostText(*value);
         }
     }
     return {};
@@ -68,19 +61,22 @@ QString storedDnp(const designs::Design &design, const Component &component)
 
 QString notFittedReason(const designs::Design &design, const Component &component)
 {
-    const QString what = QStringLiteral("not fitted: ");
     switch (component.notFitted) {
     case MarkedBy::Sheet:
-        return what + QStringLiteral("marked on sheet ") + sheetPath(design, component.notFittedSheet);
+        return AccountTexts::tr("not fitted: marked on sheet %1")
+            .arg(sheetPath(design, component.notFittedSheet));
     case MarkedBy::RuleArea:
-        return what + QStringLiteral("rule area around it");
-    case MarkedBy::Property:
-        return what + QStringLiteral("property") + storedDnp(design, component);
+        return AccountTexts::tr("not fitted: rule area around it");
+    case MarkedBy::Property: {
+        const QString stored = storedDnp(design, component);
+        return stored.isEmpty() ? AccountTexts::tr("not fitted: property")
+                                : AccountTexts::tr("not fitted: property %1").arg(stored);
+    }
     case MarkedBy::Symbol:
     case MarkedBy::Nothing:
         break;
     }
-    return what + QStringLiteral("marked on the symbol");
+    return AccountTexts::tr("not fitted: marked on the symbol");
 }
 
 bool holdsVariable(const Component &component)
@@ -207,23 +203,25 @@ QString RepeatedReference::message() const
         others.append(QStringLiteral("..."));
     }
     const QString count = QString::number(places.size());
-    QString text = places.value(0) + QStringLiteral(": ");
-    text += reference.isEmpty() ? count + QStringLiteral(" symbols have no reference")
-                                : reference + QStringLiteral(" occurs ") + count + QStringLiteral(" times");
-    text += QStringLiteral(", also at ") + others.join(QStringLiteral(", "));
+    const QString also = others.join(QStringLiteral(", "));
+    const QString text = reference.isEmpty()
+                             ? AccountTexts::tr("%1: %2 symbols have no reference, also at %3")
+                                   .arg(places.value(0), count, also)
+                             : AccountTexts::tr("%1: %4 occurs %2 times, also at %3")
+                                   .arg(places.value(0), count, also, reference);
     if (listed == places.size()) {
         return text;
     }
-    return text + QStringLiteral("; ") + (listed == 0 ? QStringLiteral("none") : QString::number(listed)) +
-           (listed > 1 ? QStringLiteral(" of them are in the bill")
-                       : QStringLiteral(" of them is in the bill"));
+    const QString inBill = listed == 0   ? AccountTexts::tr("none of them is in the bill")
+                           : listed == 1 ? AccountTexts::tr("1 of them is in the bill")
+                                         : AccountTexts::tr("%1 of them are in the bill").arg(listed);
+    return text + QStringLiteral("; ") + inBill;
 }
 
 QString NotAnnotated::message() const
 {
-    return place + QStringLiteral(": ") +
-           (reference.trimmed().isEmpty() ? QStringLiteral("a symbol has no reference")
-                                          : reference + QStringLiteral(" is not annotated"));
+    return reference.trimmed().isEmpty() ? AccountTexts::tr("%1: a symbol has no reference").arg(place)
+                                         : AccountTexts::tr("%1: %2 is not annotated").arg(place, reference);
 }
 
 SymbolAccount symbolAccountOf(const LoadedDesign &design)
@@ -238,12 +236,17 @@ SymbolAccount symbolAccountOf(const LoadedDesign &design)
         account.disagreements.append(error.message());
         return account;
     }
-    compare(&account, QStringLiteral("symbols"), counted.placed, read.placed);
-    compare(&account, QStringLiteral("power symbols"), counted.power, read.power);
+    const auto compare = [&account](const QString &text, qsizetype inFiles, qsizetype wereRead) {
+        if (inFiles != wereRead) {
+            account.disagreements.append(text.arg(QString::number(inFiles), QString::number(wereRead)));
+        }
+    };
+    compare(AccountTexts::tr("the files hold %1 symbols, %2 were read"), counted.placed, read.placed);
+    compare(AccountTexts::tr("the files hold %1 power symbols, %2 were read"), counted.power, read.power);
     const qsizetype accounted = account.power + account.mergedUnits + account.components;
     if (accounted != account.drawn) {
-        account.disagreements.append(QString::number(account.drawn) + QStringLiteral(" symbols are drawn, ") +
-                                     QString::number(accounted) + QStringLiteral(" are accounted for"));
+        account.disagreements.append(AccountTexts::tr("%1 symbols are drawn, %2 are accounted for")
+                                         .arg(QString::number(account.drawn), QString::number(accounted)));
     }
     return account;
 }
@@ -276,23 +279,24 @@ std::vector<SkippedComponents> skippedComponents(const LoadedDesign &design)
 QString skipReason(const LoadedDesign &design, const Component &component)
 {
     if (design.properties().hasStoredSkip(component)) {
-        return QStringLiteral("property BOMSKIP");
+        return AccountTexts::tr("property BOMSKIP");
     }
     switch (component.notInBom) {
     case MarkedBy::Sheet:
-        return QStringLiteral("excluded on sheet ") + sheetPath(design.design(), component.notInBomSheet);
+        return AccountTexts::tr("excluded on sheet %1")
+            .arg(sheetPath(design.design(), component.notInBomSheet));
     case MarkedBy::RuleArea:
-        return QStringLiteral("excluded by the rule area around it");
+        return AccountTexts::tr("excluded by the rule area around it");
     case MarkedBy::Symbol:
     case MarkedBy::Property:
-        return QStringLiteral("excluded from the BOM on the symbol");
+        return AccountTexts::tr("excluded from the BOM on the symbol");
     case MarkedBy::Nothing:
         break;
     }
     if (!design.properties().isLeftOutByChoice(component)) {
         return {};
     }
-    return component.notFitted == MarkedBy::Nothing ? QStringLiteral("fitted")
+    return component.notFitted == MarkedBy::Nothing ? AccountTexts::tr("fitted")
                                                     : notFittedReason(design.design(), component);
 }
 
