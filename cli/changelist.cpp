@@ -4,6 +4,7 @@
 
 #include "account/sentences.h"
 #include "cli/console.h"
+#include "cli/texts.h"
 #include "core/reference.h"
 
 #include <QHash>
@@ -70,8 +71,9 @@ QString placesText(const EqualChanges &group)
     }
     const qsizetype more = group.places.size() - mostPlaces;
     if (more > 0) {
-        text += QStringLiteral(" and ") +
-                counted(more, QStringLiteral("more place"), QStringLiteral("more places"));
+        text =
+            oneOrMany(more, CommandLine::tr("%1 and %2 more place"), CommandLine::tr("%1 and %2 more places"))
+                .arg(text, QString::number(more));
     }
     return text;
 }
@@ -91,12 +93,13 @@ QString changeLine(const EqualChanges &group)
     const CDBCHANGE &change = group.first;
     QString line =
         printable(referenceText(group.references)) + u' ' + printable(change.name) + QStringLiteral(": ") +
-        quotedText(change.before, QStringLiteral("none")) + QStringLiteral(" -> ") +
-        quotedText(change.after, QStringLiteral("removed")) + QStringLiteral(" (") + placesText(group) +
-        (change.variant.isEmpty() ? QString() : QStringLiteral(", variant ") + printable(change.variant)) +
+        quotedText(change.before, CommandLine::tr("none")) + QStringLiteral(" -> ") +
+        quotedText(change.after, CommandLine::tr("removed")) + QStringLiteral(" (") + placesText(group) +
+        (change.variant.isEmpty() ? QString()
+                                  : CommandLine::tr(", variant %1").arg(printable(change.variant))) +
         u')';
     if (const QStringList others = othersOf(group); !others.isEmpty()) {
-        line += QStringLiteral(" also changes ") + printable(others.join(QStringLiteral(", ")));
+        line = CommandLine::tr("%1 also changes %2").arg(line, printable(others.join(QStringLiteral(", "))));
     }
     return line + u'\n';
 }
@@ -141,12 +144,12 @@ QString changeSummary(const QList<CDBCHANGE> &changes, qsizetype files, bool isD
             parts.insert(reference);
         }
     }
-    const QString what =
-        counted(changes.size(), QStringLiteral("property"), QStringLiteral("properties")) +
-        QStringLiteral(" of ") + counted(parts.size(), QStringLiteral("part"), QStringLiteral("parts")) +
-        QStringLiteral(" in ") + counted(files, QStringLiteral("file"), QStringLiteral("files"));
-    return (isDryRun ? QStringLiteral("would change ") + what + QStringLiteral("; nothing was written")
-                     : QStringLiteral("changed ") + what) +
+    const QString text = isDryRun ? CommandLine::tr("would change %1 of %2 in %3; nothing was written")
+                                  : CommandLine::tr("changed %1 of %2 in %3");
+    return text.arg(counted(changes.size(), CommandLine::tr("property"), CommandLine::tr("properties")),
+                    counted(parts.size(), CommandLine::tr("part", "property of"),
+                            CommandLine::tr("parts", "properties of")),
+                    counted(files, CommandLine::tr("file"), CommandLine::tr("files"))) +
            u'\n';
 }
 

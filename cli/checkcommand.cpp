@@ -8,6 +8,8 @@
 #include "cli/newproperties.h"
 #include "cli/opendesign.h"
 #include "cli/terminal.h"
+#include "cli/texts.h"
+#include "host/framework/userlanguage.h"
 #include "views/report/jsonreport.h"
 #include "views/report/jsonwriter.h"
 #include "views/report/report.h"
@@ -15,6 +17,7 @@
 #include <CLI/Validators.hpp>
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -41,8 +44,8 @@ QString readableText(const DesignCheck &check)
     for (const DesignCheck::Sum &sum : check.sums) {
         text += printable(sum.name).leftJustified(width) + QStringLiteral("  ") + printable(sum.text) + u'\n';
     }
-    append(&text, QStringLiteral("To decide"), check.findings);
-    append(&text, QStringLiteral("To know"), check.notices);
+    append(&text, CommandLine::tr("To decide"), check.findings);
+    append(&text, CommandLine::tr("To know"), check.notices);
     return text;
 }
 
@@ -88,7 +91,7 @@ QStringList misspelt(OpenDesign &design, const QStringList &required)
         const QString hint =
             isNewProperty(design, name) ? didYouMean(name, propertyNames(design)) : QString();
         if (!hint.isEmpty()) {
-            texts << QStringLiteral("no part has a property \"") + name + u'"' + hint;
+            texts << CommandLine::tr("no part has a property \"%1\"%2").arg(name, hint);
         }
     }
     return texts;
@@ -98,19 +101,25 @@ QStringList misspelt(OpenDesign &design, const QStringList &required)
 
 void CheckCommand::addTo(CLI::App &program)
 {
-    m_app =
-        program.add_subcommand("check", "Account for every symbol of the design; list what needs a decision");
+    m_app = program.add_subcommand(
+        "check",
+        QT_TRANSLATE_NOOP("Help", "Account for every symbol of the design; list what needs a decision"));
     m_design.addTo(*m_app);
     m_design.addColumns(*m_app);
-    m_app->add_option("--require", m_required, "Find the parts on which this property is empty or missing")
+    m_app
+        ->add_option("--require", m_required,
+                     QT_TRANSLATE_NOOP("Help", "Find the parts on which this property is empty or missing"))
         ->type_name("NAME")
         ->check(CLI::Validator(isGiven, ""))
         ->allow_extra_args(false);
-    m_app->add_flag("--json", m_json, "Write JSON for programs instead of text for people");
+    m_app->add_flag("--json", m_json,
+                    QT_TRANSLATE_NOOP("Help", "Write JSON for programs instead of text for people"));
 }
 
 ExitStatus CheckCommand::run()
 {
+    // The sentences in JSON are those of every machine.
+    const auto plain = m_json ? std::make_unique<PlainLanguage>() : nullptr;
     QStringList required;
     for (const std::string &name : m_required) {
         required.append(QString::fromStdString(name));

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/commandline.h"
 
+#include "cli/helptexts.h"
 #include "cli/nearnames.h"
+#include "cli/texts.h"
 
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
@@ -26,7 +28,7 @@ ExitStatus printParseResult(const CLI::App &program, const CLI::ParseError &resu
         return console::write(QByteArray::fromStdString(text.str())) ? ExitStatus::Done
                                                                      : ExitStatus::UnwritableOutput;
     }
-    console::message(QString::fromStdString(result.what()) + QStringLiteral(" (bom --help tells more)"));
+    console::message(CommandLine::tr("%1 (bom --help tells more)").arg(parserMessage(result)));
     return ExitStatus::WrongUsage;
 }
 
@@ -54,9 +56,8 @@ QStringList optionNames(const CLI::App &app)
 
 ExitStatus reportUnknownOption(const CLI::App &program, const QString &word)
 {
-    console::message(QStringLiteral("there is no option \"") + word.left(longestWord) + u'"' +
-                     didYouMean(word, optionNames(chosenCommand(program))) +
-                     QStringLiteral(" (bom --help tells more)"));
+    console::message(CommandLine::tr("there is no option \"%1\"%2 (bom --help tells more)")
+                         .arg(word.left(longestWord), didYouMean(word, optionNames(chosenCommand(program)))));
     return ExitStatus::WrongUsage;
 }
 
@@ -90,8 +91,9 @@ ExitStatus reportMissingCommand(const CLI::App &program, const CLI::App &app, co
     if (!app.get_parent()) {
         return printParseResult(program, error);
     }
-    console::message(QStringLiteral("a subcommand is required, such as list or show (bom ") +
-                     QString::fromStdString(app.get_name()) + QStringLiteral(" --help tells more)"));
+    console::message(
+        CommandLine::tr("a subcommand is required, such as list or show (bom %1 --help tells more)")
+            .arg(QString::fromStdString(app.get_name())));
     return ExitStatus::WrongUsage;
 }
 
@@ -132,8 +134,7 @@ ExitStatus reportUnknownCommand(const CLI::App &parent, const QString &word)
         names << QString::fromStdString(command->get_name());
     }
     const QString path = parent.get_parent() ? QString::fromStdString(parent.get_name()) + u' ' : QString();
-    console::message(QStringLiteral("there is no command \"") + path + word.left(longestWord) + u'"' +
-                     didYouMean(word, names) + QStringLiteral(" (bom ") + path +
-                     QStringLiteral("--help tells more)"));
+    console::message(CommandLine::tr("there is no command \"%1\"%2 (bom %3--help tells more)")
+                         .arg(path + word.left(longestWord), didYouMean(word, names), path));
     return ExitStatus::WrongUsage;
 }

@@ -12,12 +12,14 @@
 void CompletionCommand::addTo(CLI::App &program)
 {
     m_program = &program;
-    m_app = program.add_subcommand("completion",
-                                   "Print the completion for a shell, or the manual page of the program");
+    m_app = program.add_subcommand(
+        "completion",
+        QT_TRANSLATE_NOOP("Help", "Print the completion for a shell, or the manual page of the program"));
     m_app->group("");
     m_app
         ->add_option("FORM", m_form,
-                     "bash, zsh, fish or man; services: the names that --for takes, one a line")
+                     QT_TRANSLATE_NOOP(
+                         "Help", "bash, zsh, fish or man; services: the names that --for takes, one a line"))
         ->required()
         ->check(CLI::IsMember({"bash", "zsh", "fish", "man", "services"}).description(""));
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/console.h"
 
+#include "cli/texts.h"
 #include "standalone/environment.h"
 
 #include <QList>
@@ -117,7 +118,7 @@ bool write(QByteArrayView bytes)
     if (isTaken && std::fflush(stdout) == 0) {
         return true;
     }
-    message(QStringLiteral("standard output: ") + QString::fromLocal8Bit(std::strerror(errno)));
+    message(CommandLine::tr("standard output: %1").arg(QString::fromLocal8Bit(std::strerror(errno))));
     return false;
 }
 
@@ -146,13 +147,15 @@ void CliUi::warning(QWidget *, const QString &title, const QString &text)
 
 bool CliUi::question(QWidget *, const QString &, const QString &text, bool)
 {
-    console::message(text + QStringLiteral(" No."));
+    console::message(
+        CommandLine::tr("%1 No.", "the question, and the answer that the program gives").arg(text));
     return false;
 }
 
 HostUi::SaveAnswer CliUi::saveQuestion(QWidget *, const QString &, const QString &text, bool withCancel)
 {
-    console::message(text + QStringLiteral(" No."));
+    console::message(
+        CommandLine::tr("%1 No.", "the question, and the answer that the program gives").arg(text));
     return withCancel ? SaveAnswer::Cancel : SaveAnswer::Discard;
 }
 

@@ -6,6 +6,7 @@
 #include "cli/console.h"
 #include "cli/numbertext.h"
 #include "cli/opendesign.h"
+#include "cli/texts.h"
 #include "core/bompart.h"
 #include "core/propertyquery.h"
 #include "host/framework/hosttext.h"
@@ -37,12 +38,14 @@ QStringList otherNameNotices(const QList<CDBCHANGE> &changes)
     }
     QStringList texts;
     for (auto it = parts.cbegin(); it != parts.cend(); ++it) {
-        texts << it.key().first + QStringLiteral(" as \"") + it.key().second + QStringLiteral("\" on ") +
-                     counted(it.value().size(), QStringLiteral("part"), QStringLiteral("parts"));
+        const qsizetype count = it.value().size();
+        texts << oneOrMany(count, CommandLine::tr("%1 as \"%2\" on %3 part"),
+                           CommandLine::tr("%1 as \"%2\" on %3 parts"))
+                     .arg(it.key().first, it.key().second, QString::number(count));
     }
     return texts.isEmpty() ? QStringList()
-                           : QStringList(QStringLiteral("written under the names that the design has: ") +
-                                         texts.join(QStringLiteral(", ")));
+                           : QStringList(CommandLine::tr("written under the names that the design has: %1")
+                                             .arg(texts.join(QStringLiteral(", "))));
 }
 
 } // namespace
@@ -87,11 +90,10 @@ void DesignEdits::add(const QString &reference, const QString &property, const Q
     }
     const auto type = m_design.database().propertyTypes().type(property);
     if (const QStringList forms = clearForms(typed); type == PropType::Float && !forms.isEmpty()) {
-        refuse(
-            front + u'"' + typed +
-            QStringLiteral("\" has a mark before three digits that may stand for thousands or for decimals: "
-                           "write ") +
-            forms.join(QStringLiteral(" or ")));
+        refuse(front +
+               CommandLine::tr("\"%1\" has a mark before three digits that may stand for thousands or "
+                               "for decimals: write %2")
+                   .arg(typed, forms.join(CommandLine::tr(" or "))));
         return;
     }
     const QString value =
@@ -101,14 +103,15 @@ void DesignEdits::add(const QString &reference, const QString &property, const Q
     if (!isNumber || !m_assignments.accepts(property, value)) {
         const bool mayBeLocale = typed.contains(u',') && HostUi::current().locale() == QLocale::c() &&
                                  m_design.database().propertyTypes().isNumeric(property);
-        refuse(front + u'"' + typed + QStringLiteral("\" is no text that this property can have: ") +
-               typeText(*type) +
-               (mayBeLocale ? QStringLiteral(" (--locale tells how numbers are written, such as de_DE)")
-                            : QString()));
+        const QString text =
+            mayBeLocale ? CommandLine::tr("\"%1\" is no text that this property can have: %2 (--locale tells "
+                                          "how numbers are written, such as de_DE)")
+                        : CommandLine::tr("\"%1\" is no text that this property can have: %2");
+        refuse(front + text.arg(typed, typeText(*type)));
         return;
     }
     if (isContradicted(reference, property, value)) {
-        refuse(front + QStringLiteral("two values are asked for"));
+        refuse(front + CommandLine::tr("two values are asked for"));
         return;
     }
     if (!origin.isEmpty()) {
@@ -128,18 +131,18 @@ void DesignEdits::refuseUnknown(const QString &reference, const QString &origin)
 {
     if (++m_unknownReferences <= mostNamedUnknown) {
         refuse((origin.isEmpty() ? QString() : origin + QStringLiteral(": ")) + reference +
-               QStringLiteral(": the design has no part of this reference"));
+               QStringLiteral(": ") + CommandLine::tr("the design has no part of this reference"));
     }
 }
 
 QString DesignEdits::fixedReason(const QString &reference, const QString &property) const
 {
     if (property == placedProperty() || property == nameProperty()) {
-        return QStringLiteral("this tells what cannot be changed here");
+        return CommandLine::tr("this tells what cannot be changed here");
     }
     const Part *part = m_design.database().part(reference);
     return part && part->isBOMPart() && !m_design.design().references().find(reference.toStdString()).empty()
-               ? QStringLiteral("a symbol that is left out and a BOM-only part have this reference")
+               ? CommandLine::tr("a symbol that is left out and a BOM-only part have this reference")
                : QString();
 }
 
@@ -157,7 +160,8 @@ void DesignEdits::addToBOMPart(const BOMPart &part, const QString &property, con
     for (const QString &name : {part.storedName(property), edited.storedName(property)}) {
         const auto other = m_bomPartEdits.constFind({reference, name});
         if (other != m_bomPartEdits.cend() && other->text != after) {
-            refuse(front + QStringLiteral("another text is asked for under the name ") + other->askedName);
+            refuse(front +
+                   CommandLine::tr("another text is asked for under the name %1").arg(other->askedName));
             return;
         }
     }
@@ -183,9 +187,9 @@ void DesignEdits::addToBOMPart(const BOMPart &part, const QString &property, con
         m_renumbered = m_renumbered.isEmpty() ? parent : m_renumbered;
     }
     const QString name = stored == property.toUpper() ? property : stored;
-    m_bomPartChanges.append({reference, name + QStringLiteral(": ") + quotedText(before, {}) +
-                                            QStringLiteral(" -> ") + quotedText(after, {}) +
-                                            QStringLiteral(" (a BOM-only part of ") + parent + u')'});
+    m_bomPartChanges.append(
+        {reference, CommandLine::tr("%1: %2 -> %3 (a BOM-only part of %4)")
+                        .arg(name, quotedText(before, {}), quotedText(after, {}), parent)});
 }
 
 bool DesignEdits::isContradicted(const QString &reference, const QString &property,
@@ -272,14 +276,15 @@ ExitStatus DesignEdits::reportProblems(const QStringList &messages, ExitStatus s
     }
     const qsizetype unnamed = std::max(m_unknownReferences - mostNamedUnknown, qsizetype(0));
     if (unnamed > 0) {
-        console::message(
-            counted(unnamed, QStringLiteral("more reference"), QStringLiteral("more references")) +
-            QStringLiteral(" that the design does not have"));
+        console::message(oneOrMany(unnamed,
+                                   CommandLine::tr("%1 more reference that the design does not have"),
+                                   CommandLine::tr("%1 more references that the design does not have"))
+                             .arg(unnamed));
     }
-    console::message(
-        (isUndecided ? QStringLiteral("the files named above may be written in part: ")
-                     : QStringLiteral("nothing was written: ")) +
-        counted(messages.size() + unnamed, QStringLiteral("problem"), QStringLiteral("problems")));
+    const QString text = isUndecided ? CommandLine::tr("the files named above may be written in part: %1")
+                                     : CommandLine::tr("nothing was written: %1");
+    console::message(text.arg(
+        counted(messages.size() + unnamed, CommandLine::tr("problem"), CommandLine::tr("problems"))));
     return status;
 }
 
@@ -288,8 +293,8 @@ QStringList DesignEdits::newlyReadNotices(const QList<CDBCHANGE> &changes) const
     QStringList texts;
     const auto add = [&texts](const QString &reference, const QString &property, const QString &name,
                               const QString &text) {
-        texts << reference + QStringLiteral(", ") + property + QStringLiteral(" from \"") + name +
-                     QStringLiteral("\" (") + quotedText(text, {}) + u')';
+        texts << CommandLine::tr("%1, %2 from \"%3\" (%4)")
+                     .arg(reference, property, name, quotedText(text, {}));
     };
     for (const CDBCHANGE &change : changes) {
         if (change.after && DesignFields::isFilled(change.after->toStdString())) {
@@ -309,10 +314,13 @@ QStringList DesignEdits::newlyReadNotices(const QList<CDBCHANGE> &changes) const
     }
     constexpr qsizetype mostNamed = 3;
     const qsizetype more = texts.size() - mostNamed;
-    return texts.isEmpty() ? texts
-                           : QStringList(QStringLiteral("after this other names are read: ") +
-                                         texts.mid(0, mostNamed).join(QStringLiteral(", ")) +
-                                         (more > 0 ? QStringLiteral(" and %1 more").arg(more) : QString()));
+    const QString first = texts.mid(0, mostNamed).join(QStringLiteral(", "));
+    return texts.isEmpty()
+               ? texts
+               : QStringList(
+                     CommandLine::tr("after this other names are read: %1")
+                         .arg(more > 0 ? CommandLine::tr("%1 and %2 more").arg(first, QString::number(more))
+                                       : first));
 }
 
 std::optional<std::pair<QString, QString>> DesignEdits::readAfter(const QString &reference,
@@ -341,7 +349,9 @@ std::optional<std::pair<QString, QString>> DesignEdits::readAfter(const QString 
 ExitStatus DesignEdits::reportChanges(const WriteResult &result, bool isDryRun)
 {
     if (result.changes.isEmpty()) {
-        return console::write("nothing to change\n") ? ExitStatus::Done : ExitStatus::UnwritableOutput;
+        return console::write(CommandLine::tr("nothing to change").toUtf8() + '\n')
+                   ? ExitStatus::Done
+                   : ExitStatus::UnwritableOutput;
     }
     for (const CDBCHANGE &change : result.changes) {
         if (!change.before && change.after) {
@@ -357,16 +367,19 @@ ExitStatus DesignEdits::reportChanges(const WriteResult &result, bool isDryRun)
     console::notices(m_newProperties.notices() + otherNameNotices(result.changes) +
                      newlyReadNotices(result.changes));
     if (!m_renumbered.isEmpty()) {
-        console::notice(
-            QStringLiteral("BOM-only parts are numbered in the order of their definitions: those of ") +
-            m_renumbered + (m_isMoreRenumbered ? QStringLiteral(" and others") : QString()) +
-            QStringLiteral(" may change places (bom parts tells)"));
+        const QString text =
+            m_isMoreRenumbered
+                ? CommandLine::tr("BOM-only parts are numbered in the order of their definitions: those of "
+                                  "%1 and others may change places (bom parts tells)")
+                : CommandLine::tr("BOM-only parts are numbered in the order of their definitions: those of "
+                                  "%1 may change places (bom parts tells)");
+        console::notice(text.arg(m_renumbered));
     }
     if (console::write(text.toUtf8())) {
         return ExitStatus::Done;
     }
     if (!isDryRun) {
-        console::message(QStringLiteral("the design was written all the same"));
+        console::message(CommandLine::tr("the design was written all the same"));
     }
     return ExitStatus::UnwritableOutput;
 }

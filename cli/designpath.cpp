@@ -3,6 +3,7 @@
 #include "cli/designpath.h"
 
 #include "cli/console.h"
+#include "cli/texts.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -45,9 +46,10 @@ std::optional<QString> designPath(const QString &named)
     if (QFileInfo(named).isDir()) {
         const QStringList designs = designsIn(named);
         if (designs.size() > 1) {
-            console::message(named + QStringLiteral(": this folder has several designs, name one of them: ") +
-                             designs.mid(0, mostNames).join(QStringLiteral(", ")) +
-                             (designs.size() > mostNames ? QStringLiteral(", ...") : QString()));
+            console::message(
+                CommandLine::tr("%1: this folder has several designs, name one of them: %2")
+                    .arg(named, designs.mid(0, mostNames).join(QStringLiteral(", ")) +
+                                    (designs.size() > mostNames ? QStringLiteral(", ...") : QString())));
             return std::nullopt;
         }
         path = designs.isEmpty() ? named : QDir::cleanPath(named + u'/' + designs.constFirst());

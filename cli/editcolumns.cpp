@@ -4,6 +4,7 @@
 
 #include "cli/newproperties.h"
 #include "cli/opendesign.h"
+#include "cli/texts.h"
 #include "core/bompart.h"
 #include "core/bompartsdatabase.h"
 #include "standalone/loadeddesign.h"
@@ -47,12 +48,12 @@ EditColumn ReportCells::propertyColumn(const QString &name) const
 QString ReportCells::refusal(const QString &heading) const
 {
     const QStringList similar = similarProperties(m_design, heading);
-    return QStringLiteral("is neither a field of the template nor a property") +
-           (similar.isEmpty() ? QString()
-                              : QStringLiteral("; the design has ") + similar.join(QStringLiteral(", "))) +
-           (heading.isEmpty()
-                ? QString()
-                : QStringLiteral(" (--new-property \"") + heading + QStringLiteral("\" makes it one)"));
+    QString text = CommandLine::tr("is neither a field of the template nor a property");
+    if (!similar.isEmpty()) {
+        text = CommandLine::tr("%1; the design has %2").arg(text, similar.join(QStringLiteral(", ")));
+    }
+    return heading.isEmpty() ? text
+                             : CommandLine::tr("%1 (--new-property \"%2\" makes it one)").arg(text, heading);
 }
 
 QString ReportCells::text(const Part &part, const EditColumn &column) const
@@ -136,8 +137,7 @@ public:
         }
         for (const QString &name : m_options.newProperties) {
             if (!m_headings.contains(name, Qt::CaseInsensitive)) {
-                refuse(QStringLiteral("there is no column \"") + name +
-                       QStringLiteral("\", which --new-property names"));
+                refuse(CommandLine::tr("there is no column \"%1\", which --new-property names").arg(name));
             }
         }
         return std::move(m_found);
@@ -158,9 +158,9 @@ private:
                 ignore(index);
             }
         } else if (meaning == Meaning::Unclear) {
-            refuse(QStringLiteral("column %1 \"").arg(index + 1) + heading +
-                   QStringLiteral("\" may be the report's own or the property: delete it, or put it "
-                                  "in front of the references if it is the report's"));
+            refuse(CommandLine::tr("column %1 \"%2\" may be the report's own or the property: delete it, or "
+                                   "put it in front of the references if it is the report's")
+                       .arg(QString::number(index + 1), heading));
         } else if (isIgnored(index, column)) {
             ignore(index);
         } else if (!column && isBlank(index) && (heading.isEmpty() || m_isPartsSheet)) {
@@ -168,8 +168,8 @@ private:
         } else if (column || (m_options.addsProperties && !heading.isEmpty())) {
             add(index, column ? *column : m_cells.propertyColumn(heading));
         } else {
-            refuse(QStringLiteral("column %1 \"").arg(index + 1) + heading + QStringLiteral("\" ") +
-                   m_cells.refusal(heading));
+            refuse(CommandLine::tr("column %1 \"%2\" %3", "and what is wrong with it")
+                       .arg(QString::number(index + 1), heading, m_cells.refusal(heading)));
         }
     }
 
@@ -180,8 +180,7 @@ private:
         const QString name = column.isField ? u'f' + column.report.field.fieldName
                                             : u'p' + column.report.field.propertyName.toCaseFolded();
         if (m_met.contains(name)) {
-            refuse(QStringLiteral("the heading \"") + column.heading +
-                   QStringLiteral("\" stands over two columns"));
+            refuse(CommandLine::tr("the heading \"%1\" stands over two columns").arg(column.heading));
             return;
         }
         m_met.insert(name);

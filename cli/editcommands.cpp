@@ -9,6 +9,7 @@
 #include "cli/newproperties.h"
 #include "cli/opendesign.h"
 #include "cli/spreadsheettable.h"
+#include "cli/texts.h"
 #include "core/propertyassignments.h"
 #include "standalone/referencereader.h"
 #include "standalone/tablefile.h"
@@ -35,9 +36,10 @@ void refuseFurtherEdits(const DesignEdits &others, const QString &where, DesignE
     further.removeIf([&](const Edit &edit) { return known.contains(folded(edit)); });
     if (!further.isEmpty()) {
         const Edit first = *std::min_element(further.begin(), further.end());
-        edits.refuse(where + QStringLiteral(" has changes that \"Parts\" does not have, such as ") +
-                     first.first + QStringLiteral(", ") + first.second +
-                     QStringLiteral(" (--sheet says which of the sheets counts)"));
+        edits.refuse(
+            CommandLine::tr("%1 has changes that \"Parts\" does not have, such as %2, %3 (--sheet says "
+                            "which of the sheets counts)")
+                .arg(where, first.first, first.second));
     }
 }
 
@@ -45,13 +47,16 @@ void refuseFurtherEdits(const DesignEdits &others, const QString &where, DesignE
 
 void WriteArguments::addTo(CLI::App &command)
 {
-    command.add_flag("--dry-run", isDryRun, "Check everything and tell what would change; write nothing");
-    command.add_flag("--no-backup", hasNoBackup,
-                     "Keep no copy of the files as they are before; bom undo needs one");
+    command.add_flag("--dry-run", isDryRun,
+                     QT_TRANSLATE_NOOP("Help", "Check everything and tell what would change; write nothing"));
+    command.add_flag(
+        "--no-backup", hasNoBackup,
+        QT_TRANSLATE_NOOP("Help", "Keep no copy of the files as they are before; bom undo needs one"));
     design.addReading(command);
     design.addListing(command);
     design.addNames(command);
-    locale.addTo(command, "Read numbers as in this locale, such as de_DE; C without it");
+    locale.addTo(command,
+                 QT_TRANSLATE_NOOP("Help", "Read numbers as in this locale, such as de_DE; C without it"));
 }
 
 WriteOptions WriteArguments::options() const
@@ -61,18 +66,21 @@ WriteOptions WriteArguments::options() const
 
 void SetCommand::addTo(CLI::App &program)
 {
-    m_app = program.add_subcommand("set", "Give properties of parts new values in the design");
+    m_app = program.add_subcommand(
+        "set", QT_TRANSLATE_NOOP("Help", "Give properties of parts new values in the design"));
     m_arguments.design.addDesign(*m_app);
-    m_app->add_option("REF", m_references, "References, such as R1 or R1,R4-R7")
+    m_app->add_option("REF", m_references, QT_TRANSLATE_NOOP("Help", "References, such as R1 or R1,R4-R7"))
         ->required()
         ->check(CLI::Validator(isGiven, ""));
     m_app
         ->add_option("NAME=VALUE", m_assignments,
-                     "Property with its new value; NAME= takes the property away")
+                     QT_TRANSLATE_NOOP("Help", "Property with its new value; NAME= takes the property away"))
         ->required();
-    m_app->add_flag("--new", m_makesNew,
-                    "Make a property that the design does not have, although it has one of nearly the same "
-                    "name");
+    m_app->add_flag(
+        "--new", m_makesNew,
+        QT_TRANSLATE_NOOP(
+            "Help", "Make a property that the design does not have, although it has one of nearly the same "
+                    "name"));
     m_arguments.addTo(*m_app);
 }
 
@@ -115,7 +123,8 @@ std::optional<QList<SetCommand::Assignment>> SetCommand::assignments() const
         const QString text = QString::fromStdString(argument);
         const qsizetype sign = text.indexOf(u'=');
         if (sign <= 0) {
-            console::message(u'"' + text + QStringLiteral("\" is no NAME=VALUE (bom set --help tells more)"));
+            console::message(
+                CommandLine::tr("\"%1\" is no NAME=VALUE (bom set --help tells more)").arg(text));
             return std::nullopt;
         }
         const QString name = text.left(sign);
@@ -123,7 +132,7 @@ std::optional<QList<SetCommand::Assignment>> SetCommand::assignments() const
             return other.property.compare(name, Qt::CaseInsensitive) == 0;
         });
         if (isNamed) {
-            console::message(QStringLiteral("the property ") + name + QStringLiteral(" is named twice"));
+            console::message(CommandLine::tr("the property %1 is named twice").arg(name));
             return std::nullopt;
         }
         found.append({name, text.mid(sign + 1)});
@@ -143,10 +152,9 @@ bool SetCommand::areMeant(OpenDesign &design, const QList<Assignment> &wanted) c
             continue;
         }
         if (const QStringList similar = similarProperties(design, name); !similar.isEmpty()) {
-            console::message(QStringLiteral("the design has no property \"") + name +
-                             QStringLiteral("\"; did you mean \"") +
-                             similar.join(QStringLiteral("\" or \"")) +
-                             QStringLiteral("\"? (--new makes it)"));
+            console::message(
+                CommandLine::tr("the design has no property \"%1\"; did you mean \"%2\"? (--new makes it)")
+                    .arg(name, similar.join(CommandLine::tr("\" or \"", "between names"))));
             isMeant = false;
         }
     }
@@ -155,34 +163,45 @@ bool SetCommand::areMeant(OpenDesign &design, const QList<Assignment> &wanted) c
 
 void ApplyCommand::addTo(CLI::App &program)
 {
-    m_app =
-        program.add_subcommand("apply", "Write the values that were changed in a report (.csv, .xlsx, .ods), "
-                                        "or in any table with references, into the design");
+    m_app = program.add_subcommand(
+        "apply",
+        QT_TRANSLATE_NOOP("Help", "Write the values that were changed in a report (.csv, .xlsx, .ods), "
+                                  "or in any table with references, into the design"));
     m_arguments.design.addDesign(*m_app);
     m_app
         ->add_option("EDITS", m_edits,
-                     "Table (.csv, .xlsx or .ods); its headings are fields of the template or names of "
-                     "properties")
+                     QT_TRANSLATE_NOOP(
+                         "Help",
+                         "Table (.csv, .xlsx or .ods); its headings are fields of the template or names of "
+                         "properties"))
         ->required()
         ->check(CLI::Validator(isGiven, ""));
     m_app
         ->add_option(
             "--sheet", m_sheet,
-            "Read this sheet of a spreadsheet; without it \"Parts\", or the first that has references")
+            QT_TRANSLATE_NOOP(
+                "Help",
+                "Read this sheet of a spreadsheet; without it \"Parts\", or the first that has references"))
         ->type_name("NAME")
         ->check(CLI::Validator(isGiven, ""));
-    m_app->add_flag("--add", m_addsProperties,
-                    "Take all columns for properties, also those of headings that no part has yet");
+    m_app->add_flag(
+        "--add", m_addsProperties,
+        QT_TRANSLATE_NOOP("Help",
+                          "Take all columns for properties, also those of headings that no part has yet"));
     m_app
-        ->add_option("--new-property", m_newProperties,
-                     "Take the column of this heading for a property although no part has it yet")
+        ->add_option(
+            "--new-property", m_newProperties,
+            QT_TRANSLATE_NOOP("Help",
+                              "Take the column of this heading for a property although no part has it yet"))
         ->type_name("NAME")
         ->check(CLI::Validator(isGiven, ""))
         ->allow_extra_args(false);
     m_app->add_flag(
         "--accept-spreadsheet-changes", m_acceptsSpreadsheetChanges,
-        "Write also what spreadsheets make of texts by themselves: 0402 to 402, 1-2 to a date, the "
-        "results of formulas");
+        QT_TRANSLATE_NOOP(
+            "Help",
+            "Write also what spreadsheets make of texts by themselves: 0402 to 402, 1-2 to a date, the "
+            "results of formulas"));
     m_arguments.addTo(*m_app);
     m_arguments.design.addColumns(*m_app);
 }
@@ -195,7 +214,7 @@ ExitStatus ApplyCommand::run()
     }
     const bool isSpreadsheet = isSpreadsheetFile(QString::fromStdString(m_edits));
     if (!m_sheet.empty() && !isSpreadsheet) {
-        console::message(QStringLiteral("--sheet needs a spreadsheet (.xlsx or .ods)"));
+        console::message(CommandLine::tr("--sheet needs a spreadsheet (.xlsx or .ods)"));
         return ExitStatus::WrongUsage;
     }
     OpenDesign design(*locale);
@@ -246,7 +265,7 @@ ExitStatus ApplyCommand::readEdits(OpenDesign &design, DesignEdits &edits, bool 
         if (const auto other = readSpreadsheetTable(path, sheet->otherSheet, references, &unreadable)) {
             DesignEdits otherEdits(design);
             EditTable(path, design, otherEdits, {m_acceptsSpreadsheetChanges, headings}).compare(*other);
-            refuseFurtherEdits(otherEdits, path + QStringLiteral(": the sheet \"") + other->sheet + u'"',
+            refuseFurtherEdits(otherEdits, CommandLine::tr("%1: the sheet \"%2\"").arg(path, other->sheet),
                                edits);
         }
     }
@@ -255,7 +274,8 @@ ExitStatus ApplyCommand::readEdits(OpenDesign &design, DesignEdits &edits, bool 
 
 void UndoCommand::addTo(CLI::App &program)
 {
-    m_app = program.add_subcommand("undo", "Take back what was written into a design last");
+    m_app = program.add_subcommand(
+        "undo", QT_TRANSLATE_NOOP("Help", "Take back what was written into a design last"));
     DesignArguments::addPath(*m_app, m_design);
 }
 
@@ -268,8 +288,8 @@ ExitStatus UndoCommand::run()
         return status;
     }
     if (!session.canUndo()) {
-        console::message(QString::fromStdString(m_design) +
-                         QStringLiteral(": there is nothing to take back"));
+        console::message(QString::fromStdString(m_design) + QStringLiteral(": ") +
+                         CommandLine::tr("there is nothing to take back"));
         return ExitStatus::DesignProblem;
     }
     const UndoResult undone = session.undo({.rereads = false});
@@ -279,12 +299,13 @@ ExitStatus UndoCommand::run()
     console::notices(undone.notices);
     QString text;
     for (const QString &file : undone.files) {
-        text +=
-            printable(console::withShownPaths(file)) + QStringLiteral(" has its previous content again\n");
+        text += CommandLine::tr("%1 has its previous content again")
+                    .arg(printable(console::withShownPaths(file))) +
+                u'\n';
     }
     if (!console::write(text.toUtf8())) {
         console::message(
-            QStringLiteral("the files of the design have their previous content again all the same"));
+            CommandLine::tr("the files of the design have their previous content again all the same"));
         return ExitStatus::UnwritableOutput;
     }
     if (undone.problems.isEmpty()) {

@@ -8,6 +8,7 @@
 #include "cli/opendesign.h"
 #include "cli/reportcell.h"
 #include "cli/spreadsheetchange.h"
+#include "cli/texts.h"
 #include "core/part.h"
 #include "host/framework/hosttext.h"
 #include "host/framework/hostui.h"
@@ -27,6 +28,27 @@ constexpr qsizetype mostNamedChanges = 10;
 QString plainText(const QString &cell, const EditColumn &column)
 {
     return column.isField ? withoutAffixes(cell, column.report.field) : cell;
+}
+
+/// What a cell holds that is no text, as a sentence; empty for one that can be taken for a text.
+QString contentOf(CellKind kind)
+{
+    switch (kind) {
+    case CellKind::Percentage:
+        return CommandLine::tr("the cell holds a percentage and no text");
+    case CellKind::Date:
+        return CommandLine::tr("the cell holds a date or time and no text");
+    case CellKind::Truth:
+        return CommandLine::tr("the cell holds true or false and no text");
+    case CellKind::Formula:
+        return CommandLine::tr("the cell holds a formula and no text");
+    case CellKind::Error:
+        return CommandLine::tr("the cell holds an error and no text");
+    case CellKind::Covered:
+        return CommandLine::tr("the cell is hidden under a merged one");
+    default:
+        return {};
+    }
 }
 
 bool isFilled(const QString &text)
@@ -50,16 +72,15 @@ EditTable::EditTable(const QString &path, OpenDesign &design, DesignEdits &edits
 
 QString EditTable::place(int line) const
 {
-    return m_path +
-           (m_sheet ? QStringLiteral(": sheet ") + m_sheet->sheet + QStringLiteral(", row ")
-                    : QStringLiteral(":")) +
-           QString::number(line);
+    return m_sheet
+               ? CommandLine::tr("%1: sheet %2, row %3").arg(m_path, m_sheet->sheet, QString::number(line))
+               : m_path + u':' + QString::number(line);
 }
 
 QString EditTable::place(int line, const EditColumn &column) const
 {
-    return m_sheet ? m_path + QStringLiteral(": sheet ") + m_sheet->sheet + QStringLiteral(", cell ") +
-                         cellAddress(line, column.index)
+    return m_sheet ? CommandLine::tr("%1: sheet %2, cell %3")
+                         .arg(m_path, m_sheet->sheet, cellAddress(line, column.index))
                    : place(line);
 }
 
@@ -94,8 +115,8 @@ void EditTable::compare(const Table &table)
         refuse(table.headingLine, problem);
     }
     if (!found.ignored.isEmpty()) {
-        m_notices << m_path + QStringLiteral(": columns that hold no properties are left out: ") +
-                         found.ignored.join(QStringLiteral(", "));
+        m_notices << CommandLine::tr("%1: columns that hold no properties are left out: %2")
+                         .arg(m_path, found.ignored.join(QStringLiteral(", ")));
     }
     if (!isWithinLimit(table)) {
         return;
@@ -105,7 +126,7 @@ void EditTable::compare(const Table &table)
     }
     refuseEmptyCells();
     if (m_spreadsheetChanges > mostNamedChanges) {
-        m_edits.refuse(QStringLiteral("%1 more such changes").arg(m_spreadsheetChanges - mostNamedChanges));
+        m_edits.refuse(CommandLine::tr("%1 more such changes").arg(m_spreadsheetChanges - mostNamedChanges));
     }
 }
 
@@ -117,7 +138,7 @@ bool EditTable::isWithinLimit(const Table &table)
     for (const TableRow &row : table.rows) {
         count += m_reader.read(row.cells.value(table.referenceColumn), &error) ? m_reader.count() : 0;
         if (count > ReferenceReader::mostReferences()) {
-            refuse(row.line, QStringLiteral("the table names more than %1 references")
+            refuse(row.line, CommandLine::tr("the table names more than %1 references")
                                  .arg(ReferenceReader::mostReferences()));
             return false;
         }
@@ -131,7 +152,7 @@ void EditTable::compareRow(const Table &table, const TableRow &row)
         std::any_of(row.cells.cbegin() + std::min(table.headings.size(), row.cells.size()), row.cells.cend(),
                     [](const QString &cell) { return !cell.trimmed().isEmpty(); });
     if (isTooLong) {
-        refuse(row.line, QStringLiteral("there is a text behind the last column"));
+        refuse(row.line, CommandLine::tr("there is a text behind the last column"));
         return;
     }
     QString error;
@@ -148,10 +169,9 @@ void EditTable::compareRow(const Table &table, const TableRow &row)
         }
         const TableRow *&first = m_rows[reference];
         if (first && !hasSameTexts(row, *first)) {
-            refuse(row.line, reference +
-                                 (m_sheet ? QStringLiteral(" has other texts in row ")
-                                          : QStringLiteral(" has other texts on line ")) +
-                                 QString::number(first->line));
+            const QString text = m_sheet ? CommandLine::tr("%1 has other texts in row %2")
+                                         : CommandLine::tr("%1 has other texts on line %2");
+            refuse(row.line, text.arg(reference, QString::number(first->line)));
         } else {
             first = &row;
             for (const EditColumn &column : m_columns) {
@@ -175,34 +195,35 @@ void EditTable::compareCell(const QString &reference, const QStringList &referen
                              ? QString()
                              : spreadsheetChangeOf(cell, shown, column, kindOf(row, column));
     if (column.isFixed) {
-        refuse(row, column, reference, QStringLiteral("this column tells what cannot be changed here"));
+        refuse(row, column, reference, CommandLine::tr("this column tells what cannot be changed here"));
     } else if (column.index >= row.cells.size()) {
-        refuse(row, column, reference, QStringLiteral("the row has no cell for it"));
+        refuse(row, column, reference, CommandLine::tr("the row has no cell for it"));
     } else if (const QString problem = kindProblem(row, column); !problem.isEmpty()) {
         refuseSpreadsheetChange(row, column, reference,
-                                problem + QStringLiteral(" (--accept-spreadsheet-changes writes it)"));
+                                CommandLine::tr("%1 (--accept-spreadsheet-changes writes it)").arg(problem));
     } else if (const QString name = otherName(reference, column);
                !name.isEmpty() && !isFilled(plainText(cell, column))) {
         EmptyCells &cells = m_emptyCells[column.index];
         if (cells.count++ == 0) {
             cells.line = row.line;
-            cells.example = reference + QStringLiteral(", ") + column.heading +
-                            QStringLiteral(": the cell is empty and the part has ") +
-                            quotedText(plainText(shown.first(), column), {}) +
-                            QStringLiteral(" under the name ") + name;
+            cells.example =
+                CommandLine::tr("%1, %2: the cell is empty and the part has %3 under the name %4")
+                    .arg(reference, column.heading, quotedText(plainText(shown.first(), column), {}), name);
         }
     } else if (const QString other = columnOfSameText(reference, row, column); !other.isEmpty()) {
         refuse(row, column, reference,
-               QStringLiteral("the part has this under the name ") + other +
-                   QStringLiteral("; delete one of the two, or take names as they are (--exact-names)"));
+               CommandLine::tr("the part has this under the name %1; delete one of the two, or take names as "
+                               "they are (--exact-names)")
+                   .arg(other));
     } else if (!made.isEmpty()) {
         refuseSpreadsheetChange(row, column, reference,
-                                made + QStringLiteral(", as spreadsheets do by themselves "
-                                                      "(--accept-spreadsheet-changes writes it)"));
+                                CommandLine::tr("%1, as spreadsheets do by themselves "
+                                                "(--accept-spreadsheet-changes writes it)")
+                                    .arg(made));
     } else if (isNumberLost(cell, shown, column)) {
         refuse(row, column, reference,
-               quotedText(plainText(cell, column), {}) +
-                   QStringLiteral(" is no number, and the column has totals"));
+               CommandLine::tr("%1 is no number, and the column has totals")
+                   .arg(quotedText(plainText(cell, column), {})));
     } else {
         m_edits.add(reference, column.report.field.propertyName, plainText(cell, column),
                     place(row.line, column));
@@ -236,20 +257,12 @@ QString EditTable::kindProblem(const TableRow &row, const EditColumn &column) co
     const CellKind kind = kindOf(row, column);
     // TRUE is a text of such properties.
     const bool isTruth = kind == CellKind::Truth && m_cells.hasTwoStates(column);
-    static const QMap<CellKind, QString> contents = {
-        {CellKind::Percentage, QStringLiteral("the cell holds a percentage and no text")},
-        {CellKind::Date, QStringLiteral("the cell holds a date or time and no text")},
-        {CellKind::Truth, QStringLiteral("the cell holds true or false and no text")},
-        {CellKind::Formula, QStringLiteral("the cell holds a formula and no text")},
-        {CellKind::Error, QStringLiteral("the cell holds an error and no text")},
-        {CellKind::Covered, QStringLiteral("the cell is hidden under a merged one")},
-    };
-    return m_options.acceptsSpreadsheetChanges || isTruth || !contents.contains(kind)
-               ? QString()
-               : contents.value(kind) +
-                     (row.cells.value(column.index).isEmpty()
-                          ? QString()
-                          : QStringLiteral(", shown as ") + quotedText(row.cells.at(column.index), {}));
+    const QString content = contentOf(kind);
+    if (m_options.acceptsSpreadsheetChanges || isTruth || content.isEmpty()) {
+        return {};
+    }
+    const QString shown = row.cells.value(column.index);
+    return shown.isEmpty() ? content : CommandLine::tr("%1, shown as %2").arg(content, quotedText(shown, {}));
 }
 
 bool EditTable::isKicadList(const QString &cell, const QStringList &references, const EditColumn &column)
@@ -286,13 +299,14 @@ void EditTable::refuseEmptyCells()
 {
     for (const EmptyCells &cells : std::as_const(m_emptyCells)) {
         const qsizetype more = cells.count - 1;
+        const QString example = more > 0 ? oneOrMany(more, CommandLine::tr("%1, as %2 more part"),
+                                                     CommandLine::tr("%1, as %2 more parts"))
+                                               .arg(cells.example, QString::number(more))
+                                         : cells.example;
         refuse(cells.line,
-               cells.example +
-                   (more > 0 ? QStringLiteral(", as ") +
-                                   counted(more, QStringLiteral("more part"), QStringLiteral("more parts"))
-                             : QString()) +
-                   QStringLiteral("; empty cells take away texts only in a column of their own name. A table "
-                                  "made with --exact-names is applied with --exact-names"));
+               CommandLine::tr("%1; empty cells take away texts only in a column of their own name. A table "
+                               "made with --exact-names is applied with --exact-names")
+                   .arg(example));
     }
 }
 
@@ -314,11 +328,10 @@ QString EditTable::columnOfSameText(const QString &reference, const TableRow &ro
         };
         const auto other = std::find_if(m_columns.begin(), m_columns.end(), isOther);
         if (other != m_columns.end()) {
-            return written + QStringLiteral(", which ") +
-                   (other->report.field.propertyName.compare(written, Qt::CaseInsensitive) == 0
-                        ? QStringLiteral("is a column as well")
-                        : QStringLiteral("the column ") + other->heading +
-                              QStringLiteral(" stands for as well"));
+            return other->report.field.propertyName.compare(written, Qt::CaseInsensitive) == 0
+                       ? CommandLine::tr("%1, which is a column as well").arg(written)
+                       : CommandLine::tr("%1, which the column %2 stands for as well")
+                             .arg(written, other->heading);
         }
     }
     return {};
@@ -387,10 +400,10 @@ QString EditTable::spreadsheetChangeOf(const QString &cell, const QStringList &s
         const QString after = plainText(cell, column);
         const QString made = spreadsheetChange(before, after, m_numbers);
         if (made.isEmpty() && kind == CellKind::Number && isTakenForNumber(before, after.toDouble())) {
-            return u'"' + before + QStringLiteral("\" became the number ") + after;
+            return CommandLine::tr("\"%1\" became the number %2").arg(before, after);
         }
         if (!made.isEmpty()) {
-            return u'"' + before + QStringLiteral("\" became \"") + after + QStringLiteral("\": ") + made;
+            return CommandLine::tr("\"%1\" became \"%2\": %3").arg(before, after, made);
         }
     }
     return {};

@@ -5,6 +5,8 @@
 #include "account/fieldnotices.h"
 #include "account/sentences.h"
 #include "cli/opendesign.h"
+#include "cli/texts.h"
+#include "host/framework/userlanguage.h"
 #include "standalone/fieldtables.h"
 #include "standalone/loadeddesign.h"
 #include "views/report/jsonreport.h"
@@ -12,12 +14,13 @@
 #include "views/report/report.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
 QString partsText(qsizetype count)
 {
-    return counted(count, QStringLiteral("part"), QStringLiteral("parts"));
+    return counted(count, CommandLine::tr("part"), CommandLine::tr("parts"));
 }
 
 QString shortened(const QString &text)
@@ -39,24 +42,30 @@ QString nameLines(const QList<FieldUse> &uses, const QStringList &remarks = {})
     for (qsizetype i = 0; i < uses.size(); ++i) {
         const FieldUse &use = uses.at(i);
         const QString parts = partsText(use.parts);
-        text += QStringLiteral("  ") + printable(use.name).leftJustified(width) + QStringLiteral("  ") +
-                parts.rightJustified(partsWidth) + QStringLiteral("  \"") + shortened(use.exampleText) +
-                QStringLiteral("\" on ") + printable(use.exampleReference) + remarks.value(i) + u'\n';
+        text +=
+            QStringLiteral("  ") + printable(use.name).leftJustified(width) + QStringLiteral("  ") +
+            parts.rightJustified(partsWidth) + QStringLiteral("  ") +
+            CommandLine::tr("\"%1\" on %2").arg(shortened(use.exampleText), printable(use.exampleReference)) +
+            remarks.value(i) + u'\n';
     }
     return text;
 }
 
 QString meaningText(const FieldOverview::Meaning &meaning)
 {
-    QString text = meaning.meaning.title + QStringLiteral(" [") + meaning.meaning.key +
-                   QStringLiteral("], ") + partsText(meaning.parts) +
-                   (meaning.meaning.use == FieldMeaning::Use::Listed
-                        ? QStringLiteral("; each name is read by itself only")
-                        : QString()) +
+    const QString title = QStringLiteral("%1 [%2], %3")
+                              .arg(meaning.meaning.title, meaning.meaning.key, partsText(meaning.parts));
+    QString text = (meaning.meaning.use == FieldMeaning::Use::Listed
+                        ? CommandLine::tr("%1; each name is read by itself only").arg(title)
+                        : title) +
                    u'\n' + nameLines(meaning.names);
     if (!meaning.disagreements.isEmpty()) {
-        text += QStringLiteral("  different texts on ") + partsText(meaning.disagreements.size()) +
-                QStringLiteral(": ") + printable(disagreementText(meaning.disagreements)) + u'\n';
+        const qsizetype count = meaning.disagreements.size();
+        text += QStringLiteral("  ") +
+                oneOrMany(count, CommandLine::tr("different texts on %1 part: %2"),
+                          CommandLine::tr("different texts on %1 parts: %2"))
+                    .arg(QString::number(count), printable(disagreementText(meaning.disagreements))) +
+                u'\n';
     }
     return text;
 }
@@ -72,16 +81,18 @@ QString proposalsText(const QList<FieldOverview::Proposal> &proposals, const QSt
             meanings << meaning.title + QStringLiteral(" [") + meaning.key + u']';
         }
         uses << proposal.name;
-        remarks << QStringLiteral(": may be ") + meanings.join(QStringLiteral(", "));
+        remarks << CommandLine::tr(": may be %1").arg(meanings.join(QStringLiteral(", ")));
     }
     if (uses.isEmpty()) {
         return {};
     }
     const FieldOverview::Proposal &first = proposals.first();
-    return QStringLiteral("Not read, as the name does not say it for certain\n") + nameLines(uses, remarks) +
-           QStringLiteral("  To have one read, write it below its meaning into ") +
-           printable(console::withShownPaths(table)) + QStringLiteral(":\n    [") +
-           first.meanings.first().key + QStringLiteral("]\n    ") + printable(first.name.name) + u'\n';
+    return CommandLine::tr("Not read, as the name does not say it for certain") + u'\n' +
+           nameLines(uses, remarks) + QStringLiteral("  ") +
+           CommandLine::tr("To have one read, write it below its meaning into %1:")
+               .arg(printable(console::withShownPaths(table))) +
+           QStringLiteral("\n    [") + first.meanings.first().key + QStringLiteral("]\n    ") +
+           printable(first.name.name) + u'\n';
 }
 
 QString readableText(const FieldOverview &overview, const QString &table)
@@ -94,10 +105,10 @@ QString readableText(const FieldOverview &overview, const QString &table)
     }
     blocks << proposalsText(overview.proposals, table);
     if (!overview.others.isEmpty()) {
-        blocks << QStringLiteral("Without a known meaning\n") + nameLines(overview.others);
+        blocks << CommandLine::tr("Without a known meaning") + u'\n' + nameLines(overview.others);
     }
     blocks.removeAll(QString());
-    return blocks.isEmpty() ? QStringLiteral("no part has a property besides value and footprint\n")
+    return blocks.isEmpty() ? CommandLine::tr("no part has a property besides value and footprint") + u'\n'
                             : blocks.join(u'\n');
 }
 
@@ -176,16 +187,19 @@ QByteArray jsonText(OpenDesign &design, const FieldOverview &overview)
 
 void FieldsCommand::addTo(CLI::App &program)
 {
-    m_app = program.add_subcommand("fields", "List the names of properties by what they mean: how many parts "
-                                             "have them, where they disagree, which names are not read");
+    m_app = program.add_subcommand(
+        "fields", QT_TRANSLATE_NOOP("Help", "List the names of properties by what they mean: how many parts "
+                                            "have them, where they disagree, which names are not read"));
     m_design.addDesign(*m_app);
     m_design.addReading(*m_app);
     m_design.addAsIs(*m_app);
-    m_app->add_flag("--json", m_json, "Write JSON for programs instead of text for people");
+    m_app->add_flag("--json", m_json,
+                    QT_TRANSLATE_NOOP("Help", "Write JSON for programs instead of text for people"));
 }
 
 ExitStatus FieldsCommand::run()
 {
+    const auto plain = m_json ? std::make_unique<PlainLanguage>() : nullptr;
     OpenDesign design;
     if (const ExitStatus status = design.open(m_design, true); status != ExitStatus::Done) {
         return status;

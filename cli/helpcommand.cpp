@@ -9,8 +9,10 @@
 void HelpCommand::addTo(CLI::App &program)
 {
     m_program = &program;
-    m_app = program.add_subcommand("help", "Explain the program or one of its commands");
-    m_app->add_option("COMMAND", m_words, "The command, such as report or template show");
+    m_app = program.add_subcommand("help",
+                                   QT_TRANSLATE_NOOP("Help", "Explain the program or one of its commands"));
+    m_app->add_option("COMMAND", m_words,
+                      QT_TRANSLATE_NOOP("Help", "The command, such as report or template show"));
 }
 
 ExitStatus HelpCommand::run()

@@ -3,6 +3,7 @@
 #include "cli/localeoption.h"
 
 #include "cli/console.h"
+#include "cli/texts.h"
 
 void LocaleOption::addTo(CLI::App &command, const char *description)
 {
@@ -18,7 +19,7 @@ std::optional<QLocale> LocaleOption::locale() const
     }
     if (locale.language() == QLocale::C) {
         constexpr qsizetype longestName = 40;
-        console::message(QStringLiteral("unknown locale \"") + wanted.left(longestName) + u'"');
+        console::message(CommandLine::tr("unknown locale \"%1\"").arg(wanted.left(longestName)));
         return std::nullopt;
     }
     return locale;

@@ -7,10 +7,12 @@
 #include "cli/editcommands.h"
 #include "cli/fieldscommand.h"
 #include "cli/helpcommand.h"
+#include "cli/helptexts.h"
 #include "cli/partscommand.h"
 #include "cli/reportcommand.h"
 #include "cli/templatechoice.h"
 #include "cli/templatecommand.h"
+#include "cli/texts.h"
 #include "cli/variantscommand.h"
 #include "host/framework/userlanguage.h"
 #include "standalone/environment.h"
@@ -56,7 +58,7 @@ bool areTexts(int argc, char *argv[])
     for (int argument = 1; argument < argc; ++argument) {
         const QString text = QString::fromUtf8(argv[argument]);
         if (text.toUtf8() != argv[argument]) {
-            console::message(u'"' + text + QStringLiteral("\" is no text in UTF-8"));
+            console::message(CommandLine::tr("\"%1\" is no text in UTF-8").arg(text));
             return false;
         }
     }
@@ -69,7 +71,8 @@ void addQuiet(CLI::App &app, bool *isQuiet)
     for (CLI::App *command : app.get_subcommands({})) {
         addQuiet(*command, isQuiet);
     }
-    app.add_flag("-q,--quiet", *isQuiet, "Leave out notices on standard error; errors stay");
+    app.add_flag("-q,--quiet", *isQuiet,
+                 QT_TRANSLATE_NOOP("Help", "Leave out notices on standard error; errors stay"));
 }
 
 /// Painting takes a platform, though nothing is shown.
@@ -96,6 +99,14 @@ public:
         if (!isForEverybody && !UserLanguage::preferred().isEmpty()) {
             m_application = std::make_unique<QCoreApplication>(m_argc, argv);
             m_language = std::make_unique<UserLanguage>();
+        }
+    }
+
+    /// To be called when all options have been added.
+    void translate(CLI::App &program) const
+    {
+        if (m_language) {
+            translateHelp(program);
         }
     }
 
@@ -151,17 +162,20 @@ int main(int argc, char *argv[])
     const std::array<Command *, 11> commands{&report, &parts, &check,     &fields, &variants,  &set,
                                              &apply,  &undo,  &templates, &help,   &completion};
 
-    CLI::App program("Bills of materials from KiCad designs and CSV part lists.", "bom");
+    CLI::App program(QT_TRANSLATE_NOOP("Help", "Bills of materials from KiCad designs and CSV part lists."),
+                     "bom");
     program.set_version_flag("-V,--version", "bom " BOM_VERSION);
-    program.footer(
+    program.footer(QT_TRANSLATE_NOOP(
+        "Help",
         "Exit status: 0 done; 1 the design has a problem that the user must decide on; 2 wrong usage; "
-        "3 an input cannot be read; 4 an output cannot be written.");
+        "3 an input cannot be read; 4 an output cannot be written."));
     program.require_subcommand(1);
     for (Command *command : commands) {
         command->addTo(program);
     }
     bool isQuiet = false;
     addQuiet(program, &isQuiet);
+    texts->translate(program);
     if (const auto status = parseCommandLine(program, argc, argv)) {
         return int(*status);
     }

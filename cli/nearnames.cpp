@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/nearnames.h"
 
+#include "cli/texts.h"
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -83,6 +85,6 @@ QString didYouMean(const QString &typed, const QStringList &known)
 {
     const QStringList names = nearNames(typed, known);
     return names.isEmpty() ? QString()
-                           : QStringLiteral("; did you mean \"") + names.join(QStringLiteral("\" or \"")) +
-                                 QStringLiteral("\"?");
+                           : CommandLine::tr("; did you mean \"%1\"?")
+                                 .arg(names.join(CommandLine::tr("\" or \"", "between names")));
 }

@@ -5,6 +5,7 @@
 #include "account/sentences.h"
 #include "cli/console.h"
 #include "cli/opendesign.h"
+#include "cli/texts.h"
 #include "core/bompart.h"
 #include "core/propertyquery.h"
 #include "host/framework/hosttext.h"
@@ -133,8 +134,10 @@ QString NewProperties::lines() const
     QString text;
     for (const Property &property : m_properties) {
         if (property.isNew) {
-            text += QStringLiteral("new property ") + printable(property.name) + QStringLiteral(" on ") +
-                    counted(property.references.size(), QStringLiteral("part"), QStringLiteral("parts")) +
+            const qsizetype count = property.references.size();
+            text += oneOrMany(count, CommandLine::tr("new property %1 on %2 part"),
+                              CommandLine::tr("new property %1 on %2 parts"))
+                        .arg(printable(property.name), QString::number(count)) +
                     u'\n';
         }
     }
@@ -148,10 +151,9 @@ QStringList NewProperties::notices() const
         const QStringList similar =
             property.isNew ? similarProperties(m_design, property.name) : QStringList();
         if (!similar.isEmpty()) {
-            texts << property.name +
-                         QStringLiteral(
-                             " is a new property of the design, which has one of nearly the same name: ") +
-                         similar.join(QStringLiteral(", "));
+            texts << CommandLine::tr(
+                         "%1 is a new property of the design, which has one of nearly the same name: %2")
+                         .arg(property.name, similar.join(QStringLiteral(", ")));
         }
     }
     return texts;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/numbertext.h"
 
+#include "cli/texts.h"
 #include "host/framework/hostui.h"
 
 #include <QLocale>
@@ -74,18 +75,18 @@ QString typeText(PropType type)
     switch (type) {
     case PropType::YesNo:
     case PropType::Boolean:
-        return QStringLiteral("Yes or No");
+        return CommandLine::tr("Yes or No");
     case PropType::HighLow:
-        return QStringLiteral("High or Low");
+        return CommandLine::tr("High or Low");
     case PropType::TrueFalse:
-        return QStringLiteral("True or False");
+        return CommandLine::tr("True or False");
     case PropType::Int:
-        return QStringLiteral("a whole number");
+        return CommandLine::tr("a whole number");
     case PropType::Float:
-        return QStringLiteral("a decimal number");
+        return CommandLine::tr("a decimal number");
     case PropType::String:
     case PropType::Text:
         break;
     }
-    return QStringLiteral("a text");
+    return CommandLine::tr("a text");
 }

@@ -7,6 +7,7 @@
 #include "cli/nearnames.h"
 #include "cli/progressline.h"
 #include "cli/templatechoice.h"
+#include "cli/texts.h"
 #include "fitting/fittedtemplate.h"
 #include "host/netlist/netlist.h"
 #include "host/propdefs/propdefsfile.h"
@@ -59,11 +60,11 @@ bool areColumnsNamed(const DesignArguments &arguments)
     const bool isBlank = std::any_of(fields.begin(), fields.end(),
                                      [](const QString &name) { return name.trimmed().isEmpty(); });
     if (isBlank) {
-        console::message(QStringLiteral("--fields: a name is missing between two commas"));
+        console::message(CommandLine::tr("--fields: a name is missing between two commas"));
         return false;
     }
     if (commaSeparated(arguments.labels).size() > fields.size()) {
-        console::message(QStringLiteral("--labels: there are more labels than fields"));
+        console::message(CommandLine::tr("--labels: there are more labels than fields"));
         return false;
     }
     return true;
@@ -78,12 +79,13 @@ ExitStatus openSession(DesignSession &session, const QString &named, const OpenO
         return ExitStatus::WrongUsage;
     }
     if (QFileInfo(*path).isDir()) {
-        console::message(*path + QStringLiteral(": this folder has no design in it (a .kicad_sch, .kicad_pro "
-                                                "or .csv file)"));
+        console::message(
+            CommandLine::tr("%1: this folder has no design in it (a .kicad_sch, .kicad_pro or .csv file)")
+                .arg(*path));
         return ExitStatus::UnreadableInput;
     }
     const bool isOpen = [&] {
-        const ProgressLine progress(QStringLiteral("reading ") + *path);
+        const ProgressLine progress(CommandLine::tr("reading %1").arg(*path));
         return session.open(*path, options);
     }();
     QStringList errors = session.errors();
@@ -147,9 +149,10 @@ std::optional<BOMTemplate> OpenDesign::fitTemplate(const DesignArguments &argume
         const QString name = QString::fromStdString(arguments.preset);
         const QStringList names = presetNames(design());
         fitted = presetTemplate(design(), name);
-        problem = QStringLiteral("the project has no BOM preset \"") + name + u'"' + didYouMean(name, names) +
-                  (names.isEmpty() ? QStringLiteral(" (it has none)")
-                                   : QStringLiteral(" (it has ") + someOf(names) + u')');
+        problem = names.isEmpty()
+                      ? CommandLine::tr("the project has no BOM preset \"%1\" (it has none)").arg(name)
+                      : CommandLine::tr("the project has no BOM preset \"%1\"%2 (it has %3)")
+                            .arg(name, didYouMean(name, names), someOf(names));
     } else {
         fitted = fittedTemplate(design(), &problem);
     }
@@ -169,7 +172,7 @@ bool OpenDesign::loadDefinitions(const QString &path)
 {
     setpropdefsfile(path.isEmpty() ? userDefinitionsFile() : path);
     if (!path.isEmpty() && !QFileInfo::exists(path)) {
-        console::message(path + QStringLiteral(": there is no such file"));
+        console::message(path + QStringLiteral(": ") + CommandLine::tr("there is no such file"));
         return false;
     }
     QStringList problems;

@@ -3,6 +3,7 @@
 #include "cli/outputfile.h"
 
 #include "cli/console.h"
+#include "cli/texts.h"
 #include "host/framework/reportfile.h"
 
 #include <QDir>
@@ -36,7 +37,7 @@ bool writeOutput(const QString &path, const QByteArray &bytes)
     if (writeReportFile(path, bytes, &reason) == ReportFileResult::Written) {
         return true;
     }
-    console::message(path + QStringLiteral(": cannot be written: ") + reason);
+    console::message(CommandLine::tr("%1: cannot be written: %2").arg(path, reason));
     return false;
 }
 

@@ -97,9 +97,11 @@ QString readableText(const PartsListing &listing)
 
 void PartsCommand::addTo(CLI::App &program)
 {
-    m_app = program.add_subcommand("parts", "List every part with all its properties");
+    m_app =
+        program.add_subcommand("parts", QT_TRANSLATE_NOOP("Help", "List every part with all its properties"));
     m_design.addTo(*m_app);
-    m_app->add_flag("--json", m_json, "Write JSON for programs instead of text for people");
+    m_app->add_flag("--json", m_json,
+                    QT_TRANSLATE_NOOP("Help", "Write JSON for programs instead of text for people"));
 }
 
 ExitStatus PartsCommand::run()

@@ -8,6 +8,7 @@
 #include "core/propertyquery.h"
 #include "core/reference.h"
 #include "host/framework/hosttext.h"
+#include "host/framework/userlanguage.h"
 #include "host/netlist/cdbcore.h"
 #include "host/netlist/proplist.h"
 #include "standalone/loadeddesign.h"
@@ -90,6 +91,8 @@ void sortByReference(QList<ListedPart> *parts)
 
 PartsListing listParts(OpenDesign &design)
 {
+    // The reasons stand in JSON, too.
+    const PlainLanguage plain;
     PartsListing listing;
     QSet<QString> held;
     for (const COMPONENT *component : design.design().components()) {

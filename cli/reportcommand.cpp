@@ -11,6 +11,7 @@
 #include "cli/opendesign.h"
 #include "cli/outputfile.h"
 #include "cli/terminal.h"
+#include "cli/texts.h"
 #include "host/framework/hostui.h"
 #include "host/propdefs/propdefsfile.h"
 #include "standalone/environment.h"
@@ -51,24 +52,33 @@ bool hasFonts()
 } // namespace
 
 const std::array<ReportCommand::OutputOption, 7> ReportCommand::outputOptions{{
-    {"--csv", "Write CSV with one row per line of the bill; - is standard output", Form::Csv, "csv"},
-    {"--full-csv", "Write CSV with one row per part; - is standard output", Form::FullCsv, ""},
-    {"--ascii", "Write text in columns of fixed widths; - is standard output", Form::Ascii, "txt"},
-    {"--html", "Write a web page (XHTML); - is standard output", Form::Html, "html"},
-    {"--pdf", "Write a PDF document; - is standard output", Form::Pdf, "pdf"},
-    {"--xlsx", "Write a spreadsheet (.xlsx); - is standard output", Form::Xlsx, "xlsx"},
-    {"--json", "Write JSON for programs; - is standard output", Form::Json, "json"},
+    {"--csv", QT_TRANSLATE_NOOP("Help", "Write CSV with one row per line of the bill; - is standard output"),
+     Form::Csv, "csv"},
+    {"--full-csv", QT_TRANSLATE_NOOP("Help", "Write CSV with one row per part; - is standard output"),
+     Form::FullCsv, ""},
+    {"--ascii", QT_TRANSLATE_NOOP("Help", "Write text in columns of fixed widths; - is standard output"),
+     Form::Ascii, "txt"},
+    {"--html", QT_TRANSLATE_NOOP("Help", "Write a web page (XHTML); - is standard output"), Form::Html,
+     "html"},
+    {"--pdf", QT_TRANSLATE_NOOP("Help", "Write a PDF document; - is standard output"), Form::Pdf, "pdf"},
+    {"--xlsx", QT_TRANSLATE_NOOP("Help", "Write a spreadsheet (.xlsx); - is standard output"), Form::Xlsx,
+     "xlsx"},
+    {"--json", QT_TRANSLATE_NOOP("Help", "Write JSON for programs; - is standard output"), Form::Json,
+     "json"},
 }};
 
 void ReportCommand::addTo(CLI::App &program)
 {
-    m_app = program.add_subcommand("report", "Write the bill of materials; text in columns goes to standard "
-                                             "output when no output is named");
+    m_app = program.add_subcommand(
+        "report", QT_TRANSLATE_NOOP("Help", "Write the bill of materials; text in columns goes to standard "
+                                            "output when no output is named"));
     m_design.addTo(*m_app);
     m_design.addColumns(*m_app);
     m_app
-        ->add_option("-o,--output", m_outputs,
-                     "Write the form that the file's ending says: .csv, .html, .json, .pdf, .txt, .xlsx")
+        ->add_option(
+            "-o,--output", m_outputs,
+            QT_TRANSLATE_NOOP(
+                "Help", "Write the form that the file's ending says: .csv, .html, .json, .pdf, .txt, .xlsx"))
         ->type_name("F")
         ->allow_extra_args(false);
     for (size_t i = 0; i < outputOptions.size(); ++i) {
@@ -77,11 +87,14 @@ void ReportCommand::addTo(CLI::App &program)
     m_services.addTo(*m_app);
     m_app->add_flag(
         "--excel-csv", m_isForSpreadsheets,
-        "Write CSV as spreadsheet programs open it by a double click: with a byte order mark, and "
-        "semicolons where --locale has a decimal comma");
+        QT_TRANSLATE_NOOP(
+            "Help",
+            "Write CSV as spreadsheet programs open it by a double click: with a byte order mark, and "
+            "semicolons where --locale has a decimal comma"));
     m_app->add_flag("--allow-duplicates", m_allowDuplicates,
-                    "Write the report although references occur more than once");
-    m_locale.addTo(*m_app, "Format numbers as in this locale, such as de_DE; C without it");
+                    QT_TRANSLATE_NOOP("Help", "Write the report although references occur more than once"));
+    m_locale.addTo(
+        *m_app, QT_TRANSLATE_NOOP("Help", "Format numbers as in this locale, such as de_DE; C without it"));
 }
 
 bool ReportCommand::paints() const
@@ -105,7 +118,8 @@ ExitStatus ReportCommand::run()
         return output.form == Form::Csv || output.form == Form::FullCsv;
     });
     if (m_isForSpreadsheets && !hasCsv) {
-        console::message(QStringLiteral("--excel-csv needs an output of CSV (bom report --help tells more)"));
+        console::message(
+            CommandLine::tr("--excel-csv needs an output of CSV (bom report --help tells more)"));
         return ExitStatus::WrongUsage;
     }
     if (const ExitStatus status = m_services.prepare(m_design.dnpChoice()); status != ExitStatus::Done) {
@@ -187,13 +201,14 @@ bool ReportCommand::haveForms() const
     for (const std::string &text : m_outputs) {
         const QString path = QString::fromStdString(text);
         if (path.isEmpty()) {
-            console::message(QStringLiteral("an output needs a file name"));
+            console::message(CommandLine::tr("an output needs a file name"));
             return false;
         }
         if (!optionOf(path)) {
             console::message(
-                path + QStringLiteral(": the ending says no form of a report; -o takes .csv, .html, .json, "
-                                      ".pdf, .txt and .xlsx, other names need --csv or its like"));
+                path + QStringLiteral(": ") +
+                CommandLine::tr("the ending says no form of a report; -o takes .csv, .html, .json, .pdf, "
+                                ".txt and .xlsx, other names need --csv or its like"));
             return false;
         }
     }
@@ -214,12 +229,13 @@ bool ReportCommand::areDistinct(const QStringList &outputs)
     QStringList taken;
     for (const QString &output : outputs) {
         if (output.isEmpty()) {
-            console::message(QStringLiteral("an output needs a file name"));
+            console::message(CommandLine::tr("an output needs a file name"));
             return false;
         }
         for (const QString &path : std::as_const(taken)) {
             if (isSameFile(output, path)) {
-                console::message(output + QStringLiteral(": two outputs cannot go to the same file"));
+                console::message(output + QStringLiteral(": ") +
+                                 CommandLine::tr("two outputs cannot go to the same file"));
                 return false;
             }
         }
@@ -241,7 +257,8 @@ bool ReportCommand::protectDesignFiles(OpenDesign &design, const QStringList &ou
             return isSameFile(output, input);
         });
         if (isInput || isKicadFile(output)) {
-            console::message(output + QStringLiteral(": belongs to the design and is not overwritten"));
+            console::message(output + QStringLiteral(": ") +
+                             CommandLine::tr("belongs to the design and is not overwritten"));
             return false;
         }
     }
@@ -264,12 +281,15 @@ bool ReportCommand::shouldContinue(OpenDesign &design, const ComponentAccount &c
     const QStringList bomParts = repeatedBomParts(design.database());
     count += bomParts.size();
     if (!bomParts.isEmpty()) {
-        console::message(QStringLiteral("references of BOM-only parts and of other parts: ") +
-                         referenceText(bomParts));
+        console::message(CommandLine::tr("references of BOM-only parts and of other parts: %1")
+                             .arg(referenceText(bomParts)));
     }
-    console::message(QStringLiteral("nothing was written: ") +
-                     counted(count, QStringLiteral("reference occurs"), QStringLiteral("references occur")) +
-                     QStringLiteral(" more than once (--allow-duplicates lists the first of each)"));
+    console::message(oneOrMany(count,
+                               CommandLine::tr("nothing was written: %1 reference occurs more than once "
+                                               "(--allow-duplicates lists the first of each)"),
+                               CommandLine::tr("nothing was written: %1 references occur more than once "
+                                               "(--allow-duplicates lists the first of each)"))
+                         .arg(count));
     return false;
 }
 
@@ -297,7 +317,7 @@ QStringList ReportCommand::missingNotes(OpenDesign &design, const QList<Output> 
     }
     problems.removeAll(QString());
     for (QString &problem : problems) {
-        problem += QStringLiteral("; the report is without these notes");
+        problem = CommandLine::tr("%1; the report is without these notes").arg(problem);
     }
     return problems;
 }
@@ -333,7 +353,7 @@ ReportCommand::Content ReportCommand::content(const Output &output, BOMPartsData
 ReportCommand::Content ReportCommand::documentContent(Form form, BOMPartsDatabase &database)
 {
     if (form == Form::Pdf && !hasFonts()) {
-        return {{}, QStringLiteral("no fonts are installed")};
+        return {{}, CommandLine::tr("no fonts are installed")};
     }
     BOMTemplate settings = database.currentTemplate();
     if (upgradeTemplate(settings)) {
@@ -354,7 +374,7 @@ ExitStatus ReportCommand::write(OpenDesign &design, const QList<Output> &outputs
     for (const Output &output : outputs) {
         const Content content = this->content(output, design.database());
         if (!content.problem.isEmpty()) {
-            console::message(output.path + QStringLiteral(": is not written: ") + content.problem);
+            console::message(CommandLine::tr("%1: is not written: %2").arg(output.path, content.problem));
             status = ExitStatus::UnwritableOutput;
             continue;
         }

@@ -7,6 +7,7 @@
 #include "cli/nearnames.h"
 #include "cli/opendesign.h"
 #include "cli/outputfile.h"
+#include "cli/texts.h"
 #include "standalone/buyerfields.h"
 #include "standalone/servicefiles.h"
 #include "views/report/servicebill.h"
@@ -34,9 +35,8 @@ QString fileOf(const QString &name)
     const QString path = serviceFile(name);
     if (path.isEmpty()) {
         const QStringList known = serviceNames();
-        console::message(QStringLiteral("there is no assembly service \"") + name + u'"' +
-                         didYouMean(name, known) + QStringLiteral(" (known: ") +
-                         known.join(QStringLiteral(", ")) + u')');
+        console::message(CommandLine::tr("there is no assembly service \"%1\"%2 (known: %3)")
+                             .arg(name, didYouMean(name, known), known.join(QStringLiteral(", "))));
     }
     return path;
 }
@@ -57,9 +57,12 @@ QStringList propertiesApart(const LoadedDesign &design)
 void ServiceOutputs::addTo(CLI::App &command)
 {
     command
-        .add_option("--for", m_given,
-                    "Write the file that an assembly service takes, .csv or .xlsx by its ending; - is CSV on "
-                    "standard output")
+        .add_option(
+            "--for", m_given,
+            QT_TRANSLATE_NOOP(
+                "Help",
+                "Write the file that an assembly service takes, .csv or .xlsx by its ending; - is CSV on "
+                "standard output"))
         ->type_name("SERVICE F")
         ->allow_extra_args(false);
 }
@@ -85,7 +88,7 @@ QStringList ServiceOutputs::descriptions() const
 ExitStatus ServiceOutputs::prepare(DnpChoice choice)
 {
     if (!isEmpty() && choice == DnpChoice::Only) {
-        console::message(QStringLiteral(
+        console::message(CommandLine::tr(
             "--for leaves out parts that are not fitted, and --dnp only leaves out all others"));
         return ExitStatus::WrongUsage;
     }
@@ -94,8 +97,8 @@ ExitStatus ServiceOutputs::prepare(DnpChoice choice)
         const QString ending = QFileInfo(output.path).suffix().toLower();
         output.isSpreadsheet = ending == QLatin1String("xlsx");
         if (!output.isSpreadsheet && ending != QLatin1String("csv") && !isStandardOutput(output.path)) {
-            console::message(output.path +
-                             QStringLiteral(": --for writes .csv and .xlsx, and CSV to standard output (-)"));
+            console::message(output.path + QStringLiteral(": ") +
+                             CommandLine::tr("--for writes .csv and .xlsx, and CSV to standard output (-)"));
             return ExitStatus::WrongUsage;
         }
         if (const ExitStatus status = readService(&output); status != ExitStatus::Done) {
@@ -160,29 +163,29 @@ void ServiceOutputs::reportDoubts(const Output &output, const ServiceBill &bill)
     const AssemblyService &service = output.service;
     const QString title = service.title.isEmpty() ? output.name : service.title;
     if (!bill.withoutNumber.isEmpty()) {
-        console::notice(
-            title + QStringLiteral(": ") +
-            counted(bill.withoutNumber.size(), QStringLiteral("part has"), QStringLiteral("parts have")) +
-            QStringLiteral(" no \"") + service.columns.at(*service.needed).heading + QStringLiteral("\" (") +
-            service.columns.at(*service.needed).text + QStringLiteral("): ") +
-            firstReferences(bill.withoutNumber));
+        const qsizetype count = bill.withoutNumber.size();
+        const auto &column = service.columns.at(*service.needed);
+        console::notice(oneOrMany(count, CommandLine::tr("%1: %2 part has no \"%3\" (%4): %5"),
+                                  CommandLine::tr("%1: %2 parts have no \"%3\" (%4): %5"))
+                            .arg(title, QString::number(count), column.heading, column.text,
+                                 firstReferences(bill.withoutNumber)));
     }
     QStringList doubts;
     for (const QStringList &clash : bill.clashes) {
-        doubts << clash.join(QStringLiteral(" and ")) +
-                      QStringLiteral(" are one designator there, where letter case does not count");
+        doubts << CommandLine::tr("%1 are one designator there, where letter case does not count")
+                      .arg(clash.join(CommandLine::tr(" and ")));
     }
     for (const ServiceBill::AlikeRows &rows : bill.alike) {
-        doubts << QStringLiteral("the rows of ") + rows.reference + QStringLiteral(" and ") + rows.other +
-                      QStringLiteral(" look alike; their parts differ in ") + rows.property;
+        doubts << CommandLine::tr("the rows of %1 and %2 look alike; their parts differ in %3")
+                      .arg(rows.reference, rows.other, rows.property);
     }
     constexpr qsizetype mostDoubts = 5;
     for (const QString &doubt : doubts.mid(0, mostDoubts)) {
         console::notice(title + QStringLiteral(": ") + doubt);
     }
     if (doubts.size() > mostDoubts) {
-        console::notice(title + QStringLiteral(": ") + QString::number(doubts.size() - mostDoubts) +
-                        QStringLiteral(" more rows or designators like these"));
+        console::notice(CommandLine::tr("%1: %2 more rows or designators like these")
+                            .arg(title, QString::number(doubts.size() - mostDoubts)));
     }
 }
 
@@ -193,7 +196,7 @@ bool ServiceOutputs::write(const Output &output, const ServiceBill &bill)
     }
     const SpreadsheetReport made = serviceSpreadsheet(bill);
     if (!made.problem.isEmpty()) {
-        console::message(output.path + QStringLiteral(": is not written: ") + made.problem);
+        console::message(CommandLine::tr("%1: is not written: %2").arg(output.path, made.problem));
         return false;
     }
     return writeOutput(output.path, made.file);

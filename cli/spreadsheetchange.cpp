@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/spreadsheetchange.h"
 
+#include "cli/texts.h"
+
 #include <QHash>
 #include <QList>
 #include <QRegularExpression>
@@ -254,35 +256,35 @@ QString spreadsheetChange(const QString &before, const QString &after, const Num
         return {};
     }
     if (hasZerosInFront(before) && !hasZerosInFront(after) && isSameNumber(before, after, numbers)) {
-        return QStringLiteral("zeros in front are gone");
+        return CommandLine::tr("zeros in front are gone");
     }
     const bool isLong = digitsOf(before) > 11 && isExponential(after);
     if ((isExponential(before) || isLong) && isAbout(before, after, numbers)) {
-        return QStringLiteral("it is taken for a number with an exponent");
+        return CommandLine::tr("it is taken for a number with an exponent");
     }
     if (significantDigits(before) > exactDigits && significantDigits(after) <= exactDigits &&
         isAbout(before, after, numbers, lastExactDigit)) {
-        return QStringLiteral("digits behind the 15th are gone");
+        return CommandLine::tr("digits behind the 15th are gone");
     }
     if (isSameTime(before, after, numbers)) {
-        return QStringLiteral("it is taken for a time");
+        return CommandLine::tr("it is taken for a time");
     }
     if (isSameTruth(before, after)) {
-        return QStringLiteral("it is taken for true or false");
+        return CommandLine::tr("it is taken for true or false");
     }
     if (isTakenForDate(before) && isDate(after) &&
         (!isDate(before) || monthOf(before).isEmpty() != monthOf(after).isEmpty() ||
          isSameNamedDate(before, after))) {
-        return QStringLiteral("it is taken for a date");
+        return CommandLine::tr("it is taken for a date");
     }
     if (before.startsWith(u'=') && !after.startsWith(u'=')) {
-        return QStringLiteral("it is taken for a formula");
+        return CommandLine::tr("it is taken for a formula");
     }
     if (isRecoded(before, after)) {
-        return QStringLiteral("characters are gone that its encoding lacks");
+        return CommandLine::tr("characters are gone that its encoding lacks");
     }
     if (before.contains(u'\t') && after == QString(before).remove(u'\t')) {
-        return QStringLiteral("tabs are gone");
+        return CommandLine::tr("tabs are gone");
     }
-    return isError(after) ? QStringLiteral("it is taken for a formula") : QString();
+    return isError(after) ? CommandLine::tr("it is taken for a formula") : QString();
 }

@@ -3,6 +3,7 @@
 #include "cli/spreadsheettable.h"
 
 #include "account/sentences.h"
+#include "cli/texts.h"
 #include "files/regularfile.h"
 #include "sheets/spreadsheetreader.h"
 #include "views/report/partssheet.h"
@@ -22,16 +23,16 @@ constexpr qsizetype mostNamed = 10;
 std::optional<QByteArray> bytesOf(const QString &path, QString *error)
 {
     if (!QFileInfo::exists(path)) {
-        *error = QStringLiteral("there is no such file");
+        *error = CommandLine::tr("there is no such file");
         return std::nullopt;
     }
     const qint64 most = SheetLimits().fileBytes;
     QString reason;
     auto bytes = contentOfRegularFile(path, most, &reason);
     if (!bytes) {
-        *error = QStringLiteral("the file cannot be read: ") + reason;
+        *error = CommandLine::tr("the file cannot be read: %1").arg(reason);
     } else if (bytes->size() > most) {
-        *error = QStringLiteral("the file is larger than %1 MiB, the most that a spreadsheet may have")
+        *error = CommandLine::tr("the file is larger than %1 MiB, the most that a spreadsheet may have")
                      .arg(most / (1024 * 1024));
         bytes.reset();
     }
@@ -66,9 +67,10 @@ std::optional<SpreadsheetTable> tableOfSheet(Sheet sheet, const QStringList &ref
     joinBillRows(*table, referenceHeadings.front());
     read.table = std::move(*table);
     if (sheet.hiddenRows > 0) {
-        read.notices << counted(sheet.hiddenRows, QStringLiteral("row is hidden and is"),
-                                QStringLiteral("rows are hidden and are")) +
-                            QStringLiteral(" read like the others");
+        read.notices << oneOrMany(sheet.hiddenRows,
+                                  CommandLine::tr("%1 row is hidden and is read like the others"),
+                                  CommandLine::tr("%1 rows are hidden and are read like the others"))
+                            .arg(sheet.hiddenRows);
     }
     return read;
 }
@@ -79,9 +81,9 @@ QString quotedNames(const QStringList &names)
     for (const QString &name : names.first(std::min(names.size(), mostNamed))) {
         quoted << u'"' + name + u'"';
     }
-    return quoted.join(QStringLiteral(", ")) +
-           (names.size() > mostNamed ? QStringLiteral(" and %1 more").arg(names.size() - mostNamed)
-                                     : QString());
+    const QString text = quoted.join(QStringLiteral(", "));
+    const qsizetype more = names.size() - mostNamed;
+    return more > 0 ? CommandLine::tr("%1 and %2 more").arg(text, QString::number(more)) : text;
 }
 
 /// The sheets that may be meant, in the order in which they are tried.
@@ -163,7 +165,7 @@ std::optional<SpreadsheetTable> readSpreadsheetTable(const QString &path, const 
     for (const qsizetype index : tried) {
         auto read = file->sheet(index, &problem);
         if (!read) {
-            return fail(QStringLiteral("sheet ") + names.at(index) + QStringLiteral(": ") + problem);
+            return fail(CommandLine::tr("sheet %1: %2").arg(names.at(index), problem));
         }
         auto table = tableOfSheet(std::move(*read), referenceHeadings);
         if (!table) {
@@ -174,14 +176,13 @@ std::optional<SpreadsheetTable> readSpreadsheetTable(const QString &path, const 
             table->otherSheet = names.value(index == 0 ? 1 : 0);
         }
         if (sheet.isEmpty() && names.size() > 1) {
-            table->notices.prepend(QStringLiteral("of %1 sheets \"").arg(names.size()) + table->sheet +
-                                   QStringLiteral("\" is read (--sheet takes another)"));
+            table->notices.prepend(CommandLine::tr("of %1 sheets \"%2\" is read (--sheet takes another)")
+                                       .arg(QString::number(names.size()), table->sheet));
         }
         return table;
     }
     return fail(
         tried.isEmpty() && !names.isEmpty()
-            ? QStringLiteral("there is no sheet \"") + sheet + QStringLiteral("\"; the file has ") +
-                  quotedNames(names)
-            : QStringLiteral("no sheet has a heading for references, such as Reference or Designator"));
+            ? CommandLine::tr("there is no sheet \"%1\"; the file has %2").arg(sheet, quotedNames(names))
+            : CommandLine::tr("no sheet has a heading for references, such as Reference or Designator"));
 }

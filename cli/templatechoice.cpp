@@ -4,6 +4,7 @@
 
 #include "cli/console.h"
 #include "cli/nearnames.h"
+#include "cli/texts.h"
 #include "standalone/environment.h"
 #include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
@@ -71,8 +72,8 @@ bool hasOwnDefaultTemplate()
 
 void reportUnknownTemplate(const QString &name, const TemplateList &templates)
 {
-    console::message(QStringLiteral("there is no template \"") + name + u'"' +
-                     didYouMean(name, templates.names()) + QStringLiteral(" (bom template list names them)"));
+    console::message(CommandLine::tr("there is no template \"%1\"%2 (bom template list names them)")
+                         .arg(name, didYouMean(name, templates.names())));
 }
 
 std::optional<BOMTemplate> readTemplate(const QString &nameOrFile)

@@ -8,6 +8,7 @@
 #include "cli/opendesign.h"
 #include "cli/outputfile.h"
 #include "cli/templatechoice.h"
+#include "cli/texts.h"
 #include "fitting/fittedtemplate.h"
 #include "host/propdefs/propdefsfile.h"
 #include "standalone/environment.h"
@@ -39,31 +40,33 @@ QString line(const QString &label, const QString &text)
 
 QString yesNo(bool isSet)
 {
-    return isSet ? QStringLiteral("yes") : QStringLiteral("no");
+    return isSet ? CommandLine::tr("yes") : CommandLine::tr("no");
 }
 
 QString columnText(const BOMField &field)
 {
     QStringList parts;
     if (!field.prefix.isEmpty()) {
-        parts << QStringLiteral("prefix ") + quoted(field.prefix);
+        parts << CommandLine::tr("prefix %1").arg(quoted(field.prefix));
     }
     if (!field.suffix.isEmpty()) {
-        parts << QStringLiteral("suffix ") + quoted(field.suffix);
+        parts << CommandLine::tr("suffix %1").arg(quoted(field.suffix));
     }
     if (field.applyToEmpty) {
-        parts << QStringLiteral("on empty values too");
+        parts << CommandLine::tr("on empty values too");
     }
     if (field.generateTotals) {
-        parts << QStringLiteral("totals with ") +
-                     counted(field.precision, QStringLiteral("decimal"), QStringLiteral("decimals"));
+        parts << oneOrMany(field.precision, CommandLine::tr("totals with %1 decimal"),
+                           CommandLine::tr("totals with %1 decimals"))
+                     .arg(field.precision);
     }
     if (field.enableLinks) {
-        parts << QStringLiteral("links");
+        parts << CommandLine::tr("links");
     }
     if (field.fieldWidth > 0) {
-        parts << QStringLiteral("at most ") +
-                     counted(field.fieldWidth, QStringLiteral("character"), QStringLiteral("characters"));
+        parts << oneOrMany(field.fieldWidth, CommandLine::tr("at most %1 character"),
+                           CommandLine::tr("at most %1 characters"))
+                     .arg(field.fieldWidth);
     }
     parts.prepend(printable(field.propertyName));
     return parts.join(QStringLiteral(", "));
@@ -71,20 +74,20 @@ QString columnText(const BOMField &field)
 
 QString categoryText(const BOMCategory &category)
 {
-    return category.isMiscCategory ? QStringLiteral("all other parts")
+    return category.isMiscCategory ? CommandLine::tr("all other parts")
                                    : printable(category.references.join(QStringLiteral(", ")));
 }
 
 QString htmlText(const BOMTemplate &settings)
 {
     QString text =
-        line(QStringLiteral("Style sheet"),
-             settings.css() == defaultStyleSheet() ? QStringLiteral("default") : QStringLiteral("its own"));
+        line(CommandLine::tr("Style sheet"),
+             settings.css() == defaultStyleSheet() ? CommandLine::tr("default") : CommandLine::tr("its own"));
     const std::pair<QString, QString> fragments[] = {
-        {QStringLiteral("Document header"), settings.documentHeader()},
-        {QStringLiteral("Document footer"), settings.documentFooter()},
-        {QStringLiteral("Page header"), settings.pageHeader()},
-        {QStringLiteral("Page footer"), settings.pageFooter()}};
+        {CommandLine::tr("Document header"), settings.documentHeader()},
+        {CommandLine::tr("Document footer"), settings.documentFooter()},
+        {CommandLine::tr("Page header"), settings.pageHeader()},
+        {CommandLine::tr("Page footer"), settings.pageFooter()}};
     for (const auto &[label, fragment] : fragments) {
         if (!fragment.isEmpty()) {
             text += line(label, printable(fragment));
@@ -95,16 +98,16 @@ QString htmlText(const BOMTemplate &settings)
 
 QString optionsText(const BOMTemplate &settings)
 {
-    return line(QStringLiteral("References"), settings.groupReferences()
-                                                  ? QStringLiteral("shortened (R1-R7)")
-                                                  : QStringLiteral("individual (R1,R2...)")) +
-           line(QStringLiteral("Suppress empty categories"), yesNo(settings.suppressEmptyCategories())) +
-           line(QStringLiteral("Case sensitive part grouping"), yesNo(settings.caseSensitiveGrouping())) +
-           line(QStringLiteral("Append notes"), yesNo(settings.appendNotes())) +
-           line(QStringLiteral("Manual table column widths"), yesNo(settings.manualPrettyLayout())) +
-           line(QStringLiteral("Always quote references (CSV only)"), yesNo(settings.alwaysQuoteRefs())) +
-           line(QStringLiteral("Exclude value field (data outputs)"), yesNo(settings.excludeValueField())) +
-           (settings.layoutForReading() ? line(QStringLiteral("Layout for reading"), yesNo(true))
+    return line(CommandLine::tr("References"), settings.groupReferences()
+                                                   ? CommandLine::tr("shortened (R1-R7)")
+                                                   : CommandLine::tr("individual (R1,R2...)")) +
+           line(CommandLine::tr("Suppress empty categories"), yesNo(settings.suppressEmptyCategories())) +
+           line(CommandLine::tr("Case sensitive part grouping"), yesNo(settings.caseSensitiveGrouping())) +
+           line(CommandLine::tr("Append notes"), yesNo(settings.appendNotes())) +
+           line(CommandLine::tr("Manual table column widths"), yesNo(settings.manualPrettyLayout())) +
+           line(CommandLine::tr("Always quote references (CSV only)"), yesNo(settings.alwaysQuoteRefs())) +
+           line(CommandLine::tr("Exclude value field (data outputs)"), yesNo(settings.excludeValueField())) +
+           (settings.layoutForReading() ? line(CommandLine::tr("Layout for reading"), yesNo(true))
                                         : QString());
 }
 
@@ -112,20 +115,20 @@ QString placeText(const BOMTemplate &settings)
 {
     const QString path = settings.filePath();
     if (isShippedTemplateFile(path)) {
-        return QStringLiteral("comes with the program");
+        return CommandLine::tr("comes with the program");
     }
-    return QFile::exists(path) ? printable(QDir::toNativeSeparators(path)) : QStringLiteral("none yet");
+    return QFile::exists(path) ? printable(QDir::toNativeSeparators(path)) : CommandLine::tr("none yet");
 }
 
 /// The settings for people to read: columns, categories, options; one a line.
 QString templateListing(const BOMTemplate &settings)
 {
-    QString text = line(QStringLiteral("Template"), printable(settings.name())) +
-                   line(QStringLiteral("File"), placeText(settings)) + QStringLiteral("Columns:\n");
+    QString text = line(CommandLine::tr("Template"), printable(settings.name())) +
+                   line(CommandLine::tr("File"), placeText(settings)) + CommandLine::tr("Columns:") + u'\n';
     for (const BOMField &field : settings.fields().fields()) {
         text += QStringLiteral("  ") + line(printable(field.fieldName), columnText(field));
     }
-    text += QStringLiteral("Categories:\n");
+    text += CommandLine::tr("Categories:") + u'\n';
     for (const BOMCategory &category : settings.categories()) {
         text += QStringLiteral("  ") + line(printable(category.heading), categoryText(category));
     }
@@ -136,37 +139,55 @@ QString templateListing(const BOMTemplate &settings)
 
 void TemplateCommand::addTo(CLI::App &program)
 {
-    m_app = program.add_subcommand("template", "List, show, make and delete report templates");
+    m_app = program.add_subcommand("template",
+                                   QT_TRANSLATE_NOOP("Help", "List, show, make and delete report templates"));
     m_app->require_subcommand(1);
-    addAction("list", "List all templates", &TemplateCommand::list);
-    addName(*addAction("show", "Print the settings of a template", &TemplateCommand::show),
-            "Template, or a .bomt file");
-    CLI::App *create = addAction("new", "Make a template", &TemplateCommand::create);
-    addName(*create, "Name of the new template");
-    CLI::Option *from = create
-                            ->add_option("--from", m_from,
-                                         "Take the settings of this template or .bomt file, not the defaults")
-                            ->type_name("NAME|FILE")
-                            ->check(CLI::Validator(isGiven, ""));
+    addAction("list", QT_TRANSLATE_NOOP("Help", "List all templates"), &TemplateCommand::list);
+    addName(*addAction("show", QT_TRANSLATE_NOOP("Help", "Print the settings of a template"),
+                       &TemplateCommand::show),
+            QT_TRANSLATE_NOOP("Help", "Template, or a .bomt file"));
+    CLI::App *create =
+        addAction("new", QT_TRANSLATE_NOOP("Help", "Make a template"), &TemplateCommand::create);
+    addName(*create, QT_TRANSLATE_NOOP("Help", "Name of the new template"));
+    CLI::Option *from =
+        create
+            ->add_option("--from", m_from,
+                         QT_TRANSLATE_NOOP(
+                             "Help", "Take the settings of this template or .bomt file, not the defaults"))
+            ->type_name("NAME|FILE")
+            ->check(CLI::Validator(isGiven, ""));
     create
-        ->add_option("--for", m_for, "Take the settings that a report of this design has without a template")
+        ->add_option("--for", m_for,
+                     QT_TRANSLATE_NOOP(
+                         "Help", "Take the settings that a report of this design has without a template"))
         ->type_name("DESIGN")
         ->check(CLI::Validator(isGiven, ""))
         ->excludes(from);
-    addName(*addAction("delete", "Delete a template of your own", &TemplateCommand::remove), "Template");
-    addAction("reset", "Put the template \"Default\" back to the default settings", &TemplateCommand::reset);
-    addFile(*addAction("import", "Take a .bomt file into your templates", &TemplateCommand::importFile),
-            "The file; its name becomes the template's");
+    addName(*addAction("delete", QT_TRANSLATE_NOOP("Help", "Delete a template of your own"),
+                       &TemplateCommand::remove),
+            QT_TRANSLATE_NOOP("Help", "Template"));
+    addAction("reset", QT_TRANSLATE_NOOP("Help", "Put the template \"Default\" back to the default settings"),
+              &TemplateCommand::reset);
+    addFile(*addAction("import", QT_TRANSLATE_NOOP("Help", "Take a .bomt file into your templates"),
+                       &TemplateCommand::importFile),
+            QT_TRANSLATE_NOOP("Help", "The file; its name becomes the template's"));
     CLI::App *legacy =
-        addAction("import-legacy", "Make a template of a legacy BOM script", &TemplateCommand::importLegacy);
-    addFile(*legacy, "The file with the script, usually .BSF");
-    legacy->add_option("--script", m_script, "Which script, where the file has several")->type_name("NAME");
-    legacy->add_option("--name", m_name, "Name of the new template, not the script's")
+        addAction("import-legacy", QT_TRANSLATE_NOOP("Help", "Make a template of a legacy BOM script"),
+                  &TemplateCommand::importLegacy);
+    addFile(*legacy, QT_TRANSLATE_NOOP("Help", "The file with the script, usually .BSF"));
+    legacy
+        ->add_option("--script", m_script,
+                     QT_TRANSLATE_NOOP("Help", "Which script, where the file has several"))
+        ->type_name("NAME");
+    legacy
+        ->add_option("--name", m_name,
+                     QT_TRANSLATE_NOOP("Help", "Name of the new template, not the script's"))
         ->type_name("NAME")
         ->check(CLI::Validator(isGiven, ""));
-    CLI::App *exportFile = addAction("export", "Copy a template to a file", &TemplateCommand::exportFile);
-    addName(*exportFile, "Template");
-    addFile(*exportFile, "Where to; - is standard output");
+    CLI::App *exportFile = addAction("export", QT_TRANSLATE_NOOP("Help", "Copy a template to a file"),
+                                     &TemplateCommand::exportFile);
+    addName(*exportFile, QT_TRANSLATE_NOOP("Help", "Template"));
+    addFile(*exportFile, QT_TRANSLATE_NOOP("Help", "Where to; - is standard output"));
 }
 
 CLI::App *TemplateCommand::addAction(const char *name, const char *description,
@@ -209,9 +230,11 @@ ExitStatus TemplateCommand::list(TemplateStore &store)
     store.reload();
     QString text;
     for (const QString &name : store.templates().names()) {
-        text += printable(name) + (store.templates().isShipped(name)
-                                       ? QStringLiteral("\tcomes with the program\n")
-                                       : QStringLiteral("\n"));
+        text += printable(name);
+        if (store.templates().isShipped(name)) {
+            text += u'\t' + CommandLine::tr("comes with the program");
+        }
+        text += u'\n';
     }
     return console::write(text.toUtf8()) ? ExitStatus::Done : ExitStatus::UnwritableOutput;
 }
@@ -324,8 +347,8 @@ ExitStatus TemplateCommand::importLegacy(TemplateStore &store)
     setpropdefsfile(userDefinitionsFile());
     const QStringList undefined = undefinedProperties(made);
     if (!undefined.isEmpty()) {
-        console::notice(QStringLiteral("properties without a definition: ") +
-                        undefined.join(QLatin1String(", ")));
+        console::notice(
+            CommandLine::tr("properties without a definition: %1").arg(undefined.join(QLatin1String(", "))));
     }
     return console::write(made.name().toUtf8() + '\n') ? ExitStatus::Done : ExitStatus::UnwritableOutput;
 }

@@ -5,6 +5,7 @@
 #include "cli/console.h"
 #include "cli/designarguments.h"
 #include "cli/opendesign.h"
+#include "cli/texts.h"
 #include "standalone/designsession.h"
 #include "views/report/jsonreport.h"
 #include "views/report/jsonwriter.h"
@@ -33,9 +34,11 @@ QByteArray readableText(const QStringList &variants)
 
 void VariantsCommand::addTo(CLI::App &program)
 {
-    m_app = program.add_subcommand("variants", "List the variants of the design, for --variant");
+    m_app = program.add_subcommand(
+        "variants", QT_TRANSLATE_NOOP("Help", "List the variants of the design, for --variant"));
     DesignArguments::addPath(*m_app, m_design);
-    m_app->add_flag("--json", m_json, "Write JSON for programs instead of one name a line");
+    m_app->add_flag("--json", m_json,
+                    QT_TRANSLATE_NOOP("Help", "Write JSON for programs instead of one name a line"));
 }
 
 ExitStatus VariantsCommand::run()
@@ -48,7 +51,8 @@ ExitStatus VariantsCommand::run()
     }
     const QStringList variants = session.variants();
     if (variants.isEmpty()) {
-        console::notice(QString::fromStdString(m_design) + QStringLiteral(": the design has no variants"));
+        console::notice(QString::fromStdString(m_design) + QStringLiteral(": ") +
+                        CommandLine::tr("the design has no variants"));
     }
     return console::write(m_json ? jsonText(variants) : readableText(variants))
                ? ExitStatus::Done

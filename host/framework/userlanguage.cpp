@@ -11,7 +11,7 @@
 namespace {
 
 /// What translates the texts of the process; of several that live, the first.
-QTranslator *theTranslator = nullptr;
+UserLanguage *theLanguage = nullptr;
 
 /// Whether the environment asks for the messages that every machine gives.
 bool asksForPlainMessages()
@@ -26,12 +26,10 @@ bool asksForPlainMessages()
 }
 
 /// Null when there are no such texts.
-std::unique_ptr<QTranslator> installed(const QString &name, const QString &folder)
+std::unique_ptr<QTranslator> loaded(const QString &name, const QString &folder)
 {
     auto translator = std::make_unique<QTranslator>();
-    const bool isInstalled =
-        translator->load(name, folder) && QCoreApplication::installTranslator(translator.get());
-    return isInstalled ? std::move(translator) : nullptr;
+    return translator->load(name, folder) ? std::move(translator) : nullptr;
 }
 
 } // namespace
@@ -39,20 +37,41 @@ std::unique_ptr<QTranslator> installed(const QString &name, const QString &folde
 UserLanguage::UserLanguage()
 {
     const QString language = preferred();
-    if (language.isEmpty() || theTranslator || !QCoreApplication::instance()) {
+    if (language.isEmpty() || theLanguage || !QCoreApplication::instance()) {
         return;
     }
+    m_texts = loaded(QStringLiteral("bom_") + language, QStringLiteral(":/bom/translations"));
     m_qtTexts =
-        installed(QStringLiteral("qtbase_") + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    // Asked first, as it was installed last.
-    m_texts = installed(QStringLiteral("bom_") + language, QStringLiteral(":/bom/translations"));
-    theTranslator = m_texts.get();
+        loaded(QStringLiteral("qtbase_") + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    if (m_texts) {
+        theLanguage = this;
+        install();
+    }
 }
 
 UserLanguage::~UserLanguage()
 {
-    if (m_texts) {
-        theTranslator = nullptr;
+    if (theLanguage == this) {
+        theLanguage = nullptr;
+    }
+}
+
+void UserLanguage::install() const
+{
+    // The last one is asked first.
+    for (QTranslator *translator : {m_qtTexts.get(), m_texts.get()}) {
+        if (translator) {
+            QCoreApplication::installTranslator(translator);
+        }
+    }
+}
+
+void UserLanguage::remove() const
+{
+    for (QTranslator *translator : {m_qtTexts.get(), m_texts.get()}) {
+        if (translator) {
+            QCoreApplication::removeTranslator(translator);
+        }
     }
 }
 
@@ -73,5 +92,19 @@ QString UserLanguage::preferred()
 
 QTranslator *UserLanguage::translator()
 {
-    return theTranslator;
+    return theLanguage ? theLanguage->m_texts.get() : nullptr;
+}
+
+PlainLanguage::PlainLanguage()
+{
+    if (theLanguage) {
+        theLanguage->remove();
+    }
+}
+
+PlainLanguage::~PlainLanguage()
+{
+    if (theLanguage) {
+        theLanguage->install();
+    }
 }

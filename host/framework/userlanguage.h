@@ -27,6 +27,20 @@ public:
     [[nodiscard]] static QTranslator *translator();
 
 private:
+    friend class PlainLanguage;
+    void install() const;
+    void remove() const;
+
     std::unique_ptr<QTranslator> m_qtTexts;
     std::unique_ptr<QTranslator> m_texts;
+};
+
+/// The program's texts are in English while it lives: for what other programs read.
+class PlainLanguage final
+{
+public:
+    PlainLanguage();
+    PlainLanguage(const PlainLanguage &) = delete;
+    PlainLanguage &operator=(const PlainLanguage &) = delete;
+    ~PlainLanguage();
 };
