@@ -4,8 +4,8 @@
 
 #include "account/billaccount.h"
 #include "account/design/designaccount.h"
+#include "account/design/texts.h"
 #include "account/sentences.h"
-#include "account/texts.h"
 #include "core/bompartsdatabase.h"
 #include "core/unreadtexts.h"
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "account/fieldnotices.h"
 
+#include "account/design/texts.h"
 #include "account/sentences.h"
-#include "account/texts.h"
 #include "core/bompart.h"
 #include "core/bompartsdatabase.h"
 #include "standalone/buyerfields.h"

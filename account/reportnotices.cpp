@@ -5,8 +5,8 @@
 #include "account/billaccount.h"
 #include "account/billfindings.h"
 #include "account/design/designaccount.h"
+#include "account/design/texts.h"
 #include "account/sentences.h"
-#include "account/texts.h"
 #include "core/bompartsdatabase.h"
 #include "core/unreadtexts.h"
 

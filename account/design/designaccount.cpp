@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "account/design/designaccount.h"
 
-#include "account/texts.h"
+#include "account/design/texts.h"
 #include "host/framework/hosttext.h"
 #include "standalone/loadeddesign.h"
 
