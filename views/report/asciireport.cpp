@@ -6,8 +6,6 @@
 #include "templates/bomtemplate.h"
 #include "views/report/report.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <utility>
 
@@ -15,11 +13,6 @@ namespace {
 
 constexpr int widestColumn = 1000;
 constexpr int mostReferenceLines = 1000;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("BOMAsciiView", text);
-}
 
 /// Filled up or cut to the width; a pair of surrogates is not cut in two.
 void appendCell(QString &line, const QString &text, int width)
@@ -93,19 +86,20 @@ QByteArray asciiReport(const Report &report)
 
 QString asciiTitle()
 {
-    return tr("Bill Of Materials");
+    return QStringLiteral("Bill Of Materials");
 }
 
 QString asciiInformation(const ReportDesign &design)
 {
-    QList<std::pair<QString, QString>> entries{{tr("Design Title"), design.title},
-                                               {tr("Document Number"), design.documentNumber},
-                                               {tr("Revision"), design.revision}};
+    QList<std::pair<QString, QString>> entries{{QStringLiteral("Design Title"), design.title},
+                                               {QStringLiteral("Document Number"), design.documentNumber},
+                                               {QStringLiteral("Revision"), design.revision}};
     if (!design.variant.isEmpty()) {
-        entries.append({tr("Assembly Variant"), design.variant});
+        entries.append({QStringLiteral("Assembly Variant"), design.variant});
     }
-    entries.append(
-        {{tr("Author"), design.author}, {tr("Created"), design.created}, {tr("Modified"), design.modified}});
+    entries.append({{QStringLiteral("Author"), design.author},
+                    {QStringLiteral("Created"), design.created},
+                    {QStringLiteral("Modified"), design.modified}});
     qsizetype longest = 0;
     for (const auto &[label, value] : std::as_const(entries)) {
         longest = std::max(longest, label.size());
@@ -119,7 +113,7 @@ QString asciiInformation(const ReportDesign &design)
 
 QStringList asciiHeadings(const Report &report)
 {
-    return QStringList{tr("QTY"), tr("PART-REFS")} + report.columnNames();
+    return QStringList{QStringLiteral("QTY"), QStringLiteral("PART-REFS")} + report.columnNames();
 }
 
 QList<int> asciiWidths(const Report &report)

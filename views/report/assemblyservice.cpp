@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "views/report/assemblyservice.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QStringDecoder>
 
@@ -10,6 +11,12 @@
 #include <utility>
 
 namespace {
+
+/// Most stand behind the name of the file and the line.
+struct ServiceTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(AssemblyService)
+};
 
 using Content = ServiceColumn::Content;
 
@@ -80,7 +87,7 @@ ReadService ServiceReader::read(const QByteArray &text)
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString decoded = decoder(text);
     if (decoder.hasError() || decoded.contains(QChar::Null)) {
-        fail(QStringLiteral("is no UTF-8 text"));
+        fail(ServiceTexts::tr("is no UTF-8 text"));
         return m_read;
     }
     for (const QStringView line : QStringView(decoded).split(u'\n')) {
@@ -102,22 +109,23 @@ void ServiceReader::readLine(QStringView line)
     }
     if (line.startsWith(u'[')) {
         if (line.compare(QLatin1String("[columns]"), Qt::CaseInsensitive) != 0 || m_isBelowColumns) {
-            fail(quoted(line) + QStringLiteral(" is no heading; there is one only, [columns]"));
+            fail(ServiceTexts::tr("%1 is no heading; there is one only, [columns]").arg(quoted(line)));
         }
         m_isBelowColumns = true;
         return;
     }
     if (line.size() > longestLine) {
-        fail(QStringLiteral("is longer than %1 characters").arg(longestLine));
+        fail(ServiceTexts::tr("is longer than %1 characters").arg(longestLine));
         return;
     }
     const qsizetype end = line.startsWith(u'"') ? line.indexOf(u'"', 1) : 0;
     const qsizetype sign = end < 0 ? -1 : line.indexOf(u'=', end);
     const QString name = sign < 0 ? QString() : unquoted(line.first(sign).trimmed());
     if (name.isEmpty()) {
-        fail(quoted(line) + (m_isBelowColumns
-                                 ? QStringLiteral(" is no column such as Designator = designators")
-                                 : QStringLiteral(" is no setting such as title = Our assembly house")));
+        const QString text = m_isBelowColumns
+                                 ? ServiceTexts::tr("%1 is no column such as Designator = designators")
+                                 : ServiceTexts::tr("%1 is no setting such as title = Our assembly house");
+        fail(text.arg(quoted(line)));
     } else if (m_isBelowColumns) {
         readColumn(name, line.sliced(sign + 1).trimmed());
     } else {
@@ -128,12 +136,13 @@ void ServiceReader::readLine(QStringView line)
 void ServiceReader::readSetting(const QString &key, QStringView value)
 {
     if (key != QLatin1String("apart") && m_settings.contains(key)) {
-        fail(quoted(key) + QStringLiteral(" stands in line %1 as well").arg(m_settings.value(key)));
+        fail(ServiceTexts::tr("%1 stands in line %2 as well")
+                 .arg(quoted(key), QString::number(m_settings.value(key))));
         return;
     }
     m_settings.insert(key, m_line);
     if (value.isEmpty()) {
-        fail(quoted(key) + QStringLiteral(" says nothing"));
+        fail(ServiceTexts::tr("%1 says nothing").arg(quoted(key)));
     } else if (key == QLatin1String("title")) {
         m_read.service.title = unquoted(value);
     } else if (key == QLatin1String("needs")) {
@@ -141,7 +150,7 @@ void ServiceReader::readSetting(const QString &key, QStringView value)
     } else if (key == QLatin1String("separator")) {
         m_read.service.separator = unquoted(value);
         if (m_read.service.separator.isEmpty()) {
-            fail(quoted(key) + QStringLiteral(" says nothing"));
+            fail(ServiceTexts::tr("%1 says nothing").arg(quoted(key)));
         }
     } else if (key == QLatin1String("apart")) {
         m_read.service.apart << unquoted(value);
@@ -150,8 +159,9 @@ void ServiceReader::readSetting(const QString &key, QStringView value)
     } else if (key == QLatin1String("ignores letter case")) {
         readLetterCase(value);
     } else {
-        fail(quoted(key) + QStringLiteral(" is no setting; known are title, needs, most designators, ignores "
-                                          "letter case, separator and apart"));
+        fail(ServiceTexts::tr("%1 is no setting; known are title, needs, most designators, ignores letter "
+                              "case, separator and apart")
+                 .arg(quoted(key)));
     }
 }
 
@@ -160,7 +170,8 @@ void ServiceReader::readMostDesignators(QStringView value)
     bool isNumber = false;
     const int most = value.toInt(&isNumber);
     if (!isNumber || most < 1 || most > largestRow) {
-        fail(quoted(value) + QStringLiteral(" is no number from 1 to %1").arg(largestRow));
+        fail(
+            ServiceTexts::tr("%1 is no number from 1 to %2").arg(quoted(value), QString::number(largestRow)));
         return;
     }
     m_read.service.mostDesignators = most;
@@ -170,7 +181,7 @@ void ServiceReader::readLetterCase(QStringView value)
 {
     const bool isYes = value.compare(QLatin1String("yes"), Qt::CaseInsensitive) == 0;
     if (!isYes && value.compare(QLatin1String("no"), Qt::CaseInsensitive) != 0) {
-        fail(quoted(value) + QStringLiteral(" is neither yes nor no"));
+        fail(ServiceTexts::tr("%1 is neither yes nor no").arg(quoted(value)));
     }
     m_read.service.ignoresLetterCase = isYes;
 }
@@ -179,8 +190,8 @@ void ServiceReader::readColumn(const QString &heading, QStringView value)
 {
     const QString folded = heading.toCaseFolded();
     if (m_headings.contains(folded)) {
-        fail(QStringLiteral("the heading ") + quoted(heading) +
-             QStringLiteral(" stands in line %1 as well").arg(m_headings.value(folded)));
+        fail(ServiceTexts::tr("the heading %1 stands in line %2 as well")
+                 .arg(quoted(heading), QString::number(m_headings.value(folded))));
         return;
     }
     m_headings.insert(folded, m_line);
@@ -196,13 +207,13 @@ void ServiceReader::readColumn(const QString &heading, QStringView value)
     } else if (word.compare(QLatin1String("text"), Qt::CaseInsensitive) == 0) {
         column.text = rest;
     } else {
-        fail(quoted(value) +
-             QStringLiteral(" is nothing that a column can hold; known are value, footprint, "
-                            "designators, quantity, item number, property NAME and text TEXT"));
+        fail(ServiceTexts::tr("%1 is nothing that a column can hold; known are value, footprint, "
+                              "designators, quantity, item number, property NAME and text TEXT")
+                 .arg(quoted(value)));
         return;
     }
     if (m_read.service.columns.size() == mostColumns) {
-        fail(QStringLiteral("there are more than %1 columns").arg(mostColumns));
+        fail(ServiceTexts::tr("there are more than %1 columns").arg(mostColumns));
         return;
     }
     m_read.service.columns << column;
@@ -216,18 +227,19 @@ void ServiceReader::checkWhole()
         return found == service.columns.cend() ? nullptr : &*found;
     };
     if (service.columns.isEmpty()) {
-        fail(QStringLiteral("has no columns; they stand below a line [columns]"));
+        fail(ServiceTexts::tr("has no columns; they stand below a line [columns]"));
     } else if (!columnWith([](const auto &column) { return column.content == Content::Designators; })) {
-        fail(QStringLiteral("has no column that holds the designators, such as Designator = designators"));
+        fail(ServiceTexts::tr("has no column that holds the designators, such as Designator = designators"));
     } else if (!m_needed.isEmpty()) {
         const ServiceColumn *needed = columnWith([this](const auto &column) {
             return column.heading.compare(m_needed, Qt::CaseInsensitive) == 0;
         });
         m_line = m_settings.value(QStringLiteral("needs"));
         if (!needed || needed->content != Content::Property) {
-            fail(QStringLiteral("the service needs the column ") + quoted(m_needed) +
-                 (needed ? QStringLiteral(", which holds no property")
-                         : QStringLiteral(", and there is none of that name")));
+            const QString text =
+                needed ? ServiceTexts::tr("the service needs the column %1, which holds no property")
+                       : ServiceTexts::tr("the service needs the column %1, and there is none of that name");
+            fail(text.arg(quoted(m_needed)));
             return;
         }
         service.needed = needed - service.columns.constData();

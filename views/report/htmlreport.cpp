@@ -13,7 +13,6 @@
 #include "views/report/templatemarkup.h"
 #include "views/report/textwidths.h"
 
-#include <QCoreApplication>
 #include <QRectF>
 
 #include <algorithm>
@@ -27,11 +26,6 @@ constexpr int tabWidth = 8;
 
 const QString cellEnd = QStringLiteral("</p></td>");
 
-QString tr(const char *text, const char *comment = nullptr)
-{
-    return QCoreApplication::translate("BOMHTMLView", text, comment);
-}
-
 QString headerRow(const QString &label, const QString &value)
 {
     return QStringLiteral("<tr><td><p class='headerTitle'>") + htmlText(label) +
@@ -43,16 +37,16 @@ QString headerTable(const Report &report)
 {
     const ReportDesign design = report.design();
     QString html = QStringLiteral("\n<table class='headerTable'>\n<tbody>");
-    html += headerRow(tr("Design Title"), design.title);
-    html += headerRow(tr("Author"), design.author);
-    html += headerRow(tr("Document Number"), design.documentNumber);
-    html += headerRow(tr("Revision"), design.revision);
+    html += headerRow(QStringLiteral("Design Title"), design.title);
+    html += headerRow(QStringLiteral("Author"), design.author);
+    html += headerRow(QStringLiteral("Document Number"), design.documentNumber);
+    html += headerRow(QStringLiteral("Revision"), design.revision);
     if (!design.variant.isEmpty()) {
-        html += headerRow(tr("Assembly Variant"), design.variant);
+        html += headerRow(QStringLiteral("Assembly Variant"), design.variant);
     }
-    html += headerRow(tr("Design Created"), design.created);
-    html += headerRow(tr("Design Last Modified"), design.modified);
-    html += headerRow(tr("Total Parts In Design"), Report::text(report.partCount()));
+    html += headerRow(QStringLiteral("Design Created"), design.created);
+    html += headerRow(QStringLiteral("Design Last Modified"), design.modified);
+    html += headerRow(QStringLiteral("Total Parts In Design"), Report::text(report.partCount()));
     return html + QStringLiteral("</tbody></table><p></p>\n\n");
 }
 
@@ -92,7 +86,7 @@ QString notesSection(const QString &notes)
 {
     const QString html = notesHtml(notes);
     return html.isEmpty() ? QString()
-                          : QStringLiteral("\n<h3 class='NotesTitle'>") + htmlText(tr("Notes")) +
+                          : QStringLiteral("\n<h3 class='NotesTitle'>") + htmlText(QStringLiteral("Notes")) +
                                 QStringLiteral("</h3><p class='bomNotes'>") + html + QStringLiteral("</p>\n");
 }
 
@@ -132,7 +126,7 @@ QStringList cellClasses(const Report &report)
 
 QStringList headingTexts(const Report &report)
 {
-    return QStringList{tr("Quantity"), tr("References")} + report.columnNames();
+    return QStringList{QStringLiteral("Quantity"), QStringLiteral("References")} + report.columnNames();
 }
 
 /// How many characters of the small font stand beside each other on the template's paper.
@@ -298,8 +292,7 @@ void CategoriesTable::append()
 void CategoriesTable::appendCategory(const QString &category)
 {
     const QString count = Report::text(m_report.partCount(category));
-    const QString heading =
-        tr("%1 %2", "BOM category headings in HTML output").arg(count, htmlText(category));
+    const QString heading = QStringLiteral("%1 %2").arg(count, htmlText(category));
     m_html += QStringLiteral("<tbody>\n<tr><th colspan='") + m_columnCount +
               QStringLiteral("'><p class='sectionTitle' >") + heading + QStringLiteral("</p></th></tr>\n");
     m_html += m_hasOneHead ? QString() : m_headingRow;
@@ -345,8 +338,8 @@ void CategoriesTable::appendSubTotals(const QStringList &totals)
     if (m_isForReading && totals.join(QString()).isEmpty()) {
         return;
     }
-    m_html +=
-        QStringLiteral("<tr><td colspan='2'><p class='subtotal'>") + htmlText(tr("Sub-totals:")) + cellEnd;
+    m_html += QStringLiteral("<tr><td colspan='2'><p class='subtotal'>") +
+              htmlText(QStringLiteral("Sub-totals:")) + cellEnd;
     appendTotalCells(totals, QLatin1String("subtotal"));
     m_html += QStringLiteral("</tr>\n");
 }
@@ -359,7 +352,8 @@ void CategoriesTable::appendTotals()
     }
     m_html += QStringLiteral("<tbody>\n<tr><td colspan=\"") + m_columnCount +
               QStringLiteral("\"><p class='horizLine'>&nbsp; </p></td></tr>\n<tr><td><p class='total'>") +
-              htmlText(tr("Totals:")) + cellEnd + QStringLiteral("<td><p class='total'>") + cellEnd;
+              htmlText(QStringLiteral("Totals:")) + cellEnd + QStringLiteral("<td><p class='total'>") +
+              cellEnd;
     appendTotalCells(totals, QLatin1String("total"));
     m_html += QStringLiteral("</tr>\n</tbody>\n");
 }
@@ -426,7 +420,7 @@ QString htmlReport(const Report &whole, HtmlUse use)
     const Report report = whole.forReading();
     const BOMTemplate &settings = report.settings();
     const HostUi &ui = HostUi::current();
-    const QString title = htmlText(tr("Bill Of Materials for ") + report.design().title);
+    const QString title = htmlText(QStringLiteral("Bill Of Materials for ") + report.design().title);
     const bool isForBrowsers = settings.layoutForReading() && use == HtmlUse::Browser;
     QString html = htmlDocumentStart(title, styleElementText(settings.css()),
                                      isForBrowsers ? browserHead(report) : QString());

@@ -6,18 +6,11 @@
 #include "core/part.h"
 #include "host/framework/hostui.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 
 namespace {
 
 constexpr int significantDigits = 6;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("BOMView", text);
-}
 
 QString withAffixes(const QString &text, const BOMField &field)
 {
@@ -58,10 +51,10 @@ QString subjectOf(const ReportDesign &design)
 {
     QStringList parts{design.title, design.documentNumber};
     if (!design.revision.isEmpty()) {
-        parts << tr("Revision") + u' ' + design.revision;
+        parts << QStringLiteral("Revision") + u' ' + design.revision;
     }
     if (!design.variant.isEmpty()) {
-        parts << tr("Assembly Variant") + u' ' + design.variant;
+        parts << QStringLiteral("Assembly Variant") + u' ' + design.variant;
     }
     parts.removeAll(QString());
     return parts.join(QStringLiteral(", "));
@@ -92,7 +85,7 @@ QString truncatedToWidth(const QString &value, const BOMField &field)
 
 QString emptyColumnsSentence(const QStringList &columns)
 {
-    return tr("Empty for all parts: ") + columns.join(QLatin1String(", "));
+    return QStringLiteral("Empty for all parts: ") + columns.join(QLatin1String(", "));
 }
 
 Report::Report(const BOMPartsDatabase &database, const BOMFields &fields)
@@ -191,11 +184,11 @@ QStringList Report::columnNames() const
 
 QStringList Report::headings(bool withQuantity) const
 {
-    QStringList headings{tr("Category")};
+    QStringList headings{QStringLiteral("Category")};
     if (withQuantity) {
-        headings << tr("Quantity");
+        headings << QStringLiteral("Quantity");
     }
-    headings << tr("References");
+    headings << QStringLiteral("References");
     return headings + columnNames();
 }
 

@@ -374,8 +374,10 @@ QStringList Spreadsheet::notices() const
     }
     if (m_malformedLinks > 0) {
         const auto others = m_malformedLinks - m_malformedOwners.size();
-        notices << tr("Malformed links are text: ") + m_malformedOwners.join(QLatin1String(", ")) +
-                       (others > 0 ? tr(" and %1 more.").arg(others) : QStringLiteral("."));
+        const QString owners = m_malformedOwners.join(QLatin1String(", "));
+        notices << (others > 0
+                        ? tr("Malformed links are text: %1 and %2 more.").arg(owners, QString::number(others))
+                        : tr("Malformed links are text: %1.").arg(owners));
     }
     return notices;
 }

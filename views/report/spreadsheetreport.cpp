@@ -12,7 +12,6 @@
 #include "views/report/report.h"
 #include "views/report/spreadsheet.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -26,14 +25,9 @@ constexpr int quantityColumn = 1;
 constexpr int referencesColumn = 2;
 constexpr int firstField = 3;
 
-QString tr(const char *text, const char *comment = nullptr)
-{
-    return QCoreApplication::translate("BOMExcelView", text, comment);
-}
-
 QString titleOf(const ReportDesign &design)
 {
-    return tr("Bill Of Materials for ") + design.title;
+    return QStringLiteral("Bill Of Materials for ") + design.title;
 }
 
 /// In double quotes; those of the text itself stand between, behind a backslash.
@@ -164,7 +158,7 @@ SpreadsheetWriter::SpreadsheetWriter(const Report &report, Spreadsheet &sheet)
 
 void SpreadsheetWriter::write()
 {
-    m_sheet.beginSheet(tr("Bill Of Materials"));
+    m_sheet.beginSheet(QStringLiteral("Bill Of Materials"));
     if (m_isForReading) {
         m_sheet.setPaper(paperOf(m_report));
     }
@@ -180,7 +174,7 @@ void SpreadsheetWriter::write()
     m_sheet.freezeRow(headings, lastColumn(), all.lastRow);
     m_sheet.nextRow();
     if (!m_isForReading || hasTotals()) {
-        writeTotals(tr("Totals:"), m_report.grandTotals(), all, CellLook::Total);
+        writeTotals(QStringLiteral("Totals:"), m_report.grandTotals(), all, CellLook::Total);
     }
     writeEmptyColumns();
     m_lacksParts = !writePartsSheet(m_report, m_sheet);
@@ -216,12 +210,14 @@ void SpreadsheetWriter::fillRow(int first, CellLook look)
 void SpreadsheetWriter::writeTitleBlock()
 {
     m_sheet.text(categoryColumn, titleOf(m_design), CellLook::Title);
-    writeInformation({tr("Design Title"), m_design.title}, {tr("Author"), m_design.author});
-    writeInformation({tr("Document Number"), m_design.documentNumber},
-                     {tr("Design Created"), m_design.created});
-    writeInformation({tr("Revision"), m_design.revision}, {tr("Design Last Modified"), m_design.modified});
-    const QString variantLabel = m_design.variant.isEmpty() ? QString() : tr("Assembly Variant");
-    writeInformation({tr("Total Parts In Design"), {}}, {variantLabel, m_design.variant});
+    writeInformation({QStringLiteral("Design Title"), m_design.title},
+                     {QStringLiteral("Author"), m_design.author});
+    writeInformation({QStringLiteral("Document Number"), m_design.documentNumber},
+                     {QStringLiteral("Design Created"), m_design.created});
+    writeInformation({QStringLiteral("Revision"), m_design.revision},
+                     {QStringLiteral("Design Last Modified"), m_design.modified});
+    const QString variantLabel = m_design.variant.isEmpty() ? QString() : QStringLiteral("Assembly Variant");
+    writeInformation({QStringLiteral("Total Parts In Design"), {}}, {variantLabel, m_design.variant});
     writeQuantity(m_report.partCount(), CellLook::Text);
 }
 
@@ -251,8 +247,7 @@ SpreadsheetWriter::Block SpreadsheetWriter::writeCategory(const QString &categor
 {
     m_sheet.nextRow();
     const QString count = Report::text(m_report.partCount(category));
-    m_sheet.text(categoryColumn, tr("%1 %2", "BOM category headings in spreadsheets").arg(count, category),
-                 CellLook::Section);
+    m_sheet.text(categoryColumn, QStringLiteral("%1 %2").arg(count, category), CellLook::Section);
     fillRow(categoryColumn + 1, CellLook::Section);
     const ReportLines listed = m_report.lines(category, true);
     Block block;
@@ -265,7 +260,7 @@ SpreadsheetWriter::Block SpreadsheetWriter::writeCategory(const QString &categor
     block.lastRow = m_sheet.row();
     if (!m_isForReading || hasTotals(category)) {
         m_sheet.nextRow();
-        writeTotals(tr("Sub-totals:"), m_report.subTotals(category), block, CellLook::SubTotal);
+        writeTotals(QStringLiteral("Sub-totals:"), m_report.subTotals(category), block, CellLook::SubTotal);
     }
     return block;
 }
@@ -374,8 +369,8 @@ void SpreadsheetWriter::writeNotes()
     if (notes.trimmed().isEmpty()) {
         return;
     }
-    m_sheet.beginSheet(tr("Notes"));
-    m_sheet.text(0, tr("Notes"), CellLook::Title);
+    m_sheet.beginSheet(QStringLiteral("Notes"));
+    m_sheet.text(0, QStringLiteral("Notes"), CellLook::Title);
     for (const QString &line : notes.split(u'\n')) {
         m_sheet.nextRow();
         m_sheet.text(0, line, CellLook::Text);
@@ -393,7 +388,8 @@ SpreadsheetReport spreadsheetReport(const Report &report)
     const QByteArray file = sheet.bytes();
     QStringList notices = sheet.notices();
     if (writer.lacksParts()) {
-        notices << tr("There is no sheet of parts: a sheet holds %1 rows.").arg(Spreadsheet::MostRows);
+        notices << Spreadsheet::tr("There is no sheet of parts: a sheet holds %1 rows.")
+                       .arg(Spreadsheet::MostRows);
     }
     return {file, sheet.problem(), notices};
 }
