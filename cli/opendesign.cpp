@@ -17,7 +17,6 @@
 #include "templates/templatelist.h"
 #include "templates/templatepaths.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -130,7 +129,7 @@ ExitStatus OpenDesign::open(const DesignArguments &arguments, bool printsWarning
         settings->setFields(withDecimalsOfParts(settings->fields(), design()));
     }
     m_session.projectNotes().setPagePainter([](QPainter &painter, const QString &text) {
-        (void)paintTextPages(painter, QCoreApplication::translate("ProjectNotes", "Project Notes"), text);
+        (void)paintTextPages(painter, QStringLiteral("Project Notes"), text);
     });
     fillDatabase(*settings);
     for (const QString &repair : m_database.templateRepairs()) {
