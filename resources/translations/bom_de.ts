@@ -9,6 +9,477 @@
     </message>
 </context>
 <context>
+    <name>AccountTexts</name>
+    <message>
+        <source>makes no parts; it needs a count, a prefix and a value</source>
+        <translation>ergibt keine Bauteile; gebraucht werden Anzahl, Präfix und Wert</translation>
+    </message>
+    <message>
+        <source>makes no parts; its count is no number</source>
+        <translation>ergibt keine Bauteile; die Anzahl ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>makes no parts; its count is above %1</source>
+        <translation>ergibt keine Bauteile; die Anzahl ist größer als %1</translation>
+    </message>
+    <message>
+        <source>has a field that is not NAME=VALUE and is passed over</source>
+        <translation>hat ein Feld, das nicht die Form NAME=WERT hat und übergangen wird</translation>
+    </message>
+    <message>
+        <source>makes no parts; a design has at most %1 BOM-only parts</source>
+        <translation>ergibt keine Bauteile; ein Entwurf hat höchstens %1 Stücklistenbauteile</translation>
+    </message>
+    <message>
+        <source>makes no parts; no numbers are left for their references</source>
+        <translation>ergibt keine Bauteile; für ihre Referenzen sind keine Nummern mehr frei</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; on %2</source>
+        <translation>„%1“ bei %2</translation>
+    </message>
+    <message>
+        <source>column %1: %2 part has a text that is no number and counts 0: %3</source>
+        <translation>Spalte %1: %2 Bauteil hat einen Text, der keine Zahl ist und als 0 zählt: %3</translation>
+    </message>
+    <message>
+        <source>column %1: %2 parts have a text that is no number and counts 0: %3</source>
+        <translation>Spalte %1: %2 Bauteile haben einen Text, der keine Zahl ist und als 0 zählt: %3</translation>
+    </message>
+    <message>
+        <source>column %1: %2 part has a text that is no number and is shown as it is: %3</source>
+        <translation>Spalte %1: %2 Bauteil hat einen Text, der keine Zahl ist und unverändert gezeigt wird: %3</translation>
+    </message>
+    <message>
+        <source>column %1: %2 parts have a text that is no number and is shown as it is: %3</source>
+        <translation>Spalte %1: %2 Bauteile haben einen Text, der keine Zahl ist und unverändert gezeigt wird: %3</translation>
+    </message>
+    <message>
+        <source>column %1: %2 part has a comma before three digits, which is read as the decimal mark: %3</source>
+        <translation>Spalte %1: %2 Bauteil hat ein Komma vor drei Ziffern, das als Dezimalzeichen gelesen wird: %3</translation>
+    </message>
+    <message>
+        <source>column %1: %2 parts have a comma before three digits, which is read as the decimal mark: %3</source>
+        <translation>Spalte %1: %2 Bauteile haben ein Komma vor drei Ziffern, das als Dezimalzeichen gelesen wird: %3</translation>
+    </message>
+    <message>
+        <source>column %1: %2 part has a text that is neither 1 nor 0 and is shown as %4: %3</source>
+        <translation>Spalte %1: %2 Bauteil hat einen Text, der weder 1 noch 0 ist und als %4 gezeigt wird: %3</translation>
+    </message>
+    <message>
+        <source>column %1: %2 parts have a text that is neither 1 nor 0 and is shown as %4: %3</source>
+        <translation>Spalte %1: %2 Bauteile haben einen Text, der weder 1 noch 0 ist und als %4 gezeigt wird: %3</translation>
+    </message>
+    <message>
+        <source>%1 is the reference of a BOM-only part and of another part</source>
+        <translation>%1 ist die Referenz eines Stücklistenbauteils und eines anderen Bauteils</translation>
+    </message>
+    <message>
+        <source>%1 BOM-only part is excluded by BOMSKIP: %2</source>
+        <translation>%1 Stücklistenbauteil ist durch BOMSKIP ausgeschlossen: %2</translation>
+    </message>
+    <message>
+        <source>%1 BOM-only parts are excluded by BOMSKIP: %2</source>
+        <translation>%1 Stücklistenbauteile sind durch BOMSKIP ausgeschlossen: %2</translation>
+    </message>
+    <message>
+        <source>%1 BOM-only part is not fitted and left out: %2</source>
+        <translation>%1 Stücklistenbauteil ist nicht bestückt und weggelassen: %2</translation>
+    </message>
+    <message>
+        <source>%1 BOM-only parts are not fitted and left out: %2</source>
+        <translation>%1 Stücklistenbauteile sind nicht bestückt und weggelassen: %2</translation>
+    </message>
+    <message>
+        <source>%1 BOM-only part is fitted and left out: %2</source>
+        <translation>%1 Stücklistenbauteil ist bestückt und weggelassen: %2</translation>
+    </message>
+    <message>
+        <source>%1 BOM-only parts are fitted and left out: %2</source>
+        <translation>%1 Stücklistenbauteile sind bestückt und weggelassen: %2</translation>
+    </message>
+    <message>
+        <source>BOM-only parts are left out with their parents, which are fitted: %1</source>
+        <translation>Stücklistenbauteile sind weggelassen wie die bestückten Bauteile, zu denen sie gehören: %1</translation>
+    </message>
+    <message>
+        <source>BOM-only parts are left out with their parents, which are not fitted: %1</source>
+        <translation>Stücklistenbauteile sind weggelassen wie die nicht bestückten Bauteile, zu denen sie gehören: %1</translation>
+    </message>
+    <message>
+        <source>%1 BOM-only part is listed with parents that are not fitted: %2</source>
+        <translation>%1 Stücklistenbauteil ist aufgeführt, obwohl es zu einem nicht bestückten Bauteil gehört: %2</translation>
+    </message>
+    <message>
+        <source>%1 BOM-only parts are listed with parents that are not fitted: %2</source>
+        <translation>%1 Stücklistenbauteile sind aufgeführt, obwohl sie zu nicht bestückten Bauteilen gehören: %2</translation>
+    </message>
+    <message>
+        <source>the line of %4 part %1 is left out of the report, because %2 and %3 count as the same reference; renumber one of them</source>
+        <translation>die Position mit %4 Bauteil %1 fehlt im Bericht, weil %2 und %3 als dieselbe Referenz zählen; nummerieren Sie eines davon um</translation>
+    </message>
+    <message>
+        <source>the line of %4 parts %1 is left out of the report, because %2 and %3 count as the same reference; renumber one of them</source>
+        <translation>die Position mit %4 Bauteilen %1 fehlt im Bericht, weil %2 und %3 als dieselbe Referenz zählen; nummerieren Sie eines davon um</translation>
+    </message>
+    <message>
+        <source>%1 is left out of the report of single parts, because %2 and %3 count as the same reference; renumber one of them</source>
+        <translation>%1 fehlt im Bericht der einzelnen Bauteile, weil %2 und %3 als dieselbe Referenz zählen; nummerieren Sie eines davon um</translation>
+    </message>
+    <message>
+        <source>category &quot;%1&quot; can hold no part: an earlier one has the same name</source>
+        <translation>die Kategorie „%1“ kann kein Bauteil aufnehmen: Eine frühere hat denselben Namen</translation>
+    </message>
+    <message>
+        <source>category &quot;%1&quot; can hold no part: its prefix %2 belongs to &quot;%3&quot;</source>
+        <translation>die Kategorie „%1“ kann kein Bauteil aufnehmen: Ihr Präfix %2 gehört zu „%3“</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no number and counts 0</source>
+        <translation>%1: %2 ist keine Zahl und zählt als 0</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no number and is shown as it is</source>
+        <translation>%1: %2 ist keine Zahl und wird unverändert gezeigt</translation>
+    </message>
+    <message>
+        <source>%1: %2 has a comma before three digits, which is read as the decimal mark</source>
+        <translation>%1: %2 hat ein Komma vor drei Ziffern, das als Dezimalzeichen gelesen wird</translation>
+    </message>
+    <message>
+        <source>%1: %2 is neither 1 nor 0 and is shown as %3</source>
+        <translation>%1: %2 ist weder 1 noch 0 und wird als %3 gezeigt</translation>
+    </message>
+    <message>
+        <source>%1 (sheet %2)</source>
+        <translation>%1 (Blatt %2)</translation>
+    </message>
+    <message>
+        <source>not fitted: marked on sheet %1</source>
+        <translation>nicht bestückt: auf dem Blatt %1 so markiert</translation>
+    </message>
+    <message>
+        <source>not fitted: rule area around it</source>
+        <translation>nicht bestückt: durch den Regelbereich darum</translation>
+    </message>
+    <message>
+        <source>not fitted: property</source>
+        <translation>nicht bestückt: durch eine Eigenschaft</translation>
+    </message>
+    <message>
+        <source>not fitted: property %1</source>
+        <translation>nicht bestückt: durch die Eigenschaft %1</translation>
+    </message>
+    <message>
+        <source>not fitted: marked on the symbol</source>
+        <translation>nicht bestückt: am Symbol so markiert</translation>
+    </message>
+    <message>
+        <source>%1: %2 symbols have no reference, also at %3</source>
+        <translation>%1: %2 Symbole haben keine Referenz, auch bei %3</translation>
+    </message>
+    <message>
+        <source>%1: %4 occurs %2 times, also at %3</source>
+        <translation>%1: %4 kommt %2-mal vor, auch bei %3</translation>
+    </message>
+    <message>
+        <source>none of them is in the bill</source>
+        <translation>keines davon steht in der Stückliste</translation>
+    </message>
+    <message>
+        <source>1 of them is in the bill</source>
+        <translation>1 davon steht in der Stückliste</translation>
+    </message>
+    <message>
+        <source>%1 of them are in the bill</source>
+        <translation>%1 davon stehen in der Stückliste</translation>
+    </message>
+    <message>
+        <source>%1: a symbol has no reference</source>
+        <translation>%1: Ein Symbol hat keine Referenz</translation>
+    </message>
+    <message>
+        <source>%1: %2 is not annotated</source>
+        <translation>%1: %2 ist nicht annotiert</translation>
+    </message>
+    <message>
+        <source>the files hold %1 symbols, %2 were read</source>
+        <translation>die Dateien enthalten %1 Symbole, gelesen wurden %2</translation>
+    </message>
+    <message>
+        <source>the files hold %1 power symbols, %2 were read</source>
+        <translation>die Dateien enthalten %1 Versorgungssymbole, gelesen wurden %2</translation>
+    </message>
+    <message>
+        <source>%1 symbols are drawn, %2 are accounted for</source>
+        <translation>%1 Symbole sind gezeichnet, der Verbleib von %2 ist geklärt</translation>
+    </message>
+    <message>
+        <source>property BOMSKIP</source>
+        <translation>Eigenschaft BOMSKIP</translation>
+    </message>
+    <message>
+        <source>excluded on sheet %1</source>
+        <translation>auf dem Blatt %1 ausgeschlossen</translation>
+    </message>
+    <message>
+        <source>excluded by the rule area around it</source>
+        <translation>durch den Regelbereich darum ausgeschlossen</translation>
+    </message>
+    <message>
+        <source>excluded from the BOM on the symbol</source>
+        <translation>am Symbol von der Stückliste ausgeschlossen</translation>
+    </message>
+    <message>
+        <source>fitted</source>
+        <translation>bestückt</translation>
+    </message>
+    <message>
+        <source>symbols drawn</source>
+        <translation>gezeichnete Symbole</translation>
+    </message>
+    <message>
+        <source>power symbols</source>
+        <translation>Versorgungssymbole</translation>
+    </message>
+    <message>
+        <source>further units of a part</source>
+        <translation>weitere Einheiten eines Bauteils</translation>
+    </message>
+    <message>
+        <source>components</source>
+        <translation>Bauteile</translation>
+    </message>
+    <message>
+        <source>%1 and %2 BOM-only part</source>
+        <translation>%1 und %2 Stücklistenbauteil</translation>
+    </message>
+    <message>
+        <source>%1 and %2 BOM-only parts</source>
+        <translation>%1 und %2 Stücklistenbauteile</translation>
+    </message>
+    <message>
+        <source>%1 in %2 line</source>
+        <translation>%1 in %2 Position</translation>
+    </message>
+    <message>
+        <source>%1 in %2 lines</source>
+        <translation>%1 in %2 Positionen</translation>
+    </message>
+    <message>
+        <source>%1 (%2 of them excluded from the BOM as well)</source>
+        <translation>%1 (%2 davon auch von der Stückliste ausgeschlossen)</translation>
+    </message>
+    <message>
+        <source>in the bill</source>
+        <translation>in der Stückliste</translation>
+    </message>
+    <message>
+        <source>left out for an equal reference</source>
+        <translation>wegen gleicher Referenz weggelassen</translation>
+    </message>
+    <message>
+        <source>repeated references</source>
+        <translation>wiederholte Referenzen</translation>
+    </message>
+    <message>
+        <source>not in the bill</source>
+        <translation>nicht in der Stückliste</translation>
+    </message>
+    <message>
+        <source>of all components, not fitted</source>
+        <translation>von allen Bauteilen nicht bestückt</translation>
+    </message>
+    <message>
+        <source>the design has %1 components, the bill accounts for %2</source>
+        <translation>der Entwurf hat %1 Bauteile, die Stückliste erklärt den Verbleib von %2</translation>
+    </message>
+    <message>
+        <source>%1 is empty or missing on %2 part: %3</source>
+        <translation>%1 ist leer oder fehlt bei %2 Bauteil: %3</translation>
+    </message>
+    <message>
+        <source>%1 is empty or missing on %2 parts: %3</source>
+        <translation>%1 ist leer oder fehlt bei %2 Bauteilen: %3</translation>
+    </message>
+    <message>
+        <source>%1 on %2 part</source>
+        <translation>%1 bei %2 Bauteil</translation>
+    </message>
+    <message>
+        <source>%1 on %2 parts</source>
+        <translation>%1 bei %2 Bauteilen</translation>
+    </message>
+    <message>
+        <source>property names that are easily taken for one another: %1</source>
+        <translation>Namen von Eigenschaften, die leicht verwechselt werden: %1</translation>
+    </message>
+    <message>
+        <source>one of %1 hides another with a different text on %2</source>
+        <translation>von %1 verdeckt einer einen anderen mit abweichendem Text bei %2</translation>
+    </message>
+    <message>
+        <source>a text variable ${...} is not resolved on %1 part: %2</source>
+        <translation>eine Textvariable ${...} ist bei %1 Bauteil nicht aufgelöst: %2</translation>
+    </message>
+    <message>
+        <source>a text variable ${...} is not resolved on %1 parts: %2</source>
+        <translation>eine Textvariable ${...} ist bei %1 Bauteilen nicht aufgelöst: %2</translation>
+    </message>
+    <message>
+        <source>the sums</source>
+        <translation>die Summen</translation>
+    </message>
+    <message>
+        <source>agree</source>
+        <translation>stimmen überein</translation>
+    </message>
+    <message>
+        <source>disagree</source>
+        <translation>stimmen nicht überein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2 part)</source>
+        <translation>„%1“ (%2 Bauteil)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; (%2 parts)</source>
+        <translation>„%1“ (%2 Bauteile)</translation>
+    </message>
+    <message>
+        <source>%1 more names</source>
+        <translation>%1 weitere Namen</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation> und </translation>
+    </message>
+    <message>
+        <source>%1 from %2</source>
+        <translation>%1 aus %2</translation>
+    </message>
+    <message>
+        <source>%1 may be %2</source>
+        <translation>%1 ist vielleicht %2</translation>
+    </message>
+    <message>
+        <source>read under other names: %1</source>
+        <translation>unter anderen Namen gelesen: %1</translation>
+    </message>
+    <message>
+        <source>not read, as the names do not say it for certain: %1 (bom fields tells more)</source>
+        <translation>nicht gelesen, weil die Namen es nicht sicher sagen: %1 (mehr mit bom fields)</translation>
+    </message>
+    <message>
+        <source>%1: %2 part has different texts under names of this meaning: %3</source>
+        <translation>%1: %2 Bauteil hat verschiedene Texte unter Namen dieser Bedeutung: %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 parts have different texts under names of this meaning: %3</source>
+        <translation>%1: %2 Bauteile haben verschiedene Texte unter Namen dieser Bedeutung: %3</translation>
+    </message>
+    <message>
+        <source>%1 part says &quot;do not fit&quot; under the name %2, which leaves no part out as DNP and BOMSKIP do: %3 (&quot;%4&quot;)</source>
+        <translation>%1 Bauteil sagt „nicht bestücken“ unter dem Namen %2, der anders als DNP und BOMSKIP kein Bauteil weglässt: %3 („%4“)</translation>
+    </message>
+    <message>
+        <source>%1 parts say &quot;do not fit&quot; under the name %2, which leaves no part out as DNP and BOMSKIP do: %3 (&quot;%4&quot;), ...</source>
+        <translation>%1 Bauteile sagen „nicht bestücken“ unter dem Namen %2, der anders als DNP und BOMSKIP kein Bauteil weglässt: %3 („%4“), ...</translation>
+    </message>
+    <message>
+        <source>%1 line joins parts that differ in what no column shows (bom check lists them): %2</source>
+        <translation>%1 Position fasst Bauteile zusammen, die sich in etwas unterscheiden, das keine Spalte zeigt (bom check führt sie auf): %2</translation>
+    </message>
+    <message>
+        <source>%1 lines join parts that differ in what no column shows (bom check lists them): %2</source>
+        <translation>%1 Positionen fassen Bauteile zusammen, die sich in etwas unterscheiden, das keine Spalte zeigt (bom check führt sie auf): %2</translation>
+    </message>
+    <message>
+        <source>the design has %1</source>
+        <translation>der Entwurf hat %1</translation>
+    </message>
+    <message>
+        <source>no part has anything in the column %1</source>
+        <translation>kein Bauteil hat etwas in der Spalte %1</translation>
+    </message>
+    <message>
+        <source>no part has anything in the columns %1</source>
+        <translation>kein Bauteil hat etwas in den Spalten %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; under %2 is read</source>
+        <translation>„%1“ unter %2 wird gelesen</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; under %2 is not</source>
+        <translation>„%1“ unter %2 nicht</translation>
+    </message>
+    <message>
+        <source>%1 part is excluded from the bill of materials (bom check names them)</source>
+        <translation>%1 Bauteil ist von der Stückliste ausgeschlossen (bom check nennt es)</translation>
+    </message>
+    <message>
+        <source>%1 parts are excluded from the bill of materials (bom check names them)</source>
+        <translation>%1 Bauteile sind von der Stückliste ausgeschlossen (bom check nennt sie)</translation>
+    </message>
+    <message>
+        <source>%1 part is excluded from the bill of materials, %2 of them not fitted (bom check names them)</source>
+        <translation>%1 Bauteil ist von der Stückliste ausgeschlossen, %2 davon nicht bestückt (bom check nennt es)</translation>
+    </message>
+    <message>
+        <source>%1 parts are excluded from the bill of materials, %2 of them not fitted (bom check names them)</source>
+        <translation>%1 Bauteile sind von der Stückliste ausgeschlossen, %2 davon nicht bestückt (bom check nennt sie)</translation>
+    </message>
+    <message>
+        <source>%1 symbol is not annotated (bom check names them)</source>
+        <translation>%1 Symbol ist nicht annotiert (bom check nennt es)</translation>
+    </message>
+    <message>
+        <source>%1 symbols are not annotated (bom check names them)</source>
+        <translation>%1 Symbole sind nicht annotiert (bom check nennt sie)</translation>
+    </message>
+    <message>
+        <source>%1 fitted part is left out (--dnp only)</source>
+        <translation>%1 bestücktes Bauteil ist weggelassen (--dnp only)</translation>
+    </message>
+    <message>
+        <source>%1 fitted parts are left out (--dnp only)</source>
+        <translation>%1 bestückte Bauteile sind weggelassen (--dnp only)</translation>
+    </message>
+    <message>
+        <source>%1 part is not fitted and left out (--dnp include lists them)</source>
+        <translation>%1 Bauteil ist nicht bestückt und weggelassen (--dnp include führt es auf)</translation>
+    </message>
+    <message>
+        <source>%1 parts are not fitted and left out (--dnp include lists them)</source>
+        <translation>%1 Bauteile sind nicht bestückt und weggelassen (--dnp include führt sie auf)</translation>
+    </message>
+    <message>
+        <source>%1 part is not fitted: marked in lines of their own, and not counted</source>
+        <translation>%1 Bauteil ist nicht bestückt: in einer eigenen Position markiert und nicht gezählt</translation>
+    </message>
+    <message>
+        <source>%1 parts are not fitted: marked in lines of their own, and not counted</source>
+        <translation>%1 Bauteile sind nicht bestückt: in eigenen Positionen markiert und nicht gezählt</translation>
+    </message>
+    <message>
+        <source>%1 part is not fitted and left out</source>
+        <translation>%1 Bauteil ist nicht bestückt und weggelassen</translation>
+    </message>
+    <message>
+        <source>%1 parts are not fitted and left out</source>
+        <translation>%1 Bauteile sind nicht bestückt und weggelassen</translation>
+    </message>
+    <message>
+        <source>%1 definition of BOM-only parts cannot be followed (bom check says why)</source>
+        <translation>%1 Definition von Stücklistenbauteilen ist nicht ausführbar (bom check sagt, warum)</translation>
+    </message>
+    <message>
+        <source>%1 definitions of BOM-only parts cannot be followed (bom check says why)</source>
+        <translation>%1 Definitionen von Stücklistenbauteilen sind nicht ausführbar (bom check sagt, warum)</translation>
+    </message>
+</context>
+<context>
     <name>AdvancedSettings</name>
     <message>
         <source>Advanced BOM Settings</source>
@@ -77,6 +548,77 @@
     <message>
         <source>References</source>
         <translation>Referenzen</translation>
+    </message>
+</context>
+<context>
+    <name>AssemblyService</name>
+    <message>
+        <source>is no UTF-8 text</source>
+        <translation>ist kein Text in UTF-8</translation>
+    </message>
+    <message>
+        <source>%1 is no heading; there is one only, [columns]</source>
+        <translation>%1 ist keine Überschrift; es gibt nur eine, [columns]</translation>
+    </message>
+    <message>
+        <source>is longer than %1 characters</source>
+        <translation>ist länger als %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>%1 is no column such as Designator = designators</source>
+        <translation>%1 ist keine Spalte wie Designator = designators</translation>
+    </message>
+    <message>
+        <source>%1 is no setting such as title = Our assembly house</source>
+        <translation>%1 ist keine Einstellung wie title = Unser Bestücker</translation>
+    </message>
+    <message>
+        <source>%1 stands in line %2 as well</source>
+        <translation>%1 steht auch in Zeile %2</translation>
+    </message>
+    <message>
+        <source>%1 says nothing</source>
+        <translation>%1 sagt nichts</translation>
+    </message>
+    <message>
+        <source>%1 is no setting; known are title, needs, most designators, ignores letter case, separator and apart</source>
+        <translation>%1 ist keine Einstellung; bekannt sind title, needs, most designators, ignores letter case, separator und apart</translation>
+    </message>
+    <message>
+        <source>%1 is no number from 1 to %2</source>
+        <translation>%1 ist keine Zahl von 1 bis %2</translation>
+    </message>
+    <message>
+        <source>%1 is neither yes nor no</source>
+        <translation>%1 ist weder yes noch no</translation>
+    </message>
+    <message>
+        <source>the heading %1 stands in line %2 as well</source>
+        <translation>die Überschrift %1 steht auch in Zeile %2</translation>
+    </message>
+    <message>
+        <source>%1 is nothing that a column can hold; known are value, footprint, designators, quantity, item number, property NAME and text TEXT</source>
+        <translation>%1 kann keine Spalte enthalten; bekannt sind value, footprint, designators, quantity, item number, property NAME und text TEXT</translation>
+    </message>
+    <message>
+        <source>there are more than %1 columns</source>
+        <translation>es gibt mehr als %1 Spalten</translation>
+    </message>
+    <message>
+        <source>has no columns; they stand below a line [columns]</source>
+        <translation>hat keine Spalten; sie stehen unter einer Zeile [columns]</translation>
+    </message>
+    <message>
+        <source>has no column that holds the designators, such as Designator = designators</source>
+        <translation>hat keine Spalte mit den Referenzen wie Designator = designators</translation>
+    </message>
+    <message>
+        <source>the service needs the column %1, which holds no property</source>
+        <translation>der Dienst braucht die Spalte %1, die keine Eigenschaft enthält</translation>
+    </message>
+    <message>
+        <source>the service needs the column %1, and there is none of that name</source>
+        <translation>der Dienst braucht die Spalte %1, und es gibt keine dieses Namens</translation>
     </message>
 </context>
 <context>
@@ -1516,6 +2058,818 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>CommandLine</name>
+    <message>
+        <source>%1 and %2 more place</source>
+        <translation>%1 und %2 weitere Stelle</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more places</source>
+        <translation>%1 und %2 weitere Stellen</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>removed</source>
+        <translation>entfernt</translation>
+    </message>
+    <message>
+        <source>, variant %1</source>
+        <translation>, Variante %1</translation>
+    </message>
+    <message>
+        <source>%1 also changes %2</source>
+        <translation>%1 ändert auch %2</translation>
+    </message>
+    <message>
+        <source>would change %1 of %2 in %3; nothing was written</source>
+        <translation>%1 von %2 in %3 würden geändert; nichts wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>changed %1 of %2 in %3</source>
+        <translation>%1 von %2 in %3 geändert</translation>
+    </message>
+    <message>
+        <source>property</source>
+        <translation>Eigenschaft</translation>
+    </message>
+    <message>
+        <source>properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>part</source>
+        <comment>property of</comment>
+        <translation>Bauteil</translation>
+    </message>
+    <message>
+        <source>parts</source>
+        <comment>properties of</comment>
+        <translation>Bauteilen</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>To decide</source>
+        <translation>Zu entscheiden</translation>
+    </message>
+    <message>
+        <source>To know</source>
+        <translation>Zu wissen</translation>
+    </message>
+    <message>
+        <source>no part has a property &quot;%1&quot;%2</source>
+        <translation>kein Bauteil hat eine Eigenschaft „%1“%2</translation>
+    </message>
+    <message>
+        <source>%1 (bom --help tells more)</source>
+        <translation>%1 (mehr mit bom --help)</translation>
+    </message>
+    <message>
+        <source>there is no option &quot;%1&quot;%2 (bom --help tells more)</source>
+        <translation>es gibt keine Option „%1“%2 (mehr mit bom --help)</translation>
+    </message>
+    <message>
+        <source>a subcommand is required, such as list or show (bom %1 --help tells more)</source>
+        <translation>ein Unterbefehl ist nötig, zum Beispiel list oder show (mehr mit bom %1 --help)</translation>
+    </message>
+    <message>
+        <source>there is no command &quot;%1&quot;%2 (bom %3--help tells more)</source>
+        <translation>es gibt keinen Befehl „%1“%2 (mehr mit bom %3--help)</translation>
+    </message>
+    <message>
+        <source>standard output: %1</source>
+        <translation>Standardausgabe: %1</translation>
+    </message>
+    <message>
+        <source>%1 No.</source>
+        <comment>the question, and the answer that the program gives</comment>
+        <translation>%1 Nein.</translation>
+    </message>
+    <message>
+        <source>%1 as &quot;%2&quot; on %3 part</source>
+        <translation>%1 als „%2“ bei %3 Bauteil</translation>
+    </message>
+    <message>
+        <source>%1 as &quot;%2&quot; on %3 parts</source>
+        <translation>%1 als „%2“ bei %3 Bauteilen</translation>
+    </message>
+    <message>
+        <source>written under the names that the design has: %1</source>
+        <translation>unter den Namen geschrieben, die der Entwurf hat: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has a mark before three digits that may stand for thousands or for decimals: write %2</source>
+        <translation>„%1“ hat vor drei Ziffern ein Zeichen, das Tausender oder Dezimalstellen abtrennen kann: Schreiben Sie %2</translation>
+    </message>
+    <message>
+        <source> or </source>
+        <translation> oder </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no text that this property can have: %2 (--locale tells how numbers are written, such as de_DE)</source>
+        <translation>„%1“ ist kein Text, den diese Eigenschaft haben kann: %2 (--locale sagt, wie Zahlen geschrieben sind, zum Beispiel de_DE)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no text that this property can have: %2</source>
+        <translation>„%1“ ist kein Text, den diese Eigenschaft haben kann: %2</translation>
+    </message>
+    <message>
+        <source>two values are asked for</source>
+        <translation>zwei Werte sind verlangt</translation>
+    </message>
+    <message>
+        <source>the design has no part of this reference</source>
+        <translation>der Entwurf hat kein Bauteil mit dieser Referenz</translation>
+    </message>
+    <message>
+        <source>this tells what cannot be changed here</source>
+        <translation>das sagt etwas aus, das hier nicht geändert werden kann</translation>
+    </message>
+    <message>
+        <source>a symbol that is left out and a BOM-only part have this reference</source>
+        <translation>ein weggelassenes Symbol und ein Stücklistenbauteil haben diese Referenz</translation>
+    </message>
+    <message>
+        <source>another text is asked for under the name %1</source>
+        <translation>unter dem Namen %1 ist ein anderer Text verlangt</translation>
+    </message>
+    <message>
+        <source>%1: %2 -&gt; %3 (a BOM-only part of %4)</source>
+        <translation>%1: %2 -&gt; %3 (ein Stücklistenbauteil zu %4)</translation>
+    </message>
+    <message>
+        <source>%1 more reference that the design does not have</source>
+        <translation>%1 weitere Referenz, die der Entwurf nicht hat</translation>
+    </message>
+    <message>
+        <source>%1 more references that the design does not have</source>
+        <translation>%1 weitere Referenzen, die der Entwurf nicht hat</translation>
+    </message>
+    <message>
+        <source>the files named above may be written in part: %1</source>
+        <translation>die oben genannten Dateien sind vielleicht teilweise geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>nothing was written: %1</source>
+        <translation>nichts wurde geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>%1, %2 from &quot;%3&quot; (%4)</source>
+        <translation>%1, %2 aus „%3“ (%4)</translation>
+    </message>
+    <message>
+        <source>after this other names are read: %1</source>
+        <translation>danach werden andere Namen gelesen: %1</translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>nothing to change</source>
+        <translation>nichts zu ändern</translation>
+    </message>
+    <message>
+        <source>BOM-only parts are numbered in the order of their definitions: those of %1 and others may change places (bom parts tells)</source>
+        <translation>Stücklistenbauteile sind in der Reihenfolge ihrer Definitionen nummeriert: Die zu %1 und anderen tauschen vielleicht ihre Plätze (bom parts zeigt es)</translation>
+    </message>
+    <message>
+        <source>BOM-only parts are numbered in the order of their definitions: those of %1 may change places (bom parts tells)</source>
+        <translation>Stücklistenbauteile sind in der Reihenfolge ihrer Definitionen nummeriert: Die zu %1 tauschen vielleicht ihre Plätze (bom parts zeigt es)</translation>
+    </message>
+    <message>
+        <source>the design was written all the same</source>
+        <translation>der Entwurf wurde trotzdem geschrieben</translation>
+    </message>
+    <message>
+        <source>%1: this folder has several designs, name one of them: %2</source>
+        <translation>%1: Dieser Ordner enthält mehrere Entwürfe, nennen Sie einen davon: %2</translation>
+    </message>
+    <message>
+        <source>is neither a field of the template nor a property</source>
+        <translation>ist weder ein Feld der Vorlage noch eine Eigenschaft</translation>
+    </message>
+    <message>
+        <source>%1; the design has %2</source>
+        <translation>%1; der Entwurf hat %2</translation>
+    </message>
+    <message>
+        <source>%1 (--new-property &quot;%2&quot; makes it one)</source>
+        <translation>%1 (--new-property &quot;%2&quot; macht eine daraus)</translation>
+    </message>
+    <message>
+        <source>there is no column &quot;%1&quot;, which --new-property names</source>
+        <translation>es gibt keine Spalte „%1“, die --new-property nennt</translation>
+    </message>
+    <message>
+        <source>column %1 &quot;%2&quot; may be the report&apos;s own or the property: delete it, or put it in front of the references if it is the report&apos;s</source>
+        <translation>Spalte %1 „%2“ ist entweder die des Berichts oder die Eigenschaft: Löschen Sie sie, oder stellen Sie sie vor die Referenzen, wenn sie vom Bericht stammt</translation>
+    </message>
+    <message>
+        <source>column %1 &quot;%2&quot; %3</source>
+        <comment>and what is wrong with it</comment>
+        <translation>Spalte %1 „%2“ %3</translation>
+    </message>
+    <message>
+        <source>the heading &quot;%1&quot; stands over two columns</source>
+        <translation>die Überschrift „%1“ steht über zwei Spalten</translation>
+    </message>
+    <message>
+        <source>%1 has changes that &quot;Parts&quot; does not have, such as %2, %3 (--sheet says which of the sheets counts)</source>
+        <translation>%1 hat Änderungen, die „Parts“ nicht hat, zum Beispiel %2, %3 (--sheet sagt, welches Blatt gilt)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no NAME=VALUE (bom set --help tells more)</source>
+        <translation>„%1“ hat nicht die Form NAME=WERT (mehr mit bom set --help)</translation>
+    </message>
+    <message>
+        <source>the property %1 is named twice</source>
+        <translation>die Eigenschaft %1 ist zweimal genannt</translation>
+    </message>
+    <message>
+        <source>the design has no property &quot;%1&quot;; did you mean &quot;%2&quot;? (--new makes it)</source>
+        <translation>der Entwurf hat keine Eigenschaft „%1“; meinten Sie „%2“? (--new legt sie an)</translation>
+    </message>
+    <message>
+        <source>&quot; or &quot;</source>
+        <comment>between names</comment>
+        <translation>“ oder „</translation>
+    </message>
+    <message>
+        <source>--sheet needs a spreadsheet (.xlsx or .ods)</source>
+        <translation>--sheet braucht eine Tabellendatei (.xlsx oder .ods)</translation>
+    </message>
+    <message>
+        <source>%1: the sheet &quot;%2&quot;</source>
+        <translation>%1: Das Blatt „%2“</translation>
+    </message>
+    <message>
+        <source>there is nothing to take back</source>
+        <translation>es gibt nichts zurückzunehmen</translation>
+    </message>
+    <message>
+        <source>%1 has its previous content again</source>
+        <translation>%1 hat wieder den vorherigen Inhalt</translation>
+    </message>
+    <message>
+        <source>the files of the design have their previous content again all the same</source>
+        <translation>die Dateien des Entwurfs haben trotzdem wieder ihren vorherigen Inhalt</translation>
+    </message>
+    <message>
+        <source>the cell holds a percentage and no text</source>
+        <translation>die Zelle enthält einen Prozentwert und keinen Text</translation>
+    </message>
+    <message>
+        <source>the cell holds a date or time and no text</source>
+        <translation>die Zelle enthält ein Datum oder eine Uhrzeit und keinen Text</translation>
+    </message>
+    <message>
+        <source>the cell holds true or false and no text</source>
+        <translation>die Zelle enthält einen Wahrheitswert und keinen Text</translation>
+    </message>
+    <message>
+        <source>the cell holds a formula and no text</source>
+        <translation>die Zelle enthält eine Formel und keinen Text</translation>
+    </message>
+    <message>
+        <source>the cell holds an error and no text</source>
+        <translation>die Zelle enthält einen Fehler und keinen Text</translation>
+    </message>
+    <message>
+        <source>the cell is hidden under a merged one</source>
+        <translation>die Zelle ist unter einer verbundenen verborgen</translation>
+    </message>
+    <message>
+        <source>%1: sheet %2, row %3</source>
+        <translation>%1: Blatt %2, Zeile %3</translation>
+    </message>
+    <message>
+        <source>%1: sheet %2, cell %3</source>
+        <translation>%1: Blatt %2, Zelle %3</translation>
+    </message>
+    <message>
+        <source>%1: columns that hold no properties are left out: %2</source>
+        <translation>%1: Spalten ohne Eigenschaften werden übergangen: %2</translation>
+    </message>
+    <message>
+        <source>%1 more such changes</source>
+        <translation>%1 weitere solche Änderungen</translation>
+    </message>
+    <message>
+        <source>the table names more than %1 references</source>
+        <translation>die Tabelle nennt mehr als %1 Referenzen</translation>
+    </message>
+    <message>
+        <source>there is a text behind the last column</source>
+        <translation>hinter der letzten Spalte steht ein Text</translation>
+    </message>
+    <message>
+        <source>%1 has other texts in row %2</source>
+        <translation>%1 hat andere Texte in Zeile %2</translation>
+    </message>
+    <message>
+        <source>%1 has other texts on line %2</source>
+        <translation>%1 hat andere Texte in Zeile %2</translation>
+    </message>
+    <message>
+        <source>this column tells what cannot be changed here</source>
+        <translation>diese Spalte sagt etwas aus, das hier nicht geändert werden kann</translation>
+    </message>
+    <message>
+        <source>the row has no cell for it</source>
+        <translation>die Zeile hat keine Zelle dafür</translation>
+    </message>
+    <message>
+        <source>%1 (--accept-spreadsheet-changes writes it)</source>
+        <translation>%1 (--accept-spreadsheet-changes schreibt es)</translation>
+    </message>
+    <message>
+        <source>%1, %2: the cell is empty and the part has %3 under the name %4</source>
+        <translation>%1, %2: Die Zelle ist leer, und das Bauteil hat %3 unter dem Namen %4</translation>
+    </message>
+    <message>
+        <source>the part has this under the name %1; delete one of the two, or take names as they are (--exact-names)</source>
+        <translation>das Bauteil hat das unter dem Namen %1; löschen Sie eines von beiden, oder nehmen Sie die Namen wörtlich (--exact-names)</translation>
+    </message>
+    <message>
+        <source>%1, as spreadsheets do by themselves (--accept-spreadsheet-changes writes it)</source>
+        <translation>%1, wie es Tabellenprogramme von selbst tun (--accept-spreadsheet-changes schreibt es)</translation>
+    </message>
+    <message>
+        <source>%1 is no number, and the column has totals</source>
+        <translation>%1 ist keine Zahl, und die Spalte hat Summen</translation>
+    </message>
+    <message>
+        <source>%1, shown as %2</source>
+        <translation>%1, gezeigt als %2</translation>
+    </message>
+    <message>
+        <source>%1, as %2 more part</source>
+        <translation>%1, ebenso bei %2 weiteren Bauteil</translation>
+    </message>
+    <message>
+        <source>%1, as %2 more parts</source>
+        <translation>%1, ebenso bei %2 weiteren Bauteilen</translation>
+    </message>
+    <message>
+        <source>%1; empty cells take away texts only in a column of their own name. A table made with --exact-names is applied with --exact-names</source>
+        <translation>%1; leere Zellen entfernen Texte nur in einer Spalte mit deren eigenem Namen. Eine mit --exact-names erstellte Tabelle wird mit --exact-names angewendet</translation>
+    </message>
+    <message>
+        <source>%1, which is a column as well</source>
+        <translation>%1, das auch eine Spalte ist</translation>
+    </message>
+    <message>
+        <source>%1, which the column %2 stands for as well</source>
+        <translation>%1, für das auch die Spalte %2 steht</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; became the number %2</source>
+        <translation>„%1“ wurde die Zahl %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; became &quot;%2&quot;: %3</source>
+        <translation>„%1“ wurde „%2“: %3</translation>
+    </message>
+    <message>
+        <source>part</source>
+        <translation>Bauteil</translation>
+    </message>
+    <message>
+        <source>parts</source>
+        <translation>Bauteile</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; on %2</source>
+        <translation>„%1“ bei %2</translation>
+    </message>
+    <message>
+        <source>%1; each name is read by itself only</source>
+        <translation>%1; jeder Name wird nur für sich gelesen</translation>
+    </message>
+    <message>
+        <source>different texts on %1 part: %2</source>
+        <translation>verschiedene Texte bei %1 Bauteil: %2</translation>
+    </message>
+    <message>
+        <source>different texts on %1 parts: %2</source>
+        <translation>verschiedene Texte bei %1 Bauteilen: %2</translation>
+    </message>
+    <message>
+        <source>: may be %1</source>
+        <translation>: vielleicht %1</translation>
+    </message>
+    <message>
+        <source>Not read, as the name does not say it for certain</source>
+        <translation>Nicht gelesen, weil der Name es nicht sicher sagt</translation>
+    </message>
+    <message>
+        <source>To have one read, write it below its meaning into %1:</source>
+        <translation>Damit einer gelesen wird, schreiben Sie ihn unter seine Bedeutung in %1:</translation>
+    </message>
+    <message>
+        <source>Without a known meaning</source>
+        <translation>Ohne bekannte Bedeutung</translation>
+    </message>
+    <message>
+        <source>no part has a property besides value and footprint</source>
+        <translation>kein Bauteil hat eine Eigenschaft außer Wert und Footprint</translation>
+    </message>
+    <message>
+        <source>unknown locale &quot;%1&quot;</source>
+        <translation>unbekanntes Gebietsschema „%1“</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no text in UTF-8</source>
+        <translation>„%1“ ist kein Text in UTF-8</translation>
+    </message>
+    <message>
+        <source>; did you mean &quot;%1&quot;?</source>
+        <translation>; meinten Sie „%1“?</translation>
+    </message>
+    <message>
+        <source>new property %1 on %2 part</source>
+        <translation>neue Eigenschaft %1 bei %2 Bauteil</translation>
+    </message>
+    <message>
+        <source>new property %1 on %2 parts</source>
+        <translation>neue Eigenschaft %1 bei %2 Bauteilen</translation>
+    </message>
+    <message>
+        <source>%1 is a new property of the design, which has one of nearly the same name: %2</source>
+        <translation>%1 ist eine neue Eigenschaft des Entwurfs, der eine fast gleichen Namens hat: %2</translation>
+    </message>
+    <message>
+        <source>Yes or No</source>
+        <translation>Yes oder No</translation>
+    </message>
+    <message>
+        <source>High or Low</source>
+        <translation>High oder Low</translation>
+    </message>
+    <message>
+        <source>True or False</source>
+        <translation>True oder False</translation>
+    </message>
+    <message>
+        <source>a whole number</source>
+        <translation>eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>a decimal number</source>
+        <translation>eine Dezimalzahl</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>--fields: a name is missing between two commas</source>
+        <translation>--fields: Zwischen zwei Kommas fehlt ein Name</translation>
+    </message>
+    <message>
+        <source>--labels: there are more labels than fields</source>
+        <translation>--labels: Es gibt mehr Überschriften als Felder</translation>
+    </message>
+    <message>
+        <source>%1: this folder has no design in it (a .kicad_sch, .kicad_pro or .csv file)</source>
+        <translation>%1: Dieser Ordner enthält keinen Entwurf (eine Datei .kicad_sch, .kicad_pro oder .csv)</translation>
+    </message>
+    <message>
+        <source>reading %1</source>
+        <translation>%1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>the project has no BOM preset &quot;%1&quot; (it has none)</source>
+        <translation>das Projekt hat keine Stücklisteneinstellung „%1“ (es hat gar keine)</translation>
+    </message>
+    <message>
+        <source>the project has no BOM preset &quot;%1&quot;%2 (it has %3)</source>
+        <translation>das Projekt hat keine Stücklisteneinstellung „%1“%2 (es hat %3)</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: cannot be written: %2</source>
+        <translation>%1: kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>--excel-csv needs an output of CSV (bom report --help tells more)</source>
+        <translation>--excel-csv braucht eine Ausgabe als CSV (mehr mit bom report --help)</translation>
+    </message>
+    <message>
+        <source>an output needs a file name</source>
+        <translation>eine Ausgabe braucht einen Dateinamen</translation>
+    </message>
+    <message>
+        <source>the ending says no form of a report; -o takes .csv, .html, .json, .pdf, .txt and .xlsx, other names need --csv or its like</source>
+        <translation>die Endung steht für keine Form des Berichts; -o nimmt .csv, .html, .json, .pdf, .txt und .xlsx, andere Namen brauchen --csv oder eine ähnliche Option</translation>
+    </message>
+    <message>
+        <source>two outputs cannot go to the same file</source>
+        <translation>zwei Ausgaben können nicht in dieselbe Datei gehen</translation>
+    </message>
+    <message>
+        <source>belongs to the design and is not overwritten</source>
+        <translation>gehört zum Entwurf und wird nicht überschrieben</translation>
+    </message>
+    <message>
+        <source>references of BOM-only parts and of other parts: %1</source>
+        <translation>Referenzen von Stücklistenbauteilen und von anderen Bauteilen: %1</translation>
+    </message>
+    <message>
+        <source>nothing was written: %1 reference occurs more than once (--allow-duplicates lists the first of each)</source>
+        <translation>nichts wurde geschrieben: %1 Referenz kommt mehrfach vor (--allow-duplicates führt das jeweils erste Bauteil auf)</translation>
+    </message>
+    <message>
+        <source>nothing was written: %1 references occur more than once (--allow-duplicates lists the first of each)</source>
+        <translation>nichts wurde geschrieben: %1 Referenzen kommen mehrfach vor (--allow-duplicates führt das jeweils erste Bauteil auf)</translation>
+    </message>
+    <message>
+        <source>%1; the report is without these notes</source>
+        <translation>%1; diese Notizen fehlen im Bericht</translation>
+    </message>
+    <message>
+        <source>no fonts are installed</source>
+        <translation>es sind keine Schriften installiert</translation>
+    </message>
+    <message>
+        <source>%1: is not written: %2</source>
+        <translation>%1: wird nicht geschrieben: %2</translation>
+    </message>
+    <message>
+        <source>there is no assembly service &quot;%1&quot;%2 (known: %3)</source>
+        <translation>es gibt keinen Bestückungsdienst „%1“%2 (bekannt: %3)</translation>
+    </message>
+    <message>
+        <source>--for leaves out parts that are not fitted, and --dnp only leaves out all others</source>
+        <translation>--for lässt nicht bestückte Bauteile weg und --dnp only alle anderen</translation>
+    </message>
+    <message>
+        <source>--for writes .csv and .xlsx, and CSV to standard output (-)</source>
+        <translation>--for schreibt .csv und .xlsx sowie CSV auf die Standardausgabe (-)</translation>
+    </message>
+    <message>
+        <source>%1: %2 part has no &quot;%3&quot; (%4): %5</source>
+        <translation>%1: %2 Bauteil hat kein „%3“ (%4): %5</translation>
+    </message>
+    <message>
+        <source>%1: %2 parts have no &quot;%3&quot; (%4): %5</source>
+        <translation>%1: %2 Bauteile haben kein „%3“ (%4): %5</translation>
+    </message>
+    <message>
+        <source>%1 are one designator there, where letter case does not count</source>
+        <translation>%1 sind dort dieselbe Referenz, weil Groß- und Kleinschreibung nicht zählt</translation>
+    </message>
+    <message>
+        <source> and </source>
+        <translation> und </translation>
+    </message>
+    <message>
+        <source>the rows of %1 and %2 look alike; their parts differ in %3</source>
+        <translation>die Zeilen von %1 und %2 sehen gleich aus; ihre Bauteile unterscheiden sich in %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 more rows or designators like these</source>
+        <translation>%1: %2 weitere solche Zeilen oder Referenzen</translation>
+    </message>
+    <message>
+        <source>zeros in front are gone</source>
+        <translation>führende Nullen sind weg</translation>
+    </message>
+    <message>
+        <source>it is taken for a number with an exponent</source>
+        <translation>es gilt als Zahl mit Exponent</translation>
+    </message>
+    <message>
+        <source>digits behind the 15th are gone</source>
+        <translation>die Ziffern nach der 15. sind weg</translation>
+    </message>
+    <message>
+        <source>it is taken for a time</source>
+        <translation>es gilt als Uhrzeit</translation>
+    </message>
+    <message>
+        <source>it is taken for true or false</source>
+        <translation>es gilt als Wahrheitswert</translation>
+    </message>
+    <message>
+        <source>it is taken for a date</source>
+        <translation>es gilt als Datum</translation>
+    </message>
+    <message>
+        <source>it is taken for a formula</source>
+        <translation>es gilt als Formel</translation>
+    </message>
+    <message>
+        <source>characters are gone that its encoding lacks</source>
+        <translation>Zeichen sind weg, die in der Kodierung fehlen</translation>
+    </message>
+    <message>
+        <source>tabs are gone</source>
+        <translation>Tabulatoren sind weg</translation>
+    </message>
+    <message>
+        <source>the file cannot be read: %1</source>
+        <translation>die Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>the file is larger than %1 MiB, the most that a spreadsheet may have</source>
+        <translation>die Datei ist größer als %1 MiB; mehr darf eine Tabellendatei nicht haben</translation>
+    </message>
+    <message>
+        <source>%1 row is hidden and is read like the others</source>
+        <translation>%1 Zeile ist ausgeblendet und wird wie die anderen gelesen</translation>
+    </message>
+    <message>
+        <source>%1 rows are hidden and are read like the others</source>
+        <translation>%1 Zeilen sind ausgeblendet und werden wie die anderen gelesen</translation>
+    </message>
+    <message>
+        <source>sheet %1: %2</source>
+        <translation>Blatt %1: %2</translation>
+    </message>
+    <message>
+        <source>of %1 sheets &quot;%2&quot; is read (--sheet takes another)</source>
+        <translation>von %1 Blättern wird „%2“ gelesen (--sheet nimmt ein anderes)</translation>
+    </message>
+    <message>
+        <source>there is no sheet &quot;%1&quot;; the file has %2</source>
+        <translation>es gibt kein Blatt „%1“; die Datei hat %2</translation>
+    </message>
+    <message>
+        <source>no sheet has a heading for references, such as Reference or Designator</source>
+        <translation>kein Blatt hat eine Überschrift für Referenzen wie Reference oder Designator</translation>
+    </message>
+    <message>
+        <source>there is no template &quot;%1&quot;%2 (bom template list names them)</source>
+        <translation>es gibt keine Vorlage „%1“%2 (bom template list nennt alle)</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>prefix %1</source>
+        <translation>Präfix %1</translation>
+    </message>
+    <message>
+        <source>suffix %1</source>
+        <translation>Suffix %1</translation>
+    </message>
+    <message>
+        <source>on empty values too</source>
+        <translation>auch bei leeren Werten</translation>
+    </message>
+    <message>
+        <source>totals with %1 decimal</source>
+        <translation>Summen mit %1 Dezimalstelle</translation>
+    </message>
+    <message>
+        <source>totals with %1 decimals</source>
+        <translation>Summen mit %1 Dezimalstellen</translation>
+    </message>
+    <message>
+        <source>links</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>at most %1 character</source>
+        <translation>höchstens %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>at most %1 characters</source>
+        <translation>höchstens %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>all other parts</source>
+        <translation>alle anderen Bauteile</translation>
+    </message>
+    <message>
+        <source>Style sheet</source>
+        <translation>Stylesheet</translation>
+    </message>
+    <message>
+        <source>default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>its own</source>
+        <translation>eigenes</translation>
+    </message>
+    <message>
+        <source>Document header</source>
+        <translation>Dokumentkopf</translation>
+    </message>
+    <message>
+        <source>Document footer</source>
+        <translation>Dokumentfuß</translation>
+    </message>
+    <message>
+        <source>Page header</source>
+        <translation>Seitenkopf</translation>
+    </message>
+    <message>
+        <source>Page footer</source>
+        <translation>Seitenfuß</translation>
+    </message>
+    <message>
+        <source>References</source>
+        <translation>Referenzen</translation>
+    </message>
+    <message>
+        <source>shortened (R1-R7)</source>
+        <translation>zusammengefasst (R1-R7)</translation>
+    </message>
+    <message>
+        <source>individual (R1,R2...)</source>
+        <translation>einzeln (R1,R2...)</translation>
+    </message>
+    <message>
+        <source>Suppress empty categories</source>
+        <translation>Leere Kategorien weglassen</translation>
+    </message>
+    <message>
+        <source>Case sensitive part grouping</source>
+        <translation>Groß- und Kleinschreibung beim Zusammenfassen beachten</translation>
+    </message>
+    <message>
+        <source>Append notes</source>
+        <translation>Notizen anhängen</translation>
+    </message>
+    <message>
+        <source>Manual table column widths</source>
+        <translation>Spaltenbreiten der Tabelle selbst festlegen</translation>
+    </message>
+    <message>
+        <source>Always quote references (CSV only)</source>
+        <translation>Referenzen immer in Anführungszeichen (nur CSV)</translation>
+    </message>
+    <message>
+        <source>Exclude value field (data outputs)</source>
+        <translation>Feld „Value“ weglassen (Datenausgaben)</translation>
+    </message>
+    <message>
+        <source>Layout for reading</source>
+        <translation>Zum Lesen gestalten</translation>
+    </message>
+    <message>
+        <source>comes with the program</source>
+        <translation>gehört zum Programm</translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation>noch keine</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Vorlage</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Columns:</source>
+        <translation>Spalten:</translation>
+    </message>
+    <message>
+        <source>Categories:</source>
+        <translation>Kategorien:</translation>
+    </message>
+    <message>
+        <source>properties without a definition: %1</source>
+        <translation>Eigenschaften ohne Definition: %1</translation>
+    </message>
+    <message>
+        <source>the design has no variants</source>
+        <translation>der Entwurf hat keine Varianten</translation>
+    </message>
+</context>
+<context>
     <name>DesignFile</name>
     <message>
         <source>this design cannot be changed</source>
@@ -1630,6 +2984,10 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>a board has no place for such a text</source>
         <translation>eine Leiterplatte hat keinen Platz für einen solchen Text</translation>
+    </message>
+    <message>
+        <source>It cannot be read again, and is shown as it was before: </source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2247,6 +3605,409 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>Bill of Materials Viewer</source>
         <translation>Stücklistenanzeige</translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message>
+        <source>Account for every symbol of the design; list what needs a decision</source>
+        <translation>Den Verbleib jedes Symbols des Entwurfs klären; aufführen, was zu entscheiden ist</translation>
+    </message>
+    <message>
+        <source>Find the parts on which this property is empty or missing</source>
+        <translation>Die Bauteile finden, bei denen diese Eigenschaft leer ist oder fehlt</translation>
+    </message>
+    <message>
+        <source>Write JSON for programs instead of text for people</source>
+        <translation>JSON für Programme statt Text für Menschen schreiben</translation>
+    </message>
+    <message>
+        <source>Print the completion for a shell, or the manual page of the program</source>
+        <translation>Die Vervollständigung für eine Shell oder die Handbuchseite des Programms ausgeben</translation>
+    </message>
+    <message>
+        <source>bash, zsh, fish or man; services: the names that --for takes, one a line</source>
+        <translation>bash, zsh, fish oder man; services: die Namen, die --for nimmt, einer je Zeile</translation>
+    </message>
+    <message>
+        <source>Read a design whose files may not belong together, because a write was interrupted</source>
+        <translation>Auch einen Entwurf lesen, dessen Dateien vielleicht nicht zusammengehören, weil ein Schreiben unterbrochen wurde</translation>
+    </message>
+    <message>
+        <source>Find properties by their own names only, not by names of the same meaning (bom fields)</source>
+        <translation>Eigenschaften nur unter ihrem eigenen Namen suchen, nicht unter Namen gleicher Bedeutung (bom fields)</translation>
+    </message>
+    <message>
+        <source>KiCad schematic or project, or CSV part list, or a folder with one design in it</source>
+        <translation>KiCad-Schaltplan oder -Projekt, Teileliste als CSV oder ein Ordner mit einem Entwurf darin</translation>
+    </message>
+    <message>
+        <source>Apply the design&apos;s variant of this name</source>
+        <translation>Die Variante des Entwurfs mit diesem Namen anwenden</translation>
+    </message>
+    <message>
+        <source>Property definitions instead of the user&apos;s PROPDEFS.INI</source>
+        <translation>Definitionen der Eigenschaften statt der PROPDEFS.INI des Benutzers</translation>
+    </message>
+    <message>
+        <source>Leave out, list marked and not counted, or list only the parts that are not fitted</source>
+        <translation>Nicht bestückte Bauteile weglassen, markiert und ungezählt aufführen oder als einzige aufführen</translation>
+    </message>
+    <message>
+        <source>Template, or a .bomt file; without it &quot;Default&quot;</source>
+        <translation>Vorlage oder eine .bomt-Datei; sonst „Default“</translation>
+    </message>
+    <message>
+        <source>Template, or a .bomt file; without it one that fits the design</source>
+        <translation>Vorlage oder eine .bomt-Datei; sonst eine, die zum Entwurf passt</translation>
+    </message>
+    <message>
+        <source>Columns of these properties, such as Value,Footprint,MPN</source>
+        <translation>Spalten mit diesen Eigenschaften, zum Beispiel Value,Footprint,MPN</translation>
+    </message>
+    <message>
+        <source>Headings for --fields, in the same order</source>
+        <translation>Überschriften für --fields in derselben Reihenfolge</translation>
+    </message>
+    <message>
+        <source>Columns of a BOM preset of the KiCad project</source>
+        <translation>Spalten einer Stücklisteneinstellung des KiCad-Projekts</translation>
+    </message>
+    <message>
+        <source>Check everything and tell what would change; write nothing</source>
+        <translation>Alles prüfen und sagen, was sich ändern würde; nichts schreiben</translation>
+    </message>
+    <message>
+        <source>Keep no copy of the files as they are before; bom undo needs one</source>
+        <translation>Keine Kopie der bisherigen Dateien aufheben; bom undo braucht sie</translation>
+    </message>
+    <message>
+        <source>Read numbers as in this locale, such as de_DE; C without it</source>
+        <translation>Zahlen wie in diesem Gebietsschema lesen, zum Beispiel de_DE; sonst C</translation>
+    </message>
+    <message>
+        <source>Give properties of parts new values in the design</source>
+        <translation>Eigenschaften von Bauteilen im Entwurf neue Werte geben</translation>
+    </message>
+    <message>
+        <source>References, such as R1 or R1,R4-R7</source>
+        <translation>Referenzen, zum Beispiel R1 oder R1,R4-R7</translation>
+    </message>
+    <message>
+        <source>Property with its new value; NAME= takes the property away</source>
+        <translation>Eigenschaft mit ihrem neuen Wert; NAME= entfernt die Eigenschaft</translation>
+    </message>
+    <message>
+        <source>Make a property that the design does not have, although it has one of nearly the same name</source>
+        <translation>Eine Eigenschaft anlegen, die der Entwurf nicht hat, obwohl er eine fast gleichen Namens hat</translation>
+    </message>
+    <message>
+        <source>Write the values that were changed in a report (.csv, .xlsx, .ods), or in any table with references, into the design</source>
+        <translation>Die Werte, die in einem Bericht (.csv, .xlsx, .ods) oder einer anderen Tabelle mit Referenzen geändert wurden, in den Entwurf schreiben</translation>
+    </message>
+    <message>
+        <source>Table (.csv, .xlsx or .ods); its headings are fields of the template or names of properties</source>
+        <translation>Tabelle (.csv, .xlsx oder .ods); ihre Überschriften sind Felder der Vorlage oder Namen von Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Read this sheet of a spreadsheet; without it &quot;Parts&quot;, or the first that has references</source>
+        <translation>Dieses Blatt einer Tabellendatei lesen; sonst „Parts“ oder das erste mit Referenzen</translation>
+    </message>
+    <message>
+        <source>Take all columns for properties, also those of headings that no part has yet</source>
+        <translation>Alle Spalten als Eigenschaften nehmen, auch wenn noch kein Bauteil sie hat</translation>
+    </message>
+    <message>
+        <source>Take the column of this heading for a property although no part has it yet</source>
+        <translation>Die Spalte mit dieser Überschrift als Eigenschaft nehmen, obwohl noch kein Bauteil sie hat</translation>
+    </message>
+    <message>
+        <source>Write also what spreadsheets make of texts by themselves: 0402 to 402, 1-2 to a date, the results of formulas</source>
+        <translation>Auch schreiben, was Tabellenprogramme von selbst aus Texten machen: 402 aus 0402, ein Datum aus 1-2, die Ergebnisse von Formeln</translation>
+    </message>
+    <message>
+        <source>Take back what was written into a design last</source>
+        <translation>Zurücknehmen, was zuletzt in einen Entwurf geschrieben wurde</translation>
+    </message>
+    <message>
+        <source>List the names of properties by what they mean: how many parts have them, where they disagree, which names are not read</source>
+        <translation>Die Namen von Eigenschaften nach ihrer Bedeutung aufführen: wie viele Bauteile sie haben, wo sie sich widersprechen, welche Namen nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Explain the program or one of its commands</source>
+        <translation>Das Programm oder einen seiner Befehle erklären</translation>
+    </message>
+    <message>
+        <source>The command, such as report or template show</source>
+        <translation>Der Befehl, zum Beispiel report oder template show</translation>
+    </message>
+    <message>
+        <source>Usage</source>
+        <translation>Aufruf</translation>
+    </message>
+    <message>
+        <source>OPTIONS</source>
+        <translation>OPTIONEN</translation>
+    </message>
+    <message>
+        <source>SUBCOMMAND</source>
+        <translation>BEFEHL</translation>
+    </message>
+    <message>
+        <source>SUBCOMMANDS</source>
+        <translation>BEFEHLE</translation>
+    </message>
+    <message>
+        <source>Positionals</source>
+        <translation>Argumente</translation>
+    </message>
+    <message>
+        <source>REQUIRED</source>
+        <translation>(erforderlich)</translation>
+    </message>
+    <message>
+        <source>Needs</source>
+        <translation>nur mit</translation>
+    </message>
+    <message>
+        <source>Excludes</source>
+        <translation>nicht mit</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Subcommands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Print this help message and exit</source>
+        <translation>Diese Hilfe ausgeben und beenden</translation>
+    </message>
+    <message>
+        <source>Display program version information and exit</source>
+        <translation>Die Version des Programms ausgeben und beenden</translation>
+    </message>
+    <message>
+        <source>A subcommand is required</source>
+        <translation>ein Befehl ist nötig</translation>
+    </message>
+    <message>
+        <source>The following argument was not expected: %1</source>
+        <translation>dieses Argument ist zu viel: %1</translation>
+    </message>
+    <message>
+        <source>The following arguments were not expected: %1</source>
+        <translation>diese Argumente sind zu viel: %1</translation>
+    </message>
+    <message>
+        <source>Could not convert: %1 = %2</source>
+        <translation>nicht lesbar: %1 = %2</translation>
+    </message>
+    <message>
+        <source>The value %1 is not an allowed value for %2</source>
+        <translation>%1 ist kein Wert, den %2 haben kann</translation>
+    </message>
+    <message>
+        <source>Expected exactly %1 arguments to %2, got %3</source>
+        <translation>genau %1 Argumente für %2 erwartet, nicht %3</translation>
+    </message>
+    <message>
+        <source>Expected at least %1 arguments to %2, got %3</source>
+        <translation>mindestens %1 Argumente für %2 erwartet, nicht %3</translation>
+    </message>
+    <message>
+        <source>%1: the text must not be empty</source>
+        <translation>%1: Der Text darf nicht leer sein</translation>
+    </message>
+    <message>
+        <source>%1: %2 not in {%3}</source>
+        <translation>%1: %2 ist keines von {%3}</translation>
+    </message>
+    <message>
+        <source>%1: %2 required %3 missing</source>
+        <translation>%1: Es fehlt der Wert (%2 × %3)</translation>
+    </message>
+    <message>
+        <source>%1: At least %2 required but received %3</source>
+        <translation>%1: mindestens %2 nötig, aber nur %3 angegeben</translation>
+    </message>
+    <message>
+        <source>%1: At Most %2 required but received %3</source>
+        <translation>%1: höchstens %2 möglich, aber %3 angegeben</translation>
+    </message>
+    <message>
+        <source>%1: Should be true/false or a number</source>
+        <translation>%1: true, false oder eine Zahl erwartet</translation>
+    </message>
+    <message>
+        <source>%1 was given a disallowed flag override</source>
+        <translation>%1 nimmt keinen Wert</translation>
+    </message>
+    <message>
+        <source>%1 is required</source>
+        <translation>%1 muss angegeben werden</translation>
+    </message>
+    <message>
+        <source>%1 requires %2</source>
+        <translation>%1 geht nur mit %2</translation>
+    </message>
+    <message>
+        <source>%1 excludes %2</source>
+        <translation>%1 geht nicht zusammen mit %2</translation>
+    </message>
+    <message>
+        <source>Leave out notices on standard error; errors stay</source>
+        <translation>Hinweise auf der Standardfehlerausgabe weglassen; Fehler bleiben</translation>
+    </message>
+    <message>
+        <source>Bills of materials from KiCad designs and CSV part lists.</source>
+        <translation>Stücklisten aus KiCad-Entwürfen und Teilelisten als CSV.</translation>
+    </message>
+    <message>
+        <source>Exit status: 0 done; 1 the design has a problem that the user must decide on; 2 wrong usage; 3 an input cannot be read; 4 an output cannot be written.</source>
+        <translation>Rückgabewert: 0 erledigt; 1 der Entwurf hat ein Problem, über das zu entscheiden ist; 2 falscher Aufruf; 3 eine Eingabe kann nicht gelesen werden; 4 eine Ausgabe kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>List every part with all its properties</source>
+        <translation>Jedes Bauteil mit allen Eigenschaften aufführen</translation>
+    </message>
+    <message>
+        <source>Write CSV with one row per line of the bill; - is standard output</source>
+        <translation>CSV mit einer Zeile je Position schreiben; - ist die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Write CSV with one row per part; - is standard output</source>
+        <translation>CSV mit einer Zeile je Bauteil schreiben; - ist die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Write text in columns of fixed widths; - is standard output</source>
+        <translation>Text in Spalten fester Breite schreiben; - ist die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Write a web page (XHTML); - is standard output</source>
+        <translation>Eine Webseite (XHTML) schreiben; - ist die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Write a PDF document; - is standard output</source>
+        <translation>Ein PDF-Dokument schreiben; - ist die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Write a spreadsheet (.xlsx); - is standard output</source>
+        <translation>Eine Tabellendatei (.xlsx) schreiben; - ist die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Write JSON for programs; - is standard output</source>
+        <translation>JSON für Programme schreiben; - ist die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Write the bill of materials; text in columns goes to standard output when no output is named</source>
+        <translation>Die Stückliste schreiben; ohne genannte Ausgabe geht Text in Spalten auf die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>Write the form that the file&apos;s ending says: .csv, .html, .json, .pdf, .txt, .xlsx</source>
+        <translation>Die Form schreiben, die die Endung der Datei sagt: .csv, .html, .json, .pdf, .txt, .xlsx</translation>
+    </message>
+    <message>
+        <source>Write CSV as spreadsheet programs open it by a double click: with a byte order mark, and semicolons where --locale has a decimal comma</source>
+        <translation>CSV so schreiben, wie Tabellenprogramme es bei Doppelklick öffnen: mit Byte-Order-Mark und mit Semikolons, wo --locale ein Dezimalkomma hat</translation>
+    </message>
+    <message>
+        <source>Write the report although references occur more than once</source>
+        <translation>Den Bericht schreiben, obwohl Referenzen mehrfach vorkommen</translation>
+    </message>
+    <message>
+        <source>Format numbers as in this locale, such as de_DE; C without it</source>
+        <translation>Zahlen wie in diesem Gebietsschema schreiben, zum Beispiel de_DE; sonst C</translation>
+    </message>
+    <message>
+        <source>Write the file that an assembly service takes, .csv or .xlsx by its ending; - is CSV on standard output</source>
+        <translation>Die Datei schreiben, die ein Bestückungsdienst annimmt, je nach Endung .csv oder .xlsx; - ist CSV auf der Standardausgabe</translation>
+    </message>
+    <message>
+        <source>List, show, make and delete report templates</source>
+        <translation>Berichtsvorlagen aufführen, zeigen, anlegen und löschen</translation>
+    </message>
+    <message>
+        <source>List all templates</source>
+        <translation>Alle Vorlagen aufführen</translation>
+    </message>
+    <message>
+        <source>Print the settings of a template</source>
+        <translation>Die Einstellungen einer Vorlage ausgeben</translation>
+    </message>
+    <message>
+        <source>Template, or a .bomt file</source>
+        <translation>Vorlage oder eine .bomt-Datei</translation>
+    </message>
+    <message>
+        <source>Make a template</source>
+        <translation>Eine Vorlage anlegen</translation>
+    </message>
+    <message>
+        <source>Name of the new template</source>
+        <translation>Name der neuen Vorlage</translation>
+    </message>
+    <message>
+        <source>Take the settings of this template or .bomt file, not the defaults</source>
+        <translation>Die Einstellungen dieser Vorlage oder .bomt-Datei nehmen statt der Standardwerte</translation>
+    </message>
+    <message>
+        <source>Take the settings that a report of this design has without a template</source>
+        <translation>Die Einstellungen nehmen, die ein Bericht dieses Entwurfs ohne Vorlage hat</translation>
+    </message>
+    <message>
+        <source>Delete a template of your own</source>
+        <translation>Eine eigene Vorlage löschen</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Vorlage</translation>
+    </message>
+    <message>
+        <source>Put the template &quot;Default&quot; back to the default settings</source>
+        <translation>Die Vorlage „Default“ auf die Standardwerte zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Take a .bomt file into your templates</source>
+        <translation>Eine .bomt-Datei in die eigenen Vorlagen aufnehmen</translation>
+    </message>
+    <message>
+        <source>The file; its name becomes the template&apos;s</source>
+        <translation>Die Datei; ihr Name wird der der Vorlage</translation>
+    </message>
+    <message>
+        <source>Make a template of a legacy BOM script</source>
+        <translation>Eine Vorlage aus einem alten Stücklistenskript machen</translation>
+    </message>
+    <message>
+        <source>The file with the script, usually .BSF</source>
+        <translation>Die Datei mit dem Skript, meist .BSF</translation>
+    </message>
+    <message>
+        <source>Which script, where the file has several</source>
+        <translation>Welches Skript, wenn die Datei mehrere hat</translation>
+    </message>
+    <message>
+        <source>Name of the new template, not the script&apos;s</source>
+        <translation>Name der neuen Vorlage statt dem des Skripts</translation>
+    </message>
+    <message>
+        <source>Copy a template to a file</source>
+        <translation>Eine Vorlage in eine Datei kopieren</translation>
+    </message>
+    <message>
+        <source>Where to; - is standard output</source>
+        <translation>Wohin; - ist die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>List the variants of the design, for --variant</source>
+        <translation>Die Varianten des Entwurfs aufführen, für --variant</translation>
+    </message>
+    <message>
+        <source>Write JSON for programs instead of one name a line</source>
+        <translation>JSON für Programme statt einen Namen je Zeile schreiben</translation>
     </message>
 </context>
 <context>
@@ -3112,6 +4873,10 @@ Trotzdem ausgeben?</translation>
         <source>sheet %1, %2, X %3 Y %4 mm</source>
         <translation>Blatt %1, %2, X %3 Y %4 mm</translation>
     </message>
+    <message>
+        <source>sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PendingChanges</name>
@@ -3326,6 +5091,117 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>PrefixCategories</name>
+    <message>
+        <source>Modules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Integrated Circuits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transistors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diodes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LEDs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Capacitors</source>
+        <translation type="unfinished">Kondensatoren</translation>
+    </message>
+    <message>
+        <source>Resistors</source>
+        <translation type="unfinished">Widerstände</translation>
+    </message>
+    <message>
+        <source>Resistor Networks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Variable Resistors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thermistors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inductors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ferrite Beads</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transformers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crystals and Oscillators</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fuses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Relays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connectors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jumpers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Batteries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Antennas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Test Points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mechanical</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation type="unfinished">Bauteile</translation>
+    </message>
+    <message>
+        <source>Miscellaneous</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>PrintPreview</name>
     <message>
         <source>Print Preview</source>
@@ -3513,6 +5389,14 @@ Trotzdem ausgeben?</translation>
         <source>The BOM-only part %1 of %2 cannot be removed</source>
         <translation>Das Bauteil %1, das bei %2 nur in der Stückliste steht, kann nicht entfernt werden</translation>
     </message>
+    <message>
+        <source>Pending changes of an earlier run cannot be read, and are left as they are: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pending changes cannot be kept beside the program&apos;s settings. They will be lost if the program ends before they are applied: </source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PropertyCell</name>
@@ -3693,6 +5577,49 @@ Trotzdem ausgeben?</translation>
         <source>Miscellaneous</source>
         <extracomment>Stands in reports, which have one language on all machines: leave it as it is.</extracomment>
         <translation>Miscellaneous</translation>
+    </message>
+</context>
+<context>
+    <name>Spreadsheet</name>
+    <message>
+        <source>No temporary file can be made: %1</source>
+        <translation>Es kann keine temporäre Datei angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>The report has more rows than a spreadsheet, which holds %1.</source>
+        <translation>Der Bericht hat mehr Zeilen als ein Tabellenblatt, das %1 fasst.</translation>
+    </message>
+    <message>
+        <source>A cell of a spreadsheet holds %1 characters; this text has %2: %3...</source>
+        <translation>Eine Zelle eines Tabellenblatts fasst %1 Zeichen; dieser Text hat %2: %3...</translation>
+    </message>
+    <message>
+        <source>A spreadsheet has at most %1 links; %2 more are text.</source>
+        <translation>Ein Tabellenblatt hat höchstens %1 Links; %2 weitere sind Text.</translation>
+    </message>
+    <message>
+        <source>A link of a spreadsheet has at most %1 characters; %2 longer ones are text.</source>
+        <translation>Ein Link in einem Tabellenblatt hat höchstens %1 Zeichen; %2 längere sind Text.</translation>
+    </message>
+    <message>
+        <source>Malformed links are text: %1 and %2 more.</source>
+        <translation>Fehlerhafte Links sind Text: %1 und %2 weitere.</translation>
+    </message>
+    <message>
+        <source>Malformed links are text: %1.</source>
+        <translation>Fehlerhafte Links sind Text: %1.</translation>
+    </message>
+    <message>
+        <source>The report has more columns than a spreadsheet, which holds %1.</source>
+        <translation>Der Bericht hat mehr Spalten als ein Tabellenblatt, das %1 fasst.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet cannot be made: %1</source>
+        <translation>Die Tabellendatei kann nicht erstellt werden: %1</translation>
+    </message>
+    <message>
+        <source>There is no sheet of parts: a sheet holds %1 rows.</source>
+        <translation>Es gibt kein Blatt der Bauteile: Ein Blatt fasst %1 Zeilen.</translation>
     </message>
 </context>
 <context>
@@ -4125,6 +6052,45 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>TemplateMarkup</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>the report is without the %1 of the template: %2</source>
+        <translation>im Bericht fehlt „%1“ aus der Vorlage: %2</translation>
+    </message>
+    <message>
+        <source>the %1 of the template is shown without what would run or fetch something: %2</source>
+        <translation>„%1“ aus der Vorlage wird ohne das gezeigt, was etwas ausführen oder laden würde: %2</translation>
+    </message>
+    <message>
+        <source>header</source>
+        <translation>Dokumentkopf</translation>
+    </message>
+    <message>
+        <source>footer</source>
+        <translation>Dokumentfuß</translation>
+    </message>
+    <message>
+        <source>page header</source>
+        <translation>Seitenkopf</translation>
+    </message>
+    <message>
+        <source>page footer</source>
+        <translation>Seitenfuß</translation>
+    </message>
+    <message>
+        <source>the style sheet of the template is used without what would fetch something</source>
+        <translation>das Stylesheet der Vorlage wird ohne das benutzt, was etwas laden würde</translation>
+    </message>
+    <message>
+        <source>the style sheet of the template is too long: windows and PDF files show its first rules only</source>
+        <translation>das Stylesheet der Vorlage ist zu lang: Fenster und PDF-Dateien zeigen nur seine ersten Regeln</translation>
+    </message>
+</context>
+<context>
     <name>TemplateStore</name>
     <message>
         <source>Could not create template</source>
@@ -4435,6 +6401,25 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>The HTML text cannot be read.</source>
         <translation>Der HTML-Text kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Usage</name>
+    <message>
+        <source>Shows the bill of materials of a KiCad schematic or a part list.</source>
+        <translation>Zeigt die Stückliste eines KiCad-Schaltplans oder einer Teileliste.</translation>
+    </message>
+    <message>
+        <source>A .kicad_sch, .kicad_pro or .csv file.</source>
+        <translation>Eine Datei .kicad_sch, .kicad_pro oder .csv.</translation>
+    </message>
+    <message>
+        <source>The library of the module.</source>
+        <translation>Die Bibliothek des Moduls.</translation>
+    </message>
+    <message>
+        <source>one design at a time</source>
+        <translation>nur ein Entwurf auf einmal</translation>
     </message>
 </context>
 <context>
