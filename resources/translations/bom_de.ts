@@ -2985,10 +2985,6 @@ Trotzdem ausgeben?</translation>
         <source>a board has no place for such a text</source>
         <translation>eine Leiterplatte hat keinen Platz für einen solchen Text</translation>
     </message>
-    <message>
-        <source>It cannot be read again, and is shown as it was before: </source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>DesignStatus</name>
@@ -4873,10 +4869,6 @@ Trotzdem ausgeben?</translation>
         <source>sheet %1, %2, X %3 Y %4 mm</source>
         <translation>Blatt %1, %2, X %3 Y %4 mm</translation>
     </message>
-    <message>
-        <source>sheet</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>PendingChanges</name>
@@ -5091,117 +5083,6 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
-    <name>PrefixCategories</name>
-    <message>
-        <source>Modules</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Integrated Circuits</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Transistors</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Diodes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>LEDs</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Capacitors</source>
-        <translation type="unfinished">Kondensatoren</translation>
-    </message>
-    <message>
-        <source>Resistors</source>
-        <translation type="unfinished">Widerstände</translation>
-    </message>
-    <message>
-        <source>Resistor Networks</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Variable Resistors</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Thermistors</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Inductors</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ferrite Beads</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Filters</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Transformers</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Crystals and Oscillators</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Fuses</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Relays</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Switches</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Connectors</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Jumpers</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Batteries</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sound</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Antennas</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Test Points</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Mechanical</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Parts</source>
-        <translation type="unfinished">Bauteile</translation>
-    </message>
-    <message>
-        <source>Miscellaneous</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>PrintPreview</name>
     <message>
         <source>Print Preview</source>
@@ -5388,14 +5269,6 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>The BOM-only part %1 of %2 cannot be removed</source>
         <translation>Das Bauteil %1, das bei %2 nur in der Stückliste steht, kann nicht entfernt werden</translation>
-    </message>
-    <message>
-        <source>Pending changes of an earlier run cannot be read, and are left as they are: </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pending changes cannot be kept beside the program&apos;s settings. They will be lost if the program ends before they are applied: </source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
