@@ -2085,7 +2085,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>would change %1 of %2 in %3; nothing was written</source>
-        <translation>%1 von %2 in %3 würden geändert; nichts wurde geschrieben</translation>
+        <translation>zu ändern: %1 von %2 in %3; nichts wurde geschrieben</translation>
     </message>
     <message>
         <source>changed %1 of %2 in %3</source>

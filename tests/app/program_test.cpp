@@ -37,6 +37,21 @@ TEST(Program, SaysUsageWithoutADisplayAndWhatIsWrong)
     }
 }
 
+TEST(Program, ExplainsItselfInTheLanguageOfTheUserAndItsManualInEnglish)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8"));
+    const std::pair<const char *, const char *> cases[] = {{"--help", "Zeigt die Stückliste"},
+                                                           {"--manual", "Shows the bill of materials"}};
+    for (const auto &[argument, expected] : cases) {
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(BOM_BINARY_DIR "/bin/bomviewer"), {QString::fromLatin1(argument)});
+        ASSERT_TRUE(program.waitForFinished());
+        EXPECT_TRUE(program.readAllStandardOutput().contains(expected)) << argument;
+    }
+}
+
 TEST(EmptyPageTest, ShowsItsTextsInFull)
 {
     QAction open;
