@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QIcon>
 #include <QTextStream>
 #include <QTimer>
 
@@ -86,6 +87,8 @@ int main(int argc, char **argv)
     const bool isForEverybody = argc > 1 && std::string_view(argv[1]) == "--manual";
     const auto language = isForEverybody ? nullptr : std::make_unique<UserLanguage>();
     const Usage usage;
+    QGuiApplication::setDesktopFileName(QStringLiteral("xyz.bomviewer.bomviewer"));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/bomviewer/bomviewer.svg")));
     QCommandLineParser parser;
     parser.setApplicationDescription(usage.purpose);
     const QCommandLineOption moduleOption(QStringLiteral("module"), usage.module, QStringLiteral("FILE"));

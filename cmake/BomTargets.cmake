@@ -14,9 +14,8 @@ set(CMAKE_AUTOUIC ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 
-# Where the programs look for the module, and the libraries beside it.
-set(BOM_LIBRARIES lib/bom)
-set(CMAKE_INSTALL_RPATH "$ORIGIN:$ORIGIN/../${BOM_LIBRARIES}")
+# Programs find the libraries from where they stand themselves, libraries the ones beside them.
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../${BOM_LIBRARIES}")
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
@@ -63,9 +62,10 @@ function(bom_sources out)
   set(${out} ${found} PARENT_SCOPE)
 endfunction()
 
-# bom_library(NAME [SHARED] LINKS targets...): the library of the current folder.
+# bom_library(NAME [SHARED [FOR_HOSTS]] LINKS targets...): the library of the current folder. FOR_HOSTS: other programs link
+# it, too, as Bom::NAME of the CMake package "Bom".
 function(bom_library name)
-  cmake_parse_arguments(arg "SHARED" "" "LINKS;SOURCES" ${ARGN})
+  cmake_parse_arguments(arg "SHARED;FOR_HOSTS" "" "LINKS;SOURCES" ${ARGN})
   set(kind STATIC)
   if(arg_SHARED)
     set(kind SHARED)
@@ -75,9 +75,16 @@ function(bom_library name)
   endif()
   add_library(${name} ${kind} ${arg_SOURCES})
   if(arg_SHARED)
-    install(TARGETS ${name} DESTINATION ${BOM_LIBRARIES})
+    set_target_properties(${name} PROPERTIES INSTALL_RPATH "$ORIGIN")
+    set(export)
+    if(arg_FOR_HOSTS)
+      set(export EXPORT Bom)
+      target_include_directories(${name} INTERFACE $<INSTALL_INTERFACE:${BOM_HEADERS}>)
+      target_compile_features(${name} INTERFACE cxx_std_20)
+    endif()
+    install(TARGETS ${name} ${export} DESTINATION ${BOM_LIBRARIES})
   endif()
-  target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
+  target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}>)
   target_link_libraries(${name} PUBLIC ${arg_LINKS})
   bom_precompile(${name} corepch.h PRODUCT)
 endfunction()
@@ -94,7 +101,7 @@ function(bom_printed_file program arguments folder name)
   add_custom_command(OUTPUT ${file} COMMAND ${CMAKE_COMMAND} -E make_directory ${place}
                      COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C.UTF-8 $<TARGET_FILE:${program}> ${arguments} > ${file} DEPENDS ${program} VERBATIM)
   add_custom_target(${program}_${name} ALL DEPENDS ${file})
-  install(FILES ${file} DESTINATION share/${folder})
+  install(FILES ${file} DESTINATION ${CMAKE_INSTALL_DATADIR}/${folder})
 endfunction()
 
 # bom_test(FOLDER [WIDGETS] LINKS targets...): the test program of one folder, run with Qt's hash seed fixed and with a random one

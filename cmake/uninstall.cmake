@@ -1,0 +1,35 @@
+# SPDX-FileCopyrightText: 2026 The BOM developers
+# SPDX-License-Identifier: MIT
+# Removes the files that the last installation of a build has put below DESTDIR (the MANIFEST), and the folders that it made
+# (NEW_FOLDERS, and all below these) as far as nobody else has put anything there.
+cmake_minimum_required(VERSION 3.25)
+if(NOT EXISTS ${MANIFEST})
+  message(FATAL_ERROR "Nothing is installed from this build: there is no ${MANIFEST}")
+endif()
+set(folders)
+if(EXISTS ${NEW_FOLDERS})
+  file(STRINGS ${NEW_FOLDERS} folders)
+endif()
+file(STRINGS ${MANIFEST} files)
+foreach(file ${files})
+  file(REMOVE "$ENV{DESTDIR}${file}")
+  set(within)
+  cmake_path(GET file PARENT_PATH place)
+  while(NOT "$ENV{DESTDIR}${place}" IN_LIST folders AND NOT place STREQUAL "/")
+    list(APPEND within "$ENV{DESTDIR}${place}")
+    cmake_path(GET place PARENT_PATH place)
+  endwhile()
+  if(NOT place STREQUAL "/")
+    list(APPEND folders ${within})
+  endif()
+endforeach()
+
+# Those within others come first.
+list(SORT folders ORDER DESCENDING)
+foreach(folder ${folders})
+  file(GLOB content LIST_DIRECTORIES TRUE "${folder}/*")
+  if(IS_DIRECTORY "${folder}" AND NOT content)
+    file(REMOVE_RECURSE "${folder}")
+  endif()
+endforeach()
+file(REMOVE ${MANIFEST} ${NEW_FOLDERS})
