@@ -40,7 +40,7 @@ set(CPACK_DEBIAN_PROGRAMS_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
 # What no library asks for: a font for PDF files, icons above the program's own, Qt's platforms and texts, a screen to show
 # parts on.
-set(CPACK_DEBIAN_PROGRAMS_PACKAGE_DEPENDS "fonts-liberation, hicolor-icon-theme")
+set(CPACK_DEBIAN_PROGRAMS_PACKAGE_DEPENDS "fonts-liberation, hicolor-icon-theme, qt6-svg-plugins | libqt6svg6 (<< 6.5~)")
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_RECOMMENDS "qt6-qpa-plugins, qt6-wayland, qt6-translations-l10n, shared-mime-info")
 set(CPACK_DEBIAN_PROGRAMS_PACKAGE_SUGGESTS kicad)
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
