@@ -36,8 +36,10 @@ int main(int argc, char **argv)
     EmptyProcess process;
     setapplnprocess(&process);
     const QLibrary library(QStringLiteral(MODULE));
-    const auto create = reinterpret_cast<CREATEMODULEINSTANCE>(QLibrary::resolve(library.fileName(), MODULE_CREATE));
-    const auto end = reinterpret_cast<DELETEMODULEINSTANCE>(QLibrary::resolve(library.fileName(), MODULE_DELETE));
+    const auto create =
+        reinterpret_cast<CREATEMODULEINSTANCE>(QLibrary::resolve(library.fileName(), MODULE_CREATE));
+    const auto end =
+        reinterpret_cast<DELETEMODULEINSTANCE>(QLibrary::resolve(library.fileName(), MODULE_DELETE));
     APPLNMODULE *module = create && end ? create(&process) : nullptr;
     auto *viewer = module ? static_cast<IBOMVIEWER *>(module->queryinterface(INTERFACE_BOMVIEWER)) : nullptr;
     if (!viewer) {
