@@ -14,6 +14,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <stop_token>
 #include <vector>
 
 namespace designs {
@@ -158,6 +159,8 @@ struct ReadOptions
     /// How many threads read files and work out new ones, 0 for as many as are worth while. The design and
     /// its plans are the same for any number.
     int threads = 0;
+    /// Ends the reading early when a stop is requested: there is no design then.
+    std::stop_token stop = {};
 };
 
 /// A design, or why there is none.

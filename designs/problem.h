@@ -23,4 +23,10 @@ struct Problem
     bool operator==(const Problem &) const = default;
 };
 
+/// What a reader says that was told to stop.
+[[nodiscard]] inline Problem stoppedProblem(const QString &file)
+{
+    return {file, 0, QStringLiteral("reading was stopped")};
+}
+
 } // namespace designs

@@ -35,7 +35,7 @@ DesignSession::~DesignSession()
 
 bool DesignSession::open(const QString &path, const OpenOptions &options)
 {
-    if (!read(path, options)) {
+    if (!read(path, options, m_reader)) {
         return false;
     }
     m_path = QFileInfo(path).absoluteFilePath();
@@ -51,18 +51,40 @@ void DesignSession::open(std::unique_ptr<const designs::Design> design)
     setDesign(std::move(design));
 }
 
+void DesignSession::close()
+{
+    m_path.clear();
+    m_openOptions = {};
+    m_recoveries.clear();
+    m_errors.clear();
+    m_tableProblems.clear();
+    m_process.setOpen(false);
+    m_process.navigator().setDesign(nullptr);
+    m_document.setDesign(nullptr);
+    m_cdb.setDesign(nullptr);
+    m_design.reset();
+    m_netlist.setDesign(nullptr);
+    // A server without a design sends nothing, so that they learn only that what they have is stale.
+    m_netlist.refreshCaches();
+}
+
 bool DesignSession::reread()
 {
-    if (!read(m_path, m_openOptions)) {
+    return reread(m_reader);
+}
+
+bool DesignSession::reread(const Reader &reader)
+{
+    if (!read(m_path, m_openOptions, reader)) {
         return false;
     }
     m_netlist.refreshCaches();
     return true;
 }
 
-bool DesignSession::read(const QString &path, const OpenOptions &options)
+bool DesignSession::read(const QString &path, const OpenOptions &options, const Reader &reader)
 {
-    SettledDesign settled = readSettledDesign(path, options);
+    SettledDesign settled = reader ? reader(path, options) : readSettledDesign(path, options);
     if (!settled.design) {
         m_errors = settled.errors;
         return false;
@@ -124,7 +146,7 @@ QList<CDBPROBLEM> DesignSession::writeBatch(std::span<const designs::Edit> edits
 
 void DesignSession::takeOverFiles()
 {
-    if (!reread()) {
+    if (!reread({})) {
         HostUi::current().warning(
             nullptr, SessionTexts::tr("The design was written"),
             SessionTexts::tr("It cannot be read again, and is shown as it was before: %1").arg(error()));

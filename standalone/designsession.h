@@ -32,6 +32,11 @@ public:
     DesignSession &operator=(const DesignSession &) = delete;
     ~DesignSession();
 
+    /// What reads designs for open() and reread() instead of readSettledDesign(), such as one that handles
+    /// events meanwhile. It is not used after a write, which nothing may interrupt.
+    using Reader = std::function<SettledDesign(const QString &path, const OpenOptions &options)>;
+    void setReader(Reader reader) { m_reader = std::move(reader); }
+
     /// Opens a design in place of the one that is open. A write that was interrupted is first completed or
     /// taken back. On failure error() says why and the old design stays open.
     [[nodiscard]] bool open(const QString &path, const OpenOptions &options = {});
@@ -40,6 +45,8 @@ public:
     /// Reads the design again under the options that it was opened with, fills the caches and tells their
     /// clients. On failure error() says why and the old design stays open.
     [[nodiscard]] bool reread();
+    /// Closes the design: the caches of the clients become empty.
+    void close();
     /// "FILE:LINE: what is wrong" each, of the last open() or reread().
     [[nodiscard]] const QStringList &errors() const { return m_errors; }
     /// All of them in one line.
@@ -91,7 +98,8 @@ public:
     [[nodiscard]] bool rereadBoard();
 
 private:
-    [[nodiscard]] bool read(const QString &path, const OpenOptions &options);
+    [[nodiscard]] bool read(const QString &path, const OpenOptions &options, const Reader &reader);
+    [[nodiscard]] bool reread(const Reader &reader);
     void setDesign(std::unique_ptr<const designs::Design> design);
     /// What the component database calls for the outermost batch.
     [[nodiscard]] QList<CDBPROBLEM> writeBatch(std::span<const designs::Edit> edits);
@@ -107,6 +115,7 @@ private:
     bool m_hasExactNames = false;
     /// What is wrong with the tables of property names.
     QStringList m_tableProblems;
+    Reader m_reader;
     /// What the design is read from: the file that was named, a project too.
     QString m_path;
     OpenOptions m_openOptions;

@@ -29,21 +29,20 @@ QString designFileOf(const QString &path)
 
 /// A design that lacks the variant that is asked for has its files all the same.
 designs::DesignFiles recoverableFiles(const QString &path, const designs::Design *design,
-                                      const OpenOptions &options)
+                                      const OpenOptions &options, const DesignReader &reader)
 {
     if (design) {
         return filesOf(*design);
     }
-    const designs::ReadResult drawn =
-        options.variant.isEmpty() ? designs::ReadResult() : designs::readDesign(path);
+    const designs::ReadResult drawn = options.variant.isEmpty() ? designs::ReadResult() : reader(path, {});
     return drawn.design ? filesOf(*drawn.design) : designs::DesignFiles(designFileOf(path), {});
 }
 
 /// Puts right what was interrupted, also in other designs that have files in common with this one.
 designs::RecoveryResult recoverAll(const QString &path, const designs::Design *design,
-                                   const OpenOptions &options)
+                                   const OpenOptions &options, const DesignReader &reader)
 {
-    designs::RecoveryResult all = recoverableFiles(path, design, options).recover();
+    designs::RecoveryResult all = recoverableFiles(path, design, options, reader).recover();
     const QStringList others =
         design ? designs::interruptedDesignsAround(design->info().file, design->files()) : QStringList();
     for (const QString &other : others) {
@@ -64,7 +63,7 @@ bool readOnce(const QString &path, const OpenOptions &options, const DesignReade
     designs::ReadResult read = reader(path, {options.variant});
     // In this order: when no write is under way after the reading, then one that overlapped it has ended, and
     // left other contents than were read.
-    const designs::RecoveryResult recovered = recoverAll(path, read.design.get(), options);
+    const designs::RecoveryResult recovered = recoverAll(path, read.design.get(), options, reader);
     result->notices += messagesOf(recovered.actions);
     const QStringList problems = messagesOf(recovered.problems);
     if (!recovered.isSettled && !options.readsAsIs) {
@@ -85,9 +84,12 @@ bool readOnce(const QString &path, const OpenOptions &options, const DesignReade
 
 } // namespace
 
-SettledDesign readSettledDesign(const QString &path, const OpenOptions &options)
+SettledDesign readSettledDesign(const QString &path, const OpenOptions &options, const std::stop_token &stop)
 {
-    return readSettledDesign(path, options, designs::readDesign);
+    return readSettledDesign(path, options, [&stop](const QString &file, designs::ReadOptions wanted) {
+        wanted.stop = stop;
+        return designs::readDesign(file, wanted);
+    });
 }
 
 SettledDesign readSettledDesign(const QString &path, const OpenOptions &options, const DesignReader &reader)

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <stop_token>
 
 /// How a design is opened.
 struct OpenOptions
@@ -34,7 +35,9 @@ struct SettledDesign
 
 /// Reads a design whose files belong together: an interrupted write is completed or taken back first, and one
 /// that overlaps the reading makes it read again, up to 20 times.
-[[nodiscard]] SettledDesign readSettledDesign(const QString &path, const OpenOptions &options);
+/// A requested stop ends it early, without a design. Any thread may call it.
+[[nodiscard]] SettledDesign readSettledDesign(const QString &path, const OpenOptions &options,
+                                              const std::stop_token &stop = {});
 
 /// What reads a design once.
 using DesignReader =

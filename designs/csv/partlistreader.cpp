@@ -427,14 +427,17 @@ ReadResult readPartList(const QString &path, const ReadOptions &options, const C
         error.file = absolutePath;
         return {nullptr, error};
     }
-    return readPartListBytes(absolutePath, std::move(*bytes), limits, std::move(list));
+    return readPartListBytes(absolutePath, std::move(*bytes), limits, std::move(list), options.stop);
 }
 
 ReadResult readPartListBytes(const QString &absolutePath, QByteArray bytes, const CsvLimits &limits,
-                             std::unique_ptr<PartList> list)
+                             std::unique_ptr<PartList> list, const std::stop_token &stop)
 {
     Problem error;
     std::optional<CsvFile> file = CsvFile::parse(std::move(bytes), &error, limits);
+    if (file && stop.stop_requested()) {
+        return {nullptr, stoppedProblem(absolutePath)};
+    }
     if (!file) {
         error.file = absolutePath;
         return {nullptr, error};

@@ -31,6 +31,7 @@ namespace designs {
 /// Reads what a part list would hold.
 [[nodiscard]] ReadResult readPartListBytes(const QString &absolutePath, QByteArray bytes,
                                            const CsvLimits &limits = {},
-                                           std::unique_ptr<PartList> list = std::make_unique<PartList>());
+                                           std::unique_ptr<PartList> list = std::make_unique<PartList>(),
+                                           const std::stop_token &stop = {});
 
 } // namespace designs

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace designs::kicad {
 
@@ -38,9 +39,9 @@ void renumber(std::span<const InstanceRecord> records, const std::vector<NameId>
 
 } // namespace
 
-Hierarchy::Hierarchy(PropertyNames *names, int threads)
+Hierarchy::Hierarchy(PropertyNames *names, int threads, std::stop_token stop)
     : m_names(names)
-    , m_loader(threads, *names)
+    , m_loader(threads, *names, std::move(stop))
 {
 }
 

@@ -9,6 +9,7 @@
 #include <QHash>
 
 #include <deque>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -46,7 +47,8 @@ class Hierarchy
 public:
     /// `names` takes the names of properties and must outlive the hierarchy. `threads` is how many read files
     /// at once, 0 for as many as are worth while; the result is the same for any number.
-    Hierarchy(PropertyNames *names, int threads);
+    /// Reading ends early when a stop is requested.
+    Hierarchy(PropertyNames *names, int threads, std::stop_token stop);
 
     /// Reads root sheets and everything below them, once. False fills `problem`.
     bool read(const std::vector<RootSheet> &roots, Problem *problem);

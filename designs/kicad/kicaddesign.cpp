@@ -69,7 +69,7 @@ KicadDesign::KicadDesign()
 
 bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem *problem)
 {
-    if (!findProject(QFileInfo(path).absoluteFilePath(), problem) || !readSheets(options.threads, problem)) {
+    if (!findProject(QFileInfo(path).absoluteFilePath(), problem) || !readSheets(options, problem)) {
         return false;
     }
     collectVariants();
@@ -78,6 +78,10 @@ bool KicadDesign::read(const QString &path, const ReadOptions &options, Problem 
     }
     collectSheets();
     m_variant = options.variant.toStdString();
+    if (options.stop.stop_requested()) {
+        *problem = stoppedProblem(path);
+        return false;
+    }
     BuiltComponents built = ComponentBuilder(*m_hierarchy, m_variant, &m_arena, &m_names, &m_lines).build();
     m_components = std::move(built.components);
     m_symbolUses = std::move(built.symbols);
@@ -131,10 +135,10 @@ bool KicadDesign::findProject(const QString &path, Problem *problem)
     return true;
 }
 
-bool KicadDesign::readSheets(int threads, Problem *problem)
+bool KicadDesign::readSheets(const ReadOptions &options, Problem *problem)
 {
-    m_threads = threads;
-    m_hierarchy = std::make_unique<Hierarchy>(&m_names, threads);
+    m_threads = options.threads;
+    m_hierarchy = std::make_unique<Hierarchy>(&m_names, options.threads, options.stop);
     return m_hierarchy->read(m_roots, problem);
 }
 

@@ -44,7 +44,7 @@ private:
     static constexpr std::string_view fileStart = "(kicad_sch";
 
     bool findProject(const QString &path, Problem *problem);
-    bool readSheets(int threads, Problem *problem);
+    bool readSheets(const ReadOptions &options, Problem *problem);
     bool chooseVariant(const QString &wanted, Problem *problem);
     void collectVariants();
     void collectSheets();

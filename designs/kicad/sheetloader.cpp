@@ -45,8 +45,9 @@ QString sheetPath(const QString &parentPath, const SheetSymbol &symbol, const QS
     return QDir::cleanPath(QFileInfo(parentPath).absoluteDir().absoluteFilePath(name));
 }
 
-SheetLoader::SheetLoader(int threads, const PropertyNames &names)
+SheetLoader::SheetLoader(int threads, const PropertyNames &names, std::stop_token stop)
     : m_threads(threads)
+    , m_stop(std::move(stop))
     , m_buffers(1)
     , m_arenas(1)
 {
@@ -130,6 +131,10 @@ LoadedSheet SheetLoader::read(const QString &path, int thread)
 {
     FileBuffer &buffer = m_buffers[std::size_t(thread)];
     LoadedSheet loaded;
+    if (m_stop.stop_requested()) {
+        loaded.problem = stoppedProblem(path);
+        return loaded;
+    }
     if (Problem problem; !buffer.read(path, "(kicad_sch", &problem)) {
         loaded.problem = problem;
         return loaded;
@@ -141,7 +146,7 @@ LoadedSheet SheetLoader::read(const QString &path, int thread)
         loaded.names.intern(name);
     }
     SheetParser parser(buffer.text(), &loaded.sheet, &m_arenas[std::size_t(thread)], &loaded.names);
-    if (!parser.parse()) {
+    if (!parser.parse(m_stop)) {
         loaded.problem = parser.problem();
         return loaded;
     }

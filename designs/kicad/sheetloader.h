@@ -12,6 +12,7 @@
 
 #include <deque>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -41,7 +42,8 @@ class SheetLoader
 public:
     /// `threads` is how many read at once, 0 for as many as are worth while. Names that are in `names`
     /// already have the same numbers in the tables of all sheets.
-    SheetLoader(int threads, const PropertyNames &names);
+    /// When a stop is requested every sheet that has not been read has a problem.
+    SheetLoader(int threads, const PropertyNames &names, std::stop_token stop);
 
     /// Reads these root sheets and what they use; with one thread nothing.
     void readAhead(const std::vector<QString> &roots);
@@ -66,6 +68,7 @@ private:
     [[nodiscard]] LoadedSheet read(const QString &path, int thread);
 
     int m_threads;
+    std::stop_token m_stop;
     std::vector<std::string> m_knownNames;
     /// One of each for each thread.
     std::deque<FileBuffer> m_buffers;

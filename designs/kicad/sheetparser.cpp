@@ -33,13 +33,17 @@ SheetParser::SheetParser(std::string_view bytes, SheetFile *sheet, TextArena *ar
 {
 }
 
-bool SheetParser::parse()
+bool SheetParser::parse(const std::stop_token &stop)
 {
     if (m_scanner.next() != SexprScanner::Token::Open || m_scanner.keyword() != "kicad_sch") {
         return m_lists.refuse(
             KicadTexts::tr("this is no KiCad schematic: it does not begin with \"(kicad_sch\""));
     }
-    if (!m_lists.readChildren([this](std::string_view keyword) { return readTopLevel(keyword); })) {
+    const auto readUnlessStopped = [this, &stop](std::string_view keyword) {
+        return stop.stop_requested() ? m_lists.refuse(QStringLiteral("reading was stopped"))
+                                     : readTopLevel(keyword);
+    };
+    if (!m_lists.readChildren(readUnlessStopped)) {
         return false;
     }
     if (m_sheet->formatVersion == 0) {

@@ -5,6 +5,7 @@
 #include "designs/kicad/instancereader.h"
 #include "designs/kicad/listreader.h"
 
+#include <stop_token>
 #include <vector>
 
 namespace designs::kicad {
@@ -19,8 +20,8 @@ public:
     /// `arena` and `names` take the texts and must outlive the sheet.
     SheetParser(std::string_view bytes, SheetFile *sheet, TextArena *arena, PropertyNames *names);
 
-    /// False when the text is no schematic or broken; problem() tells where.
-    bool parse();
+    /// False when the text is no schematic or broken, or a stop was requested; problem() tells where.
+    bool parse(const std::stop_token &stop = {});
 
     [[nodiscard]] Problem problem() const { return m_lists.problem(); }
     /// Texts that are not UTF-8, as offsets into the bytes.
