@@ -53,6 +53,23 @@ TEST(DesignSession, IsTheInstalledHostWhileItLives)
     EXPECT_EQ(getcdb(), nullptr);
 }
 
+TEST(DesignSession, ReadingThatIsStoppedGivesNoDesign)
+{
+    const QTemporaryDir folder;
+    std::stop_source stopped;
+    stopped.request_stop();
+    for (const auto &[name, text] :
+         {std::pair("list.csv", "Reference,Value\nR1,1\n"),
+          std::pair("amp.kicad_sch", "(kicad_sch (version 20231120) (uuid \"u\") (lib_symbols))")}) {
+        const QString path = folder.filePath(QLatin1String(name));
+        writeFile(path, text);
+        EXPECT_TRUE(readSettledDesign(path, {}).design);
+        const SettledDesign none = readSettledDesign(path, {}, stopped.get_token());
+        EXPECT_FALSE(none.design);
+        EXPECT_EQ(none.errors, QStringList(path + u": reading was stopped"_s));
+    }
+}
+
 TEST(DesignSession, ReadsAgainWhatIsWrittenDuringTheReading)
 {
     const QTemporaryDir folder;
