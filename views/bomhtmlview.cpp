@@ -203,7 +203,7 @@ void BOMHTMLView::generatePDF()
     painter.end();
     const QString path = textEdit()->finishPdf();
     if (!path.isEmpty() && QFileInfo::exists(path)) {
-        HostUi::current().openUrl(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
+        HostUi::current().showWrittenFile(path);
     }
 }
 

@@ -6,9 +6,6 @@
 #include "host/framework/hostui.h"
 #include "host/framework/reportfile.h"
 
-#include <QFileInfo>
-#include <QUrl>
-
 BOMView::BOMView(QWidget *parent)
     : QWidget(parent)
 {
@@ -134,6 +131,6 @@ QString BOMView::saveOutput(const SaveRequest &request, const std::function<QByt
         ui.warning(this, tr("Output Failed"), reportFileMessage(result, path, reason));
         return {};
     }
-    ui.openUrl(QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()));
+    ui.showWrittenFile(path);
     return path;
 }

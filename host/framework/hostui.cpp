@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/framework/hostui.h"
 
+#include <QFileInfo>
+#include <QUrl>
+
 namespace {
 
 class SilentUi final : public HostUi
@@ -35,4 +38,13 @@ HostUi &HostUi::current()
 void HostUi::install(HostUi *ui)
 {
     theUi = ui;
+}
+
+void HostUi::showWrittenFile(const QString &path)
+{
+    const QString file = QFileInfo(path).absoluteFilePath();
+    if (m_fileListener) {
+        m_fileListener(file);
+    }
+    openUrl(QUrl::fromLocalFile(file));
 }

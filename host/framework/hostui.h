@@ -6,6 +6,9 @@
 #include <QLocale>
 #include <QString>
 
+#include <functional>
+#include <utility>
+
 class QUrl;
 class QWidget;
 
@@ -53,6 +56,14 @@ public:
     /// Hands a file or link to the desktop; false when the desktop refused.
     virtual bool openUrl(const QUrl &url) = 0;
 
+    /// Hands a report that was just written to the desktop, and tells whom setFileListener() named.
+    void showWrittenFile(const QString &path);
+    /// Who is to hear of written reports, by their absolute paths; null for nobody.
+    void setFileListener(std::function<void(const QString &path)> listener)
+    {
+        m_fileListener = std::move(listener);
+    }
+
     /// Puts a text on the clipboard, where there is one.
     virtual void copyText(const QString &text) = 0;
 
@@ -67,4 +78,7 @@ public:
 
     /// Installs `ui`, which stays owned by the caller; null goes back to the silent one.
     static void install(HostUi *ui);
+
+private:
+    std::function<void(const QString &path)> m_fileListener;
 };

@@ -11,7 +11,6 @@
 #include "richtext/paper/pdfoutput.h"
 #include "richtext/paper/printui.h"
 
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -20,7 +19,6 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextList>
-#include <QUrl>
 
 #include <algorithm>
 
@@ -203,7 +201,7 @@ QString TextEdit::finishPdf()
         return {};
     }
     if (m_opensPdf) {
-        ui.openUrl(QUrl::fromLocalFile(QFileInfo(m_pdfPath).absoluteFilePath()));
+        ui.showWrittenFile(m_pdfPath);
     }
     return m_pdfPath;
 }
