@@ -4,6 +4,7 @@
 
 #include "core/bompartsdatabase.h"
 #include "host/framework/hostui.h"
+#include "richtext/editor/findbar.h"
 #include "richtext/editor/textedit.h"
 #include "richtext/editor/textstyleeditor.h"
 #include "richtext/xhtml/links.h"
@@ -13,17 +14,48 @@
 #include "views/pdfreport.h"
 #include "views/report/htmlreport.h"
 #include "views/report/templatemarkup.h"
+#include "views/reportactions.h"
 
+#include <QAction>
 #include <QFileInfo>
+#include <QMenu>
 #include <QPainter>
+#include <QShortcut>
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <memory>
 #include <utility>
 
 BOMHTMLView::BOMHTMLView(QWidget *parent)
     : BOMView(parent)
+    , m_actions(new ReportActions(this))
 {
+    connectActions();
+}
+
+QList<QAction *> BOMHTMLView::findActions() const
+{
+    return m_actions->findActions();
+}
+
+QList<QAction *> BOMHTMLView::zoomActions() const
+{
+    return m_actions->zoomActions();
+}
+
+void BOMHTMLView::connectActions()
+{
+    const auto connectBar = [this](void (ReportActions::*signal)(), void (FindBar::*slot)()) {
+        connect(m_actions, signal, this, [this, slot] {
+            (void)textEdit();
+            (m_findBar->*slot)();
+        });
+    };
+    connectBar(&ReportActions::findRequested, &FindBar::open);
+    connectBar(&ReportActions::findNextRequested, &FindBar::findNext);
+    connectBar(&ReportActions::findPreviousRequested, &FindBar::findPrevious);
+    connect(m_actions, &ReportActions::zoomChanged, this, &BOMHTMLView::showZoom);
 }
 
 void BOMHTMLView::setPartsDatabase(BOMPartsDatabase *database)
@@ -113,10 +145,43 @@ void BOMHTMLView::makeTextEdit()
     setFocusProxy(m_textEdit);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     layout->addWidget(m_textEdit);
+    makeFindBar();
+    showZoom();
+    connect(m_textEdit, &TextEdit::zoomTurned, m_actions, &ReportActions::changeZoom);
+    m_textEdit->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_textEdit, &QWidget::customContextMenuRequested, this, &BOMHTMLView::showMenu);
     connect(m_textEdit, &TextEdit::linkActivated, this, &BOMHTMLView::onLinkActivated);
     connect(m_textEdit, &TextEdit::previewPainted, this,
             [this](QPainter *painter) { appendProjectNotes(*painter, database()->currentTemplate()); });
+}
+
+void BOMHTMLView::makeFindBar()
+{
+    m_findBar = new FindBar(m_textEdit);
+    layout()->addWidget(m_findBar);
+    auto *slash = new QShortcut(QKeySequence(Qt::Key_Slash), m_textEdit);
+    slash->setContext(Qt::WidgetShortcut);
+    connect(slash, &QShortcut::activated, m_findBar, &FindBar::open);
+}
+
+void BOMHTMLView::showZoom()
+{
+    constexpr double percent = 0.01;
+    if (m_textEdit) {
+        m_textEdit->setZoom(m_actions->zoom() * percent);
+    }
+}
+
+void BOMHTMLView::showMenu(const QPoint &place)
+{
+    const std::unique_ptr<QMenu> menu(m_textEdit->createStandardContextMenu(place));
+    menu->addSeparator();
+    menu->addAction(m_actions->findActions().constFirst());
+    menu->addSeparator();
+    menu->addActions(m_actions->zoomActions());
+    menu->exec(m_textEdit->viewport()->mapToGlobal(place));
 }
 
 void BOMHTMLView::handleBOMDataUpdate()

@@ -9,6 +9,10 @@
 class BOMPartsDatabase;
 class BOMTemplate;
 class BOMTemplateEditor;
+class FindBar;
+class QAction;
+class QPoint;
+class ReportActions;
 class TextEdit;
 class TextStyleEditor;
 
@@ -28,6 +32,12 @@ public:
 
     /// What shows the document, made at the first request.
     [[nodiscard]] TextEdit *textEdit();
+
+    /// What looks for a text in the report; each for a menu. "findInReport" is to bring the view to the front
+    /// when it is not shown, "findNext" and "findPrevious" are enabled while it is.
+    [[nodiscard]] QList<QAction *> findActions() const;
+    /// "zoomIn", "zoomOut" and "resetZoom", enabled while the view is shown. Outputs stay as they are.
+    [[nodiscard]] QList<QAction *> zoomActions() const;
 
     /// Cells hold XHTML. The references can be wrapped after every comma.
     [[nodiscard]] QList<QStringList> categoryRows(const QString &category, bool grouped, int width,
@@ -66,6 +76,10 @@ public Q_SLOTS:
 
 private:
     void makeTextEdit();
+    void makeFindBar();
+    void connectActions();
+    void showZoom();
+    void showMenu(const QPoint &place);
     void makeStyleEditor();
     /// Makes the document if none has been made of this database.
     void ensureReport();
@@ -78,7 +92,9 @@ private:
     QStringList m_toldNotices;
     /// The file of the design that is shown.
     QString m_shownDesign;
+    ReportActions *m_actions;
     TextEdit *m_textEdit = nullptr;
+    FindBar *m_findBar = nullptr;
     bool m_hasReport = false;
     TextStyleEditor *m_styleEditor = nullptr;
     BOMTemplateEditor *m_templateEditor = nullptr;

@@ -39,6 +39,13 @@ QTextTable *tableBehind(const QTextDocument &document, const QTextBlock &block)
     return qobject_cast<QTextTable *>(document.objectForFormat(block.next().charFormat()));
 }
 
+/// How much larger than itself a document is laid out.
+double zoomOf(const QTextDocument &document)
+{
+    const QPaintDevice *device = document.documentLayout()->paintDevice();
+    return device ? double(device->logicalDpiY()) / QImage(1, 1, QImage::Format_RGB32).logicalDpiY() : 1.0;
+}
+
 /// The look of a body with that table. The names of classes are looked for in each kind of cells as often as
 /// matters, because the whole would take long.
 QtStyleSheet styleOf(const PlainTable &table, QStringView body, const StyleSheet &css)
@@ -150,13 +157,16 @@ std::vector<double> GrowingTable::textWidths() const
 
 void GrowingTable::alignColumns(double width)
 {
+    // All but the width is in the document's own size.
+    const double zoom = zoomOf(m_document);
+    m_sample.documentLayout()->setPaintDevice(m_document.documentLayout()->paintDevice());
     m_sample.setDefaultFont(m_document.defaultFont());
     m_sample.rootFrame()->setFrameFormat(m_document.rootFrame()->frameFormat());
     m_sample.setTextWidth(width);
     const std::vector<double> texts = textWidths();
     QList<QTextLength> columns;
     for (size_t i = 0; i < texts.size(); ++i) {
-        columns.append(QTextLength(QTextLength::FixedLength, texts[i] + m_paddings[i]));
+        columns.append(QTextLength(QTextLength::FixedLength, texts[i] / zoom + m_paddings[i]));
     }
     if (std::exchange(m_columns, columns) == columns) {
         return;

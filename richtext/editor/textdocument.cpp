@@ -11,6 +11,7 @@
 #include "richtext/xhtml/xhtmlwriter.h"
 #include "richtext/xhtml/xmltext.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QCursor>
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -80,6 +81,20 @@ void TextDocument::suspend()
     m_isShown = false;
     m_pause.stop();
     m_idle.stop();
+}
+
+void TextDocument::setZoom(double factor, double width)
+{
+    constexpr double metresPerInch = 0.0254;
+    QImage screen(1, 1, QImage::Format_RGB32);
+    const double dotsPerMetre = screen.logicalDpiY() * factor / metresPerInch;
+    screen.setDotsPerMeterX(qRound(dotsPerMetre));
+    screen.setDotsPerMeterY(qRound(dotsPerMetre));
+    m_zoomedScreen = factor == 1.0 ? QImage() : screen;
+    documentLayout()->setPaintDevice(m_zoomedScreen.isNull() ? nullptr : &m_zoomedScreen);
+    alignColumns(width);
+    // Everything is laid out anew.
+    setPageSize(pageSize());
 }
 
 void TextDocument::setTitle(const QString &title)

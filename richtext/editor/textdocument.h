@@ -4,6 +4,7 @@
 
 #include "richtext/xhtml/selfcontaineddocument.h"
 
+#include <QImage>
 #include <QString>
 #include <QTimer>
 
@@ -41,6 +42,8 @@ public:
     /// Tells the width that the document is about to get, so that all rows of a table that grows have common
     /// columns.
     void alignColumns(double width);
+    /// Lays the document out that many times as large, in that width. Its text stays as it is.
+    void setZoom(double factor, double width);
     /// Lets what is shown stay as it is, whatever changes, until show().
     void suspend();
 
@@ -85,6 +88,8 @@ private:
     QString m_highlighted;
     QString m_title;
     QString m_paragraphClass;
+    /// What the document is laid out for unless it is shown in its own size.
+    QImage m_zoomedScreen;
     bool m_isShown = true;
     bool m_grows = false;
     /// Stays when it is complete, for the columns; null for content that was made in one go.

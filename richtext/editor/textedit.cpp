@@ -11,6 +11,7 @@
 #include "richtext/paper/pdfoutput.h"
 #include "richtext/paper/printui.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -19,6 +20,7 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextList>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -91,13 +93,19 @@ void TextEdit::showPlace()
         cursor.setKeepPositionOnInsert(true);
         setTextCursor(cursor);
         if (m_place > verticalScrollBar()->maximum()) {
-            const int height = viewport()->height();
-            m_document->complete(m_place + height);
-            // It hears of the new height later.
-            verticalScrollBar()->setMaximum(std::max(0, int(m_document->size().height()) - height));
+            m_document->complete(m_place + viewport()->height());
+            scrollTo(m_place);
+            return;
         }
     }
     verticalScrollBar()->setValue(m_place);
+}
+
+void TextEdit::scrollTo(int place)
+{
+    const int last = int(m_document->size().height()) - viewport()->height();
+    verticalScrollBar()->setMaximum(std::max(0, last));
+    verticalScrollBar()->setValue(place);
 }
 
 void TextEdit::completeSelection()
@@ -129,6 +137,32 @@ void TextEdit::goToAnchor(const QString &name)
         m_document->complete();
     }
     scrollToAnchor(name);
+}
+
+void TextEdit::showWithSurroundings()
+{
+    const QRect selection = cursorRect();
+    const int height = viewport()->height();
+    const int edge = std::min(height / 4, 3 * selection.height());
+    if (selection.top() < edge || selection.bottom() > height - edge) {
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + selection.center().y() - height / 3);
+    }
+}
+
+void TextEdit::setZoom(double factor)
+{
+    const QTextBlock top = cursorForPosition({0, 0}).block();
+    const int before = verticalScrollBar()->value();
+    const auto rectOf = [this](const QTextBlock &block) {
+        return m_document->documentLayout()->blockBoundingRect(block);
+    };
+    const QRectF old = rectOf(top);
+    m_document->setZoom(factor, viewport()->width());
+    if (before > 0 && m_document->isShown()) {
+        const QRectF now = rectOf(top);
+        const double ratio = old.height() > 0 ? now.height() / old.height() : 1;
+        scrollTo(qRound(now.top() + (before - old.top()) * ratio));
+    }
 }
 
 void TextEdit::setPageFragments(const QString &header, const QString &footer, const QString &subject)
@@ -260,6 +294,21 @@ void TextEdit::mouseReleaseEvent(QMouseEvent *event)
         anchorAt(event->pos()) == pressed) {
         Q_EMIT linkActivated(pressed);
     }
+}
+
+void TextEdit::wheelEvent(QWheelEvent *event)
+{
+    constexpr int step = 120;
+    if (!isReadOnly() || !(event->modifiers() & Qt::ControlModifier)) {
+        QTextEdit::wheelEvent(event);
+        return;
+    }
+    m_turned += event->angleDelta().y();
+    if (const int steps = m_turned / step) {
+        m_turned -= steps * step;
+        Q_EMIT zoomTurned(steps);
+    }
+    event->accept();
 }
 
 void TextEdit::beginParagraph()

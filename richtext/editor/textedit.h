@@ -37,6 +37,10 @@ public:
     void goToTop();
     /// Scrolls to the anchor of that name, if there is one.
     void goToAnchor(const QString &name);
+    /// Scrolls the selection, if it stands at the edge of what is shown, to where its surroundings are seen.
+    void showWithSurroundings();
+    /// Shows the document that many times as large; what stood at the top stays there. Print and PDF stay.
+    void setZoom(double factor);
 
     /// The document shown, never null; owned by the widget.
     [[nodiscard]] TextDocument *document() const { return m_document; }
@@ -65,6 +69,9 @@ Q_SIGNALS:
     void linkActivated(const QString &link);
     /// The preview of a print shows the document; what the print appends is to be painted after it.
     void previewPainted(QPainter *painter);
+    /// The wheel was turned with Ctrl over a document that cannot be edited: steps forward, or backward below
+    /// 0.
+    void zoomTurned(int steps);
 
 protected:
     [[nodiscard]] QMimeData *createMimeDataFromSelection() const override;
@@ -74,10 +81,13 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void showPlace();
+    /// Scrolls to a place that the bar may not know of yet.
+    void scrollTo(int place);
     /// Selects the whole document when all of it that is there yet is selected.
     void completeSelection();
     /// What Return does: no look is lost, but a heading and a list end.
@@ -90,6 +100,8 @@ private:
     int m_place = 0;
     /// Whether the end of a document that grows is shown, wherever it is.
     bool m_followsEnd = false;
+    /// What the wheel has turned with Ctrl, less than a step, in eighths of a degree.
+    int m_turned = 0;
     QMarginsF m_paperMargins;
     QString m_pageHeader;
     QString m_pageFooter;
