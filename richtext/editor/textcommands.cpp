@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "richtext/editor/textcommands.h"
 
-#include <QGuiApplication>
+#include "richtext/xhtml/qtstylesheet.h"
+
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -208,7 +209,7 @@ void setLink(QTextEdit &edit, QTextCursor where, const QString &text, const QStr
         format.setAnchor(true);
         format.setAnchorHref(address);
         // As readers of the text show links.
-        format.setForeground(QGuiApplication::palette().link());
+        format.setForeground(usualLinkColor());
         format.setFontUnderline(true);
     }
     where.insertText(text, format);

@@ -83,7 +83,7 @@ void TextDocument::suspend()
     m_idle.stop();
 }
 
-void TextDocument::setZoom(double factor, double width)
+void TextDocument::setZoom(double factor)
 {
     constexpr double metresPerInch = 0.0254;
     QImage screen(1, 1, QImage::Format_RGB32);
@@ -92,7 +92,6 @@ void TextDocument::setZoom(double factor, double width)
     screen.setDotsPerMeterY(qRound(dotsPerMetre));
     m_zoomedScreen = factor == 1.0 ? QImage() : screen;
     documentLayout()->setPaintDevice(m_zoomedScreen.isNull() ? nullptr : &m_zoomedScreen);
-    alignColumns(width);
     // Everything is laid out anew.
     setPageSize(pageSize());
 }

@@ -42,8 +42,8 @@ public:
     /// Tells the width that the document is about to get, so that all rows of a table that grows have common
     /// columns.
     void alignColumns(double width);
-    /// Lays the document out that many times as large, in that width. Its text stays as it is.
-    void setZoom(double factor, double width);
+    /// Lays the document out that many times as large. Its text stays as it is. alignColumns() is to follow.
+    void setZoom(double factor);
     /// Lets what is shown stay as it is, whatever changes, until show().
     void suspend();
 

@@ -157,7 +157,12 @@ void TextEdit::setZoom(double factor)
         return m_document->documentLayout()->blockBoundingRect(block);
     };
     const QRectF old = rectOf(top);
-    m_document->setZoom(factor, viewport()->width());
+    if (m_zoom > 1 && factor <= 1) {
+        setLineWrapMode(WidgetWidth);
+    }
+    m_zoom = factor;
+    m_document->setZoom(factor);
+    setLayoutWidth();
     if (before > 0 && m_document->isShown()) {
         const QRectF now = rectOf(top);
         const double ratio = old.height() > 0 ? now.height() / old.height() : 1;
@@ -248,8 +253,24 @@ QMimeData *TextEdit::createMimeDataFromSelection() const
 
 void TextEdit::resizeEvent(QResizeEvent *event)
 {
-    m_document->alignColumns(viewport()->width());
+    setLayoutWidth();
     QTextEdit::resizeEvent(event);
+}
+
+void TextEdit::setLayoutWidth()
+{
+    constexpr double pixelsPerPoint = 4.0 / 3;
+    double width = viewport()->width();
+    if (m_zoom > 1) {
+        const QPageLayout paper = pageLayout(StyleSheet(m_document->getCss()));
+        width = std::max(
+            width, m_zoom * std::min(width, paper.fullRect(QPageLayout::Point).width() * pixelsPerPoint));
+    }
+    m_document->alignColumns(width);
+    if (m_zoom > 1) {
+        setLineWrapMode(FixedPixelWidth);
+        setLineWrapColumnOrWidth(qRound(width));
+    }
 }
 
 void TextEdit::changeEvent(QEvent *event)

@@ -39,7 +39,8 @@ public:
     void goToAnchor(const QString &name);
     /// Scrolls the selection, if it stands at the edge of what is shown, to where its surroundings are seen.
     void showWithSurroundings();
-    /// Shows the document that many times as large; what stood at the top stays there. Print and PDF stay.
+    /// Shows the document that many times as large; what stood at the top stays there. Print and PDF stay. A
+    /// document made larger is laid out as if the window were no narrower than its paper.
     void setZoom(double factor);
 
     /// The document shown, never null; owned by the widget.
@@ -86,6 +87,8 @@ protected:
 
 private:
     void showPlace();
+    /// Lays the document out in the width that the window and the zoom ask for.
+    void setLayoutWidth();
     /// Scrolls to a place that the bar may not know of yet.
     void scrollTo(int place);
     /// Selects the whole document when all of it that is there yet is selected.
@@ -100,6 +103,7 @@ private:
     int m_place = 0;
     /// Whether the end of a document that grows is shown, wherever it is.
     bool m_followsEnd = false;
+    double m_zoom = 1;
     /// What the wheel has turned with Ctrl, less than a step, in eighths of a degree.
     int m_turned = 0;
     QMarginsF m_paperMargins;

@@ -222,6 +222,11 @@ QList<StyleSheet::Rule> firstRules(const QList<StyleSheet::Rule> &rules)
 
 } // namespace
 
+QColor usualLinkColor()
+{
+    return Qt::blue;
+}
+
 LargestLengths largestLengths(QStringView body)
 {
     // In pixels: what all boxes of a document may take together, and in pixels of area what its text may.
@@ -235,7 +240,8 @@ LargestLengths largestLengths(QStringView body)
 
 QtStyleSheet::QtStyleSheet(const StyleSheet &css, const LargestLengths &largest)
     : m_largest{largest.box, largest.font}
-    , m_text(headingRules(css))
+    , m_text(QStringLiteral("a:link { color: ") + usualLinkColor().name() + QStringLiteral(" }\n") +
+             headingRules(css))
 {
     LargeBoxes boxes(largest);
     QSet<QString> known;

@@ -4,6 +4,7 @@
 
 #include "richtext/css/stylesheet.h"
 
+#include <QColor>
 #include <QHash>
 #include <QSet>
 #include <QString>
@@ -20,6 +21,10 @@ struct LargestLengths
     QStringView body = {};
 };
 [[nodiscard]] LargestLengths largestLengths(QStringView body);
+
+/// The colour of links that no style sheet gives one: that of browsers, and readable on white paper, which
+/// QTextDocument's, the desktop's colour of links, need not be.
+[[nodiscard]] QColor usualLinkColor();
 
 /// A style sheet in the terms of QTextDocument, which measures boxes in pixels only, knows paddings and
 /// borders for table cells only, and gives headings with a rule no margins of their own.

@@ -23,6 +23,7 @@
 #include "views/bomtemplateeditor.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
@@ -30,6 +31,7 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
+#include <QTest>
 
 namespace {
 
@@ -283,11 +285,42 @@ std::shared_ptr<QWidget> pendingReview(bool isRefused)
     return {scene, scene->dialog.get()};
 }
 
-std::shared_ptr<QWidget> mainWindow()
+/// The program with the example open, as on a small screen; `act` is done with the window that is shown.
+std::shared_ptr<QWidget> mainWindow(const std::function<void(QWidget &)> &act = {})
 {
+    constexpr QSize smallScreen(1366, 768);
     const auto bench = std::make_shared<Workbench>();
     if (!bench->start(QStringLiteral(BOM_BINARY_DIR "/lib/libbom.so")) ||
         !bench->open(QStringLiteral(BOM_SOURCE_DIR "/examples/audio-amplifier/audio-amplifier.kicad_pro"))) {
+        return nullptr;
+    }
+    bench->window().resize(smallScreen);
+    if (act) {
+        bench->window().show();
+        act(bench->window());
+    }
+    return {bench, &bench->window()};
+}
+
+void showEditor(QWidget &window)
+{
+    window.findChild<QTabWidget *>(QStringLiteral("tabWidget"))->setCurrentIndex(1);
+}
+
+/// The report with a text that was looked for, somewhat larger.
+void findInReport(QWidget &window)
+{
+    window.findChild<QAction *>(QStringLiteral("zoomIn"))->trigger();
+    window.findChild<QAction *>(QStringLiteral("findInReport"))->trigger();
+    window.findChild<QLineEdit *>(QStringLiteral("findText"))->setText(QStringLiteral("smd"));
+    constexpr int untilMarked = 300;
+    QTest::qWait(untilMarked);
+}
+
+std::shared_ptr<QWidget> startPage()
+{
+    const auto bench = std::make_shared<Workbench>();
+    if (!bench->start(QStringLiteral(BOM_BINARY_DIR "/lib/libbom.so"))) {
         return nullptr;
     }
     bench->window().resize(1000, 700);
@@ -300,7 +333,7 @@ QList<Picture> pictures()
 {
     const QList<Picture> own = {
         {QStringLiteral("icons"), icons},
-        {QStringLiteral("main-window"), mainWindow},
+        {QStringLiteral("main-window"), [] { return mainWindow(); }},
         {QStringLiteral("advanced-settings-widths"), [] { return advancedSettings(0); }},
         {QStringLiteral("advanced-settings-ascii"), [] { return advancedSettings(1); }},
         {QStringLiteral("advanced-settings-data"), [] { return advancedSettings(2); }},
@@ -315,6 +348,9 @@ QList<Picture> pictures()
         {QStringLiteral("find-and-replace"), findAndReplace},
         {QStringLiteral("pending-review"), [] { return pendingReview(false); }},
         {QStringLiteral("pending-review-refused"), [] { return pendingReview(true); }},
+        {QStringLiteral("main-window-editor"), [] { return mainWindow(showEditor); }},
+        {QStringLiteral("main-window-find"), [] { return mainWindow(findInReport); }},
+        {QStringLiteral("start-page"), startPage},
     };
     return own + panelPictures();
 }

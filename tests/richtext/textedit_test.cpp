@@ -109,6 +109,22 @@ TEST(PageSetupDialog, SaysNothingOfPrinters)
     EXPECT_THAT(messages, ElementsAre(u"other printer"_s));
 }
 
+TEST_F(Edit, ShowsLinksInTheirOwnColourInEveryTheme)
+{
+    const QPalette before = QGuiApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::Link, Qt::yellow);
+    QGuiApplication::setPalette(dark);
+    edit.loadDocument(page({}, u"<p><a href='a.pdf'>x</a> <a name='y'>y</a></p>"_s));
+    edit.document()->show();
+    EXPECT_EQ(edit.document()->find(u"x"_s).charFormat().foreground().color(), QColor(Qt::blue));
+    EXPECT_FALSE(edit.document()->find(u"y"_s).charFormat().hasProperty(QTextFormat::ForegroundBrush));
+    edit.loadDocument(page(u"a { color: #123456; }"_s, u"<p><a href='a.pdf'>x</a></p>"_s));
+    edit.document()->show();
+    EXPECT_EQ(edit.document()->find(u"x"_s).charFormat().foreground().color(), QColor(u"#123456"_s));
+    QGuiApplication::setPalette(before);
+}
+
 TEST_F(Edit, OpensLinksWithMouseAndKeyboard)
 {
     QStringList opened;
