@@ -191,8 +191,8 @@ void PartsTable::restoreLayout()
 QStringList PartsTable::headings() const
 {
     QStringList headings;
-    for (const PropertyColumn &column : m_context.rows.columns()) {
-        headings.append(column.heading);
+    for (int column = 0; column < m_table->columnCount(); ++column) {
+        headings.append(m_table->horizontalHeaderItem(column)->text());
     }
     return headings;
 }

@@ -153,4 +153,16 @@ TEST_F(DataViewMenus, HideColumnsAndMarkThemRequiredForNextTime)
     EXPECT_EQ(columnsSeen(*other.findChild<BOMTableWidget *>()), before);
 }
 
+TEST_F(DataViewMenus, LeaveColumnsThatNobodyMovedInTheOrderOfTheTemplate)
+{
+    BOMTemplate settings = database.currentTemplate();
+    BOMFields fields = settings.fields();
+    fields.setOrder({u"F VALUE"_s, u"F COST"_s, u"F CODE"_s, u"F FIT"_s, u"F AMOUNT"_s, u"F .Placed"_s});
+    settings.setFields(fields);
+    database.setCurrentTemplate(settings);
+    view.handleBOMDataUpdate();
+    EXPECT_EQ(table->horizontalHeader()->visualIndex(column("F COST")), 3);
+    EXPECT_EQ(table->horizontalHeader()->visualIndex(column("F CODE")), 4);
+}
+
 } // namespace
