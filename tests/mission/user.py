@@ -1,0 +1,182 @@
+# SPDX-FileCopyrightText: 2026 The BOM developers
+# SPDX-License-Identifier: MIT
+"""Somebody who works with bomviewer: starts it, finds what to press by what it says, and waits until it has happened."""
+
+from hands import Hands
+from screenreader import Bus, Gone
+from session import NotInTime, wait_for
+
+
+class User:
+    def __init__(self, session, program):
+        self.session = session
+        self.program = program
+        self.hands = Hands(session.display)
+        self._bus = Bus(session.environment["DBUS_SESSION_BUS_ADDRESS"])
+        self.process = None
+        self.application = None
+
+    def start(self, *arguments):
+        self.process = self.session.start("bomviewer", self.program, *arguments)
+        self.application = self.wait("the program on the bus", lambda: self._bus.program(self.process.pid), 30)
+        self.wait("the window", lambda: self.window("Bill of Materials Viewer"))
+
+    def wait(self, what, condition, seconds=20):
+        """Such as wait_for(), but a program that has ended is told at once, and a widget that goes away is waited for."""
+        def asked():
+            if self.process.poll() is not None:
+                raise RuntimeError(f"bomviewer has ended with status {self.process.returncode} before: {what}")
+            try:
+                return condition()
+            except (Gone, StopIteration, IndexError):
+                return None
+        return wait_for(what, asked, seconds)
+
+    def wait_end(self, seconds=20):
+        wait_for("the end of the program", lambda: self.process.poll() is not None, seconds)
+        return self.process.returncode
+
+    # What is there
+
+    def windows(self):
+        return [window for window in self.application.children if window.has("showing")]
+
+    def window(self, title):
+        """The window whose title ends so; None where there is none."""
+        return next((window for window in self.windows() if window.name.endswith(title)), None)
+
+    def dialog(self, title, seconds=20):
+        return self.wait(f"the dialog \"{title}\"", lambda: self.window(title), seconds)
+
+    def wait_closed(self, title):
+        self.wait(f"the dialog \"{title}\" is closed", lambda: not self.window(title))
+
+    def main(self):
+        return self.dialog("Bill of Materials Viewer")
+
+    def find(self, role, name, inside=None):
+        """A widget that can be seen; a wait in vain is an error."""
+        return self.wait(f"{role} \"{name}\"", lambda: (inside or self.main()).find(role, name))
+
+    def group(self, title):
+        return self.find("panel", title)
+
+    def table(self, name, inside=None):
+        return self.find("table", name, inside)
+
+    def texts(self, table):
+        """The texts of a table, row by row."""
+        return [[table.cell(row, column).name for column in range(table.columns)] for row in range(table.rows)]
+
+    def row_of(self, table, text, column=0):
+        return next((row for row in range(table.rows) if table.cell(row, column).name == text), None)
+
+    def shown_rows(self, table):
+        """The numbers of the rows that a filter lets through and the window has room for."""
+        last = table.columns - 1
+        return [row for row in range(table.rows)
+                if any(table.cell(row, column).has("showing") for column in (0, last // 2, last))]
+
+    def beside(self, label, role, inside, place=0):
+        """The widget on the line of a label: combo boxes are named as what is chosen in them."""
+        def found():
+            x, y = next(inside.all("label", label)).rectangle.middle
+            line = [widget for widget in inside.all(role) if widget.rectangle.x > x and abs(widget.rectangle.middle[1] - y) < 8]
+            return sorted(line, key=lambda widget: widget.rectangle.x)[place]
+        return self.wait(f"{role} beside \"{label}\"", found)
+
+    def report(self):
+        return self.find("text", "Document").text
+
+    # What to do
+
+    def click(self, widget, **how):
+        self.hands.click(self.wait("a widget of a size", lambda: widget.rectangle if widget.rectangle.width else None), **how)
+
+    def button(self, name, inside=None):
+        button = self.find("push button", name, inside)
+        self.wait(f"the button \"{name}\" can be pressed", lambda: button.has("sensitive"))
+        self.click(button)
+
+    def check(self, name, inside=None, role="check box", state=True):
+        box = self.find(role, name, inside)
+        if box.has("checked") != state:
+            self.click(box)
+        self.wait(f"\"{name}\" is {'on' if state else 'off'}", lambda: box.has("checked") == state)
+
+    def tab(self, name):
+        tab = self.find("page tab", name)
+        self.click(tab)
+        return tab
+
+    def menu(self, *names):
+        """Opens a menu of the menu bar and chooses an entry; names lead there."""
+        within = self.find("menu bar", "")
+        for name in names:
+            item = self.wait(f"the menu entry \"{name}\"",
+                             lambda: next((found for found in within.all("menu item", name) if found.has("showing")), None))
+            self.wait(f"the menu entry \"{name}\" can be chosen", lambda: item.has("sensitive"))
+            self.click(item)
+            within = item
+
+    def focus(self, field):
+        """Clicks into it; where a list of proposals is open the first click only closes that."""
+        for _ in range(2):
+            self.click(field)
+            try:
+                return self.wait("the keyboard", lambda: field.has("focused"), 1)
+            except NotInTime:
+                pass
+        return self.wait("the field has the keyboard", lambda: field.has("focused"))
+
+    def fill(self, role, name, text, inside=None):
+        """Types over what a field has."""
+        self.type_over(self.find(role, name, inside), text)
+
+    def type_over(self, field, text):
+        self.focus(field)
+        self.hands.press("Ctrl+a")
+        self.hands.press("Delete")
+        self.hands.type(text)
+        content = (lambda: field.name) if field.role == "combo box" else (lambda: field.text)
+        self.wait(f"the field has the text \"{text}\"", lambda: content() == text)
+
+    def clear(self, name):
+        """Empties a field by the keyboard."""
+        self.fill("text", name, "")
+
+    def choose(self, combo, text):
+        """An entry of the list that a combo box opens."""
+        self.click(combo)
+        entry = self.wait(f"the entry \"{text}\"", lambda: next(combo.all("list item", text, deep=True), None))
+        self.click(entry)
+
+    def go_to(self, table, row, heading):
+        """Makes a cell the current one: a click into its row, then the arrow keys, as the column may be out of sight."""
+        column = table.headings().index(heading)
+        # A click on a reference leads to KiCad.
+        left, _, width, _ = table.rectangle
+        at = next(at for at in (column, *range(1, table.columns))
+                  if left < table.cell(row, at).rectangle.middle[0] < left + width - 30)
+        self.click(table.cell(row, at))
+        self.wait("a cell of the row is current", lambda: table.cell(row, at).has("focused"))
+        while at != column:
+            self.hands.press("Right" if at < column else "Left")
+            at += 1 if at < column else -1
+            self.wait("the next cell is current", lambda: table.cell(row, at).has("focused"))
+        return table.cell(row, column)
+
+    def name_file(self, title, path):
+        """Answers a file dialog."""
+        dialog = self.dialog(title)
+        field = self.wait("the line for the file's name", lambda: next(iter(dialog.all("text")), None))
+        self.wait("the line for the file's name has the keyboard", lambda: field.has("focused"))
+        self.hands.press("Ctrl+a")
+        self.hands.type(str(path))
+        self.wait("the file's name is typed", lambda: field.text == str(path))
+        self.hands.press("Return")
+        self.wait_closed(title)
+
+    def picture(self, path):
+        self.hands.picture().save(path)
+        return path
