@@ -120,8 +120,9 @@ class Session:
     def _log(self, name):
         return self._stack.enter_context(open(self.folder / f"{name}.log", "ab"))
 
-    def start(self, name, *command, **options):
-        """Starts a program; what it says goes to NAME.log in the folder of the session."""
+    def start(self, *command, log=None, **options):
+        """Starts a program; what it says goes to a log in the folder of the session, which has its name or another one."""
+        name = log or Path(command[0]).name
         program = shutil.which(str(command[0]), path="/usr/bin:/bin")
         if not program:
             raise FileNotFoundError(f"{command[0]}: there is no such program; scripts/setup installs what tests need")
@@ -136,26 +137,26 @@ class Session:
         number, answer = os.pipe()
         given = [] if self.display_number is None else [f":{self.display_number}"]
         width, height = self.size
-        self.start("screen", "Xvfb", *given, "-displayfd", answer, "-screen", "0", f"{width}x{height}x24", "-dpi", "96",
+        self.start("Xvfb", *given, "-displayfd", answer, "-screen", "0", f"{width}x{height}x24", "-dpi", "96",
                    "-nolisten", "tcp", "-noreset", pass_fds=[answer])
         os.close(answer)
         with os.fdopen(number) as text:
             line = text.readline().strip()
         if not line:
-            raise RuntimeError("Xvfb has not started: " + (self.folder / "screen.log").read_text())
+            raise RuntimeError("Xvfb has not started: " + (self.folder / "Xvfb.log").read_text())
         self.environment["DISPLAY"] = f":{line}"
 
     def _start_bus(self):
-        bus = self.start("bus", "dbus-daemon", "--session", "--nofork", "--print-address=1",
+        bus = self.start("dbus-daemon", "--session", "--nofork", "--print-address=1",
                          f"--address=unix:path={self.home}/run/bus", stdout=subprocess.PIPE)
         address = bus.stdout.readline().decode().strip()
         if not address:
-            raise RuntimeError("dbus-daemon has not started: " + (self.folder / "bus.log").read_text())
+            raise RuntimeError("dbus-daemon has not started: " + (self.folder / "dbus-daemon.log").read_text())
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
 
     def _start_window_manager(self):
         from Xlib.display import Display
-        self.start("openbox", "openbox", "--config-file", self.home / "openbox.xml", "--sm-disable")
+        self.start("openbox", "--config-file", self.home / "openbox.xml", "--sm-disable")
         self.display = Display(self.environment["DISPLAY"])
         self._stack.callback(self.display.close)
         root = self.display.screen().root

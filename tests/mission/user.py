@@ -17,7 +17,7 @@ class User:
         self.application = None
 
     def start(self, *arguments):
-        self.process = self.session.start("bomviewer", self.program, *arguments)
+        self.process = self.session.start(self.program, *arguments)
         self.application = self.wait("the program on the bus", lambda: self._bus.program(self.process.pid), 30)
         self.wait("the window", lambda: self.window("Bill of Materials Viewer"))
 
@@ -53,6 +53,19 @@ class User:
 
     def main(self):
         return self.dialog("Bill of Materials Viewer")
+
+    def resize(self, size):
+        """Gives the window a size, as its user would at its frame."""
+        from Xlib import X
+        title = self.main().name
+        root = self.session.display.screen().root
+        name = self.session.display.intern_atom("_NET_WM_NAME")
+        listed = root.get_full_property(self.session.display.intern_atom("_NET_CLIENT_LIST"), X.AnyPropertyType).value
+        window = next(found for number in listed if (found := self.session.display.create_resource_object("window", number))
+                      .get_full_property(name, X.AnyPropertyType).value.decode() == title)
+        window.configure(width=size[0], height=size[1])
+        self.session.display.sync()
+        self.wait("the size of the window", lambda: self.main().rectangle[2:] == size)
 
     def find(self, role, name, inside=None):
         """A widget that can be seen; a wait in vain is an error."""

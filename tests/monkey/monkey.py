@@ -65,7 +65,7 @@ class Monkey:
         self.designs = [folder / design for design in DESIGNS]
         self.lives = self.actions = 0
         self.slowest = (0, "")
-        self.usual = []
+        self.titles = set()
         self.log = open(session.folder / "actions.log", "w", encoding="utf-8")
         self.limit = LONGEST_ANSWER
 
@@ -81,7 +81,7 @@ class Monkey:
         self.lives += 1
         self.born = self.actions
         self.memory = []
-        self.process = self.session.start("bomviewer", *self.command(self.random.choice(self.designs)))
+        self.process = self.session.start(*self.command(self.random.choice(self.designs)), log="bomviewer")
         started = self.wait("the program", self.child)
         self.number = started
         self.application = self.wait("the program on the bus", lambda: self.bus.program(self.number))
@@ -117,7 +117,7 @@ class Monkey:
 
     def measure(self):
         """How much slower than a release build this one is."""
-        self.process = self.session.start("bomviewer", *self.command(self.designs[0]))
+        self.process = self.session.start(*self.command(self.designs[0]), log="bomviewer")
         self.number = self.wait("the program", self.child)
         self.application = self.wait("the program on the bus", lambda: self.bus.program(self.number))
         self.wait("the report", lambda: self.application.find("page tab", "BOM Report"))
@@ -130,6 +130,7 @@ class Monkey:
 
     def window(self):
         windows = self.windows()
+        self.titles.update(window.name.rpartition(" \N{EN DASH} ")[2] for window in windows)
         return self.random.choice(windows[-2:] if self.random.random() < 0.9 else windows) if windows else None
 
     def point(self, window):
@@ -301,8 +302,8 @@ def main():
         finally:
             monkey.finish()
     session.remove()
-    print(f"seed {asked.seed}: {monkey.actions} actions in {monkey.lives} lives of the program; "
-          f"the slowest answer took {monkey.slowest[0]:.1f} s: {monkey.slowest[1]}")
+    print(f"seed {asked.seed}: {monkey.actions} actions in {monkey.lives} lives of the program and "
+          f"{len(monkey.titles)} different windows; the slowest answer took {monkey.slowest[0]:.1f} s: {monkey.slowest[1]}")
 
 
 if __name__ == "__main__":
