@@ -27,49 +27,93 @@ qsizetype hiddenByOthers(const ComponentAccount &components)
     return count;
 }
 
-/// How many of the parts that the module lists are no components of the design.
-qsizetype bomOnlyParts(const ComponentAccount &components, std::optional<qsizetype> listed)
+/// "1 line" or "57 lines".
+QString counted(qsizetype count, const QString &one, const QString &many)
 {
-    const qsizetype placed = components.listed - hiddenByOthers(components);
-    return std::max<qsizetype>(listed.value_or(placed) - placed, 0);
+    return count == 1 ? one : many.arg(count);
 }
 
-QString accountText(const ComponentAccount &components, qsizetype bomOnly)
+StatusCount partsCount(const ComponentAccount &components, const std::optional<REPORTCOUNTS> &report)
 {
-    const qsizetype hidden = hiddenByOthers(components);
-    QStringList counts = {Texts::tr("%1 listed").arg(components.listed - hidden + bomOnly)};
+    // Of the parts that are listed some may be no components of the design.
+    const qsizetype placed = components.listed - hiddenByOthers(components);
+    const qsizetype listed = report ? report->parts : placed;
+    const qsizetype bomOnly = std::max<qsizetype>(listed - placed, 0);
+    StatusCount count{
+        counted(listed, Texts::tr("1 part"), Texts::tr("%1 parts")),
+        Texts::tr("Parts that the report lists, of %1 components of the design").arg(components.components)};
     if (bomOnly > 0) {
-        counts.last() += Texts::tr(" (%1 BOM-only)").arg(bomOnly);
+        count.text += Texts::tr(" (%1 BOM-only)").arg(bomOnly);
+        count.tip =
+            Texts::tr("Parts that the report lists, of %1 components of the design and %2 BOM-only parts")
+                .arg(components.components)
+                .arg(bomOnly);
     }
-    if (hidden > 0) {
-        counts << Texts::tr("%1 repeated").arg(hidden);
+    return count;
+}
+
+StatusCount leftOutCount(const ComponentAccount &components)
+{
+    if (components.choice == DnpChoice::Only) {
+        return {
+            Texts::tr("%1 fitted").arg(components.leftOutByChoice),
+            Texts::tr(
+                "Components that are fitted and therefore not listed, see View > Parts That Are Not Fitted")};
     }
-    if (components.leftOutByChoice > 0) {
-        const bool isFitted = components.choice == DnpChoice::Only;
-        const QString what = isFitted ? Texts::tr("%1 fitted") : Texts::tr("%1 not fitted");
-        counts << what.arg(components.leftOutByChoice);
+    return {
+        Texts::tr("%1 not fitted").arg(components.leftOutByChoice),
+        Texts::tr(
+            "Components that are not fitted and therefore not listed, see View > Parts That Are Not Fitted")};
+}
+
+QList<StatusCount> countsOf(const ComponentAccount &components, const ReportStatus &report)
+{
+    QList<StatusCount> counts;
+    const auto add = [&counts](qsizetype count, const StatusCount &shown) {
+        if (count > 0) {
+            counts << shown;
+        }
+    };
+    if (report.counts) {
+        counts << StatusCount{counted(report.counts->lines, Texts::tr("1 line"), Texts::tr("%1 lines")),
+                              Texts::tr("Lines of the report")};
     }
-    if (components.excluded > 0) {
-        counts << Texts::tr("%1 excluded").arg(components.excluded);
-    }
-    return counts.join(QStringLiteral(", "));
+    counts << partsCount(components, report.counts);
+    add(components.leftOutByChoice, leftOutCount(components));
+    add(components.excluded,
+        {Texts::tr("%1 skipped").arg(components.excluded),
+         Texts::tr("Components that a mark of the design leaves out of the bill of materials")});
+    const qsizetype repeated = hiddenByOthers(components);
+    add(repeated, {Texts::tr("%1 repeated").arg(repeated),
+                   Texts::tr("Components that are not listed because others have the same reference")});
+    const qsizetype joined = report.joinedLines.size();
+    add(joined,
+        {Texts::tr("%1 joined").arg(joined), Texts::tr("Lines of the report that join parts which differ in "
+                                                       "the footprint, the part number or a rating")});
+    return counts;
 }
 
 } // namespace
 
-DesignStatus designStatus(const DesignSession &session, std::optional<qsizetype> listed)
+std::optional<StatusCount> pendingCount(const std::optional<REPORTCOUNTS> &report)
+{
+    if (!report || report->pending == 0) {
+        return std::nullopt;
+    }
+    return StatusCount{
+        Texts::tr("%1 pending").arg(report->pending),
+        Texts::tr("Edits that are not written into the design yet, see Edit > Review Pending Changes")};
+}
+
+DesignStatus designStatus(const DesignSession &session, const ReportStatus &report)
 {
     if (!session.design()) {
         return {};
     }
     const ComponentAccount components = componentAccountOf(*session.design());
     DesignStatus status;
-    const qsizetype bomOnly = bomOnlyParts(components, listed);
-    status.account = accountText(components, bomOnly);
-    const QString tip = bomOnly > 0 ? Texts::tr("Of %1 components of the design and %2 BOM-only parts")
-                                    : Texts::tr("Of %1 components of the design");
-    status.accountTip =
-        bomOnly > 0 ? tip.arg(components.components).arg(bomOnly) : tip.arg(components.components);
+    status.counts = countsOf(components, report);
+    status.pending = pendingCount(report.counts);
     status.warnings = session.warnings();
     for (const RepeatedReference &repeated : components.repeated) {
         if (repeated.isDoubtful()) {
@@ -86,5 +130,6 @@ DesignStatus designStatus(const DesignSession &session, std::optional<qsizetype>
         status.warnings << problem;
     }
     (void)load_defaultdefs(nullptr, nullptr, &status.warnings);
+    status.warnings += report.joinedLines;
     return status;
 }

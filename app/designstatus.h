@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/netlist/netcache.h"
+
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -9,18 +12,38 @@
 
 class DesignSession;
 
+/// Something that the status bar counts.
+struct StatusCount
+{
+    /// Such as "57 lines".
+    QString text;
+    /// What is counted, in a sentence.
+    QString tip;
+
+    bool operator==(const StatusCount &) const = default;
+};
+
+/// What the module says about its report.
+struct ReportStatus
+{
+    /// Without them the components of the design count.
+    std::optional<REPORTCOUNTS> counts;
+    /// The lines that join different parts, in words.
+    QStringList joinedLines;
+};
+
 /// What the status bar says about the design that is open.
 struct DesignStatus
 {
-    /// How many parts are listed, with those that are no components of the design, and how many components
-    /// are not and why.
-    QString account;
-    QString accountTip;
+    /// The most important one first; only lines and parts can be 0.
+    QList<StatusCount> counts;
+    /// Of edits, where some are pending.
+    std::optional<StatusCount> pending;
     /// What the readers noticed, references that occur more than once or have no number, texts with
-    /// variables, notes that cannot be read, and what is wrong with the user's property definitions; one line
-    /// each.
+    /// variables, notes that cannot be read, what is wrong with the user's property definitions, and joined
+    /// lines; one line each.
     QStringList warnings;
 };
 
-/// `listed` is what the module counts, which alone knows the BOM-only parts; without it the components count.
-[[nodiscard]] DesignStatus designStatus(const DesignSession &session, std::optional<qsizetype> listed);
+[[nodiscard]] std::optional<StatusCount> pendingCount(const std::optional<REPORTCOUNTS> &report);
+[[nodiscard]] DesignStatus designStatus(const DesignSession &session, const ReportStatus &report);

@@ -20,8 +20,6 @@
 #include <QToolBar>
 #include <QUrl>
 
-#include <algorithm>
-
 namespace {
 
 constexpr QSize firstSize(1200, 800);
@@ -36,15 +34,21 @@ QString placeKey()
     return QStringLiteral("WindowGeometry");
 }
 
-/// The first dragged file that may be a design; empty when there is none.
-QString droppedDesign(const QMimeData &data)
+QString toolBarsKey()
 {
+    return QStringLiteral("ToolBars");
+}
+
+/// The files and folders that are dragged.
+QStringList draggedFiles(const QMimeData &data)
+{
+    QStringList paths;
     for (const QUrl &url : data.urls()) {
-        if (url.isLocalFile() && FrameWindow::isDesignName(url.toLocalFile())) {
-            return url.toLocalFile();
+        if (url.isLocalFile()) {
+            paths << url.toLocalFile();
         }
     }
-    return {};
+    return paths;
 }
 
 } // namespace
@@ -91,10 +95,14 @@ void FrameWindow::addtoolbar(QToolBar *bar)
 {
     addToolBar(bar);
     bar->show();
+    // Knows the bars that are there now only.
+    const QString state = HostSettings::current().value(settingsGroup(), toolBarsKey()).value_or(QString());
+    restoreState(QByteArray::fromBase64(state.toLatin1()));
 }
 
 void FrameWindow::removetoolbar(QToolBar *bar)
 {
+    keepToolBars();
     removeToolBar(bar);
     bar->setParent(nullptr);
 }
@@ -170,28 +178,20 @@ void FrameWindow::updateTitle()
     setWindowTitle(name.isEmpty() ? m_title : name + QStringLiteral(" \u2013 ") + m_title);
 }
 
-bool FrameWindow::isDesignName(const QString &path)
-{
-    static constexpr const char *suffixes[] = {".kicad_sch", ".kicad_pro", ".csv"};
-    return std::any_of(std::begin(suffixes), std::end(suffixes), [&path](const char *suffix) {
-        return path.endsWith(QLatin1String(suffix), Qt::CaseInsensitive);
-    });
-}
-
 void FrameWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!QApplication::activeModalWidget() && !droppedDesign(*event->mimeData()).isEmpty()) {
+    if (!QApplication::activeModalWidget() && !draggedFiles(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
     }
 }
 
 void FrameWindow::dropEvent(QDropEvent *event)
 {
-    const QString path = droppedDesign(*event->mimeData());
-    if (!path.isEmpty()) {
+    const QStringList paths = draggedFiles(*event->mimeData());
+    if (!paths.isEmpty()) {
         event->acceptProposedAction();
         QMetaObject::invokeMethod(
-            this, [this, path] { Q_EMIT fileDropped(path); }, Qt::QueuedConnection);
+            this, [this, paths] { Q_EMIT filesDropped(paths); }, Qt::QueuedConnection);
     }
 }
 
@@ -213,8 +213,17 @@ void FrameWindow::restorePlace()
     }
 }
 
+void FrameWindow::keepToolBars() const
+{
+    if (!findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly).isEmpty()) {
+        HostSettings::current().setValue(settingsGroup(), toolBarsKey(),
+                                         QString::fromLatin1(saveState().toBase64()));
+    }
+}
+
 void FrameWindow::keepPlace() const
 {
+    keepToolBars();
     HostSettings::current().setValue(settingsGroup(), placeKey(),
                                      QString::fromLatin1(saveGeometry().toBase64()));
 }

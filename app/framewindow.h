@@ -46,13 +46,10 @@ public:
     [[nodiscard]] StatusFields &status() { return *m_status; }
     [[nodiscard]] EmptyPage &emptyPage() { return *m_emptyPage; }
 
-    /// Whether a file may be a design, going by its name.
-    [[nodiscard]] static bool isDesignName(const QString &path);
-
 Q_SIGNALS:
-    /// Emitted from the event loop after the drop, so that the program that the file was dragged from need
-    /// not wait until it is read.
-    void fileDropped(const QString &path);
+    /// Emitted from the event loop after the drop, so that the program that the files were dragged from need
+    /// not wait until they are read.
+    void filesDropped(const QStringList &paths);
 
 protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
@@ -62,6 +59,7 @@ protected:
 private:
     void updateTitle();
     void restorePlace();
+    void keepToolBars() const;
     void keepPlace() const;
 
     ProgramMenus *m_menus = nullptr;

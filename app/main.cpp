@@ -5,6 +5,7 @@
 #include "host/framework/userlanguage.h"
 #include "host/propdefs/propdefsfile.h"
 #include "host/widgets/qthostui.h"
+#include "richtext/editor/textedit.h"
 #include "standalone/environment.h"
 #include "standalone/manualpage.h"
 
@@ -34,9 +35,8 @@ struct Usage
     Q_DECLARE_TR_FUNCTIONS(Usage)
 public:
     QString purpose = tr("Shows the bill of materials of a KiCad schematic or a part list.");
-    QString design = tr("A .kicad_sch, .kicad_pro or .csv file.");
+    QString design = tr("A .kicad_sch, .kicad_pro or .csv file; each further one gets a window of its own.");
     QString module = tr("The library of the module.");
-    QString oneDesign = tr("one design at a time");
 };
 
 /// Whether the arguments ask for a text only, which needs no display.
@@ -49,6 +49,20 @@ bool asksForText(int argc, char **argv)
     });
 }
 
+/// Ends the program when the report of a design is painted for the first time; for scripts/bench.
+class EndWhenShown final : public QObject
+{
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *shown = event->type() == QEvent::Paint ? qobject_cast<TextEdit *>(watched->parent()) : nullptr;
+        if (shown && shown->document()->blockCount() > 1) {
+            QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+        }
+        return false;
+    }
+};
+
 /// The manual page bomviewer(1), of what --help prints.
 QString manualText(const Usage &usage, const QList<QCommandLineOption> &options)
 {
@@ -56,7 +70,7 @@ QString manualText(const Usage &usage, const QList<QCommandLineOption> &options)
     page.section(QStringLiteral("NAME"));
     page.paragraph(QStringLiteral("bomviewer - ") + usage.purpose.chopped(1));
     page.section(QStringLiteral("SYNOPSIS"));
-    page.usage(QStringLiteral("bomviewer"), QStringLiteral("[OPTION]... [DESIGN]"));
+    page.usage(QStringLiteral("bomviewer"), QStringLiteral("[OPTION]... [DESIGN]..."));
     page.section(QStringLiteral("OPTIONS"));
     page.entry(QStringLiteral("DESIGN"), {}, usage.design);
     for (const QCommandLineOption &option : options) {
@@ -93,11 +107,14 @@ int main(int argc, char **argv)
     parser.setApplicationDescription(usage.purpose);
     const QCommandLineOption moduleOption(QStringLiteral("module"), usage.module, QStringLiteral("FILE"));
     const QList<QCommandLineOption> options{parser.addHelpOption(), parser.addVersionOption(), moduleOption};
-    parser.addPositionalArgument(QStringLiteral("DESIGN"), usage.design, QStringLiteral("[DESIGN]"));
+    parser.addPositionalArgument(QStringLiteral("DESIGN"), usage.design, QStringLiteral("[DESIGN]..."));
     parser.addOption(moduleOption);
     QCommandLineOption manual(QStringLiteral("manual"));
     manual.setFlags(QCommandLineOption::HiddenFromHelp);
     parser.addOption(manual);
+    QCommandLineOption untilShown(QStringLiteral("until-shown"));
+    untilShown.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(untilShown);
     if (!parser.parse(QCoreApplication::arguments())) {
         QTextStream(stderr) << "bomviewer: " << parser.errorText() << '\n';
         return wrongUsage;
@@ -108,16 +125,16 @@ int main(int argc, char **argv)
         return 0;
     }
     const QStringList designs = parser.positionalArguments();
-    if (designs.size() > 1) {
-        QTextStream(stderr) << "bomviewer: " << usage.oneDesign << '\n';
-        return wrongUsage;
-    }
 
     QtHostUi ui;
     HostUi::install(&ui);
     IniHostSettings settings(userSettingsFile());
     HostSettings::install(&settings);
     setpropdefsfile(userDefinitionsFile());
+    EndWhenShown endWhenShown;
+    if (parser.isSet(untilShown)) {
+        application.installEventFilter(&endWhenShown);
+    }
     int status = unreadable;
     {
         Workbench workbench;
@@ -125,7 +142,10 @@ int main(int argc, char **argv)
             workbench.window().show();
             if (!designs.isEmpty()) {
                 // Behind the window, which can be seen while the design is read.
-                QTimer::singleShot(0, &workbench, [&] { (void)workbench.open(designs.constFirst()); });
+                QTimer::singleShot(0, &workbench, [&] {
+                    workbench.openInNewWindows(designs.mid(1));
+                    (void)workbench.open(designs.constFirst());
+                });
             }
             status = QApplication::exec();
         } else {

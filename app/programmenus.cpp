@@ -5,13 +5,17 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QDir>
+#include <QDockWidget>
 #include <QFileInfo>
-#include <QKeySequence>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QToolBar>
 
 namespace {
+
+/// Of a path in a menu, in characters.
+constexpr int mostOfFolder = 60;
 
 /// A text of the user's as the text of an action, in which "&" marks a key.
 QString actionText(QString text)
@@ -37,26 +41,43 @@ ProgramMenus::ProgramMenus(QMainWindow *window)
     buildHelp();
 }
 
+QAction *ProgramMenus::add(QMenu *menu, const QString &text, const QString &tip, const QKeySequence &key)
+{
+    QAction *action = menu->addAction(text);
+    action->setStatusTip(tip);
+    action->setShortcut(key);
+    return action;
+}
+
 void ProgramMenus::buildFile()
 {
     QMenu *file = m_window->menuBar()->addMenu(tr("&File"));
-    m_open = file->addAction(tr("&Open…"));
-    m_open->setShortcut(QKeySequence::Open);
-    m_open->setStatusTip(tr("Open a schematic, a project or a part list"));
+    m_open = add(file, tr("&Open…"), tr("Open a schematic, a project or a part list"), QKeySequence::Open);
     connect(m_open, &QAction::triggered, this, &ProgramMenus::openRequested);
+    QAction *another = add(file, tr("Open in &New Window…"), tr("Open a design beside this one"),
+                           QKeySequence(QStringLiteral("Ctrl+Shift+O")));
+    connect(another, &QAction::triggered, this, &ProgramMenus::newWindowRequested);
     m_recent = file->addMenu(tr("Open &Recent"));
-    m_undo = file->addAction(tr("&Undo Last Write…"));
-    m_undo->setStatusTip(
-        tr("Give the files of the design the content that they had before they were written last"));
+    file->addSeparator();
+    m_openOutput = add(file, tr("Open &Last Output"), tr("Open the file that was written last"));
+    connect(m_openOutput, &QAction::triggered, this, &ProgramMenus::outputRequested);
+    m_openFolder = add(file, tr("Open &Folder of the Last Output"),
+                       tr("Show the folder of the file that was written last"));
+    connect(m_openFolder, &QAction::triggered, this, &ProgramMenus::outputFolderRequested);
+    setOutput({});
+    file->addSeparator();
+    m_undo = add(file, tr("&Undo Last Write…"),
+                 tr("Give the files of the design the content that they had before they were written last"));
     m_undo->setEnabled(false);
     connect(m_undo, &QAction::triggered, this, &ProgramMenus::undoRequested);
     connect(file, &QMenu::aboutToShow, this, &ProgramMenus::fileMenuOpening);
     file->addSeparator();
-    QAction *quit = file->addAction(tr("&Quit"));
-    quit->setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
-    quit->setStatusTip(tr("End the program"));
+    m_close = add(file, tr("&Close"), tr("Close the design"), QKeySequence(QStringLiteral("Ctrl+W")));
+    connect(m_close, &QAction::triggered, this, &ProgramMenus::closeRequested);
+    QAction *quit = add(file, tr("&Quit"), tr("End the program"), QKeySequence(QStringLiteral("Ctrl+Q")));
     connect(quit, &QAction::triggered, m_window, &QWidget::close);
     setRecentFiles({});
+    setDesignOpen(false);
 }
 
 void ProgramMenus::buildView()
@@ -72,13 +93,52 @@ void ProgramMenus::buildView()
     m_variants = m_view->addMenu(tr("&Variant"));
     m_variantChoices = new QActionGroup(this);
     setVariants({}, {});
+    m_view->addSeparator();
+    m_panels = m_view->addMenu(tr("&Tool Bars and Panels"));
+    connect(m_view, &QMenu::aboutToShow, this, &ProgramMenus::listPanels);
+    QAction *fullScreen =
+        add(m_view, tr("&Full Screen"), tr("Give the window the whole screen, or its place again"),
+            QKeySequence(QStringLiteral("F11")));
+    fullScreen->setCheckable(true);
+    connect(fullScreen, &QAction::triggered, this, [this](bool isFull) {
+        m_window->setWindowState(m_window->windowState().setFlag(Qt::WindowFullScreen, isFull));
+    });
+    connect(m_view, &QMenu::aboutToShow, this,
+            [this, fullScreen] { fullScreen->setChecked(m_window->isFullScreen()); });
+    // In no menu of the program's own: the module's menus have it.
+    auto *reread = new QAction(tr("Read the Design Again"), this);
+    reread->setShortcut(QKeySequence(QStringLiteral("F5")));
+    connect(reread, &QAction::triggered, this, &ProgramMenus::rereadRequested);
+    m_window->addAction(reread);
+}
+
+/// What the module puts into the window is there only while a design is open.
+void ProgramMenus::listPanels()
+{
+    m_panels->clear();
+    // Panels that cannot be closed have disabled actions, other parts of the module's window no title.
+    const auto add = [this](QAction *action) {
+        if (action->isEnabled() && !action->text().isEmpty()) {
+            m_panels->addAction(action);
+        }
+    };
+    const auto bars = m_window->findChildren<QToolBar *>();
+    for (const QToolBar *bar : bars) {
+        if (qobject_cast<const QMainWindow *>(bar->parentWidget())) {
+            add(bar->toggleViewAction());
+        }
+    }
+    const auto panels = m_window->findChildren<QDockWidget *>();
+    for (const QDockWidget *panel : panels) {
+        add(panel->toggleViewAction());
+    }
+    m_panels->setEnabled(!m_panels->isEmpty());
 }
 
 void ProgramMenus::buildHelp()
 {
     m_help = m_window->menuBar()->addMenu(tr("&Help"));
-    m_about = m_help->addAction(tr("&About"));
-    m_about->setStatusTip(tr("What this program is"));
+    m_about = add(m_help, tr("&About"), tr("What this program is"));
     connect(m_about, &QAction::triggered, this, &ProgramMenus::aboutRequested);
 }
 
@@ -116,14 +176,28 @@ void ProgramMenus::setRecentFiles(const QStringList &paths)
     int number = 0;
     for (const QString &path : paths) {
         const QFileInfo file(path);
-        QAction *action = m_recent->addAction(numbered(++number, file.fileName()) + QStringLiteral("  (") +
-                                              actionText(QDir::toNativeSeparators(file.path())) + u')');
+        const QString folder = QDir::toNativeSeparators(file.path());
+        const int room = mostOfFolder * m_recent->fontMetrics().averageCharWidth();
+        QAction *action = m_recent->addAction(
+            numbered(++number, file.fileName()) + QStringLiteral("  (") +
+            actionText(m_recent->fontMetrics().elidedText(folder, Qt::ElideMiddle, room)) + u')');
         action->setStatusTip(QDir::toNativeSeparators(path));
         connect(action, &QAction::triggered, this, [this, path] { Q_EMIT recentChosen(path); });
     }
     m_recent->addSeparator();
     connect(m_recent->addAction(tr("&Clear This List")), &QAction::triggered, this,
             &ProgramMenus::recentCleared);
+}
+
+void ProgramMenus::setOutput(const QString &name)
+{
+    m_openOutput->setEnabled(!name.isEmpty());
+    m_openFolder->setEnabled(!name.isEmpty());
+}
+
+void ProgramMenus::setDesignOpen(bool isOpen)
+{
+    m_close->setEnabled(isOpen);
 }
 
 void ProgramMenus::setUndoEnabled(bool isEnabled)

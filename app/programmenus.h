@@ -4,6 +4,7 @@
 
 #include "standalone/dnpchoice.h"
 
+#include <QKeySequence>
 #include <QList>
 #include <QObject>
 #include <QStringList>
@@ -30,6 +31,11 @@ public:
     void addToHelp(const QList<QAction *> &actions);
     void removeFromHelp(const QList<QAction *> &actions);
 
+    /// To open the report that was written last, and its folder; disabled without one.
+    [[nodiscard]] QList<QAction *> outputActions() const { return {m_openOutput, m_openFolder}; }
+    void setOutput(const QString &name);
+    /// What needs a design is disabled without one.
+    void setDesignOpen(bool isOpen);
     void setRecentFiles(const QStringList &paths);
     void setUndoEnabled(bool isEnabled);
     void setDnpChoice(DnpChoice choice);
@@ -39,6 +45,11 @@ public:
 
 Q_SIGNALS:
     void openRequested();
+    void newWindowRequested();
+    void outputRequested();
+    void outputFolderRequested();
+    void closeRequested();
+    void rereadRequested();
     void recentChosen(const QString &path);
     void recentCleared();
     /// The File menu is about to be seen.
@@ -53,12 +64,18 @@ private:
     void buildFile();
     void buildView();
     void buildHelp();
+    QAction *add(QMenu *menu, const QString &text, const QString &tip, const QKeySequence &key = {});
+    void listPanels();
     void addDnpChoice(const QString &text, const QString &tip, DnpChoice choice);
 
     QMainWindow *m_window;
     QAction *m_open = nullptr;
     QMenu *m_recent = nullptr;
+    QAction *m_openOutput = nullptr;
+    QAction *m_openFolder = nullptr;
     QAction *m_undo = nullptr;
+    QAction *m_close = nullptr;
+    QMenu *m_panels = nullptr;
     QMenu *m_view = nullptr;
     QMenu *m_notFitted = nullptr;
     QMenu *m_variants = nullptr;

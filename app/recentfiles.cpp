@@ -4,6 +4,7 @@
 
 #include "host/framework/hostsettings.h"
 
+#include <QFileInfo>
 #include <QUrl>
 
 namespace {
@@ -16,6 +17,11 @@ QString group()
 QString key()
 {
     return QStringLiteral("RecentFiles");
+}
+
+QString folderKey()
+{
+    return QStringLiteral("LastFolder");
 }
 
 } // namespace
@@ -36,6 +42,12 @@ void RecentFiles::add(const QString &path)
     paths.removeAll(path);
     paths.prepend(path);
     store(paths.mid(0, Most));
+    HostSettings::current().setValue(group(), folderKey(), QFileInfo(path).path());
+}
+
+QString RecentFiles::lastFolder()
+{
+    return HostSettings::current().value(group(), folderKey()).value_or(QString());
 }
 
 void RecentFiles::remove(const QString &path)

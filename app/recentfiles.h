@@ -14,6 +14,8 @@ public:
     /// The last one first.
     [[nodiscard]] static QStringList list();
     static void add(const QString &path);
+    /// Of the one that was added last, also when the list was cleared; empty before the first one.
+    [[nodiscard]] static QString lastFolder();
     static void remove(const QString &path);
     static void clear();
 

@@ -3,16 +3,18 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 #include <QStringList>
 
 struct DesignStatus;
-class QLabel;
+class CountsLabel;
+class QAction;
 class QMainWindow;
 class QToolButton;
 
-/// The fields at the right of the status bar: how many components are listed and left out, whether the
-/// report is older than its files, and how many warnings there are. Clicking one of the latter two shows the
-/// whole texts.
+/// The fields at the right of the status bar: the report that was written last, what the report lists and
+/// leaves out, whether it is older than its files, and how many warnings there are. A button of the latter
+/// two shows the whole texts.
 class StatusFields final : public QObject
 {
     Q_OBJECT
@@ -26,12 +28,19 @@ public:
     /// Why the files of the design cannot be read as they are now; empty when they have been read.
     void setProblem(const QString &problem);
     [[nodiscard]] const QString &problem() const { return m_problem; }
+    /// Names the report that was written last, on a button that opens these actions; hidden without a name.
+    void setWritten(const QString &name, const QList<QAction *> &actions);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void show(const QString &title, const QStringList &lines);
+    void leaveRoomForMessage();
 
     QMainWindow *m_window;
-    QLabel *m_account = nullptr;
+    CountsLabel *m_counts = nullptr;
+    QToolButton *m_writtenButton = nullptr;
     QToolButton *m_problemButton = nullptr;
     QToolButton *m_warningsButton = nullptr;
     QStringList m_warnings;

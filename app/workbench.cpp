@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/workbench.h"
 
-#include "app/designstatus.h"
+#include "app/droppedfiles.h"
 #include "app/emptypage.h"
 #include "app/programmenus.h"
 #include "app/recentfiles.h"
@@ -17,6 +17,16 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
+#include <QProcess>
+
+#include <utility>
+
+namespace {
+
+/// Of designs that are dropped together.
+constexpr qsizetype mostNewWindows = 5;
+
+} // namespace
 
 Workbench::Workbench()
 {
@@ -27,13 +37,24 @@ Workbench::Workbench()
         (void)paintTextPages(painter, tr("Project Notes"), text);
     });
     m_session.netlist().setReader([this] { return rereadDesign(); });
+    m_session.setReader(
+        [this](const QString &path, const OpenOptions &options) { return m_reading.read(path, options); });
+    setStarter([](const QStringList &arguments) {
+        return QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments);
+    });
+    m_statusTimer.setSingleShot(true);
+    m_statusTimer.setInterval(0);
     connectWindow();
+    m_window.emptyPage().setExamples(exampleDesigns());
     updateRecentFiles();
 }
 
 Workbench::~Workbench()
 {
     if (APPLNMODULE *module = m_library.module()) {
+        if (client()) {
+            client()->setreportlistener(nullptr);
+        }
         if (APPLNWINDOW *window = module->getprimarywindow()) {
             module->removewindow(window);
         }
@@ -59,55 +80,76 @@ bool Workbench::start(const QString &modulePath)
         m_error = tr("the module \"%1\" cannot be started").arg(m_library.module()->getapplnname());
         return false;
     }
+    m_modulePath = modulePath;
+    if (client()) {
+        client()->setreportlistener([this](bool isReport) { reportChanged(isReport); });
+    }
+    showStartPage();
     return true;
 }
 
 void Workbench::connectWindow()
 {
     ProgramMenus &menus = m_window.menus();
-    connect(&menus, &ProgramMenus::openRequested, this, &Workbench::chooseFile);
-    connect(&menus, &ProgramMenus::recentChosen, this, &Workbench::open);
+    const auto openChosen = [this] {
+        if (const QString path = chosenFile(); !path.isEmpty()) {
+            (void)open(path);
+        }
+    };
+    const auto openPath = [this](const QString &path) { (void)open(path); };
+    connect(&menus, &ProgramMenus::openRequested, this, openChosen);
+    connect(&menus, &ProgramMenus::newWindowRequested, this, [this] {
+        if (const QString path = chosenFile(); !path.isEmpty()) {
+            openInNewWindows({path});
+        }
+    });
+    connect(&menus, &ProgramMenus::recentChosen, this, openPath);
     connect(&menus, &ProgramMenus::recentCleared, this, &Workbench::clearRecentFiles);
     connect(&menus, &ProgramMenus::fileMenuOpening, this,
             [this] { m_window.menus().setUndoEnabled(m_session.canUndo()); });
     connect(&menus, &ProgramMenus::undoRequested, this, &Workbench::undoLastWrite);
+    connect(&menus, &ProgramMenus::closeRequested, this, &Workbench::closeDesign);
+    connect(&menus, &ProgramMenus::rereadRequested, this, &Workbench::rereadNow);
     connect(&menus, &ProgramMenus::dnpChosen, this, &Workbench::chooseDnp);
     connect(&menus, &ProgramMenus::variantChosen, this, &Workbench::openVariant);
     connect(&menus, &ProgramMenus::aboutRequested, this, &Workbench::showAbout);
-    connect(&m_window.emptyPage(), &EmptyPage::recentChosen, this, &Workbench::open);
-    connect(&m_window, &FrameWindow::fileDropped, this, &Workbench::open);
+    connect(&m_window.emptyPage(), &EmptyPage::recentChosen, this, openPath);
+    connect(&m_window.emptyPage(), &EmptyPage::unwrittenChosen, this, &Workbench::open);
+    connect(&m_window.emptyPage(), &EmptyPage::exampleChosen, this, &Workbench::openExample);
+    connect(&m_window, &FrameWindow::filesDropped, this, &Workbench::openDropped);
     connect(&m_watcher, &FileWatcher::touched, this, &Workbench::checkFiles);
+    connect(&m_statusTimer, &QTimer::timeout, this, &Workbench::updateStatus);
     m_window.setCloseQuery([this] { return canClose(); });
 }
 
-void Workbench::chooseFile()
+QString Workbench::chosenFile()
 {
-    const QStringList recent = RecentFiles::list();
-    const QString last = m_path.isEmpty() && !recent.isEmpty() ? recent.constFirst() : m_path;
-    const QString path = HostUi::current().openFileName(
-        &m_window, tr("Open Design"), last.isEmpty() ? QString() : QFileInfo(last).path(),
-        tr("Designs (*.kicad_sch *.kicad_pro *.csv);;All files (*)"));
-    if (!path.isEmpty()) {
-        (void)open(path);
-    }
+    return HostUi::current().openFileName(&m_window, tr("Open Design"), RecentFiles::lastFolder(),
+                                          tr("Designs (*.kicad_sch *.kicad_pro *.csv);;All files (*)"));
 }
 
-bool Workbench::open(const QString &path)
+bool Workbench::open(const QString &path, const QString &variant)
 {
     const QString file = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
-    if (!canClose()) {
+    if (m_reading.isReading() || !canClose()) {
         return false;
     }
-    if (!m_session.open(file)) {
-        if (!QFileInfo::exists(file)) {
-            RecentFiles::remove(file);
-            updateRecentFiles();
-        }
-        HostUi::current().warning(&m_window, tr("Open Failed"), m_session.error());
+    DesignClaim claim;
+    const bool isMine = m_claim.holds(file);
+    if (!isMine && !claim.take(file) && !isWantedTwice(file)) {
         return false;
     }
+    if (!m_session.open(file, {variant})) {
+        tellOpenFailed(file);
+        return false;
+    }
+    if (!isMine) {
+        m_claim = std::move(claim);
+    }
+    // What it says is about the design before.
+    m_window.setstatustext({});
     m_path = file;
-    m_variant.clear();
+    m_variant = variant;
     // Reports are proposed to be written beside the design.
     (void)QDir::setCurrent(QFileInfo(file).path());
     RecentFiles::add(file);
@@ -122,18 +164,121 @@ bool Workbench::open(const QString &path)
     return true;
 }
 
+bool Workbench::isWantedTwice(const QString &file)
+{
+    return HostUi::current().question(&m_window, tr("Open in Another Window"),
+                                      tr("The design \"%1\" is open in another window. Open it here as "
+                                         "well?\n\nEach window has pending edits "
+                                         "of its own, and follows what the other one writes.")
+                                          .arg(QFileInfo(file).fileName()),
+                                      false);
+}
+
+void Workbench::tellOpenFailed(const QString &file)
+{
+    const QString name = QFileInfo(file).fileName();
+    m_reading.finish();
+    if (m_reading.wasStopped()) {
+        m_window.setstatustext(tr("Reading %1 was cancelled.").arg(name));
+        return;
+    }
+    if (!QFileInfo::exists(file)) {
+        RecentFiles::remove(file);
+        updateRecentFiles();
+    }
+    HostUi::current().warning(&m_window, tr("Open Failed"),
+                              tr("The design \"%1\" cannot be opened.").arg(name) + QStringLiteral("\n\n") +
+                                  m_session.errors().join(u'\n'));
+}
+
+void Workbench::openInNewWindows(const QStringList &paths)
+{
+    for (const QString &path : paths) {
+        const QStringList module =
+            m_modulePath.isEmpty() ? QStringList() : QStringList{QStringLiteral("--module"), m_modulePath};
+        // Behind "--" a name may begin with a hyphen.
+        if (!m_startProgram(module + QStringList{QStringLiteral("--"), QFileInfo(path).absoluteFilePath()})) {
+            HostUi::current().warning(&m_window, tr("Open Failed"),
+                                      tr("The program cannot be started once more: %1")
+                                          .arg(QCoreApplication::applicationFilePath()));
+            return;
+        }
+    }
+}
+
+void Workbench::openExample(const ExampleDesign &example)
+{
+    const ExampleCopy copy = copyOfExample(example);
+    if (copy.file.isEmpty()) {
+        HostUi::current().warning(&m_window, tr("Open Failed"), copy.problem);
+    } else if (open(copy.file)) {
+        const QString folder = QDir::toNativeSeparators(QFileInfo(copy.file).path());
+        m_window.setstatustext((copy.isOld ? tr("This is your copy of the example from before, in %1")
+                                           : tr("This is a copy of the example, in %1"))
+                                   .arg(folder));
+    }
+}
+
+void Workbench::openDropped(const QStringList &paths)
+{
+    const DroppedFiles dropped = droppedFiles(paths);
+    if (!dropped.designs.isEmpty()) {
+        (void)open(dropped.designs.constFirst());
+        openInNewWindows(dropped.designs.mid(1, mostNewWindows));
+    }
+    if (const qsizetype left = dropped.designs.size() - 1 - mostNewWindows; left > 0) {
+        m_window.setstatustext(tr("%1 further designs were not opened.").arg(left));
+    } else if (!dropped.problem.isEmpty()) {
+        m_window.setstatustext(dropped.problem);
+    }
+}
+
+void Workbench::closeDesign()
+{
+    if (!m_session.design() || m_reading.isReading() || !canClose()) {
+        return;
+    }
+    APPLNMODULE *module = m_library.module();
+    if (APPLNWINDOW *window = module->getprimarywindow()) {
+        auto *object = dynamic_cast<QObject *>(window);
+        module->removewindow(window);
+        QCoreApplication::sendPostedEvents(object, QEvent::DeferredDelete);
+    }
+    m_watcher.setFiles({});
+    m_board.setFile({});
+    m_project.setFile({});
+    m_session.close();
+    m_claim = {};
+    m_path.clear();
+    m_variant.clear();
+    m_isBehind = false;
+    m_output.forget();
+    m_window.setDesignName({});
+    m_window.menus().setVariants({}, {});
+    m_window.status().setProblem({});
+    m_statusTimer.stop();
+    m_window.status().setDesign({});
+    m_window.menus().setDesignOpen(false);
+    m_window.setstatustext({});
+    showStartPage();
+}
+
+void Workbench::showStartPage()
+{
+    m_window.emptyPage().setUnwrittenEdits(client() ? client()->unwrittenedits() : QList<UNWRITTENEDITS>());
+    updateRecentFiles();
+}
+
 void Workbench::openVariant(const QString &variant)
 {
-    if (!canClose()) {
-        m_window.menus().setVariants(m_session.variants(), m_variant);
-        return;
+    if (!m_reading.isReading() && canClose()) {
+        if (m_session.open(m_path, {variant})) {
+            m_variant = variant;
+            showDesign();
+            return;
+        }
+        tellOpenFailed(m_path);
     }
-    if (m_session.open(m_path, {variant})) {
-        m_variant = variant;
-        showDesign();
-        return;
-    }
-    HostUi::current().warning(&m_window, tr("Open Failed"), m_session.error());
     m_window.menus().setVariants(m_session.variants(), m_variant);
 }
 
@@ -142,6 +287,7 @@ void Workbench::showDesign()
     const QString name = QFileInfo(m_path).completeBaseName();
     m_window.setDesignName(m_variant.isEmpty() ? name : name + QStringLiteral(" [") + m_variant + u']');
     m_window.menus().setVariants(m_session.variants(), m_variant);
+    m_window.menus().setDesignOpen(true);
     watchDesign();
     if (const QString problem = m_fitted.write(*m_session.design()); !problem.isEmpty()) {
         m_window.setstatustext(problem);
@@ -151,6 +297,7 @@ void Workbench::showDesign()
         m_library.module()->createwindow(&m_window, 0);
     }
     updateStatus();
+    m_reading.finish();
 }
 
 void Workbench::watchDesign()
@@ -168,40 +315,70 @@ void Workbench::watchDesign()
     m_window.status().setProblem({});
 }
 
+bool Workbench::isUserBusy() const
+{
+    const bool hasDialog = QApplication::activeModalWidget() || QApplication::activePopupWidget();
+    return hasDialog || m_reading.isReading() || (client() && client()->isbusy());
+}
+
 void Workbench::checkFiles()
 {
-    const bool isUserBusy = QApplication::activeModalWidget() || QApplication::activePopupWidget();
-    if (isUserBusy || (client() && client()->isbusy())) {
+    if (isUserBusy()) {
         // A dialog may hold parts, which a new reading would delete; nor is a menu or an editor pulled away.
         m_watcher.touchLater();
         return;
     }
     if (m_session.design()) {
-        const bool isOtherProject = m_project.hasChanged();
-        // After a failure the design that is shown is an old one, whatever the files look like.
-        if (isOtherProject || m_isBehind || !m_session.changedFiles().isEmpty()) {
-            (void)rereadDesign();
-        } else if (m_board.hasChanged()) {
-            rereadBoard();
-        } else if (m_session.document().hasOtherNotes()) {
-            rereadNotes();
-        } else if (m_statusStamp != m_session.design()->properties().stamp()) {
-            // The module wrote the files, and the session has read them since.
-            updateStatus();
-        }
+        followChangedFiles();
     }
     Q_EMIT filesChecked();
+}
+
+void Workbench::followChangedFiles()
+{
+    const bool isOtherProject = m_project.hasChanged();
+    // After a failure the design that is shown is an old one, whatever the files look like.
+    if (isOtherProject || m_isBehind || !m_session.changedFiles().isEmpty()) {
+        (void)rereadDesign();
+    } else if (m_board.hasChanged()) {
+        rereadBoard();
+    } else if (m_session.document().hasOtherNotes()) {
+        rereadNotes();
+    } else if (m_statusStamp != m_session.design()->properties().stamp()) {
+        // The module wrote the files, and the session has read them since.
+        updateStatus();
+    }
+}
+
+void Workbench::rereadNow()
+{
+    if (!m_session.design()) {
+        return;
+    }
+    if (isUserBusy()) {
+        m_isBehind = true;
+        m_watcher.touchLater();
+        m_window.setstatustext(tr("The design is read again as soon as the open editor is closed."));
+        return;
+    }
+    (void)rereadDesign();
 }
 
 bool Workbench::rereadDesign()
 {
     if (!m_session.reread()) {
-        m_isBehind = true;
+        m_isBehind = !m_reading.wasStopped();
+        m_reading.finish();
         // It may be half written; the next change of a file reads it again.
         m_window.status().setProblem(m_session.error());
         return false;
     }
     showDesign();
+    const qsizetype pending = m_shownStatus.pending ? client()->reportcounts()->pending : 0;
+    const QString text = tr("%1 was read again.").arg(QFileInfo(m_path).fileName());
+    m_window.setstatustext(pending == 0   ? text
+                           : pending == 1 ? text + u' ' + tr("1 pending edit is kept.")
+                                          : text + u' ' + tr("%1 pending edits are kept.").arg(pending));
     return true;
 }
 
@@ -287,37 +464,55 @@ void Workbench::updateRecentFiles()
 
 INETCLIENT *Workbench::client() const
 {
-    return static_cast<INETCLIENT *>(m_library.module()->queryinterface(INTERFACE_NETCLIENT));
+    APPLNMODULE *module = m_library.module();
+    return module ? static_cast<INETCLIENT *>(module->queryinterface(INTERFACE_NETCLIENT)) : nullptr;
 }
 
-std::optional<qsizetype> Workbench::listedParts() const
+void Workbench::reportChanged(bool isReport)
 {
-    return client() ? client()->partcount() : std::nullopt;
-}
-
-QStringList Workbench::joinedLines() const
-{
-    const TellingProperties telling = tellingProperties(*m_session.design());
-    return client() ? client()->differinglines(telling.always, telling.whereFilled) : QStringList();
+    if (isReport) {
+        m_statusTimer.start();
+    } else {
+        updatePending();
+    }
 }
 
 void Workbench::updateStatus()
 {
+    m_statusTimer.stop();
     if (!m_session.design()) {
         return;
     }
     m_statusStamp = m_session.design()->properties().stamp();
-    DesignStatus status = designStatus(m_session, listedParts());
-    status.warnings += joinedLines();
-    m_window.status().setDesign(status);
+    ReportStatus report;
+    if (client()) {
+        const TellingProperties telling = tellingProperties(*m_session.design());
+        report = {client()->reportcounts(), client()->differinglines(telling.always, telling.whereFilled)};
+    }
+    m_shownStatus = designStatus(m_session, report);
+    m_window.status().setDesign(m_shownStatus);
+}
+
+void Workbench::updatePending()
+{
+    const auto pending = pendingCount(client()->reportcounts());
+    if (m_session.design() && pending != m_shownStatus.pending) {
+        m_shownStatus.pending = pending;
+        m_window.status().setDesign(m_shownStatus);
+    }
 }
 
 void Workbench::showAbout()
 {
     HostUi::current().information(
         &m_window, tr("About Bill of Materials Viewer"),
-        tr("Bill of Materials Viewer %1\nBills of materials from KiCad schematics and part lists.")
-            .arg(QCoreApplication::applicationVersion()));
+        tr("Bill of Materials Viewer %1").arg(QCoreApplication::applicationVersion()) +
+            QStringLiteral("\n\n") +
+            tr("Shows, edits and writes bills of materials of KiCad schematics and projects (versions 6 to "
+               "10) and "
+               "of part lists (CSV).") +
+            QStringLiteral("\n\n") + tr("License: MIT. Copyright 2026 The BOM developers.") + u'\n' +
+            tr("Uses Qt %1.").arg(QString::fromLatin1(qVersion())));
 }
 
 bool Workbench::canClose()

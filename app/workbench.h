@@ -2,17 +2,24 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/designclaim.h"
+#include "app/designreading.h"
+#include "app/designstatus.h"
+#include "app/exampledesigns.h"
 #include "app/filewatcher.h"
 #include "app/fittedfolder.h"
 #include "app/framewindow.h"
+#include "app/lastoutput.h"
 #include "app/modulelibrary.h"
 #include "standalone/companionfiles.h"
 #include "standalone/designsession.h"
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
+#include <QTimer>
 
-#include <optional>
+#include <functional>
 
 /// The desktop program: one window, the module in it, and the design that is open.
 class Workbench final : public QObject
@@ -32,10 +39,18 @@ public:
     [[nodiscard]] FrameWindow &window() { return m_window; }
     [[nodiscard]] DesignSession &session() { return m_session; }
     [[nodiscard]] FileWatcher &watcher() { return m_watcher; }
+    [[nodiscard]] DesignReading &reading() { return m_reading; }
 
-    /// Opens a design in place of the one that is open. When it cannot be read the user is told, and the old
-    /// one stays.
-    bool open(const QString &path);
+    /// Opens a design, as drawn or in a variant, in place of the one that is open. When it cannot be read the
+    /// user is told, and the old one stays; likewise when the user cancels it.
+    bool open(const QString &path, const QString &variant = {});
+    /// Opens designs in windows of their own, which are further processes of this program.
+    void openInNewWindows(const QStringList &paths);
+    /// What starts those, with the arguments; the program itself at first.
+    void setStarter(std::function<bool(const QStringList &arguments)> starter)
+    {
+        m_startProgram = std::move(starter);
+    }
 
 Q_SIGNALS:
     /// The window shows the design as it is on the disk, or says why it cannot.
@@ -43,8 +58,14 @@ Q_SIGNALS:
 
 private:
     void connectWindow();
-    void chooseFile();
+    [[nodiscard]] QString chosenFile();
     void openVariant(const QString &variant);
+    void openExample(const ExampleDesign &example);
+    void openDropped(const QStringList &paths);
+    void closeDesign();
+    /// Whether the user wants a design that is open in another window in this one, too.
+    [[nodiscard]] bool isWantedTwice(const QString &file);
+    void tellOpenFailed(const QString &file);
     void chooseDnp(DnpChoice choice);
     void clearRecentFiles();
     void undoLastWrite();
@@ -58,13 +79,16 @@ private:
     void showDesign();
     void watchDesign();
     void updateRecentFiles();
+    void showStartPage();
     void updateStatus();
-    /// The lines of the module's report that join different parts, in words.
-    [[nodiscard]] QStringList joinedLines() const;
-    /// How many parts the module lists, where it counts them.
-    [[nodiscard]] std::optional<qsizetype> listedParts() const;
+    void updatePending();
+    void reportChanged(bool isReport);
     void checkFiles();
+    void followChangedFiles();
+    /// What F5 does.
+    void rereadNow();
     bool rereadDesign();
+    [[nodiscard]] bool isUserBusy() const;
     void rereadBoard();
     void rereadNotes();
 
@@ -73,13 +97,20 @@ private:
     FittedFolder m_fitted;
     ModuleLibrary m_library;
     FrameWindow m_window;
+    LastOutput m_output{&m_window};
+    DesignReading m_reading{&m_window};
+    DesignClaim m_claim;
     FileWatcher m_watcher;
+    QTimer m_statusTimer;
     FileLook m_board;
     FileLook m_project;
     /// The files of the design could not be read when they had changed.
     bool m_isBehind = false;
     /// The stamp of the reading that the status bar is about.
     quint64 m_statusStamp = 0;
+    DesignStatus m_shownStatus;
+    std::function<bool(const QStringList &arguments)> m_startProgram;
+    QString m_modulePath;
     QString m_error;
     /// As the user named it, absolute.
     QString m_path;

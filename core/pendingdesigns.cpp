@@ -84,6 +84,21 @@ QList<PendingEdit> PendingDesigns::earlier() const
     return m_current ? m_current->earlier : QList<PendingEdit>();
 }
 
+QList<UnwrittenDesign> PendingDesigns::unwritten() const
+{
+    QList<UnwrittenDesign> all = PendingJournal::unwrittenIn(m_journalFolder);
+    for (const auto &[design, held] : m_designs) {
+        const qsizetype edits = held->edits.size() + held->earlier.size();
+        if (!design.file.isEmpty() && edits > 0) {
+            all.append({design, edits});
+        }
+    }
+    std::sort(all.begin(), all.end(), [](const UnwrittenDesign &left, const UnwrittenDesign &right) {
+        return left.design < right.design;
+    });
+    return all;
+}
+
 void PendingDesigns::clearEarlier()
 {
     if (m_current) {

@@ -59,6 +59,9 @@ public:
     {
         return m_current ? m_current->journal.unreadable() : QString();
     }
+    /// The designs whose edits wait: those that were open in this run, and what programs that have ended left
+    /// in the journal's folder. Sorted by their files.
+    [[nodiscard]] QList<UnwrittenDesign> unwritten() const;
     /// Forgets them; the journal then has what is pending.
     void clearEarlier();
 

@@ -86,3 +86,12 @@ struct EditedDesign
         return std::tie(file, variant) < std::tie(other.file, other.variant);
     }
 };
+
+/// A design with edits that were never written.
+struct UnwrittenDesign
+{
+    EditedDesign design;
+    qsizetype edits = 0;
+
+    bool operator==(const UnwrittenDesign &) const = default;
+};

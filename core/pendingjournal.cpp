@@ -114,6 +114,41 @@ bool canBeUsed(const QString &path, const EditedDesign &design)
     return file.size() <= mostBytes && file.open(QIODevice::ReadOnly) && isOf(nextObject(&file), design);
 }
 
+using Edits = std::map<EditKey, PendingEdit>;
+
+/// The design that the first line names; without a file where the form is not known.
+EditedDesign designOf(const QJsonObject &first)
+{
+    const QJsonObject said = first.value(versionKey).toObject();
+    const EditedDesign design{said.value(QStringLiteral("file")).toString(),
+                              said.value(QStringLiteral("variant")).toString()};
+    return isOf(first, design) ? design : EditedDesign();
+}
+
+/// What the lines after the first one leave.
+Edits remainingEdits(QFile *file)
+{
+    Edits edits;
+    while (!file->atEnd()) {
+        const QJsonObject object = nextObject(file);
+        if (object.contains(setKey)) {
+            const PendingEdit edit = editOf(object.value(setKey).toObject());
+            edits[EditKey::of(edit)] = edit;
+        } else if (object.contains(dropKey)) {
+            edits.erase(keyOf(object.value(dropKey).toObject()));
+        }
+    }
+    return edits;
+}
+
+Edits editsIn(const QString &path, const EditedDesign &design)
+{
+    QFile file(path);
+    const bool isReadable = !path.isEmpty() && file.size() <= mostBytes && file.open(QIODevice::ReadOnly) &&
+                            isOf(nextObject(&file), design);
+    return isReadable ? remainingEdits(&file) : Edits();
+}
+
 } // namespace
 
 PendingJournal::PendingJournal(const QString &folder, const EditedDesign &design)
@@ -169,7 +204,7 @@ QList<PendingEdit> PendingJournal::read() const
     });
     Edits edits;
     for (const QString &path : std::as_const(paths)) {
-        for (const auto &[key, edit] : read(path)) {
+        for (const auto &[key, edit] : editsIn(path, m_design)) {
             edits[key] = edit;
         }
     }
@@ -181,24 +216,28 @@ QList<PendingEdit> PendingJournal::read() const
     return read;
 }
 
-PendingJournal::Edits PendingJournal::read(const QString &path) const
+QList<UnwrittenDesign> PendingJournal::unwrittenIn(const QString &folder)
 {
-    QFile file(path);
-    if (path.isEmpty() || file.size() > mostBytes || !file.open(QIODevice::ReadOnly) ||
-        !isOf(nextObject(&file), m_design)) {
-        return {};
-    }
-    Edits edits;
-    while (!file.atEnd()) {
-        const QJsonObject object = nextObject(&file);
-        if (object.contains(setKey)) {
-            const PendingEdit edit = editOf(object.value(setKey).toObject());
-            edits[EditKey::of(edit)] = edit;
-        } else if (object.contains(dropKey)) {
-            edits.erase(keyOf(object.value(dropKey).toObject()));
+    std::map<EditedDesign, Edits> designs;
+    for (const QFileInfo &info : QDir(folder).entryInfoList({QStringLiteral("*.pending")}, QDir::Files,
+                                                            QDir::Time | QDir::Reversed)) {
+        QFile file(info.filePath());
+        QLockFile lock(info.filePath() + QStringLiteral(".lock"));
+        lock.setStaleLockTime(0);
+        if (info.size() > mostBytes || !lock.tryLock() || !file.open(QIODevice::ReadOnly)) {
+            continue;
+        }
+        if (const EditedDesign design = designOf(nextObject(&file)); !design.file.isEmpty()) {
+            for (const auto &[key, edit] : remainingEdits(&file)) {
+                designs[design][key] = edit;
+            }
         }
     }
-    return edits;
+    QList<UnwrittenDesign> unwritten;
+    for (const auto &[design, edits] : designs) {
+        unwritten.append({design, qsizetype(edits.size())});
+    }
+    return unwritten;
 }
 
 bool PendingJournal::record(const QList<EditKey> &gone, const QList<PendingEdit> &come, qsizetype count,

@@ -38,15 +38,17 @@ public:
     /// left as it is. Empty when there is none.
     [[nodiscard]] const QString &unreadable() const { return m_unreadable; }
 
+    /// The designs that have journals with edits in a folder, sorted by their files. Journals that a running
+    /// program, this one included, has in use are passed over.
+    [[nodiscard]] static QList<UnwrittenDesign> unwrittenIn(const QString &folder);
+
 private:
-    using Edits = std::map<EditKey, PendingEdit>;
     struct File
     {
         QString path;
         std::unique_ptr<QLockFile> lock;
     };
 
-    [[nodiscard]] Edits read(const QString &path) const;
     [[nodiscard]] bool append(const QByteArray &lines);
     [[nodiscard]] bool rewrite(const QList<PendingEdit> &all);
     [[nodiscard]] bool fail(const QString &reason);

@@ -49,6 +49,17 @@ QString busy()
     return PropertyAssignments::tr("The design is being written already");
 }
 
+void tellOfUnreadable(const QString &journal)
+{
+    HostUi::current().warning(
+        nullptr, PropertyAssignments::tr("Pending Changes"),
+        PropertyAssignments::tr(
+            "Pending changes of an earlier run cannot be read: another version of the program "
+            "may have made them. They are left as they are in\n%1\nOpen the design with that "
+            "version to go on with them, or remove the file to do without them.")
+            .arg(journal));
+}
+
 } // namespace
 
 PropertyAssignments::Action::Action(PropertyAssignments *assignments)
@@ -84,10 +95,9 @@ void PropertyAssignments::follow()
     switch (m_designs.follow()) {
     case PendingDesigns::Followed::Design:
         if (const QString journal = m_designs.unreadableJournal(); !journal.isEmpty()) {
-            HostUi::current().warning(nullptr, tr("Pending Changes"),
-                                      tr("Pending changes of an earlier run cannot be read, and are left as "
-                                         "they are: %1")
-                                          .arg(journal));
+            // Not here: this may be in the middle of a reload.
+            QMetaObject::invokeMethod(
+                this, [journal] { tellOfUnreadable(journal); }, Qt::QueuedConnection);
         }
         Q_EMIT historyEnded();
         Q_EMIT changed();

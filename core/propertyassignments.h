@@ -115,6 +115,8 @@ public:
     [[nodiscard]] const PendingEdit *edit(const QString &reference, const QString &property) const;
     [[nodiscard]] bool hasEdits(const QString &reference) const;
 
+    /// See PendingDesigns::unwritten().
+    [[nodiscard]] QList<UnwrittenDesign> unwritten() const { return m_designs.unwritten(); }
     /// How many edits of the open design an earlier run of the program left in the journal; they wait for
     /// takeUp().
     [[nodiscard]] qsizetype leftFromEarlier() const;

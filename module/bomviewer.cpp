@@ -12,6 +12,8 @@
 #include "module/bommainwindow.h"
 #include "module/moduletemplates.h"
 
+#include <utility>
+
 namespace {
 
 BOMVIEWER *theModule = nullptr;
@@ -62,6 +64,7 @@ BOMVIEWER::BOMVIEWER(APPLNPROCESS *process)
     m_database->setNetlist(&m_cache);
     m_database->setWindowVisibleQuery([this] { return isvisible(); });
     connectProject();
+    connectReportListener();
     theModule = this;
 }
 
@@ -88,6 +91,17 @@ void BOMVIEWER::connectProject()
         QObject::connect(document, &APPLNDOCUMENT::modified, m_database,
                          &BOMPartsDatabase::nimProjectChanged);
     }
+}
+
+void BOMVIEWER::connectReportListener()
+{
+    const auto tell = [this](bool isReport) {
+        if (m_reportListener) {
+            m_reportListener(isReport);
+        }
+    };
+    QObject::connect(m_database, &BOMPartsDatabase::dataChanged, [tell] { tell(true); });
+    QObject::connect(m_assignments.get(), &PropertyAssignments::changed, [tell] { tell(false); });
 }
 
 IMODULE *BOMVIEWER::queryinterface(unsigned id)
@@ -144,9 +158,28 @@ bool BOMVIEWER::isbusy() const
     return m_mainWindow && m_mainWindow->isBusy();
 }
 
-std::optional<qsizetype> BOMVIEWER::partcount() const
+std::optional<REPORTCOUNTS> BOMVIEWER::reportcounts() const
 {
-    return qsizetype(m_database->parts().size());
+    REPORTCOUNTS counts{0, qsizetype(m_database->parts().size()), m_assignments->size()};
+    const BOMCategories &categories = m_database->categories();
+    for (const QString &category : categories.names()) {
+        counts.lines += categories.lineCount(category);
+    }
+    return counts;
+}
+
+void BOMVIEWER::setreportlistener(std::function<void(bool isReport)> listener)
+{
+    m_reportListener = std::move(listener);
+}
+
+QList<UNWRITTENEDITS> BOMVIEWER::unwrittenedits() const
+{
+    QList<UNWRITTENEDITS> unwritten;
+    for (const UnwrittenDesign &found : m_assignments->unwritten()) {
+        unwritten.append({found.design.file, found.design.variant, found.edits});
+    }
+    return unwritten;
 }
 
 QStringList BOMVIEWER::differinglines(const QStringList &always, const QStringList &whereFilled) const

@@ -7,6 +7,7 @@
 #include "host/netlist/netcache.h"
 #include "module/ibomviewer.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -42,8 +43,9 @@ public:
 
     [[nodiscard]] bool isvisible() override;
     [[nodiscard]] bool isbusy() const override;
-    /// What the report gives as the total of parts.
-    [[nodiscard]] std::optional<qsizetype> partcount() const override;
+    [[nodiscard]] std::optional<REPORTCOUNTS> reportcounts() const override;
+    void setreportlistener(std::function<void(bool isReport)> listener) override;
+    [[nodiscard]] QList<UNWRITTENEDITS> unwrittenedits() const override;
     [[nodiscard]] QStringList differinglines(const QStringList &always,
                                              const QStringList &whereFilled) const override;
     /// Nothing while the database writes. Without `reload` the database stays empty and silent until the next
@@ -53,6 +55,7 @@ public:
 
 private:
     void connectProject();
+    void connectReportListener();
 
     /// Before all that has texts; the library may be unloaded when the module is gone.
     UserLanguage m_language;
@@ -63,4 +66,5 @@ private:
     std::unique_ptr<PendingUndo> m_undo;
     BOMMainWindow *m_mainWindow = nullptr;
     std::unique_ptr<ModuleTemplates> m_templates;
+    std::function<void(bool isReport)> m_reportListener;
 };

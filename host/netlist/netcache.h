@@ -5,11 +5,37 @@
 #include "host/framework/imodule.h"
 #include "host/netlist/netlist.h"
 
+#include <QList>
+#include <QString>
+#include <QStringList>
 #include <QtGlobal>
 
+#include <functional>
 #include <optional>
 
 class NETCACHE;
+
+/// A design with edits that a client keeps and has not written into it.
+struct UNWRITTENEDITS
+{
+    QString file;
+    QString variant;
+    qsizetype edits = 0;
+
+    bool operator==(const UNWRITTENEDITS &) const = default;
+};
+
+/// What a client counts in its report of the design.
+struct REPORTCOUNTS
+{
+    qsizetype lines = 0;
+    /// Its own parts, which the design does not have, included.
+    qsizetype parts = 0;
+    /// Edits that are not written yet.
+    qsizetype pending = 0;
+
+    bool operator==(const REPORTCOUNTS &) const = default;
+};
 
 /// Who wants to know that the design behind a cache has changed.
 class INETCLIENT : public IMODULE
@@ -21,8 +47,14 @@ public:
     /// a menu, a drag. The server waits with a changed design until it is over.
     [[nodiscard]] virtual bool isbusy() const { return false; }
 
-    /// How many parts the client lists of the design, its own included; nothing when it does not count.
-    [[nodiscard]] virtual std::optional<qsizetype> partcount() const { return std::nullopt; }
+    /// What the client's report counts; nothing when it does not count.
+    [[nodiscard]] virtual std::optional<REPORTCOUNTS> reportcounts() const { return std::nullopt; }
+    /// Who is to hear of changes at once: with true when the report changed, with false when nothing but the
+    /// number of pending edits can have. Null for nobody.
+    virtual void setreportlistener(std::function<void(bool isReport)> listener) { Q_UNUSED(listener) }
+
+    /// The designs, other ones too, for which the client keeps edits.
+    [[nodiscard]] virtual QList<UNWRITTENEDITS> unwrittenedits() const { return {}; }
 
     /// The lines of its report, in words, whose parts differ in one of these properties. Of the first list a
     /// part without the property differs from one that has it, of the second it goes with any.

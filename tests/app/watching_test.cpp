@@ -35,14 +35,14 @@ TEST_F(WorkbenchTest, FollowsWhatHappenedBeforeItWatched)
 TEST_F(WorkbenchTest, ReadsNeitherTheSameNorItsOwnWritesAgain)
 {
     ASSERT_TRUE(bench->open(partList()));
-    EXPECT_EQ(account(), "1 listed, 1 not fitted");
+    EXPECT_EQ(account(), "1 line, 1 part, 1 not fitted");
     const quint64 before = stamp();
     EXPECT_TRUE(waitForLook([&] { partList(); }));
     EXPECT_EQ(stamp(), before);
     EXPECT_TRUE(waitForLook([] { setProperty("R2", "DNP", "[REMOVE]"); }));
     EXPECT_EQ(stamp(), before + 1);
     EXPECT_TRUE(isReported("22k"));
-    EXPECT_EQ(account(), "2 listed");
+    EXPECT_EQ(account(), "2 lines, 2 parts");
 }
 
 TEST_F(WorkbenchTest, WaitsForAHalfWrittenFile)
@@ -100,7 +100,7 @@ TEST_F(WorkbenchTest, CountsThePartsOfTheReport)
 {
     ASSERT_TRUE(bench->open(
         write("parts.csv", "Reference,Value,DNP,BOMPART1\nR1,10k,,\"2,'SCR','M3'\"\nR2,22k,1,\n")));
-    EXPECT_EQ(account(), "3 listed (2 BOM-only), 1 not fitted");
+    EXPECT_EQ(account(), "2 lines, 3 parts (2 BOM-only), 1 not fitted");
     EXPECT_TRUE(isReported("<p class='headerValue'>3</p>"));
 }
 

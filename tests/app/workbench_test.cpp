@@ -75,6 +75,8 @@ TEST_F(WorkbenchTest, RemembersTenDesigns)
     action("&Clear This List")->trigger();
     EXPECT_TRUE(RecentFiles::list().isEmpty());
     EXPECT_FALSE(action("Open &Recent")->isEnabled());
+    action("&Open…")->trigger();
+    EXPECT_EQ(ui.fileRequests.constLast().path, QFileInfo(gone).path()) << "the last folder";
 }
 
 TEST_F(WorkbenchTest, ListsPartsThatAreNotFittedWhenAsked)
@@ -84,7 +86,7 @@ TEST_F(WorkbenchTest, ListsPartsThatAreNotFittedWhenAsked)
     EXPECT_TRUE(isReported("10k") && isReported("22k") && isReported("0 + 1 DNP"));
     action("&Only These")->trigger();
     EXPECT_TRUE(!isReported("10k") && isReported("22k") && !isReported("DNP"));
-    EXPECT_EQ(account(), "1 listed, 1 fitted");
+    EXPECT_EQ(account(), "1 line, 1 part, 1 fitted");
     // The choice is the user's, not the design's.
     ASSERT_TRUE(bench->open(partList("other.csv")));
     EXPECT_TRUE(!isReported("10k") && isReported("22k"));
@@ -97,7 +99,7 @@ TEST_F(WorkbenchTest, SaysWhatIsDoubtfulAboutADesign)
     const QString file =
         write("doubtful.csv", "Reference,Value,BOMSKIP\nR1,1k,\nR?,${X},\nR1,3k,\nR2,1k,1\n");
     ASSERT_TRUE(bench->open(file));
-    EXPECT_EQ(account(), "2 listed, 1 repeated, 1 excluded");
+    EXPECT_EQ(account(), "2 lines, 2 parts, 1 skipped, 1 repeated");
     const QString warnings = bench->window().status().warnings().join(u'\n');
     EXPECT_EQ(QString(warnings).replace(file, QStringLiteral("F")).toStdString(),
               "F:2: R1 occurs 2 times, also at F:4\nF:3: R? is not annotated\n"

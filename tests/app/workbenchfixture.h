@@ -4,6 +4,7 @@
 
 #include "app/workbench.h"
 
+#include "app/countslabel.h"
 #include "app/statusfields.h"
 #include "host/framework/hostsettings.h"
 #include "host/netlist/cdbcore.h"
@@ -14,7 +15,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QLabel>
 #include <QMenuBar>
 #include <QSaveFile>
 #include <QSignalSpy>
@@ -122,7 +122,10 @@ protected:
     std::string problem() const { return bench->window().status().problem().toStdString(); }
     std::string account() const
     {
-        return bench->window().findChild<QLabel *>(QStringLiteral("account"))->text().toStdString();
+        const auto *bar = bench->window().statusBar();
+        return static_cast<CountsLabel *>(bar->findChild<QWidget *>(QStringLiteral("account")))
+            ->text()
+            .toStdString();
     }
     QAction *action(const char *text) const
     {

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "looks/pictures.h"
 
+#include "app/emptypage.h"
+#include "app/programmenus.h"
+#include "app/readingpanel.h"
+#include "app/statusfields.h"
 #include "app/workbench.h"
 #include "core/bompartsdatabase.h"
 #include "core/propertyassignments.h"
@@ -317,14 +321,64 @@ void findInReport(QWidget &window)
     QTest::qWait(untilMarked);
 }
 
-std::shared_ptr<QWidget> startPage()
+std::shared_ptr<QWidget> startPage(QSize size)
 {
-    const auto bench = std::make_shared<Workbench>();
-    if (!bench->start(QStringLiteral(BOM_BINARY_DIR "/lib/libbom.so"))) {
+    struct Scene
+    {
+        QAction open;
+        EmptyPage page{&open};
+    };
+    const auto scene = std::make_shared<Scene>();
+    scene->page.setUnwrittenEdits(
+        {{QStringLiteral("/home/ada/amplifier/amplifier.kicad_sch"), QStringLiteral("Lite"), 3}});
+    scene->page.setRecentFiles(
+        {QStringLiteral(BOM_SOURCE_DIR "/examples/audio-amplifier/audio-amplifier.kicad_pro"),
+         QStringLiteral("/home/ada/boards/of the year 2026/a folder with a long name/another "
+                        "folder with a long name/R&D board.kicad_pro")});
+    scene->page.setExamples(exampleDesignsIn(QStringLiteral(BOM_SOURCE_DIR "/examples")));
+    scene->page.resize(size);
+    return {scene, &scene->page};
+}
+
+std::shared_ptr<QWidget> readingPanel()
+{
+    struct Scene
+    {
+        QWidget window;
+        ReadingPanel panel{&window};
+    };
+    const auto scene = std::make_shared<Scene>();
+    scene->window.resize(600, 300);
+    scene->panel.showText(QStringLiteral("Reading a-rather-large-design.kicad_pro…"));
+    return {scene, &scene->window};
+}
+
+/// With all fields of the status bar, in little room.
+std::shared_ptr<QWidget> narrowWindow()
+{
+    struct Scene
+    {
+        QTemporaryDir folder;
+        std::unique_ptr<Workbench> bench = std::make_unique<Workbench>();
+    };
+    const auto scene = std::make_shared<Scene>();
+    const QString file = scene->folder.filePath(QStringLiteral("list.csv"));
+    QFile list(file);
+    if (!list.open(QIODevice::WriteOnly) ||
+        list.write(
+            "Reference,Value,MPN,DNP,BOMSKIP\nR1,1k,A,,\nR2,1k,B,,\nR1,3k,,,\nR3,1k,,1,\nR4,1k,,,1\n") < 0) {
         return nullptr;
     }
-    bench->window().resize(1000, 700);
-    return {bench, &bench->window()};
+    list.close();
+    if (!scene->bench->start(QStringLiteral(BOM_BINARY_DIR "/lib/libbom.so")) || !scene->bench->open(file)) {
+        return nullptr;
+    }
+    FrameWindow &window = scene->bench->window();
+    window.status().setWritten(QStringLiteral("amplifier bill of materials.xlsx"),
+                               window.menus().outputActions());
+    window.status().setProblem(QStringLiteral("list.csv: there is no such file"));
+    window.resize(window.minimumSizeHint().width(), 500);
+    return {scene, &window};
 }
 
 } // namespace
@@ -350,7 +404,16 @@ QList<Picture> pictures()
         {QStringLiteral("pending-review-refused"), [] { return pendingReview(true); }},
         {QStringLiteral("main-window-editor"), [] { return mainWindow(showEditor); }},
         {QStringLiteral("main-window-find"), [] { return mainWindow(findInReport); }},
-        {QStringLiteral("start-page"), startPage},
+        {QStringLiteral("start-page"),
+         [] {
+             return startPage({900, 700});
+         }},
+        {QStringLiteral("start-page-small"),
+         [] {
+             return startPage({500, 360});
+         }},
+        {QStringLiteral("reading-panel"), readingPanel},
+        {QStringLiteral("main-window-narrow"), narrowWindow},
     };
     return own + panelPictures();
 }
