@@ -58,6 +58,7 @@ FrameWindow::FrameWindow()
 {
     setAcceptDrops(true);
     m_menus = new ProgramMenus(this);
+    m_menuBar = std::make_unique<HostMenuBar>(*m_menus);
     m_status = new StatusFields(this);
     m_emptyPage = new EmptyPage(m_menus->openAction());
     m_pages = new QStackedWidget;
@@ -71,23 +72,23 @@ FrameWindow::~FrameWindow() = default;
 
 void FrameWindow::addmenu(unsigned id, QMenu *menu, unsigned)
 {
-    if (id == ProgramMenus::HelpMenuId) {
-        m_menus->addToHelp(menu->actions());
-        m_moduleMenus.insert(id, menu);
-        return;
+    if (ProgramMenus::isShared(id)) {
+        m_menus->addShared(id, menu->actions());
+    } else {
+        const auto next = m_moduleMenus.upperBound(id);
+        const bool isLast = next == m_moduleMenus.end() || ProgramMenus::isShared(next.key());
+        menuBar()->insertMenu(isLast ? m_menus->firstAfterModule() : next.value()->menuAction(), menu);
     }
-    const auto next = m_moduleMenus.upperBound(id);
-    const bool isLast = next == m_moduleMenus.end() || next.key() == ProgramMenus::HelpMenuId;
-    menuBar()->insertMenu(isLast ? m_menus->firstAfterModule() : next.value()->menuAction(), menu);
     m_moduleMenus.insert(id, menu);
 }
 
 void FrameWindow::removemenu(QMenu *menu)
 {
-    if (m_moduleMenus.key(menu) == ProgramMenus::HelpMenuId) {
-        m_menus->removeFromHelp(menu->actions());
+    const unsigned id = m_moduleMenus.key(menu);
+    if (ProgramMenus::isShared(id)) {
+        m_menus->removeShared(id, menu->actions());
     }
-    m_moduleMenus.remove(m_moduleMenus.key(menu));
+    m_moduleMenus.remove(id);
     menuBar()->removeAction(menu->menuAction());
 }
 
@@ -175,7 +176,7 @@ void FrameWindow::updateTitle()
     // "[*]" would be taken for the mark of unsaved changes.
     QString name = m_designName;
     name.replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
-    setWindowTitle(name.isEmpty() ? m_title : name + QStringLiteral(" \u2013 ") + m_title);
+    setWindowTitle(name.isEmpty() ? m_title : name + QStringLiteral("[*] \u2013 ") + m_title);
 }
 
 void FrameWindow::dragEnterEvent(QDragEnterEvent *event)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/hostmenubar.h"
 #include "host/framework/applnframe.h"
 
 #include <QMainWindow>
@@ -9,6 +10,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <memory>
 
 class EmptyPage;
 class ProgramMenus;
@@ -26,6 +28,7 @@ public:
     FrameWindow();
     ~FrameWindow() override;
 
+    [[nodiscard]] MENUBAR *getmenubar() override { return m_menuBar.get(); }
     void addmenu(unsigned id, QMenu *menu, unsigned flags) override;
     void removemenu(QMenu *menu) override;
     void addtoolbar(QToolBar *bar) override;
@@ -34,6 +37,7 @@ public:
     void removewidget(QWidget *widget) override;
     void settitle(const QString &title) override;
     void setstatustext(const QString &text) override;
+    void setmodified(bool isModified) override { setWindowModified(isModified); }
     void showframe(unsigned state) override;
     [[nodiscard]] bool isframevisible() const override;
 
@@ -63,6 +67,7 @@ private:
     void keepPlace() const;
 
     ProgramMenus *m_menus = nullptr;
+    std::unique_ptr<HostMenuBar> m_menuBar;
     StatusFields *m_status = nullptr;
     QStackedWidget *m_pages = nullptr;
     EmptyPage *m_emptyPage = nullptr;

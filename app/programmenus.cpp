@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/programmenus.h"
 
+#include "host/framework/menubar.h"
+#include "host/widgets/applnwidget.h"
+
 #include <QAction>
 #include <QActionGroup>
 #include <QDir>
@@ -51,8 +54,10 @@ QAction *ProgramMenus::add(QMenu *menu, const QString &text, const QString &tip,
 
 void ProgramMenus::buildFile()
 {
-    QMenu *file = m_window->menuBar()->addMenu(tr("&File"));
+    m_file = m_window->menuBar()->addMenu(tr("&File"));
+    QMenu *file = m_file;
     m_open = add(file, tr("&Open…"), tr("Open a schematic, a project or a part list"), QKeySequence::Open);
+    m_open->setIcon(APPLNWIDGET::makeIcon(QStringLiteral(":/bom/icons/open.png")));
     connect(m_open, &QAction::triggered, this, &ProgramMenus::openRequested);
     QAction *another = add(file, tr("Open in &New Window…"), tr("Open a design beside this one"),
                            QKeySequence(QStringLiteral("Ctrl+Shift+O")));
@@ -96,20 +101,21 @@ void ProgramMenus::buildView()
     m_view->addSeparator();
     m_panels = m_view->addMenu(tr("&Tool Bars and Panels"));
     connect(m_view, &QMenu::aboutToShow, this, &ProgramMenus::listPanels);
-    QAction *fullScreen =
-        add(m_view, tr("&Full Screen"), tr("Give the window the whole screen, or its place again"),
-            QKeySequence(QStringLiteral("F11")));
-    fullScreen->setCheckable(true);
-    connect(fullScreen, &QAction::triggered, this, [this](bool isFull) {
+    m_fullScreen = add(m_view, tr("&Full Screen"), tr("Give the window the whole screen, or its place again"),
+                       QKeySequence(QStringLiteral("F11")));
+    m_fullScreen->setCheckable(true);
+    connect(m_fullScreen, &QAction::triggered, this, [this](bool isFull) {
         m_window->setWindowState(m_window->windowState().setFlag(Qt::WindowFullScreen, isFull));
     });
     connect(m_view, &QMenu::aboutToShow, this,
-            [this, fullScreen] { fullScreen->setChecked(m_window->isFullScreen()); });
+            [this] { m_fullScreen->setChecked(m_window->isFullScreen()); });
     // In no menu of the program's own: the module's menus have it.
-    auto *reread = new QAction(tr("Read the Design Again"), this);
-    reread->setShortcut(QKeySequence(QStringLiteral("F5")));
-    connect(reread, &QAction::triggered, this, &ProgramMenus::rereadRequested);
-    m_window->addAction(reread);
+    m_reread = new QAction(tr("Read the Design Again"), this);
+    m_reread->setStatusTip(tr("Read the files of the design again"));
+    m_reread->setIcon(APPLNWIDGET::makeIcon(QStringLiteral(":/bom/icons/reload.png")));
+    m_reread->setShortcut(QKeySequence(QStringLiteral("F5")));
+    connect(m_reread, &QAction::triggered, this, &ProgramMenus::rereadRequested);
+    m_window->addAction(m_reread);
 }
 
 /// What the module puts into the window is there only while a design is open.
@@ -157,16 +163,51 @@ QAction *ProgramMenus::firstAfterModule() const
     return m_view->menuAction();
 }
 
-void ProgramMenus::addToHelp(const QList<QAction *> &actions)
+QAction *ProgramMenus::notFittedAction() const
 {
-    m_help->insertActions(m_about, actions);
+    return m_notFitted->menuAction();
 }
 
-void ProgramMenus::removeFromHelp(const QList<QAction *> &actions)
+QAction *ProgramMenus::variantAction() const
+{
+    return m_variants->menuAction();
+}
+
+void ProgramMenus::addShared(unsigned id, const QList<QAction *> &actions)
+{
+    if (id == HelpMenuId) {
+        m_help->insertActions(m_about, actions);
+        return;
+    }
+    m_view->insertActions(m_notFitted->menuAction(), actions);
+    m_viewSeparator = m_view->insertSeparator(m_notFitted->menuAction());
+}
+
+void ProgramMenus::removeShared(unsigned id, const QList<QAction *> &actions)
 {
     for (QAction *action : actions) {
-        m_help->removeAction(action);
+        (id == HelpMenuId ? m_help : m_view)->removeAction(action);
     }
+    if (id == ViewMenuId) {
+        delete m_viewSeparator;
+    }
+}
+
+QList<QAction *> ProgramMenus::commands() const
+{
+    return commands(ACCELERATORS_APPLICATION) + commands(ACCELERATORS_DESIGN);
+}
+
+QList<QAction *> ProgramMenus::commands(unsigned table) const
+{
+    QList<QAction *> found;
+    if (table == ACCELERATORS_APPLICATION) {
+        found = m_file->actions();
+    } else if (table == ACCELERATORS_DESIGN) {
+        found = {m_reread, m_fullScreen};
+    }
+    found.removeIf([](const QAction *action) { return action->shortcut().isEmpty(); });
+    return found;
 }
 
 void ProgramMenus::setRecentFiles(const QStringList &paths)

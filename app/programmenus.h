@@ -7,6 +7,7 @@
 #include <QKeySequence>
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 
 class QAction;
@@ -20,16 +21,26 @@ class ProgramMenus final : public QObject
     Q_OBJECT
 
 public:
-    /// A module's menu with this number goes into the program's Help.
+    /// Module menus with these numbers go into the program's own.
     static constexpr unsigned HelpMenuId = 276;
+    static constexpr unsigned ViewMenuId = 277;
 
     explicit ProgramMenus(QMainWindow *window);
 
     [[nodiscard]] QAction *openAction() const { return m_open; }
     /// Module menus go in front of it.
     [[nodiscard]] QAction *firstAfterModule() const;
-    void addToHelp(const QList<QAction *> &actions);
-    void removeFromHelp(const QList<QAction *> &actions);
+    [[nodiscard]] QAction *rereadAction() const { return m_reread; }
+    [[nodiscard]] QAction *notFittedAction() const;
+    [[nodiscard]] QAction *variantAction() const;
+    /// False for a module's menu that is one of its own.
+    [[nodiscard]] static bool isShared(unsigned id) { return id == HelpMenuId || id == ViewMenuId; }
+    /// Puts the entries of a module's menu that is shared in front of the program's own, or takes them out.
+    void addShared(unsigned id, const QList<QAction *> &actions);
+    void removeShared(unsigned id, const QList<QAction *> &actions);
+    /// What has a key: of all menus, or of one of the ACCELERATORS_ tables.
+    [[nodiscard]] QList<QAction *> commands() const;
+    [[nodiscard]] QList<QAction *> commands(unsigned table) const;
 
     /// To open the report that was written last, and its folder; disabled without one.
     [[nodiscard]] QList<QAction *> outputActions() const { return {m_openOutput, m_openFolder}; }
@@ -75,10 +86,15 @@ private:
     QAction *m_openFolder = nullptr;
     QAction *m_undo = nullptr;
     QAction *m_close = nullptr;
+    QAction *m_reread = nullptr;
+    QMenu *m_file = nullptr;
     QMenu *m_panels = nullptr;
     QMenu *m_view = nullptr;
     QMenu *m_notFitted = nullptr;
     QMenu *m_variants = nullptr;
+    QAction *m_fullScreen = nullptr;
+    /// Between what the module has put into View and the program's own.
+    QPointer<QAction> m_viewSeparator;
     QMenu *m_help = nullptr;
     QAction *m_about = nullptr;
     QActionGroup *m_dnpChoices = nullptr;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/workbench.h"
 
+#include "app/designbar.h"
 #include "app/droppedfiles.h"
 #include "app/emptypage.h"
 #include "app/programmenus.h"
@@ -31,6 +32,7 @@ constexpr qsizetype mostNewWindows = 5;
 Workbench::Workbench()
 {
     m_session.process().setFrame(&m_window);
+    m_session.process().setControlBars([this] { return makeDesignBar(m_window.menus()); });
     m_session.process().setFurtherTemplates(m_fitted.path());
     FittedFolder::proposeToUser();
     m_session.projectNotes().setPagePainter([](QPainter &painter, const QString &text) {

@@ -47,6 +47,7 @@ constexpr unsigned editMenuId = 273;
 constexpr unsigned generateMenuId = 274;
 constexpr unsigned templatesMenuId = 275;
 constexpr unsigned helpMenuId = 276;
+constexpr unsigned viewMenuId = 277;
 
 /// How long after the window the import of legacy scripts is offered, in milliseconds.
 constexpr int legacyImportDelay = 1200;
@@ -87,7 +88,8 @@ bool BOMMainWindow::createwindow(APPLNFRAME *frame)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_pages);
-    m_actions = std::make_unique<WindowActions>(this, m_stores.undo);
+    m_actions = std::make_unique<WindowActions>(
+        this, m_stores.undo, LookActions{m_pages->report().findActions(), m_pages->report().zoomActions()});
     buildBars();
     takeHostMenus();
     connectActions();
@@ -153,6 +155,7 @@ void BOMMainWindow::buildBars()
     addmenu(generateMenuId, m_actions->generateMenu(), 0);
     addmenu(templatesMenuId, m_actions->templatesMenu(), 0);
     addmenu(helpMenuId, m_actions->helpMenu(), 0);
+    addmenu(viewMenuId, m_actions->viewMenu(), 0);
     APPLNPROCESS *process = getapplnprocess();
     IMODULE *project = process ? process->getmoduleinterface(nullptr, INTERFACE_PROJECT) : nullptr;
     if (project) {

@@ -25,8 +25,9 @@ QString hostPicture(const QString &name)
 
 } // namespace
 
-WindowActions::WindowActions(APPLNWIDGET *window, PendingUndo *undo)
+WindowActions::WindowActions(APPLNWIDGET *window, PendingUndo *undo, const LookActions &look)
     : m_window(window)
+    , m_look(look)
 {
     addEditing(undo);
     addOutputs();
@@ -102,6 +103,8 @@ QMenu *WindowActions::editMenu() const
     menu->addSeparator();
     menu->addActions({find, replace, reload});
     menu->addSeparator();
+    menu->addActions(m_look.find);
+    menu->addSeparator();
     menu->addAction(review);
     return menu;
 }
@@ -130,6 +133,13 @@ QMenu *WindowActions::helpMenu() const
 {
     auto *menu = new QMenu(tr("&Help"), m_window);
     menu->addAction(help);
+    return menu;
+}
+
+QMenu *WindowActions::viewMenu() const
+{
+    auto *menu = new QMenu(tr("&View"), m_window);
+    menu->addActions(m_look.zoom);
     return menu;
 }
 

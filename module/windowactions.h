@@ -14,6 +14,13 @@ class QCheckBox;
 class QMenu;
 class QToolBar;
 
+/// What the report itself offers.
+struct LookActions
+{
+    QList<QAction *> find;
+    QList<QAction *> zoom;
+};
+
 /// The commands of the main window, as actions that belong to it, and the menus and the tool bar that they
 /// stand in.
 class WindowActions final
@@ -21,12 +28,14 @@ class WindowActions final
     Q_DECLARE_TR_FUNCTIONS(BOMMainWindow)
 
 public:
-    WindowActions(APPLNWIDGET *window, PendingUndo *undo);
+    /// `look` are those of the report, for finding and zooming.
+    WindowActions(APPLNWIDGET *window, PendingUndo *undo, const LookActions &look);
 
     [[nodiscard]] QMenu *editMenu() const;
     [[nodiscard]] QMenu *generateMenu() const;
     [[nodiscard]] QMenu *templatesMenu() const;
     [[nodiscard]] QMenu *helpMenu() const;
+    [[nodiscard]] QMenu *viewMenu() const;
     [[nodiscard]] QToolBar *toolBar(QCheckBox *appendNotes, QCheckBox *fullCsv) const;
 
     QAction *undo = nullptr;
@@ -73,4 +82,5 @@ private:
     void addTemplates();
 
     APPLNWIDGET *m_window;
+    LookActions m_look;
 };

@@ -8,6 +8,8 @@
 #include "module/optionspanel.h"
 #include "views/bomhtmlview.h"
 
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -16,6 +18,19 @@ namespace {
 const QString settingsGroup = QStringLiteral("BOM");
 const QString widthKey = QStringLiteral("OptionsWidth");
 const QString foldedKey = QStringLiteral("OptionsFolded");
+
+/// The panel as it is where there is room, else with a scroll bar: small screens show all of it, too.
+QWidget *scrolled(QWidget *panel)
+{
+    auto *area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(panel);
+    area->setMinimumWidth(panel->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    return area;
+}
 
 } // namespace
 
@@ -35,7 +50,7 @@ WindowPages::WindowPages(QWidget *parent)
     addPage(m_dataView, QStringLiteral("bomDataTab"), tr("Property Editor"));
     setCentralWidget(m_tabs);
     m_dock->setObjectName(QStringLiteral("dockWidget"));
-    m_dock->setContents(m_options);
+    m_dock->setContents(scrolled(m_options));
     addDockWidget(Qt::LeftDockWidgetArea, m_dock);
     restorePlaces();
 }

@@ -82,3 +82,8 @@ APPLNDOCUMENT *StandaloneProcess::Project::getprojectdocument()
 {
     return &m_document;
 }
+
+QToolBar *StandaloneProcess::Project::createctrlbar(APPLNWINDOW *)
+{
+    return m_makeBar ? m_makeBar() : nullptr;
+}

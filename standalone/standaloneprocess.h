@@ -7,6 +7,8 @@
 #include "standalone/partnavigator.h"
 #include "standalone/projectnotes.h"
 
+#include <functional>
+
 class StandaloneDocument;
 class StandaloneNetlist;
 
@@ -37,6 +39,9 @@ public:
     /// project, and every module that lives in the process its own interfaces.
     [[nodiscard]] IMODULE *getmoduleinterface(const char *application, unsigned id) override;
 
+    /// Makes the bar of controls that a module's window gets. Without one it gets none.
+    void setControlBars(const std::function<QToolBar *()> &make) { m_project.setControlBars(make); }
+
     /// The frame for the windows of all modules; null, as at first, for none. Not owned.
     void setFrame(APPLNFRAME *frame) { m_frame = frame; }
     [[nodiscard]] APPLNFRAME *getframe(APPLNMODULE *) override { return m_frame; }
@@ -55,9 +60,12 @@ private:
         virtual ~Project() = default;
         IMODULE *queryinterface(unsigned id) override;
         [[nodiscard]] APPLNDOCUMENT *getprojectdocument() override;
+        [[nodiscard]] QToolBar *createctrlbar(APPLNWINDOW *) override;
+        void setControlBars(const std::function<QToolBar *()> &make) { m_makeBar = make; }
 
     private:
         StandaloneDocument &m_document;
+        std::function<QToolBar *()> m_makeBar;
     };
 
     StandaloneDocument &m_document;

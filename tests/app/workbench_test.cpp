@@ -24,7 +24,7 @@ TEST_F(WorkbenchTest, TellsWhatToDoUntilADesignIsOpen)
     for (const QAction *menu : bench->window().menuBar()->actions()) {
         titles << menu->text();
     }
-    EXPECT_EQ(titles.join(u' '), QStringLiteral("&File &Edit &Generate &View &Help"));
+    EXPECT_EQ(titles.join(u' '), QStringLiteral("&File &Edit &Generate &Templates &View &Help"));
 }
 
 TEST_F(WorkbenchTest, KeepsTheOldDesignWhenAnotherCannotBeRead)

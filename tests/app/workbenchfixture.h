@@ -38,6 +38,9 @@ protected:
     {
         qputenv("XDG_DATA_HOME", QFile::encodeName(m_home.path()));
         HostSettings::install(&settings);
+        // Not the first run, in which a dialog opens by itself.
+        settings.setValue(QStringLiteral("BOM"), QStringLiteral("BomScriptsImported"),
+                          QStringLiteral("true"));
         bench = std::make_unique<Workbench>();
         EXPECT_TRUE(bench->start(QStringLiteral(BOM_BINARY_DIR "/lib/libbom.so")))
             << bench->error().toStdString();

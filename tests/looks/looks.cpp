@@ -115,7 +115,13 @@ void reportFlaws(const QWidget &window, const QString &name, const Variant &vari
 class OwnSettings final
 {
 public:
-    OwnSettings() { HostSettings::install(&m_settings); }
+    OwnSettings()
+    {
+        // Not the first run, in which a dialog opens by itself.
+        m_settings.setValue(QStringLiteral("BOM"), QStringLiteral("BomScriptsImported"),
+                            QStringLiteral("true"));
+        HostSettings::install(&m_settings);
+    }
     OwnSettings(const OwnSettings &) = delete;
     OwnSettings &operator=(const OwnSettings &) = delete;
     ~OwnSettings() { HostSettings::install(nullptr); }

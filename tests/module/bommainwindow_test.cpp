@@ -16,7 +16,7 @@ TEST_F(BomViewer, BuildsItsWindowOnce)
 
     EXPECT_EQ(mainWindow(), first);
     EXPECT_EQ(host.frame.widgets, 1);
-    EXPECT_EQ(host.frame.menus.keys(), QList<unsigned>({273, 274, 275, 276}));
+    EXPECT_EQ(host.frame.menus.keys(), QList<unsigned>({273, 274, 275, 276, 277}));
     EXPECT_EQ(module().getprimarywindow(), first);
 }
 
