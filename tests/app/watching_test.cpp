@@ -209,7 +209,7 @@ TEST_F(WorkbenchTest, ShowsTheVariantThatIsChosen)
     EXPECT_TRUE(action("R&&D [*]")->isChecked());
     action("Lite")->trigger();
     EXPECT_TRUE(isReported("33k"));
-    EXPECT_EQ(bench->window().windowTitle(), QStringLiteral("amp [Lite] \u2013 Bill of Materials Viewer"));
+    EXPECT_EQ(bench->window().windowTitle(), QStringLiteral("amp [Lite][*] \u2013 Bill of Materials Viewer"));
 
     // It stays the variant that is shown, as long as there is one.
     EXPECT_TRUE(waitFor([&] { schematic(variant("Lite", "47k")); }, [&] { return isReported("47k"); }));
