@@ -8,6 +8,7 @@
 #include "cli/texts.h"
 #include "host/framework/userlanguage.h"
 #include "standalone/fieldtables.h"
+#include "standalone/fieldtitles.h"
 #include "standalone/loadeddesign.h"
 #include "views/report/jsonreport.h"
 #include "views/report/jsonwriter.h"
@@ -53,8 +54,9 @@ QString nameLines(const QList<FieldUse> &uses, const QStringList &remarks = {})
 
 QString meaningText(const FieldOverview::Meaning &meaning)
 {
-    const QString title = QStringLiteral("%1 [%2], %3")
-                              .arg(meaning.meaning.title, meaning.meaning.key, partsText(meaning.parts));
+    const QString title =
+        QStringLiteral("%1 [%2], %3")
+            .arg(shownTitle(meaning.meaning), meaning.meaning.key, partsText(meaning.parts));
     QString text = (meaning.meaning.use == FieldMeaning::Use::Listed
                         ? CommandLine::tr("%1; each name is read by itself only").arg(title)
                         : title) +
@@ -78,7 +80,7 @@ QString proposalsText(const QList<FieldOverview::Proposal> &proposals, const QSt
     for (const FieldOverview::Proposal &proposal : proposals) {
         QStringList meanings;
         for (const FieldMeaning &meaning : proposal.meanings) {
-            meanings << meaning.title + QStringLiteral(" [") + meaning.key + u']';
+            meanings << shownTitle(meaning) + QStringLiteral(" [") + meaning.key + u']';
         }
         uses << proposal.name;
         remarks << CommandLine::tr(": may be %1").arg(meanings.join(QStringLiteral(", ")));
