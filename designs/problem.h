@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "designs/texts.h"
+
 #include <QString>
 
 namespace designs {
@@ -26,7 +28,7 @@ struct Problem
 /// What a reader says that was told to stop.
 [[nodiscard]] inline Problem stoppedProblem(const QString &file)
 {
-    return {file, 0, QStringLiteral("reading was stopped")};
+    return {file, 0, FileTexts::tr("reading was stopped")};
 }
 
 } // namespace designs

@@ -40,8 +40,7 @@ bool SheetParser::parse(const std::stop_token &stop)
             KicadTexts::tr("this is no KiCad schematic: it does not begin with \"(kicad_sch\""));
     }
     const auto readUnlessStopped = [this, &stop](std::string_view keyword) {
-        return stop.stop_requested() ? m_lists.refuse(QStringLiteral("reading was stopped"))
-                                     : readTopLevel(keyword);
+        return stop.stop_requested() ? m_lists.refuse(stoppedProblem({}).text) : readTopLevel(keyword);
     };
     if (!m_lists.readChildren(readUnlessStopped)) {
         return false;
