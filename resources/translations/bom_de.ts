@@ -2872,6 +2872,10 @@ Trotzdem ausgeben?</translation>
 <context>
     <name>DesignFile</name>
     <message>
+        <source>reading was stopped</source>
+        <translation>das Lesen wurde abgebrochen</translation>
+    </message>
+    <message>
         <source>this design cannot be changed</source>
         <translation>dieser Entwurf kann nicht geändert werden</translation>
     </message>
