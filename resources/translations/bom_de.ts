@@ -116,15 +116,15 @@
     </message>
     <message>
         <source>the line of %4 part %1 is left out of the report, because %2 and %3 count as the same reference; renumber one of them</source>
-        <translation>die Position mit %4 Bauteil %1 fehlt im Bericht, weil %2 und %3 als dieselbe Referenz zählen; nummerieren Sie eines davon um</translation>
+        <translation>die Position mit %4 Bauteil %1 fehlt im Bericht, weil %2 und %3 als dieselbe Referenz zählen; nummerieren Sie eine davon um</translation>
     </message>
     <message>
         <source>the line of %4 parts %1 is left out of the report, because %2 and %3 count as the same reference; renumber one of them</source>
-        <translation>die Position mit %4 Bauteilen %1 fehlt im Bericht, weil %2 und %3 als dieselbe Referenz zählen; nummerieren Sie eines davon um</translation>
+        <translation>die Position mit %4 Bauteilen %1 fehlt im Bericht, weil %2 und %3 als dieselbe Referenz zählen; nummerieren Sie eine davon um</translation>
     </message>
     <message>
         <source>%1 is left out of the report of single parts, because %2 and %3 count as the same reference; renumber one of them</source>
-        <translation>%1 fehlt im Bericht der einzelnen Bauteile, weil %2 und %3 als dieselbe Referenz zählen; nummerieren Sie eines davon um</translation>
+        <translation>%1 fehlt im Bericht der einzelnen Bauteile, weil %2 und %3 als dieselbe Referenz zählen; nummerieren Sie eine davon um</translation>
     </message>
     <message>
         <source>category &quot;%1&quot; can hold no part: an earlier one has the same name</source>
@@ -164,11 +164,11 @@
     </message>
     <message>
         <source>not fitted: property</source>
-        <translation>nicht bestückt: durch eine Eigenschaft</translation>
+        <translation>nicht bestückt: Eigenschaft</translation>
     </message>
     <message>
         <source>not fitted: property %1</source>
-        <translation>nicht bestückt: durch die Eigenschaft %1</translation>
+        <translation>nicht bestückt: Eigenschaft %1</translation>
     </message>
     <message>
         <source>not fitted: marked on the symbol</source>
@@ -368,7 +368,7 @@
     </message>
     <message>
         <source>not read, as the names do not say it for certain: %1 (bom fields tells more)</source>
-        <translation>nicht gelesen, weil die Namen es nicht sicher sagen: %1 (mehr mit bom fields)</translation>
+        <translation>nicht gelesen, weil die Namen nicht eindeutig sind: %1 (mehr mit bom fields)</translation>
     </message>
     <message>
         <source>%1: %2 part has different texts under names of this meaning: %3</source>
@@ -515,7 +515,7 @@
     </message>
     <message>
         <source>These settings affect the data outputs of CSV, ASCII and spreadsheet.  They are intended to improve compatibility with external applications that were designed for Quorvel 7.</source>
-        <translation>Diese Einstellungen betreffen die Datenausgaben als CSV, ASCII und Tabellenblatt.  Sie verbessern das Zusammenspiel mit Programmen, die für Quorvel 7 gemacht wurden.</translation>
+        <translation>Diese Einstellungen betreffen die Datenausgaben als CSV, ASCII und Tabellendokument.  Sie verbessern das Zusammenspiel mit Programmen, die für Quorvel 7 gemacht wurden.</translation>
     </message>
     <message>
         <source>Always quote references (CSV only)</source>
@@ -625,7 +625,7 @@
     <name>AssignmentBatch</name>
     <message>
         <source>A definition of BOM-only parts cannot hold this text</source>
-        <translation>Eine Definition von Bauteilen, die nur in der Stückliste stehen, kann diesen Text nicht aufnehmen</translation>
+        <translation>Eine Definition von Stücklistenbauteilen kann diesen Text nicht aufnehmen</translation>
     </message>
     <message>
         <source>A part that this defines is changed as well</source>
@@ -691,7 +691,7 @@
     </message>
     <message>
         <source>Cannot perform action</source>
-        <translation>Das geht nicht</translation>
+        <translation>Nicht möglich</translation>
     </message>
     <message>
         <source>The miscellaneous category is required.</source>
@@ -822,7 +822,7 @@
     </message>
     <message>
         <source>One row for all parts of a line of the bill</source>
-        <translation>Eine Zeile für alle Bauteile einer Stücklistenzeile</translation>
+        <translation>Eine Zeile für alle Bauteile einer Position</translation>
     </message>
     <message>
         <source>Group Components</source>
@@ -906,7 +906,7 @@
     </message>
     <message>
         <source>Required and empty</source>
-        <translation>Nötig und leer</translation>
+        <translation>Erforderlich und leer</translation>
     </message>
     <message>
         <source>Rows shown</source>
@@ -965,15 +965,15 @@
     </message>
     <message>
         <source>Spreadsheet file to save</source>
-        <translation>Tabellenblatt speichern</translation>
+        <translation>Tabellendokument speichern</translation>
     </message>
     <message>
         <source>Spreadsheets (*.xlsx)</source>
-        <translation>Tabellenblätter (*.xlsx)</translation>
+        <translation>Tabellendokumente (*.xlsx)</translation>
     </message>
     <message>
         <source>Spreadsheet</source>
-        <translation>Tabellenblatt</translation>
+        <translation>Tabellendokument</translation>
     </message>
 </context>
 <context>
@@ -1012,7 +1012,7 @@
     </message>
     <message>
         <source>External Links Enabled </source>
-        <translation>Externe Verknüpfungen anzeigen </translation>
+        <translation>Externe Links anzeigen </translation>
     </message>
     <message>
         <source>Field Value</source>
@@ -1441,7 +1441,7 @@ Trotzdem ausgeben?</translation>
     <name>BOMPartCreator</name>
     <message>
         <source>BOM Part Creator</source>
-        <translation>Bauteile nur für die Stückliste anlegen</translation>
+        <translation>Stücklistenbauteile anlegen</translation>
     </message>
     <message>
         <source>Parent Part</source>
@@ -1497,7 +1497,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Could not create BOM parts</source>
-        <translation>Bauteile nicht angelegt</translation>
+        <translation>Stücklistenbauteile nicht angelegt</translation>
     </message>
     <message>
         <source>Created: %1</source>
@@ -1508,7 +1508,7 @@ Trotzdem ausgeben?</translation>
     <name>BOMPartRemover</name>
     <message>
         <source>BOM Part Remover</source>
-        <translation>Bauteil nur für die Stückliste entfernen</translation>
+        <translation>Stücklistenbauteil entfernen</translation>
     </message>
     <message>
         <source>Parent Part</source>
@@ -1516,7 +1516,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>BOM Part</source>
-        <translation>Bauteil</translation>
+        <translation>Stücklistenbauteil</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -1528,7 +1528,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Could not remove the BOM part</source>
-        <translation>Bauteil nicht entfernt</translation>
+        <translation>Stücklistenbauteil nicht entfernt</translation>
     </message>
 </context>
 <context>
@@ -1866,7 +1866,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Required, and empty</source>
-        <translation>Nötig und leer</translation>
+        <translation>Erforderlich und leer</translation>
     </message>
     <message>
         <source>Cannot be edited here</source>
@@ -1949,7 +1949,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>the design spells this name %1, which defines no BOM-only parts: rename it there first</source>
-        <translation>der Entwurf schreibt diesen Namen %1; so definiert er keine Bauteile für die Stückliste: Benennen Sie die Eigenschaft dort zuerst um</translation>
+        <translation>der Entwurf schreibt diesen Namen %1; so definiert er keine Stücklistenbauteile: Benennen Sie die Eigenschaft dort zuerst um</translation>
     </message>
     <message>
         <source>another text is asked for under the name %1</source>
@@ -2050,7 +2050,7 @@ Trotzdem ausgeben?</translation>
     <name>ColumnMenu</name>
     <message>
         <source>Required</source>
-        <translation>Nötig</translation>
+        <translation>Erforderlich</translation>
     </message>
     <message>
         <source>Show All Columns</source>
@@ -2123,7 +2123,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>To know</source>
-        <translation>Zu wissen</translation>
+        <translation>Zu beachten</translation>
     </message>
     <message>
         <source>no part has a property &quot;%1&quot;%2</source>
@@ -2192,7 +2192,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>this tells what cannot be changed here</source>
-        <translation>das sagt etwas aus, das hier nicht geändert werden kann</translation>
+        <translation>diese Angabe kann hier nicht geändert werden</translation>
     </message>
     <message>
         <source>a symbol that is left out and a BOM-only part have this reference</source>
@@ -2314,7 +2314,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>--sheet needs a spreadsheet (.xlsx or .ods)</source>
-        <translation>--sheet braucht eine Tabellendatei (.xlsx oder .ods)</translation>
+        <translation>--sheet braucht ein Tabellendokument (.xlsx oder .ods)</translation>
     </message>
     <message>
         <source>%1: the sheet &quot;%2&quot;</source>
@@ -2390,7 +2390,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>this column tells what cannot be changed here</source>
-        <translation>diese Spalte sagt etwas aus, das hier nicht geändert werden kann</translation>
+        <translation>diese Spalte enthält Angaben, die hier nicht geändert werden können</translation>
     </message>
     <message>
         <source>the row has no cell for it</source>
@@ -2478,7 +2478,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Not read, as the name does not say it for certain</source>
-        <translation>Nicht gelesen, weil der Name es nicht sicher sagt</translation>
+        <translation>Nicht gelesen, weil der Name nicht eindeutig ist</translation>
     </message>
     <message>
         <source>To have one read, write it below its meaning into %1:</source>
@@ -2558,11 +2558,11 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>the project has no BOM preset &quot;%1&quot; (it has none)</source>
-        <translation>das Projekt hat keine Stücklisteneinstellung „%1“ (es hat gar keine)</translation>
+        <translation>das Projekt hat keine Stücklisten-Voreinstellung „%1“ (es hat gar keine)</translation>
     </message>
     <message>
         <source>the project has no BOM preset &quot;%1&quot;%2 (it has %3)</source>
-        <translation>das Projekt hat keine Stücklisteneinstellung „%1“%2 (es hat %3)</translation>
+        <translation>das Projekt hat keine Stücklisten-Voreinstellung „%1“%2 (es hat %3)</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -2654,7 +2654,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>zeros in front are gone</source>
-        <translation>führende Nullen sind weg</translation>
+        <translation>führende Nullen fehlen</translation>
     </message>
     <message>
         <source>it is taken for a number with an exponent</source>
@@ -2662,7 +2662,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>digits behind the 15th are gone</source>
-        <translation>die Ziffern nach der 15. sind weg</translation>
+        <translation>die Ziffern nach der 15. fehlen</translation>
     </message>
     <message>
         <source>it is taken for a time</source>
@@ -2682,11 +2682,11 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>characters are gone that its encoding lacks</source>
-        <translation>Zeichen sind weg, die in der Kodierung fehlen</translation>
+        <translation>Zeichen fehlen, die es in der Kodierung nicht gibt</translation>
     </message>
     <message>
         <source>tabs are gone</source>
-        <translation>Tabulatoren sind weg</translation>
+        <translation>Tabulatoren fehlen</translation>
     </message>
     <message>
         <source>the file cannot be read: %1</source>
@@ -2694,7 +2694,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>the file is larger than %1 MiB, the most that a spreadsheet may have</source>
-        <translation>die Datei ist größer als %1 MiB; mehr darf eine Tabellendatei nicht haben</translation>
+        <translation>die Datei ist größer als %1 MiB; mehr darf ein Tabellendokument nicht haben</translation>
     </message>
     <message>
         <source>%1 row is hidden and is read like the others</source>
@@ -3018,7 +3018,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Of %1 components of the design and %2 BOM-only parts</source>
-        <translation>Von %1 Bauteilen des Entwurfs und %2 Bauteilen nur in der Stückliste</translation>
+        <translation>Von %1 Bauteilen des Entwurfs und %2 Stücklistenbauteilen</translation>
     </message>
     <message>
         <source>Of %1 components of the design</source>
@@ -3345,7 +3345,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Drop a KiCad schematic (.kicad_sch), a KiCad project (.kicad_pro) or a part list (.csv) on this window, or choose one.</source>
-        <translation>Ziehen Sie einen KiCad-Schaltplan (.kicad_sch), ein KiCad-Projekt (.kicad_pro) oder eine Bauteilliste (.csv) auf dieses Fenster, oder wählen Sie eine Datei.</translation>
+        <translation>Ziehen Sie einen KiCad-Schaltplan (.kicad_sch), ein KiCad-Projekt (.kicad_pro) oder eine Teileliste (.csv) auf dieses Fenster, oder wählen Sie eine Datei.</translation>
     </message>
 </context>
 <context>
@@ -3671,7 +3671,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Columns of a BOM preset of the KiCad project</source>
-        <translation>Spalten einer Stücklisteneinstellung des KiCad-Projekts</translation>
+        <translation>Spalten einer Stücklisten-Voreinstellung des KiCad-Projekts</translation>
     </message>
     <message>
         <source>Check everything and tell what would change; write nothing</source>
@@ -3711,7 +3711,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Read this sheet of a spreadsheet; without it &quot;Parts&quot;, or the first that has references</source>
-        <translation>Dieses Blatt einer Tabellendatei lesen; sonst „Parts“ oder das erste mit Referenzen</translation>
+        <translation>Dieses Blatt eines Tabellendokuments lesen; sonst „Parts“ oder das erste mit Referenzen</translation>
     </message>
     <message>
         <source>Take all columns for properties, also those of headings that no part has yet</source>
@@ -3795,11 +3795,11 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>The following argument was not expected: %1</source>
-        <translation>dieses Argument ist zu viel: %1</translation>
+        <translation>unerwartetes Argument: %1</translation>
     </message>
     <message>
         <source>The following arguments were not expected: %1</source>
-        <translation>diese Argumente sind zu viel: %1</translation>
+        <translation>unerwartete Argumente: %1</translation>
     </message>
     <message>
         <source>Could not convert: %1 = %2</source>
@@ -3895,7 +3895,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Write a spreadsheet (.xlsx); - is standard output</source>
-        <translation>Eine Tabellendatei (.xlsx) schreiben; - ist die Standardausgabe</translation>
+        <translation>Ein Tabellendokument (.xlsx) schreiben; - ist die Standardausgabe</translation>
     </message>
     <message>
         <source>Write JSON for programs; - is standard output</source>
@@ -4033,7 +4033,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>%1 are one line and differ in %2: %3</source>
-        <translation>%1 sind eine Stücklistenzeile und unterscheiden sich in %2: %3</translation>
+        <translation>%1 sind eine Position und unterscheiden sich in %2: %3</translation>
     </message>
 </context>
 <context>
@@ -5145,7 +5145,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Open a schematic, a project or a part list</source>
-        <translation>Einen Schaltplan, ein Projekt oder eine Bauteilliste öffnen</translation>
+        <translation>Einen Schaltplan, ein Projekt oder eine Teileliste öffnen</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
@@ -5268,11 +5268,11 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>These BOM-only parts cannot be made: the part %1 cannot hold them</source>
-        <translation>Diese Bauteile, die nur in der Stückliste stehen sollen, können nicht angelegt werden: Das Bauteil %1 kann sie nicht aufnehmen</translation>
+        <translation>Diese Stücklistenbauteile können nicht angelegt werden: Das Bauteil %1 kann sie nicht aufnehmen</translation>
     </message>
     <message>
         <source>The BOM-only part %1 of %2 cannot be removed</source>
-        <translation>Das Bauteil %1, das bei %2 nur in der Stückliste steht, kann nicht entfernt werden</translation>
+        <translation>Das Stücklistenbauteil %1 zu %2 kann nicht entfernt werden</translation>
     </message>
 </context>
 <context>
@@ -5492,7 +5492,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>The spreadsheet cannot be made: %1</source>
-        <translation>Die Tabellendatei kann nicht erstellt werden: %1</translation>
+        <translation>Das Tabellendokument kann nicht erstellt werden: %1</translation>
     </message>
     <message>
         <source>There is no sheet of parts: a sheet holds %1 rows.</source>
@@ -6360,7 +6360,7 @@ Trotzdem ausgeben?</translation>
         <source>Bill of Materials Viewer %1
 Bills of materials from KiCad schematics and part lists.</source>
         <translation>Stücklistenanzeige %1
-Stücklisten aus KiCad-Schaltplänen und Bauteillisten.</translation>
+Stücklisten aus KiCad-Schaltplänen und Teilelisten.</translation>
     </message>
     <message>
         <source>The pending changes were written just now, and would be taken back first.</source>
