@@ -9,6 +9,15 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+struct ModuleTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(ModuleLibrary)
+};
+
+} // namespace
+
 ModuleLibrary::~ModuleLibrary()
 {
     unload();
@@ -30,7 +39,7 @@ bool ModuleLibrary::load(const QString &path, APPLNPROCESS *process)
     unload();
     if (!QFileInfo::exists(path)) {
         // QLibrary tries further names for a missing file, and its error message would name those.
-        m_error = path + QStringLiteral(": there is no such file");
+        m_error = path + QStringLiteral(": ") + ModuleTexts::tr("there is no such file");
         return false;
     }
     m_library.setFileName(QFileInfo(path).absoluteFilePath());
@@ -42,8 +51,9 @@ bool ModuleLibrary::load(const QString &path, APPLNPROCESS *process)
     m_delete = reinterpret_cast<DELETEMODULEINSTANCE>(m_library.resolve(MODULE_DELETE));
     m_module = create && m_delete ? create(process) : nullptr;
     if (!m_module) {
-        m_error = create && m_delete ? path + QStringLiteral(": the module cannot be started")
-                                     : path + QStringLiteral(": this is no module");
+        m_error = path + QStringLiteral(": ") +
+                  (create && m_delete ? ModuleTexts::tr("the module cannot be started")
+                                      : ModuleTexts::tr("this is no module"));
         unload();
         return false;
     }
@@ -56,8 +66,8 @@ bool ModuleLibrary::loadFirst(APPLNPROCESS *process)
     const auto found = std::find_if(paths.cbegin(), paths.cend(),
                                     [](const QString &path) { return QFileInfo::exists(path); });
     if (found == paths.cend()) {
-        m_error =
-            QStringLiteral("the module is in none of these places: ") + paths.join(QStringLiteral(", "));
+        m_error = ModuleTexts::tr("the module is in none of these places: %1")
+                      .arg(paths.join(QStringLiteral(", ")));
         return false;
     }
     return load(*found, process);

@@ -12,6 +12,8 @@
 #include "module/bommainwindow.h"
 #include "module/moduletemplates.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace {
@@ -49,7 +51,7 @@ IMODULE *interfaceOf(APPLNPROCESS *process, const char *application, unsigned id
 BOMVIEWER::BOMVIEWER(APPLNPROCESS *process)
     : APPLNMODULE(process)
 {
-    setapplnname(QStringLiteral("BOM"), QStringLiteral("Bill of Materials"));
+    setapplnname(QStringLiteral("BOM"), QCoreApplication::translate("BOMVIEWER", "Bill of Materials"));
     m_database = BOMPartsDatabase::instance();
     m_assignments = std::make_unique<PropertyAssignments>(m_database);
     m_undo = std::make_unique<PendingUndo>(m_assignments.get());
