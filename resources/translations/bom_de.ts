@@ -1752,6 +1752,13 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>BOMVIEWER</name>
+    <message>
+        <source>Bill of Materials</source>
+        <translation>Stückliste</translation>
+    </message>
+</context>
+<context>
     <name>BOMView</name>
     <message>
         <source>Output Failed</source>
@@ -2993,10 +3000,6 @@ Trotzdem ausgeben?</translation>
 <context>
     <name>DesignStatus</name>
     <message>
-        <source>%1 listed</source>
-        <translation>%1 aufgeführt</translation>
-    </message>
-    <message>
         <source> (%1 BOM-only)</source>
         <translation> (%1 nur in der Stückliste)</translation>
     </message>
@@ -3011,18 +3014,6 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>%1 not fitted</source>
         <translation>%1 nicht bestückt</translation>
-    </message>
-    <message>
-        <source>%1 excluded</source>
-        <translation>%1 ausgeschlossen</translation>
-    </message>
-    <message>
-        <source>Of %1 components of the design and %2 BOM-only parts</source>
-        <translation>Von %1 Bauteilen des Entwurfs und %2 Stücklistenbauteilen</translation>
-    </message>
-    <message>
-        <source>Of %1 components of the design</source>
-        <translation>Von %1 Bauteilen des Entwurfs</translation>
     </message>
     <message>
         <source>: a text variable ${...} is not resolved</source>
@@ -4403,6 +4394,25 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>ModuleLibrary</name>
+    <message>
+        <source>there is no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the module cannot be started</source>
+        <translation>das Modul kann nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>this is no module</source>
+        <translation>dies ist kein Modul</translation>
+    </message>
+    <message>
+        <source>the module is in none of these places: %1</source>
+        <translation>das Modul ist an keiner dieser Stellen: %1</translation>
+    </message>
+</context>
+<context>
     <name>ModuleTemplates</name>
     <message>
         <source>Incomplete BOM Template</source>
@@ -5243,10 +5253,6 @@ Trotzdem ausgeben?</translation>
         <translation>Vorgemerkte Änderungen</translation>
     </message>
     <message>
-        <source>Pending changes of an earlier run cannot be read, and are left as they are: %1</source>
-        <translation>Vorgemerkte Änderungen eines früheren Laufs können nicht gelesen werden und bleiben, wie sie sind: %1</translation>
-    </message>
-    <message>
         <source>Pending changes cannot be kept beside the program&apos;s settings. They will be lost if the program ends before they are applied: %1</source>
         <translation>Vorgemerkte Änderungen können nicht neben den Einstellungen des Programms aufbewahrt werden. Sie gehen verloren, wenn das Programm endet, bevor sie angewendet sind: %1</translation>
     </message>
@@ -5273,6 +5279,14 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>The BOM-only part %1 of %2 cannot be removed</source>
         <translation>Das Stücklistenbauteil %1 zu %2 kann nicht entfernt werden</translation>
+    </message>
+    <message>
+        <source>Pending changes of an earlier run cannot be read: another version of the program may have made them. They are left as they are in
+%1
+Open the design with that version to go on with them, or remove the file to do without them.</source>
+        <translation>Vorgemerkte Änderungen eines früheren Laufs können nicht gelesen werden: Vielleicht stammen sie von einer anderen Version des Programms. Sie bleiben, wie sie sind, in
+%1
+Öffnen Sie den Entwurf mit jener Version, um damit weiterzuarbeiten, oder löschen Sie die Datei, um darauf zu verzichten.</translation>
     </message>
 </context>
 <context>
@@ -6287,16 +6301,8 @@ Trotzdem ausgeben?</translation>
         <translation>Zeigt die Stückliste eines KiCad-Schaltplans oder einer Teileliste.</translation>
     </message>
     <message>
-        <source>A .kicad_sch, .kicad_pro or .csv file.</source>
-        <translation>Eine Datei .kicad_sch, .kicad_pro oder .csv.</translation>
-    </message>
-    <message>
         <source>The library of the module.</source>
         <translation>Die Bibliothek des Moduls.</translation>
-    </message>
-    <message>
-        <source>one design at a time</source>
-        <translation>nur ein Entwurf auf einmal</translation>
     </message>
 </context>
 <context>
@@ -6355,12 +6361,6 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>About Bill of Materials Viewer</source>
         <translation>Über die Stücklistenanzeige</translation>
-    </message>
-    <message>
-        <source>Bill of Materials Viewer %1
-Bills of materials from KiCad schematics and part lists.</source>
-        <translation>Stücklistenanzeige %1
-Stücklisten aus KiCad-Schaltplänen und Teilelisten.</translation>
     </message>
     <message>
         <source>The pending changes were written just now, and would be taken back first.</source>
