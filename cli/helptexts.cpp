@@ -68,7 +68,8 @@ QRegularExpression patternOf(const char *message)
     static const QRegularExpression place(QStringLiteral("\\\\%\\d"));
     QString pattern = QRegularExpression::escape(QString::fromLatin1(message));
     return QRegularExpression(
-        QRegularExpression::anchoredPattern(pattern.replace(place, QStringLiteral("(.*)"))));
+        QRegularExpression::anchoredPattern(pattern.replace(place, QStringLiteral("(.*)"))),
+        QRegularExpression::DotMatchesEverythingOption);
 }
 
 } // namespace
