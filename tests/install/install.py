@@ -178,6 +178,13 @@ def check_desktop(tree, version):
     check(f'<release version="{version}"' in metainfo, f"the metainfo has no release {version}")
 
 
+def check_completion(tree):
+    """bash completes the options that the program itself names."""
+    script = '. "$1"; COMP_WORDS=(bomviewer --mo); COMP_CWORD=1; _bomviewer "$2"; echo "${COMPREPLY[*]}"'
+    said = output("bash", "-c", script, "bash", tree / "share/bash-completion/completions/bomviewer", tree / "bin/bomviewer")
+    check(said == "--module\n", f"bash completes --mo to {said!r}")
+
+
 def check_host(tree, folder):
     """Others can build a host with what is installed."""
     output("cmake", "-G", "Ninja", "-S", SOURCE / "tests/install/host", "-B", folder / "host", f"-DCMAKE_PREFIX_PATH={tree}")
@@ -204,6 +211,7 @@ def try_installation(build, folder, ways):
     check_window(isolation, build)
     check_files(tree, build)
     check_desktop(tree, version)
+    check_completion(tree)
     check_host(tree, folder)
     output("cmake", "--build", build, "--target", "uninstall", env=environment)
     left = [path for path in root.rglob("*") if path != foreign and path not in foreign.parents]
