@@ -17,9 +17,9 @@ set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXE
                                                 WORLD_READ WORLD_EXECUTE)
 
 # The folders that an installation may make; those that it does make are noted for the target "uninstall".
-set(bomFolders ${BOM_PROGRAMS} ${BOM_LIBRARIES} ${BOM_EXAMPLES} ${BOM_HEADERS} ${BOM_CMAKE} ${CMAKE_INSTALL_MANDIR}/man1
+set(bomFolders ${BOM_PROGRAMS} ${BOM_LIBRARIES} ${BOM_EXAMPLES} ${BOM_HEADERS} ${BOM_CMAKE}
                ${CMAKE_INSTALL_DOCDIR})
-foreach(folder applications metainfo mime/packages icons/hicolor/scalable/apps icons/hicolor/48x48/apps
+foreach(folder man/man1 applications metainfo mime/packages icons/hicolor/scalable/apps icons/hicolor/48x48/apps
                icons/hicolor/128x128/apps bash-completion/completions zsh/site-functions fish/vendor_completions.d)
   list(APPEND bomFolders ${CMAKE_INSTALL_DATADIR}/${folder})
 endforeach()
