@@ -7,11 +7,12 @@ set(known)
 if(EXISTS ${BOM_NEW_FOLDERS})
   file(STRINGS ${BOM_NEW_FOLDERS} known)
 endif()
-# CMake takes a relative prefix from the folder that it was started in.
+# Relative places count from the folder that CMake was started in.
 cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_PREFIX OUTPUT_VARIABLE prefix)
 foreach(folder ${BOM_FOLDERS})
   cmake_path(ABSOLUTE_PATH folder BASE_DIRECTORY "${prefix}")
   set(place "$ENV{DESTDIR}${folder}")
+  cmake_path(ABSOLUTE_PATH place)
   while(NOT IS_DIRECTORY "${place}" AND NOT place IN_LIST known)
     list(APPEND known "${place}")
     cmake_path(GET place PARENT_PATH place)
