@@ -8,6 +8,7 @@ include(GNUInstallDirs)
 set(BOM_PROGRAMS bin)
 set(BOM_LIBRARIES lib/bom)
 set(BOM_EXAMPLES share/bom/examples)
+set(BOM_GUIDE share/bom/guide)
 set(BOM_HEADERS ${CMAKE_INSTALL_INCLUDEDIR}/bom)
 set(BOM_CMAKE ${CMAKE_INSTALL_LIBDIR}/cmake/Bom)
 
@@ -17,7 +18,7 @@ set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXE
                                                 WORLD_READ WORLD_EXECUTE)
 
 # The folders that an installation may make; those that it does make are noted for the target "uninstall".
-set(bomFolders ${BOM_PROGRAMS} ${BOM_LIBRARIES} ${BOM_EXAMPLES} ${BOM_HEADERS} ${BOM_CMAKE}
+set(bomFolders ${BOM_PROGRAMS} ${BOM_LIBRARIES} ${BOM_EXAMPLES} ${BOM_GUIDE}/de ${BOM_GUIDE}/pictures ${BOM_HEADERS} ${BOM_CMAKE}
                ${CMAKE_INSTALL_DOCDIR})
 foreach(folder man/man1 applications metainfo mime/packages icons/hicolor/scalable/apps icons/hicolor/48x48/apps
                icons/hicolor/128x128/apps bash-completion/completions zsh/site-functions fish/vendor_completions.d)

@@ -31,7 +31,8 @@ INSTALLED = [
     f"share/applications/{ID}.desktop", f"share/metainfo/{ID}.metainfo.xml", "share/mime/packages/bom.xml",
     "share/icons/hicolor/scalable/apps/bomviewer.svg", "share/icons/hicolor/48x48/apps/bomviewer.png",
     "share/icons/hicolor/128x128/apps/bomviewer.png", "include/bom/host/framework/applnmodule.h",
-    "include/bom/module/ibomviewer.h", "lib/cmake/Bom/BomConfig.cmake", "share/bom/guide/index.html", DESIGN,
+    "include/bom/module/ibomviewer.h", "lib/cmake/Bom/BomConfig.cmake",
+    "share/bom/guide/index.html", "share/bom/guide/de/index.html", "share/bom/guide/pictures/window.png", DESIGN,
 ]
 ENVIRONMENT = {"PATH": "/usr/bin:/bin", "HOME": "/nonexistent", "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "offscreen"}
 # With these the linker says which libraries it loads.

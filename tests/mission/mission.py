@@ -384,6 +384,12 @@ def write_a_spreadsheet(self):
 
 
 @step
+def read_the_guide(self):
+    self.user.menu("Help", "Bill of Materials")
+    self.user.wait("the guide is opened", lambda: any(opened.endswith("guide/index.html") for opened in self.session.opened()))
+
+
+@step
 def click_a_reference(self):
     self.user.tab("Property Editor")
     self.user.check("Group Components", state=False)
@@ -426,9 +432,9 @@ def do_the_same_with_bom(self):
     self.run_bom("set", design, ",".join(sorted(CODE_PARTS)), f"CODE={NEW_CODE}")
     self.run_bom("set", design, "C206", "MANUFACTURER=KEMET")
     self.run_bom("set", design, "U1", "BOMPART1='2','SCR','M3'")
-    same("the full CSV of the window", self.run_bom("report", design, "--template", TEMPLATE, "--full-csv", "-"),
+    same("the full CSV of the window", self.run_bom("report", "-q", design, "--template", TEMPLATE, "--full-csv", "-"),
          (self.out / "parts.csv").read_text())
-    same("the CSV of the window", self.run_bom("report", design, "--template", TEMPLATE, "--csv", "-"),
+    same("the CSV of the window", self.run_bom("report", "-q", design, "--template", TEMPLATE, "--csv", "-"),
          (self.out / "board.csv").read_text())
     table = self.session.folder / "last.csv"
     table.write_text("References,CODE\nC4,200-0199\n")

@@ -180,15 +180,23 @@ class User:
         return table.cell(row, column)
 
     def name_file(self, title, path):
-        """Answers a file dialog."""
+        """Answers a file dialog. It reads folders while a name is typed, and may then change the text or take the Return key for its
+        list of proposals; so the name is typed again until it is taken."""
         dialog = self.dialog(title)
-        field = self.wait("the line for the file's name", lambda: next(iter(dialog.all("text")), None))
+        field = self.wait("the line for the file's name", lambda: next(dialog.all("text")))
         self.wait("the line for the file's name has the keyboard", lambda: field.has("focused"))
-        self.hands.press("Ctrl+a")
-        self.hands.type(str(path))
-        self.wait("the file's name is typed", lambda: field.text == str(path))
-        self.hands.press("Return")
-        self.wait_closed(title)
+
+        def is_taken():
+            self.hands.press("Ctrl+a")
+            self.hands.type(str(path))
+            try:
+                self.wait("the file's name is typed", lambda: field.text == str(path), 2)
+                self.hands.press("Return")
+                self.wait(f"the dialog \"{title}\" is closed", lambda: not self.window(title), 4)
+            except NotInTime:
+                return False
+            return True
+        self.wait(f"the dialog \"{title}\" has taken {path}", is_taken, 30)
 
     def picture(self, path):
         self.hands.picture().save(path)
