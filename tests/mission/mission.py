@@ -143,6 +143,8 @@ class Mission:
 
     def only_row(self, words):
         self.user.fill("text", "Filter:", words)
+        self.user.wait("the number of rows", lambda: next(
+            label for label in self.user.main().all("label") if re.fullmatch(r"1 of \d+", label.name)))
         table = self.user.table("Parts")
         [row] = self.user.wait(f"one row for \"{words}\"", lambda: self._single(self.user.shown_rows(table)))
         return table, row
