@@ -16,10 +16,12 @@ grow by a quarter and 60 MB: undo steps, pending edits and caches are part of it
 is limited to 16 MB. A life of fewer than 600 actions is too short to tell."""
 
 import argparse
+import contextlib
 import os
 import random
 import re
 import shutil
+import signal
 import sys
 import time
 from pathlib import Path
@@ -75,15 +77,14 @@ class Monkey:
         """Everything can be read; only the folder of the session can be written."""
         home = str(self.session.folder)
         return ["bwrap", "--ro-bind", "/", "/", "--dev", "/dev", "--proc", "/proc", "--tmpfs", "/dev/shm", "--bind", home, home,
-                "--unshare-net", "--unshare-ipc", "--die-with-parent", "--chdir", str(self.folder), self.program, str(design)]
+                "--unshare-net", "--unshare-ipc", "--unshare-pid", "--die-with-parent", "--chdir", str(self.folder), self.program, str(design)]
 
     def start(self):
         self.lives += 1
         self.born = self.actions
         self.memory = []
         self.process = self.session.start(*self.command(self.random.choice(self.designs)), log="bomviewer")
-        started = self.wait("the program", self.child)
-        self.number = started
+        self.number = self.wait("the program", self.child)
         self.application = self.wait("the program on the bus", lambda: self.bus.program(self.number))
         self.wait("the window", lambda: self.windows())
 
@@ -97,13 +98,33 @@ class Monkey:
                 return None
         return wait_for(what, asked, LONGEST_ON_THE_CLOCK)
 
+    def programs(self):
+        """The numbers of all processes of the program in its confinement: further windows are processes of their own."""
+        parents = {}
+        for folder in Path("/proc").glob("[0-9]*"):
+            try:
+                parents.setdefault(int((folder / "stat").read_text().rpartition(")")[2].split()[1]), []).append(int(folder.name))
+            except OSError:
+                continue
+        found, due = [], [self.process.pid]
+        while due:
+            number = due.pop()
+            due += parents.get(number, [])
+            try:
+                if os.readlink(f"/proc/{number}/exe") == str(self.program):
+                    found.append(number)
+            except OSError:
+                continue
+        return sorted(found)
+
     def child(self):
-        """The number of the program's process, which bwrap has started."""
-        children = Path(f"/proc/{self.process.pid}/task/{self.process.pid}/children").read_text().split()
-        for child in children:
-            if "bomviewer" in os.readlink(f"/proc/{child}/exe"):
-                return int(child)
-        return None
+        return next(iter(self.programs()), None)
+
+    def end_others(self):
+        for number in self.programs():
+            if number != self.number:
+                with contextlib.suppress(OSError):
+                    os.kill(number, signal.SIGTERM)
 
     def processor_seconds(self):
         fields = Path(f"/proc/{self.number}/stat").read_text().rpartition(")")[2].split()
@@ -211,6 +232,7 @@ class Monkey:
             return self.has_ended(problem)
         if self.actions % 20 == 0:
             self.memory.append(self.resident())
+            self.end_others()
         return self.process.poll() is None or self.has_ended("")
 
     def answer(self, before, action):
