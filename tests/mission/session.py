@@ -24,6 +24,8 @@ FONTS = """<?xml version="1.0"?>
 <!DOCTYPE fontconfig SYSTEM "fonts.dtd">
 <fontconfig>
   <dir>/usr/share/fonts/truetype/liberation</dir>
+  <dir>/usr/share/fonts/liberation</dir>
+  <dir>/usr/share/fonts/liberation-fonts</dir>
   <cachedir>{cache}</cachedir>
   <alias><family>sans-serif</family><prefer><family>Liberation Sans</family></prefer></alias>
   <alias><family>monospace</family><prefer><family>Liberation Mono</family></prefer></alias>
