@@ -20,6 +20,8 @@ namespace {
 /// A design that is read within this time needs no event loop.
 constexpr unsigned long atOnceMilliseconds = 100;
 constexpr int delayMilliseconds = 400;
+/// The report of a design with more takes longer than reading it.
+constexpr std::size_t manyComponents = 20000;
 
 bool isInput(QEvent::Type type)
 {
@@ -80,7 +82,7 @@ SettledDesign DesignReading::read(const QString &path, const OpenOptions &option
     if (wasStopped()) {
         settled.design.reset();
     }
-    if (m_panel->isVisible() && settled.design) {
+    if (settled.design && (m_panel->isVisible() || settled.design->components().size() > manyComponents)) {
         m_panel->showLastStep(tr("Preparing the report of %1…").arg(QFileInfo(path).fileName()));
     }
     if (std::exchange(m_isToBeClosed, false)) {

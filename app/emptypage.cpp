@@ -16,12 +16,12 @@ constexpr int mostRecent = 5;
 constexpr int contentCharacters = 88;
 constexpr qreal headingScale = 1.5;
 
-QLabel *label(const QString &text, Qt::Alignment alignment = Qt::AlignHCenter)
+QLabel *label(const QString &text)
 {
     auto *made = new QLabel(text);
     made->setTextFormat(Qt::PlainText);
     made->setWordWrap(true);
-    made->setAlignment(alignment);
+    made->setAlignment(Qt::AlignHCenter);
     return made;
 }
 
@@ -93,7 +93,7 @@ EmptyPage::Section EmptyPage::addSection(const QString &title, const QString &na
     auto *layout = new QVBoxLayout(box);
     layout->setContentsMargins(0, column->spacing(), 0, 0);
     layout->setSpacing(0);
-    QLabel *heading = label(title, Qt::AlignLeft);
+    auto *heading = new QLabel(title);
     QFont font = heading->font();
     font.setBold(true);
     heading->setFont(font);

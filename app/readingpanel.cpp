@@ -55,7 +55,11 @@ void ReadingPanel::showText(const QString &text)
 void ReadingPanel::showLastStep(const QString &text)
 {
     m_text->setText(text);
+    setAccessibleName(text);
     m_cancel->hide();
+    show();
+    place();
+    raise();
     repaint();
 }
 

@@ -440,6 +440,8 @@ void BOMMainWindow::fillViews()
     }
     m_isFilled = true;
     const WaitCursor cursor;
+    // Now, not when the event loop gets to it: the report then has its width, and is laid out once.
+    m_pages->show();
     m_pages->report().setPartsDatabase(m_database);
     m_pages->report().handleBOMDataUpdate();
     m_pages->dataView().setAssignments(m_stores.assignments);
