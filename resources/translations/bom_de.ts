@@ -2947,6 +2947,21 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>DesignReading</name>
+    <message>
+        <source>Another design is being read at the moment.</source>
+        <translation>Zurzeit wird ein anderer Entwurf gelesen.</translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 wird gelesen…</translation>
+    </message>
+    <message>
+        <source>Preparing the report of %1…</source>
+        <translation>Der Bericht von %1 wird vorbereitet…</translation>
+    </message>
+</context>
+<context>
     <name>DesignSession</name>
     <message>
         <source>The design was written</source>
@@ -3018,6 +3033,70 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>: a text variable ${...} is not resolved</source>
         <translation>: Eine Textvariable ${...} ist nicht aufgelöst</translation>
+    </message>
+    <message>
+        <source>1 part</source>
+        <translation>1 Bauteil</translation>
+    </message>
+    <message>
+        <source>%1 parts</source>
+        <translation>%1 Bauteile</translation>
+    </message>
+    <message>
+        <source>Parts that the report lists, of %1 components of the design</source>
+        <translation>Bauteile, die der Bericht aufführt, von %1 Bauteilen des Entwurfs</translation>
+    </message>
+    <message>
+        <source>Parts that the report lists, of %1 components of the design and %2 BOM-only parts</source>
+        <translation>Bauteile, die der Bericht aufführt, von %1 Bauteilen des Entwurfs und %2 nur in der Stückliste</translation>
+    </message>
+    <message>
+        <source>Components that are fitted and therefore not listed, see View &gt; Parts That Are Not Fitted</source>
+        <translation>Bauteile, die bestückt und deshalb nicht aufgeführt sind, siehe Ansicht &gt; Nicht bestückte Bauteile</translation>
+    </message>
+    <message>
+        <source>Components that are not fitted and therefore not listed, see View &gt; Parts That Are Not Fitted</source>
+        <translation>Bauteile, die nicht bestückt und deshalb nicht aufgeführt sind, siehe Ansicht &gt; Nicht bestückte Bauteile</translation>
+    </message>
+    <message>
+        <source>1 line</source>
+        <translation>1 Zeile</translation>
+    </message>
+    <message>
+        <source>%1 lines</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>Lines of the report</source>
+        <translation>Zeilen des Berichts</translation>
+    </message>
+    <message>
+        <source>%1 skipped</source>
+        <translation>%1 ausgelassen</translation>
+    </message>
+    <message>
+        <source>Components that a mark of the design leaves out of the bill of materials</source>
+        <translation>Bauteile, die eine Kennzeichnung des Entwurfs aus der Stückliste auslässt</translation>
+    </message>
+    <message>
+        <source>Components that are not listed because others have the same reference</source>
+        <translation>Bauteile, die nicht aufgeführt sind, weil andere dieselbe Referenz haben</translation>
+    </message>
+    <message>
+        <source>%1 joined</source>
+        <translation>%1 vermischt</translation>
+    </message>
+    <message>
+        <source>Lines of the report that join parts which differ in the footprint, the part number or a rating</source>
+        <translation>Zeilen des Berichts mit Bauteilen, die sich in Footprint, Artikelnummer oder einem Nennwert unterscheiden</translation>
+    </message>
+    <message>
+        <source>%1 pending</source>
+        <translation>%1 vorgemerkt</translation>
+    </message>
+    <message>
+        <source>Edits that are not written into the design yet, see Edit &gt; Review Pending Changes</source>
+        <translation>Änderungen, die noch nicht in den Entwurf geschrieben sind, siehe Bearbeiten &gt; Vorgemerkte Änderungen prüfen</translation>
     </message>
 </context>
 <context>
@@ -3275,6 +3354,21 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>The folder %1 holds %2 designs: drop one of them.</source>
+        <translation>Der Ordner %1 enthält %2 Entwürfe: Ziehen Sie einen davon auf das Fenster.</translation>
+    </message>
+    <message>
+        <source>There is no design in the folder %1.</source>
+        <translation>Im Ordner %1 ist kein Entwurf.</translation>
+    </message>
+    <message>
+        <source>%1 is no design: drop a .kicad_sch, .kicad_pro or .csv file.</source>
+        <translation>%1 ist kein Entwurf: Ziehen Sie eine Datei .kicad_sch, .kicad_pro oder .csv auf das Fenster.</translation>
+    </message>
+</context>
+<context>
     <name>EarlierEdits</name>
     <message>
         <source>%1, %2: %3</source>
@@ -3337,6 +3431,49 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>Drop a KiCad schematic (.kicad_sch), a KiCad project (.kicad_pro) or a part list (.csv) on this window, or choose one.</source>
         <translation>Ziehen Sie einen KiCad-Schaltplan (.kicad_sch), ein KiCad-Projekt (.kicad_pro) oder eine Teileliste (.csv) auf dieses Fenster, oder wählen Sie eine Datei.</translation>
+    </message>
+    <message>
+        <source>Edits That Are Not Written</source>
+        <translation>Nicht geschriebene Änderungen</translation>
+    </message>
+    <message>
+        <source>Recent Designs</source>
+        <translation>Zuletzt geöffnete Entwürfe</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Beispiele</translation>
+    </message>
+    <message>
+        <source>Not there any more:</source>
+        <translation>Nicht mehr vorhanden:</translation>
+    </message>
+    <message>
+        <source>1 edit</source>
+        <translation>1 Änderung</translation>
+    </message>
+    <message>
+        <source>%1 edits</source>
+        <translation>%1 Änderungen</translation>
+    </message>
+    <message>
+        <source>the design is not there any more:</source>
+        <translation>der Entwurf ist nicht mehr vorhanden:</translation>
+    </message>
+    <message>
+        <source>Opens the design and offers to go on with the edits</source>
+        <translation>Öffnet den Entwurf und bietet an, die Änderungen fortzusetzen</translation>
+    </message>
+    <message>
+        <source>Opens a copy in your documents, which you may change</source>
+        <translation>Öffnet eine Kopie in Ihren Dokumenten, die Sie ändern können</translation>
+    </message>
+</context>
+<context>
+    <name>ExampleDesigns</name>
+    <message>
+        <source>The example cannot be copied into your documents: %1</source>
+        <translation>Das Beispiel kann nicht in Ihre Dokumente kopiert werden: %1</translation>
     </message>
 </context>
 <context>
@@ -4318,6 +4455,21 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>LastOutput</name>
+    <message>
+        <source>Open Failed</source>
+        <translation>Öffnen fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 ist nicht mehr vorhanden.</translation>
+    </message>
+    <message>
+        <source>The desktop knows no program that opens %1.</source>
+        <translation>Auf diesem Rechner ist kein Programm eingerichtet, das %1 öffnet.</translation>
+    </message>
+</context>
+<context>
     <name>LegacyScripts</name>
     <message>
         <source>the script &quot;%1&quot; has no line &quot;%2&quot;</source>
@@ -5233,6 +5385,54 @@ Trotzdem ausgeben?</translation>
         <source>&amp;As Drawn</source>
         <translation>Wie &amp;gezeichnet</translation>
     </message>
+    <message>
+        <source>Open in &amp;New Window…</source>
+        <translation>In &amp;neuem Fenster öffnen…</translation>
+    </message>
+    <message>
+        <source>Open a design beside this one</source>
+        <translation>Einen Entwurf neben diesem öffnen</translation>
+    </message>
+    <message>
+        <source>Open &amp;Last Output</source>
+        <translation>&amp;Letzte Ausgabe öffnen</translation>
+    </message>
+    <message>
+        <source>Open the file that was written last</source>
+        <translation>Die zuletzt geschriebene Datei öffnen</translation>
+    </message>
+    <message>
+        <source>Open &amp;Folder of the Last Output</source>
+        <translation>&amp;Ordner der letzten Ausgabe öffnen</translation>
+    </message>
+    <message>
+        <source>Show the folder of the file that was written last</source>
+        <translation>Den Ordner der zuletzt geschriebenen Datei zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Close the design</source>
+        <translation>Den Entwurf schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Tool Bars and Panels</source>
+        <translation>&amp;Werkzeugleisten und Bereiche</translation>
+    </message>
+    <message>
+        <source>&amp;Full Screen</source>
+        <translation>Voll&amp;bild</translation>
+    </message>
+    <message>
+        <source>Give the window the whole screen, or its place again</source>
+        <translation>Dem Fenster den ganzen Bildschirm geben, oder seinen Platz zurück</translation>
+    </message>
+    <message>
+        <source>Read the Design Again</source>
+        <translation>Den Entwurf neu lesen</translation>
+    </message>
 </context>
 <context>
     <name>PropertyAssignments</name>
@@ -5387,6 +5587,17 @@ Open the design with that version to go on with them, or remove the file to do w
     <message>
         <source>Some values were not replaced as the replacement string was not compatible.</source>
         <translation>Einige Werte wurden nicht ersetzt, weil der neue Text nicht zu ihnen passt.</translation>
+    </message>
+</context>
+<context>
+    <name>ReadingPanel</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
     </message>
 </context>
 <context>
@@ -5645,6 +5856,14 @@ Open the design with that version to go on with them, or remove the file to do w
     <message>
         <source>%1 warnings</source>
         <translation>%1 Warnungen</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>Open %1 or its folder</source>
+        <translation>%1 oder den Ordner der Datei öffnen</translation>
     </message>
 </context>
 <context>
@@ -6304,6 +6523,10 @@ Open the design with that version to go on with them, or remove the file to do w
         <source>The library of the module.</source>
         <translation>Die Bibliothek des Moduls.</translation>
     </message>
+    <message>
+        <source>A .kicad_sch, .kicad_pro or .csv file; each further one gets a window of its own.</source>
+        <translation>Eine Datei .kicad_sch, .kicad_pro oder .csv; jede weitere bekommt ein eigenes Fenster.</translation>
+    </message>
 </context>
 <context>
     <name>WindowPages</name>
@@ -6365,6 +6588,74 @@ Open the design with that version to go on with them, or remove the file to do w
     <message>
         <source>The pending changes were written just now, and would be taken back first.</source>
         <translation>Die vorgemerkten Änderungen wurden gerade geschrieben und würden zuerst zurückgenommen.</translation>
+    </message>
+    <message>
+        <source>Open in Another Window</source>
+        <translation>In einem anderen Fenster offen</translation>
+    </message>
+    <message>
+        <source>The design &quot;%1&quot; is open in another window. Open it here as well?
+
+Each window has pending edits of its own, and follows what the other one writes.</source>
+        <translation>Der Entwurf „%1“ ist in einem anderen Fenster offen. Auch hier öffnen?
+
+Jedes Fenster hat eigene vorgemerkte Änderungen und zeigt, was das andere schreibt.</translation>
+    </message>
+    <message>
+        <source>Reading %1 was cancelled.</source>
+        <translation>Das Lesen von %1 wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The design &quot;%1&quot; cannot be opened.</source>
+        <translation>Der Entwurf „%1“ kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The program cannot be started once more: %1</source>
+        <translation>Das Programm kann kein weiteres Mal gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>This is your copy of the example from before, in %1</source>
+        <translation>Dies ist Ihre frühere Kopie des Beispiels, in %1</translation>
+    </message>
+    <message>
+        <source>This is a copy of the example, in %1</source>
+        <translation>Dies ist eine Kopie des Beispiels, in %1</translation>
+    </message>
+    <message>
+        <source>%1 further designs were not opened.</source>
+        <translation>%1 weitere Entwürfe wurden nicht geöffnet.</translation>
+    </message>
+    <message>
+        <source>The design is read again as soon as the open editor is closed.</source>
+        <translation>Der Entwurf wird neu gelesen, sobald das offene Eingabefeld geschlossen ist.</translation>
+    </message>
+    <message>
+        <source>%1 was read again.</source>
+        <translation>%1 wurde neu gelesen.</translation>
+    </message>
+    <message>
+        <source>1 pending edit is kept.</source>
+        <translation>1 vorgemerkte Änderung bleibt erhalten.</translation>
+    </message>
+    <message>
+        <source>%1 pending edits are kept.</source>
+        <translation>%1 vorgemerkte Änderungen bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>Bill of Materials Viewer %1</source>
+        <translation>Stücklistenanzeige %1</translation>
+    </message>
+    <message>
+        <source>Shows, edits and writes bills of materials of KiCad schematics and projects (versions 6 to 10) and of part lists (CSV).</source>
+        <translation>Zeigt, ändert und schreibt Stücklisten von KiCad-Schaltplänen und -Projekten (Versionen 6 bis 10) und von Bauteillisten (CSV).</translation>
+    </message>
+    <message>
+        <source>License: MIT. Copyright 2026 The BOM developers.</source>
+        <translation>Lizenz: MIT. Copyright 2026 The BOM developers.</translation>
+    </message>
+    <message>
+        <source>Uses Qt %1.</source>
+        <translation>Verwendet Qt %1.</translation>
     </message>
 </context>
 </TS>
