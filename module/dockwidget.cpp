@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "module/dockwidget.h"
 
+#include "host/widgets/accessiblepane.h"
 #include "host/widgets/applnwidget.h"
 #include "module/vlabel.h"
 
@@ -19,6 +20,8 @@ constexpr int foldedWidth = 4;
 DockWidget::DockWidget(QWidget *parent)
     : QDockWidget(parent)
 {
+    setWindowTitle(tr("Options"));
+    makeAccessiblePane(this);
     // Where it stands in a plain layout it takes the height that there is.
     layout()->setSizeConstraint(QLayout::SetMinimumSize);
     setUpTitleBar();
@@ -67,7 +70,8 @@ void DockWidget::applyDockedState(int width)
         return;
     }
     const QIcon picture = APPLNWIDGET::makeIcon(m_isOpen ? QStringLiteral(":/bom/icons/sendLeft.png")
-                                                         : QStringLiteral(":/bom/icons/sendRight.png"));
+                                                         : QStringLiteral(":/bom/icons/sendRight.png"),
+                                                m_foldButton->palette());
     m_foldButton->setIcon(picture);
     m_foldButton->setArrowType(!picture.isNull() ? Qt::NoArrow : m_isOpen ? Qt::LeftArrow : Qt::RightArrow);
     m_foldButton->setToolTip(m_isOpen ? tr("Hide the options") : tr("Show the options"));

@@ -4,12 +4,15 @@
 
 #include "editors/bomdataview.h"
 #include "host/framework/hostsettings.h"
+#include "host/widgets/accessiblepane.h"
+#include "host/widgets/panekeys.h"
 #include "module/dockwidget.h"
 #include "module/optionspanel.h"
 #include "views/bomhtmlview.h"
 
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -52,6 +55,8 @@ WindowPages::WindowPages(QWidget *parent)
     m_dock->setObjectName(QStringLiteral("dockWidget"));
     m_dock->setContents(scrolled(m_options));
     addDockWidget(Qt::LeftDockWidgetArea, m_dock);
+    makeAccessiblePane(this);
+    new PaneKeys(this, {m_dock, m_tabs->tabBar(), m_report, m_dataView});
     restorePlaces();
 }
 

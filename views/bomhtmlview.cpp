@@ -136,6 +136,7 @@ void BOMHTMLView::makeTextEdit()
 {
     m_textEdit = new TextEdit(this);
     m_textEdit->setObjectName(QStringLiteral("textEdit"));
+    m_textEdit->setAccessibleName(tr("Report"));
     m_textEdit->setFocusPolicy(Qt::WheelFocus);
     m_textEdit->setReadOnly(true);
     m_textEdit->setUndoRedoEnabled(false);

@@ -67,8 +67,9 @@ void FindBar::build()
     bar->setContentsMargins(gap, gap, gap, gap);
     m_text->setObjectName(QStringLiteral("findText"));
     m_text->setPlaceholderText(tr("Find in the report"));
-    m_text->setAccessibleName(tr("Find in the report"));
+    m_text->setAccessibleName(m_text->placeholderText());
     m_text->setClearButtonEnabled(true);
+    m_text->findChild<QToolButton *>()->setAccessibleName(tr("Clear the text"));
     bar->addWidget(m_text, 2);
     m_previous =
         addButton(QStringLiteral("findPreviousButton"), tr("Previous hit"), tr("Previous hit (Shift+F3)"));

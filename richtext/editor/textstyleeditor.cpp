@@ -11,6 +11,7 @@
 #include <QSet>
 #include <QSignalBlocker>
 #include <QTextDocument>
+#include <QToolButton>
 
 namespace {
 
@@ -24,6 +25,7 @@ TextStyleEditor::TextStyleEditor(QWidget *parent)
     , m_ui(std::make_unique<Ui::TextStyleEditor>())
 {
     m_ui->setupUi(this);
+    m_ui->filterEdit->findChild<QToolButton *>()->setAccessibleName(tr("Clear the text"));
     setUp();
     showSheet();
 }

@@ -3,8 +3,9 @@
 //
 // looks FOLDER [NAME...]: makes pictures of windows, in light and dark and in English and German, as
 // FOLDER/NAME-light-100-en.png. The number is the scale in percent, for which QT_SCALE_FACTOR is to be set.
-// NAME picks the windows whose names begin so.
+// NAME picks the windows whose names begin so. It fails when a window has a flaw, which it names.
 #include "host/framework/hostsettings.h"
+#include "looks/accessibletree.h"
 #include "looks/flaws.h"
 #include "looks/pictures.h"
 #include "support/scriptedui.h"
@@ -100,15 +101,17 @@ struct Variant
     }
 };
 
-/// Says what is wrong with a window; once, as the colours do not matter.
-void reportFlaws(const QWidget &window, const QString &name, const Variant &variant)
+/// Says what is wrong with a window; once, as the colours do not matter. False when something is.
+bool isFlawless(QWidget *window, const QString &name, const Variant &variant)
 {
     if (variant.theme != QStringLiteral("light")) {
-        return;
+        return true;
     }
-    for (const QString &flaw : flawsOf(window)) {
+    const QStringList flaws = flawsOf(*window) + accessibilityFlawsOf(window);
+    for (const QString &flaw : flaws) {
         std::fprintf(stderr, "%s: %s\n", qPrintable(name), qPrintable(flaw));
     }
+    return flaws.isEmpty();
 }
 
 /// The settings of one picture, so that none remembers what another did.
@@ -130,7 +133,7 @@ private:
     MemoryHostSettings m_settings;
 };
 
-/// Whether the picture could be made and written.
+/// Whether the picture could be made and written, of a window without flaws.
 bool save(const Picture &picture, const Variant &variant, const QDir &folder)
 {
     const OwnSettings settings;
@@ -143,8 +146,8 @@ bool save(const Picture &picture, const Variant &variant, const QDir &folder)
         return false;
     }
     const QString name = variant.nameFor(picture.name);
-    reportFlaws(*window, name, variant);
-    return window->grab().save(folder.filePath(name + QStringLiteral(".png")));
+    const bool isSaved = window->grab().save(folder.filePath(name + QStringLiteral(".png")));
+    return isFlawless(window.get(), name, variant) && isSaved;
 }
 
 bool isAskedFor(const QString &name, const QStringList &names)
@@ -159,7 +162,8 @@ int saveAll(const QDir &folder, const QStringList &names, const Variant &variant
     int status = 0;
     for (const Picture &picture : pictures()) {
         if (isAskedFor(picture.name, names) && !save(picture, variant, folder)) {
-            std::fprintf(stderr, "looks: %s cannot be made\n", qPrintable(variant.nameFor(picture.name)));
+            std::fprintf(stderr, "looks: %s has flaws or cannot be made\n",
+                         qPrintable(variant.nameFor(picture.name)));
             status = 1;
         }
     }
