@@ -15,6 +15,7 @@
 #include "editors/propertyrecorder.h"
 #include "editors/propsfindandreplace.h"
 #include "editors/propvaleditdelegate.h"
+#include "editors/replacedvalues.h"
 #include "host/framework/hostui.h"
 #include "host/netlist/cdbcore.h"
 #include "host/widgets/applnwidget.h"
@@ -23,11 +24,13 @@
 
 #include <QDialog>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QSet>
 #include <QSignalBlocker>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -84,7 +87,9 @@ void BOMDataView::setIcons()
     setIcon(m_ui->removeBOMPartBtn, QStringLiteral("part_remove"));
     if (auto *clear = m_ui->filterEdit->findChild<QAction *>(); clear && clear->toolTip().isEmpty()) {
         clear->setToolTip(tr("Show all rows"));
+        m_ui->filterEdit->findChild<QToolButton *>()->setAccessibleName(clear->toolTip());
     }
+    m_ui->partsView->horizontalHeader()->setTextElideMode(Qt::ElideRight);
 }
 
 void BOMDataView::connectForm()
@@ -119,7 +124,16 @@ void BOMDataView::connectEditing()
         m_action.reset();
         fillIfDue();
     };
-    connect(m_ui->partsView, &BOMTableWidget::fillStarted, this, begin);
+    connect(m_ui->partsView, &BOMTableWidget::fillStarted, this, [this, begin] {
+        begin();
+        m_beforeFill = m_assignments ? m_assignments->edits() : QList<PendingEdit>();
+    });
+    connect(m_ui->partsView, &BOMTableWidget::fillCancelled, this, [this] {
+        if (m_assignments) {
+            m_assignments->restore(m_assignments->edits(), m_beforeFill);
+            m_table->refreshPending();
+        }
+    });
     connect(m_ui->partsView, &BOMTableWidget::fillEnded, this, end);
     connect(m_blocks.get(), &CellBlocks::started, this, begin);
     connect(m_blocks.get(), &CellBlocks::ended, this, end);
@@ -139,9 +153,15 @@ PropsFindAndReplace *BOMDataView::findAndReplace()
     if (!m_findAndReplace) {
         m_findAndReplace = new PropsFindAndReplace(m_ui->partsView, this);
         m_findAndReplace->setActionRunner([this](const std::function<void()> &replacement) {
-            const auto action =
-                m_assignments ? std::make_unique<PropertyAssignments::Action>(m_assignments) : nullptr;
-            replacement();
+            const ReplacedValues replaced(m_assignments);
+            {
+                const auto action =
+                    m_assignments ? std::make_unique<PropertyAssignments::Action>(m_assignments) : nullptr;
+                replacement();
+            }
+            if (const QString text = replaced.text(); !text.isEmpty()) {
+                m_message.show(text);
+            }
         });
     }
     return m_findAndReplace;

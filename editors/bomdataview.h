@@ -109,6 +109,8 @@ private:
     PropsFindAndReplace *m_findAndReplace = nullptr;
     /// While one drag, paste or other command changes several cells.
     std::unique_ptr<PropertyAssignments::Action> m_action;
+    /// When the drag began that fills cells.
+    QList<PendingEdit> m_beforeFill;
     bool m_isFilling = false;
     bool m_isApplying = false;
     bool m_isRecording = false;

@@ -118,6 +118,7 @@ void BOMOptionsTable::setHeaders(const QStringList &labels)
     rows->setDefaultSectionSize(m_table->fontMetrics().lineSpacing() + 4);
     QHeaderView *columns = m_table->horizontalHeader();
     columns->setHighlightSections(false);
+    columns->setTextElideMode(Qt::ElideRight);
     columns->setSectionsClickable(true);
     columns->setSectionResizeMode(0, QHeaderView::Stretch);
     columns->setSortIndicator(-1, Qt::AscendingOrder);

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "editors/bomtablewidget.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QTimer>
 
 #include <algorithm>
 #include <memory>
@@ -112,10 +114,30 @@ void BOMTableWidget::startDrag(Qt::DropActions supportedActions)
     }
     beginFill();
     m_fillsFrom = currentRow();
+    m_isFillCancelled = false;
+    // Installed within the drag, as the drag takes the key from who was there before.
+    QTimer::singleShot(0, this, [this] {
+        if (isDragging()) {
+            qApp->installEventFilter(this);
+        }
+    });
     QTableWidget::startDrag(supportedActions);
+    qApp->removeEventFilter(this);
     m_fillsFrom = -1;
     endHighlight();
+    if (m_isFillCancelled) {
+        Q_EMIT fillCancelled();
+    }
     endFill();
+}
+
+bool BOMTableWidget::eventFilter(QObject *object, QEvent *event)
+{
+    if (isDragging() && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        m_isFillCancelled = true;
+    }
+    return QTableWidget::eventFilter(object, event);
 }
 
 QStringList BOMTableWidget::mimeTypes() const

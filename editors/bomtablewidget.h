@@ -30,12 +30,15 @@ Q_SIGNALS:
     /// Around what one drag changes, however many cells it passes over.
     void fillStarted();
     void fillEnded();
+    /// Emitted before fillEnded(): what the drag has changed is to be as it was.
+    void fillCancelled();
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    bool eventFilter(QObject *object, QEvent *event) override;
     void startDrag(Qt::DropActions supportedActions) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
@@ -64,4 +67,6 @@ private:
     /// Of drags that began here and drags over the table.
     int m_fills = 0;
     bool m_isDragInside = false;
+    /// Esc was pressed during the drag that began here.
+    bool m_isFillCancelled = false;
 };

@@ -28,6 +28,12 @@ QString requiredKey()
 
 QString layoutKey()
 {
+    return QStringLiteral("PropertyEditorLayout");
+}
+
+/// Of earlier versions.
+QString layoutByHeadingsKey()
+{
     return QStringLiteral("PropertyEditorColumns");
 }
 
@@ -53,6 +59,28 @@ QString heading(const QHeaderView &header, int column)
     return header.model()->headerData(column, header.orientation()).toString();
 }
 
+QString nameOf(const QHeaderView &header, int column)
+{
+    return header.model()->headerData(column, header.orientation(), ColumnNameRole).toString();
+}
+
+ColumnLayout layoutIn(const QJsonObject &object)
+{
+    ColumnLayout layout{
+        texts(object.value(QStringLiteral("order"))), texts(object.value(QStringLiteral("hidden"))), {}};
+    const QJsonObject widths = object.value(QStringLiteral("widths")).toObject();
+    for (auto it = widths.constBegin(); it != widths.constEnd(); ++it) {
+        layout.widths.insert(it.key(), it.value().toInt());
+    }
+    return layout;
+}
+
+/// The columns that have ever been remembered by name.
+QStringList knownNames(const QJsonObject &object)
+{
+    return texts(object.value(QStringLiteral("known")));
+}
+
 } // namespace
 
 ColumnLayout columnLayout(const QHeaderView &header)
@@ -60,7 +88,7 @@ ColumnLayout columnLayout(const QHeaderView &header)
     ColumnLayout layout;
     for (int place = 0; place < header.count(); ++place) {
         const int column = header.logicalIndex(place);
-        const QString name = heading(header, column);
+        const QString name = nameOf(header, column);
         layout.order.append(name);
         if (header.isSectionHidden(column)) {
             layout.hidden.append(name);
@@ -75,7 +103,7 @@ void setColumnLayout(QHeaderView *header, const ColumnLayout &layout)
 {
     QHash<QString, int> columns;
     for (int column = 0; column < header->count(); ++column) {
-        const QString name = heading(*header, column);
+        const QString name = nameOf(*header, column);
         columns.insert(name, column);
         header->setSectionHidden(column, column > 0 && layout.hidden.contains(name));
         if (const int width = layout.widths.value(name); width >= leastWidth && width <= mostWidth) {
@@ -90,33 +118,56 @@ void setColumnLayout(QHeaderView *header, const ColumnLayout &layout)
     }
 }
 
-ColumnLayout ColumnMemory::layout()
+ColumnLayout ColumnMemory::layout(const QHeaderView &header)
 {
     const QJsonObject object = stored(layoutKey());
-    ColumnLayout layout{
-        texts(object.value(QStringLiteral("order"))), texts(object.value(QStringLiteral("hidden"))), {}};
-    const QJsonObject widths = object.value(QStringLiteral("widths")).toObject();
-    for (auto it = widths.constBegin(); it != widths.constEnd(); ++it) {
-        layout.widths.insert(it.key(), it.value().toInt());
+    const QStringList known = knownNames(object);
+    const ColumnLayout earlier = layoutIn(stored(layoutByHeadingsKey()));
+    ColumnLayout layout = layoutIn(object);
+    QHash<QString, QString> names;
+    for (int column = 0; column < header.count(); ++column) {
+        const QString name = nameOf(header, column);
+        const QString title = heading(header, column);
+        names.insert(title, name);
+        if (known.contains(name)) {
+            continue;
+        }
+        if (earlier.hidden.contains(title)) {
+            layout.hidden.append(name);
+        }
+        if (earlier.widths.contains(title)) {
+            layout.widths.insert(name, earlier.widths.value(title));
+        }
+    }
+    for (const QString &title : object.isEmpty() ? earlier.order : QStringList()) {
+        layout.order.append(names.value(title));
     }
     return layout;
 }
 
-void ColumnMemory::setLayout(const QStringList &headings, const ColumnLayout &layout)
+void ColumnMemory::setLayout(const QHeaderView &header, const ColumnLayout &layout)
 {
-    ColumnLayout all = ColumnMemory::layout();
-    const auto isShown = [&headings](const QString &heading) { return headings.contains(heading); };
+    const QJsonObject object = stored(layoutKey());
+    ColumnLayout all = layoutIn(object);
+    QStringList names;
+    for (int column = 0; column < header.count(); ++column) {
+        names.append(nameOf(header, column));
+    }
+    const auto isShown = [&names](const QString &name) { return names.contains(name); };
     all.hidden.removeIf(isShown);
     all.hidden += layout.hidden;
     all.widths.removeIf([&isShown](const auto &width) { return isShown(width.key()); });
     all.widths.insert(layout.widths);
     // Columns that nobody moved stand in the order of the template, whatever becomes of that.
-    all.order = layout.order == headings ? QStringList() : layout.order;
+    all.order = layout.order == names ? QStringList() : layout.order;
+    QStringList known = knownNames(object) + names;
+    known.removeDuplicates();
     QJsonObject widths;
     for (auto it = all.widths.cbegin(); it != all.widths.cend(); ++it) {
         widths.insert(it.key(), *it);
     }
-    store(layoutKey(), {{QStringLiteral("order"), QJsonArray::fromStringList(all.order)},
+    store(layoutKey(), {{QStringLiteral("known"), QJsonArray::fromStringList(known)},
+                        {QStringLiteral("order"), QJsonArray::fromStringList(all.order)},
                         {QStringLiteral("hidden"), QJsonArray::fromStringList(all.hidden)},
                         {QStringLiteral("widths"), widths}});
 }

@@ -8,7 +8,10 @@
 
 class QHeaderView;
 
-/// How the columns of the property editor stand, by their headings.
+/// The role of a heading that has the name of its column: the same in every language.
+constexpr int ColumnNameRole = Qt::UserRole + 100;
+
+/// How the columns of the property editor stand, by their names.
 struct ColumnLayout
 {
     QStringList order;
@@ -22,15 +25,14 @@ struct ColumnLayout
 /// Columns that the layout does not name keep their width, and stand behind the others.
 void setColumnLayout(QHeaderView *header, const ColumnLayout &layout);
 
-/// Remembers in the user's settings how columns stand, each by its heading, and which properties are
-/// required.
+/// Remembers in the user's settings how columns stand, each by its name, and which properties are required.
 class ColumnMemory final
 {
 public:
-    [[nodiscard]] static ColumnLayout layout();
-    /// `headings` are the columns that there are, in the order of the template; what is known of others
-    /// stays.
-    static void setLayout(const QStringList &headings, const ColumnLayout &layout);
+    /// What is known of the columns of a table. Earlier versions knew them by their headings.
+    [[nodiscard]] static ColumnLayout layout(const QHeaderView &header);
+    /// What is known of columns that the table has not stays.
+    static void setLayout(const QHeaderView &header, const ColumnLayout &layout);
 
     /// Whether a property is required, by its upper-case name: at first the value and the footprint are.
     [[nodiscard]] static bool isRequired(const QString &key);

@@ -95,6 +95,9 @@ void PartsTable::fillAnew(PropertyRows rows)
         makeColumns();
         makeRows();
         setSortColumn(heading, order);
+        if (!isSorted) {
+            m_table->sortItems(header.sortIndicatorSection(), header.sortIndicatorOrder());
+        }
         m_table->setSortingEnabled(isSorted);
     }
     applyFilter();
@@ -109,21 +112,25 @@ void PartsTable::makeColumns()
     takeRequired();
     m_table->clear();
     m_table->setColumnCount(fieldEnd() + (m_hasLinks ? 1 : 0));
-    const auto setHeader = [this](int column, const QString &heading, const QString &property,
-                                  bool isEditable) {
+    QStringList names;
+    const auto setHeader = [this, &names](int column, const QString &heading, const QString &property,
+                                          bool isEditable, const QString &name) {
         auto *item = new QTableWidgetItem(heading);
+        // Fields may show the same property.
+        names.append(names.contains(name) ? name + u'/' + heading : name);
+        item->setData(ColumnNameRole, names.constLast());
         item->setData(PropValEditDelegate::PropertyRole, property);
         item->setData(PropValEditDelegate::IsEditableRole, isEditable);
         m_table->setHorizontalHeaderItem(column, item);
     };
-    setHeader(ReferenceColumn, referencesHeading(), {}, false);
-    setHeader(CategoryColumn, categoryHeading(), {}, false);
+    setHeader(ReferenceColumn, referencesHeading(), {}, false, QStringLiteral(":references"));
+    setHeader(CategoryColumn, categoryHeading(), {}, false, QStringLiteral(":category"));
     int column = FirstField;
     for (const PropertyColumn &field : m_context.rows.columns()) {
-        setHeader(column++, field.heading, field.property, field.isEditable);
+        setHeader(column++, field.heading, field.property, field.isEditable, field.property);
     }
     if (m_hasLinks) {
-        setHeader(column, QStringLiteral("_(Links)"), {}, false);
+        setHeader(column, QStringLiteral("_(Links)"), {}, false, QStringLiteral(":links"));
     }
 }
 
@@ -166,18 +173,18 @@ void PartsTable::setSortColumn(const QString &heading, Qt::SortOrder order)
 void PartsTable::restoreLayout()
 {
     QHeaderView &header = *m_table->horizontalHeader();
-    const ColumnLayout layout = ColumnMemory::layout();
+    const ColumnLayout layout = ColumnMemory::layout(header);
     m_measured.clear();
     for (int column = 0; column < header.count(); ++column) {
         header.setSectionHidden(column, false);
         header.moveSection(header.visualIndex(column), column);
-        const QString heading = m_table->horizontalHeaderItem(column)->text();
-        if (!layout.widths.contains(heading)) {
+        const QString name = m_table->horizontalHeaderItem(column)->data(ColumnNameRole).toString();
+        if (!layout.widths.contains(name)) {
             m_table->resizeColumnToContents(column);
             // With room for the arrow of the sorting, which is not there yet.
             const int width = header.sectionSize(column) + m_table->fontMetrics().height();
             header.resizeSection(column, std::min(width, widestAtFirst));
-            m_measured.insert(heading, header.sectionSize(column));
+            m_measured.insert(name, header.sectionSize(column));
         }
     }
     setColumnLayout(&header, layout);
@@ -188,22 +195,13 @@ void PartsTable::restoreLayout()
     }
 }
 
-QStringList PartsTable::headings() const
-{
-    QStringList headings;
-    for (int column = 0; column < m_table->columnCount(); ++column) {
-        headings.append(m_table->horizontalHeaderItem(column)->text());
-    }
-    return headings;
-}
-
 void PartsTable::rememberLayout() const
 {
     if (m_table->columnCount() > 0) {
         ColumnLayout layout = columnLayout(*m_table->horizontalHeader());
         layout.widths.removeIf(
             [this](const auto &width) { return m_measured.value(width.key(), -1) == width.value(); });
-        ColumnMemory::setLayout(headings(), layout);
+        ColumnMemory::setLayout(*m_table->horizontalHeader(), layout);
     }
 }
 

@@ -61,8 +61,7 @@ public:
     [[nodiscard]] PropertyItem *fieldAt(int row, int column) const;
     [[nodiscard]] int linksColumn() const { return m_hasLinks ? fieldEnd() : -1; }
 
-    /// Of all columns that there are, in the order of the template, wherever they stand now.
-    [[nodiscard]] QStringList headings() const;
+    /// The headings by which the layout of the columns is remembered.
     void rememberLayout() const;
     void setRequired(int column, bool isRequired);
 

@@ -51,6 +51,7 @@ void PendingReview::setUpTable()
     QTableView &view = *m_ui->changesView;
     view.setModel(m_sorter);
     view.horizontalHeader()->setStretchLastSection(true);
+    view.horizontalHeader()->setTextElideMode(Qt::ElideRight);
     view.horizontalHeader()->setSortIndicatorShown(true);
     // More would be looked at in tables of many rows; these have all there is in most.
     view.horizontalHeader()->setResizeContentsPrecision(200);

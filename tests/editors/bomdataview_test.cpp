@@ -3,6 +3,7 @@
 #include "editors/bomdataview.h"
 
 #include "editors/dataviewfixture.h"
+#include "editors/propsfindandreplace.h"
 #include "host/widgets/blankingdoublespinbox.h"
 #include "host/widgets/blankingspinbox.h"
 #include "host/widgets/keywordvalueeditor.h"
@@ -176,10 +177,26 @@ TEST_F(DataView, StaysWhereTheUserIsWhenTheDesignIsReadAgain)
     EXPECT_EQ(rows(), "R10 R4 R3 R2 R1");
     EXPECT_EQ(table->currentItem(), cell("R3", "F CODE"));
     EXPECT_EQ(table->selectedItems(), QList{cell("R3", "F CODE")});
+    // Rows stay where they are while a search is open, new ones come where they belong.
+    view.showFindDialogue();
     hasMore = false;
     reload();
     EXPECT_EQ(rows(), before);
     EXPECT_EQ(table->selectedItems(), QList{cell("R3", "F CODE")});
+}
+
+TEST_F(DataView, SaysHowManyValuesWereReplaced)
+{
+    click("groupingCheckbox");
+    table->setCurrentItem(cell("R1-R2", "F CODE"));
+    view.showReplaceDialogue();
+    auto *dialog = view.findChild<PropsFindAndReplace *>();
+    dialog->findChild<QLineEdit *>(u"replaceEdit"_s)->setText(u"z"_s);
+    QSignalSpy messages(&view, &BOMDataView::statusMessage);
+    dialog->findChild<QAbstractButton *>(u"replaceAllBtn"_s)->click();
+    EXPECT_EQ(pending(), "R1 CODE=z, R2 CODE=z");
+    ASSERT_FALSE(messages.isEmpty());
+    EXPECT_EQ(messages.constLast().constFirst().toString(), u"2 values were replaced, in 2 parts."_s);
 }
 
 TEST_F(DataView, RowsStayWhileTheyAreEditedUntilTheyAreSortedAgain)

@@ -193,6 +193,23 @@ TEST_F(Drag, LeavesCellsWhosePartsDifferAsTheyAre)
     EXPECT_EQ(pending(), "C1 CODE=dragged, R1 CODE=x, R3 CODE=dragged");
 }
 
+TEST_F(Drag, IsTakenBackWhenItIsCancelled)
+{
+    cell("R3", "F CODE")->setText(u"x"_s);
+    edited.clear();
+    table->setCurrentItem(cell("R1", "F CODE"));
+    send<QDragEnterEvent>(cell("R1", "F CODE"));
+    send<QDragMoveEvent>(cell("R1", "F CODE"));
+    send<QDragMoveEvent>(cell("U1", "F CODE"));
+    EXPECT_EQ(text("R3", "F CODE"), "dragged");
+    Q_EMIT table->fillCancelled();
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(table->viewport(), &leave);
+    EXPECT_EQ(pending(), "R3 CODE=x");
+    EXPECT_EQ(text("R3", "F CODE") + text("R1", "F CODE"), "xb");
+    EXPECT_TRUE(edited.isEmpty()) << "nothing to undo";
+}
+
 TEST_F(Drag, LeavesNothingHighlightedWhenItLeaves)
 {
     table->setCurrentItem(cell("R1", "F COST"));

@@ -165,4 +165,37 @@ TEST_F(DataViewMenus, LeaveColumnsThatNobodyMovedInTheOrderOfTheTemplate)
     EXPECT_EQ(table->horizontalHeader()->visualIndex(column("F CODE")), 4);
 }
 
+TEST_F(DataViewMenus, KnowColumnsByTheirPropertiesWhateverTheirHeadings)
+{
+    database.disconnect(&view);
+    // As an earlier version has left it.
+    settings.setValue(
+        u"BOM"_s, u"PropertyEditorColumns"_s,
+        uR"({"order": ["References", "F COST"], "hidden": ["F FIT"], "widths": {"F CODE": 123}})"_s);
+    const auto seen = [this] {
+        BOMDataView other;
+        other.setPartsDatabase(&database);
+        other.handleBOMDataUpdate();
+        return columnsSeen(*other.findChild<BOMTableWidget *>()).join(u'|');
+    };
+    const QString before = seen();
+    EXPECT_TRUE(before.startsWith(u"References"_s)) << qPrintable(before);
+    EXPECT_LT(before.indexOf(u"F COST"_s), before.indexOf(u"Category"_s)) << qPrintable(before);
+    EXPECT_TRUE(before.contains(u"F CODE 123"_s)) << qPrintable(before);
+    EXPECT_FALSE(before.contains(u"F FIT"_s)) << qPrintable(before);
+    BOMTemplate changed = database.currentTemplate();
+    BOMFields fields;
+    for (const BOMField &field : changed.fields().fields()) {
+        BOMField renamed = field;
+        renamed.fieldName.replace(u"F "_s, u"G "_s);
+        fields.add(renamed);
+    }
+    changed.setFields(fields);
+    database.setCurrentTemplate(changed);
+    const QString after = seen();
+    EXPECT_LT(after.indexOf(u"G COST"_s), after.indexOf(u"Category"_s)) << qPrintable(after);
+    EXPECT_TRUE(after.contains(u"G CODE 123"_s)) << qPrintable(after);
+    EXPECT_FALSE(after.contains(u"G FIT"_s)) << qPrintable(after);
+}
+
 } // namespace
