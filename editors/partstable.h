@@ -61,7 +61,7 @@ public:
     [[nodiscard]] PropertyItem *fieldAt(int row, int column) const;
     [[nodiscard]] int linksColumn() const { return m_hasLinks ? fieldEnd() : -1; }
 
-    /// The headings by which the layout of the columns is remembered.
+    /// Keeps widths, order and hidden columns for the next time.
     void rememberLayout() const;
     void setRequired(int column, bool isRequired);
 

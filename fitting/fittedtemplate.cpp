@@ -5,6 +5,7 @@
 #include "fitting/listedparts.h"
 #include "fitting/madecolumns.h"
 #include "fitting/prefixcategories.h"
+#include "host/framework/oneof.h"
 #include "standalone/loadeddesign.h"
 #include "templates/templatelist.h"
 #include "templates/templatemessages.h"
@@ -23,13 +24,6 @@ class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(FittedTemplate)
 };
-
-bool isOneOf(const QString &text, std::initializer_list<QLatin1String> texts)
-{
-    return std::any_of(texts.begin(), texts.end(), [&text](QLatin1String known) {
-        return text.compare(known, Qt::CaseInsensitive) == 0;
-    });
-}
 
 /// References and quantities, which every bill has, and KiCad's marks of parts.
 bool isFixedColumn(const QString &name)

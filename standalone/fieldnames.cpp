@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "standalone/fieldnames.h"
 
+#include "host/framework/oneof.h"
+
 #include <algorithm>
 #include <array>
 
@@ -103,13 +105,6 @@ bool saysNumber(QStringView text)
         text = text.sliced(other->size());
     }
     return isNumber;
-}
-
-bool isOneOf(const QString &name, std::initializer_list<QLatin1String> names)
-{
-    return std::any_of(names.begin(), names.end(), [&name](QLatin1String known) {
-        return name.compare(known, Qt::CaseInsensitive) == 0;
-    });
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "account/design/fieldaccount.h"
 
 #include "host/framework/hosttext.h"
+#include "host/framework/oneof.h"
 #include "standalone/loadeddesign.h"
 
 #include <algorithm>
@@ -64,13 +65,6 @@ std::unordered_map<NameId, std::size_t> placesOf(const std::vector<NameId> &ids)
         places.emplace(ids[place], place);
     }
     return places;
-}
-
-bool isOneOf(const QString &text, std::initializer_list<QLatin1String> texts)
-{
-    return std::any_of(texts.begin(), texts.end(), [&text](QLatin1String known) {
-        return text.compare(known, Qt::CaseInsensitive) == 0;
-    });
 }
 
 /// A name under which parts may say "do not fit".
