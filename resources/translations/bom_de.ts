@@ -889,10 +889,6 @@
         <translation>Wörter, oder Überschrift:Wort</translation>
     </message>
     <message>
-        <source>Rows</source>
-        <translation>Zeilen</translation>
-    </message>
-    <message>
         <source>All rows</source>
         <translation>Alle Zeilen</translation>
     </message>
@@ -955,6 +951,14 @@
     <message>
         <source>Nothing was written, all changes are still pending:</source>
         <translation>Nichts wurde geschrieben, alle Änderungen sind weiterhin vorgemerkt:</translation>
+    </message>
+    <message>
+        <source>Of which category rows are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which rows are shown</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1153,6 +1157,10 @@
     <message>
         <source>Web pages (*.html *.htm)</source>
         <translation>Webseiten (*.html *.htm)</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1372,6 +1380,10 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>One row for each part instead of one for each line of the report</source>
         <translation>Eine Zeile je Bauteil statt einer je Position des Berichts</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished">&amp;Ansicht</translation>
     </message>
 </context>
 <context>
@@ -3690,6 +3702,69 @@ Trotzdem ausgeben?</translation>
     </message>
 </context>
 <context>
+    <name>FindBar</name>
+    <message>
+        <source>Match case</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find in the report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear the text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous hit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous hit (Shift+F3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next hit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next hit (F3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close the find bar (Esc)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>continued from the top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>continued from the bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 hits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation type="unfinished">%1 von %2</translation>
+    </message>
+    <message>
+        <source>Not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Searching…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FittedTemplate</name>
     <message>
         <source>too many columns; without one are: %1</source>
@@ -5433,6 +5508,14 @@ Trotzdem ausgeben?</translation>
         <source>Read the Design Again</source>
         <translation>Den Entwurf neu lesen</translation>
     </message>
+    <message>
+        <source>Design</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Read the files of the design again</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PropertyAssignments</name>
@@ -5605,6 +5688,76 @@ Open the design with that version to go on with them, or remove the file to do w
     <message>
         <source>this is no ordinary file</source>
         <translation>dies ist keine gewöhnliche Datei</translation>
+    </message>
+</context>
+<context>
+    <name>ReplacedValues</name>
+    <message>
+        <source>1 value was replaced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 values were replaced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, in 1 part.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, in %1 parts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ReportActions</name>
+    <message>
+        <source>Find in &amp;Report…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find a text in the report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find &amp;Next in Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to the next place of the text that is looked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find Pre&amp;vious in Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to the previous place of the text that is looked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the report larger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the report smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset &amp;Zoom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the report in its own size</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -6136,6 +6289,22 @@ Open the design with that version to go on with them, or remove the file to do w
         <source>Various</source>
         <translation>Verschieden</translation>
     </message>
+    <message>
+        <source>Top:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bottom:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left:</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>TemplateList</name>
@@ -6401,6 +6570,10 @@ Open the design with that version to go on with them, or remove the file to do w
     <message>
         <source>There are no styles to choose from. The CSS tab shows the whole style sheet.</source>
         <translation>Es gibt keine Formate zur Auswahl. Der Reiter CSS zeigt das ganze Stylesheet.</translation>
+    </message>
+    <message>
+        <source>Clear the text</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

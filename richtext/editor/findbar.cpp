@@ -97,13 +97,8 @@ void FindBar::connectControls()
     m_marks.setSingleShot(true);
     m_marks.setInterval(pauseForMarks);
     connect(&m_marks, &QTimer::timeout, this, &FindBar::markVisible);
-    const auto markSoon = [this] {
-        if (isVisible()) {
-            m_marks.start();
-        }
-    };
-    connect(m_editor->verticalScrollBar(), &QScrollBar::valueChanged, this, markSoon);
-    connect(m_editor->verticalScrollBar(), &QScrollBar::rangeChanged, this, markSoon);
+    connect(m_editor->verticalScrollBar(), &QScrollBar::valueChanged, this, &FindBar::markSoon);
+    connect(m_editor->verticalScrollBar(), &QScrollBar::rangeChanged, this, &FindBar::markSoon);
     connect(m_editor, &QTextEdit::selectionChanged, this, [this] {
         if (isVisible()) {
             sayState();
@@ -149,7 +144,7 @@ void FindBar::restart()
         return;
     }
     m_search.start(m_text->text(), m_matchCase->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive);
-    m_marks.start();
+    markSoon();
     sayState();
 }
 
@@ -215,9 +210,7 @@ void FindBar::takeProgress()
             select(0);
         }
     }
-    if (!m_marks.isActive()) {
-        m_marks.start();
-    }
+    markSoon();
     sayState();
 }
 
@@ -254,6 +247,14 @@ void FindBar::sayState()
     m_state->setToolTip(text);
     m_previous->setEnabled(!m_search.hits().empty());
     m_next->setEnabled(!m_search.hits().empty());
+}
+
+/// Not put off by what follows: a document that grows changes all the time.
+void FindBar::markSoon()
+{
+    if (isVisible() && !m_marks.isActive()) {
+        m_marks.start();
+    }
 }
 
 void FindBar::markVisible()

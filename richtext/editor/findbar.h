@@ -55,6 +55,7 @@ private:
     void select(qsizetype hit);
     void takeProgress();
     void sayState();
+    void markSoon();
     void markVisible();
     /// The index of the hit that is selected, or -1.
     [[nodiscard]] qsizetype selectedHit() const;

@@ -70,6 +70,12 @@ TextEdit::TextEdit(QWidget *parent)
         }
     });
     connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, [this] { m_followsEnd = false; });
+    // Tables are laid out a fraction of a pixel too wide, for which nobody wants a bar.
+    connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this, [this](int, int maximum) {
+        constexpr int hardlyAnything = 2;
+        setHorizontalScrollBarPolicy(maximum > hardlyAnything ? Qt::ScrollBarAsNeeded
+                                                              : Qt::ScrollBarAlwaysOff);
+    });
 }
 
 TextEdit::~TextEdit() = default;

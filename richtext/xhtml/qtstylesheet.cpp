@@ -13,6 +13,11 @@
 #include <cmath>
 #include <optional>
 
+QColor usualLinkColor()
+{
+    return Qt::blue;
+}
+
 namespace {
 
 constexpr double pointsPerPixel = 0.75;
@@ -220,12 +225,23 @@ QList<StyleSheet::Rule> firstRules(const QList<StyleSheet::Rule> &rules)
     return rules.first(count);
 }
 
-} // namespace
-
-QColor usualLinkColor()
+/// The colour of links where the style sheet has none, as a rule, which would go before that of a plain "a".
+QString linkRule(const StyleSheet &css)
 {
-    return Qt::blue;
+    static const QRegularExpression ofLinks(QStringLiteral("(?:^|[\\s>,])a(?:[.:][^\\s>,]*)?\\s*(?:,|$)"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    for (const StyleSheet::Rule &rule : firstRules(css.rules())) {
+        const bool hasColor = std::ranges::any_of(rule.declarations, [](const auto &declaration) {
+            return declaration.property == QLatin1String("color");
+        });
+        if (hasColor && ofLinks.match(rule.selector).hasMatch()) {
+            return {};
+        }
+    }
+    return QStringLiteral("a:link { color: ") + usualLinkColor().name() + QStringLiteral("; }\n");
 }
+
+} // namespace
 
 LargestLengths largestLengths(QStringView body)
 {
@@ -240,8 +256,7 @@ LargestLengths largestLengths(QStringView body)
 
 QtStyleSheet::QtStyleSheet(const StyleSheet &css, const LargestLengths &largest)
     : m_largest{largest.box, largest.font}
-    , m_text(QStringLiteral("a:link { color: ") + usualLinkColor().name() + QStringLiteral(" }\n") +
-             headingRules(css))
+    , m_text(linkRule(css) + headingRules(css))
 {
     LargeBoxes boxes(largest);
     QSet<QString> known;

@@ -119,7 +119,8 @@ TEST_F(Edit, ShowsLinksInTheirOwnColourInEveryTheme)
     edit.document()->show();
     EXPECT_EQ(edit.document()->find(u"x"_s).charFormat().foreground().color(), QColor(Qt::blue));
     EXPECT_FALSE(edit.document()->find(u"y"_s).charFormat().hasProperty(QTextFormat::ForegroundBrush));
-    edit.loadDocument(page(u"a { color: #123456; }"_s, u"<p><a href='a.pdf'>x</a></p>"_s));
+    edit.loadDocument(
+        page(u"p, a { color: #123456; } p.x { color: red; }"_s, u"<p class='x'><a href='a.pdf'>x</a></p>"_s));
     edit.document()->show();
     EXPECT_EQ(edit.document()->find(u"x"_s).charFormat().foreground().color(), QColor(u"#123456"_s));
     QGuiApplication::setPalette(before);
