@@ -954,11 +954,11 @@
     </message>
     <message>
         <source>Of which category rows are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Von welcher Kategorie Zeilen gezeigt werden</translation>
     </message>
     <message>
         <source>Which rows are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche Zeilen gezeigt werden</translation>
     </message>
 </context>
 <context>
@@ -1160,7 +1160,7 @@
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht</translation>
     </message>
 </context>
 <context>
@@ -3705,63 +3705,63 @@ Trotzdem ausgeben?</translation>
     <name>FindBar</name>
     <message>
         <source>Match case</source>
-        <translation type="unfinished"></translation>
+        <translation>Groß-/Kleinschreibung</translation>
     </message>
     <message>
         <source>Find in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Bericht suchen</translation>
     </message>
     <message>
         <source>Clear the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text löschen</translation>
     </message>
     <message>
         <source>Previous hit</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorherige Fundstelle</translation>
     </message>
     <message>
         <source>Previous hit (Shift+F3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorherige Fundstelle (Umschalt+F3)</translation>
     </message>
     <message>
         <source>Next hit</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Fundstelle</translation>
     </message>
     <message>
         <source>Next hit (F3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Fundstelle (F3)</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Close the find bar (Esc)</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchleiste schließen (Esc)</translation>
     </message>
     <message>
         <source>continued from the top</source>
-        <translation type="unfinished"></translation>
+        <translation>oben fortgesetzt</translation>
     </message>
     <message>
         <source>continued from the bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>unten fortgesetzt</translation>
     </message>
     <message>
         <source>%1 hits</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Fundstellen</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished">%1 von %2</translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>Not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gefunden</translation>
     </message>
     <message>
         <source>Searching…</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche läuft…</translation>
     </message>
 </context>
 <context>
@@ -5694,70 +5694,70 @@ Open the design with that version to go on with them, or remove the file to do w
     <name>ReplacedValues</name>
     <message>
         <source>1 value was replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Wert wurde ersetzt</translation>
     </message>
     <message>
         <source>%1 values were replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Werte wurden ersetzt</translation>
     </message>
     <message>
         <source>, in 1 part.</source>
-        <translation type="unfinished"></translation>
+        <translation>, in 1 Bauteil.</translation>
     </message>
     <message>
         <source>, in %1 parts.</source>
-        <translation type="unfinished"></translation>
+        <translation>, in %1 Bauteilen.</translation>
     </message>
 </context>
 <context>
     <name>ReportActions</name>
     <message>
         <source>Find in &amp;Report…</source>
-        <translation type="unfinished"></translation>
+        <translation>Im &amp;Bericht suchen…</translation>
     </message>
     <message>
         <source>Find a text in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Text im Bericht suchen</translation>
     </message>
     <message>
         <source>Find &amp;Next in Report</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächste Fundstelle im Bericht</translation>
     </message>
     <message>
         <source>Go to the next place of the text that is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur nächsten Stelle des gesuchten Textes gehen</translation>
     </message>
     <message>
         <source>Find Pre&amp;vious in Report</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorherige Fundstelle im Bericht</translation>
     </message>
     <message>
         <source>Go to the previous place of the text that is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Zur vorherigen Stelle des gesuchten Textes gehen</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;größern</translation>
     </message>
     <message>
         <source>Show the report larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Bericht größer zeigen</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;kleinern</translation>
     </message>
     <message>
         <source>Show the report smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Bericht kleiner zeigen</translation>
     </message>
     <message>
         <source>Reset &amp;Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Originalgröße</translation>
     </message>
     <message>
         <source>Show the report in its own size</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Bericht in seiner eigenen Größe zeigen</translation>
     </message>
 </context>
 <context>
@@ -6291,19 +6291,19 @@ Open the design with that version to go on with them, or remove the file to do w
     </message>
     <message>
         <source>Top:</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben:</translation>
     </message>
     <message>
         <source>Right:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts:</translation>
     </message>
     <message>
         <source>Bottom:</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten:</translation>
     </message>
     <message>
         <source>Left:</source>
-        <translation type="unfinished"></translation>
+        <translation>Links:</translation>
     </message>
 </context>
 <context>
@@ -6573,7 +6573,7 @@ Open the design with that version to go on with them, or remove the file to do w
     </message>
     <message>
         <source>Clear the text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text löschen</translation>
     </message>
 </context>
 <context>
