@@ -3060,7 +3060,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Parts that the report lists, of %1 components of the design and %2 BOM-only parts</source>
-        <translation>Bauteile, die der Bericht aufführt, von %1 Bauteilen des Entwurfs und %2 nur in der Stückliste</translation>
+        <translation>Bauteile, die der Bericht aufführt, von %1 Bauteilen des Entwurfs und %2 Stücklistenbauteilen</translation>
     </message>
     <message>
         <source>Components that are fitted and therefore not listed, see View &gt; Parts That Are Not Fitted</source>
@@ -3072,23 +3072,23 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>1 line</source>
-        <translation>1 Zeile</translation>
+        <translation>1 Position</translation>
     </message>
     <message>
         <source>%1 lines</source>
-        <translation>%1 Zeilen</translation>
+        <translation>%1 Positionen</translation>
     </message>
     <message>
         <source>Lines of the report</source>
-        <translation>Zeilen des Berichts</translation>
+        <translation>Positionen des Berichts</translation>
     </message>
     <message>
         <source>%1 skipped</source>
-        <translation>%1 ausgelassen</translation>
+        <translation>%1 ausgeschlossen</translation>
     </message>
     <message>
         <source>Components that a mark of the design leaves out of the bill of materials</source>
-        <translation>Bauteile, die eine Kennzeichnung des Entwurfs aus der Stückliste auslässt</translation>
+        <translation>Bauteile, die eine Kennzeichnung des Entwurfs von der Stückliste ausschließt</translation>
     </message>
     <message>
         <source>Components that are not listed because others have the same reference</source>
@@ -3100,7 +3100,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Lines of the report that join parts which differ in the footprint, the part number or a rating</source>
-        <translation>Zeilen des Berichts mit Bauteilen, die sich in Footprint, Artikelnummer oder einem Nennwert unterscheiden</translation>
+        <translation>Positionen des Berichts mit Bauteilen, die sich in Footprint, Teilenummer oder einem Nennwert unterscheiden</translation>
     </message>
     <message>
         <source>%1 pending</source>
@@ -6820,7 +6820,7 @@ Jedes Fenster hat eigene vorgemerkte Änderungen und zeigt, was das andere schre
     </message>
     <message>
         <source>Shows, edits and writes bills of materials of KiCad schematics and projects (versions 6 to 10) and of part lists (CSV).</source>
-        <translation>Zeigt, ändert und schreibt Stücklisten von KiCad-Schaltplänen und -Projekten (Versionen 6 bis 10) und von Bauteillisten (CSV).</translation>
+        <translation>Zeigt, ändert und schreibt Stücklisten von KiCad-Schaltplänen und -Projekten (Versionen 6 bis 10) und von Teilelisten (CSV).</translation>
     </message>
     <message>
         <source>License: MIT. Copyright 2026 The BOM developers.</source>
