@@ -14,6 +14,7 @@ namespace {
 
 constexpr int mostRecent = 5;
 constexpr int contentCharacters = 88;
+constexpr int leastCharacters = 56;
 constexpr qreal headingScale = 1.5;
 
 QLabel *label(const QString &text)
@@ -22,6 +23,11 @@ QLabel *label(const QString &text)
     made->setTextFormat(Qt::PlainText);
     made->setWordWrap(true);
     made->setAlignment(Qt::AlignHCenter);
+    // Of a page whose height follows from its width QScrollArea shows scroll bars that it does not need.
+    made->setMinimumHeight(made->heightForWidth(leastCharacters * made->fontMetrics().averageCharWidth()));
+    QSizePolicy policy = made->sizePolicy();
+    policy.setHeightForWidth(false);
+    made->setSizePolicy(policy);
     return made;
 }
 
@@ -49,7 +55,8 @@ EmptyPage::EmptyPage(QAction *open, QWidget *parent)
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
-    QLabel *heading = label(tr("No design is open"));
+    auto *heading = new QLabel(tr("No design is open"));
+    heading->setAlignment(Qt::AlignHCenter);
     QFont font = heading->font();
     font.setPointSizeF(font.pointSizeF() * headingScale);
     heading->setFont(font);
@@ -60,6 +67,7 @@ EmptyPage::EmptyPage(QAction *open, QWidget *parent)
     connect(m_open, &QPushButton::clicked, open, &QAction::trigger);
 
     auto *content = new QWidget;
+    content->setMinimumWidth(leastCharacters * fontMetrics().averageCharWidth());
     content->setMaximumWidth(contentCharacters * fontMetrics().averageCharWidth());
     auto *column = new QVBoxLayout(content);
     column->addWidget(heading);
@@ -127,6 +135,7 @@ void EmptyPage::fill(const Section &section, const QList<Entry> &entries)
         // A page without room scrolls.
         QSizePolicy policy = button->sizePolicy();
         policy.setVerticalPolicy(QSizePolicy::Fixed);
+        policy.setHeightForWidth(false);
         button->setSizePolicy(policy);
         connect(button, &QCommandLinkButton::clicked, this, entry.choose);
         section.layout->addWidget(button);
