@@ -86,7 +86,7 @@ private:
     std::vector<ReferenceItem *> m_references;
     RowFilter m_filter;
     bool m_hasLinks = false;
-    /// The widths that nobody chose, by heading: they follow what the columns hold.
+    /// The widths that nobody chose, by the name of the column: they follow what the columns hold.
     QHash<QString, int> m_measured;
     bool m_isFilling = false;
     int m_shownRows = 0;

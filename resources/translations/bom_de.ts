@@ -1383,7 +1383,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
+        <translation type="unfinished">&amp;Ansicht</translation>
     </message>
 </context>
 <context>
@@ -5510,11 +5510,11 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Design</source>
-        <translation>Entwurf</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Read the files of the design again</source>
-        <translation>Die Dateien des Entwurfs neu lesen</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
