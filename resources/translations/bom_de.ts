@@ -3763,6 +3763,10 @@ Trotzdem ausgeben?</translation>
         <source>Searching…</source>
         <translation>Suche läuft…</translation>
     </message>
+    <message>
+        <source>1 hit</source>
+        <translation>1 Fundstelle</translation>
+    </message>
 </context>
 <context>
     <name>FittedTemplate</name>

@@ -230,8 +230,8 @@ QString FindBar::countText() const
     const QLocale locale;
     const QString count = locale.toString(qsizetype(m_search.hits().size()));
     const qsizetype selected = selectedHit();
-    const QString text =
-        selected < 0 ? tr("%1 hits").arg(count) : tr("%1 of %2").arg(locale.toString(selected + 1), count);
+    const QString hits = m_search.hits().size() == 1 ? tr("1 hit") : tr("%1 hits").arg(count);
+    const QString text = selected < 0 ? hits : tr("%1 of %2").arg(locale.toString(selected + 1), count);
     return m_hint.isEmpty() || selected < 0 ? text : text + QStringLiteral(", ") + m_hint;
 }
 
