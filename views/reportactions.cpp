@@ -58,7 +58,7 @@ QAction *ReportActions::add(const Command &command)
 void ReportActions::addFindActions()
 {
     m_find = add({QStringLiteral("findInReport"),
-                  tr("Find in &Report…"),
+                  tr("Find in Repor&t…"),
                   tr("Find a text in the report"),
                   {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F)}});
     connect(m_find, &QAction::triggered, this, &ReportActions::findRequested);

@@ -5716,10 +5716,6 @@ Open the design with that version to go on with them, or remove the file to do w
 <context>
     <name>ReportActions</name>
     <message>
-        <source>Find in &amp;Report…</source>
-        <translation>Im &amp;Bericht suchen…</translation>
-    </message>
-    <message>
         <source>Find a text in the report</source>
         <translation>Einen Text im Bericht suchen</translation>
     </message>
@@ -5733,7 +5729,7 @@ Open the design with that version to go on with them, or remove the file to do w
     </message>
     <message>
         <source>Find Pre&amp;vious in Report</source>
-        <translation>&amp;Vorherige Fundstelle im Bericht</translation>
+        <translation>Vorherige Fundstelle im Berich&amp;t</translation>
     </message>
     <message>
         <source>Go to the previous place of the text that is looked for</source>
@@ -5762,6 +5758,10 @@ Open the design with that version to go on with them, or remove the file to do w
     <message>
         <source>Show the report in its own size</source>
         <translation>Den Bericht in seiner eigenen Größe zeigen</translation>
+    </message>
+    <message>
+        <source>Find in Repor&amp;t…</source>
+        <translation>Im &amp;Bericht suchen…</translation>
     </message>
 </context>
 <context>
