@@ -52,7 +52,7 @@ bool hasAnchor(const QTextDocument &document, const QString &name)
 } // namespace
 
 TextEdit::TextEdit(QWidget *parent)
-    : QTextEdit(parent)
+    : PasteSafeTextEdit(parent)
     , m_document(new TextDocument(this))
 {
     setDocument(m_document);

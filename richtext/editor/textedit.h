@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "host/widgets/pastesafeedits.h"
 #include "richtext/editor/textdocument.h"
 #include "richtext/paper/pagepainter.h"
 
 #include <QMarginsF>
 #include <QPageRanges>
-#include <QTextEdit>
 
 #include <memory>
 
@@ -15,7 +15,7 @@ class PdfOutput;
 class QPrinter;
 
 /// Shows and edits a rich-text document, prints it and makes PDF files of it.
-class TextEdit : public QTextEdit
+class TextEdit : public PasteSafeTextEdit
 {
     Q_OBJECT
 

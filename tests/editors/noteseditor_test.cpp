@@ -47,4 +47,12 @@ TEST_F(Notes, TakePlainTextOfWhatIsPasted)
     EXPECT_EQ(editor.size(), QSize(555, 391));
 }
 
+TEST_F(Notes, StayAsTheyAreWhenTheClipboardIsEmpty)
+{
+    editor.setText(u"kept"_s);
+    QGuiApplication::clipboard()->setMimeData(new QMimeData);
+    QTest::keyClick(editor.focusWidget(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(editor.text(), u"kept"_s);
+}
+
 } // namespace

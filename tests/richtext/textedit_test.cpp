@@ -453,6 +453,20 @@ TEST_F(Edit, ReturnKeepsTheLookAndEndsListsAndHeadings)
     EXPECT_LT(plain.fontWeight(), QFont::Bold);
 }
 
+TEST_F(Edit, StaysAsItIsWhenTheClipboardIsEmpty)
+{
+    edit.loadDocument(page({}, u"<p>kept</p>"_s));
+    PasteSafePlainTextEdit css;
+    css.setPlainText(u"p {}"_s);
+    QApplication::clipboard()->setMimeData(new QMimeData);
+    for (QWidget *field : {static_cast<QWidget *>(&edit), static_cast<QWidget *>(&css)}) {
+        field->show();
+        QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
+    }
+    EXPECT_EQ(edit.toPlainText(), u"kept"_s);
+    EXPECT_EQ(css.toPlainText(), u"p {}"_s);
+}
+
 TEST_F(Edit, PaperIsKeptInTheStyleSheetOnlyWhenItChanges)
 {
     edit.loadDocument(page(sheet, u"<p>x</p>"_s));
