@@ -46,15 +46,9 @@ QList<QAction *> BOMHTMLView::zoomActions() const
 
 void BOMHTMLView::connectActions()
 {
-    const auto connectBar = [this](void (ReportActions::*signal)(), void (FindBar::*slot)()) {
-        connect(m_actions, signal, this, [this, slot] {
-            (void)textEdit();
-            (m_findBar->*slot)();
-        });
-    };
-    connectBar(&ReportActions::findRequested, &FindBar::open);
-    connectBar(&ReportActions::findNextRequested, &FindBar::findNext);
-    connectBar(&ReportActions::findPreviousRequested, &FindBar::findPrevious);
+    connect(m_actions, &ReportActions::findRequested, this, [this] { findBar()->open(); });
+    connect(m_actions, &ReportActions::findNextRequested, this, [this] { findBar()->findNext(); });
+    connect(m_actions, &ReportActions::findPreviousRequested, this, [this] { findBar()->findPrevious(); });
     connect(m_actions, &ReportActions::zoomChanged, this, &BOMHTMLView::showZoom);
 }
 
@@ -165,6 +159,12 @@ void BOMHTMLView::makeFindBar()
     auto *slash = new QShortcut(QKeySequence(Qt::Key_Slash), m_textEdit);
     slash->setContext(Qt::WidgetShortcut);
     connect(slash, &QShortcut::activated, m_findBar, &FindBar::open);
+}
+
+FindBar *BOMHTMLView::findBar()
+{
+    (void)textEdit();
+    return m_findBar;
 }
 
 void BOMHTMLView::showZoom()

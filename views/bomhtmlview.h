@@ -77,6 +77,7 @@ public Q_SLOTS:
 private:
     void makeTextEdit();
     void makeFindBar();
+    [[nodiscard]] FindBar *findBar();
     void connectActions();
     void showZoom();
     void showMenu(const QPoint &place);

@@ -99,7 +99,7 @@ class User:
         return self.wait(f"{role} beside \"{label}\"", found)
 
     def report(self):
-        return self.find("text", "Document").text
+        return self.find("text", "Report").text
 
     # What to do
 
