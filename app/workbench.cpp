@@ -19,6 +19,7 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QProcess>
+#include <QScopedValueRollback>
 
 #include <utility>
 
@@ -519,6 +520,11 @@ void Workbench::showAbout()
 
 bool Workbench::canClose()
 {
+    // A key that still reaches an open menu must not delete the window that the question stands on.
+    if (m_isAskingToClose) {
+        return false;
+    }
+    const QScopedValueRollback asking(m_isAskingToClose, true);
     APPLNWINDOW *window = m_library.module() ? m_library.module()->getprimarywindow() : nullptr;
     return !window || window->canbeclosed();
 }

@@ -105,6 +105,7 @@ private:
     FileLook m_board;
     FileLook m_project;
     /// The files of the design could not be read when they had changed.
+    bool m_isAskingToClose = false;
     bool m_isBehind = false;
     /// The stamp of the reading that the status bar is about.
     quint64 m_statusStamp = 0;
