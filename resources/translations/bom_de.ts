@@ -1383,7 +1383,7 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished">&amp;Ansicht</translation>
+        <translation>&amp;Ansicht</translation>
     </message>
 </context>
 <context>
@@ -5514,11 +5514,11 @@ Trotzdem ausgeben?</translation>
     </message>
     <message>
         <source>Design</source>
-        <translation type="unfinished"></translation>
+        <translation>Entwurf</translation>
     </message>
     <message>
         <source>Read the files of the design again</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateien des Entwurfs neu lesen</translation>
     </message>
 </context>
 <context>
