@@ -16,6 +16,10 @@ public:
     {
     }
 
+    HostMenuBar(const HostMenuBar &) = delete;
+    HostMenuBar &operator=(const HostMenuBar &) = delete;
+    virtual ~HostMenuBar() = default;
+
     /// There are only those that always stand in the window, in the user's language.
     bool loadmenus(const char *name, const QString &language) override;
     void setaccelerators(KEYTRANSLATOR *translator, unsigned table, unsigned flag) override;

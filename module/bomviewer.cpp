@@ -170,9 +170,9 @@ std::optional<REPORTCOUNTS> BOMVIEWER::reportcounts() const
     return counts;
 }
 
-void BOMVIEWER::setreportlistener(std::function<void(bool isReport)> listener)
+void BOMVIEWER::setreportlistener(const std::function<void(bool isReport)> &listener)
 {
-    m_reportListener = std::move(listener);
+    m_reportListener = listener;
 }
 
 QList<UNWRITTENEDITS> BOMVIEWER::unwrittenedits() const

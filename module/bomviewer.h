@@ -44,7 +44,7 @@ public:
     [[nodiscard]] bool isvisible() override;
     [[nodiscard]] bool isbusy() const override;
     [[nodiscard]] std::optional<REPORTCOUNTS> reportcounts() const override;
-    void setreportlistener(std::function<void(bool isReport)> listener) override;
+    void setreportlistener(const std::function<void(bool isReport)> &listener) override;
     [[nodiscard]] QList<UNWRITTENEDITS> unwrittenedits() const override;
     [[nodiscard]] QStringList differinglines(const QStringList &always,
                                              const QStringList &whereFilled) const override;

@@ -51,7 +51,7 @@ public:
     [[nodiscard]] virtual std::optional<REPORTCOUNTS> reportcounts() const { return std::nullopt; }
     /// Who is to hear of changes at once: with true when the report changed, with false when nothing but the
     /// number of pending edits can have. Null for nobody.
-    virtual void setreportlistener(std::function<void(bool isReport)> listener) { Q_UNUSED(listener) }
+    virtual void setreportlistener(const std::function<void(bool isReport)> &) {}
 
     /// The designs, other ones too, for which the client keeps edits.
     [[nodiscard]] virtual QList<UNWRITTENEDITS> unwrittenedits() const { return {}; }

@@ -45,7 +45,7 @@ int main(int argc, char **argv)
     if (!viewer) {
         return 1;
     }
-    QTextStream(stdout) << module->getapplnname() << ' ' << viewer->partcount().value_or(0) << '\n';
+    QTextStream(stdout) << module->getapplnname() << ' ' << viewer->reportcounts().value_or(REPORTCOUNTS()).parts << '\n';
     end(module);
     setapplnprocess(nullptr);
     HostUi::install(nullptr);
