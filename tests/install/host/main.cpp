@@ -45,7 +45,8 @@ int main(int argc, char **argv)
     if (!viewer) {
         return 1;
     }
-    QTextStream(stdout) << module->getapplnname() << ' ' << viewer->reportcounts().value_or(REPORTCOUNTS()).parts << '\n';
+    QTextStream(stdout) << module->getapplnname() << ' '
+                        << viewer->reportcounts().value_or(REPORTCOUNTS()).parts << '\n';
     end(module);
     setapplnprocess(nullptr);
     HostUi::install(nullptr);
