@@ -78,7 +78,8 @@ TEST(FieldNames, ShippedTitlesAreShownInTheLanguageOfTheUser)
     const QCoreApplication application(argc, argv);
     AnyTranslator translator;
     ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
-    for (const FieldMeaning &meaning : names("[own] my number\nMine\n")->meanings()) {
+    const auto all = names("[own] my number\nMine\n");
+    for (const FieldMeaning &meaning : all->meanings()) {
         EXPECT_EQ(shownTitle(meaning), meaning.key == u"own" ? u"my number" : u"translated")
             << meaning.title.toStdString();
     }
