@@ -5,13 +5,13 @@
 #include "app/designbar.h"
 #include "app/droppedfiles.h"
 #include "app/emptypage.h"
+#include "app/programdialogs.h"
 #include "app/programmenus.h"
 #include "app/recentfiles.h"
 #include "app/statusfields.h"
 #include "host/framework/applnmodule.h"
 #include "host/framework/hostui.h"
 #include "richtext/paper/pagepainter.h"
-#include "standalone/buyerfields.h"
 #include "standalone/loadeddesign.h"
 
 #include <QApplication>
@@ -45,8 +45,6 @@ Workbench::Workbench()
     setStarter([](const QStringList &arguments) {
         return QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments);
     });
-    m_statusTimer.setSingleShot(true);
-    m_statusTimer.setInterval(0);
     connectWindow();
     m_window.emptyPage().setExamples(exampleDesigns());
     updateRecentFiles();
@@ -85,7 +83,7 @@ bool Workbench::start(const QString &modulePath)
     }
     m_modulePath = modulePath;
     if (client()) {
-        client()->setreportlistener([this](bool isReport) { reportChanged(isReport); });
+        client()->setreportlistener([this](bool isReport) { m_status.reportChanged(isReport); });
     }
     showStartPage();
     return true;
@@ -95,14 +93,14 @@ void Workbench::connectWindow()
 {
     ProgramMenus &menus = m_window.menus();
     const auto openChosen = [this] {
-        if (const QString path = chosenFile(); !path.isEmpty()) {
+        if (const QString path = dialogs::chosenDesign(&m_window); !path.isEmpty()) {
             (void)open(path);
         }
     };
     const auto openPath = [this](const QString &path) { (void)open(path); };
     connect(&menus, &ProgramMenus::openRequested, this, openChosen);
     connect(&menus, &ProgramMenus::newWindowRequested, this, [this] {
-        if (const QString path = chosenFile(); !path.isEmpty()) {
+        if (const QString path = dialogs::chosenDesign(&m_window); !path.isEmpty()) {
             openInNewWindows({path});
         }
     });
@@ -115,20 +113,13 @@ void Workbench::connectWindow()
     connect(&menus, &ProgramMenus::rereadRequested, this, &Workbench::rereadNow);
     connect(&menus, &ProgramMenus::dnpChosen, this, &Workbench::chooseDnp);
     connect(&menus, &ProgramMenus::variantChosen, this, &Workbench::openVariant);
-    connect(&menus, &ProgramMenus::aboutRequested, this, &Workbench::showAbout);
+    connect(&menus, &ProgramMenus::aboutRequested, this, [this] { dialogs::showAbout(&m_window); });
     connect(&m_window.emptyPage(), &EmptyPage::recentChosen, this, openPath);
     connect(&m_window.emptyPage(), &EmptyPage::unwrittenChosen, this, &Workbench::open);
     connect(&m_window.emptyPage(), &EmptyPage::exampleChosen, this, &Workbench::openExample);
     connect(&m_window, &FrameWindow::filesDropped, this, &Workbench::openDropped);
-    connect(&m_watcher, &FileWatcher::touched, this, &Workbench::checkFiles);
-    connect(&m_statusTimer, &QTimer::timeout, this, &Workbench::updateStatus);
+    connect(&m_files.watcher(), &FileWatcher::touched, this, &Workbench::checkFiles);
     m_window.setCloseQuery([this] { return canClose(); });
-}
-
-QString Workbench::chosenFile()
-{
-    return HostUi::current().openFileName(&m_window, tr("Open Design"), RecentFiles::lastFolder(),
-                                          tr("Designs (*.kicad_sch *.kicad_pro *.csv);;All files (*)"));
 }
 
 bool Workbench::open(const QString &path, const QString &variant)
@@ -139,7 +130,7 @@ bool Workbench::open(const QString &path, const QString &variant)
     }
     DesignClaim claim;
     const bool isMine = m_claim.holds(file);
-    if (!isMine && !claim.take(file) && !isWantedTwice(file)) {
+    if (!isMine && !claim.take(file) && !dialogs::isWantedTwice(&m_window, file)) {
         return false;
     }
     if (!m_session.open(file, {variant})) {
@@ -165,16 +156,6 @@ bool Workbench::open(const QString &path, const QString &variant)
         return false;
     }
     return true;
-}
-
-bool Workbench::isWantedTwice(const QString &file)
-{
-    return HostUi::current().question(&m_window, tr("Open in Another Window"),
-                                      tr("The design \"%1\" is open in another window. Open it here as "
-                                         "well?\n\nEach window has pending edits "
-                                         "of its own, and follows what the other one writes.")
-                                          .arg(QFileInfo(file).fileName()),
-                                      false);
 }
 
 void Workbench::tellOpenFailed(const QString &file)
@@ -247,20 +228,15 @@ void Workbench::closeDesign()
         module->removewindow(window);
         QCoreApplication::sendPostedEvents(object, QEvent::DeferredDelete);
     }
-    m_watcher.setFiles({});
-    m_board.setFile({});
-    m_project.setFile({});
+    m_files.forget();
     m_session.close();
     m_claim = {};
     m_path.clear();
     m_variant.clear();
-    m_isBehind = false;
     m_output.forget();
     m_window.setDesignName({});
     m_window.menus().setVariants({}, {});
-    m_window.status().setProblem({});
-    m_statusTimer.stop();
-    m_window.status().setDesign({});
+    m_status.clear();
     m_window.menus().setDesignOpen(false);
     m_window.setstatustext({});
     showStartPage();
@@ -291,7 +267,8 @@ void Workbench::showDesign()
     m_window.setDesignName(m_variant.isEmpty() ? name : name + QStringLiteral(" [") + m_variant + u']');
     m_window.menus().setVariants(m_session.variants(), m_variant);
     m_window.menus().setDesignOpen(true);
-    watchDesign();
+    m_files.watch(&m_session);
+    m_window.status().setProblem({});
     if (const QString problem = m_fitted.write(*m_session.design()); !problem.isEmpty()) {
         m_window.setstatustext(problem);
     }
@@ -299,23 +276,8 @@ void Workbench::showDesign()
     if (!m_library.module()->getprimarywindow()) {
         m_library.module()->createwindow(&m_window, 0);
     }
-    updateStatus();
+    m_status.update();
     m_reading.finish();
-}
-
-void Workbench::watchDesign()
-{
-    m_board.setFile(boardFileOf(*m_session.design()));
-    m_project.setFile(projectFileOf(*m_session.design()));
-    QStringList files = m_session.files();
-    for (const QString &file : {m_board.file(), m_project.file(), m_session.document().notesFile()}) {
-        if (!file.isEmpty()) {
-            files << file;
-        }
-    }
-    m_watcher.setFiles(files);
-    m_isBehind = false;
-    m_window.status().setProblem({});
 }
 
 bool Workbench::isUserBusy() const
@@ -328,7 +290,7 @@ void Workbench::checkFiles()
 {
     if (isUserBusy()) {
         // A dialog may hold parts, which a new reading would delete; nor is a menu or an editor pulled away.
-        m_watcher.touchLater();
+        m_files.watcher().touchLater();
         return;
     }
     if (m_session.design()) {
@@ -339,17 +301,19 @@ void Workbench::checkFiles()
 
 void Workbench::followChangedFiles()
 {
-    const bool isOtherProject = m_project.hasChanged();
-    // After a failure the design that is shown is an old one, whatever the files look like.
-    if (isOtherProject || m_isBehind || !m_session.changedFiles().isEmpty()) {
+    switch (m_files.takeStale(&m_session)) {
+    case StaleFiles::Design:
         (void)rereadDesign();
-    } else if (m_board.hasChanged()) {
+        break;
+    case StaleFiles::Board:
         rereadBoard();
-    } else if (m_session.document().hasOtherNotes()) {
+        break;
+    case StaleFiles::Notes:
         rereadNotes();
-    } else if (m_statusStamp != m_session.design()->properties().stamp()) {
-        // The module wrote the files, and the session has read them since.
-        updateStatus();
+        break;
+    case StaleFiles::None:
+        m_status.updateIfWritten();
+        break;
     }
 }
 
@@ -359,8 +323,8 @@ void Workbench::rereadNow()
         return;
     }
     if (isUserBusy()) {
-        m_isBehind = true;
-        m_watcher.touchLater();
+        m_files.setBehind(true);
+        m_files.watcher().touchLater();
         m_window.setstatustext(tr("The design is read again as soon as the open editor is closed."));
         return;
     }
@@ -370,14 +334,14 @@ void Workbench::rereadNow()
 bool Workbench::rereadDesign()
 {
     if (!m_session.reread()) {
-        m_isBehind = !m_reading.wasStopped();
+        m_files.setBehind(!m_reading.wasStopped());
         m_reading.finish();
         // It may be half written; the next change of a file reads it again.
         m_window.status().setProblem(m_session.error());
         return false;
     }
     showDesign();
-    const qsizetype pending = m_shownStatus.pending ? client()->reportcounts()->pending : 0;
+    const qsizetype pending = m_status.pending();
     const QString text = tr("%1 was read again.").arg(QFileInfo(m_path).fileName());
     m_window.setstatustext(pending == 0   ? text
                            : pending == 1 ? text + u' ' + tr("1 pending edit is kept.")
@@ -389,7 +353,7 @@ void Workbench::rereadNotes()
 {
     m_session.netlist().invalidateCaches();
     m_library.module()->onvalidate();
-    updateStatus();
+    m_status.update();
 }
 
 void Workbench::rereadBoard()
@@ -397,7 +361,7 @@ void Workbench::rereadBoard()
     if (m_session.rereadBoard()) {
         m_window.status().setProblem({});
         m_library.module()->onvalidate();
-        updateStatus();
+        m_status.update();
     } else {
         m_window.status().setProblem(m_session.error());
     }
@@ -412,7 +376,7 @@ void Workbench::chooseDnp(DnpChoice choice)
     m_session.setDnpChoice(choice);
     m_window.menus().setDnpChoice(choice);
     m_library.module()->onvalidate();
-    updateStatus();
+    m_status.update();
 }
 
 void Workbench::clearRecentFiles()
@@ -423,7 +387,6 @@ void Workbench::clearRecentFiles()
 
 void Workbench::undoLastWrite()
 {
-    const QString question = tr("Take back what was written last into the design \"%1\"?");
     if (!m_session.design()) {
         return;
     }
@@ -437,25 +400,14 @@ void Workbench::undoLastWrite()
             tr("The pending changes were written just now, and would be taken back first."));
         return;
     }
-    if (!HostUi::current().question(&m_window, tr("Undo Last Write"),
-                                    question.arg(QFileInfo(m_path).fileName()), false)) {
+    if (!dialogs::isUndoWanted(&m_window, m_path)) {
         return;
     }
     const UndoResult undone = m_session.undo();
-    if (!undone.files.isEmpty()) {
-        if (m_session.changedFiles().isEmpty()) {
-            showDesign();
-        }
-        QStringList names;
-        for (const QString &file : undone.files) {
-            names << QFileInfo(file).fileName();
-        }
-        m_window.setstatustext(tr("Restored: ") + names.join(QStringLiteral(", ")));
+    if (!undone.files.isEmpty() && m_session.changedFiles().isEmpty()) {
+        showDesign();
     }
-    const QStringList messages = undone.problems + undone.notices;
-    if (!messages.isEmpty()) {
-        HostUi::current().warning(&m_window, tr("Undo Last Write"), messages.join(u'\n'));
-    }
+    dialogs::tellUndone(&m_window, undone);
 }
 
 void Workbench::updateRecentFiles()
@@ -469,53 +421,6 @@ INETCLIENT *Workbench::client() const
 {
     APPLNMODULE *module = m_library.module();
     return module ? static_cast<INETCLIENT *>(module->queryinterface(INTERFACE_NETCLIENT)) : nullptr;
-}
-
-void Workbench::reportChanged(bool isReport)
-{
-    if (isReport) {
-        m_statusTimer.start();
-    } else {
-        updatePending();
-    }
-}
-
-void Workbench::updateStatus()
-{
-    m_statusTimer.stop();
-    if (!m_session.design()) {
-        return;
-    }
-    m_statusStamp = m_session.design()->properties().stamp();
-    ReportStatus report;
-    if (client()) {
-        const TellingProperties telling = tellingProperties(*m_session.design());
-        report = {client()->reportcounts(), client()->differinglines(telling.always, telling.whereFilled)};
-    }
-    m_shownStatus = designStatus(m_session, report);
-    m_window.status().setDesign(m_shownStatus);
-}
-
-void Workbench::updatePending()
-{
-    const auto pending = pendingCount(client()->reportcounts());
-    if (m_session.design() && pending != m_shownStatus.pending) {
-        m_shownStatus.pending = pending;
-        m_window.status().setDesign(m_shownStatus);
-    }
-}
-
-void Workbench::showAbout()
-{
-    HostUi::current().information(
-        &m_window, tr("About Bill of Materials Viewer"),
-        tr("Bill of Materials Viewer %1").arg(QCoreApplication::applicationVersion()) +
-            QStringLiteral("\n\n") +
-            tr("Shows, edits and writes bills of materials of KiCad schematics and projects (versions 6 to "
-               "10) and "
-               "of part lists (CSV).") +
-            QStringLiteral("\n\n") + tr("License: MIT. Copyright 2026 The BOM developers.") + u'\n' +
-            tr("Uses Qt %1.").arg(QString::fromLatin1(qVersion())));
 }
 
 bool Workbench::canClose()

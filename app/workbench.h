@@ -3,21 +3,19 @@
 #pragma once
 
 #include "app/designclaim.h"
+#include "app/designfiles.h"
 #include "app/designreading.h"
-#include "app/designstatus.h"
 #include "app/exampledesigns.h"
-#include "app/filewatcher.h"
 #include "app/fittedfolder.h"
 #include "app/framewindow.h"
 #include "app/lastoutput.h"
 #include "app/modulelibrary.h"
-#include "standalone/companionfiles.h"
+#include "app/statusupdater.h"
 #include "standalone/designsession.h"
 
 #include <QObject>
 #include <QString>
 #include <QStringList>
-#include <QTimer>
 
 #include <functional>
 
@@ -38,7 +36,7 @@ public:
 
     [[nodiscard]] FrameWindow &window() { return m_window; }
     [[nodiscard]] DesignSession &session() { return m_session; }
-    [[nodiscard]] FileWatcher &watcher() { return m_watcher; }
+    [[nodiscard]] FileWatcher &watcher() { return m_files.watcher(); }
     [[nodiscard]] DesignReading &reading() { return m_reading; }
 
     /// Opens a design, as drawn or in a variant, in place of the one that is open. When it cannot be read the
@@ -58,18 +56,14 @@ Q_SIGNALS:
 
 private:
     void connectWindow();
-    [[nodiscard]] QString chosenFile();
     void openVariant(const QString &variant);
     void openExample(const ExampleDesign &example);
     void openDropped(const QStringList &paths);
     void closeDesign();
-    /// Whether the user wants a design that is open in another window in this one, too.
-    [[nodiscard]] bool isWantedTwice(const QString &file);
     void tellOpenFailed(const QString &file);
     void chooseDnp(DnpChoice choice);
     void clearRecentFiles();
     void undoLastWrite();
-    void showAbout();
     /// Asks the module about what is not saved, before another state of the design replaces what is open.
     [[nodiscard]] bool canClose();
     /// The module as a client of the design; null when it is none.
@@ -77,12 +71,8 @@ private:
 
     /// To be called when the session has opened another design, or has read its design again.
     void showDesign();
-    void watchDesign();
     void updateRecentFiles();
     void showStartPage();
-    void updateStatus();
-    void updatePending();
-    void reportChanged(bool isReport);
     void checkFiles();
     void followChangedFiles();
     /// What F5 does.
@@ -100,16 +90,9 @@ private:
     LastOutput m_output{&m_window};
     DesignReading m_reading{&m_window};
     DesignClaim m_claim;
-    FileWatcher m_watcher;
-    QTimer m_statusTimer;
-    FileLook m_board;
-    FileLook m_project;
-    /// The files of the design could not be read when they had changed.
+    DesignFiles m_files;
+    StatusUpdater m_status{&m_session, &m_window.status(), [this] { return client(); }};
     bool m_isAskingToClose = false;
-    bool m_isBehind = false;
-    /// The stamp of the reading that the status bar is about.
-    quint64 m_statusStamp = 0;
-    DesignStatus m_shownStatus;
     std::function<bool(const QStringList &arguments)> m_startProgram;
     QString m_modulePath;
     QString m_error;

@@ -17,25 +17,20 @@
 #include "host/framework/imodule.h"
 #include "host/framework/menubar.h"
 #include "host/widgets/waitcursor.h"
+#include "module/legacyoffer.h"
 #include "module/newtemplatedialog.h"
 #include "module/optionspanel.h"
+#include "module/reportoutputs.h"
+#include "module/unsavedwork.h"
 #include "module/windowactions.h"
 #include "module/windowpages.h"
 #include "templates/templatestore.h"
-#include "views/bomasciiview.h"
-#include "views/bomcsvview.h"
-#include "views/bomexcelview.h"
 #include "views/bomhtmlview.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
-#include <QKeyEvent>
 #include <QMenu>
 #include <QScopedValueRollback>
-#include <QTabWidget>
-#include <QTimer>
-#include <QToolBar>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -49,24 +44,17 @@ constexpr unsigned templatesMenuId = 275;
 constexpr unsigned helpMenuId = 276;
 constexpr unsigned viewMenuId = 277;
 
-/// How long after the window the import of legacy scripts is offered, in milliseconds.
-constexpr int legacyImportDelay = 1200;
-
 } // namespace
 
 BOMMainWindow::BOMMainWindow(BOMPartsDatabase *database, const EditStores &stores, QWidget *parent)
     : APPLNWIDGET(parent)
     , m_database(database)
     , m_stores(stores)
-    , m_importLegacyOnStart(TemplateStore::isLegacyImportPending())
+    , m_legacyOffer(new LegacyOffer([this] { return isBusy(); }, this))
 {
     setObjectName(QStringLiteral("BOMMainWindowClass"));
     setWindowTitle(tr("Bill of Materials Viewer"));
-    // A child: one that waits goes with the window, before the module's library may be unloaded.
-    m_legacyImport = new QTimer(this);
-    m_legacyImport->setSingleShot(true);
-    m_legacyImport->setInterval(legacyImportDelay);
-    connect(m_legacyImport, &QTimer::timeout, this, &BOMMainWindow::offerLegacyImport);
+    connect(m_legacyOffer, &LegacyOffer::due, this, &BOMMainWindow::importLegacyTemplates);
     connect(m_database, &QObject::destroyed, this, &BOMMainWindow::forgetDatabase);
 }
 
@@ -88,6 +76,7 @@ bool BOMMainWindow::createwindow(APPLNFRAME *frame)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_pages);
+    m_outputs = std::make_unique<ReportOutputs>(&m_pages->report(), this);
     m_actions = std::make_unique<WindowActions>(
         this, m_stores.undo, LookActions{m_pages->report().findActions(), m_pages->report().zoomActions()});
     buildBars();
@@ -96,11 +85,8 @@ bool BOMMainWindow::createwindow(APPLNFRAME *frame)
     connectPanel();
     connectViews();
     connectTemplates();
-    m_pages->tabs().installEventFilter(this);
     frame->settitle(windowTitle());
-    if (m_importLegacyOnStart) {
-        m_legacyImport->start();
-    }
+    m_legacyOffer->start();
     return true;
 }
 
@@ -109,8 +95,9 @@ void BOMMainWindow::destroywindow()
     if (getframe()) {
         m_pages->keepPlaces();
     }
-    delete m_fullCsv;
-    delete m_appendNotes;
+    if (m_actions) {
+        m_actions->deleteOptions();
+    }
     APPLNWIDGET::destroywindow();
 }
 
@@ -130,25 +117,6 @@ void BOMMainWindow::onactivate(bool isActive)
     }
 }
 
-bool BOMMainWindow::eventFilter(QObject *watched, QEvent *event)
-{
-    switch (event->type()) {
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::ShortcutOverride: {
-        const auto *key = static_cast<QKeyEvent *>(event);
-        if (watched == &m_pages->tabs() && key->modifiers() == Qt::ControlModifier &&
-            key->key() == Qt::Key_Tab) {
-            return true;
-        }
-        break;
-    }
-    default:
-        break;
-    }
-    return APPLNWIDGET::eventFilter(watched, event);
-}
-
 void BOMMainWindow::buildBars()
 {
     addmenu(editMenuId, m_actions->editMenu(), 0);
@@ -161,11 +129,7 @@ void BOMMainWindow::buildBars()
     if (project) {
         addctrlbar(static_cast<IPROJECT *>(project)->createctrlbar(this), CTRLBAR_FIRST_ROW, CTRLBAR_TOP);
     }
-    m_fullCsv = new QCheckBox(tr("Full CSV"), this);
-    m_fullCsv->setToolTip(tr("One row for each part instead of one for each line of the report"));
-    m_appendNotes = new QCheckBox(tr("Append Project Notes"), this);
-    m_appendNotes->setToolTip(tr("The project notes follow the report on paper and in PDF"));
-    addtoolbar(m_actions->toolBar(m_appendNotes, m_fullCsv));
+    addtoolbar(m_actions->toolBar());
 }
 
 void BOMMainWindow::takeHostMenus()
@@ -201,33 +165,30 @@ void BOMMainWindow::connectActions()
 
 void BOMMainWindow::connectPanel()
 {
-    m_pages->options().setTemplateActions(m_actions->saveTemplate, m_actions->newTemplate,
-                                          m_actions->deleteTemplate);
-    connect(m_fullCsv, &QCheckBox::clicked, this, &BOMMainWindow::settingsChanged);
-    connect(m_appendNotes, &QCheckBox::clicked, this, &BOMMainWindow::settingsChanged);
-    connect(&m_pages->options(), &OptionsPanel::settingsChanged, this, &BOMMainWindow::settingsChanged);
-    connect(&m_pages->options(), &OptionsPanel::templateChosen, this, &BOMMainWindow::loadTemplate);
-    connect(&m_pages->options(), &OptionsPanel::headerEditorRequested, &m_pages->report(),
-            &BOMHTMLView::editTemplate);
-    connect(&m_pages->options(), &OptionsPanel::styleEditorRequested, &m_pages->report(),
-            &BOMHTMLView::editStyleTemplate);
-    connect(&m_pages->options(), &OptionsPanel::notesEditorRequested, this, &BOMMainWindow::editBomNotes);
-    connect(&m_pages->options(), &OptionsPanel::propertyEditorRequested, this,
-            &BOMMainWindow::showGlobalPropertyEditor);
+    OptionsPanel &options = m_pages->options();
+    BOMHTMLView &report = m_pages->report();
+    options.setTemplateActions(m_actions->saveTemplate, m_actions->newTemplate, m_actions->deleteTemplate);
+    connect(m_actions->fullCsv, &QCheckBox::clicked, this, &BOMMainWindow::settingsChanged);
+    connect(m_actions->appendNotes, &QCheckBox::clicked, this, &BOMMainWindow::settingsChanged);
+    connect(&options, &OptionsPanel::settingsChanged, this, &BOMMainWindow::settingsChanged);
+    connect(&options, &OptionsPanel::templateChosen, this, &BOMMainWindow::loadTemplate);
+    connect(&options, &OptionsPanel::headerEditorRequested, &report, &BOMHTMLView::editTemplate);
+    connect(&options, &OptionsPanel::styleEditorRequested, &report, &BOMHTMLView::editStyleTemplate);
+    connect(&options, &OptionsPanel::notesEditorRequested, this, &BOMMainWindow::editBomNotes);
+    connect(&options, &OptionsPanel::propertyEditorRequested, this, &BOMMainWindow::showGlobalPropertyEditor);
 }
 
 void BOMMainWindow::connectViews()
 {
     const auto setModified = qOverload<bool>(&BOMMainWindow::setCurrentTemplateChanged);
-    connect(m_database, &BOMPartsDatabase::dataChanged, &m_pages->dataView(),
-            &BOMDataView::handleBOMDataUpdate);
-    connect(m_database, &BOMPartsDatabase::dataChanged, &m_pages->report(),
-            &BOMHTMLView::handleBOMDataUpdate);
+    BOMHTMLView &report = m_pages->report();
+    BOMDataView &dataView = m_pages->dataView();
+    connect(m_database, &BOMPartsDatabase::dataChanged, &dataView, &BOMDataView::handleBOMDataUpdate);
+    connect(m_database, &BOMPartsDatabase::dataChanged, &report, &BOMHTMLView::handleBOMDataUpdate);
     connect(m_database, &BOMPartsDatabase::currentTemplateModified, this, setModified);
-    connect(&m_pages->report(), &BOMHTMLView::currentTemplateModified, this, setModified);
-    connect(&m_pages->dataView(), &BOMDataView::pendingPropertyAssignments, this,
-            &BOMMainWindow::setPropertiesChanged);
-    connect(&m_pages->dataView(), &BOMDataView::statusMessage, this,
+    connect(&report, &BOMHTMLView::currentTemplateModified, this, setModified);
+    connect(&dataView, &BOMDataView::pendingPropertyAssignments, this, &BOMMainWindow::setPropertiesChanged);
+    connect(&dataView, &BOMDataView::statusMessage, this,
             [this](const QString &text) { getframe()->setstatustext(text); });
     connect(m_stores.assignments, &PropertyAssignments::changed, this,
             [this] { setPropertiesChanged(!m_stores.assignments->isEmpty()); });
@@ -261,22 +222,23 @@ void BOMMainWindow::showTemplate()
     showTemplateNames();
     m_pages->options().showTemplate();
     const BOMTemplate &settings = m_database->currentTemplate();
-    m_fullCsv->setChecked(settings.fullTextOuputs());
-    m_appendNotes->setChecked(settings.appendNotes());
+    m_actions->fullCsv->setChecked(settings.fullTextOuputs());
+    m_actions->appendNotes->setChecked(settings.appendNotes());
     m_actions->deleteTemplate->setEnabled(m_stores.templates->canDelete(m_stores.templates->currentName()));
     showModified();
 }
 
 void BOMMainWindow::showModified()
 {
-    const bool isTemplateModified = m_stores.templates && m_stores.templates->isModified();
-    m_pages->options().setTemplateModified(isTemplateModified);
-    getframe()->setmodified(isTemplateModified || (m_stores.assignments && !m_stores.assignments->isEmpty()));
+    m_pages->options().setTemplateModified(m_stores.templates && m_stores.templates->isModified());
+    getframe()->setmodified(m_stores.hasUnsaved());
 }
 
 void BOMMainWindow::saveTemplate()
 {
-    runOnTemplates(&TemplateStore::saveCurrent);
+    if (m_stores.templates) {
+        (void)m_stores.templates->saveCurrent();
+    }
 }
 
 void BOMMainWindow::loadTemplate(const QString &templateName)
@@ -297,31 +259,32 @@ void BOMMainWindow::newTemplate()
     }
 }
 
-void BOMMainWindow::runOnTemplates(bool (TemplateStore::*command)())
-{
-    if (m_stores.templates) {
-        (void)(m_stores.templates->*command)();
-    }
-}
-
 void BOMMainWindow::deleteTemplate()
 {
-    runOnTemplates(&TemplateStore::deleteCurrent);
+    if (m_stores.templates) {
+        (void)m_stores.templates->deleteCurrent();
+    }
 }
 
 void BOMMainWindow::resetDefaultTemplate()
 {
-    runOnTemplates(&TemplateStore::resetDefault);
+    if (m_stores.templates) {
+        (void)m_stores.templates->resetDefault();
+    }
 }
 
 void BOMMainWindow::importTemplate()
 {
-    runOnTemplates(&TemplateStore::importTemplate);
+    if (m_stores.templates) {
+        (void)m_stores.templates->importTemplate();
+    }
 }
 
 void BOMMainWindow::exportTemplate()
 {
-    runOnTemplates(&TemplateStore::exportTemplate);
+    if (m_stores.templates) {
+        (void)m_stores.templates->exportTemplate();
+    }
 }
 
 void BOMMainWindow::importLegacyTemplates()
@@ -330,21 +293,11 @@ void BOMMainWindow::importLegacyTemplates()
         return;
     }
     BOMTemplateImporter importer(m_stores.templates, m_database, this);
-    if (std::exchange(m_importLegacyOnStart, false)) {
+    if (m_legacyOffer->take()) {
         importer.explain();
     }
     importer.exec();
     TemplateStore::setLegacyImportDone();
-}
-
-void BOMMainWindow::offerLegacyImport()
-{
-    // Not on top of what the user or the program has opened meanwhile.
-    if (QApplication::activeModalWidget() || QApplication::activePopupWidget() || isBusy()) {
-        m_legacyImport->start();
-    } else if (m_importLegacyOnStart) {
-        importLegacyTemplates();
-    }
 }
 
 void BOMMainWindow::setCurrentTemplateChanged(bool hasChanges)
@@ -367,8 +320,8 @@ void BOMMainWindow::settingsChanged()
     }
     BOMTemplate settings = m_database->currentTemplate();
     m_pages->options().takeOptions(&settings);
-    settings.setFullTextOuputs(m_fullCsv->isChecked());
-    settings.setAppendNotes(m_appendNotes->isChecked());
+    settings.setFullTextOuputs(m_actions->fullCsv->isChecked());
+    settings.setAppendNotes(m_actions->appendNotes->isChecked());
     (void)m_database->setTemplateOptions(settings);
 }
 
@@ -388,44 +341,11 @@ void BOMMainWindow::configureAdvancedSettings()
 
 bool BOMMainWindow::canbeclosed()
 {
+    if (!m_pages) {
+        return true;
+    }
     // What is typed into an open cell counts.
-    if (m_pages && !m_pages->dataView().endEditing()) {
-        return false;
-    }
-    const bool isTemplateModified = m_stores.templates && m_stores.templates->isModified();
-    const qsizetype pending = m_stores.assignments ? m_stores.assignments->size() : 0;
-    if (!m_stores.templates || (!isTemplateModified && pending == 0)) {
-        return true;
-    }
-    const QString further =
-        pending == 0 ? QString()
-                     : tr("%1 changes of properties are pending. Save writes them into the design, Discard "
-                          "keeps them for the next time that it is opened.")
-                           .arg(pending);
-    switch (m_stores.templates->askToSave(true, further)) {
-    case HostUi::SaveAnswer::Save:
-        return saveChanges();
-    case HostUi::SaveAnswer::Discard:
-        // The window may stay, and one that is made anew shows what is being worked on.
-        if (isTemplateModified) {
-            m_stores.templates->discardChanges();
-        }
-        return true;
-    case HostUi::SaveAnswer::Cancel:
-        break;
-    }
-    return false;
-}
-
-bool BOMMainWindow::saveChanges()
-{
-    if (m_stores.templates->isModified() && !m_stores.templates->saveCurrent()) {
-        return false;
-    }
-    if (m_pages->dataView().hasPendingAssignments()) {
-        m_pages->dataView().applyPropertyValues();
-    }
-    return !m_stores.assignments || m_stores.assignments->isEmpty();
+    return m_pages->dataView().endEditing() && settleUnsavedWork(m_stores, &m_pages->dataView());
 }
 
 bool BOMMainWindow::isBusy() const
@@ -468,61 +388,22 @@ void BOMMainWindow::forgetDatabase()
         m_pages->dataView().setAssignments(nullptr);
         m_pages->options().setPartsDatabase(nullptr);
     }
-    if (m_excelView) {
-        m_excelView->setPartsDatabase(nullptr);
+    if (m_outputs) {
+        m_outputs->forgetDatabase();
     }
-}
-
-bool BOMMainWindow::acceptDuplicates()
-{
-    QStringList references = m_database->duplicateReferences();
-    if (references.isEmpty()) {
-        return true;
-    }
-    references.removeDuplicates();
-    return HostUi::current().question(
-        this, tr("Duplicate References Detected"),
-        tr("The following references have duplicates:\n%1\nGenerate output anyway?")
-            .arg(references.join(QStringLiteral(", "))),
-        false);
 }
 
 void BOMMainWindow::outputBOM()
 {
-    if (!m_database || !acceptDuplicates()) {
+    const auto *action = qobject_cast<QAction *>(sender());
+    if (!m_database || !action) {
         return;
     }
-    const QObject *action = sender();
-    if (action == m_actions->pdf) {
-        m_pages->report().generatePDF();
-    } else if (action == m_actions->print) {
-        m_pages->report().print();
-    } else if (action == m_actions->html) {
-        const WaitCursor cursor;
-        m_pages->report().saveHTML();
-    } else if (action == m_actions->csv) {
-        const WaitCursor cursor;
-        BOMCsvView view(this, m_fullCsv->isChecked());
-        view.setPartsDatabase(m_database);
-        view.writeOutput();
-    } else if (action == m_actions->ascii) {
-        const WaitCursor cursor;
-        BOMAsciiView view(this);
-        view.setPartsDatabase(m_database);
-        view.writeOutput();
-    } else if (action == m_actions->excel) {
-        writeSpreadsheet();
+    auto form = action->data().value<OutputForm>();
+    if (form == OutputForm::Csv && m_actions->fullCsv->isChecked()) {
+        form = OutputForm::FullCsv;
     }
-}
-
-void BOMMainWindow::writeSpreadsheet()
-{
-    const WaitCursor cursor;
-    if (!m_excelView) {
-        m_excelView = new BOMExcelView(this);
-    }
-    m_excelView->setPartsDatabase(m_database);
-    m_excelView->writeOutput();
+    m_outputs->write(form, m_database);
 }
 
 void BOMMainWindow::manualReload()

@@ -3,29 +3,17 @@
 #pragma once
 
 #include "host/widgets/applnwidget.h"
+#include "module/unsavedwork.h"
 
-#include <QPointer>
 #include <QString>
 
 #include <memory>
 
-class BOMExcelView;
 class BOMPartsDatabase;
-class PendingUndo;
-class PropertyAssignments;
-class QCheckBox;
-class QTimer;
-class TemplateStore;
+class LegacyOffer;
+class ReportOutputs;
 class WindowActions;
 class WindowPages;
-
-/// What the module keeps of the user's work, whatever becomes of its window.
-struct EditStores
-{
-    QPointer<PropertyAssignments> assignments;
-    QPointer<PendingUndo> undo;
-    QPointer<TemplateStore> templates;
-};
 
 /// The module's window: the report, the property editor and the options of the template, and the commands
 /// that write the report elsewhere.
@@ -57,10 +45,6 @@ public:
 Q_SIGNALS:
     /// The user has come to the window.
     void activated();
-
-protected:
-    /// Keeps Ctrl+Tab from the tabs; hosts switch windows with it.
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private Q_SLOTS:
     void saveTemplate();
@@ -100,27 +84,18 @@ private:
     void showTemplateNames();
     void showTemplate();
     void showModified();
-    void runOnTemplates(bool (TemplateStore::*command)());
     void forgetDatabase();
-    /// Asks when references occur more than once; false when the user then wants no report.
-    [[nodiscard]] bool acceptDuplicates();
-    void writeSpreadsheet();
-    [[nodiscard]] bool saveChanges();
     /// Offers what an earlier run left of the design that is open, once for each design.
     void offerEarlier();
-    void offerLegacyImport();
 
     BOMPartsDatabase *m_database;
     EditStores m_stores;
     std::unique_ptr<WindowActions> m_actions;
     WindowPages *m_pages = nullptr;
-    BOMExcelView *m_excelView = nullptr;
-    QTimer *m_legacyImport = nullptr;
-    QPointer<QCheckBox> m_fullCsv;
-    QPointer<QCheckBox> m_appendNotes;
+    std::unique_ptr<ReportOutputs> m_outputs;
+    LegacyOffer *m_legacyOffer;
     bool m_isFilled = false;
     /// The edits of an earlier run were offered for the design that is open.
     bool m_isEarlierOffered = false;
     bool m_isReviewing = false;
-    bool m_importLegacyOnStart;
 };

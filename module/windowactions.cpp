@@ -5,6 +5,7 @@
 #include "editors/pendingundo.h"
 #include "host/framework/applnframe.h"
 #include "host/widgets/applnwidget.h"
+#include "module/reportoutputs.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -77,9 +78,19 @@ void WindowActions::addOutputs()
     ascii = add({tr("&ASCII"), modulePicture(QStringLiteral("ascii")), tr("Output BOM in ASCII")});
     print = add({tr("&Print"), hostPicture(QStringLiteral("print")), tr("Print BOM")});
     excel = add({tr("&Open In Excel"), modulePicture(QStringLiteral("excel")), tr("Output BOM to Excel")});
+    html->setData(QVariant::fromValue(OutputForm::Html));
+    pdf->setData(QVariant::fromValue(OutputForm::Pdf));
+    csv->setData(QVariant::fromValue(OutputForm::Csv));
+    ascii->setData(QVariant::fromValue(OutputForm::Ascii));
+    print->setData(QVariant::fromValue(OutputForm::Print));
+    excel->setData(QVariant::fromValue(OutputForm::Spreadsheet));
     setPaper = add({tr("&Set Paper"), modulePicture(QStringLiteral("paper_setup")),
                     tr("Set paper for printing and PDF output")});
     advancedSettings = add({tr("Advanced Settings"), {}, tr("Additional BOM settings")});
+    fullCsv = new QCheckBox(tr("Full CSV"), m_window);
+    fullCsv->setToolTip(tr("One row for each part instead of one for each line of the report"));
+    appendNotes = new QCheckBox(tr("Append Project Notes"), m_window);
+    appendNotes->setToolTip(tr("The project notes follow the report on paper and in PDF"));
 }
 
 void WindowActions::addTemplates()
@@ -143,7 +154,7 @@ QMenu *WindowActions::viewMenu() const
     return menu;
 }
 
-QToolBar *WindowActions::toolBar(QCheckBox *appendNotes, QCheckBox *fullCsv) const
+QToolBar *WindowActions::toolBar() const
 {
     auto *bar = new QToolBar(tr("BOM"), m_window);
     bar->setObjectName(QStringLiteral("bomToolBar"));
@@ -155,4 +166,10 @@ QToolBar *WindowActions::toolBar(QCheckBox *appendNotes, QCheckBox *fullCsv) con
     bar->addSeparator();
     bar->addActions({find, replace});
     return bar;
+}
+
+void WindowActions::deleteOptions()
+{
+    delete fullCsv;
+    delete appendNotes;
 }

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QKeySequence>
 #include <QList>
+#include <QPointer>
 #include <QString>
 
 class APPLNWIDGET;
@@ -36,7 +37,10 @@ public:
     [[nodiscard]] QMenu *templatesMenu() const;
     [[nodiscard]] QMenu *helpMenu() const;
     [[nodiscard]] QMenu *viewMenu() const;
-    [[nodiscard]] QToolBar *toolBar(QCheckBox *appendNotes, QCheckBox *fullCsv) const;
+    /// The options of the outputs stand in it as well.
+    [[nodiscard]] QToolBar *toolBar() const;
+    /// To be called when the frame has taken the tool bar away and the window stays.
+    void deleteOptions();
 
     QAction *undo = nullptr;
     QAction *redo = nullptr;
@@ -54,6 +58,9 @@ public:
     QAction *excel = nullptr;
     QAction *setPaper = nullptr;
     QAction *advancedSettings = nullptr;
+
+    QPointer<QCheckBox> fullCsv;
+    QPointer<QCheckBox> appendNotes;
 
     QAction *saveTemplate = nullptr;
     QAction *newTemplate = nullptr;

@@ -10,6 +10,7 @@
 #include "module/optionspanel.h"
 #include "views/bomhtmlview.h"
 
+#include <QKeyEvent>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
@@ -47,6 +48,7 @@ WindowPages::WindowPages(QWidget *parent)
 {
     m_tabs->setObjectName(QStringLiteral("tabWidget"));
     m_tabs->setDocumentMode(true);
+    m_tabs->installEventFilter(this);
     m_report->setObjectName(QStringLiteral("bomHTMLView"));
     addPage(m_report, QStringLiteral("bomHTMLViewTab"), tr("BOM Report"));
     m_dataView->setObjectName(QStringLiteral("bomDataView"));
@@ -58,6 +60,19 @@ WindowPages::WindowPages(QWidget *parent)
     makeAccessiblePane(this);
     new PaneKeys(this, {m_dock, m_tabs->tabBar(), m_report, m_dataView});
     restorePlaces();
+}
+
+bool WindowPages::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease ||
+                       event->type() == QEvent::ShortcutOverride;
+    if (isKey && watched == m_tabs) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->modifiers() == Qt::ControlModifier && key->key() == Qt::Key_Tab) {
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void WindowPages::addPage(QWidget *view, const QString &name, const QString &title)

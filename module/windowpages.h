@@ -28,6 +28,10 @@ public:
     /// Width and fold of the panel are kept from one run to the next.
     void keepPlaces() const;
 
+protected:
+    /// Keeps Ctrl+Tab from the tabs; hosts switch windows with it.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void addPage(QWidget *view, const QString &name, const QString &title);
     void restorePlaces();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 /// Shows the pointer that asks for patience while it lives.

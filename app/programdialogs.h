@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The BOM developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+class FrameWindow;
+struct UndoResult;
+
+/// What the program asks and tells above its window.
+namespace dialogs {
+
+/// The file that the user chooses to open; empty for none.
+[[nodiscard]] QString chosenDesign(FrameWindow *window);
+/// Whether the user wants a design that is open in another window in this one, too.
+[[nodiscard]] bool isWantedTwice(FrameWindow *window, const QString &file);
+/// Whether what was written last into the design is to be taken back.
+[[nodiscard]] bool isUndoWanted(FrameWindow *window, const QString &file);
+void tellUndone(FrameWindow *window, const UndoResult &undone);
+void showAbout(FrameWindow *window);
+
+} // namespace dialogs
