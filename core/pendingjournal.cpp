@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/pendingjournal.h"
 
+#include "files/regularfile.h"
+
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
@@ -292,9 +294,11 @@ bool PendingJournal::rewrite(const QList<PendingEdit> &all)
         text += line(setKey, toJson(edit));
     }
     QSaveFile file(m_file.path);
-    if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner) ||
-        file.write(text) != text.size() || !file.commit()) {
+    if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)) {
         return fail(file.errorString());
+    }
+    if (QString reason; !writeReplacement(&file, text, &reason)) {
+        return fail(reason);
     }
     m_lines = all.size();
     return true;

@@ -117,6 +117,9 @@ public:
 
     /// See PendingDesigns::unwritten().
     [[nodiscard]] QList<UnwrittenDesign> unwritten() const { return m_designs.unwritten(); }
+    /// Why the edits are not in the journal as they are now; empty when they are.
+    [[nodiscard]] const QString &journalError() const { return m_designs.journalError(); }
+
     /// How many edits of the open design an earlier run of the program left in the journal; they wait for
     /// takeUp().
     [[nodiscard]] qsizetype leftFromEarlier() const;

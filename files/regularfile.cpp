@@ -76,3 +76,18 @@ bool openForReplacing(QSaveFile *file, QIODevice::OpenMode mode, QString *reason
     *reason = isOpen ? *reason : file->errorString();
     return isOpen;
 }
+
+bool writeReplacement(QSaveFile *file, const QByteArray &bytes, QString *reason)
+{
+    const bool isWritten = file->write(bytes) == bytes.size() && file->flush();
+    // Some file systems find out only now that there is no room; others cannot be asked.
+    if (isWritten && ::fsync(file->handle()) != 0 && errno != EINVAL && errno != ENOTSUP) {
+        *reason = qt_error_string(errno);
+        return false;
+    }
+    if (isWritten && file->commit()) {
+        return true;
+    }
+    *reason = file->errorString();
+    return false;
+}

@@ -23,3 +23,8 @@
 /// Opens a file that replaces the one of its name when it is committed. Refuses a symbolic link that leads
 /// only to itself: the new file would stand in its place.
 [[nodiscard]] bool openForReplacing(QSaveFile *file, QIODevice::OpenMode mode, QString *reason);
+
+/// Gives such a file its content, which stands in the place of the old one once it is on the disk. Otherwise
+/// the old one stays, and `reason` says why. QSaveFile::commit() alone misses a full disk when what it still
+/// buffers does not fit.
+[[nodiscard]] bool writeReplacement(QSaveFile *file, const QByteArray &bytes, QString *reason);

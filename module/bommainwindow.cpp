@@ -205,6 +205,11 @@ void BOMMainWindow::connectTemplates()
     connect(store, &TemplateStore::namesChanged, this, &BOMMainWindow::showTemplateNames);
     connect(store, &TemplateStore::currentChanged, this, &BOMMainWindow::showTemplate);
     connect(store, &TemplateStore::modifiedChanged, this, &BOMMainWindow::showModified);
+    connect(store, &TemplateStore::ownCopyMade, this, [this](const QString &name) {
+        getframe()->setstatustext(tr("The template '%1' is your own from now on, for every design. Delete "
+                                     "Template brings back the one that comes with the program.")
+                                      .arg(name));
+    });
     showTemplate();
 }
 
@@ -212,6 +217,7 @@ void BOMMainWindow::showTemplateNames()
 {
     m_pages->options().setTemplateNames(m_stores.templates->templates().names(),
                                         m_stores.templates->currentName());
+    m_actions->deleteTemplate->setEnabled(m_stores.templates->canDelete(m_stores.templates->currentName()));
 }
 
 void BOMMainWindow::showTemplate()
@@ -224,7 +230,6 @@ void BOMMainWindow::showTemplate()
     const BOMTemplate &settings = m_database->currentTemplate();
     m_actions->fullCsv->setChecked(settings.fullTextOuputs());
     m_actions->appendNotes->setChecked(settings.appendNotes());
-    m_actions->deleteTemplate->setEnabled(m_stores.templates->canDelete(m_stores.templates->currentName()));
     showModified();
 }
 

@@ -9,10 +9,8 @@
 #include "templates/templatepaths.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QWidget>
 
-#include <optional>
 #include <utility>
 
 ModuleTemplates::ModuleTemplates(const APPLNPROCESS *process, BOMPartsDatabase &database)
@@ -49,14 +47,8 @@ void ModuleTemplates::setDialogParent(QWidget *window)
 
 void ModuleTemplates::refresh()
 {
-    const QString name = m_store.currentName();
-    const BOMTemplate known = m_store.templates().stored(name);
-    QString problem;
-    const auto now = m_isLoaded && !m_store.isModified() && QFileInfo::exists(known.filePath())
-                         ? BOMTemplate::fromFile(known.filePath(), &problem)
-                         : std::nullopt;
-    if (now && now->toVariantMap() != known.toVariantMap()) {
-        m_store.reload();
+    if (m_isLoaded) {
+        m_store.followFiles();
     }
 }
 

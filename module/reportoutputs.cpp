@@ -71,7 +71,7 @@ bool ReportOutputs::acceptDuplicates(const BOMPartsDatabase &database) const
         return true;
     }
     references.removeDuplicates();
-    return HostUi::current().question(
+    return HostUi::current().warningQuestion(
         m_window, tr("Duplicate References Detected"),
         tr("The following references have duplicates:\n%1\nGenerate output anyway?")
             .arg(references.join(QStringLiteral(", "))),

@@ -17,15 +17,27 @@ struct Texts
     Q_DECLARE_TR_FUNCTIONS(BOMMainWindow)
 
 public:
-    [[nodiscard]] static QString question(qsizetype pending)
+    [[nodiscard]] static QString pending(qsizetype count)
     {
-        return pending == 0
-                   ? QString()
-                   : tr("%1 changes of properties are pending. Save writes them into the design, Discard "
-                        "keeps them for the next time that it is opened.")
-                         .arg(pending);
+        return count == 1 ? tr("One change of a property is pending.")
+                          : tr("%1 changes of properties are pending.").arg(count);
+    }
+    [[nodiscard]] static QString choice(bool isKept)
+    {
+        return isKept
+                   ? tr("Save writes into the design, Discard keeps what is pending for the next time that "
+                        "the design is opened.")
+                   : tr("Save writes into the design. Discard loses what is pending: it could not be kept "
+                        "beside the program's settings.");
     }
 };
+
+QString pendingText(const PropertyAssignments *assignments)
+{
+    return assignments && !assignments->isEmpty() ? Texts::pending(assignments->size()) + u' ' +
+                                                        Texts::choice(assignments->journalError().isEmpty())
+                                                  : QString();
+}
 
 bool isTemplateModified(const EditStores &stores)
 {
@@ -55,8 +67,7 @@ bool settleUnsavedWork(const EditStores &stores, BOMDataView *view)
     if (!stores.templates || !stores.hasUnsaved()) {
         return true;
     }
-    const qsizetype pending = stores.assignments ? stores.assignments->size() : 0;
-    switch (stores.templates->askToSave(true, Texts::question(pending))) {
+    switch (stores.templates->askToSave(true, pendingText(stores.assignments))) {
     case HostUi::SaveAnswer::Save:
         return save(stores, view);
     case HostUi::SaveAnswer::Discard:

@@ -55,14 +55,7 @@ bool removeFile(const QString &path, QString *reason)
 bool saveFile(const QString &path, const QByteArray &bytes, QString *reason)
 {
     QSaveFile file(path);
-    if (!openForReplacing(&file, QIODevice::WriteOnly, reason)) {
-        return false;
-    }
-    if (file.write(bytes) == bytes.size() && file.commit()) {
-        return true;
-    }
-    *reason = file.errorString();
-    return false;
+    return openForReplacing(&file, QIODevice::WriteOnly, reason) && writeReplacement(&file, bytes, reason);
 }
 
 bool replaceFile(const QString &path, const QByteArray &bytes, QString *reason)

@@ -94,21 +94,24 @@ bool BOMTemplateFile::writeXmlFile(const QVariantMap &map, QString *problem) con
         *problem = located(tr("the template's name cannot be a file name"));
         return false;
     }
-    QSaveFile file(m_filePath);
-    QString reason;
-    if (!openForReplacing(&file, QIODevice::WriteOnly | QIODevice::Text, &reason)) {
-        *problem = located(reason);
+    const auto bytes = document(map, problem);
+    if (!bytes) {
         return false;
     }
-    const bool isWritten = writeDocument(file, map, problem) && file.commit();
-    if (file.error() != QFileDevice::NoError)
-        *problem = located(file.errorString());
+    QSaveFile file(m_filePath);
+    QString reason;
+    const bool isWritten = openForReplacing(&file, QIODevice::WriteOnly | QIODevice::Text, &reason) &&
+                           writeReplacement(&file, *bytes, &reason);
+    if (!isWritten) {
+        *problem = located(reason);
+    }
     return isWritten;
 }
 
-bool BOMTemplateFile::writeDocument(QIODevice &device, const QVariantMap &map, QString *problem) const
+std::optional<QByteArray> BOMTemplateFile::document(const QVariantMap &map, QString *problem) const
 {
-    QXmlStreamWriter writer(&device);
+    QByteArray bytes;
+    QXmlStreamWriter writer(&bytes);
     writer.setAutoFormatting(true);
     writer.writeStartDocument();
     writer.writeStartElement(RootName);
@@ -117,9 +120,11 @@ bool BOMTemplateFile::writeDocument(QIODevice &device, const QVariantMap &map, Q
     writer.writeEndElement();
     writer.writeEndDocument();
 
-    if (writer.hasError())
+    if (writer.hasError()) {
         *problem = located(tr("a text holds a character that XML cannot carry"));
-    return !writer.hasError();
+        return std::nullopt;
+    }
+    return bytes;
 }
 
 QString BOMTemplateFile::located(const QString &problem, qint64 line) const

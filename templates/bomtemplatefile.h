@@ -46,8 +46,8 @@ public:
     /// character that XML cannot carry.
     [[nodiscard]] bool writeXmlFile(const QVariantMap &map, QString *problem) const;
 
-    /// As writeXmlFile(), to a device that is open for writing.
-    [[nodiscard]] bool writeDocument(QIODevice &device, const QVariantMap &map, QString *problem) const;
+    /// What writeXmlFile() writes; nothing, with the problem, when it cannot be said in XML.
+    [[nodiscard]] std::optional<QByteArray> document(const QVariantMap &map, QString *problem) const;
 
 private:
     [[nodiscard]] QString located(const QString &problem, qint64 line = 0) const;

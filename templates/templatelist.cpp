@@ -7,7 +7,7 @@
 #include "templates/templatemessages.h"
 #include "templates/templatepaths.h"
 
-#include <QBuffer>
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
@@ -34,14 +34,15 @@ std::optional<QByteArray> contentOf(const QString &path, QString *reason)
     return contentOfRegularFile(path, BOMTemplateFile::MaximumSize, reason);
 }
 
-std::optional<QByteArray> newDocument(const BOMTemplate &settings, QString *reason)
+QStringList filesNow()
 {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    if (!BOMTemplateFile(settings.filePath()).writeDocument(buffer, settings.toVariantMap(), reason)) {
-        return std::nullopt;
+    QStringList files;
+    for (const TemplateFile &file : templateFiles()) {
+        const QFileInfo info(file.path);
+        files << file.path + u'|' + info.lastModified().toString(Qt::ISODateWithMs) + u'|' +
+                     QString::number(info.size());
     }
-    return buffer.data();
+    return files;
 }
 
 } // namespace
@@ -59,8 +60,14 @@ void TemplateList::read()
     arrangeNames();
 }
 
+bool TemplateList::isStale() const
+{
+    return m_filesRead != filesNow();
+}
+
 void TemplateList::readFolders()
 {
+    m_filesRead = filesNow();
     for (const TemplateFile &file : templateFiles()) {
         m_templates.insert(file.name, BOMTemplate(file.name, file.path));
         m_names.append(file.name);
@@ -212,6 +219,7 @@ std::optional<QByteArray> TemplateList::document(const QString &name, QString *r
     // The HTML file of an old template stays behind, and what a file of an old version lacks may have another
     // meaning one day.
     const bool isOld = upgradeTemplate(settings) || settings.isOfEarlierVersion();
-    return QFileInfo::exists(settings.filePath()) && !isOld ? contentOf(settings.filePath(), reason)
-                                                            : newDocument(settings, reason);
+    return QFileInfo::exists(settings.filePath()) && !isOld
+               ? contentOf(settings.filePath(), reason)
+               : BOMTemplateFile(settings.filePath()).document(settings.toVariantMap(), reason);
 }

@@ -32,6 +32,8 @@ public:
 
     /// Reads folders and legacy settings file anew.
     void read();
+    /// Whether the folders have other files than they had then.
+    [[nodiscard]] bool isStale() const;
 
     /// The user's own by name, "Default" in front unless it has a place of its own, then those that come with
     /// the system; new ones at the end.
@@ -72,4 +74,6 @@ private:
     std::unique_ptr<QSettings> m_legacySettings;
     QMap<QString, BOMTemplate> m_templates;
     QStringList m_names;
+    /// Each file with its time of change and size.
+    QStringList m_filesRead;
 };

@@ -26,6 +26,14 @@ QString withSuffix(const QString &path)
     return QFileInfo(path).suffix().isEmpty() && !QFileInfo::exists(completed) ? completed : path;
 }
 
+/// Whether a file holds a template with other settings than these. False when it holds none.
+bool isOtherThan(const BOMTemplate &known, const QString &path)
+{
+    QString problem;
+    const auto now = QFileInfo::exists(path) ? BOMTemplate::fromFile(path, &problem) : std::nullopt;
+    return now && now->toVariantMap() != known.toVariantMap();
+}
+
 } // namespace
 
 TemplateStore::TemplateStore(WorkingTemplate *working, QObject *parent)
@@ -36,13 +44,36 @@ TemplateStore::TemplateStore(WorkingTemplate *working, QObject *parent)
 
 void TemplateStore::reload()
 {
+    read(HostSettings::current().value(settingsGroup, currentKey).value_or(QString()));
+}
+
+void TemplateStore::followFiles()
+{
+    if (m_currentName.isEmpty() || !m_list.isStale()) {
+        return;
+    }
+    const BOMTemplate known = m_list.stored(m_currentName);
+    const QString own = templateFilePath(m_currentName);
+    if (!m_isModified && isOtherThan(known, QFileInfo::exists(own) ? own : known.filePath())) {
+        // Not the remembered one: other windows remember what was chosen there.
+        const QString name = m_currentName; // read() clears it
+        read(name);
+        return;
+    }
+    m_list.read();
+    // What was worked on since it was read is compared with its file when it is saved.
+    (void)m_list.put(known);
+    Q_EMIT namesChanged();
+}
+
+void TemplateStore::read(const QString &wanted)
+{
     m_currentName.clear();
     m_list.read();
     setModified(false);
     Q_EMIT namesChanged();
-    const QString remembered = HostSettings::current().value(settingsGroup, currentKey).value_or(QString());
     const QStringList &names = m_list.names();
-    select(names.contains(remembered) ? remembered : names.constFirst());
+    select(names.contains(wanted) ? wanted : names.constFirst());
 }
 
 bool TemplateStore::canDelete(const QString &name) const
@@ -156,24 +187,36 @@ bool TemplateStore::saveAndList(BOMTemplate settings)
 
 bool TemplateStore::save(const QString &name)
 {
+    const bool wasShipped = m_list.isShipped(name);
     if (name.isEmpty() || !mayReplace(name) || !saveAndList(workingSettings(name))) {
         return false;
     }
     setModified(false);
+    if (wasShipped) {
+        Q_EMIT ownCopyMade(name);
+    }
     return true;
 }
 
 bool TemplateStore::mayReplace(const QString &name) const
 {
     const BOMTemplate stored = m_list.stored(name);
-    if (!stored.isOfLaterVersion()) {
-        return true;
+    if (stored.isOfLaterVersion()) {
+        const QString question =
+            tr("Saving the BOM template '%1' replaces a file of a later version of this program "
+               "and loses what this version does not know.  Save it nevertheless?");
+        return HostUi::current().question(m_dialogParent, stored.laterVersionMessage().title,
+                                          question.arg(name), false);
     }
-    const TemplateMessage message = stored.laterVersionMessage();
-    const QString question =
-        tr("Saving the BOM template '%1' replaces a file of a later version of this program "
-           "and loses what this version does not know.  Save it nevertheless?");
-    return HostUi::current().question(m_dialogParent, message.title, question.arg(name), false);
+    const QString target = templateFilePath(name);
+    const bool isLost = stored.filePath() == target ? isOtherThan(stored, target) : QFileInfo::exists(target);
+    return !isLost ||
+           HostUi::current().question(
+               m_dialogParent, tr("BOM Template Changed"),
+               tr("The BOM template '%1' was changed in another window or by another program since it was "
+                  "read.  Replace it with what this window has?")
+                   .arg(name),
+               false);
 }
 
 QString TemplateStore::creationProblem(const QString &name) const
@@ -181,7 +224,12 @@ QString TemplateStore::creationProblem(const QString &name) const
     if (name.trimmed().isEmpty() || m_list.contains(name)) {
         return tr("The name must not be blank or used already");
     }
-    return isTemplateFileName(name) ? QString() : tr("The name must be one that a file can have");
+    if (!isTemplateFileName(name)) {
+        return tr("The name must be one that a file can have");
+    }
+    // Another window may have made one since the folders were read.
+    return QFileInfo(templateFilePath(name)).isFile() ? tr("The name must not be blank or used already")
+                                                      : QString();
 }
 
 bool TemplateStore::refuseToCreate(const QString &name) const

@@ -50,6 +50,9 @@ public:
     /// Reads folders and legacy settings file anew and selects the remembered template, else the first one.
     /// Unsaved changes are dropped without a question.
     void reload();
+    /// Reads what has changed in the folders since they were read. The current template stays current, with
+    /// its new settings if there are no unsaved changes.
+    void followFiles();
 
     /// The templates that there are.
     [[nodiscard]] const TemplateList &templates() const { return m_list; }
@@ -76,7 +79,7 @@ public:
     void discardChanges();
 
     /// Writes the working settings under a name, always into the primary folder. Asks before it replaces a
-    /// file of a later version.
+    /// file of a later version, or one that has been changed since it was read.
     bool save(const QString &name);
     bool saveCurrent() { return save(m_currentName); }
 
@@ -126,8 +129,11 @@ Q_SIGNALS:
     /// Also when a selection was abandoned, so that a list box can be put back.
     void currentChanged(const QString &name);
     void modifiedChanged(bool modified);
+    /// A template that comes with the system was saved, and is the user's own from now on.
+    void ownCopyMade(const QString &name);
 
 private:
+    void read(const QString &wanted);
     void put(const BOMTemplate &settings);
     /// Makes the settings the working ones, with the header of an old HTML file.
     void handOver(BOMTemplate settings, const std::function<void()> &announce);

@@ -42,6 +42,13 @@ public:
     [[nodiscard]] virtual bool question(QWidget *parent, const QString &title, const QString &text,
                                         bool defaultYes) = 0;
 
+    /// The same in a box that warns.
+    [[nodiscard]] virtual bool warningQuestion(QWidget *parent, const QString &title, const QString &text,
+                                               bool defaultYes)
+    {
+        return question(parent, title, text, defaultYes);
+    }
+
     /// What to do with unsaved changes: Save, which is what a bare Return answers, Discard, and `withCancel`
     /// Cancel.
     [[nodiscard]] virtual SaveAnswer saveQuestion(QWidget *parent, const QString &title, const QString &text,

@@ -29,14 +29,16 @@ bool isSpecialFile(const QString &path)
     return info.exists() && !info.isFile() && !info.isDir();
 }
 
-template<typename File, typename Finish>
-ReportFileResult write(File &file, const QByteArray &bytes, QString *reason, Finish finish)
+/// Writes to a device: what arrived there stays.
+ReportFileResult writeDevice(const QString &path, const QByteArray &bytes, QString *reason)
 {
-    if (file.write(bytes) != bytes.size() || !finish(file)) {
-        *reason = file.errorString();
-        return ReportFileResult::NotWritten;
+    QFile device(path);
+    const bool isOpen = device.open(QIODevice::Append | QIODevice::Text);
+    if (isOpen && device.write(bytes) == bytes.size() && device.flush()) {
+        return ReportFileResult::Written;
     }
-    return ReportFileResult::Written;
+    *reason = device.errorString();
+    return isOpen ? ReportFileResult::NotWritten : ReportFileResult::NotOpened;
 }
 
 } // namespace
@@ -46,18 +48,13 @@ ReportFileResult writeReportFile(const QString &path, const QByteArray &bytes, Q
     QString unwanted;
     reason = reason ? reason : &unwanted;
     if (isSpecialFile(path)) {
-        QFile device(path);
-        if (!device.open(QIODevice::Append | QIODevice::Text)) {
-            *reason = device.errorString();
-            return ReportFileResult::NotOpened;
-        }
-        return write(device, bytes, reason, [](QFile &file) { return file.flush(); });
+        return writeDevice(path, bytes, reason);
     }
     QSaveFile file(path);
     if (!openForReplacing(&file, QIODevice::WriteOnly | QIODevice::Text, reason)) {
         return ReportFileResult::NotOpened;
     }
-    return write(file, bytes, reason, [](QSaveFile &saved) { return saved.commit(); });
+    return writeReplacement(&file, bytes, reason) ? ReportFileResult::Written : ReportFileResult::NotWritten;
 }
 
 QString reportFileMessage(ReportFileResult result, const QString &path, const QString &reason)

@@ -276,14 +276,8 @@ bool save_defaultdefs(const PROPTEXT &text)
     }
     QSaveFile file(theFile);
     QString reason;
-    if (!openForReplacing(&file, QIODevice::WriteOnly, &reason)) {
-        return false;
-    }
-    const QByteArray bytes = text.toBytes();
-    if (file.write(bytes) != bytes.size()) {
-        file.cancelWriting();
-    }
-    return file.commit();
+    return openForReplacing(&file, QIODevice::WriteOnly, &reason) &&
+           writeReplacement(&file, text.toBytes(), &reason);
 }
 
 bool isreadonly_defaultdefs()

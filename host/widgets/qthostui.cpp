@@ -70,6 +70,13 @@ QMessageBox::StandardButton show(QMessageBox &box, const QString &text)
     return box.standardButton(box.clickedButton());
 }
 
+bool isYes(QMessageBox &box, const QString &text, bool defaultYes)
+{
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(defaultYes ? QMessageBox::Yes : QMessageBox::No);
+    return show(box, text) == QMessageBox::Yes;
+}
+
 } // namespace
 
 void QtHostUi::information(QWidget *parent, const QString &title, const QString &text)
@@ -94,9 +101,14 @@ void QtHostUi::richWarning(QWidget *parent, const QString &title, const QString 
 
 bool QtHostUi::question(QWidget *parent, const QString &title, const QString &text, bool defaultYes)
 {
-    QMessageBox box(QMessageBox::Question, title, {}, QMessageBox::Yes | QMessageBox::No, parent);
-    box.setDefaultButton(defaultYes ? QMessageBox::Yes : QMessageBox::No);
-    return show(box, text) == QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Question, title, {}, {}, parent);
+    return isYes(box, text, defaultYes);
+}
+
+bool QtHostUi::warningQuestion(QWidget *parent, const QString &title, const QString &text, bool defaultYes)
+{
+    QMessageBox box(QMessageBox::Warning, title, {}, {}, parent);
+    return isYes(box, text, defaultYes);
 }
 
 HostUi::SaveAnswer QtHostUi::saveQuestion(QWidget *parent, const QString &title, const QString &text,

@@ -13,6 +13,8 @@ public:
     void warning(QWidget *parent, const QString &title, const QString &text) override;
     void richWarning(QWidget *parent, const QString &title, const QString &html) override;
     bool question(QWidget *parent, const QString &title, const QString &text, bool defaultYes) override;
+    bool warningQuestion(QWidget *parent, const QString &title, const QString &text,
+                         bool defaultYes) override;
     SaveAnswer saveQuestion(QWidget *parent, const QString &title, const QString &text,
                             bool withCancel) override;
     QString saveFileName(QWidget *parent, const QString &caption, const QString &path,

@@ -1282,10 +1282,6 @@ Trotzdem ausgeben?</translation>
         <translation>Zeigen, was in den Entwurf geschrieben würde</translation>
     </message>
     <message>
-        <source>%1 changes of properties are pending. Save writes them into the design, Discard keeps them for the next time that it is opened.</source>
-        <translation>%1 Änderungen von Eigenschaften sind vorgemerkt. „Speichern“ schreibt sie in den Entwurf, „Verwerfen“ hebt sie auf, bis er das nächste Mal geöffnet wird.</translation>
-    </message>
-    <message>
         <source>&amp;Bill of Materials</source>
         <translation>&amp;Stückliste</translation>
     </message>
@@ -1384,6 +1380,26 @@ Trotzdem ausgeben?</translation>
     <message>
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>The template &apos;%1&apos; is your own from now on, for every design. Delete Template brings back the one that comes with the program.</source>
+        <translation>Die Vorlage „%1“ ist ab jetzt Ihre eigene, für jeden Entwurf. „Vorlage löschen“ holt die mitgelieferte zurück.</translation>
+    </message>
+    <message>
+        <source>One change of a property is pending.</source>
+        <translation>Eine Eigenschaftsänderung ist vorgemerkt.</translation>
+    </message>
+    <message>
+        <source>%1 changes of properties are pending.</source>
+        <translation>%1 Eigenschaftsänderungen sind vorgemerkt.</translation>
+    </message>
+    <message>
+        <source>Save writes into the design, Discard keeps what is pending for the next time that the design is opened.</source>
+        <translation>„Speichern“ schreibt in den Entwurf, „Verwerfen“ hebt das Vorgemerkte auf, bis er das nächste Mal geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>Save writes into the design. Discard loses what is pending: it could not be kept beside the program&apos;s settings.</source>
+        <translation>„Speichern“ schreibt in den Entwurf. Mit „Verwerfen“ geht das Vorgemerkte verloren: Es konnte nicht neben den Einstellungen des Programms aufbewahrt werden.</translation>
     </message>
 </context>
 <context>
@@ -6450,6 +6466,14 @@ Open the design with that version to go on with them, or remove the file to do w
     <message>
         <source>Export BOM Template</source>
         <translation>Stücklistenvorlage exportieren</translation>
+    </message>
+    <message>
+        <source>BOM Template Changed</source>
+        <translation>Stücklistenvorlage geändert</translation>
+    </message>
+    <message>
+        <source>The BOM template &apos;%1&apos; was changed in another window or by another program since it was read.  Replace it with what this window has?</source>
+        <translation>Die Stücklistenvorlage „%1“ wurde in einem anderen Fenster oder von einem anderen Programm geändert, seit sie gelesen wurde.  Durch die Fassung dieses Fensters ersetzen?</translation>
     </message>
 </context>
 <context>

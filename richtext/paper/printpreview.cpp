@@ -9,6 +9,7 @@
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScreen>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -21,7 +22,8 @@ PrintPreview::PrintPreview(QPrinter &printer, std::function<void(QPrinter &)> pa
     , m_pageLabel(new QLabel(this))
 {
     setWindowTitle(tr("Print Preview"));
-    resize(800, 900);
+    const QSize room = screen()->availableSize() - QSize(40, 80);
+    resize(QSize(800, 900).boundedTo(room));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
     auto *print = buttons->addButton(tr("&Print..."), QDialogButtonBox::ActionRole);
     print->setDefault(true);

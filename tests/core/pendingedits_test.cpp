@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/coredesign.h"
 #include "core/propertyassignments.h"
+#include "support/fulldisk.h"
 #include "support/scopeddefinitions.h"
 #include "support/scriptedui.h"
 
@@ -232,6 +233,15 @@ TEST_F(Pending, ThatCannotBeJournalledAreTold)
     assignments->assign(u"R1"_s, u"MPN"_s, u"x"_s);
     EXPECT_EQ(journals().size(), 1) << "a long name is cut";
     EXPECT_TRUE(ui.warnings.isEmpty());
+    {
+        const FullDisk full(100);
+        for (const QString &value : {u"w"_s, u"v"_s}) {
+            assignments->assign(u"R1"_s, u"MPN"_s, value);
+            EXPECT_FALSE(assignments->journalError().isEmpty());
+        }
+    }
+    EXPECT_EQ(std::exchange(ui.warnings, {}).size(), 1);
+    EXPECT_TRUE(readFile(journal()).contains("\"x\"")) << "what was kept stays";
     assignments = std::make_unique<PropertyAssignments>(&database);
     assignments->setJournalFolder(u"/proc/no/such"_s);
     for (const QString &value : {u"y"_s, u"z"_s}) {

@@ -125,6 +125,12 @@ TEST_F(Window, MakesSavesAndDeletesTemplates)
     EXPECT_TRUE(saved && saved->suppressEmptyCategories() == working().suppressEmptyCategories());
     EXPECT_EQ(child<QGroupBox>("templatesGroupBox")->title(), u"BOM Template"_s);
 
+    templates().setCurrentText(u"Purchasing"_s);
+    EXPECT_FALSE(child<QToolButton>("deleteTemplateBtn")->isEnabled()) << "it comes with the program";
+    child<QToolButton>("saveTemplateBtn")->click();
+    EXPECT_TRUE(child<QToolButton>("deleteTemplateBtn")->isEnabled()) << "it is the user's own now";
+    templates().setCurrentText(u"House"_s);
+
     ui.answer = true;
     child<QToolButton>("deleteTemplateBtn")->click();
     EXPECT_EQ(templates().findText(u"House"_s), -1);

@@ -6,6 +6,7 @@
 #include "standalone/environment.h"
 #include "standalone/loadeddesign.h"
 #include "tests/standalone/tabledesign.h"
+#include "tests/support/fulldisk.h"
 #include "tests/support/testfiles.h"
 
 #include <QScopeGuard>
@@ -312,6 +313,11 @@ TEST_F(Notes, OfAnotherProgramAreNeitherReplacedNorMissed)
     EXPECT_FALSE(m_document.hasOtherNotes()) << "nobody has read them yet";
     EXPECT_TRUE(write(u"mine\r\n"_s));
     EXPECT_FALSE(m_document.hasOtherNotes());
+    {
+        const FullDisk full(2);
+        EXPECT_FALSE(write(u"more"_s));
+    }
+    EXPECT_EQ(bytes(), "mine\n");
     EXPECT_EQ(replace(u"mine\r\n"_s, u"more"_s), ATTACHMENTWRITE::Written);
     EXPECT_EQ(contentIfAny(backup), "mine\n");
     put("theirs");

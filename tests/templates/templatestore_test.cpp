@@ -216,6 +216,39 @@ TEST_F(TemplateStoreTest, ANewTemplateHoldsTheWorkingSettings)
     EXPECT_EQ(m_store.currentName(), u"Next one"_s);
 }
 
+TEST_F(TemplateStoreTest, WhatAnotherWindowSavedIsNeitherReplacedUnaskedNorMissed)
+{
+    addFile("Mine", 12);
+    m_store.reload();
+    ASSERT_TRUE(m_store.select(u"Mine"_s));
+    addFile("Mine", 13);
+    edit(14);
+    EXPECT_FALSE(m_store.saveCurrent());
+    EXPECT_EQ(m_ui.questions.size(), 1);
+    EXPECT_EQ(widthIn(file("Mine")), 13);
+    m_ui.answer = true;
+    EXPECT_TRUE(m_store.saveCurrent());
+    EXPECT_TRUE(m_store.saveCurrent());
+    m_ui.answer = false;
+    EXPECT_EQ(m_ui.questions.size(), 2) << "its own file is no other one";
+    addFile("New", 15);
+    EXPECT_FALSE(m_store.createTemplate(u"New"_s));
+    EXPECT_EQ(widthIn(file("New")), 15);
+
+    m_settings.setValue(u"BOM"_s, u"CurrentTemplate"_s, u"New"_s);
+    addFile("Mine", 16);
+    edit(17);
+    m_store.followFiles();
+    EXPECT_EQ(names(), "Default,Mine,New");
+    EXPECT_EQ(workingWidth(), 17);
+    EXPECT_FALSE(m_store.saveCurrent()) << "still not what was read";
+    m_store.setModified(false);
+    addFile("Mine", 118);
+    m_store.followFiles();
+    EXPECT_EQ(m_store.currentName(), u"Mine"_s) << "not what another window remembers";
+    EXPECT_EQ(workingWidth(), 118);
+}
+
 TEST_F(TemplateStoreTest, AnAddedTemplateIsSavedAndSelectedWhateverItsVersion)
 {
     m_store.reload();

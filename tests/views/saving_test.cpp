@@ -3,6 +3,7 @@
 // What happens when a user saves a report, the same for all of them.
 #include "host/framework/reportfile.h"
 #include "report/reportfixture.h"
+#include "support/fulldisk.h"
 #include "support/testfiles.h"
 #include "views/bomasciiview.h"
 #include "views/bomcsvview.h"
@@ -14,9 +15,6 @@
 #include "views/report/spreadsheetreport.h"
 
 #include <QTemporaryDir>
-
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -130,18 +128,12 @@ TEST(ReportFile, IsReplacedAsAWholeOrStays)
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"out.csv"_s);
     ASSERT_EQ(writeReportFile(path, "old\n", nullptr), ReportFileResult::Written);
-    // To a writer, the largest size of files is a full disk.
-    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit old{};
-    getrlimit(RLIMIT_FSIZE, &old);
-    const rlimit limited{1000, old.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limited);
-    QString reason;
-    const ReportFileResult result = writeReportFile(path, QByteArray(100000, 'x'), &reason);
-    setrlimit(RLIMIT_FSIZE, &old);
-    std::signal(SIGXFSZ, oldHandler);
-    EXPECT_EQ(result, ReportFileResult::NotWritten);
-    EXPECT_FALSE(reason.isEmpty());
+    for (const int size : {2000, 100000}) {
+        const FullDisk full(1000);
+        QString reason;
+        EXPECT_EQ(writeReportFile(path, QByteArray(size, 'x'), &reason), ReportFileResult::NotWritten);
+        EXPECT_FALSE(reason.isEmpty());
+    }
     EXPECT_EQ(readFile(path), "old\n");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"out.csv"_s});
     EXPECT_EQ(writeReportFile(path, "new\n", nullptr), ReportFileResult::Written);
