@@ -38,7 +38,7 @@ REACH = {
     "designs/transaction": {"designs"} | FILES,
     "standalone": {"designs", "designs/formats", "designs/csv", "designs/transaction"} | HOST | FILES,
     "templates": {"richtext/css", "richtext/xhtml"} | HOST | FILES,
-    "core": {"templates"} | HOST,
+    "core": {"templates"} | HOST | FILES,
     "fitting": {"standalone", "templates"} | HOST,
     "account/design": {"standalone"} | HOST,
     "account": {"account/design", "core", "templates", "standalone"} | HOST,
