@@ -33,6 +33,11 @@ QString NotesEditor::text() const
     return m_ui->textEdit->document()->isModified() ? m_ui->textEdit->toPlainText() : m_found;
 }
 
+bool NotesEditor::hasTypedText() const
+{
+    return m_ui->textEdit->document()->isModified();
+}
+
 static NotesChoice chooseNotes(QWidget *parent)
 {
     switch (HostUi::current().saveQuestion(

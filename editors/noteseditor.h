@@ -27,6 +27,9 @@ public:
     /// The notes as they were set when nobody changed them, else what was typed with "\n" as line ends.
     [[nodiscard]] QString text() const;
 
+protected:
+    [[nodiscard]] bool hasTypedText() const override;
+
 private:
     std::unique_ptr<Ui::NotesEditor> m_ui;
     QString m_found;

@@ -123,6 +123,11 @@ QString BOMTemplateEditor::footer() const
     return textOf(*m_ui->footerTextEdit, m_footer);
 }
 
+bool BOMTemplateEditor::hasTypedText() const
+{
+    return m_ui->headerTextEdit->document()->isModified() || m_ui->footerTextEdit->document()->isModified();
+}
+
 QString BOMTemplateEditor::css() const
 {
     StyleSheet result(m_templateCss);

@@ -44,6 +44,9 @@ public Q_SLOTS:
     /// Makes the shown tab's editor the one that the tool bars act on.
     void updateCurrentEdit();
 
+protected:
+    [[nodiscard]] bool hasTypedText() const override;
+
 private:
     void setUpEditor(TextEdit &edit, TextEditHRuler &ruler, const QFont &font);
     void load(TextEdit &edit, const QString &fragment, const QString &className) const;

@@ -19,6 +19,12 @@ public:
     }
 
 protected:
+    /// Whether the user has typed something that only this dialog holds: Escape and the window's cross then
+    /// ask before it goes.
+    [[nodiscard]] virtual bool hasTypedText() const { return false; }
+
+    void keyPressEvent(QKeyEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
     /// Keeps the dialog as tall as its wrapped texts need at this width: a window does that for a layout's
     /// least size only.
     void resizeEvent(QResizeEvent *event) override
@@ -28,4 +34,7 @@ protected:
             setMinimumHeight(layout()->totalMinimumHeightForWidth(width()));
         }
     }
+
+private:
+    [[nodiscard]] bool mayClose();
 };

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>APPLNDIALOG</name>
+    <message>
+        <source>Close without what you have typed?</source>
+        <translation>Schließen und verwerfen, was Sie eingegeben haben?</translation>
+    </message>
+</context>
+<context>
     <name>APPLNWIDGET</name>
     <message>
         <source>The help is not installed, or there is no program that shows it.</source>

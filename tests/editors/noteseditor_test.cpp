@@ -28,6 +28,10 @@ TEST_F(Notes, AreTheTextThatWasSetUntilSomebodyTypes)
     QTest::keyClicks(editor.focusWidget(), u"x"_s);
     QTest::keyClick(editor.focusWidget(), Qt::Key_Return);
     EXPECT_EQ(editor.text(), u"x\na <b>b</b>\nc\nd"_s);
+    QTest::keyClick(editor.focusWidget(), Qt::Key_Escape);
+    editor.close();
+    EXPECT_EQ(ui.questions.size(), 2);
+    EXPECT_TRUE(editor.isVisible()) << "what was typed stays when the answer is No";
     QTest::keyClick(editor.focusWidget(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(editor.focusWidget(), Qt::Key_Delete);
     click(QDialogButtonBox::Save);
