@@ -50,11 +50,15 @@ WINDOW_MANAGER = """<?xml version="1.0" encoding="UTF-8"?>
 """
 
 
+# In seconds, until a test gives up: busy machines and sanitizers are slow.
+PATIENCE = 60
+
+
 class NotInTime(Exception):
     """What was waited for has not come."""
 
 
-def wait_for(what, condition, seconds=20):
+def wait_for(what, condition, seconds=PATIENCE):
     """Waits until the condition gives something that is true, which is returned."""
     end = time.monotonic() + seconds
     while True:

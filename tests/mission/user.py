@@ -4,7 +4,7 @@
 
 from hands import Hands
 from screenreader import Bus, Gone
-from session import NotInTime, wait_for
+from session import PATIENCE, NotInTime, wait_for
 
 
 class User:
@@ -18,10 +18,10 @@ class User:
 
     def start(self, *arguments):
         self.process = self.session.start(self.program, *arguments)
-        self.application = self.wait("the program on the bus", lambda: self._bus.program(self.process.pid), 30)
+        self.application = self.wait("the program on the bus", lambda: self._bus.program(self.process.pid))
         self.wait("the window", lambda: self.window("Bill of Materials Viewer"))
 
-    def wait(self, what, condition, seconds=20):
+    def wait(self, what, condition, seconds=PATIENCE):
         """Such as wait_for(), but a program that has ended is told at once, and a widget that goes away is waited for."""
         def asked():
             if self.process.poll() is not None:
@@ -32,7 +32,7 @@ class User:
                 return None
         return wait_for(what, asked, seconds)
 
-    def wait_end(self, seconds=20):
+    def wait_end(self, seconds=PATIENCE):
         wait_for("the end of the program", lambda: self.process.poll() is not None, seconds)
         return self.process.returncode
 
@@ -45,7 +45,7 @@ class User:
         """The window whose title ends so; None where there is none."""
         return next((window for window in self.windows() if window.name.endswith(title)), None)
 
-    def dialog(self, title, seconds=20):
+    def dialog(self, title, seconds=PATIENCE):
         return self.wait(f"the dialog \"{title}\"", lambda: self.window(title), seconds)
 
     def wait_closed(self, title):
@@ -190,13 +190,13 @@ class User:
             self.hands.press("Ctrl+a")
             self.hands.type(str(path))
             try:
-                self.wait("the file's name is typed", lambda: field.text == str(path), 2)
+                self.wait("the file's name is typed", lambda: field.text == str(path), 5)
                 self.hands.press("Return")
-                self.wait(f"the dialog \"{title}\" is closed", lambda: not self.window(title), 4)
+                self.wait(f"the dialog \"{title}\" is closed", lambda: not self.window(title), 20)
             except NotInTime:
                 return False
             return True
-        self.wait(f"the dialog \"{title}\" has taken {path}", is_taken, 30)
+        self.wait(f"the dialog \"{title}\" has taken {path}", is_taken, 2 * PATIENCE)
 
     def picture(self, path):
         self.hands.picture().save(path)
