@@ -90,6 +90,13 @@ bool Hierarchy::loadFile(const QString &path, quint32 *number, Problem *problem)
     *number = quint32(m_files.size());
     m_fileNumbers.insert(canonical, *number);
     takeOverNames(loaded.names, &loaded.sheet);
+    if (loaded.sheet.formatVersion > version::latest && !std::exchange(m_hasLaterVersion, true)) {
+        m_warnings.push_back(
+            {path, 0,
+             KicadTexts::tr("the schematic is of version %1, later than that of KiCad 10; look at the report "
+                            "with care, and keep a copy before values are written")
+                 .arg(loaded.sheet.formatVersion)});
+    }
     m_files.push_back(std::move(loaded.sheet));
     for (const int line : loaded.badTextLines) {
         m_warnings.push_back(

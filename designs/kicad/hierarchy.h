@@ -78,6 +78,7 @@ private:
     std::vector<HierarchyUse> m_uses;
     std::size_t m_symbolUses = 0;
     std::vector<Problem> m_warnings;
+    bool m_hasLaterVersion = false;
     QString m_projectFolder;
 };
 

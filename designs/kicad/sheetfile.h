@@ -28,6 +28,8 @@ constexpr int tildeIsText = 20250318;
 constexpr int variableEscape = 20260101;
 constexpr int ruleAreaFlags = 20250610;
 constexpr int variantInBomCorrected = 20260306;
+/// Of KiCad 10. What later ones mean is not known.
+constexpr int latest = 20260306;
 } // namespace version
 
 struct Point

@@ -4408,6 +4408,10 @@ Trotzdem ausgeben?</translation>
         <source>it is more than %1 sheets deep</source>
         <translation>sie liegt mehr als %1 Blätter tief</translation>
     </message>
+    <message>
+        <source>the schematic is of version %1, later than that of KiCad 10; look at the report with care, and keep a copy before values are written</source>
+        <translation>der Schaltplan hat die Version %1, die später als die von KiCad 10 ist; sehen Sie den Bericht genau an und bewahren Sie eine Kopie auf, bevor Werte geschrieben werden</translation>
+    </message>
 </context>
 <context>
     <name>KicadEdit</name>

@@ -128,4 +128,6 @@ TEST(KicadBadInput, OddButReadable)
         folder.write(root, text);
         EXPECT_EQ(folder.load()->components().size(), 0u);
     }
+    folder.write(root, "(kicad_sch (version 20991231))");
+    EXPECT_EQ(folder.load()->warnings().size(), 1u) << "of a later KiCad";
 }
