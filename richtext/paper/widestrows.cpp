@@ -4,17 +4,14 @@
 
 #include "richtext/paper/plaintable.h"
 #include "richtext/paper/strip.h"
+#include "richtext/paper/textruler.h"
 #include "richtext/xhtml/selfcontaineddocument.h"
 #include "richtext/xhtml/xhtmlparts.h"
 
-#include <QFontMetricsF>
 #include <QStringBuilder>
 #include <QTextBlock>
 #include <QTextDocument>
-#include <QTextLayout>
 
-#include <algorithm>
-#include <array>
 #include <optional>
 #include <vector>
 
@@ -23,73 +20,11 @@ namespace {
 /// Shorter tables are laid out faster than measured.
 constexpr size_t leastRows = 300;
 
-/// What a column must give a text: room for its longest word, and for all of it on one line.
-struct Needs
-{
-    double word = 0;
-    double line = 0;
-};
-
-/// The widths of the letters of a font, which are added up faster than a text is laid out.
-class LetterWidths final
-{
-public:
-    LetterWidths(const QFont &font, QPaintDevice &device)
-        : m_metrics(font, &device)
-        , m_isPlain(font.capitalization() == QFont::MixedCase && font.wordSpacing() == 0)
-    {
-        m_widths.fill(-1);
-    }
-
-    /// No less than a cell's content needs. Nothing when it has entities other than break places, or letters
-    /// that may take part in shapes of their own.
-    [[nodiscard]] std::optional<Needs> bound(QStringView content)
-    {
-        // Kerning and rounding; both are far smaller.
-        constexpr double tolerance = 1.03;
-        constexpr double fewPixels = 1;
-        Needs needs;
-        double word = 0;
-        for (qsizetype i = 0; i < content.size(); ++i) {
-            const QChar c = content[i];
-            const bool isBreakPlace = c == u'&' && content.sliced(i).startsWith(breakPlace);
-            if (!m_isPlain || c.unicode() >= m_widths.size() || (c == u'&' && !isBreakPlace)) {
-                return std::nullopt;
-            }
-            const double width = isBreakPlace ? 0 : widthOf(c);
-            i += isBreakPlace ? breakPlace.size() - 1 : 0;
-            word = isBreakPlace || c == u' ' ? 0 : word + width;
-            needs.word = std::max(needs.word, word);
-            needs.line += width;
-        }
-        return Needs{needs.word * tolerance + fewPixels, needs.line * tolerance + fewPixels};
-    }
-
-private:
-    static constexpr QStringView breakPlace = u"&shy;&#8203;";
-
-    [[nodiscard]] double widthOf(QChar c)
-    {
-        double &width = m_widths[c.unicode()];
-        if (width < 0) {
-            width = m_metrics.horizontalAdvance(c);
-        }
-        return width;
-    }
-
-    QFontMetricsF m_metrics;
-    bool m_isPlain;
-    /// Of Latin letters and signs, -1 for one that was not asked for yet. Marks that combine come behind
-    /// them.
-    std::array<double, 0x300> m_widths{};
-};
-
 /// Measures the texts of a table's cells as QTextDocument would.
 class CellRuler final
 {
 public:
     CellRuler(const PlainTable &table, const StyleSheet &css, QPaintDevice &device)
-        : m_device(device)
     {
         SelfContainedDocument samples;
         QString body;
@@ -101,40 +36,33 @@ public:
         m_option = samples.defaultTextOption();
         for (QTextBlock block = samples.begin(); block.isValid(); block = block.next()) {
             if (block.text() == QLatin1String("x")) {
-                m_fonts.append(QFont(block.begin().fragment().charFormat().font(), &device));
-                m_letters.emplace_back(m_fonts.back(), device);
+                const QFont font = block.begin().fragment().charFormat().font();
+                m_rulers.emplace_back(QFont(font, &device), device);
             }
         }
     }
 
     /// Whether the look of every kind was found.
-    [[nodiscard]] bool isValid(const PlainTable &table) const { return m_fonts.size() == table.kinds.size(); }
-
-    /// Whether a cell may need more than that.
-    [[nodiscard]] bool mayNeedMore(const PlainCell &cell, const Needs &known)
+    [[nodiscard]] bool isValid(const PlainTable &table) const
     {
-        const std::optional<Needs> bound = m_letters[size_t(cell.kind)].bound(cell.content);
-        return !bound || bound->word > known.word || bound->line > known.line;
+        return m_rulers.size() == size_t(table.kinds.size());
     }
 
-    [[nodiscard]] Needs measure(const QString &text, int kind) const
+    /// Whether a cell may need more than that.
+    [[nodiscard]] bool mayNeedMore(const PlainCell &cell, const TextNeeds &known)
     {
-        constexpr double anyWidth = 1e6;
-        QTextLayout layout(text, m_fonts[kind], &m_device);
-        layout.setTextOption(m_option);
-        layout.beginLayout();
-        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-            line.setLineWidth(anyWidth);
-        }
-        layout.endLayout();
-        return {layout.minimumWidth(), layout.maximumWidth()};
+        const std::optional<TextNeeds> bound = m_rulers[size_t(cell.kind)].bound(cell.content);
+        return !bound || !bound->isWithin(known);
+    }
+
+    [[nodiscard]] TextNeeds measure(const QString &text, int kind) const
+    {
+        return m_rulers[size_t(kind)].measure(text, m_option);
     }
 
 private:
-    QPaintDevice &m_device;
     QTextOption m_option;
-    QList<QFont> m_fonts;
-    std::vector<LetterWidths> m_letters;
+    std::vector<TextRuler> m_rulers;
 };
 
 /// Finds the rows whose cells need most, of each kind in each column: their fonts and paddings differ.
@@ -154,6 +82,7 @@ public:
         }
         for (const Widest &found : m_widest) {
             if (found.needs.line >= 0) {
+                m_isKept[found.rowOfLetter] = true;
                 m_isKept[found.rowOfWord] = true;
                 m_isKept[found.rowOfLine] = true;
             }
@@ -181,7 +110,8 @@ public:
 private:
     struct Widest
     {
-        Needs needs{-1, -1};
+        TextNeeds needs{-1, -1, -1};
+        size_t rowOfLetter = 0;
         size_t rowOfWord = 0;
         size_t rowOfLine = 0;
     };
@@ -197,7 +127,11 @@ private:
             m_isKept[row] = true;
             return;
         }
-        const Needs needs = m_ruler.measure(*text, cell.kind);
+        const TextNeeds needs = m_ruler.measure(*text, cell.kind);
+        if (needs.letter > widest.needs.letter) {
+            widest.needs.letter = needs.letter;
+            widest.rowOfLetter = row;
+        }
         if (needs.word > widest.needs.word) {
             widest.needs.word = needs.word;
             widest.rowOfWord = row;
