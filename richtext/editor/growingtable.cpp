@@ -108,11 +108,12 @@ bool GrowingTable::start(const StyleSheet &css)
     }
     m_tablesBefore = tables.size() - 1;
     join(*tables.back(), false);
-    return makeSample(widest);
+    return makeSample(widest, css);
 }
 
-bool GrowingTable::makeSample(const QString &body)
+bool GrowingTable::makeSample(const QString &body, const StyleSheet &css)
 {
+    m_sample.setDefaultFont(m_document.defaultFont());
     setQtHtml(m_sample, qtHtml(body));
     const std::vector<QTextTable *> tables = tablesOf(m_sample);
     if (tables.size() <= m_tablesBefore) {
@@ -126,6 +127,7 @@ bool GrowingTable::makeSample(const QString &body)
         return false;
     }
     measurePaddings();
+    m_sampleColumns.emplace(m_sample, css);
     return true;
 }
 
@@ -162,6 +164,7 @@ void GrowingTable::alignColumns(double width)
     m_sample.documentLayout()->setPaintDevice(m_document.documentLayout()->paintDevice());
     m_sample.setDefaultFont(m_document.defaultFont());
     m_sample.rootFrame()->setFrameFormat(m_document.rootFrame()->frameFormat());
+    m_sampleColumns->fit(width / zoom);
     m_sample.setTextWidth(width);
     const std::vector<double> texts = textWidths();
     QList<QTextLength> columns;

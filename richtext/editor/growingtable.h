@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "richtext/editor/windowcolumns.h"
 #include "richtext/paper/plaintable.h"
 #include "richtext/xhtml/qtstylesheet.h"
 #include "richtext/xhtml/selfcontaineddocument.h"
@@ -12,6 +13,7 @@
 #include <QTextLength>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QTextTable;
@@ -47,7 +49,7 @@ private:
                  const QString &highlighted);
 
     [[nodiscard]] bool start(const StyleSheet &css);
-    [[nodiscard]] bool makeSample(const QString &body);
+    [[nodiscard]] bool makeSample(const QString &body, const StyleSheet &css);
     void measurePaddings();
     [[nodiscard]] std::vector<double> textWidths() const;
     [[nodiscard]] QString nextRows();
@@ -68,6 +70,7 @@ private:
 
     /// The whole with few of its rows: those that make its columns as wide as they are.
     SelfContainedDocument m_sample;
+    std::optional<WindowColumns> m_sampleColumns;
     QTextTable *m_sampleTable = nullptr;
     int m_plainRow = -1;
     /// What each column has left and right of its text.

@@ -5,6 +5,7 @@
 #include "richtext/css/pagegeometry.h"
 #include "richtext/css/stylesheet.h"
 #include "richtext/editor/growingtable.h"
+#include "richtext/editor/windowcolumns.h"
 #include "richtext/xhtml/qthtmlwriter.h"
 #include "richtext/xhtml/qtstylesheet.h"
 #include "richtext/xhtml/xhtmlparts.h"
@@ -86,14 +87,13 @@ void TextDocument::suspend()
 void TextDocument::setZoom(double factor)
 {
     constexpr double metresPerInch = 0.0254;
+    m_zoom = factor;
     QImage screen(1, 1, QImage::Format_RGB32);
     const double dotsPerMetre = screen.logicalDpiY() * factor / metresPerInch;
     screen.setDotsPerMeterX(qRound(dotsPerMetre));
     screen.setDotsPerMeterY(qRound(dotsPerMetre));
     m_zoomedScreen = factor == 1.0 ? QImage() : screen;
     documentLayout()->setPaintDevice(m_zoomedScreen.isNull() ? nullptr : &m_zoomedScreen);
-    // Everything is laid out anew.
-    setPageSize(pageSize());
 }
 
 void TextDocument::setTitle(const QString &title)
@@ -190,15 +190,23 @@ void TextDocument::fill(const StyleSheet &css)
 {
     m_idle.stop();
     m_growing.reset();
+    m_columns.reset();
     if (m_grows && startGrowing(css)) {
         return;
     }
     // In one go, so that a document that is shown is laid out once.
+    setLayoutEnabled(false);
     QTextCursor cursor(this);
     cursor.beginEditBlock();
     setQtHtml(*this, toQtHtml(m_source, css, Medium::Window, m_highlighted));
     applyBodyMargins(*this, css);
     cursor.endEditBlock();
+    if (m_grows) {
+        m_columns = std::make_unique<WindowColumns>(*this, css);
+        alignColumns(textWidth());
+    }
+    setLayoutEnabled(true);
+    setPageSize(pageSize());
 }
 
 bool TextDocument::startGrowing(const StyleSheet &css)
@@ -256,6 +264,8 @@ void TextDocument::alignColumns(double width)
 {
     if (m_growing) {
         m_growing->alignColumns(width);
+        setModified(false);
+    } else if (m_columns && m_columns->fit(width / m_zoom)) {
         setModified(false);
     }
 }

@@ -13,6 +13,7 @@
 
 class GrowingTable;
 class StyleSheet;
+class WindowColumns;
 
 /// A rich-text document that remembers the XHTML text and the style sheet it was made from. The content is
 /// made when it is first shown; before that the document is empty.
@@ -39,10 +40,11 @@ public:
     [[nodiscard]] bool isGrown() const { return m_growing != nullptr; }
     /// Makes what is to follow, at least until the document is that high.
     void complete(double height = HUGE_VAL);
-    /// Tells the width that the document is about to get, so that all rows of a table that grows have common
-    /// columns.
+    /// Tells the width that the document is about to get. For it the columns of a document that is not edited
+    /// get their widths; all rows of a table that grows have common ones.
     void alignColumns(double width);
-    /// Lays the document out that many times as large. Its text stays as it is. alignColumns() is to follow.
+    /// Lets the document be laid out that many times as large; alignColumns() and setPageSize() are to
+    /// follow. Its text stays as it is.
     void setZoom(double factor);
     /// Lets what is shown stay as it is, whatever changes, until show().
     void suspend();
@@ -90,10 +92,13 @@ private:
     QString m_paragraphClass;
     /// What the document is laid out for unless it is shown in its own size.
     QImage m_zoomedScreen;
+    double m_zoom = 1;
     bool m_isShown = true;
     bool m_grows = false;
     /// Stays when it is complete, for the columns; null for content that was made in one go.
     std::unique_ptr<GrowingTable> m_growing;
+    /// Of content that was made in one go and is not edited.
+    std::unique_ptr<WindowColumns> m_columns;
     /// Runs out when there is nothing else to do.
     QTimer m_idle;
     QTimer m_pause;

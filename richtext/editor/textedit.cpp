@@ -92,6 +92,10 @@ void TextEdit::loadDocument(const QString &xhtml)
 
 void TextEdit::showPlace()
 {
+    if (m_zoom > 1) {
+        // The paper may be another one.
+        setLayoutWidth(false);
+    }
     moveCursor(QTextCursor::Start);
     if (!m_document->isComplete()) {
         // Rows that follow are not to be selected because all was.
@@ -163,12 +167,9 @@ void TextEdit::setZoom(double factor)
         return m_document->documentLayout()->blockBoundingRect(block);
     };
     const QRectF old = rectOf(top);
-    if (m_zoom > 1 && factor <= 1) {
-        setLineWrapMode(WidgetWidth);
-    }
     m_zoom = factor;
     m_document->setZoom(factor);
-    setLayoutWidth();
+    setLayoutWidth(true);
     if (before > 0 && m_document->isShown()) {
         const QRectF now = rectOf(top);
         const double ratio = old.height() > 0 ? now.height() / old.height() : 1;
@@ -259,23 +260,37 @@ QMimeData *TextEdit::createMimeDataFromSelection() const
 
 void TextEdit::resizeEvent(QResizeEvent *event)
 {
-    setLayoutWidth();
+    setLayoutWidth(false);
     QTextEdit::resizeEvent(event);
 }
 
-void TextEdit::setLayoutWidth()
+double TextEdit::layoutWidth() const
 {
     constexpr double pixelsPerPoint = 4.0 / 3;
-    double width = viewport()->width();
-    if (m_zoom > 1) {
-        const QPageLayout paper = pageLayout(StyleSheet(m_document->getCss()));
-        width = std::max(
-            width, m_zoom * std::min(width, paper.fullRect(QPageLayout::Point).width() * pixelsPerPoint));
+    const double width = viewport()->width();
+    if (m_zoom <= 1) {
+        return width;
     }
+    const QPageLayout paper = pageLayout(StyleSheet(m_document->getCss()));
+    return std::max(width,
+                    m_zoom * std::min(width, paper.fullRect(QPageLayout::Point).width() * pixelsPerPoint));
+}
+
+/// A scroll bar that comes or goes by it resizes the viewport and so leads here again.
+void TextEdit::setLayoutWidth(bool isZoomed)
+{
+    const double width = layoutWidth();
     m_document->alignColumns(width);
+    const bool isFixed = lineWrapMode() == FixedPixelWidth;
     if (m_zoom > 1) {
+        if (isZoomed || !isFixed || lineWrapColumnOrWidth() != qRound(width)) {
+            setLineWrapColumnOrWidth(qRound(width));
+        }
         setLineWrapMode(FixedPixelWidth);
-        setLineWrapColumnOrWidth(qRound(width));
+    } else if (isZoomed && isFixed) {
+        setLineWrapMode(WidgetWidth);
+    } else if (isZoomed) {
+        m_document->setPageSize(m_document->pageSize());
     }
 }
 

@@ -87,8 +87,10 @@ protected:
 
 private:
     void showPlace();
-    /// Lays the document out in the width that the window and the zoom ask for.
-    void setLayoutWidth();
+    /// The width that the window and the zoom ask for.
+    [[nodiscard]] double layoutWidth() const;
+    /// Lays the document out in that width, if it has another one or was zoomed.
+    void setLayoutWidth(bool isZoomed);
     /// Scrolls to a place that the bar may not know of yet.
     void scrollTo(int place);
     /// Selects the whole document when all of it that is there yet is selected.

@@ -25,6 +25,8 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
 #include <QTimer>
 
 #include <gmock/gmock.h>
@@ -197,6 +199,58 @@ TEST_P(LookOfReport, ShowsTheFirstRowsOfALongTableAtOnceAndThenAllAsOneTable)
 INSTANTIATE_TEST_SUITE_P(Looks, LookOfReport,
                          testing::Values("", "table { border-collapse: collapse; } p { padding: 2pt 4pt; } "
                                              "p.h { border-bottom: 1pt solid #0000ff; }"));
+
+class RowsInWindow : public Edit, public testing::WithParamInterface<int>
+{
+protected:
+    /// A report whose columns are made for paper of 800 pixels.
+    void show(int width)
+    {
+        const QString row =
+            u"<tr><td><p>PIC_18_PINS</p></td><td><p>A package with a long name</p></td></tr>"_s;
+        edit.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+        showReport(page(u"body { margin: 0pt; paper-width: 600pt; } table { width: 100%; }"_s,
+                        u"<table><tbody><tr><th style='width:12%'><p>Value</p></th><th style='width:88%'>"
+                        "<p>Footprint</p></th></tr>"_s +
+                            row.repeated(GetParam()) + u"</tbody></table>"_s));
+        edit.resize(width, 300);
+        edit.document()->complete();
+    }
+    [[nodiscard]] int linesOf(const QString &text)
+    {
+        return edit.document()->find(text).block().layout()->lineCount();
+    }
+};
+
+TEST_P(RowsInWindow, BreaksNoWordsThatFitOnThePaperWhileThereIsRoom)
+{
+    show(300);
+    EXPECT_EQ(linesOf(u"PIC"_s), 1);
+    EXPECT_EQ(linesOf(u"package"_s), 1);
+    edit.resize(180, 300);
+    EXPECT_EQ(linesOf(u"PIC"_s), 1);
+    EXPECT_GT(linesOf(u"package"_s), 1);
+    EXPECT_FALSE(edit.document()->isModified());
+}
+
+TEST_P(RowsInWindow, IsAsWideAsBeforeItWasZoomed)
+{
+    show(300);
+    const QSizeF before = edit.document()->size();
+    edit.setZoom(1.5);
+    EXPECT_GT(edit.horizontalScrollBar()->maximum(), 100);
+    edit.resize(350, 300);
+    EXPECT_EQ(edit.document()->textWidth(), qRound(1.5 * edit.viewport()->width()));
+    edit.setZoom(0.5);
+    EXPECT_EQ(edit.document()->textWidth(), edit.viewport()->width());
+    edit.setZoom(1.1);
+    edit.resize(300, 300);
+    edit.setZoom(1);
+    EXPECT_EQ(edit.document()->size(), before);
+    EXPECT_EQ(edit.horizontalScrollBar()->maximum(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, RowsInWindow, testing::Values(3, 1200));
 
 TEST_F(Edit, DoesWithTheWholeDocumentWhatIsAskedForWhileItGrows)
 {
