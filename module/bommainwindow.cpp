@@ -365,7 +365,9 @@ void BOMMainWindow::fillViews()
     }
     m_isFilled = true;
     const WaitCursor cursor;
-    // Now, not when the event loop gets to it: the report then has its width, and is laid out once.
+    // Now, not when the event loop gets to it: the report then has its width, is laid out once and can get
+    // the keyboard.
+    (void)m_pages->report().textEdit();
     m_pages->show();
     m_pages->report().setPartsDatabase(m_database);
     m_pages->report().handleBOMDataUpdate();
@@ -374,6 +376,7 @@ void BOMMainWindow::fillViews()
     m_pages->dataView().handleBOMDataUpdate();
     m_pages->options().setPartsDatabase(m_database);
     showTemplate();
+    m_pages->takeFocus();
     QMetaObject::invokeMethod(this, &BOMMainWindow::offerEarlier, Qt::QueuedConnection);
 }
 

@@ -90,6 +90,15 @@ void WindowPages::showPropertyEditor()
     m_tabs->setCurrentWidget(m_dataView->parentWidget());
 }
 
+void WindowPages::takeFocus()
+{
+    const QWidget *owner = window()->focusWidget();
+    // A window whose page has gone leaves the keyboard to the next page itself, which does nothing with it.
+    if (!owner || !owner->isVisible() || owner->isAncestorOf(this)) {
+        m_report->setFocus(Qt::OtherFocusReason);
+    }
+}
+
 void WindowPages::restorePlaces()
 {
     const HostSettings &settings = HostSettings::current();

@@ -25,6 +25,8 @@ public:
     [[nodiscard]] OptionsPanel &options() { return *m_options; }
 
     void showPropertyEditor();
+    /// Gives the keyboard to the report, unless another widget of the window has it.
+    void takeFocus();
     /// Width and fold of the panel are kept from one run to the next.
     void keepPlaces() const;
 

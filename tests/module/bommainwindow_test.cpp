@@ -7,6 +7,9 @@
 #include "views/bomexcelview.h"
 #include "views/bomhtmlview.h"
 
+#include <QLineEdit>
+#include <QTest>
+
 TEST_F(BomViewer, BuildsItsWindowOnce)
 {
     module().onvalidate();
@@ -18,6 +21,26 @@ TEST_F(BomViewer, BuildsItsWindowOnce)
     EXPECT_EQ(host.frame.widgets, 1);
     EXPECT_EQ(host.frame.menus.keys(), QList<unsigned>({273, 274, 275, 276, 277}));
     EXPECT_EQ(module().getprimarywindow(), first);
+}
+
+TEST_F(BomViewer, GivesTheKeyboardToTheReportOfADesignThatWasOpened)
+{
+    QLineEdit field;
+    host.frame.window.addToolBar(u"bar"_s)->addWidget(&field);
+    field.setFocusPolicy(Qt::NoFocus);
+    host.frame.window.show();
+    host.frame.window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&host.frame.window));
+    module().onvalidate();
+    EXPECT_TRUE(mainWindow()->findChild<TextEdit *>()->hasFocus());
+    field.setFocus();
+    module().onvalidate();
+    EXPECT_TRUE(field.hasFocus());
+    module().removewindow(mainWindow());
+    flush();
+    field.setFocus();
+    (void)mainWindow();
+    EXPECT_TRUE(field.hasFocus());
 }
 
 TEST_F(BomViewer, RemovesOnlyItsOwnWindow)
