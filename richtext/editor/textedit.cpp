@@ -12,6 +12,7 @@
 #include "richtext/paper/printui.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -60,6 +61,9 @@ TextEdit::TextEdit(QWidget *parent)
     setBackgroundRole(QPalette::Base);
     setAutoFillBackground(true);
     setAccessibleName(tr("Document"));
+    m_layoutLater.setSingleShot(true);
+    m_layoutLater.setInterval(150);
+    connect(&m_layoutLater, &QTimer::timeout, this, &TextEdit::layOut);
     connect(m_document, &TextDocument::aboutToMakeContent, this,
             [this] { m_place = verticalScrollBar()->value(); });
     connect(m_document, &TextDocument::contentMade, this, &TextEdit::showPlace);
@@ -260,8 +264,22 @@ QMimeData *TextEdit::createMimeDataFromSelection() const
 
 void TextEdit::resizeEvent(QResizeEvent *event)
 {
-    setLayoutWidth(false);
+    // A large document would hold up whoever drags the frame; it follows when they pause.
+    constexpr qint64 unnoticed = 30;
+    if (m_layoutTime > unnoticed) {
+        m_layoutLater.start();
+    } else {
+        layOut();
+    }
     QTextEdit::resizeEvent(event);
+}
+
+void TextEdit::layOut()
+{
+    QElapsedTimer time;
+    time.start();
+    setLayoutWidth(false);
+    m_layoutTime = time.elapsed();
 }
 
 double TextEdit::layoutWidth() const

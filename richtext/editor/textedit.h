@@ -8,6 +8,7 @@
 
 #include <QMarginsF>
 #include <QPageRanges>
+#include <QTimer>
 
 #include <memory>
 
@@ -91,6 +92,8 @@ private:
     [[nodiscard]] double layoutWidth() const;
     /// Lays the document out in that width, if it has another one or was zoomed.
     void setLayoutWidth(bool isZoomed);
+    /// Follows the window's width.
+    void layOut();
     /// Scrolls to a place that the bar may not know of yet.
     void scrollTo(int place);
     /// Selects the whole document when all of it that is there yet is selected.
@@ -106,6 +109,9 @@ private:
     /// Whether the end of a document that grows is shown, wherever it is.
     bool m_followsEnd = false;
     double m_zoom = 1;
+    QTimer m_layoutLater;
+    /// How long it took to follow the window's width last time, in milliseconds.
+    qint64 m_layoutTime = 0;
     /// What the wheel has turned with Ctrl, less than a step, in eighths of a degree.
     int m_turned = 0;
     QMarginsF m_paperMargins;
