@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include <functional>
+
 namespace {
 
 QString group()
@@ -24,24 +26,48 @@ QString folderKey()
     return QStringLiteral("LastFolder");
 }
 
+QStringList pathsOf(const QString &stored)
+{
+    QStringList paths;
+    for (const QString &entry : stored.split(u' ', Qt::SkipEmptyParts)) {
+        paths << QUrl::fromPercentEncoding(entry.toUtf8());
+    }
+    return paths.mid(0, RecentFiles::Most);
+}
+
+QString stored(const QStringList &paths)
+{
+    QStringList entries;
+    for (const QString &path : paths.mid(0, RecentFiles::Most)) {
+        entries << QString::fromLatin1(QUrl::toPercentEncoding(path, "/"));
+    }
+    return entries.join(u' ');
+}
+
+/// Other windows, which are other processes, change the same list.
+void change(const std::function<void(QStringList &)> &edit)
+{
+    HostSettings::current().change(group(), key(), [&edit](const QString &text) {
+        QStringList paths = pathsOf(text);
+        edit(paths);
+        return stored(paths);
+    });
+}
+
 } // namespace
 
 QStringList RecentFiles::list()
 {
-    QStringList paths;
-    const QString stored = HostSettings::current().value(group(), key()).value_or(QString());
-    for (const QString &entry : stored.split(u' ', Qt::SkipEmptyParts)) {
-        paths << QUrl::fromPercentEncoding(entry.toUtf8());
-    }
-    return paths.mid(0, Most);
+    HostSettings::current().reload();
+    return pathsOf(HostSettings::current().value(group(), key()).value_or(QString()));
 }
 
 void RecentFiles::add(const QString &path)
 {
-    QStringList paths = list();
-    paths.removeAll(path);
-    paths.prepend(path);
-    store(paths.mid(0, Most));
+    change([&path](QStringList &paths) {
+        paths.removeAll(path);
+        paths.prepend(path);
+    });
     HostSettings::current().setValue(group(), folderKey(), QFileInfo(path).path());
 }
 
@@ -52,21 +78,10 @@ QString RecentFiles::lastFolder()
 
 void RecentFiles::remove(const QString &path)
 {
-    QStringList paths = list();
-    paths.removeAll(path);
-    store(paths);
+    change([&path](QStringList &paths) { paths.removeAll(path); });
 }
 
 void RecentFiles::clear()
 {
-    store({});
-}
-
-void RecentFiles::store(const QStringList &paths)
-{
-    QStringList entries;
-    for (const QString &path : paths) {
-        entries << QString::fromLatin1(QUrl::toPercentEncoding(path, "/"));
-    }
-    HostSettings::current().setValue(group(), key(), entries.join(u' '));
+    change([](QStringList &paths) { paths.clear(); });
 }

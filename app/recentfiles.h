@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-/// The designs that were opened last, kept in the host's settings.
+/// The designs that were opened last, in any window, kept in the host's settings.
 class RecentFiles final
 {
 public:
@@ -18,7 +18,4 @@ public:
     [[nodiscard]] static QString lastFolder();
     static void remove(const QString &path);
     static void clear();
-
-private:
-    static void store(const QStringList &paths);
 };

@@ -106,8 +106,10 @@ void Workbench::connectWindow()
     });
     connect(&menus, &ProgramMenus::recentChosen, this, openPath);
     connect(&menus, &ProgramMenus::recentCleared, this, &Workbench::clearRecentFiles);
-    connect(&menus, &ProgramMenus::fileMenuOpening, this,
-            [this] { m_window.menus().setUndoEnabled(m_session.canUndo()); });
+    connect(&menus, &ProgramMenus::fileMenuOpening, this, [this] {
+        m_window.menus().setUndoEnabled(m_session.canUndo());
+        m_window.menus().setRecentFiles(RecentFiles::list());
+    });
     connect(&menus, &ProgramMenus::undoRequested, this, &Workbench::undoLastWrite);
     connect(&menus, &ProgramMenus::closeRequested, this, &Workbench::closeDesign);
     connect(&menus, &ProgramMenus::rereadRequested, this, &Workbench::rereadNow);

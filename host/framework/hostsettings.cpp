@@ -2,9 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "host/framework/hostsettings.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
+
 namespace {
 
 HostSettings *theSettings = nullptr;
+/// How long a process waits for others that change a value; they take some milliseconds.
+constexpr int patienceMilliseconds = 2000;
 
 /// A string of its own: a literal lies in the library that it comes from, and the settings outlive that.
 QString copied(const QString &text)
@@ -23,6 +29,12 @@ HostSettings &HostSettings::current()
 void HostSettings::install(HostSettings *settings)
 {
     theSettings = settings;
+}
+
+void HostSettings::change(const QString &group, const QString &key,
+                          const std::function<QString(const QString &)> &changed)
+{
+    setValue(group, key, changed(value(group, key).value_or(QString())));
 }
 
 std::optional<QString> MemoryHostSettings::value(const QString &group, const QString &key) const
@@ -53,4 +65,18 @@ std::optional<QString> IniHostSettings::value(const QString &group, const QStrin
 void IniHostSettings::setValue(const QString &group, const QString &key, const QString &value)
 {
     m_settings.setValue(group + u'/' + key, copied(value));
+}
+
+void IniHostSettings::change(const QString &group, const QString &key,
+                             const std::function<QString(const QString &)> &changed)
+{
+    const QString path = m_settings.fileName();
+    (void)QDir().mkpath(QFileInfo(path).path());
+    // QSettings has a lock of its own, ".lock", while it writes. This one is held from the reading on.
+    QLockFile lock(path + QStringLiteral(".change"));
+    // Where none can be had the value is changed all the same.
+    (void)lock.tryLock(patienceMilliseconds);
+    reload();
+    HostSettings::change(group, key, changed);
+    m_settings.sync();
 }

@@ -6,6 +6,7 @@
 #include <QSettings>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 /// What the program remembers between runs: texts under a key in a group. A desktop program installs settings
@@ -24,6 +25,12 @@ public:
     /// Keeps copies: the caller's strings may be literals of a library that is unloaded before the settings
     /// end.
     virtual void setValue(const QString &group, const QString &key, const QString &value) = 0;
+    /// Reads what other processes have set since.
+    virtual void reload() {}
+    /// Sets what `changed` makes of the present value, empty for none. No other process that changes a value
+    /// comes in between.
+    virtual void change(const QString &group, const QString &key,
+                        const std::function<QString(const QString &)> &changed);
 
     /// The installed ones, else ones in memory.
     [[nodiscard]] static HostSettings &current();
@@ -51,6 +58,9 @@ public:
 
     [[nodiscard]] std::optional<QString> value(const QString &group, const QString &key) const override;
     void setValue(const QString &group, const QString &key, const QString &value) override;
+    void reload() override { m_settings.sync(); }
+    void change(const QString &group, const QString &key,
+                const std::function<QString(const QString &)> &changed) override;
 
 private:
     QSettings m_settings;

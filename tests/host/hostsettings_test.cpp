@@ -11,6 +11,23 @@
 
 using namespace Qt::StringLiterals;
 
+TEST(HostSettings, OfTwoProgramsLoseNothingOfAListThatBothChange)
+{
+    const QTemporaryDir folder;
+    IniHostSettings first(folder.filePath(u"new/bom.ini"_s));
+    // In one process QSettings of one path share what they know.
+    ASSERT_TRUE(QFile::link(folder.filePath(u"new"_s), folder.filePath(u"same"_s)));
+    IniHostSettings second(folder.filePath(u"same/bom.ini"_s));
+    const auto append = [](const QString &text) {
+        return [text](const QString &before) { return before + text; };
+    };
+    first.change(u"G"_s, u"K"_s, append(u"a"_s));
+    second.change(u"G"_s, u"K"_s, append(u"b"_s));
+    first.change(u"G"_s, u"K"_s, append(u"c"_s));
+    second.reload();
+    EXPECT_EQ(second.value(u"G"_s, u"K"_s).value_or(QString()).toStdString(), "abc");
+}
+
 TEST(HostSettings, OutliveTheMemoryOfTheStringsThatTheyGet)
 {
     const QTemporaryDir folder;
