@@ -39,6 +39,9 @@ QString toolBarsKey()
     return QStringLiteral("ToolBars");
 }
 
+/// Of what is kept about the tool bars.
+constexpr int toolBarsVersion = 1;
+
 /// The files and folders that are dragged.
 QStringList draggedFiles(const QMimeData &data)
 {
@@ -96,14 +99,16 @@ void FrameWindow::addtoolbar(QToolBar *bar)
 {
     addToolBar(bar);
     bar->show();
-    // Knows the bars that are there now only.
+    // Passes over bars that are still to come, and places them when they do.
     const QString state = HostSettings::current().value(settingsGroup(), toolBarsKey()).value_or(QString());
-    restoreState(QByteArray::fromBase64(state.toLatin1()));
+    restoreState(QByteArray::fromBase64(state.toLatin1()), toolBarsVersion);
+    m_isShowingAllBars = true;
 }
 
 void FrameWindow::removetoolbar(QToolBar *bar)
 {
     keepToolBars();
+    m_isShowingAllBars = false;
     removeToolBar(bar);
     bar->setParent(nullptr);
 }
@@ -216,9 +221,9 @@ void FrameWindow::restorePlace()
 
 void FrameWindow::keepToolBars() const
 {
-    if (!findChildren<QToolBar *>(QString(), Qt::FindDirectChildrenOnly).isEmpty()) {
+    if (m_isShowingAllBars) {
         HostSettings::current().setValue(settingsGroup(), toolBarsKey(),
-                                         QString::fromLatin1(saveState().toBase64()));
+                                         QString::fromLatin1(saveState(toolBarsVersion).toBase64()));
     }
 }
 

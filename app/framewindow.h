@@ -74,6 +74,8 @@ private:
     QPointer<QWidget> m_moduleWidget;
     /// The module's menus by their places.
     QMap<unsigned, QMenu *> m_moduleMenus;
+    /// False from the removal of the first bar on: without it the places of the others are not the user's.
+    bool m_isShowingAllBars = false;
     QString m_designName;
     QString m_title;
     std::function<bool()> m_canClose;

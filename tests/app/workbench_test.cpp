@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QScreen>
+#include <QToolBar>
 
 TEST_F(WorkbenchTest, TellsWhatToDoUntilADesignIsOpen)
 {
@@ -172,6 +173,37 @@ TEST(FrameWindowTest, IsNoLargerThanTheScreen)
     const FrameWindow window;
     const QSize screen = window.screen()->availableSize();
     EXPECT_EQ(window.size().boundedTo(screen), window.size());
+}
+
+TEST_F(WorkbenchTest, ToolBarsComeBackAsTheyWere)
+{
+    const auto bars = [this] {
+        QList<QToolBar *> found;
+        for (const char *name : {"designBar", "bomToolBar"}) {
+            found << bench->window().findChild<QToolBar *>(QLatin1String(name));
+        }
+        return found;
+    };
+    const auto startAgain = [&] {
+        bench->window().close();
+        bench = nullptr;
+        bench = std::make_unique<Workbench>();
+        EXPECT_TRUE(bench->start(QStringLiteral(BOM_BINARY_DIR "/lib/libbom.so")));
+        bench->window().show();
+        EXPECT_TRUE(bench->open(partList()));
+        QCoreApplication::processEvents();
+    };
+    startAgain();
+    EXPECT_LT(bars()[0]->x(), bars()[1]->x());
+    startAgain();
+    EXPECT_LT(bars()[0]->x(), bars()[1]->x()) << "the second start";
+    bench->window().insertToolBar(bars()[0], bars()[1]);
+    bars()[0]->hide();
+    startAgain();
+    EXPECT_TRUE(bars()[0]->isHidden());
+    bars()[0]->show();
+    QCoreApplication::processEvents();
+    EXPECT_GT(bars()[0]->x(), bars()[1]->x());
 }
 
 TEST(FrameWindowTest, PutsTheHelpOfAModuleIntoItsOwn)
