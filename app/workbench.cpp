@@ -340,6 +340,8 @@ bool Workbench::rereadDesign()
         m_reading.finish();
         // It may be half written; the next change of a file reads it again.
         m_window.status().setProblem(m_session.error());
+        // That it was read the last time.
+        m_window.setstatustext({});
         return false;
     }
     showDesign();
