@@ -4,6 +4,7 @@
 
 #include "app/readingpanel.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QEvent>
 #include <QEventLoop>
@@ -125,6 +126,11 @@ bool DesignReading::eventFilter(QObject *watched, QEvent *event)
     const bool isShortcut = event->type() == QEvent::Shortcut;
     auto *widget = qobject_cast<QWidget *>(watched);
     if (!isInput(event->type()) || QApplication::activeModalWidget() || (!widget && !isShortcut)) {
+        return false;
+    }
+    if (const auto *action = qobject_cast<QAction *>(watched);
+        action && action->menuRole() == QAction::QuitRole) {
+        // Closes the window, of which more below.
         return false;
     }
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {

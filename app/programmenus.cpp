@@ -80,6 +80,7 @@ void ProgramMenus::buildFile()
     m_close = add(file, tr("&Close"), tr("Close the design"), QKeySequence(QStringLiteral("Ctrl+W")));
     connect(m_close, &QAction::triggered, this, &ProgramMenus::closeRequested);
     QAction *quit = add(file, tr("&Quit"), tr("End the program"), QKeySequence(QStringLiteral("Ctrl+Q")));
+    quit->setMenuRole(QAction::QuitRole);
     connect(quit, &QAction::triggered, m_window, &QWidget::close);
     setRecentFiles({});
     setDesignOpen(false);

@@ -78,6 +78,17 @@ TEST_F(ReadingTest, InputReachesNothingButTheCancelButton)
     EXPECT_FALSE(bench->window().isVisible()) << "closed when reading has ended";
 }
 
+TEST_F(ReadingTest, QuitEndsTheProgramWhenReadingHasEnded)
+{
+    bench->window().show();
+    bench->window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&bench->window()));
+    whileReading([this] { QTest::keyClick(&bench->window(), Qt::Key_Q, Qt::ControlModifier); });
+    EXPECT_FALSE(bench->open(largeList()));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(bench->window().isVisible());
+}
+
 TEST_F(ReadingTest, NamesTheLastOutputAndOpensItsFolder)
 {
     ASSERT_TRUE(bench->open(partList()));
@@ -152,6 +163,10 @@ TEST_F(ReadingTest, F5ReadsTheFilesAndKeepsPendingEdits)
     action("Read the Design Again")->trigger();
     EXPECT_TRUE(isReported("33k"));
     EXPECT_EQ(statusText(), "parts.csv was read again.");
+    QFile::remove(path("parts.csv"));
+    action("Read the Design Again")->trigger();
+    EXPECT_EQ(statusText(), "");
+    EXPECT_FALSE(problem().empty());
 }
 
 TEST(CountsLabelTest, LeavesOutTheLastTextsAsAWhole)
