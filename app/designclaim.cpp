@@ -14,19 +14,24 @@ namespace {
 
 QString lockPath(const QString &file)
 {
-    const QFileInfo info(file);
-    const QString canonical = info.canonicalFilePath();
-    QString design = canonical.isEmpty() ? info.absoluteFilePath() : canonical;
-    const QString project = QStringLiteral(".kicad_pro");
-    if (design.endsWith(project, Qt::CaseInsensitive)) {
-        design = design.chopped(project.size()) + QStringLiteral(".kicad_sch");
-    }
-    const QByteArray hash = QCryptographicHash::hash(design.toUtf8(), QCryptographicHash::Sha1).toHex();
+    const QByteArray hash =
+        QCryptographicHash::hash(designOf(file).toUtf8(), QCryptographicHash::Sha1).toHex();
     return userDataFolder(QStringLiteral("BOM")) + QStringLiteral("/open/") + QString::fromLatin1(hash) +
            QStringLiteral(".lock");
 }
 
 } // namespace
+
+QString designOf(const QString &file)
+{
+    const QFileInfo info(file);
+    const QString canonical = info.canonicalFilePath();
+    const QString design = canonical.isEmpty() ? info.absoluteFilePath() : canonical;
+    const QString project = QStringLiteral(".kicad_pro");
+    return design.endsWith(project, Qt::CaseInsensitive)
+               ? design.chopped(project.size()) + QStringLiteral(".kicad_sch")
+               : design;
+}
 
 bool DesignClaim::take(const QString &file)
 {

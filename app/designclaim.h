@@ -7,11 +7,14 @@
 
 #include <memory>
 
+/// The same path for all names of one design: those of its project and its schematic, and links to them.
+[[nodiscard]] QString designOf(const QString &file);
+
 /// Says to other windows, which are other processes, that a design is open in this one.
 class DesignClaim final
 {
 public:
-    /// Claims a design, of which a project and its schematic are two names. False when another window, or
+    /// Claims a design, by any of its names. False when another window, or
     /// another object, has it. True also where no claims can be made, for want of room for instance.
     [[nodiscard]] bool take(const QString &file);
     [[nodiscard]] bool holds(const QString &file) const;

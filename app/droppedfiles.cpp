@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/droppedfiles.h"
 
+#include "app/designclaim.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -39,15 +41,6 @@ QStringList designsIn(const QString &folder)
     return {};
 }
 
-/// A project and its schematic are one design.
-QString keyOf(const QString &path)
-{
-    const QFileInfo info(path);
-    return info.suffix().startsWith(QLatin1String("kicad_"), Qt::CaseInsensitive)
-               ? info.path() + u'/' + info.completeBaseName()
-               : path;
-}
-
 } // namespace
 
 DroppedFiles droppedFiles(const QStringList &paths)
@@ -66,8 +59,8 @@ DroppedFiles droppedFiles(const QStringList &paths)
         } else if (!isDesignName(found.constFirst())) {
             dropped.problem = Texts::tr("%1 is no design: drop a .kicad_sch, .kicad_pro or .csv file.")
                                   .arg(info.fileName());
-        } else if (!known.contains(keyOf(found.constFirst()))) {
-            known << keyOf(found.constFirst());
+        } else if (!known.contains(designOf(found.constFirst()))) {
+            known << designOf(found.constFirst());
             dropped.designs << found.constFirst();
         }
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/recentfiles.h"
 
+#include "app/designclaim.h"
 #include "host/framework/hostsettings.h"
 
 #include <QFileInfo>
@@ -65,7 +66,7 @@ QStringList RecentFiles::list()
 void RecentFiles::add(const QString &path)
 {
     change([&path](QStringList &paths) {
-        paths.removeAll(path);
+        paths.removeIf([design = designOf(path)](const QString &known) { return designOf(known) == design; });
         paths.prepend(path);
     });
     HostSettings::current().setValue(group(), folderKey(), QFileInfo(path).path());

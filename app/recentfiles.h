@@ -13,6 +13,7 @@ public:
 
     /// The last one first.
     [[nodiscard]] static QStringList list();
+    /// A design that is known by another of its names changes the name.
     static void add(const QString &path);
     /// Of the one that was added last, also when the list was cleared; empty before the first one.
     [[nodiscard]] static QString lastFolder();

@@ -73,6 +73,12 @@ TEST_F(WorkbenchTest, RemembersTenDesigns)
     EXPECT_FALSE(bench->open(gone));
     EXPECT_EQ(RecentFiles::list().size(), 9);
 
+    const QString project = write("list 10 & é.kicad_pro", "{}");
+    RecentFiles::add(path("list 10 & é.kicad_sch"));
+    RecentFiles::add(project);
+    EXPECT_EQ(RecentFiles::list().size(), 10) << "a project and its schematic are one design";
+    EXPECT_EQ(RecentFiles::list().constFirst(), project);
+
     action("&Clear This List")->trigger();
     EXPECT_TRUE(RecentFiles::list().isEmpty());
     EXPECT_FALSE(action("Open &Recent")->isEnabled());
