@@ -48,10 +48,11 @@ DroppedFiles droppedFiles(const QStringList &paths)
     DroppedFiles dropped;
     QStringList known;
     for (const QString &path : paths) {
-        const QFileInfo info(path);
+        // Names "." and what ends in a slash, too.
+        const QFileInfo info(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
         const QStringList found = info.isDir() ? designsIn(path) : QStringList(path);
         if (found.size() > 1) {
-            dropped.problem = Texts::tr("The folder %1 holds %2 designs: drop one of them.")
+            dropped.problem = Texts::tr("The folder %1 holds %2 designs: choose one of them.")
                                   .arg(info.fileName())
                                   .arg(found.size());
         } else if (found.isEmpty()) {

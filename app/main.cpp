@@ -35,7 +35,8 @@ struct Usage
     Q_DECLARE_TR_FUNCTIONS(Usage)
 public:
     QString purpose = tr("Shows the bill of materials of a KiCad schematic or a part list.");
-    QString design = tr("A .kicad_sch, .kicad_pro or .csv file; each further one gets a window of its own.");
+    QString design = tr("A .kicad_sch, .kicad_pro or .csv file, or the folder of one; each further one gets "
+                        "a window of its own.");
     QString module = tr("The library of the module.");
 };
 

@@ -126,7 +126,15 @@ void Workbench::connectWindow()
 
 bool Workbench::open(const QString &path, const QString &variant)
 {
-    const QString file = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    QString file = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    if (QFileInfo(file).isDir()) {
+        const DroppedFiles found = droppedFiles({file});
+        if (found.designs.isEmpty()) {
+            HostUi::current().warning(&m_window, tr("Open Failed"), found.problem);
+            return false;
+        }
+        file = found.designs.constFirst();
+    }
     if (m_reading.isReading() || !canClose()) {
         return false;
     }

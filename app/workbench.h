@@ -39,8 +39,8 @@ public:
     [[nodiscard]] FileWatcher &watcher() { return m_files.watcher(); }
     [[nodiscard]] DesignReading &reading() { return m_reading; }
 
-    /// Opens a design, as drawn or in a variant, in place of the one that is open. When it cannot be read the
-    /// user is told, and the old one stays; likewise when the user cancels it.
+    /// Opens a design, or the one in a folder, as drawn or in a variant, in place of the one that is open.
+    /// When it cannot be read the user is told, and the old one stays; likewise when the user cancels it.
     bool open(const QString &path, const QString &variant = {});
     /// Opens designs in windows of their own, which are further processes of this program.
     void openInNewWindows(const QStringList &paths);

@@ -4,6 +4,7 @@
 #include "tests/app/workbenchfixture.h"
 
 #include "app/droppedfiles.h"
+#include "app/recentfiles.h"
 
 #include <QPushButton>
 #include <QTest>
@@ -150,6 +151,12 @@ TEST_F(ReadingTest, AFolderStandsForTheDesignInIt)
     EXPECT_EQ(droppedFiles({path("amp.kicad_sch"), path("")}).designs, QStringList(path("amp.kicad_sch")));
     write("other.kicad_pro", "{}");
     EXPECT_TRUE(droppedFiles({path("")}).problem.contains(QStringLiteral("holds 2 designs")));
+    EXPECT_FALSE(bench->open(path("")));
+    ASSERT_EQ(ui.warnings.size(), 1);
+    EXPECT_EQ(ui.warnings[0].text, droppedFiles({path("")}).problem);
+    QFile::remove(path("other.kicad_pro"));
+    EXPECT_TRUE(bench->open(path("")));
+    EXPECT_EQ(RecentFiles::list(), QStringList(path("amp.kicad_pro")));
     QDir(path("")).mkdir(QStringLiteral("empty"));
     EXPECT_EQ(droppedFiles({path("empty")}).problem,
               QStringLiteral("There is no design in the folder empty."));
