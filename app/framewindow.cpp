@@ -20,6 +20,8 @@
 #include <QToolBar>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace {
 
 constexpr QSize firstSize(1200, 800);
@@ -206,6 +208,28 @@ void FrameWindow::closeEvent(QCloseEvent *event)
     event->setAccepted(!m_canClose || m_canClose());
     if (event->isAccepted()) {
         keepPlace();
+    }
+}
+
+void FrameWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    // A user cannot enlarge a window to its least size: what it shows now needs more than the window had.
+    const QSize before = event->oldSize();
+    if (isVisible() && ((width() > before.width() && width() == minimumWidth()) ||
+                        (height() > before.height() && height() == minimumHeight()))) {
+        moveOntoScreen();
+    }
+}
+
+void FrameWindow::moveOntoScreen()
+{
+    const QRect room = screen()->availableGeometry();
+    const QRect now = frameGeometry();
+    const QPoint place(std::max(room.left(), std::min(now.left(), room.right() + 1 - now.width())),
+                       std::max(room.top(), std::min(now.top(), room.bottom() + 1 - now.height())));
+    if (place != now.topLeft()) {
+        move(place);
     }
 }
 

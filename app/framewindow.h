@@ -59,10 +59,12 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void updateTitle();
     void restorePlace();
+    void moveOntoScreen();
     void keepToolBars() const;
     void keepPlace() const;
 

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QScreen>
+#include <QTest>
 #include <QToolBar>
 
 TEST_F(WorkbenchTest, TellsWhatToDoUntilADesignIsOpen)
@@ -210,6 +211,20 @@ TEST_F(WorkbenchTest, ToolBarsComeBackAsTheyWere)
     bars()[0]->show();
     QCoreApplication::processEvents();
     EXPECT_GT(bars()[0]->x(), bars()[1]->x());
+}
+
+TEST(FrameWindowTest, StaysOnTheScreenWhenItMustGrow)
+{
+    FrameWindow window;
+    const QRect screen = window.screen()->availableGeometry();
+    window.setGeometry(screen.right() - 600, screen.top() + 50, 550, 400);
+    window.show();
+    QWidget wide;
+    wide.setMinimumWidth(700);
+    window.setwidget(&wide);
+    EXPECT_TRUE(QTest::qWaitFor([&window] { return window.width() >= 700; }));
+    EXPECT_TRUE(screen.contains(window.frameGeometry()));
+    window.removewidget(&wide);
 }
 
 TEST(FrameWindowTest, PutsTheHelpOfAModuleIntoItsOwn)
