@@ -6,9 +6,13 @@
 #include "host/widgets/applnwidget.h"
 #include "module/vlabel.h"
 
+#include <QMainWindow>
 #include <QPropertyAnimation>
+#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace {
 
@@ -81,15 +85,27 @@ void DockWidget::applyDockedState(int width)
     // The strip is as tall as the window.
     setFeatures(m_isOpen ? NoDockWidgetFeatures : DockWidgetVerticalTitleBar);
     if (m_isOpen) {
-        m_content->setMinimumWidth(width);
+        m_content->setMinimumWidth(fittingWidth(width));
     }
     m_content->setVisible(m_isOpen);
+}
+
+int DockWidget::fittingWidth(int width) const
+{
+    const auto *window = qobject_cast<const QMainWindow *>(parentWidget());
+    if (!window || !window->isVisible() || !window->centralWidget()) {
+        return width;
+    }
+    const int room = window->width() - std::max(0, window->centralWidget()->minimumSizeHint().width()) -
+                     style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent, nullptr, window);
+    return std::max(std::min(width, room), m_content->minimumSizeHint().width());
 }
 
 void DockWidget::setOpen(bool isOpen)
 {
     delete m_animation;
-    if (m_isOpen && !isOpen) {
+    // A content that was never shown has no width of its own.
+    if (m_isOpen && !isOpen && m_content->isVisible()) {
         m_openWidth = m_content->width();
     }
     m_isOpen = isOpen;
@@ -140,8 +156,8 @@ void DockWidget::open()
     m_isOpen = true;
     applyDockedState(m_openWidth);
     QRect opened = m_content->geometry();
-    opened.setRect(0, opened.y(), m_openWidth, opened.height());
-    slide(wasSliding ? m_content->geometry() : foldedPlace(opened, m_openWidth), opened);
+    opened.setRect(0, opened.y(), fittingWidth(m_openWidth), opened.height());
+    slide(wasSliding ? m_content->geometry() : foldedPlace(opened, opened.width()), opened);
 }
 
 void DockWidget::fold()

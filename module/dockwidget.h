@@ -35,6 +35,8 @@ public Q_SLOTS:
 private:
     void setUpTitleBar();
     void applyDockedState(int width);
+    /// What the window can give the content of the width without growing.
+    [[nodiscard]] int fittingWidth(int width) const;
     void open();
     void fold();
     void slide(const QRect &from, const QRect &to);

@@ -79,6 +79,26 @@ TEST_F(Dock, KeepsItsWidthWhenTheButtonIsPressedWhileItSlides)
     EXPECT_TRUE(QTest::qWaitFor([this] { return width() == 250; })) << "without sliding, too";
 }
 
+TEST_F(Dock, OpensInANarrowWindowWithoutEnlargingIt)
+{
+    toggle();
+    waitForSlide();
+    window.resize(200, 300);
+    QTest::qWait(50);
+    toggle();
+    waitForSlide();
+    EXPECT_TRUE(panel->isOpen());
+    EXPECT_EQ(window.width(), 200);
+}
+
+TEST_F(Dock, KeepsTheWidthThatIsSetBeforeItIsShown)
+{
+    DockWidget hidden;
+    hidden.setOpenWidth(250);
+    hidden.setOpen(false);
+    EXPECT_EQ(hidden.openWidth(), 250);
+}
+
 TEST_F(Dock, LabelIsTurnedOnceAndReadableOnItsLightBackground)
 {
     toggle();
