@@ -3391,16 +3391,16 @@ Trotzdem ausgeben?</translation>
 <context>
     <name>DroppedFiles</name>
     <message>
-        <source>The folder %1 holds %2 designs: drop one of them.</source>
-        <translation>Der Ordner %1 enthält %2 Entwürfe: Ziehen Sie einen davon auf das Fenster.</translation>
-    </message>
-    <message>
         <source>There is no design in the folder %1.</source>
         <translation>Im Ordner %1 ist kein Entwurf.</translation>
     </message>
     <message>
         <source>%1 is no design: drop a .kicad_sch, .kicad_pro or .csv file.</source>
         <translation>%1 ist kein Entwurf: Ziehen Sie eine Datei .kicad_sch, .kicad_pro oder .csv auf das Fenster.</translation>
+    </message>
+    <message>
+        <source>The folder %1 holds %2 designs: choose one of them.</source>
+        <translation>Der Ordner %1 enthält %2 Entwürfe: Wählen Sie einen davon.</translation>
     </message>
 </context>
 <context>
@@ -6736,8 +6736,8 @@ Open the design with that version to go on with them, or remove the file to do w
         <translation>Die Bibliothek des Moduls.</translation>
     </message>
     <message>
-        <source>A .kicad_sch, .kicad_pro or .csv file; each further one gets a window of its own.</source>
-        <translation>Eine Datei .kicad_sch, .kicad_pro oder .csv; jede weitere bekommt ein eigenes Fenster.</translation>
+        <source>A .kicad_sch, .kicad_pro or .csv file, or the folder of one; each further one gets a window of its own.</source>
+        <translation>Eine Datei .kicad_sch, .kicad_pro oder .csv oder deren Ordner; jede weitere bekommt ein eigenes Fenster.</translation>
     </message>
 </context>
 <context>
