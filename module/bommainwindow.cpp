@@ -15,7 +15,6 @@
 #include "host/framework/applnprocess.h"
 #include "host/framework/hostui.h"
 #include "host/framework/imodule.h"
-#include "host/framework/menubar.h"
 #include "host/widgets/waitcursor.h"
 #include "module/legacyoffer.h"
 #include "module/newtemplatedialog.h"
@@ -80,7 +79,7 @@ bool BOMMainWindow::createwindow(APPLNFRAME *frame)
     m_actions = std::make_unique<WindowActions>(
         this, m_stores.undo, LookActions{m_pages->report().findActions(), m_pages->report().zoomActions()});
     buildBars();
-    takeHostMenus();
+    m_actions->joinHostMenus();
     connectActions();
     connectPanel();
     connectViews();
@@ -130,15 +129,6 @@ void BOMMainWindow::buildBars()
         addctrlbar(static_cast<IPROJECT *>(project)->createctrlbar(this), CTRLBAR_FIRST_ROW, CTRLBAR_TOP);
     }
     addtoolbar(m_actions->toolBar());
-}
-
-void BOMMainWindow::takeHostMenus()
-{
-    if (MENUBAR *menus = getframe()->getmenubar()) {
-        (void)menus->loadmenus("APPLNMENU", getapplnlanguageinstance(getowner()));
-        menus->setaccelerators(getkeytranslator(), ACCELERATORS_APPLICATION, ACCELERATORS_REPLACE);
-        menus->setaccelerators(getkeytranslator(), ACCELERATORS_DESIGN, ACCELERATORS_ADD);
-    }
 }
 
 void BOMMainWindow::connectActions()

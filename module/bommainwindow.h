@@ -76,7 +76,6 @@ private Q_SLOTS:
 
 private:
     void buildBars();
-    void takeHostMenus();
     void connectActions();
     void connectPanel();
     void connectViews();

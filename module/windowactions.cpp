@@ -4,6 +4,8 @@
 
 #include "editors/pendingundo.h"
 #include "host/framework/applnframe.h"
+#include "host/framework/applnmodule.h"
+#include "host/framework/menubar.h"
 #include "host/widgets/applnwidget.h"
 #include "module/reportoutputs.h"
 
@@ -166,6 +168,15 @@ QToolBar *WindowActions::toolBar() const
     bar->addSeparator();
     bar->addActions({find, replace});
     return bar;
+}
+
+void WindowActions::joinHostMenus() const
+{
+    if (MENUBAR *menus = m_window->getframe()->getmenubar()) {
+        (void)menus->loadmenus("APPLNMENU", getapplnlanguageinstance(m_window->getowner()));
+        menus->setaccelerators(m_window->getkeytranslator(), ACCELERATORS_APPLICATION, ACCELERATORS_REPLACE);
+        menus->setaccelerators(m_window->getkeytranslator(), ACCELERATORS_DESIGN, ACCELERATORS_ADD);
+    }
 }
 
 void WindowActions::deleteOptions()

@@ -37,6 +37,8 @@ public:
     [[nodiscard]] QMenu *templatesMenu() const;
     [[nodiscard]] QMenu *helpMenu() const;
     [[nodiscard]] QMenu *viewMenu() const;
+    /// Adds the host's menus and its keys, where it has a menu bar.
+    void joinHostMenus() const;
     /// The options of the outputs stand in it as well.
     [[nodiscard]] QToolBar *toolBar() const;
     /// To be called when the frame has taken the tool bar away and the window stays.
