@@ -47,7 +47,7 @@ TEST_F(EditingTest, AsksBeforeAnotherStateOfTheDesignReplacesIt)
     ASSERT_EQ(ui.saveQuestions.size(), 2);
     EXPECT_TRUE(ui.saveQuestions[0].text.startsWith(
         QStringLiteral("Do you want to save the changes you made to the BOM template?")));
-    EXPECT_TRUE(ui.saveQuestions[0].text.contains(QStringLiteral("1 changes of properties are pending")));
+    EXPECT_TRUE(ui.saveQuestions[0].text.contains(QStringLiteral("One change of a property is pending")));
 
     ui.saveAnswer = HostUi::SaveAnswer::Discard;
     ASSERT_TRUE(bench->open(other));
