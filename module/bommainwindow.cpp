@@ -397,7 +397,7 @@ void BOMMainWindow::outputBOM()
     if (!m_database || !action) {
         return;
     }
-    auto form = action->data().value<OutputForm>();
+    auto form = OutputForm(action->data().toInt());
     if (form == OutputForm::Csv && m_actions->fullCsv->isChecked()) {
         form = OutputForm::FullCsv;
     }

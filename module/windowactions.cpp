@@ -80,12 +80,13 @@ void WindowActions::addOutputs()
     ascii = add({tr("&ASCII"), modulePicture(QStringLiteral("ascii")), tr("Output BOM in ASCII")});
     print = add({tr("&Print"), hostPicture(QStringLiteral("print")), tr("Print BOM")});
     excel = add({tr("&Open In Excel"), modulePicture(QStringLiteral("excel")), tr("Output BOM to Excel")});
-    html->setData(QVariant::fromValue(OutputForm::Html));
-    pdf->setData(QVariant::fromValue(OutputForm::Pdf));
-    csv->setData(QVariant::fromValue(OutputForm::Csv));
-    ascii->setData(QVariant::fromValue(OutputForm::Ascii));
-    print->setData(QVariant::fromValue(OutputForm::Print));
-    excel->setData(QVariant::fromValue(OutputForm::Spreadsheet));
+    // Numbers: Qt would remember a type of the module beyond its end, when its library is unloaded.
+    html->setData(int(OutputForm::Html));
+    pdf->setData(int(OutputForm::Pdf));
+    csv->setData(int(OutputForm::Csv));
+    ascii->setData(int(OutputForm::Ascii));
+    print->setData(int(OutputForm::Print));
+    excel->setData(int(OutputForm::Spreadsheet));
     setPaper = add({tr("&Set Paper"), modulePicture(QStringLiteral("paper_setup")),
                     tr("Set paper for printing and PDF output")});
     advancedSettings = add({tr("Advanced Settings"), {}, tr("Additional BOM settings")});
