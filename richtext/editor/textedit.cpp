@@ -18,6 +18,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPrinter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextList>
@@ -173,7 +174,10 @@ void TextEdit::setZoom(double factor)
     const QRectF old = rectOf(top);
     m_zoom = factor;
     m_document->setZoom(factor);
-    setLayoutWidth(true);
+    {
+        const QScopedValueRollback zooming(m_isZooming, true);
+        setLayoutWidth(true);
+    }
     if (before > 0 && m_document->isShown()) {
         const QRectF now = rectOf(top);
         const double ratio = old.height() > 0 ? now.height() / old.height() : 1;
@@ -266,7 +270,7 @@ void TextEdit::resizeEvent(QResizeEvent *event)
 {
     // A large document would hold up whoever drags the frame; it follows when they pause.
     constexpr qint64 unnoticed = 30;
-    if (m_layoutTime > unnoticed) {
+    if (m_layoutTime > unnoticed && !m_isZooming) {
         m_layoutLater.start();
     } else {
         layOut();

@@ -109,6 +109,7 @@ private:
     /// Whether the end of a document that grows is shown, wherever it is.
     bool m_followsEnd = false;
     double m_zoom = 1;
+    bool m_isZooming = false;
     QTimer m_layoutLater;
     /// How long it took to follow the window's width last time, in milliseconds.
     qint64 m_layoutTime = 0;
