@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QPointer>
 #include <QTableWidget>
 #include <QTest>
 
@@ -57,6 +58,20 @@ TEST_F(EditingTest, AsksBeforeAnotherStateOfTheDesignReplacesIt)
     ui.saveAnswer = HostUi::SaveAnswer::Save;
     ASSERT_TRUE(bench->open(other));
     EXPECT_EQ(file(), "Reference,Value\nR1,11k\nC1,1u\n");
+}
+
+TEST_F(EditingTest, NoCommandClosesTheDesignThatAQuestionStandsOn)
+{
+    value("R1")->setText(QStringLiteral("11k"));
+    const QPointer<QTableWidget> shown = table();
+    ui.saveAnswer = HostUi::SaveAnswer::Discard;
+    ui.whileAsked = [&] {
+        action("&Close")->trigger();
+        EXPECT_TRUE(shown);
+    };
+    action("&Close")->trigger();
+    EXPECT_FALSE(shown);
+    EXPECT_EQ(ui.saveQuestions.size(), 1);
 }
 
 TEST_F(EditingTest, UndoTakesNothingBackThatItsQuestionWrote)

@@ -8,6 +8,9 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <functional>
+#include <utility>
+
 /// Installed while it lives: answers as the test says and records what it was asked.
 class ScriptedUi final : public HostUi
 {
@@ -39,6 +42,9 @@ public:
     QDateTime clock = QDateTime(QDate(2026, 1, 2), QTime(3, 4, 5), Qt::UTC);
     QLocale numberFormat = QLocale::c();
 
+    /// What the user does while the next question to save stands there.
+    std::function<void()> whileAsked;
+
     /// What was asked.
     QList<Message> informations;
     QList<Message> warnings;
@@ -64,6 +70,9 @@ public:
     SaveAnswer saveQuestion(QWidget *, const QString &title, const QString &text, bool withCancel) override
     {
         saveQuestions.append({title, text});
+        if (whileAsked) {
+            std::exchange(whileAsked, {})();
+        }
         return saveAnswer == SaveAnswer::Cancel && !withCancel ? SaveAnswer::Discard : saveAnswer;
     }
     QString saveFileName(QWidget *, const QString &caption, const QString &path,
