@@ -228,8 +228,8 @@ TEST_P(RowsInWindow, BreaksNoWordsThatFitOnThePaperWhileThereIsRoom)
     EXPECT_EQ(linesOf(u"PIC"_s), 1);
     EXPECT_EQ(linesOf(u"package"_s), 1);
     edit.resize(180, 300);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return linesOf(u"PIC"_s) == 1; }));
-    EXPECT_GT(linesOf(u"package"_s), 1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return linesOf(u"package"_s) > 1; }));
+    EXPECT_EQ(linesOf(u"PIC"_s), 1);
     EXPECT_FALSE(edit.document()->isModified());
 }
 
