@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QEvent>
 #include <QEventLoop>
 #include <QFileInfo>
@@ -18,8 +19,7 @@
 
 namespace {
 
-/// A design that is read within this time needs no event loop.
-constexpr unsigned long atOnceMilliseconds = 100;
+/// Before the panel is shown.
 constexpr int delayMilliseconds = 400;
 /// The report of a design with more takes longer than reading it.
 constexpr std::size_t manyComponents = 20000;
@@ -72,7 +72,7 @@ SettledDesign DesignReading::read(const QString &path, const OpenOptions &option
             settled = readSettledDesign(path, options, stop);
         }));
     thread->start();
-    if (!thread->wait(atOnceMilliseconds)) {
+    if (!thread->wait(QDeadlineTimer(m_atOnce))) {
         const auto show = connect(&m_delay, &QTimer::timeout, this, [this, &path] {
             m_panel->showText(tr("Reading %1…").arg(QFileInfo(path).fileName()));
         });

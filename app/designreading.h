@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <algorithm>
 #include <stop_token>
 
 class QWidget;
@@ -32,8 +33,12 @@ public:
     /// To be called when the window shows the design, or the reading came to nothing.
     void finish();
 
-    /// After how many milliseconds the panel is shown.
-    void setDelay(int milliseconds) { m_delay.setInterval(milliseconds); }
+    /// After how many milliseconds the panel is shown. With 0 it is, however fast the reading.
+    void setDelay(int milliseconds)
+    {
+        m_delay.setInterval(milliseconds);
+        m_atOnce = std::min(m_atOnce, milliseconds);
+    }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -46,5 +51,7 @@ private:
     QTimer m_delay;
     std::stop_source m_stop;
     bool m_isReading = false;
+    /// How long nothing else is done, in milliseconds: most designs are read by then.
+    int m_atOnce = 100;
     bool m_isToBeClosed = false;
 };

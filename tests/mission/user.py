@@ -2,6 +2,8 @@
 # SPDX-License-Identifier: MIT
 """Somebody who works with bomviewer: starts it, finds what to press by what it says, and waits until it has happened."""
 
+import time
+
 from hands import Hands
 from screenreader import Bus, Gone
 from session import PATIENCE, NotInTime, wait_for
@@ -104,7 +106,12 @@ class User:
     # What to do
 
     def click(self, widget, **how):
-        self.hands.click(self.wait("a widget of a size", lambda: widget.rectangle if widget.rectangle.width else None), **how)
+        def resting():
+            """Where it is, once the window manager has put a new window into its place."""
+            before = widget.rectangle
+            time.sleep(0.08)
+            return before if before.width and widget.rectangle == before else None
+        self.hands.click(self.wait("a widget of a size that rests", resting), **how)
 
     def button(self, name, inside=None):
         button = self.find("push button", name, inside)
