@@ -227,6 +227,7 @@ TEST_F(TemplateStoreTest, WhatAnotherWindowSavedIsNeitherReplacedUnaskedNorMisse
     EXPECT_EQ(m_ui.questions.size(), 1);
     EXPECT_EQ(widthIn(file("Mine")), 13);
     m_ui.answer = true;
+    m_working.settings.setDocumentHeader(u"line ends\r\nand\ttabs  "_s);
     EXPECT_TRUE(m_store.saveCurrent());
     EXPECT_TRUE(m_store.saveCurrent());
     m_ui.answer = false;
