@@ -97,6 +97,14 @@ void BOMMainWindow::destroywindow()
     if (m_actions) {
         m_actions->deleteOptions();
     }
+    // Hosts delete the window later; what changes until then it can show nowhere.
+    for (QObject *source : {static_cast<QObject *>(m_database), static_cast<QObject *>(m_stores.templates),
+                            static_cast<QObject *>(m_stores.assignments)}) {
+        if (source) {
+            source->disconnect(this);
+        }
+    }
+    forgetDatabase();
     APPLNWIDGET::destroywindow();
 }
 
@@ -393,8 +401,8 @@ void BOMMainWindow::forgetDatabase()
 
 void BOMMainWindow::outputBOM()
 {
-    const auto *action = qobject_cast<QAction *>(sender());
-    if (!m_database || !action) {
+    auto *action = qobject_cast<QAction *>(sender());
+    if (!m_database || !m_actions->outputs().contains(action)) {
         return;
     }
     auto form = OutputForm(action->data().toInt());

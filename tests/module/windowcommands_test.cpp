@@ -98,6 +98,16 @@ TEST_F(Window, AsksBeforeAnotherTemplateTakesThePlaceOfAChangedOne)
     EXPECT_TRUE(working().appendNotes() && box(u"Append Project Notes"_s).isChecked());
 }
 
+TEST_F(Window, ShowsNothingAnyMoreOnceItIsTornDown)
+{
+    show();
+    mainWindow()->destroywindow();
+    BOMTemplate other = working();
+    other.setAppendNotes(!other.appendNotes());
+    EXPECT_TRUE(BOMPartsDatabase::instance()->setTemplateOptions(other));
+    EXPECT_EQ(working().appendNotes(), other.appendNotes());
+}
+
 TEST_F(Window, MakesSavesAndDeletesTemplates)
 {
     show();
