@@ -103,6 +103,20 @@ TEST(TerminalColumns, BreakTextsBehindSignsAndCountWideCharactersTwice)
     }
 }
 
+TEST(PrintedColumns, AreMeasuredByTheWidthOfLetters)
+{
+    const auto needOf = [](const QString &text, TextMeasure measure) {
+        ColumnNeeds needs(u" -", measure);
+        needs.add({text});
+        return needs.needs().constFirst();
+    };
+    EXPECT_EQ(needOf(u"4711"_s, TextMeasure::Print), (ColumnNeed{4, 4}));
+    EXPECT_EQ(needOf(u"GRMW"_s, TextMeasure::Print), (ColumnNeed{6, 6})) << "3277 thousandths";
+    EXPECT_EQ(needOf(u"ill fit"_s, TextMeasure::Print), (ColumnNeed{4, 2}));
+    EXPECT_EQ(needOf(u"ill GRMW"_s, TextMeasure::Terminal), (ColumnNeed{8, 4}));
+    EXPECT_EQ(needOf(u"電阻"_s, TextMeasure::Print), (ColumnNeed{4, 4}));
+}
+
 TEST(TerminalColumns, GiveWayWhereNoWordIsBroken)
 {
     struct Case

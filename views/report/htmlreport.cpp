@@ -142,7 +142,7 @@ int charactersOfPaper(const BOMTemplate &settings)
 QList<int> readableWidths(const Report &report)
 {
     // Browsers and our pages break texts behind these.
-    ColumnNeeds needs(u" -");
+    ColumnNeeds needs(u" -", TextMeasure::Print);
     needs.add(headingTexts(report));
     for (const QString &category : report.categories()) {
         const ReportLines listed = report.lines(category, true);

@@ -39,6 +39,22 @@ int widthOf(char32_t c)
     return isWide ? 2 : 1;
 }
 
+/// The widths of the characters from the blank to the tilde, in thousandths of the font's size; a digit has
+/// 556. From the metrics of Helvetica ("Core 14 AFM files", Adobe), which Arial and Liberation Sans share.
+constexpr std::array<short, 95> printedWidths{
+    278, 278, 355, 556, 556, 889, 667, 191, 333, 333, 389, 584, 278, 333,  278, 278, 556, 556, 556,
+    556, 556, 556, 556, 556, 556, 556, 278, 278, 584, 584, 584, 556, 1015, 667, 667, 722, 722, 667,
+    611, 778, 722, 278, 500, 667, 556, 833, 722, 778, 667, 778, 722, 667,  611, 722, 667, 944, 667,
+    667, 611, 278, 278, 278, 469, 556, 333, 556, 556, 500, 556, 556, 278,  556, 556, 222, 222, 500,
+    222, 833, 556, 556, 556, 556, 333, 500, 278, 556, 500, 722, 500, 500,  500, 334, 260, 334, 584};
+constexpr int digitWidth = 556;
+
+/// In thousandths of the font's size.
+int printedWidthOf(char32_t c)
+{
+    return c >= U' ' && c <= U'~' ? printedWidths[c - U' '] : widthOf(c) * digitWidth;
+}
+
 /// The character there, of one unit or two.
 char32_t characterAt(QStringView text, qsizetype at)
 {
@@ -74,19 +90,24 @@ qsizetype lineEnd(QStringView text, int width)
     return text.size();
 }
 
-/// The longest piece of a text that is broken behind these characters only.
-int pieceWidth(const QString &text, QStringView breaks)
+/// What a text needs that is broken behind these characters only.
+ColumnNeed needOf(const QString &text, QStringView breaks, TextMeasure measure)
 {
-    int longest = 0;
+    const bool isPrint = measure == TextMeasure::Print;
+    ColumnNeed need;
     int width = 0;
     for (qsizetype at = 0; at < text.size();) {
         const char32_t c = characterAt(text, at);
         at += unitsOf(c);
-        width += widthOf(c);
-        longest = std::max(longest, c == U' ' ? width - 1 : width);
+        const int own = isPrint ? printedWidthOf(c) : widthOf(c);
+        need.text += own;
+        width += own;
+        // A blank at the end of a line needs no room.
+        need.piece = std::max(need.piece, c == U' ' ? width - own : width);
         width = isBreak(c, breaks) ? 0 : width;
     }
-    return longest;
+    const auto inDigits = [isPrint](int sum) { return isPrint ? (sum + digitWidth - 1) / digitWidth : sum; };
+    return {inDigits(need.text), inDigits(need.piece)};
 }
 
 } // namespace
@@ -106,10 +127,9 @@ void ColumnNeeds::add(const QStringList &row)
 {
     m_needs.resize(std::max(m_needs.size(), row.size()));
     for (qsizetype i = 0; i < row.size(); ++i) {
-        const QString &text = row.at(i);
-        m_needs[i].text = std::max(m_needs[i].text, terminalWidth(text));
-        m_needs[i].piece =
-            std::max(m_needs[i].piece, pieceWidth(text, i == referenceColumn ? u"," : m_breaks));
+        const ColumnNeed need = needOf(row.at(i), i == referenceColumn ? u"," : m_breaks, m_measure);
+        m_needs[i].text = std::max(m_needs[i].text, need.text);
+        m_needs[i].piece = std::max(m_needs[i].piece, need.piece);
     }
 }
 

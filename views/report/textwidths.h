@@ -23,13 +23,22 @@ struct ColumnNeed
 /// Behind these wrappedText() breaks texts.
 constexpr QStringView wordBreaks = u" ,;/-_";
 
+/// What characters are measured by, in digits: in a terminal all are as wide as a digit or twice as wide, in
+/// print letters differ.
+enum class TextMeasure
+{
+    Terminal,
+    Print
+};
+
 /// Collects what the columns of a report need: quantity, references, then the template's.
 class ColumnNeeds final
 {
 public:
     /// Texts are broken behind these characters; references behind commas only.
-    explicit ColumnNeeds(QStringView breaks)
+    explicit ColumnNeeds(QStringView breaks, TextMeasure measure = TextMeasure::Terminal)
         : m_breaks(breaks)
+        , m_measure(measure)
     {
     }
 
@@ -39,6 +48,7 @@ public:
 
 private:
     QStringView m_breaks;
+    TextMeasure m_measure;
     QList<ColumnNeed> m_needs;
 };
 
