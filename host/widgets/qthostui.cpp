@@ -6,9 +6,11 @@
 #include <QCursor>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QList>
 #include <QMessageBox>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -41,6 +43,13 @@ public:
 private:
     QList<QCursor> m_cursors;
 };
+
+/// Of "Text (*.txt *.text)" "txt"; empty where the filter takes any name.
+QString firstSuffix(const QString &filter)
+{
+    static const QRegularExpression suffix(QStringLiteral("\\(\\*\\.(\\w+)"));
+    return suffix.match(filter).captured(1);
+}
 
 /// How much of a text the box itself shows.
 qsizetype shownLength(const QString &text)
@@ -133,7 +142,13 @@ QString QtHostUi::saveFileName(QWidget *parent, const QString &caption, const QS
                                const QString &filter)
 {
     const OrdinaryCursor cursor;
-    return QFileDialog::getSaveFileName(parent, caption, path, filter);
+    const QFileInfo proposed(path);
+    QFileDialog dialog(parent, caption, proposed.path(), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // Before the dialog asks whether an existing file is to be replaced.
+    dialog.setDefaultSuffix(firstSuffix(filter));
+    dialog.selectFile(proposed.fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 QString QtHostUi::openFileName(QWidget *parent, const QString &caption, const QString &path,

@@ -3,14 +3,18 @@
 #include "host/widgets/qthostui.h"
 
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -69,6 +73,27 @@ TEST(QtHostUiTest, AnswersWhatWasPressed)
     EXPECT_EQ(ui.saveQuestion(nullptr, {}, QStringLiteral("?"), false), HostUi::SaveAnswer::Save);
     withBox([](QMessageBox &box) { box.button(QMessageBox::Cancel)->click(); });
     EXPECT_EQ(ui.saveQuestion(nullptr, {}, QStringLiteral("?"), true), HostUi::SaveAnswer::Cancel);
+}
+
+TEST(QtHostUiTest, FilesThatAreSavedGetAnEnding)
+{
+    QtHostUi ui;
+    const QTemporaryDir folder;
+    const QString filter = QStringLiteral("Web pages (*.html *.htm)");
+    const std::pair<const char *, const char *> names[] = {
+        {"", "amp.html"}, {"bill", "bill.html"}, {"bill.htm", "bill.htm"}};
+    for (const auto &[typed, saved] : names) {
+        QTimer::singleShot(0, qApp, [typed = QString::fromLatin1(typed)] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            if (!typed.isEmpty()) {
+                dialog->findChild<QLineEdit *>()->setText(typed);
+            }
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        EXPECT_EQ(ui.saveFileName(nullptr, {}, folder.filePath(QStringLiteral("amp.html")), filter),
+                  folder.filePath(QString::fromLatin1(saved)));
+    }
 }
 
 TEST(QtHostUiTest, DialogsHaveTheEverydayPointer)
