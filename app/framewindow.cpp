@@ -18,6 +18,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <QUrl>
 
 #include <algorithm>
@@ -43,6 +44,15 @@ QString toolBarsKey()
 
 /// Of what is kept about the tool bars.
 constexpr int toolBarsVersion = 1;
+
+/// Qt leaves the button without a name that shows what a bar has no room for.
+void nameExtension(QToolBar *bar)
+{
+    if (auto *button = bar->findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"))) {
+        button->setToolTip(FrameWindow::tr("More of '%1'").arg(bar->windowTitle()));
+        button->setAccessibleName(button->toolTip());
+    }
+}
 
 /// The files and folders that are dragged.
 QStringList draggedFiles(const QMimeData &data)
@@ -100,6 +110,7 @@ void FrameWindow::removemenu(QMenu *menu)
 void FrameWindow::addtoolbar(QToolBar *bar)
 {
     addToolBar(bar);
+    nameExtension(bar);
     bar->show();
     // Passes over bars that are still to come, and places them when they do.
     const QString state = HostSettings::current().value(settingsGroup(), toolBarsKey()).value_or(QString());

@@ -10,6 +10,7 @@
 #include "editors/cellblocks.h"
 #include "editors/cellmenu.h"
 #include "editors/columnmenu.h"
+#include "editors/flowlayout.h"
 #include "editors/partmenu.h"
 #include "editors/partstable.h"
 #include "editors/propertyrecorder.h"
@@ -49,6 +50,7 @@ BOMDataView::BOMDataView(QWidget *parent)
     , m_delegate(new PropValEditDelegate(this))
 {
     m_ui->setupUi(this);
+    setFlowLayout(m_ui->groups);
     m_table = std::make_unique<PartsTable>(m_ui->partsView);
     m_ui->partsView->setItemDelegate(m_delegate);
     const auto check = [this](const PropertyItem &item, const QString &text) {

@@ -3836,6 +3836,10 @@ Trotzdem ausgeben?</translation>
         <source>Bill of Materials Viewer</source>
         <translation>Stücklistenanzeige</translation>
     </message>
+    <message>
+        <source>More of &apos;%1&apos;</source>
+        <translation>Mehr von „%1“</translation>
+    </message>
 </context>
 <context>
     <name>Help</name>

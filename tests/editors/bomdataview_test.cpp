@@ -9,6 +9,7 @@
 #include "host/widgets/keywordvalueeditor.h"
 
 #include <QLabel>
+#include <QSet>
 
 namespace {
 
@@ -229,6 +230,28 @@ TEST_F(DataView, ShowsOnlyTheRowsThatTheFilterWants)
     EXPECT_EQ(rows(), "R2");
     kind->setCurrentIndex(2);
     EXPECT_EQ(rows(), "");
+}
+
+TEST_F(DataView, PutsItsGroupsIntoTwoRowsWhereItIsNarrow)
+{
+    const QWidget *groups = child<QWidget>("groups");
+    const auto rowTops = [this, groups] {
+        QApplication::processEvents();
+        QSet<int> tops;
+        for (const QWidget *group : groups->findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
+            tops.insert(group->y());
+            EXPECT_TRUE(groups->rect().contains(group->geometry())) << qPrintable(group->objectName());
+        }
+        EXPECT_GT(table->y(), groups->geometry().bottom());
+        return tops.size();
+    };
+    EXPECT_EQ(rowTops(), 1);
+    view.resize(view.minimumSizeHint().width(), 400);
+    EXPECT_EQ(rowTops(), 2);
+    EXPECT_LT(view.width(), groups->sizeHint().width());
+    view.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(rowTops(), 2);
+    EXPECT_GT(child<QWidget>("categoriesGroupBox")->x(), child<QWidget>("DisplayGroupBox")->x());
 }
 
 TEST_F(DataView, SaysWhereThePartsOfALineDiffer)
