@@ -18,21 +18,32 @@ ReportOutputs::ReportOutputs(BOMHTMLView *report, QWidget *window)
 
 void ReportOutputs::write(OutputForm form, BOMPartsDatabase *database)
 {
-    if (!acceptDuplicates(*database)) {
+    // Fast clicks can reach the window while it has a dialog.
+    if (m_isWriting) {
         return;
     }
-    if (form == OutputForm::Pdf) {
-        m_report->generatePDF();
-    } else if (form == OutputForm::Print) {
-        m_report->print();
-    } else {
-        const WaitCursor cursor;
+    m_isWriting = true;
+    const QPointer<QWidget> window(m_window);
+    if (acceptDuplicates(*database)) {
         writeForm(form, database);
+    }
+    // A window that went while its dialog was open has taken this with it.
+    if (window) {
+        m_isWriting = false;
     }
 }
 
 void ReportOutputs::writeForm(OutputForm form, BOMPartsDatabase *database)
 {
+    if (form == OutputForm::Pdf) {
+        m_report->generatePDF();
+        return;
+    }
+    if (form == OutputForm::Print) {
+        m_report->print();
+        return;
+    }
+    const WaitCursor cursor;
     if (form == OutputForm::Html) {
         m_report->saveHTML();
     } else if (form == OutputForm::Spreadsheet) {

@@ -30,7 +30,7 @@ public:
     /// `report` shows what is written; dialogs stand above `window`. Neither is owned.
     ReportOutputs(BOMHTMLView *report, QWidget *window);
 
-    /// Asks first when references occur more than once. Asks for the file, and tells the user what failed.
+    /// Does nothing while another output is being written. Asks first when references occur more than once. Asks for the file, and tells the user what failed.
     void write(OutputForm form, BOMPartsDatabase *database);
     /// The database is about to go.
     void forgetDatabase();
@@ -44,4 +44,5 @@ private:
     QWidget *m_window;
     /// Stays while the window does: it may still be talking to a spreadsheet program.
     QPointer<BOMExcelView> m_excelView;
+    bool m_isWriting = false;
 };

@@ -204,18 +204,20 @@ void TextEdit::pageSetup()
 
 bool TextEdit::print(QPainter &painter)
 {
-    m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    m_printer->setResolution(printerResolution);
-    m_printer->setPageLayout(pageLayout(StyleSheet(m_document->getCss())));
-    m_printer->setDocName(pagedText().title);
-    const auto preview = [this](QPrinter &printer) {
-        QPainter previewPainter(&printer);
-        paintDocument(previewPainter, printer);
+    // A preview shows pages that the printer holds: a second one that opens meanwhile has a printer of its own.
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setResolution(printerResolution);
+    printer->setPageLayout(pageLayout(StyleSheet(m_document->getCss())));
+    printer->setDocName(pagedText().title);
+    const auto preview = [this](QPrinter &target) {
+        QPainter previewPainter(&target);
+        paintDocument(previewPainter, target);
         Q_EMIT previewPainted(&previewPainter);
     };
-    if (!PrintUi::current().choosePrinter(this, *m_printer, preview)) {
+    if (!PrintUi::current().choosePrinter(this, *printer, preview)) {
         return false;
     }
+    m_printer = std::move(printer);
     if (!painter.begin(m_printer.get())) {
         HostUi::current().warning(this, tr("Print Failed"), tr("The printer cannot be used."));
         return false;
