@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QTimer>
 
 #include <algorithm>
@@ -37,6 +38,14 @@ BOMTableWidget::BOMTableWidget(QWidget *parent)
     setDragDropMode(DragDrop);
     setDefaultDropAction(Qt::CopyAction);
     setDropIndicatorShown(false);
+}
+
+QSize BOMTableWidget::sizeHint() const
+{
+    constexpr int rows = 4;
+    return {QTableWidget::sizeHint().width(),
+            horizontalHeader()->sizeHint().height() + rows * verticalHeader()->defaultSectionSize() +
+                horizontalScrollBar()->sizeHint().height() + 2 * frameWidth()};
 }
 
 QModelIndexList BOMTableWidget::seenSelection() const

@@ -18,6 +18,8 @@ public:
 
     /// Whether a text is being dragged out of or over the table.
     [[nodiscard]] bool isDragging() const { return m_fills > 0; }
+    /// Of some rows: the table takes the height that there is, and a page around it scrolls only below that.
+    [[nodiscard]] QSize sizeHint() const override;
     /// The selected cells that are seen, from the top left to the bottom right.
     [[nodiscard]] QModelIndexList seenSelection() const;
 

@@ -30,7 +30,8 @@ public:
     /// `report` shows what is written; dialogs stand above `window`. Neither is owned.
     ReportOutputs(BOMHTMLView *report, QWidget *window);
 
-    /// Does nothing while another output is being written. Asks first when references occur more than once. Asks for the file, and tells the user what failed.
+    /// Does nothing while another output is being written. Asks first when references occur more than once.
+    /// Asks for the file, and tells the user what failed.
     void write(OutputForm form, BOMPartsDatabase *database);
     /// The database is about to go.
     void forgetDatabase();

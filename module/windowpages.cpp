@@ -21,6 +21,7 @@ namespace {
 
 const QString settingsGroup = QStringLiteral("BOM");
 const QString widthKey = QStringLiteral("OptionsWidth");
+constexpr int editorTab = 1;
 const QString foldedKey = QStringLiteral("OptionsFolded");
 
 /// The panel as it is where there is room, else with a scroll bar: small screens show all of it, too.
@@ -52,7 +53,7 @@ WindowPages::WindowPages(QWidget *parent)
     m_report->setObjectName(QStringLiteral("bomHTMLView"));
     addPage(m_report, QStringLiteral("bomHTMLViewTab"), tr("BOM Report"));
     m_dataView->setObjectName(QStringLiteral("bomDataView"));
-    addPage(m_dataView, QStringLiteral("bomDataTab"), tr("Property Editor"));
+    addPage(scrolled(m_dataView), QStringLiteral("bomDataTab"), tr("Property Editor"));
     setCentralWidget(m_tabs);
     m_dock->setObjectName(QStringLiteral("dockWidget"));
     m_dock->setContents(scrolled(m_options));
@@ -87,7 +88,7 @@ void WindowPages::addPage(QWidget *view, const QString &name, const QString &tit
 
 void WindowPages::showPropertyEditor()
 {
-    m_tabs->setCurrentWidget(m_dataView->parentWidget());
+    m_tabs->setCurrentIndex(editorTab);
 }
 
 void WindowPages::takeFocus()
