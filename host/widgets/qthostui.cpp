@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QCursor>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -44,11 +45,18 @@ private:
     QList<QCursor> m_cursors;
 };
 
-/// Of "Text (*.txt *.text)" "txt"; empty where the filter takes any name.
-QString firstSuffix(const QString &filter)
+/// The name with the first ending of a filter such as "Text (*.txt *.text)" unless it has one of these.
+QString withEnding(const QString &path, const QString &filter)
 {
-    static const QRegularExpression suffix(QStringLiteral("\\(\\*\\.(\\w+)"));
-    return suffix.match(filter).captured(1);
+    static const QRegularExpression ending(QStringLiteral("\\*(\\.\\w+)"));
+    QString first;
+    for (const QRegularExpressionMatch &match : ending.globalMatch(filter)) {
+        if (path.endsWith(match.captured(1), Qt::CaseInsensitive)) {
+            return path;
+        }
+        first = first.isEmpty() ? match.captured(1) : first;
+    }
+    return path + first;
 }
 
 /// How much of a text the box itself shows.
@@ -143,12 +151,22 @@ QString QtHostUi::saveFileName(QWidget *parent, const QString &caption, const QS
 {
     const OrdinaryCursor cursor;
     const QFileInfo proposed(path);
-    QFileDialog dialog(parent, caption, proposed.path(), filter);
+    QFileDialog dialog(parent, caption, proposed.isDir() ? path : proposed.path(), filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    // Before the dialog asks whether an existing file is to be replaced.
-    dialog.setDefaultSuffix(firstSuffix(filter));
-    dialog.selectFile(proposed.fileName());
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    // The question must be about the name with its ending, which the dialog does not know yet.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.selectFile(proposed.isDir() ? QString() : proposed.fileName());
+    while (dialog.exec() == QDialog::Accepted) {
+        const QString chosen = withEnding(dialog.selectedFiles().value(0), filter);
+        if (!QFileInfo::exists(chosen) ||
+            warningQuestion(
+                parent, caption,
+                tr("%1 already exists.\nDo you want to replace it?").arg(QDir::toNativeSeparators(chosen)),
+                false)) {
+            return chosen;
+        }
+    }
+    return {};
 }
 
 QString QtHostUi::openFileName(QWidget *parent, const QString &caption, const QString &path,

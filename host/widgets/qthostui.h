@@ -4,10 +4,14 @@
 
 #include "host/framework/hostui.h"
 
+#include <QCoreApplication>
+
 /// How a desktop program speaks to the user: Qt's own boxes and dialogs, the desktop's handlers, the system's
 /// clock and locale.
 class QtHostUi : public HostUi
 {
+    Q_DECLARE_TR_FUNCTIONS(QtHostUi)
+
 public:
     void information(QWidget *parent, const QString &title, const QString &text) override;
     void warning(QWidget *parent, const QString &title, const QString &text) override;

@@ -1807,6 +1807,10 @@ Trotzdem ausgeben?</translation>
         <source>Could not write file &apos;%1&apos;: %2</source>
         <translation>Die Datei „%1“ konnte nicht geschrieben werden: %2</translation>
     </message>
+    <message>
+        <source>The file &apos;%1&apos; belongs to the design and is not overwritten. Choose another name.</source>
+        <translation>Die Datei „%1“ gehört zum Entwurf und wird nicht überschrieben. Bitte einen anderen Namen wählen.</translation>
+    </message>
 </context>
 <context>
     <name>CDBCORE</name>
@@ -5705,6 +5709,15 @@ Open the design with that version to go on with them, or remove the file to do w
     <message>
         <source>Some values were not replaced as the replacement string was not compatible.</source>
         <translation>Einige Werte wurden nicht ersetzt, weil der neue Text nicht zu ihnen passt.</translation>
+    </message>
+</context>
+<context>
+    <name>QtHostUi</name>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 ist schon da.
+Soll die Datei ersetzt werden?</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,8 @@
 #include "host/widgets/qthostui.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -14,7 +16,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <utility>
+#include <optional>
 
 namespace {
 
@@ -75,25 +77,39 @@ TEST(QtHostUiTest, AnswersWhatWasPressed)
     EXPECT_EQ(ui.saveQuestion(nullptr, {}, QStringLiteral("?"), true), HostUi::SaveAnswer::Cancel);
 }
 
-TEST(QtHostUiTest, FilesThatAreSavedGetAnEnding)
+TEST(QtHostUiTest, FilesThatAreSavedGetAnEndingAndReplaceOthersOnRequestOnly)
 {
     QtHostUi ui;
     const QTemporaryDir folder;
-    const QString filter = QStringLiteral("Web pages (*.html *.htm)");
-    const std::pair<const char *, const char *> names[] = {
-        {"", "amp.html"}, {"bill", "bill.html"}, {"bill.htm", "bill.htm"}};
-    for (const auto &[typed, saved] : names) {
-        QTimer::singleShot(0, qApp, [typed = QString::fromLatin1(typed)] {
+    QFile old(folder.filePath(QStringLiteral("old.html")));
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    /// Types a name into the dialog, and answers what it asks then.
+    const auto save = [&](const QString &proposed, const QString &typed, std::optional<bool> replaces = {}) {
+        QTimer::singleShot(0, qApp, [&folder, typed, replaces] {
             auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
             ASSERT_NE(dialog, nullptr);
+            EXPECT_EQ(dialog->directory(), QDir(folder.path()));
             if (!typed.isEmpty()) {
                 dialog->findChild<QLineEdit *>()->setText(typed);
             }
             QMetaObject::invokeMethod(dialog, "accept");
+            if (replaces) {
+                withBox([replaces, dialog](QMessageBox &box) {
+                    EXPECT_TRUE(box.text().contains(QStringLiteral("old.html already exists")));
+                    box.button(*replaces ? QMessageBox::Yes : QMessageBox::No)->click();
+                    QTimer::singleShot(0, dialog, &QDialog::reject);
+                });
+            }
         });
-        EXPECT_EQ(ui.saveFileName(nullptr, {}, folder.filePath(QStringLiteral("amp.html")), filter),
-                  folder.filePath(QString::fromLatin1(saved)));
-    }
+        const QString path = ui.saveFileName(nullptr, {}, folder.filePath(proposed),
+                                             QStringLiteral("Web pages (*.html *.htm)"));
+        return QDir(folder.path()).relativeFilePath(path).toStdString();
+    };
+    EXPECT_EQ(save(QStringLiteral("amp.html"), {}), "amp.html");
+    EXPECT_EQ(save(QStringLiteral("amp.html"), QStringLiteral("bill 1.2")), "bill 1.2.html");
+    EXPECT_EQ(save({}, QStringLiteral("bill.HTM")), "bill.HTM");
+    EXPECT_EQ(save({}, QStringLiteral("old"), true), "old.html");
+    EXPECT_EQ(save({}, QStringLiteral("old"), false), "");
 }
 
 TEST(QtHostUiTest, DialogsHaveTheEverydayPointer)
