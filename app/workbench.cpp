@@ -11,7 +11,9 @@
 #include "app/statusfields.h"
 #include "host/framework/applnmodule.h"
 #include "host/framework/hostui.h"
+#include "host/framework/reportfile.h"
 #include "richtext/paper/pagepainter.h"
+#include "standalone/designguard.h"
 #include "standalone/loadeddesign.h"
 
 #include <QApplication>
@@ -45,6 +47,7 @@ Workbench::Workbench()
     setStarter([](const QStringList &arguments) {
         return QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments);
     });
+    setReportFileGuard([this](const QString &path) { return belongsToDesign(m_session, path); });
     connectWindow();
     m_window.emptyPage().setExamples(exampleDesigns());
     updateRecentFiles();
@@ -52,6 +55,7 @@ Workbench::Workbench()
 
 Workbench::~Workbench()
 {
+    setReportFileGuard(nullptr);
     if (APPLNMODULE *module = m_library.module()) {
         if (client()) {
             client()->setreportlistener(nullptr);

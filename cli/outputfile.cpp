@@ -4,29 +4,8 @@
 
 #include "cli/console.h"
 #include "cli/texts.h"
+#include "files/regularfile.h"
 #include "host/framework/reportfile.h"
-
-#include <QDir>
-#include <QFileInfo>
-
-namespace {
-
-/// The file itself, also when it is still to be written.
-QString meantFile(const QString &path)
-{
-    constexpr int mostLinks = 40;
-    QFileInfo file(path);
-    for (int links = 0; links < mostLinks && file.isSymLink() && !file.exists(); ++links) {
-        file.setFile(file.symLinkTarget());
-    }
-    if (file.exists()) {
-        return file.canonicalFilePath();
-    }
-    const QString folder = file.absoluteDir().canonicalPath();
-    return folder.isEmpty() ? file.absoluteFilePath() : folder + u'/' + file.fileName();
-}
-
-} // namespace
 
 bool writeOutput(const QString &path, const QByteArray &bytes)
 {

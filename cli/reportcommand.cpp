@@ -14,6 +14,7 @@
 #include "cli/texts.h"
 #include "host/framework/hostui.h"
 #include "host/propdefs/propdefsfile.h"
+#include "standalone/designguard.h"
 #include "standalone/environment.h"
 #include "standalone/fieldtables.h"
 #include "standalone/loadeddesign.h"
@@ -36,17 +37,11 @@
 namespace {
 
 /// Whether there is a file of KiCad's of that name: a board or project beside the sheets is read as well.
-bool isKicadFile(const QString &path)
-{
-    const QFileInfo file(path);
-    const QFileInfo target(file.canonicalFilePath());
-    const QLatin1String suffix("kicad_");
-    return file.exists() && (file.suffix().startsWith(suffix) || target.suffix().startsWith(suffix));
-}
-
+/// Without any, Qt draws the same box for each character.
 bool hasFonts()
 {
-    return !QRawFont::fromFont(QFont()).fontTable("cmap").isEmpty();
+    const QList<quint32> glyphs = QRawFont::fromFont(QFont()).glyphIndexesForString(QStringLiteral("Ab"));
+    return glyphs.value(0) != glyphs.value(1);
 }
 
 } // namespace
@@ -246,17 +241,15 @@ bool ReportCommand::areDistinct(const QStringList &outputs)
 
 bool ReportCommand::protectDesignFiles(OpenDesign &design, const QStringList &outputs) const
 {
-    QStringList inputs = design.session().files();
-    const StandaloneDocument &document = design.session().document();
+    QStringList inputs;
     inputs << m_services.descriptions() << userFieldTable()
            << fieldTableBeside(design.design().design().info().file);
-    inputs << m_design.path() << document.notesFile() << document.projectNotesFile() << propdefsfile()
-           << design.database().currentTemplate().filePath();
+    inputs << m_design.path() << design.database().currentTemplate().filePath();
     for (const QString &output : outputs) {
         const bool isInput = std::any_of(inputs.cbegin(), inputs.cend(), [&output](const QString &input) {
             return isSameFile(output, input);
         });
-        if (isInput || isKicadFile(output)) {
+        if (isInput || (!isStandardOutput(output) && belongsToDesign(design.session(), output))) {
             console::message(output + QStringLiteral(": ") +
                              CommandLine::tr("belongs to the design and is not overwritten"));
             return false;

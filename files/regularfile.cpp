@@ -3,6 +3,7 @@
 #include "files/regularfile.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -64,6 +65,20 @@ std::optional<QByteArray> contentOfRegularFile(const QString &path, qint64 most,
         return std::nullopt;
     }
     return bytes;
+}
+
+QString meantFile(const QString &path)
+{
+    constexpr int mostLinks = 40;
+    QFileInfo file(path);
+    for (int links = 0; links < mostLinks && file.isSymLink() && !file.exists(); ++links) {
+        file.setFile(file.symLinkTarget());
+    }
+    if (file.exists()) {
+        return file.canonicalFilePath();
+    }
+    const QString folder = file.absoluteDir().canonicalPath();
+    return folder.isEmpty() ? file.absoluteFilePath() : folder + u'/' + file.fileName();
 }
 
 bool openForReplacing(QSaveFile *file, QIODevice::OpenMode mode, QString *reason)

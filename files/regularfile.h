@@ -20,6 +20,9 @@
 [[nodiscard]] std::optional<QByteArray> contentOfRegularFile(const QString &path, qint64 most,
                                                              QString *reason);
 
+/// The file that a path means, through links, also where it is still to be written; absolute.
+[[nodiscard]] QString meantFile(const QString &path);
+
 /// Opens a file that replaces the one of its name when it is committed. Refuses a symbolic link that leads
 /// only to itself: the new file would stand in its place.
 [[nodiscard]] bool openForReplacing(QSaveFile *file, QIODevice::OpenMode mode, QString *reason);

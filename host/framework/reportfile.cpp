@@ -11,8 +11,11 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
+
+std::function<bool(const QString &path)> guard;
 
 /// A device, a pipe or a name for an open file of this process: there is nothing to keep, and replacing it
 /// would put a file in its place.
@@ -43,10 +46,18 @@ ReportFileResult writeDevice(const QString &path, const QByteArray &bytes, QStri
 
 } // namespace
 
+void setReportFileGuard(std::function<bool(const QString &path)> isProtected)
+{
+    guard = std::move(isProtected);
+}
+
 ReportFileResult writeReportFile(const QString &path, const QByteArray &bytes, QString *reason)
 {
     QString unwanted;
     reason = reason ? reason : &unwanted;
+    if (guard && guard(path)) {
+        return ReportFileResult::Protected;
+    }
     if (isSpecialFile(path)) {
         return writeDevice(path, bytes, reason);
     }
@@ -60,6 +71,10 @@ ReportFileResult writeReportFile(const QString &path, const QByteArray &bytes, Q
 QString reportFileMessage(ReportFileResult result, const QString &path, const QString &reason)
 {
     switch (result) {
+    case ReportFileResult::Protected:
+        return QCoreApplication::translate("BOMView", "The file '%1' belongs to the design and is not "
+                                                      "overwritten. Choose another name.")
+            .arg(path);
     case ReportFileResult::NotOpened:
         return QCoreApplication::translate("BOMView", "Could not open file '%1' for writing").arg(path);
     case ReportFileResult::NotWritten:

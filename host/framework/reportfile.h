@@ -5,12 +5,18 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
+
 enum class ReportFileResult
 {
     Written,
+    Protected,
     NotOpened,
     NotWritten
 };
+
+/// Says which files are to stay as they are, such as those that the reports are made from; null for none.
+void setReportFileGuard(std::function<bool(const QString &path)> isProtected);
 
 /// Writes a report in one go: a file is replaced as a whole or stays as it was. Devices and pipes are written
 /// to directly. `reason` takes the system's words when that fails.

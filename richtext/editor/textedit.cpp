@@ -204,7 +204,8 @@ void TextEdit::pageSetup()
 
 bool TextEdit::print(QPainter &painter)
 {
-    // A preview shows pages that the printer holds: a second one that opens meanwhile has a printer of its own.
+    // A preview shows pages that the printer holds: a second one that opens meanwhile has a printer of its
+    // own.
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setResolution(printerResolution);
     printer->setPageLayout(pageLayout(StyleSheet(m_document->getCss())));

@@ -39,6 +39,33 @@ TEST_F(WorkbenchTest, KeepsTheOldDesignWhenAnotherCannotBeRead)
     EXPECT_EQ(RecentFiles::list(), QStringList{path("parts.csv")});
 }
 
+TEST_F(WorkbenchTest, OutputsReplaceNoFileOfTheDesign)
+{
+    const QString list = partList();
+    ASSERT_TRUE(bench->open(list));
+    const QString link = path("link.csv");
+    ASSERT_TRUE(QFile::link(list, link));
+    const QString board = write("other.kicad_pcb", "(kicad_pcb)");
+    const auto bytes = [](const QString &name) {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    for (const QString &file : {list, link, board}) {
+        ui.fileName = file;
+        const QByteArray before = bytes(file);
+        for (const char *output : {"&CSV", "&PDF"}) {
+            ui.warnings.clear();
+            action(output)->trigger();
+            ASSERT_EQ(ui.warnings.size(), 1) << file.toStdString();
+            EXPECT_TRUE(ui.warnings[0].text.contains(QStringLiteral("belongs to the design")));
+        }
+        EXPECT_EQ(bytes(file), before);
+    }
+    ui.fileName = path("bill.csv");
+    action("&CSV")->trigger();
+    EXPECT_TRUE(QFile::exists(ui.fileName));
+}
+
 TEST_F(WorkbenchTest, AsksForAFileAndTakesDroppedOnes)
 {
     ui.fileName = partList();

@@ -319,6 +319,13 @@ TEST_F(Edit, PrintsPagesWithHeadingsAndFragments)
         painter.end();
         EXPECT_EQ(pdfPages(printUi.printFile), expected) << pages;
     }
+    printUi.whileAsked = [&] {
+        QPainter other;
+        EXPECT_TRUE(edit.print(other)) << "has a printer of its own";
+    };
+    ASSERT_TRUE(edit.print(painter));
+    painter.end();
+    EXPECT_EQ(pdfPages(printUi.printFile), all.mid(1, 1));
     printUi.printFile.clear();
     EXPECT_FALSE(edit.print(painter));
     EXPECT_FALSE(painter.isActive());

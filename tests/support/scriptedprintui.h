@@ -8,7 +8,9 @@
 #include <QPrinter>
 #include <QString>
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 /// Installed while it lives: prints into a PDF file and chooses the paper that the test says.
 class ScriptedPrintUi final : public PrintUi
@@ -25,10 +27,15 @@ public:
     /// A preview is painted into this file before.
     QString previewFile;
     QPageLayout offeredPaper;
+    /// What the user does while the next dialog stands there.
+    std::function<void()> whileAsked;
 
     bool choosePrinter(QWidget *, QPrinter &printer, const PaintPages &paintPreview) override
     {
         offeredPaper = printer.pageLayout();
+        if (whileAsked) {
+            std::exchange(whileAsked, {})();
+        }
         if (!previewFile.isEmpty()) {
             QPrinter preview;
             preview.setOutputFileName(previewFile);
