@@ -18,7 +18,7 @@ ReportOutputs::ReportOutputs(BOMHTMLView *report, QWidget *window)
 
 void ReportOutputs::write(OutputForm form, BOMPartsDatabase *database)
 {
-    // Fast clicks can reach the window while it has a dialog.
+    // A double click on a menu entry triggers it twice, the second time while the first one has its dialog.
     if (m_isWriting) {
         return;
     }
