@@ -57,6 +57,8 @@ class Hands:
             self.press(character)
 
     def move(self, x, y):
+        # The protocol has 16 bits; cells that are scrolled far away have places beyond them.
+        x, y = (max(-0x8000, min(place, 0x7FFF)) for place in (x, y))
         self._send(X.MotionNotify, 0, x, y)
 
     def click(self, place, button=LEFT, times=1):
