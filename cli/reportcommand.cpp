@@ -13,10 +13,8 @@
 #include "cli/terminal.h"
 #include "cli/texts.h"
 #include "host/framework/hostui.h"
-#include "host/propdefs/propdefsfile.h"
 #include "standalone/designguard.h"
 #include "standalone/environment.h"
-#include "standalone/fieldtables.h"
 #include "standalone/loadeddesign.h"
 #include "templates/oldhtmltemplate.h"
 #include "views/pdfreport.h"
@@ -36,7 +34,6 @@
 
 namespace {
 
-/// Whether there is a file of KiCad's of that name: a board or project beside the sheets is read as well.
 /// Without any, Qt draws the same box for each character.
 bool hasFonts()
 {
@@ -241,9 +238,7 @@ bool ReportCommand::areDistinct(const QStringList &outputs)
 
 bool ReportCommand::protectDesignFiles(OpenDesign &design, const QStringList &outputs) const
 {
-    QStringList inputs;
-    inputs << m_services.descriptions() << userFieldTable()
-           << fieldTableBeside(design.design().design().info().file);
+    QStringList inputs = m_services.descriptions();
     inputs << m_design.path() << design.database().currentTemplate().filePath();
     for (const QString &output : outputs) {
         const bool isInput = std::any_of(inputs.cbegin(), inputs.cend(), [&output](const QString &input) {

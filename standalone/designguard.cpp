@@ -5,6 +5,9 @@
 #include "files/regularfile.h"
 #include "host/propdefs/propdefsfile.h"
 #include "standalone/designsession.h"
+#include "standalone/environment.h"
+#include "standalone/fieldtables.h"
+#include "standalone/loadeddesign.h"
 
 #include <QFileInfo>
 #include <QStringList>
@@ -13,6 +16,7 @@
 
 namespace {
 
+/// Whether there is a file of KiCad's of that name: a board or project beside the sheets is read as well.
 bool isKicadFile(const QString &path)
 {
     const QFileInfo file(path);
@@ -30,7 +34,8 @@ bool belongsToDesign(const DesignSession &session, const QString &path)
     }
     const StandaloneDocument &document = session.document();
     QStringList files = session.files();
-    files << document.notesFile() << document.projectNotesFile() << propdefsfile();
+    files << document.notesFile() << document.projectNotesFile() << propdefsfile() << userFieldTable()
+          << fieldTableBeside(session.design()->design().info().file);
     const QString meant = meantFile(path);
     return isKicadFile(path) || std::any_of(files.cbegin(), files.cend(), [&meant](const QString &file) {
                return !file.isEmpty() && meantFile(file) == meant;

@@ -6,6 +6,6 @@
 
 class DesignSession;
 
-/// Whether no output may replace a file: the design that is open is read from it or kept in it, or it is one
+/// Whether no output may replace a file: the design that is open is read with it or kept in it, or it is one
 /// of KiCad's of any design. False where no design is open.
 [[nodiscard]] bool belongsToDesign(const DesignSession &session, const QString &path);
