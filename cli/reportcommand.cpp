@@ -14,7 +14,6 @@
 #include "cli/texts.h"
 #include "host/framework/hostui.h"
 #include "standalone/designguard.h"
-#include "standalone/environment.h"
 #include "standalone/loadeddesign.h"
 #include "templates/oldhtmltemplate.h"
 #include "views/pdfreport.h"

@@ -50,7 +50,8 @@ TEST_F(WorkbenchTest, OutputsReplaceNoFileOfTheDesign)
         QFile file(name);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     };
-    for (const QString &file : {list, link, board}) {
+    const QString fieldNames = write("parts.bomfields.txt", "");
+    for (const QString &file : {list, link, board, fieldNames}) {
         ui.fileName = file;
         const QByteArray before = bytes(file);
         for (const char *output : {"&CSV", "&PDF"}) {
