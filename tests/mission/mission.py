@@ -184,7 +184,7 @@ class Mission:
 @step
 def open_a_design(self):
     self.user.start()
-    self.user.hands.press("Ctrl+o")
+    self.user.press("Ctrl+o")
     self.user.name_file("Open Design", self.folder / DESIGN)
     self.user.wait("the report", lambda: "Four-channel data recorder" in self.user.report())
 
@@ -217,7 +217,7 @@ def add_a_field(self):
     self.user.wait("the line for the property has the keyboard",
                    lambda: self.user.find("combo box", "Component property name", dialog).has("focused"))
     self.user.hands.type("VOLTAGE")
-    self.user.hands.press("Tab")
+    self.user.press("Tab")
     title = self.user.find("text", "Title for column heading", dialog)
     self.user.wait("a proposed title", lambda: title.text == "Voltage")
     self.user.button("OK", dialog)
@@ -289,17 +289,18 @@ def apply_the_changes(self):
 @step
 def find_and_replace(self):
     self.user.clear("Filter:")
-    self.user.hands.press("Ctrl+h")
+    self.user.press("Ctrl+h")
     dialog = self.user.dialog("Find And Replace")
     self.user.check("Current Column Only", dialog, state=False)
     self.user.type_over(self.user.beside("Find", "combo box", dialog), "Kemet")
     self.user.fill("text", "Replace", "KEMET", dialog)
     self.user.check("Case Sensitive", dialog)
     self.user.button("Replace All", dialog)
+    self.user.wait("a pending change", lambda: self.user.find("push button", "Apply Changes").has("sensitive"))
     table, row = self.only_row("References:C206")
     self.user.wait("the replaced text", lambda: table.cell(row, table.headings().index("MANUFACTURER")).name == "KEMET")
     self.user.focus(self.user.find("text", "Replace", dialog))
-    self.user.hands.press("Escape")
+    self.user.press("Escape")
     self.user.wait_closed("Find And Replace")
     self.apply()
     changed = [pair[1:] for pairs in lines_changed(self.before, self.folder).values() for pair in pairs]
@@ -345,13 +346,13 @@ def edit_the_notes(self):
 
 @step
 def write_a_web_page(self):
-    file = self.output("HTML file to save", "board.html", lambda: self.user.hands.press("Ctrl+Alt+h"))
+    file = self.output("HTML file to save", "board.html", lambda: self.user.press("Ctrl+Alt+h"))
     self.has_all(file.name, file.read_text(), [NOTES])
 
 
 @step
 def write_a_pdf(self):
-    file = self.output("PDF file to save", "board.pdf", lambda: self.user.hands.press("Ctrl+p"))
+    file = self.output("PDF file to save", "board.pdf", lambda: self.user.press("Ctrl+p"))
     text = subprocess.run(["pdftotext", "-layout", str(file), "-"], capture_output=True, check=True).stdout.decode()
     self.has_all(file.name, text, [NOTES])
 
@@ -397,7 +398,7 @@ def click_a_reference(self):
     self.user.check("Group Components", state=False)
     table, row = self.only_row("References:R401")
     self.user.go_to(table, row, "Category")
-    self.user.hands.press("Left")
+    self.user.press("Left")
     self.user.wait("the reference is current", lambda: table.cell(row, 0).has("focused"))
     editors = [wait_for(f"port {port}", lambda: self.listen(port), 60) for port in (4242, 4243)]
     try:
@@ -416,7 +417,7 @@ def close_with_save(self):
     self.user.hands.type("200-0199\n")
     self.user.wait("the new value", lambda: cell.name == "200-0199")
     self.user.check("Suppress empty categories", state=False)
-    self.user.hands.press("Ctrl+q")
+    self.user.press("Ctrl+q")
     self.user.button("Save", self.user.dialog("Unsaved BOM Template Changes"))
     self.user.button("OK", self.user.dialog("ADI scripting results"))
     same("the status of the program", self.user.wait_end(), 0)

@@ -14,8 +14,8 @@ from gi.repository import Gio, GLib  # noqa: E402
 ROOT = "/org/a11y/atspi/accessible/root"
 REGISTRY = "org.a11y.atspi.Registry"
 # Numbers of states as the protocol has them.
-STATES = {"checked": 4, "editable": 7, "enabled": 8, "expanded": 10, "focused": 12, "modal": 16, "selected": 23,
-          "sensitive": 24, "showing": 25, "visible": 30}
+STATES = {"active": 1, "checked": 4, "editable": 7, "enabled": 8, "expanded": 10, "focused": 12, "modal": 16,
+          "selected": 23, "sensitive": 24, "showing": 25, "visible": 30}
 # Their cells are asked for one by one.
 TABLES = {"table", "tree table", "tree", "list"}
 

@@ -165,9 +165,23 @@ class Session:
         self.start("openbox", "--config-file", self.home / "openbox.xml", "--sm-disable")
         self.display = Display(self.environment["DISPLAY"])
         self._stack.callback(self.display.close)
+        self._wait_for_window_manager()
+
+    def _wait_for_window_manager(self):
+        """Asks it for something until it answers. It says earlier that it is there (_NET_SUPPORTING_WM_CHECK), but windows that
+        open before it handles events never get the keyboard."""
+        from Xlib import X
+        from Xlib.protocol.event import ClientMessage
         root = self.display.screen().root
-        name = self.display.intern_atom("_NET_SUPPORTING_WM_CHECK")
-        wait_for("the window manager", lambda: root.get_full_property(name, 0))
+        window = root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
+        asked, answer = (self.display.intern_atom(name) for name in ("_NET_REQUEST_FRAME_EXTENTS", "_NET_FRAME_EXTENTS"))
+        question = ClientMessage(window=window, client_type=asked, data=(32, [0] * 5))
+
+        def answers():
+            root.send_event(question, event_mask=X.SubstructureNotifyMask | X.SubstructureRedirectMask)
+            return window.get_full_property(answer, 0)
+        wait_for("the window manager", answers)
+        window.destroy()
 
     def opened(self):
         """What programs asked the desktop to open."""

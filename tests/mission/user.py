@@ -21,7 +21,7 @@ class User:
     def start(self, *arguments):
         self.process = self.session.start(self.program, *arguments)
         self.application = self.wait("the program on the bus", lambda: self._bus.program(self.process.pid))
-        self.wait("the window", lambda: self.window("Bill of Materials Viewer"))
+        self.dialog("Bill of Materials Viewer")
 
     def wait(self, what, condition, seconds=PATIENCE):
         """Such as wait_for(), but a program that has ended is told at once, and a widget that goes away is waited for."""
@@ -48,13 +48,15 @@ class User:
         return next((window for window in self.windows() if window.name.endswith(title)), None)
 
     def dialog(self, title, seconds=PATIENCE):
-        return self.wait(f"the dialog \"{title}\"", lambda: self.window(title), seconds)
+        """A window that opens. It shows before the window manager has given it its place and the keyboard."""
+        return self.wait(f"the dialog \"{title}\"",
+                         lambda: (window := self.window(title)) and window.has("active") and window, seconds)
 
     def wait_closed(self, title):
         self.wait(f"the dialog \"{title}\" is closed", lambda: not self.window(title))
 
     def main(self):
-        return self.dialog("Bill of Materials Viewer")
+        return self.wait("the main window", lambda: self.window("Bill of Materials Viewer"))
 
     def resize(self, size):
         """Gives the window a size, as its user would at its frame."""
@@ -104,6 +106,11 @@ class User:
         return self.find("text", "Report").text
 
     # What to do
+
+    def press(self, keys):
+        """Keys that are pressed while no window has the keyboard are lost."""
+        self.wait("a window with the keyboard", lambda: any(window.has("active") for window in self.windows()))
+        self.hands.press(keys)
 
     def click(self, widget, **how):
         def resting():
@@ -187,8 +194,8 @@ class User:
         return table.cell(row, column)
 
     def name_file(self, title, path):
-        """Answers a file dialog. It reads folders while a name is typed, and may then change the text or take the Return key for its
-        list of proposals; so the name is typed again until it is taken."""
+        """Answers a file dialog. It reads folders while a name is typed, and may then change the text or take the Return key for
+        its list of proposals, below which its window may not count as active; so the name is typed again until it is taken."""
         dialog = self.dialog(title)
         field = self.wait("the line for the file's name", lambda: next(dialog.all("text")))
         self.wait("the line for the file's name has the keyboard", lambda: field.has("focused"))
