@@ -40,6 +40,8 @@ public:
     /// Gives the columns the widths that they have in a document of that width. The document is not laid out
     /// for it: it is to get that width afterwards.
     void alignColumns(double width);
+    /// See WindowColumns.
+    [[nodiscard]] double leastWidth() const { return m_sampleColumns->leastWidth(); }
 
     /// Whether a table goes on with the rows of the table before it.
     [[nodiscard]] static bool isContinuation(const QTextTable &table);

@@ -260,6 +260,14 @@ void TextDocument::grow()
     }
 }
 
+double TextDocument::leastWidth() const
+{
+    if (m_growing) {
+        return m_zoom * m_growing->leastWidth();
+    }
+    return m_columns ? m_zoom * m_columns->leastWidth() : 0;
+}
+
 void TextDocument::alignColumns(double width)
 {
     if (m_growing) {

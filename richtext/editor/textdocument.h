@@ -43,6 +43,8 @@ public:
     /// Tells the width that the document is about to get. For it the columns of a document that is not edited
     /// get their widths; all rows of a table that grows have common ones.
     void alignColumns(double width);
+    /// Below this width columns would break what is not to be broken; 0 where nothing is known of it.
+    [[nodiscard]] double leastWidth() const;
     /// Lets the document be laid out that many times as large; alignColumns() and setPageSize() are to
     /// follow. Its text stays as it is.
     void setZoom(double factor);

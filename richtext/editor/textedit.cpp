@@ -25,6 +25,8 @@
 #include <QWheelEvent>
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace {
 
@@ -97,8 +99,8 @@ void TextEdit::loadDocument(const QString &xhtml)
 
 void TextEdit::showPlace()
 {
-    if (m_zoom > 1) {
-        // The paper may be another one.
+    if (m_document->textWidth() != layoutWidth()) {
+        // The paper or the columns are other ones.
         setLayoutWidth(false);
     }
     moveCursor(QTextCursor::Start);
@@ -292,7 +294,7 @@ void TextEdit::layOut()
 double TextEdit::layoutWidth() const
 {
     constexpr double pixelsPerPoint = 4.0 / 3;
-    const double width = viewport()->width();
+    const double width = std::max<double>(viewport()->width(), std::ceil(m_document->leastWidth()));
     if (m_zoom <= 1) {
         return width;
     }
@@ -306,13 +308,13 @@ void TextEdit::setLayoutWidth(bool isZoomed)
 {
     const double width = layoutWidth();
     m_document->alignColumns(width);
-    const bool isFixed = lineWrapMode() == FixedPixelWidth;
-    if (m_zoom > 1) {
-        if (isZoomed || !isFixed || lineWrapColumnOrWidth() != qRound(width)) {
+    const bool wasWide = std::exchange(m_isWide, m_zoom > 1 || width > viewport()->width());
+    if (m_isWide) {
+        if (isZoomed || !wasWide || lineWrapColumnOrWidth() != qRound(width)) {
             setLineWrapColumnOrWidth(qRound(width));
         }
         setLineWrapMode(FixedPixelWidth);
-    } else if (isZoomed && isFixed) {
+    } else if (wasWide) {
         setLineWrapMode(WidgetWidth);
     } else if (isZoomed) {
         m_document->setPageSize(m_document->pageSize());

@@ -110,6 +110,8 @@ private:
     bool m_followsEnd = false;
     double m_zoom = 1;
     bool m_isZooming = false;
+    /// Whether the document has a width of its own, for which the view may have to scroll.
+    bool m_isWide = false;
     QTimer m_layoutLater;
     /// How long it took to follow the window's width last time, in milliseconds.
     qint64 m_layoutTime = 0;

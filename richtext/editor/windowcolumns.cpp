@@ -22,6 +22,8 @@ namespace {
 constexpr double pixelsPerPoint = 4.0 / 3;
 /// For columns that become whole pixels.
 constexpr double spare = 2;
+/// Some ten letters with the paddings of a cell.
+constexpr double shortWord = 80;
 
 /// Measures paragraphs, those of a kind with the letters of one font.
 class ParagraphRuler final
@@ -212,10 +214,29 @@ WindowColumns::WindowColumns(QTextDocument &document, const StyleSheet &css)
     }
 }
 
-bool WindowColumns::fit(double width)
+double WindowColumns::bodyMargins() const
 {
     const QTextFrameFormat body = m_document.rootFrame()->frameFormat();
-    const double margins = body.leftMargin() + body.rightMargin();
+    return body.leftMargin() + body.rightMargin();
+}
+
+double WindowColumns::leastWidth() const
+{
+    double least = 0;
+    for (const Table &table : m_tables) {
+        const double around = bodyMargins() + table.around;
+        double width = around;
+        for (const ColumnRoom &column : table.columns) {
+            width += std::min({column.word, column.share / 100 * (m_paperWidth - around), shortWord});
+        }
+        least = std::max(least, width);
+    }
+    return least;
+}
+
+bool WindowColumns::fit(double width)
+{
+    const double margins = bodyMargins();
     const bool isLaidOut = m_document.isLayoutEnabled();
     bool isChanged = false;
     m_document.setLayoutEnabled(false);

@@ -37,8 +37,13 @@ public:
     /// Gives the columns their shares in a document of that width, in its own size. It is not laid out for
     /// it. Whether any share is another one.
     bool fit(double width);
+    /// The width of the document, in its own size, that breaks no number and no other short word that is
+    /// whole on paper. 0 without tables.
+    [[nodiscard]] double leastWidth() const;
 
 private:
+    [[nodiscard]] double bodyMargins() const;
+
     struct Table
     {
         QTextTable *table;

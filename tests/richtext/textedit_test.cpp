@@ -230,6 +230,11 @@ TEST_P(RowsInWindow, BreaksNoWordsThatFitOnThePaperWhileThereIsRoom)
     edit.resize(180, 300);
     EXPECT_TRUE(QTest::qWaitFor([this] { return linesOf(u"package"_s) > 1; }));
     EXPECT_EQ(linesOf(u"PIC"_s), 1);
+    edit.resize(100, 300);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return edit.horizontalScrollBar()->maximum() > 20; }));
+    EXPECT_LE(linesOf(u"package"_s), 4);
+    edit.resize(300, 300);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return edit.document()->textWidth() == edit.viewport()->width(); }));
     EXPECT_FALSE(edit.document()->isModified());
 }
 
