@@ -137,10 +137,11 @@ void FindBar::search()
     restart();
 }
 
-/// Also for content that was made anew, which stays where it is.
+/// Also for content that was made anew, which stays where it is. A report that was out of sight makes it when
+/// it is shown, before the bar is.
 void FindBar::restart()
 {
-    if (!isVisible()) {
+    if (isHidden()) {
         return;
     }
     m_search.start(m_text->text(), m_matchCase->isChecked() ? Qt::CaseSensitive : Qt::CaseInsensitive);

@@ -87,6 +87,15 @@ TEST_F(ReportLook, FindsTextsOfTheReportRoundItsEnds)
     EXPECT_TRUE(view.textEdit()->extraSelections().isEmpty());
     QTest::keyClick(view.textEdit(), Qt::Key_Slash);
     EXPECT_TRUE(QApplication::focusWidget()->inherits("QLineEdit"));
+    find(u"part"_s);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return state() == u"2 of 5"_s; })) << qPrintable(state());
+    // Content is made anew when the report is shown again, before the bar is.
+    view.hide();
+    netlist.add("R4", "4k", {{"CODE", "part"}});
+    database.load();
+    view.handleBOMDataUpdate();
+    view.show();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return state() == u"6 hits"_s; })) << qPrintable(state());
 }
 
 TEST_F(ReportLook, FindsWhatALongReportShowsLater)
