@@ -68,7 +68,9 @@ void PendingReview::fitColumns()
     const int widest = view.fontMetrics().averageCharWidth() * mostCharacters;
     view.resizeColumnsToContents();
     for (int column = 0; column < ReviewModel::StateColumn; ++column) {
-        view.setColumnWidth(column, std::min(view.columnWidth(column), widest));
+        // The number of a line stands at the end of its text.
+        const int limit = column == ReviewModel::PlaceColumn ? 2 * widest : widest;
+        view.setColumnWidth(column, std::min(view.columnWidth(column), limit));
     }
 }
 
