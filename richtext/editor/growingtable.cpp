@@ -157,6 +157,11 @@ std::vector<double> GrowingTable::textWidths() const
     return widths;
 }
 
+double GrowingTable::leastWidth()
+{
+    return m_sampleColumns->leastWidth(zoomOf(m_document));
+}
+
 void GrowingTable::alignColumns(double width)
 {
     // All but the width is in the document's own size.
@@ -164,7 +169,7 @@ void GrowingTable::alignColumns(double width)
     m_sample.documentLayout()->setPaintDevice(m_document.documentLayout()->paintDevice());
     m_sample.setDefaultFont(m_document.defaultFont());
     m_sample.rootFrame()->setFrameFormat(m_document.rootFrame()->frameFormat());
-    m_sampleColumns->fit(width / zoom);
+    m_sampleColumns->fit(width / zoom, zoom);
     m_sample.setTextWidth(width);
     const std::vector<double> texts = textWidths();
     QList<QTextLength> columns;

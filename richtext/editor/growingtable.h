@@ -41,7 +41,7 @@ public:
     /// for it: it is to get that width afterwards.
     void alignColumns(double width);
     /// See WindowColumns.
-    [[nodiscard]] double leastWidth() const { return m_sampleColumns->leastWidth(); }
+    [[nodiscard]] double leastWidth();
 
     /// Whether a table goes on with the rows of the table before it.
     [[nodiscard]] static bool isContinuation(const QTextTable &table);

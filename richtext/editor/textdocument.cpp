@@ -265,7 +265,7 @@ double TextDocument::leastWidth() const
     if (m_growing) {
         return m_zoom * m_growing->leastWidth();
     }
-    return m_columns ? m_zoom * m_columns->leastWidth() : 0;
+    return m_columns ? m_zoom * m_columns->leastWidth(m_zoom) : 0;
 }
 
 void TextDocument::alignColumns(double width)
@@ -273,7 +273,7 @@ void TextDocument::alignColumns(double width)
     if (m_growing) {
         m_growing->alignColumns(width);
         setModified(false);
-    } else if (m_columns && m_columns->fit(width / m_zoom)) {
+    } else if (m_columns && m_columns->fit(width / m_zoom, m_zoom)) {
         setModified(false);
     }
 }

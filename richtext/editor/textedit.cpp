@@ -66,7 +66,7 @@ TextEdit::TextEdit(QWidget *parent)
     setAccessibleName(tr("Document"));
     m_layoutLater.setSingleShot(true);
     m_layoutLater.setInterval(150);
-    connect(&m_layoutLater, &QTimer::timeout, this, &TextEdit::layOut);
+    connect(&m_layoutLater, &QTimer::timeout, this, [this] { keepTop([this] { layOut(); }); });
     connect(m_document, &TextDocument::aboutToMakeContent, this,
             [this] { m_place = verticalScrollBar()->value(); });
     connect(m_document, &TextDocument::contentMade, this, &TextEdit::showPlace);
@@ -168,20 +168,27 @@ void TextEdit::showWithSurroundings()
 
 void TextEdit::setZoom(double factor)
 {
+    keepTop([&] {
+        m_zoom = factor;
+        m_document->setZoom(factor);
+        setLayoutWidth(true);
+    });
+}
+
+void TextEdit::keepTop(const std::function<void()> &layOutAnew)
+{
     const QTextBlock top = cursorForPosition({0, 0}).block();
     const int before = verticalScrollBar()->value();
     const auto rectOf = [this](const QTextBlock &block) {
         return m_document->documentLayout()->blockBoundingRect(block);
     };
     const QRectF old = rectOf(top);
-    m_zoom = factor;
-    m_document->setZoom(factor);
     {
-        const QScopedValueRollback zooming(m_isZooming, true);
-        setLayoutWidth(true);
+        const QScopedValueRollback layingOut(m_isLayingOut, true);
+        layOutAnew();
     }
-    if (before > 0 && m_document->isShown()) {
-        const QRectF now = rectOf(top);
+    const QRectF now = rectOf(top);
+    if (before > 0 && m_document->isShown() && now != old) {
         const double ratio = old.height() > 0 ? now.height() / old.height() : 1;
         scrollTo(qRound(now.top() + (before - old.top()) * ratio));
     }
@@ -275,12 +282,19 @@ void TextEdit::resizeEvent(QResizeEvent *event)
 {
     // A large document would hold up whoever drags the frame; it follows when they pause.
     constexpr qint64 unnoticed = 30;
-    if (m_layoutTime > unnoticed && !m_isZooming) {
-        m_layoutLater.start();
-    } else {
-        layOut();
+    if (m_isLayingOut) {
+        setLayoutWidth(false);
+        QTextEdit::resizeEvent(event);
+        return;
     }
-    QTextEdit::resizeEvent(event);
+    keepTop([&] {
+        if (m_layoutTime > unnoticed) {
+            m_layoutLater.start();
+        } else {
+            layOut();
+        }
+        QTextEdit::resizeEvent(event);
+    });
 }
 
 void TextEdit::layOut()
@@ -398,6 +412,13 @@ void TextEdit::keyPressEvent(QKeyEvent *event)
 {
     if (!isReadOnly() && event->matches(QKeySequence::InsertParagraphSeparator)) {
         beginParagraph();
+        return;
+    }
+    // Qt moves the cursor only, and that not in texts that are not edited.
+    if (isReadOnly() && event->modifiers() == Qt::ControlModifier &&
+        (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)) {
+        QKeyEvent plain(QEvent::KeyPress, event->key(), Qt::NoModifier);
+        keyPressEvent(&plain);
         return;
     }
     const bool opens = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;

@@ -10,6 +10,7 @@
 #include <QPageRanges>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 
 class PdfOutput;
@@ -92,6 +93,8 @@ private:
     [[nodiscard]] double layoutWidth() const;
     /// Lays the document out in that width, if it has another one or was zoomed.
     void setLayoutWidth(bool isZoomed);
+    /// Lets the text that stands at the top stay there while something lays out the document anew.
+    void keepTop(const std::function<void()> &layOutAnew);
     /// Follows the window's width.
     void layOut();
     /// Scrolls to a place that the bar may not know of yet.
@@ -109,7 +112,7 @@ private:
     /// Whether the end of a document that grows is shown, wherever it is.
     bool m_followsEnd = false;
     double m_zoom = 1;
-    bool m_isZooming = false;
+    bool m_isLayingOut = false;
     /// Whether the document has a width of its own, for which the view may have to scroll.
     bool m_isWide = false;
     QTimer m_layoutLater;

@@ -15,6 +15,7 @@
 #include <QTextTable>
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 
 namespace {
@@ -29,9 +30,12 @@ constexpr double shortWord = 80;
 class ParagraphRuler final
 {
 public:
-    explicit ParagraphRuler(const QTextDocument &document)
-        : m_option(document.defaultTextOption())
+    ParagraphRuler(const QTextDocument &document, double zoom)
+        : m_zoom(zoom)
+        , m_option(document.defaultTextOption())
     {
+        m_screen.setDotsPerMeterX(qRound(m_screen.dotsPerMeterX() * zoom));
+        m_screen.setDotsPerMeterY(qRound(m_screen.dotsPerMeterY() * zoom));
     }
 
     /// Makes `known` as large as the paragraph asks for.
@@ -46,12 +50,15 @@ public:
         const double around = padding + format.leftMargin() + format.rightMargin() + format.textIndent();
         const QString text = block.text();
         const std::optional<TextNeeds> bound = ruler.bound(text);
-        if (bound && bound->word + around <= known.word && bound->line + around <= known.line) {
+        const auto isKnown = [&](const TextNeeds &needs) {
+            return needs.word / m_zoom + around <= known.word && needs.line / m_zoom + around <= known.line;
+        };
+        if (bound && isKnown(*bound)) {
             return;
         }
         const TextNeeds needs = ruler.measure(text, m_option);
-        known.word = std::max(known.word, needs.word + around);
-        known.line = std::max(known.line, needs.line + around);
+        known.word = std::max(known.word, needs.word / m_zoom + around);
+        known.line = std::max(known.line, needs.line / m_zoom + around);
     }
 
 private:
@@ -67,6 +74,7 @@ private:
 
     /// A document of a widget takes the resolution of the screen, as images do.
     QImage m_screen{1, 1, QImage::Format_RGB32};
+    double m_zoom;
     QTextOption m_option;
     QHash<int, size_t> m_places;
     std::vector<TextRuler> m_rulers;
@@ -82,9 +90,13 @@ double paddingOf(const QTextTable &table, const QTextTableCell &cell)
            format.leftBorder() + format.rightBorder();
 }
 
-std::vector<ColumnRoom> columnsOf(const QTextTable &table, ParagraphRuler &ruler)
+/// Leaves the shares as they are.
+void measureColumns(const QTextTable &table, ParagraphRuler &ruler, double zoom,
+                    std::vector<ColumnRoom> &columns)
 {
-    std::vector<ColumnRoom> columns(size_t(table.columns()));
+    for (ColumnRoom &room : columns) {
+        room = {0, 0, room.share, 1};
+    }
     for (int row = 0; row < table.rows(); ++row) {
         for (int column = 0; column < table.columns(); ++column) {
             const QTextTableCell cell = table.cellAt(row, column);
@@ -100,10 +112,9 @@ std::vector<ColumnRoom> columnsOf(const QTextTable &table, ParagraphRuler &ruler
         }
     }
     for (ColumnRoom &room : columns) {
-        room.word += spare;
-        room.line += spare;
+        room.word += spare / zoom;
+        room.line += spare / zoom;
     }
-    return columns;
 }
 
 /// In percent; empty when columns have other widths, or none.
@@ -174,13 +185,13 @@ QList<double> windowShares(const std::vector<ColumnRoom> &columns, double width,
     std::vector<double> words;
     std::vector<double> lines;
     for (const ColumnRoom &column : columns) {
-        const double onPaper = column.share / 100 * paperWidth;
+        const double onPaper = column.share / 100 * paperWidth * column.stretch;
         widths.push_back(column.share / 100 * width);
         words.push_back(std::min(column.word, onPaper));
         lines.push_back(std::min(column.line, onPaper));
     }
     const double whole = std::accumulate(widths.begin(), widths.end(), 0.0);
-    if (width < paperWidth && width > 0 && whole > 0) {
+    if (width > 0 && whole > 0) {
         words = fittingWords(words, whole);
         // First what lines do not need is given to those that need it; then lines make room for words.
         balance(widths, lines);
@@ -197,7 +208,6 @@ WindowColumns::WindowColumns(QTextDocument &document, const StyleSheet &css)
     : m_document(document)
     , m_paperWidth(pageLayout(css).fullRect(QPageLayout::Point).width() * pixelsPerPoint)
 {
-    ParagraphRuler ruler(document);
     for (QTextTable *table : tablesOf(document)) {
         const QList<double> shares = sharesOf(*table);
         if (shares.isEmpty()) {
@@ -207,9 +217,25 @@ WindowColumns::WindowColumns(QTextDocument &document, const StyleSheet &css)
         const double spacing = format.borderCollapse() ? 0 : format.cellSpacing();
         const double around = (table->columns() + 1) * spacing + format.leftMargin() + format.rightMargin() +
                               2 * (format.border() + format.padding());
-        m_tables.push_back({table, around, columnsOf(*table, ruler)});
-        for (qsizetype i = 0; i < shares.size(); ++i) {
-            m_tables.back().columns[size_t(i)].share = shares[i];
+        m_tables.push_back({table, around, {}, {}});
+        for (const double share : shares) {
+            m_tables.back().columns.push_back({0, 0, share, 1});
+        }
+    }
+    measure(1);
+    for (Table &table : m_tables) {
+        std::ranges::transform(table.columns, std::back_inserter(table.words), &ColumnRoom::word);
+    }
+}
+
+void WindowColumns::measure(double zoom)
+{
+    m_zoom = zoom;
+    ParagraphRuler ruler(m_document, zoom);
+    for (Table &table : m_tables) {
+        measureColumns(*table.table, ruler, zoom, table.columns);
+        for (size_t i = 0; i < table.words.size(); ++i) {
+            table.columns[i].stretch = std::max(1.0, table.columns[i].word / table.words[i]);
         }
     }
 }
@@ -220,22 +246,29 @@ double WindowColumns::bodyMargins() const
     return body.leftMargin() + body.rightMargin();
 }
 
-double WindowColumns::leastWidth() const
+double WindowColumns::leastWidth(double zoom)
 {
+    if (m_zoom != zoom) {
+        measure(zoom);
+    }
     double least = 0;
     for (const Table &table : m_tables) {
         const double around = bodyMargins() + table.around;
         double width = around;
         for (const ColumnRoom &column : table.columns) {
-            width += std::min({column.word, column.share / 100 * (m_paperWidth - around), shortWord});
+            const double onPaper = column.share / 100 * (m_paperWidth - around);
+            width += std::min(column.word, column.stretch * std::min(onPaper, shortWord));
         }
         least = std::max(least, width);
     }
     return least;
 }
 
-bool WindowColumns::fit(double width)
+bool WindowColumns::fit(double width, double zoom)
 {
+    if (m_zoom != zoom) {
+        measure(zoom);
+    }
     const double margins = bodyMargins();
     const bool isLaidOut = m_document.isLayoutEnabled();
     bool isChanged = false;

@@ -18,6 +18,9 @@ struct ColumnRoom
     double line = 0;
     /// In percent of the paper.
     double share = 0;
+    /// How much wider a word is shown than it is on paper, in the same size: letters of a small text have
+    /// whole pixels.
+    double stretch = 1;
 };
 
 /// The shares that columns get, in percent, of `width` where the paper has `paperWidth`. On less than the
@@ -34,25 +37,29 @@ public:
     /// Measures what stands in the tables of a document, which must outlive this.
     WindowColumns(QTextDocument &document, const StyleSheet &css);
 
-    /// Gives the columns their shares in a document of that width, in its own size. It is not laid out for
-    /// it. Whether any share is another one.
-    bool fit(double width);
+    /// Gives the columns their shares in a document of that width, in its own size, that is shown `zoom`
+    /// times as large. It is not laid out for it. Whether any share is another one.
+    bool fit(double width, double zoom);
     /// The width of the document, in its own size, that breaks no number and no other short word that is
     /// whole on paper. 0 without tables.
-    [[nodiscard]] double leastWidth() const;
+    [[nodiscard]] double leastWidth(double zoom);
 
 private:
-    [[nodiscard]] double bodyMargins() const;
-
     struct Table
     {
         QTextTable *table;
         /// What stands left, right and between the columns.
         double around = 0;
         std::vector<ColumnRoom> columns;
+        /// The words, where nothing is zoomed.
+        std::vector<double> words;
     };
+
+    void measure(double zoom);
+    [[nodiscard]] double bodyMargins() const;
 
     QTextDocument &m_document;
     double m_paperWidth;
+    double m_zoom = 1;
     std::vector<Table> m_tables;
 };

@@ -238,6 +238,22 @@ TEST_P(RowsInWindow, BreaksNoWordsThatFitOnThePaperWhileThereIsRoom)
     EXPECT_FALSE(edit.document()->isModified());
 }
 
+TEST_P(RowsInWindow, KeepsTheTextAtItsTop)
+{
+    show(300);
+    QScrollBar &bar = *edit.verticalScrollBar();
+    edit.resize(300, 40);
+    bar.setValue(bar.maximum() / 2);
+    const auto top = [this] { return edit.cursorForPosition({0, 0}).blockNumber(); };
+    const int before = top();
+    for (const int width : {180, 300}) {
+        const double height = edit.document()->size().height();
+        edit.resize(width, 40);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return edit.document()->size().height() != height; }));
+        EXPECT_EQ(top(), before);
+    }
+}
+
 TEST_P(RowsInWindow, IsAsWideAsBeforeItWasZoomed)
 {
     show(300);
@@ -249,6 +265,7 @@ TEST_P(RowsInWindow, IsAsWideAsBeforeItWasZoomed)
         [&] { return edit.document()->textWidth() == qRound(1.5 * edit.viewport()->width()); }));
     edit.setZoom(0.5);
     EXPECT_EQ(edit.document()->textWidth(), edit.viewport()->width());
+    EXPECT_EQ(linesOf(u"PIC"_s), 1);
     edit.setZoom(1.1);
     edit.resize(300, 300);
     edit.setZoom(1);
