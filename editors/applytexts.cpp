@@ -18,16 +18,23 @@ constexpr qsizetype mostNamed = 3;
 
 QString applyText(const ApplyResult &result)
 {
-    QStringList lines(result.text);
-    if (!result.problems.isEmpty()) {
-        lines << QString()
-              << QCoreApplication::translate("BOMDataView",
-                                             "Nothing was written, all changes are still pending:");
-        for (const CDBPROBLEM &problem : result.problems) {
-            lines << problem.message();
+    QStringList lines;
+    if (result.problems.isEmpty()) {
+        lines << result.text;
+        if (!result.kept.isEmpty()) {
+            lines << QString() << keptText(result);
         }
+        return lines.join(u'\n');
     }
-    return lines.join(u'\n');
+    for (const CDBPROBLEM &problem : result.problems) {
+        lines << problem.message();
+    }
+    // Mostly the text is the beginning of the reasons.
+    const bool isToldBelow =
+        lines.join(u'\n').startsWith(result.text.chopped(result.text.endsWith(u"...") ? 3 : 0));
+    lines.prepend(
+        QCoreApplication::translate("BOMDataView", "Nothing was written, all changes are still pending:"));
+    return isToldBelow ? lines.join(u'\n') : result.text + QStringLiteral("\n\n") + lines.join(u'\n');
 }
 
 QString keptText(const ApplyResult &result)

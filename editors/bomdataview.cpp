@@ -141,6 +141,9 @@ void BOMDataView::connectEditing()
     connect(m_blocks.get(), &CellBlocks::ended, this, end);
     connect(m_blocks.get(), &CellBlocks::statusMessage, &m_message, &PassingMessage::show);
     connect(m_delegate, &PropValEditDelegate::editingChanged, this, &BOMDataView::fillIfDue);
+    connect(m_delegate, &PropValEditDelegate::refused, this, [this](const QString &text) {
+        m_message.show(tr("The property does not take \"%1\".").arg(text));
+    });
     connect(m_columnMenu.get(), &ColumnMenu::closed, this, &BOMDataView::fillIfDue);
     connect(m_partMenu.get(), &PartMenu::closed, this, &BOMDataView::fillIfDue);
     connect(m_partMenu.get(), &PartMenu::statusMessage, &m_message, &PassingMessage::show);
@@ -381,7 +384,11 @@ void BOMDataView::applyPropertyValues()
     }
     if (!result.text.isEmpty()) {
         const QScopedValueRollback asking(m_isAsking, true);
-        HostUi::current().information(this, tr("ADI scripting results"), applyText(result));
+        if (result.problems.isEmpty()) {
+            HostUi::current().information(this, tr("ADI scripting results"), applyText(result));
+        } else {
+            HostUi::current().warning(this, tr("ADI scripting results"), applyText(result));
+        }
     }
     fillIfDue();
     Q_EMIT pendingPropertyAssignments(hasPendingAssignments());

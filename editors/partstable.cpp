@@ -15,10 +15,14 @@
 #include <QScopedValueRollback>
 #include <QSet>
 #include <QSignalBlocker>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace {
 
-/// Rows that are looked at for the first width of a column, and the widest that it gets.
+/// Rows in sight that are looked at for the first width of a column, as are so many of the longest texts; and
+/// the widest that it gets.
 constexpr int measuredRows = 50;
 constexpr int widestAtFirst = 260;
 
@@ -182,7 +186,8 @@ void PartsTable::restoreLayout()
         if (!layout.widths.contains(name)) {
             m_table->resizeColumnToContents(column);
             // With room for the arrow of the sorting, which is not there yet.
-            const int width = header.sectionSize(column) + m_table->fontMetrics().height();
+            const int width =
+                std::max(header.sectionSize(column) + m_table->fontMetrics().height(), widestText(column));
             header.resizeSection(column, std::min(width, widestAtFirst));
             m_measured.insert(name, header.sectionSize(column));
         }
@@ -193,6 +198,23 @@ void PartsTable::restoreLayout()
             header.resizeSection(column, header.sectionSizeHint(column));
         }
     }
+}
+
+int PartsTable::widestText(int column) const
+{
+    qsizetype longest = 0;
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        longest = std::max(longest, m_table->item(row, column)->text().size());
+    }
+    int widest = 0;
+    for (int row = 0, left = measuredRows; row < m_table->rowCount() && left > 0; ++row) {
+        const QString text = m_table->item(row, column)->text();
+        if (4 * text.size() >= 3 * longest) {
+            widest = std::max(widest, m_table->fontMetrics().horizontalAdvance(text));
+            --left;
+        }
+    }
+    return widest + 2 * (m_table->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 1;
 }
 
 void PartsTable::rememberLayout() const

@@ -75,6 +75,8 @@ private:
     void makeRows();
     void setSortColumn(const QString &heading, Qt::SortOrder order);
     void restoreLayout();
+    /// Of all rows, with the margins of a cell.
+    [[nodiscard]] int widestText(int column) const;
     void takeRequired();
     void freezeSorting();
     void applyFilter();

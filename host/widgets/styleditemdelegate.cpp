@@ -33,6 +33,14 @@ QString textOf(const QWidget *editor)
     return editor->property(editor->metaObject()->userProperty().name()).toString();
 }
 
+/// What stands there, a value or not.
+QString typedText(const QWidget *editor)
+{
+    const auto *line = qobject_cast<const QLineEdit *>(editor);
+    line = line ? line : editor->findChild<QLineEdit *>();
+    return line ? line->text() : textOf(editor);
+}
+
 /// The key of the direction into which a key that ends editing moves; 0 for any other key.
 int directionOf(const QKeyEvent &event)
 {
@@ -254,7 +262,9 @@ void StyledItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model
                                       const QModelIndex &index) const
 {
     const OpenEditor *open = find(editor);
-    if (!open || open->text != textOf(editor)) {
+    if (open && isRefused(editor)) {
+        Q_EMIT refused(typedText(editor));
+    } else if (!open || open->text != textOf(editor)) {
         QStyledItemDelegate::setModelData(editor, model, index);
     }
 }
@@ -281,6 +291,7 @@ bool StyledItemDelegate::commitAndClose(QWidget *editor)
 {
     if (isRefused(editor)) {
         QApplication::beep();
+        Q_EMIT refused(typedText(editor));
         return false;
     }
     // Whoever hears of the change may close the editor.

@@ -36,6 +36,17 @@ TEST_F(DataView, ShowsPartsInReferenceOrderWithAColumnForEachField)
     EXPECT_EQ(rows(), "R1-R2 R3 R10");
 }
 
+TEST_F(DataView, HasRoomForLongTextsFarBelow)
+{
+    const QByteArray code = "200-0102-2250-X7R";
+    for (int i = 100; i < 300; ++i) {
+        netlist.add("R" + QByteArray::number(i), "1k", {{"CODE", i < 299 ? "x" : code}});
+    }
+    database.reload();
+    EXPECT_GT(table->columnWidth(column("F CODE")),
+              table->fontMetrics().horizontalAdvance(QLatin1String(code)));
+}
+
 TEST_F(DataView, RecordsWhatIsTypedForEachPartOfTheLine)
 {
     QSignalSpy pendingSpy(&view, &BOMDataView::pendingPropertyAssignments);
@@ -143,6 +154,7 @@ TEST_F(DataView, WritesWhatIsPendingAndNamesWhatStays)
     click("applyPropDefsBtn");
     ASSERT_EQ(ui.informations.size(), 1);
     EXPECT_EQ(ui.informations.first().title, u"ADI scripting results"_s);
+    EXPECT_TRUE(ui.informations.first().text.endsWith(u": R3 CODE"_s));
     EXPECT_EQ(pending(), "R3 CODE=mine");
     EXPECT_TRUE(status.first().first().toString().endsWith(u": R3 CODE"_s));
     EXPECT_TRUE(pendingSpy.last().first().toBool()) << "something is";

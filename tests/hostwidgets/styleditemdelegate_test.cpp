@@ -151,12 +151,14 @@ TEST_F(EditedTable, GivesUpWithEscapeAndCommitsWhenFocusIsLost)
 
 TEST_F(EditedTable, StaysOpenOnARefusedTextAndKeepsTheOldOne)
 {
+    const QSignalSpy refused(&delegate, &StyledItemDelegate::refused);
     type(1, 2, u"-"_s);
     press(Qt::Key_Return);
     EXPECT_TRUE(delegate.isEditing());
     EXPECT_FALSE(delegate.commitEditing());
     QTest::mouseClick(&other, Qt::LeftButton);
     EXPECT_FALSE(delegate.isEditing());
+    EXPECT_EQ(refused, QList<QVariantList>(3, {u"-"_s}));
     type(1, 2, {});
     press(Qt::Key_Return);
     table.item(1, 1)->setText(u"maybe"_s);
