@@ -5,10 +5,13 @@
 #include "app/framewindow.h"
 #include "app/recentfiles.h"
 #include "host/framework/hostui.h"
-#include "standalone/designwriter.h"
+#include "standalone/designsession.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QLocale>
+
+#include <algorithm>
 
 namespace {
 
@@ -16,6 +19,15 @@ struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(Workbench)
 };
+
+QStringList namesOf(const QStringList &files)
+{
+    QStringList names;
+    for (const QString &file : files) {
+        names << QFileInfo(file).fileName();
+    }
+    return names;
+}
 
 } // namespace
 
@@ -37,20 +49,26 @@ bool dialogs::isWantedTwice(FrameWindow *window, const QString &file)
         false);
 }
 
-bool dialogs::isUndoWanted(FrameWindow *window, const QString &file)
+bool dialogs::isUndoWanted(FrameWindow *window, const QString &file, const designs::LastWrite &last)
 {
-    return HostUi::current().question(
-        window, Texts::tr("Undo Last Write"),
-        Texts::tr("Take back what was written last into the design \"%1\"?").arg(QFileInfo(file).fileName()),
-        false);
+    constexpr qsizetype mostNamed = 5;
+    QString text =
+        Texts::tr("Take back what was written last into the design \"%1\"?").arg(QFileInfo(file).fileName());
+    if (!last.files.isEmpty()) {
+        QStringList names = namesOf(last.files.first(std::min(mostNamed, last.files.size())));
+        if (last.files.size() > mostNamed) {
+            names << QStringLiteral("...");
+        }
+        text += QStringLiteral("\n\n") +
+                Texts::tr("Written %1: %2")
+                    .arg(QLocale().toString(last.at, QLocale::ShortFormat), names.join(QStringLiteral(", ")));
+    }
+    return HostUi::current().question(window, Texts::tr("Undo Last Write"), text, false);
 }
 
 void dialogs::tellUndone(FrameWindow *window, const UndoResult &undone)
 {
-    QStringList names;
-    for (const QString &file : undone.files) {
-        names << QFileInfo(file).fileName();
-    }
+    const QStringList names = namesOf(undone.files);
     if (!names.isEmpty()) {
         window->setstatustext(Texts::tr("Restored: ") + names.join(QStringLiteral(", ")));
     }

@@ -416,7 +416,7 @@ void Workbench::undoLastWrite()
             tr("The pending changes were written just now, and would be taken back first."));
         return;
     }
-    if (!dialogs::isUndoWanted(&m_window, m_path)) {
+    if (!dialogs::isUndoWanted(&m_window, m_path, m_session.lastWrite())) {
         return;
     }
     const UndoResult undone = m_session.undo();

@@ -186,8 +186,11 @@ void PartsTable::restoreLayout()
         if (!layout.widths.contains(name)) {
             m_table->resizeColumnToContents(column);
             // With room for the arrow of the sorting, which is not there yet.
-            const int width =
-                std::max(header.sectionSize(column) + m_table->fontMetrics().height(), widestText(column));
+            int width = header.sectionSize(column) + m_table->fontMetrics().height();
+            if (column != CategoryColumn) {
+                // Categories are known by their beginnings, and often longer than anything else.
+                width = std::max(width, widestText(column));
+            }
             header.resizeSection(column, std::min(width, widestAtFirst));
             m_measured.insert(name, header.sectionSize(column));
         }

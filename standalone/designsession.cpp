@@ -175,6 +175,11 @@ bool DesignSession::canUndo() const
     return m_design && filesOf(m_design->design()).canUndo();
 }
 
+designs::LastWrite DesignSession::lastWrite() const
+{
+    return m_design ? filesOf(m_design->design()).lastWrite() : designs::LastWrite();
+}
+
 QStringList DesignSession::files() const
 {
     return m_design ? m_design->design().files() : QStringList();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "designs/transaction/designfiles.h"
 #include "standalone/designwriter.h"
 #include "standalone/dnpchoice.h"
 #include "standalone/settleddesign.h"
@@ -76,6 +77,8 @@ public:
     [[nodiscard]] UndoResult undo(const UndoOptions &options);
     [[nodiscard]] UndoResult undo() { return undo(UndoOptions()); }
     [[nodiscard]] bool canUndo() const;
+    /// What undo() would take back.
+    [[nodiscard]] designs::LastWrite lastWrite() const;
 
     [[nodiscard]] DnpChoice dnpChoice() const { return m_dnpChoice; }
     /// The caches become stale when the choice changes.

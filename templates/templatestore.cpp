@@ -225,7 +225,7 @@ QString TemplateStore::creationProblem(const QString &name) const
         return tr("The name must not be blank or used already");
     }
     if (!isTemplateFileName(name)) {
-        return tr("The name must be one that a file can have");
+        return tr("The name must be one that a file can have, without / and \\");
     }
     // Another window may have made one since the folders were read.
     return QFileInfo(templateFilePath(name)).isFile() ? tr("The name must not be blank or used already")

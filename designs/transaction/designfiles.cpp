@@ -198,6 +198,20 @@ bool DesignFiles::canUndo() const
     return operations.exists(m_paths.record());
 }
 
+LastWrite DesignFiles::lastWrite() const
+{
+    QString why;
+    const auto record = UndoRecord::read(m_paths, &why);
+    if (!record) {
+        return {};
+    }
+    LastWrite last{{}, QFileInfo(m_paths.record()).lastModified()};
+    for (const RecordedReplacement &file : record->files) {
+        last.files << file.target;
+    }
+    return last;
+}
+
 QStringList interruptedDesignsAround(const QString &design, const QStringList &files)
 {
     QSet<QString> targets;

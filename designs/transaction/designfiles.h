@@ -6,6 +6,7 @@
 #include "designs/problem.h"
 #include "designs/transaction/designpaths.h"
 
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
@@ -49,6 +50,13 @@ struct RecoveryResult
     bool isSettled = true;
 };
 
+/// A transaction that is over.
+struct LastWrite
+{
+    QStringList files;
+    QDateTime at;
+};
+
 /// The files of one design, replaced in transactions: whatever happens meanwhile (a file that cannot be
 /// written, a full disk, the end of the program or of the machine), afterwards all files of a transaction
 /// have their new content, or all their previous one. After the end of a program that holds once recover()
@@ -79,6 +87,8 @@ public:
     [[nodiscard]] TransactionResult undo() const;
     /// Whether there is a replace() to take back.
     [[nodiscard]] bool canUndo() const;
+    /// Which files undo() concerns and when they were replaced; empty where that cannot be told.
+    [[nodiscard]] LastWrite lastWrite() const;
 
 private:
     DesignPaths m_paths;

@@ -6444,10 +6444,6 @@ Soll die Datei ersetzt werden?</translation>
         <translation>Der Name darf nicht leer sein und nicht schon benutzt werden</translation>
     </message>
     <message>
-        <source>The name must be one that a file can have</source>
-        <translation>Der Name muss als Dateiname möglich sein</translation>
-    </message>
-    <message>
         <source>Cannot delete a template that comes with the program</source>
         <translation>Eine mitgelieferte Vorlage kann nicht gelöscht werden</translation>
     </message>
@@ -6506,6 +6502,10 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>The BOM template &apos;%1&apos; was changed in another window or by another program since it was read.  Replace it with what this window has?</source>
         <translation>Die Stücklistenvorlage „%1“ wurde in einem anderen Fenster oder von einem anderen Programm geändert, seit sie gelesen wurde.  Durch die Fassung dieses Fensters ersetzen?</translation>
+    </message>
+    <message>
+        <source>The name must be one that a file can have, without / and \</source>
+        <translation>Der Name muss als Dateiname möglich sein, ohne / und \</translation>
     </message>
 </context>
 <context>
@@ -6889,6 +6889,10 @@ Jedes Fenster hat eigene vorgemerkte Änderungen und zeigt, was das andere schre
     <message>
         <source>Uses Qt %1.</source>
         <translation>Verwendet Qt %1.</translation>
+    </message>
+    <message>
+        <source>Written %1: %2</source>
+        <translation>Geschrieben %1: %2</translation>
     </message>
 </context>
 </TS>

@@ -168,7 +168,8 @@ TEST_F(WorkbenchTest, TakesTheLastWriteBackAndReadsOnce)
 
     undo()->trigger();
     ASSERT_EQ(ui.questions.size(), 1);
-    EXPECT_TRUE(ui.questions[0].text.contains(QStringLiteral("parts.csv")));
+    EXPECT_TRUE(ui.questions[0].text.contains(QStringLiteral("\n\nWritten ")));
+    EXPECT_TRUE(ui.questions[0].text.endsWith(QStringLiteral(": parts.csv")));
     EXPECT_EQ(bench->session().changedFiles(), QStringList());
 
     ui.answer = true;
