@@ -61,7 +61,8 @@ bool dialogs::isUndoWanted(FrameWindow *window, const QString &file, const desig
         }
         text += QStringLiteral("\n\n") +
                 Texts::tr("Written %1: %2")
-                    .arg(QLocale().toString(last.at, QLocale::ShortFormat), names.join(QStringLiteral(", ")));
+                    .arg(HostUi::current().locale().toString(last.at, QLocale::ShortFormat),
+                         names.join(QStringLiteral(", ")));
     }
     return HostUi::current().question(window, Texts::tr("Undo Last Write"), text, false);
 }
