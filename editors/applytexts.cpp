@@ -3,6 +3,7 @@
 #include "editors/applytexts.h"
 
 #include "core/propertyassignments.h"
+#include "host/framework/hostui.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -14,27 +15,33 @@ namespace {
 /// So many edits are named in one message.
 constexpr qsizetype mostNamed = 3;
 
+QString refusedText(const ApplyResult &result)
+{
+    QStringList reasons;
+    for (const CDBPROBLEM &problem : result.problems) {
+        reasons << problem.message();
+    }
+    const QString all = reasons.join(u'\n');
+    const QString text =
+        QCoreApplication::translate("BOMDataView", "Nothing was written, all changes are still pending:") +
+        u'\n' + all;
+    // Most hosts report the reasons themselves, of which the result is the beginning then.
+    const QString reported = result.text.endsWith(u"...") ? result.text.chopped(3) : result.text;
+    return all.startsWith(reported) ? text : result.text + QStringLiteral("\n\n") + text;
+}
+
 } // namespace
 
-QString applyText(const ApplyResult &result)
+void tellApplied(QWidget *parent, const ApplyResult &result)
 {
-    QStringList lines;
-    if (result.problems.isEmpty()) {
-        lines << result.text;
-        if (!result.kept.isEmpty()) {
-            lines << QString() << keptText(result);
-        }
-        return lines.join(u'\n');
+    const QString title = QCoreApplication::translate("BOMDataView", "ADI scripting results");
+    if (!result.problems.isEmpty()) {
+        HostUi::current().warning(parent, title, refusedText(result));
+    } else {
+        HostUi::current().information(
+            parent, title,
+            result.kept.isEmpty() ? result.text : result.text + QStringLiteral("\n\n") + keptText(result));
     }
-    for (const CDBPROBLEM &problem : result.problems) {
-        lines << problem.message();
-    }
-    // Mostly the text is the beginning of the reasons.
-    const bool isToldBelow =
-        lines.join(u'\n').startsWith(result.text.chopped(result.text.endsWith(u"...") ? 3 : 0));
-    lines.prepend(
-        QCoreApplication::translate("BOMDataView", "Nothing was written, all changes are still pending:"));
-    return isToldBelow ? lines.join(u'\n') : result.text + QStringLiteral("\n\n") + lines.join(u'\n');
 }
 
 QString keptText(const ApplyResult &result)

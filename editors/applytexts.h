@@ -4,10 +4,11 @@
 
 #include <QString>
 
+class QWidget;
 struct ApplyResult;
 
-/// What the user is told when pending edits were applied: the result, with all that kept them from being
-/// written, which the result itself cuts.
-[[nodiscard]] QString applyText(const ApplyResult &result);
+/// Tells the user what came of applying pending edits: the result with what stayed pending; when nothing was
+/// written, a warning with all reasons, which the result itself cuts.
+void tellApplied(QWidget *parent, const ApplyResult &result);
 /// Names what stayed pending although the others were written.
 [[nodiscard]] QString keptText(const ApplyResult &result);

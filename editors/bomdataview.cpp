@@ -141,8 +141,8 @@ void BOMDataView::connectEditing()
     connect(m_blocks.get(), &CellBlocks::ended, this, end);
     connect(m_blocks.get(), &CellBlocks::statusMessage, &m_message, &PassingMessage::show);
     connect(m_delegate, &PropValEditDelegate::editingChanged, this, &BOMDataView::fillIfDue);
-    connect(m_delegate, &PropValEditDelegate::refused, this, [this](const QString &text) {
-        m_message.show(tr("The property does not take \"%1\".").arg(text));
+    connect(m_delegate, &PropValEditDelegate::refused, this, [this](const QModelIndex &index) {
+        tellRefusal(m_table->fieldAt(index.row(), index.column()), PropertyRecorder::notTaken());
     });
     connect(m_columnMenu.get(), &ColumnMenu::closed, this, &BOMDataView::fillIfDue);
     connect(m_partMenu.get(), &PartMenu::closed, this, &BOMDataView::fillIfDue);
@@ -330,14 +330,21 @@ void BOMDataView::addPendingAssignment(QTableWidgetItem *editedItem)
     }
     const QString refusal = recorder().record(*item->propertyRow(), item->column(), *text);
     if (!refusal.isEmpty()) {
-        m_message.show(tr("%1, %2: %3; the text stays as it was.")
-                           .arg(item->propertyRow()->referenceText, item->column().heading, refusal));
+        tellRefusal(item, refusal);
         return;
     }
     m_table->refresh(item->propertyRow());
     updateButtons();
     m_message.clear();
     Q_EMIT pendingPropertyAssignments(hasPendingAssignments());
+}
+
+void BOMDataView::tellRefusal(const PropertyItem *item, const QString &reason)
+{
+    if (item) {
+        m_message.show(tr("%1, %2: %3; the text stays as it was.")
+                           .arg(item->propertyRow()->referenceText, item->column().heading, reason));
+    }
 }
 
 void BOMDataView::refreshEdited(const QList<PendingEdit> &before, const QList<PendingEdit> &after)
@@ -384,11 +391,7 @@ void BOMDataView::applyPropertyValues()
     }
     if (!result.text.isEmpty()) {
         const QScopedValueRollback asking(m_isAsking, true);
-        if (result.problems.isEmpty()) {
-            HostUi::current().information(this, tr("ADI scripting results"), applyText(result));
-        } else {
-            HostUi::current().warning(this, tr("ADI scripting results"), applyText(result));
-        }
+        tellApplied(this, result);
     }
     fillIfDue();
     Q_EMIT pendingPropertyAssignments(hasPendingAssignments());

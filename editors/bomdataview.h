@@ -17,6 +17,7 @@ class ColumnMenu;
 class PartMenu;
 class PropValEditDelegate;
 class PropsFindAndReplace;
+class PropertyItem;
 class PropertyRecorder;
 class PartsTable;
 class QDialog;
@@ -79,6 +80,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    /// Says which cell has refused a text, and why.
+    void tellRefusal(const PropertyItem *item, const QString &reason);
     void setIcons();
     [[nodiscard]] PropsFindAndReplace *findAndReplace();
     void connectForm();

@@ -41,7 +41,7 @@ QString PropertyRecorder::problem(const PropertyRow &row, const PropertyColumn &
     }
     const QString wanted = value(column, text);
     if (!m_assignments->accepts(column.property, wanted)) {
-        return tr("the property does not take this text");
+        return notTaken();
     }
     const auto isPlaced = [this](const QString &reference) {
         const Part *part = m_database->part(reference);

@@ -19,6 +19,8 @@ public:
     /// Neither is owned.
     PropertyRecorder(const BOMPartsDatabase *database, PropertyAssignments *assignments);
 
+    /// Why a text is refused that the property's type does not have.
+    [[nodiscard]] static QString notTaken() { return tr("the property does not take this text"); }
     /// Why the parts of a row cannot have that text; empty when they can.
     [[nodiscard]] QString problem(const PropertyRow &row, const PropertyColumn &column,
                                   const QString &text) const;

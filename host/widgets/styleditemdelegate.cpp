@@ -33,14 +33,6 @@ QString textOf(const QWidget *editor)
     return editor->property(editor->metaObject()->userProperty().name()).toString();
 }
 
-/// What stands there, a value or not.
-QString typedText(const QWidget *editor)
-{
-    const auto *line = qobject_cast<const QLineEdit *>(editor);
-    line = line ? line : editor->findChild<QLineEdit *>();
-    return line ? line->text() : textOf(editor);
-}
-
 /// The key of the direction into which a key that ends editing moves; 0 for any other key.
 int directionOf(const QKeyEvent &event)
 {
@@ -263,7 +255,7 @@ void StyledItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model
 {
     const OpenEditor *open = find(editor);
     if (open && isRefused(editor)) {
-        Q_EMIT refused(typedText(editor));
+        Q_EMIT refused(index);
     } else if (!open || open->text != textOf(editor)) {
         QStyledItemDelegate::setModelData(editor, model, index);
     }
@@ -291,7 +283,9 @@ bool StyledItemDelegate::commitAndClose(QWidget *editor)
 {
     if (isRefused(editor)) {
         QApplication::beep();
-        Q_EMIT refused(typedText(editor));
+        if (const OpenEditor *open = find(editor)) {
+            Q_EMIT refused(open->index);
+        }
         return false;
     }
     // Whoever hears of the change may close the editor.

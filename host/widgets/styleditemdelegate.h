@@ -44,9 +44,9 @@ Q_SIGNALS:
     /// Comes from the event loop, when a closed editor has left the view for good: the table may be filled
     /// then.
     void editingChanged(bool isEditing);
-    /// The text of an open editor is refused: it stays open, or its cell stays as it was when it is closed
-    /// all the same, as by a click elsewhere.
-    void refused(const QString &text) const;
+    /// The text of the editor that is open for a cell is refused: it stays open, or the cell stays as it was
+    /// when it is closed all the same, as by a click elsewhere.
+    void refused(const QModelIndex &index) const;
 
 protected:
     /// The editor for the cells of a column: any widget with a user property, best a ValueEditor, whose rule

@@ -967,10 +967,6 @@
         <source>Which rows are shown</source>
         <translation>Welche Zeilen gezeigt werden</translation>
     </message>
-    <message>
-        <source>The property does not take &quot;%1&quot;.</source>
-        <translation>Die Eigenschaft nimmt „%1“ nicht an.</translation>
-    </message>
 </context>
 <context>
     <name>BOMExcelView</name>

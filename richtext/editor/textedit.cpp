@@ -280,13 +280,14 @@ QMimeData *TextEdit::createMimeDataFromSelection() const
 
 void TextEdit::resizeEvent(QResizeEvent *event)
 {
-    // A large document would hold up whoever drags the frame; it follows when they pause.
-    constexpr qint64 unnoticed = 30;
     if (m_isLayingOut) {
+        // By a scroll bar that came or went.
         setLayoutWidth(false);
         QTextEdit::resizeEvent(event);
         return;
     }
+    // A large document would hold up whoever drags the frame; it follows when they pause.
+    constexpr qint64 unnoticed = 30;
     keepTop([&] {
         if (m_layoutTime > unnoticed) {
             m_layoutLater.start();

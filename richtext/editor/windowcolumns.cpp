@@ -95,7 +95,7 @@ void measureColumns(const QTextTable &table, ParagraphRuler &ruler, double zoom,
                     std::vector<ColumnRoom> &columns)
 {
     for (ColumnRoom &room : columns) {
-        room = {0, 0, room.share, 1};
+        room = {.share = room.share};
     }
     for (int row = 0; row < table.rows(); ++row) {
         for (int column = 0; column < table.columns(); ++column) {
@@ -217,9 +217,9 @@ WindowColumns::WindowColumns(QTextDocument &document, const StyleSheet &css)
         const double spacing = format.borderCollapse() ? 0 : format.cellSpacing();
         const double around = (table->columns() + 1) * spacing + format.leftMargin() + format.rightMargin() +
                               2 * (format.border() + format.padding());
-        m_tables.push_back({table, around, {}, {}});
+        m_tables.push_back({.table = table, .around = around});
         for (const double share : shares) {
-            m_tables.back().columns.push_back({0, 0, share, 1});
+            m_tables.back().columns.push_back({.share = share});
         }
     }
     measure(1);

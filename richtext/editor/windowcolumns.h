@@ -24,8 +24,8 @@ struct ColumnRoom
 };
 
 /// The shares that columns get, in percent, of `width` where the paper has `paperWidth`. On less than the
-/// paper a column whose words or lines would be broken, but are not on paper, gets more from those that have
-/// room to spare; words come first.
+/// paper, or in a small size, a column whose words or lines would be broken, but are not on paper, gets more
+/// from those that have room to spare; words come first.
 [[nodiscard]] QList<double> windowShares(const std::vector<ColumnRoom> &columns, double width,
                                          double paperWidth);
 
@@ -50,9 +50,9 @@ private:
         QTextTable *table;
         /// What stands left, right and between the columns.
         double around = 0;
-        std::vector<ColumnRoom> columns;
+        std::vector<ColumnRoom> columns = {};
         /// The words, where nothing is zoomed.
-        std::vector<double> words;
+        std::vector<double> words = {};
     };
 
     void measure(double zoom);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "editors/bomdataview.h"
 
+#include "editors/applytexts.h"
 #include "editors/dataviewfixture.h"
 #include "editors/propsfindandreplace.h"
 #include "host/widgets/blankingdoublespinbox.h"
@@ -112,6 +113,13 @@ TEST_F(DataView, PutsTheOldTextBackWhereOneIsRefused)
     ASSERT_EQ(status.size(), 3);
     EXPECT_EQ(status.first().first().toString(),
               u"C1, F COST: the property does not take this text; the text stays as it was."_s);
+    table->setCurrentItem(cell("C1", "F COST"));
+    table->editItem(table->currentItem());
+    QTest::keyClicks(QApplication::focusWidget(), u"cheap"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(status.last(), status.first());
+    EXPECT_EQ(status.size(), 4);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     cell("R1", "F FIT")->setText(u"0"_s);
     cell("SCR1", "F VALUE")->setText(QString());
     EXPECT_EQ(pending(), "R1 FIT=No, SCR1 VALUE=");
@@ -158,6 +166,19 @@ TEST_F(DataView, WritesWhatIsPendingAndNamesWhatStays)
     EXPECT_EQ(pending(), "R3 CODE=mine");
     EXPECT_TRUE(status.first().first().toString().endsWith(u": R3 CODE"_s));
     EXPECT_TRUE(pendingSpy.last().first().toBool()) << "something is";
+}
+
+TEST_F(DataView, SaysOnceWhyNothingWasWritten)
+{
+    const QString reason =
+        u"the file may not be written, as the folder in which it lies is a read-only one"_s;
+    const CDBPROBLEM problem{{}, {}, u"/d/a.kicad_sch"_s, 0, reason};
+    tellApplied(nullptr, {problem.message().left(80) + u"..."_s, {problem}});
+    tellApplied(nullptr, {u"Host: refused"_s, {problem}});
+    ASSERT_EQ(ui.warnings.size(), 2);
+    EXPECT_EQ(ui.warnings[0].text.count(problem.message().left(80)), 1);
+    EXPECT_TRUE(ui.warnings[0].text.endsWith(reason));
+    EXPECT_EQ(ui.warnings[1].text, u"Host: refused\n\n"_s + ui.warnings[0].text);
 }
 
 TEST_F(DataView, WaitsWithAReloadUntilTheEditorIsClosed)

@@ -107,6 +107,8 @@ TEST_F(ReportLook, FindsWhatALongReportShowsLater)
     EXPECT_EQ(selected(), u"R2999"_s);
     EXPECT_GT(place(), 0);
     EXPECT_TRUE(view.textEdit()->viewport()->rect().contains(view.textEdit()->cursorRect()));
+    QTest::keyClick(view.textEdit(), Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(place(), 0);
 }
 
 TEST_F(ReportLook, IsZoomedInItsPlaceAndWrittenAsEver)
