@@ -265,7 +265,6 @@ TEST_P(RowsInWindow, IsAsWideAsBeforeItWasZoomed)
         [&] { return edit.document()->textWidth() == qRound(1.5 * edit.viewport()->width()); }));
     edit.setZoom(0.5);
     EXPECT_EQ(edit.document()->textWidth(), edit.viewport()->width());
-    EXPECT_EQ(linesOf(u"PIC"_s), 1);
     edit.setZoom(1.1);
     edit.resize(300, 300);
     edit.setZoom(1);
